@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# build.sh [--quiet] PRESET [TARGET...]: configures the preset where that is due and builds the targets,
+# or everything, in build/PRESET. It speaks on stderr only: of failures and, unless quiet, of the
+# progress where there is a terminal to show it on.
+set -euo pipefail
+cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
+
+quiet=
+[[ $1 != --quiet ]] || { quiet=yes && shift; }
+[[ -t 2 ]] || quiet=yes
+preset=$1
+shift
+folder=build/$preset
+mkdir -p "$folder"
+
+# Two starts in the same instant must not build into one folder at the same time.
+exec {lock}>"$folder/.lock"
+flock "$lock"
+
+configure() {
+  cmake --preset "$preset" "$@" </dev/null >/dev/null
+}
+# A folder that was moved or copied with the sources still names the place it comes from.
+if ! grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$folder/CMakeCache.txt"; then
+  configure --fresh
+elif [[ ! $folder/build.ninja -nt CMakePresets.json || build/.packages -nt $folder/build.ninja ]]; then
+  configure
+fi
+
+build() {
+  cmake --build "$folder" -- "$@" </dev/null 2>&1
+}
+if [[ $quiet ]]; then
+  # Even a quiet ninja remarks that there was nothing to do.
+  said=$(build --quiet "$@") || { printf '%s\n' "$said" >&2 && exit 1; }
+else
+  build "$@" >&2
+fi

@@ -1,0 +1,106 @@
+#include "engine/base_tokenizer.h"
+
+#include <array>
+
+#include "engine/token_reader.h"
+
+namespace kav {
+namespace {
+
+struct BaseRules {
+  double radix;
+  std::size_t mostDigits;
+  std::string_view tooLong;
+};
+
+BaseRules RulesOf(BaseMode base) {
+  if (base == BaseMode::Binary) return {2, 32, "Out of range(BIN MODE)"};
+  if (base == BaseMode::Octal) return {8, 11, "Out of range(OCT MODE)"};
+  return {16, 8, "Out of range(HEX MODE)"};
+}
+
+struct WordOperator {
+  std::string_view word;
+  char symbol;
+};
+constexpr std::array kWordOperators{
+    WordOperator{"and", 'a'},  WordOperator{"or", 'o'},  WordOperator{"xor", 'x'},
+    WordOperator{"xnor", 'y'}, WordOperator{"not", 'n'},
+};
+
+/// The symbol of the operator that `word` is.
+std::optional<char> SymbolOf(std::string_view word, BaseMode base) {
+  // In hexadecimal a lower-case "and" reads as the number A and a word "nd", so that the operator
+  // comes in capitals there.
+  if (base == BaseMode::Hexadecimal && word == "AND") return 'a';
+  for (const WordOperator& row : kWordOperators) {
+    if (row.word == word) return row.symbol;
+  }
+  return std::nullopt;
+}
+
+/// The value of a digit, or the radix or more where `c` is none.
+double DigitValue(char c) {
+  constexpr double kNoDigit = 16;
+  if (IsDecimalDigit(c)) return c - '0';
+  return c >= 'a' && c <= 'f' ? c - 'a' + 10 : kNoDigit;
+}
+
+std::optional<CalcError> ReadNumber(TokenReader& reader, const BaseRules& rules,
+                                    TokenArray& tokens) {
+  const auto digits = reader.TakeWhile([&](char c) { return DigitValue(c) < rules.radix; });
+  if (digits.size() > rules.mostDigits) return MakeError(CalcErrorCode::Free, rules.tooLong);
+  double value = 0;
+  for (const char c : digits) value = value * rules.radix + DigitValue(c);
+  tokens.Append(NumberToken(value));
+  return std::nullopt;
+}
+
+std::optional<CalcError> ReadWord(TokenReader& reader, BaseMode base, TokenArray& tokens) {
+  const std::string_view word = reader.TakeWord();
+  if (reader.AtEnd()) return MakeError(CalcErrorCode::Expression);
+  const auto symbol = SymbolOf(word, base);
+  if (!symbol) return MakeError(CalcErrorCode::NotSupported, word);
+  tokens.Append(OperatorToken(*symbol));
+  return std::nullopt;
+}
+
+std::optional<CalcError> ReadToken(TokenReader& reader, BaseMode base, const BaseRules& rules,
+                                   TokenArray& tokens) {
+  const char c = reader.Peek();
+  if (DigitValue(c) < rules.radix) return ReadNumber(reader, rules, tokens);
+  if (IsLetter(c)) return ReadWord(reader, base, tokens);
+  switch (c) {
+    case '(':
+    case ')':
+      tokens.Append(ParenthesisToken(c));
+      break;
+    case '+':
+    case '-':
+    case '*':
+    case '/':
+      tokens.Append(OperatorToken(c));
+      break;
+    case '<':
+    case '>':
+      return ReadShift(reader, tokens);
+    default:
+      return UnsupportedCharacter(reader);
+  }
+  reader.Skip();
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<CalcError> TokenizeInBase(std::string_view text, BaseMode base, TokenArray& tokens) {
+  const BaseRules rules = RulesOf(base);
+  TokenReader reader(text);
+  for (reader.SkipBlanks(); !reader.AtEnd(); reader.SkipBlanks()) {
+    if (tokens.IsFull()) return MakeError(CalcErrorCode::LengthLimit);
+    if (auto error = ReadToken(reader, base, rules, tokens)) return error;
+  }
+  return std::nullopt;
+}
+
+}  // namespace kav

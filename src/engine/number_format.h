@@ -1,0 +1,58 @@
+// How a number becomes the text of a result line, a cell or a label.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "engine/calc_error.h"
+#include "engine/calc_modes.h"
+#include "settings/settings_store.h"
+
+namespace kav {
+
+/// The display types, by the numbers of the settings.
+enum class DisplayType : std::int32_t {
+  FloatingPoint = 0,
+  FixedPoint = 1,
+  ScientificNotation = 2,
+  Thousands = 3,  ///< "Currency-Punctuated at thousands"
+  EngineeringNotation = 4,
+};
+
+/// How numbers are shown. `precision` counts digits after the point where the type prints a fixed
+/// number of them: 0 to kMaxPrecision.
+struct DisplayFormat {
+  static constexpr int kMaxPrecision = 99;
+
+  DisplayType type = DisplayType::Thousands;
+  int precision = 7;
+};
+
+/// The format that stored integers stand for; an unknown type is the default one, a precision out
+/// of range the nearest one in range.
+DisplayFormat DisplayFormatFromSettings(std::int32_t type, std::int32_t precision);
+
+/// The format of the scientific screen's results as the user has set it.
+DisplayFormat LoadDisplayFormat(const SettingsStore& store);
+
+/// `value` as shown in `base`: in an integer base truncated to 32 bits and written in that radix,
+/// upper case; in decimal by `format`. Fails with "Out of range(overflow or underflow)" for
+/// infinities and not-a-number, in every base.
+CalcResult<std::string> FormatNumber(double value, DisplayFormat format,
+                                     BaseMode base = BaseMode::Decimal);
+
+/// `value` as every number that is handed to another dialog or inserted into a line: in display
+/// type "Floating Point" whatever the type of `format`, whose separators would not read back; with
+/// the precision of `format` where it takes the exponent form.
+CalcResult<std::string> FormatForInsertion(double value, DisplayFormat format,
+                                           BaseMode base = BaseMode::Decimal);
+
+/// How many decimals (0 to 13) show `value` without representation noise. `value` is finite and of
+/// a magnitude from 1e-12 to 1e12, or 0.
+int NaturalDecimals(double value);
+
+/// A decimal text with "," between each three digits of its integer part.
+std::string GroupThousands(std::string_view text);
+
+}  // namespace kav

@@ -1,0 +1,281 @@
+#include "engine/reducer.h"
+
+#include <array>
+
+namespace kav {
+namespace {
+
+constexpr int kNone = -1;
+
+/// The sweeps that a symbol takes part in, one bit each; a range without any of them needs no walk.
+using Sweeps = std::uint8_t;
+constexpr Sweeps kBareFunctions = 1U << 0U;
+constexpr Sweeps kComplements = 1U << 1U;
+constexpr Sweeps kSigns = 1U << 2U;
+constexpr Sweeps kFactorials = 1U << 3U;
+constexpr Sweeps kSelections = 1U << 4U;
+constexpr Sweeps kPowers = 1U << 5U;
+constexpr Sweeps kProducts = 1U << 6U;
+constexpr Sweeps kSums = 1U << 7U;
+
+/// What an operator's symbol stands for in a family of bases.
+struct SymbolRow {
+  char symbol;
+  Operation operation;
+  Sweeps sweeps;
+};
+constexpr SymbolRow kDecimalSymbols[] = {
+    {'+', Operation::Add, kSigns | kSums},
+    {'-', Operation::Subtract, kSigns | kSums},
+    {'*', Operation::Multiply, kProducts},
+    {'/', Operation::Divide, kProducts},
+    {'%', Operation::Remainder, kProducts},
+    {'<', Operation::ShiftLeft, kProducts},
+    {'>', Operation::ShiftRight, kProducts},
+    {'^', Operation::Power, kPowers},
+    {'p', Operation::Permutation, kSelections},
+    {'c', Operation::Combination, kSelections},
+    {'!', Operation::Factorial, kFactorials},
+    {'F', Operation::Finish, kBareFunctions},  // its operation depends on the function's code
+};
+constexpr SymbolRow kBaseSymbols[] = {
+    {'+', Operation::Add, kSigns | kSums},  {'-', Operation::Subtract, kSigns | kSums},
+    {'a', Operation::And, kSums},           {'o', Operation::Or, kSums},
+    {'x', Operation::Xor, kSums},           {'y', Operation::Xnor, kSums},
+    {'*', Operation::Multiply, kProducts},  {'/', Operation::Divide, kProducts},
+    {'<', Operation::ShiftLeft, kProducts}, {'>', Operation::ShiftRight, kProducts},
+    {'n', Operation::Not, kComplements},
+};
+
+/// The rows of a family, found by symbol.
+struct SymbolTable {
+  std::array<Operation, 128> operations{};
+  std::array<Sweeps, 128> sweeps{};
+
+  template <std::size_t kRows>
+  explicit constexpr SymbolTable(const SymbolRow (&rows)[kRows]) {
+    for (const SymbolRow& row : rows) {
+      operations[SymbolIndex(row.symbol)] = row.operation;
+      sweeps[SymbolIndex(row.symbol)] = row.sweeps;
+    }
+  }
+};
+constexpr SymbolTable kDecimal(kDecimalSymbols);
+constexpr SymbolTable kInteger(kBaseSymbols);
+
+constexpr Operation kFunctionOperations[] = {
+    Operation::Sin,  Operation::Cos,  Operation::Tan,  Operation::Asin,
+    Operation::Acos, Operation::Atan, Operation::Log,  Operation::Ln,
+    Operation::Exp,  Operation::Sinh, Operation::Cosh, Operation::Tanh,
+    Operation::Sqrt, Operation::Abs,  Operation::Int,  Operation::Frac,
+};
+
+Operation OperationOf(FunctionCode code) {
+  return kFunctionOperations[static_cast<int>(code) - static_cast<int>(FunctionCode::Sin)];
+}
+
+/// Tokens from `first` to `last`, both included; empty where `last` is before `first`.
+struct Range {
+  int first;
+  int last;
+};
+
+class Reduction {
+ public:
+  Reduction(TokenArray& tokens, const SymbolTable& symbols, StepList& steps)
+      : tokens_(tokens), symbols_(symbols), steps_(steps) {}
+
+  void ReduceAll() {
+    for (int i = 0; i < tokens_.Count(); ++i) {
+      if (tokens_[i].symbol == ')' && !ReduceGroup(i)) return;
+    }
+    if (ReduceRange({0, tokens_.Count() - 1})) Finish();
+  }
+
+ private:
+  // Every stage below answers whether reduction goes on; it does not once a step fails.
+
+  bool ReduceGroup(int close) {
+    int open = close;
+    while (open >= 0 && tokens_[open].symbol != '(') --open;
+    // As many are opened as closed, but )+( closes before it opens.
+    if (open < 0) return Fail(Operation::FailExpression);
+    const Range inside{open + 1, close - 1};
+    if (!ReduceRange(inside)) return false;
+    const bool isArgument = open > 0 && tokens_[open - 1].symbol == 'F';
+    if (isArgument && !ApplyFunction(open - 1, inside)) return false;
+    tokens_[open].symbol = 0;
+    tokens_[close].symbol = 0;
+    return true;
+  }
+
+  bool ReduceRange(Range range) {
+    const unsigned sweeps = SweepsIn(range);
+    if (sweeps == 0) return true;
+    return ((sweeps & kBareFunctions) == 0 || SweepBareFunctions(range)) &&
+           ((sweeps & kComplements) == 0 || SweepComplements(range)) &&
+           ReduceTightOperators(range, sweeps) &&
+           ((sweeps & kProducts) == 0 || SweepBinary(range, kProducts)) &&
+           ((sweeps & kSums) == 0 || SweepBinary(range, kSums));
+  }
+
+  /// The levels that bind more tightly than a function whose argument has no parentheses.
+  bool ReduceTightOperators(Range range, unsigned sweeps) {
+    return ((sweeps & kSigns) == 0 || (SweepMinus(range) && SweepPlus(range))) &&
+           ((sweeps & kFactorials) == 0 || SweepFactorials(range)) &&
+           ((sweeps & kSelections) == 0 || SweepBinary(range, kSelections)) &&
+           ((sweeps & kPowers) == 0 || SweepPowers(range));
+  }
+
+  /// Applies the function at `function` to what `range` behind it comes to.
+  bool ApplyFunction(int function, Range range) {
+    if (!ReduceTightOperators(range, SweepsIn(range))) return false;
+    const int argument = NextOperand(range.first, range.last);
+    if (argument == kNone) return Fail(Operation::FailExpression);
+    Write(OperationOf(tokens_[function].functionCode), argument);
+    tokens_[function] = {};
+    return true;
+  }
+
+  /// From right to left, so that the innermost of sin cos 0 is applied first.
+  bool SweepBareFunctions(Range range) {
+    for (int i = range.last; i >= range.first; --i) {
+      if (tokens_[i].symbol == 'F' && !ApplyFunction(i, {i + 1, range.last})) return false;
+    }
+    return true;
+  }
+
+  bool SweepComplements(Range range) {
+    for (int i = range.first; i <= range.last; ++i) {
+      if (tokens_[i].symbol == 'n' && !ApplyPrefix(Operation::Not, i, range)) return false;
+    }
+    return true;
+  }
+
+  /// The whole sweep ends at the first '-' that has an operand before it: signs to the right of it
+  /// stay, and 2-3*-4 fails for want of an operand.
+  bool SweepMinus(Range range) {
+    for (int i = range.first; i <= range.last; ++i) {
+      if (tokens_[i].symbol != '-') continue;
+      if (IsBinarySign(i, range)) break;
+      if (!ApplyPrefix(Operation::Negate, i, range)) return false;
+    }
+    return true;
+  }
+
+  bool SweepPlus(Range range) {
+    for (int i = range.first; i <= range.last; ++i) {
+      if (tokens_[i].symbol != '+') continue;
+      if (IsBinarySign(i, range)) break;
+      tokens_[i].symbol = 0;
+    }
+    return true;
+  }
+
+  bool SweepFactorials(Range range) {
+    for (int i = range.first; i <= range.last; ++i) {
+      if (tokens_[i].symbol != '!') continue;
+      const int operand = PreviousOperand(i, range.first);
+      if (operand == kNone) return Fail(Operation::FailNeedsArgument);
+      Write(Operation::Factorial, operand);
+      tokens_[i].symbol = 0;
+    }
+    return true;
+  }
+
+  bool SweepPowers(Range range) {
+    const int before = steps_.Count();
+    if (!SweepBinary(range, kPowers)) return false;
+    if (steps_.Count() > before) steps_[steps_.Count() - 1].operation = Operation::LastPower;
+    return true;
+  }
+
+  /// One sweep over the operators of a level, which are equal in precedence.
+  bool SweepBinary(Range range, Sweeps level) {
+    for (int i = range.first; i <= range.last; ++i) {
+      const CalcToken& token = tokens_[i];
+      if (token.isNumber != 0 || (SweepsOf(token.symbol) & level) == 0) continue;
+      if (!ApplyBinary(i, range)) return false;
+    }
+    return true;
+  }
+
+  bool ApplyBinary(int at, Range range) {
+    const int left = PreviousOperand(at, range.first);
+    const int right = NextOperand(at, range.last);
+    if (left == kNone || right == kNone) return Fail(Operation::FailExpression);
+    Write(symbols_.operations[SymbolIndex(tokens_[at].symbol)], left, right);
+    tokens_[at].symbol = 0;
+    tokens_[right].isNumber = 0;
+    tokens_[right].symbol = 0;  // A used-up variable must not look like an operator.
+    return true;
+  }
+
+  bool ApplyPrefix(Operation operation, int at, Range range) {
+    const int operand = NextOperand(at, range.last);
+    if (operand == kNone) return Fail(Operation::FailExpression);
+    Write(operation, operand);
+    tokens_[at].symbol = 0;
+    return true;
+  }
+
+  /// Whether the nearest live token before a sign makes it an operator between two operands.
+  bool IsBinarySign(int sign, Range range) const {
+    for (int i = sign - 1; i >= range.first; --i) {
+      if (tokens_[i].isNumber != 0 || tokens_[i].symbol == '!') return true;
+      if (tokens_[i].symbol != 0) return false;
+    }
+    return false;
+  }
+
+  int PreviousOperand(int at, int first) const {
+    while (at >= first && tokens_[at].isNumber == 0) --at;
+    return at >= first ? at : kNone;
+  }
+  int NextOperand(int at, int last) const {
+    while (at <= last && tokens_[at].isNumber == 0) ++at;
+    return at <= last ? at : kNone;
+  }
+
+  Sweeps SweepsOf(char symbol) const { return symbols_.sweeps[SymbolIndex(symbol)]; }
+  unsigned SweepsIn(Range range) const {
+    unsigned sweeps = 0;
+    for (int i = range.first; i <= range.last; ++i) {
+      if (tokens_[i].isNumber == 0) sweeps |= SweepsOf(tokens_[i].symbol);
+    }
+    return sweeps;
+  }
+
+  /// The answer is the one value that is left.
+  void Finish() {
+    const int last = tokens_.Count() - 1;
+    const int answer = NextOperand(0, last);
+    if (answer == kNone || NextOperand(answer + 1, last) != kNone) {
+      Fail(Operation::FailExpression);
+      return;
+    }
+    Write(Operation::Finish, answer);
+  }
+
+  bool Fail(Operation failure) {
+    Write(failure, 0);
+    return false;
+  }
+  void Write(Operation operation, int target) { Write(operation, target, target); }
+  void Write(Operation operation, int target, int right) {
+    steps_.Append({operation, static_cast<std::uint8_t>(target), static_cast<std::uint8_t>(right)});
+  }
+
+  TokenArray& tokens_;
+  const SymbolTable& symbols_;
+  StepList& steps_;
+};
+
+}  // namespace
+
+void Reduce(TokenArray& tokens, BaseMode base, StepList& steps) {
+  steps.Clear();
+  Reduction(tokens, base == BaseMode::Decimal ? kDecimal : kInteger, steps).ReduceAll();
+}
+
+}  // namespace kav

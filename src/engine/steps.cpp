@@ -1,0 +1,262 @@
+#include "engine/steps.h"
+
+#include <cmath>
+#include <string_view>
+
+#include "common/number_text.h"
+#include "engine/functions.h"
+
+namespace kav {
+namespace {
+
+using enum CalcErrorCode;
+
+constexpr Outcome kDone;
+
+bool IsWhole(double x) {
+  return std::trunc(x) == x;
+}
+
+double FractionalPart(double x) {
+  double whole = 0;
+  return std::modf(x, &whole);
+}
+
+// The shapes that operations have. Each is an ApplyFunction; operands have to be finite before
+// anything else is asked of them.
+
+/// A binary operation that all numbers have.
+template <auto kFunction>
+Outcome Fold(double& left, double right, AngleUnit /*unit*/) {
+  if (!std::isfinite(left) || !std::isfinite(right)) return OutOfRange;
+  left = kFunction(left, right);
+  return kDone;
+}
+
+/// The same, with a right operand of 0 refused.
+template <auto kFunction>
+Outcome FoldNonZero(double& left, double right, AngleUnit /*unit*/) {
+  if (!std::isfinite(left) || !std::isfinite(right)) return OutOfRange;
+  if (right == 0) return CalculationLimit;
+  left = kFunction(left, right);
+  return kDone;
+}
+
+/// A binary operation on the bits of 32-bit integers.
+template <auto kFunction>
+Outcome FoldBits(double& left, double right, AngleUnit /*unit*/) {
+  if (!std::isfinite(left) || !std::isfinite(right)) return OutOfRange;
+  left = kFunction(ToInt32(left), ToInt32(right));
+  return kDone;
+}
+
+/// A function that all numbers have.
+template <auto kFunction>
+Outcome Map(double& x, double /*right*/, AngleUnit /*unit*/) {
+  if (!std::isfinite(x)) return OutOfRange;
+  x = kFunction(x);
+  return kDone;
+}
+
+/// A function that positive numbers have.
+template <auto kFunction>
+Outcome MapPositive(double& x, double /*right*/, AngleUnit /*unit*/) {
+  if (!std::isfinite(x)) return OutOfRange;
+  if (!(x > 0)) return CalculationLimit;
+  x = kFunction(x);
+  return kDone;
+}
+
+/// A function of an angle.
+template <auto kFunction>
+Outcome MapAngle(double& x, double /*right*/, AngleUnit unit) {
+  if (!std::isfinite(x)) return OutOfRange;
+  x = kFunction(x, unit);
+  return kDone;
+}
+
+/// The inverse of sine or cosine.
+template <auto kFunction>
+Outcome MapToAngle(double& x, double /*right*/, AngleUnit unit) {
+  if (!std::isfinite(x)) return OutOfRange;
+  if (!(-1 <= x && x <= 1)) return CalculationLimit;
+  x = InAngleUnit(kFunction(x), unit);
+  return kDone;
+}
+
+/// An operation that takes its operands as they come.
+template <auto kFunction>
+Outcome Unchecked(double& left, double right, AngleUnit /*unit*/) {
+  left = kFunction(left, right);
+  return kDone;
+}
+
+/// Arranging or choosing r of n things. Where the factorials overflow, their quotient is not a
+/// number, which is out of range wherever it is used.
+template <auto kCount>
+Outcome Select(double& n, double r, AngleUnit /*unit*/) {
+  if (!(r <= n && n >= 0 && r >= 0)) return CalculationLimit;
+  if (!IsWhole(n) || !IsWhole(r)) return NotInteger;
+  n = kCount(n, r);
+  return kDone;
+}
+
+Outcome ApplyTangent(double& x, double /*right*/, AngleUnit unit) {
+  if (!std::isfinite(x)) return OutOfRange;
+  if (IsTangentPole(x, unit)) return CalculationLimit;
+  x = Tangent(x, unit);
+  return kDone;
+}
+
+Outcome ApplyFactorial(double& n, double /*right*/, AngleUnit /*unit*/) {
+  constexpr double kLimit = 150;
+  if (!(n < kLimit)) return OutOfRange;
+  n = Factorial(n);
+  return n == -1.0 ? Outcome(NotInteger) : kDone;
+}
+
+Outcome ApplyFinish(double& answer, double /*right*/, AngleUnit /*unit*/) {
+  return std::isfinite(answer) ? kDone : Outcome(OutOfRange);
+}
+
+template <auto kCode>
+Outcome Fail(double& /*left*/, double /*right*/, AngleUnit /*unit*/) {
+  return kCode;
+}
+
+/// The errors an operation may end with, one bit a code.
+template <class... Codes>
+constexpr unsigned Raises(Codes... codes) {
+  return (0U | ... | (1U << static_cast<unsigned>(codes)));
+}
+constexpr unsigned kNoError = Raises();
+constexpr unsigned kRange = Raises(OutOfRange);
+constexpr unsigned kRangeOrLimit = Raises(OutOfRange, CalculationLimit);
+constexpr unsigned kRangeOrNotWhole = Raises(OutOfRange, NotInteger);
+constexpr unsigned kLimitOrNotWhole = Raises(CalculationLimit, NotInteger);
+
+/// All facts of an operation. In `form` L stands for the target's slot and R for the right one;
+/// `name` is what messages call it, `shortName` where they speak of a value that is not whole.
+struct OperationRow {
+  Operation operation;
+  std::string_view form;
+  std::string_view name;
+  std::string_view shortName;
+  unsigned raises;
+  ApplyFunction apply;
+};
+
+constexpr OperationRow kOperations[] = {
+    {Operation::Negate, "L * -1", "", "", kNoError,
+     Unchecked<[](double x, double) { return x * -1.0; }>},
+    {Operation::Factorial, "L!", "!", "!", kRangeOrNotWhole, ApplyFactorial},
+    {Operation::Permutation, "L p R", "Permutation", "Permu..", kLimitOrNotWhole,
+     Select<[](double n, double r) { return Factorial(n) / Factorial(n - r); }>},
+    {Operation::Combination, "L c R", "Combination", "Combi..", kLimitOrNotWhole,
+     Select<[](double n, double r) { return Factorial(n) / (Factorial(n - r) * Factorial(r)); }>},
+    {Operation::Power, "L ^ R", "", "", kNoError, Unchecked<Power>},
+    {Operation::LastPower, "L ^ R", "", "", kRange, Fold<Power>},
+    {Operation::Multiply, "L * R", "", "", kRange, Fold<[](double a, double b) { return a * b; }>},
+    {Operation::Divide, "L / R", "Division", "", kRangeOrLimit,
+     FoldNonZero<[](double a, double b) { return a / b; }>},
+    {Operation::Remainder, "L % R", "Remainder", "", kRangeOrLimit,
+     FoldNonZero<[](double a, double b) { return std::fmod(a, b); }>},
+    {Operation::ShiftLeft, "L << R", "", "", kRange, Fold<ShiftLeft>},
+    {Operation::ShiftRight, "L >> R", ">>", "", kRangeOrLimit, FoldNonZero<ShiftRight>},
+    {Operation::Add, "L + R", "", "", kRange, Fold<[](double a, double b) { return a + b; }>},
+    {Operation::Subtract, "L - R", "", "", kRange, Fold<[](double a, double b) { return a - b; }>},
+    {Operation::And, "L and R", "", "", kRange,
+     FoldBits<[](std::int32_t a, std::int32_t b) { return a & b; }>},
+    {Operation::Or, "L or R", "", "", kRange,
+     FoldBits<[](std::int32_t a, std::int32_t b) { return a | b; }>},
+    {Operation::Xor, "L xor R", "", "", kRange,
+     FoldBits<[](std::int32_t a, std::int32_t b) { return a ^ b; }>},
+    {Operation::Xnor, "L xnor R", "", "", kRange,
+     FoldBits<[](std::int32_t a, std::int32_t b) { return ~(a ^ b); }>},
+    {Operation::Not, "not L", "", "", kNoError,
+     Unchecked<[](double x, double) -> double { return ~ToInt32(x); }>},
+    {Operation::Sin, "sin(L)", "sin", "", kRange, MapAngle<Sine>},
+    {Operation::Cos, "cos(L)", "cos", "", kRange, MapAngle<Cosine>},
+    {Operation::Tan, "tan(L)", "tan", "", kRangeOrLimit, ApplyTangent},
+    {Operation::Asin, "asin(L)", "asin", "", kRangeOrLimit,
+     MapToAngle<[](double x) { return std::asin(x); }>},
+    {Operation::Acos, "acos(L)", "acos", "", kRangeOrLimit,
+     MapToAngle<[](double x) { return std::acos(x); }>},
+    {Operation::Atan, "atan(L)", "atan", "", kRange,
+     MapAngle<[](double x, AngleUnit unit) { return InAngleUnit(std::atan(x), unit); }>},
+    {Operation::Log, "log(L)", "log", "", kRangeOrLimit,
+     MapPositive<[](double x) { return std::log10(x); }>},
+    {Operation::Ln, "ln(L)", "ln", "", kRangeOrLimit,
+     MapPositive<[](double x) { return std::log(x); }>},
+    {Operation::Exp, "exp(L)", "exp", "", kRange, Map<[](double x) { return std::exp(x); }>},
+    {Operation::Sinh, "sinh(L)", "sinh", "", kRange, Map<[](double x) { return std::sinh(x); }>},
+    {Operation::Cosh, "cosh(L)", "cosh", "", kRange, Map<[](double x) { return std::cosh(x); }>},
+    {Operation::Tanh, "tanh(L)", "tanh", "", kRange, Map<[](double x) { return std::tanh(x); }>},
+    {Operation::Sqrt, "sqrt(L)", "sqrt", "", kRangeOrLimit,
+     MapPositive<[](double x) { return Power(x, 0.5); }>},
+    {Operation::Abs, "abs(L)", "abs", "", kRange, Map<[](double x) { return std::fabs(x); }>},
+    {Operation::Int, "int(L)", "int", "", kRange, Map<[](double x) { return std::trunc(x); }>},
+    {Operation::Frac, "frac(L)", "frac", "", kRange, Map<FractionalPart>},
+    {Operation::FailExpression, "fail", "", "", Raises(Expression), Fail<Expression>},
+    {Operation::FailNeedsArgument, "fail", "!", "", Raises(NeedsArgument), Fail<NeedsArgument>},
+    {Operation::Finish, "answer L", "", "", kRange, ApplyFinish},
+};
+
+constexpr bool RowsAreInOrder() {
+  std::size_t index = 0;
+  for (const OperationRow& row : kOperations) {
+    if (static_cast<std::size_t>(row.operation) != index++) return false;
+  }
+  return true;
+}
+static_assert(RowsAreInOrder(), "the table is read by the number of the operation");
+
+const OperationRow& RowOf(Operation operation) {
+  return kOperations[static_cast<std::size_t>(operation)];
+}
+
+}  // namespace
+
+CalcError MakeError(StepFailure failure) {
+  const OperationRow& row = RowOf(failure.operation);
+  return MakeError(failure.code, failure.code == NotInteger ? row.shortName : row.name);
+}
+
+ApplyFunction FunctionFor(Operation operation) {
+  return RowOf(operation).apply;
+}
+
+bool MayRaise(Operation operation, CalcErrorCode code) {
+  return (RowOf(operation).raises & Raises(code)) != 0;
+}
+
+Expected<double, StepFailure> RunSteps(const StepList& steps, SlotValues& values, AngleUnit unit) {
+  for (const Step& step : steps) {
+    const Outcome done = RowOf(step.operation).apply(values[step.target], values[step.right], unit);
+    if (!done) return StepFailure{done.Code(), step.operation};
+  }
+  return values[steps.Last().target];
+}
+
+std::string DescribeStep(const Step& step) {
+  const OperationRow& row = RowOf(step.operation);
+  const auto slot = [](std::uint8_t number) { return "#" + PrintInteger(number); };
+  std::string line;
+  if (row.form.find('L') != row.form.npos && step.operation != Operation::Finish) {
+    line = slot(step.target) + " = ";
+  }
+  for (const char c : row.form) {
+    if (c == 'L' || c == 'R') {
+      line += slot(c == 'L' ? step.target : step.right);
+    } else {
+      line += c;
+    }
+  }
+  for (unsigned code = 0; code <= static_cast<unsigned>(Free); ++code) {
+    if ((row.raises & (1U << code)) == 0) continue;
+    line += "; " + MakeError(StepFailure{static_cast<CalcErrorCode>(code), step.operation}).message;
+  }
+  return line;
+}
+
+}  // namespace kav

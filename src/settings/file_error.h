@@ -1,0 +1,21 @@
+// Why a file could not be read or written, as far as the user can do something about it.
+#pragma once
+
+namespace kav {
+
+enum class FileError {
+  NotThere,      ///< nothing has this name
+  BadPath,       ///< what should be a folder on the way there is none, or cannot be made
+  NotAFile,      ///< a folder, a device or the like has this name
+  TooLarge,      ///< more than may be read
+  Busy,          ///< another program keeps it locked
+  NoPermission,  ///< belongs to somebody else
+  ReadOnly,      ///< the whole disk cannot be written
+  Full,          ///< no space, or no more of it for this user
+  Device,        ///< anything else: the disk itself fails
+};
+
+/// The FileError that the number `error`, left in errno by a system call, stands for.
+FileError FileErrorFromErrno(int error);
+
+}  // namespace kav

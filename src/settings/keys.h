@@ -1,0 +1,57 @@
+// Every setting there is, with its default. Spellings are those of users' files and never change.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "settings/setting_key.h"
+
+namespace kav {
+
+using IntegerKey = SettingKey<std::int32_t>;
+using TextKey = SettingKey<std::string_view>;
+
+// The application: the screen to open, and the version that wrote the settings last. No screen
+// stored means a first start.
+inline constexpr std::int32_t kNoModeStored = -100;
+inline constexpr IntegerKey kMode{"Config", "Mode", kNoModeStored};
+inline constexpr TextKey kVersion{"Config", "Version", ""};
+
+// How numbers are read and shown.
+inline constexpr IntegerKey kAngleType{"Config", "Angle Type", 1};
+inline constexpr IntegerKey kBaseType{"Config", "Base Type", 1};
+inline constexpr IntegerKey kDisplayType{"Config", "Display Type", 3};
+inline constexpr IntegerKey kPrecision{"Config", "Precision", 7};
+
+// The scientific screen's history: a count, then entries numbered from 1, the newest last.
+inline constexpr IntegerKey kCalHistoryCount{"History", "CalHistoryCount", 0};
+inline NumberedKey CalHistoryEntry(int number) {
+  return {"History", "CalHistory" + std::to_string(number), ""};
+}
+
+// The unit converter's choices: positions in its lists, -1 for none.
+inline constexpr IntegerKey kConverterClass{"Convert", "ClassPos", -1};
+inline constexpr IntegerKey kConverterInput{"Convert", "InputTypePos", -1};
+inline constexpr IntegerKey kConverterOutput{"Convert", "OutputTypePos", -1};
+
+// Macros: a count, then a section each, numbered from 0.
+inline constexpr IntegerKey kMacroCount{"MacroInfo", "TotalNumber", 0};
+inline std::string MacroSection(int index) {
+  return "Macro" + std::to_string(index);
+}
+inline NumberedKey MacroName(int index) {
+  return {MacroSection(index), "Name", ""};
+}
+inline NumberedKey MacroType(int index) {
+  return {MacroSection(index), "Type", ""};
+}
+inline NumberedKey MacroFormula(int index) {
+  return {MacroSection(index), "Formula", ""};
+}
+
+// The window's place and size on the desktop ("x y width height", with " maximized" behind it where
+// the window was), shared by all screens.
+inline constexpr TextKey kWindowGeometry{"Config", "Window Geometry", ""};
+
+}  // namespace kav

@@ -1,0 +1,57 @@
+// Where everything that outlives a run is kept: sections of named integers and texts.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "settings/setting_key.h"
+
+namespace kav {
+
+/// A setting as it is stored: a signed 32-bit integer or a UTF-8 text.
+using StoredSetting = std::variant<std::int32_t, std::string>;
+
+/// The user's settings as every model sees them. Reads and writes are in memory and never fail; it
+/// is the owner of the store who saves it to disk, or does not.
+class SettingsStore {
+ public:
+  SettingsStore() = default;
+  SettingsStore(const SettingsStore&) = delete;
+  SettingsStore& operator=(const SettingsStore&) = delete;
+  virtual ~SettingsStore() = default;
+
+  /// The stored integer; the key's default where nothing or no integer is stored.
+  std::int32_t Get(const SettingKey<std::int32_t>& key) const;
+  /// The stored text; the key's default where nothing or no text is stored.
+  std::string Get(const SettingKey<std::string_view>& key) const;
+  std::string Get(const NumberedKey& key) const;
+
+  void Set(const SettingKey<std::int32_t>& key, std::int32_t value);
+  void Set(const SettingKey<std::string_view>& key, std::string_view value);
+  void Set(const NumberedKey& key, std::string_view value);
+
+ private:
+  virtual std::optional<StoredSetting> Read(std::string_view section,
+                                            std::string_view name) const = 0;
+  virtual void Write(std::string_view section, std::string_view name, StoredSetting value) = 0;
+};
+
+/// Settings that live as long as the object: for tests, and for a run without a place to keep them.
+class MemorySettingsStore final : public SettingsStore {
+ public:
+  /// Whether anything is stored at the address.
+  bool Holds(std::string_view section, std::string_view name) const;
+
+ private:
+  std::optional<StoredSetting> Read(std::string_view section, std::string_view name) const override;
+  void Write(std::string_view section, std::string_view name, StoredSetting value) override;
+
+  std::map<std::pair<std::string, std::string>, StoredSetting> settings_;
+};
+
+}  // namespace kav

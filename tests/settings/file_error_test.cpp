@@ -1,0 +1,27 @@
+#include "settings/file_error.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace kav {
+namespace {
+
+TEST(FileError, EachCauseThatTheUserCanActOnIsToldApart) {
+  const struct {
+    int number;
+    FileError error;
+  } rows[] = {
+      {ENOENT, FileError::NotThere},     {ENOTDIR, FileError::BadPath},
+      {ELOOP, FileError::BadPath},       {ENAMETOOLONG, FileError::BadPath},
+      {EISDIR, FileError::NotAFile},     {ENXIO, FileError::NotAFile},
+      {EACCES, FileError::NoPermission}, {EPERM, FileError::NoPermission},
+      {EROFS, FileError::ReadOnly},      {ENOSPC, FileError::Full},
+      {EDQUOT, FileError::Full},         {EFBIG, FileError::Full},
+      {EIO, FileError::Device},          {ENOLCK, FileError::Device},
+  };
+  for (const auto& row : rows) EXPECT_EQ(FileErrorFromErrno(row.number), row.error) << row.number;
+}
+
+}  // namespace
+}  // namespace kav

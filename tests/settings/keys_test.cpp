@@ -1,0 +1,88 @@
+// Every key and default, spelled out: files of users depend on them.
+#include "settings/keys.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kav {
+namespace {
+
+struct IntegerRow {
+  IntegerKey key;
+  const char* section;
+  const char* name;
+  std::int32_t fallback;
+};
+
+const std::vector<IntegerRow> kIntegers{
+    {kMode, "Config", "Mode", -100},
+    {kAngleType, "Config", "Angle Type", 1},
+    {kBaseType, "Config", "Base Type", 1},
+    {kDisplayType, "Config", "Display Type", 3},
+    {kPrecision, "Config", "Precision", 7},
+    {kCalHistoryCount, "History", "CalHistoryCount", 0},
+    {kConverterClass, "Convert", "ClassPos", -1},
+    {kConverterInput, "Convert", "InputTypePos", -1},
+    {kConverterOutput, "Convert", "OutputTypePos", -1},
+    {kMacroCount, "MacroInfo", "TotalNumber", 0},
+};
+
+struct TextRow {
+  NumberedKey key;
+  const char* section;
+  const char* name;
+  const char* fallback;
+};
+
+NumberedKey Spelled(const TextKey& key) {
+  return {std::string(key.section), std::string(key.name), key.fallback};
+}
+
+const std::vector<TextRow> kTexts{
+    {Spelled(kVersion), "Config", "Version", ""},
+    {Spelled(kWindowGeometry), "Config", "Window Geometry", ""},
+    {CalHistoryEntry(1), "History", "CalHistory1", ""},
+    {CalHistoryEntry(9), "History", "CalHistory9", ""},
+    {CalHistoryEntry(10), "History", "CalHistory10", ""},
+    {CalHistoryEntry(20), "History", "CalHistory20", ""},
+    {MacroName(0), "Macro0", "Name", ""},
+    {MacroType(0), "Macro0", "Type", ""},
+    {MacroFormula(0), "Macro0", "Formula", ""},
+    {MacroName(59), "Macro59", "Name", ""},
+    {MacroType(59), "Macro59", "Type", ""},
+    {MacroFormula(59), "Macro59", "Formula", ""},
+};
+
+TEST(Keys, IntegersAreSpelledAndDefaultedAsUsersFilesHaveThem) {
+  for (const auto& row : kIntegers) {
+    EXPECT_EQ(row.key.section, row.section) << row.name;
+    EXPECT_EQ(row.key.name, row.name);
+    EXPECT_EQ(row.key.fallback, row.fallback) << row.name;
+  }
+}
+
+TEST(Keys, TextsAreSpelledAndDefaultedAsUsersFilesHaveThem) {
+  for (const auto& row : kTexts) {
+    EXPECT_EQ(row.key.section, row.section) << row.name;
+    EXPECT_EQ(row.key.name, row.name);
+    EXPECT_EQ(row.key.fallback, row.fallback) << row.name;
+  }
+}
+
+TEST(Keys, NoTwoShareAnAddress) {
+  std::set<std::pair<std::string, std::string>> addresses;
+  for (const auto& row : kIntegers) {
+    EXPECT_TRUE(addresses.emplace(row.key.section, row.key.name).second) << row.name;
+  }
+  for (const auto& row : kTexts) {
+    EXPECT_TRUE(addresses.emplace(row.key.section, row.key.name).second) << row.name;
+  }
+}
+
+}  // namespace
+}  // namespace kav

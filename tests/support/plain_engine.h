@@ -1,0 +1,23 @@
+// The engine a second time, as plainly as its rules read: values are reduced where they stand, one
+// sweep after another. Slow and easy to compare with the rules; what tests hold the engine against.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "engine/calc_modes.h"
+#include "support/plain_tokens.h"
+
+namespace kav::test {
+
+/// `message` is empty where there is a value.
+struct PlainAnswer {
+  double value = 0;
+  std::string message;
+};
+
+/// What `text`, with its case folded already, comes to; with `variables` it may use x, y and z.
+PlainAnswer PlainEvaluate(std::string_view text, CalcModes modes,
+                          const PlainVariables* variables = nullptr);
+
+}  // namespace kav::test
