@@ -1,0 +1,25 @@
+// What "=" does to a line of numbers.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "common/expected.h"
+#include "engine/calc_modes.h"
+#include "macros/macro_store.h"
+
+namespace kav {
+
+/// Why a line has no value. `message` is what the result line shows.
+struct LineFailure {
+  enum class Cause { EmptyLine, MacroCall, Evaluation };
+  Cause cause;
+  std::string message;
+};
+
+/// The value, always finite, of `line` (UTF-8, as typed): blanks around it taken off, macro calls
+/// expanded, case folded, evaluated in `modes`.
+Expected<double, LineFailure> EvaluateLine(std::string_view line, CalcModes modes,
+                                           const MacroStore& macros);
+
+}  // namespace kav

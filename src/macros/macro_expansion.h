@@ -1,0 +1,30 @@
+// Macro calls in a line, written "M:name(arguments)", replaced by their values.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "common/expected.h"
+#include "engine/calc_modes.h"
+#include "macros/macro_store.h"
+
+namespace kav {
+
+/// Whether a macro call begins anywhere in `line`.
+bool HoldsMacroCall(std::string_view line);
+
+/// A line whose macro calls are replaced by their values in six decimals. Where the whole line was
+/// one call, `wholeValue` is that call's value with all its digits.
+struct ExpandedLine {
+  std::string text;
+  std::optional<double> wholeValue;
+};
+
+/// Expands every call in `line` (trimmed, as typed), from the left. Arguments are evaluated in
+/// `modes`, formulas in decimal with the angle unit of `modes`. Fails with the message of the first
+/// call that is misplaced, names no macro, has the wrong arguments or does not evaluate.
+Expected<ExpandedLine, std::string> ExpandMacros(std::string_view line, CalcModes modes,
+                                                 const MacroStore& macros);
+
+}  // namespace kav

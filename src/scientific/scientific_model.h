@@ -1,0 +1,101 @@
+// The scientific screen without its pixels: line, keys, bases, memory, history and evaluation.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "engine/calc_modes.h"
+#include "engine/number_format.h"
+#include "macros/line_evaluator.h"
+#include "scientific/expression_line.h"
+#include "scientific/history.h"
+#include "scientific/key_request.h"
+#include "scientific/key_state.h"
+#include "scientific/keypad.h"
+#include "scientific/screen_menus.h"
+#include "settings/settings_store.h"
+
+namespace kav {
+
+/// Holds the whole state of the screen. The store must outlive it.
+class ScientificModel {
+ public:
+  /// Loads the settings and the history.
+  explicit ScientificModel(SettingsStore& store);
+
+  /// Writes what the screen leaves behind into the store.
+  void Save() const;
+
+  // The two lines.
+  const ExpressionLine& Line() const { return line_; }
+  void SetLine(std::u16string text, Selection selection);
+  const std::u16string& ResultText() const { return resultText_; }
+  /// Whether the result line shows LastAnswer(), not the message of a failure.
+  bool ShowsAnswer() const { return showsAnswer_; }
+
+  // The keys as they are now.
+  std::u16string_view Caption(Key key) const;
+  bool IsEnabled(Key key) const;
+  bool IsVisible(Key key) const;
+  /// Presses `key`; a disabled or hidden one does nothing.
+  KeyRequest Press(Key key);
+  /// The visible key that shows `caption`, nullopt where none does.
+  std::optional<Key> KeyShowing(std::u16string_view caption) const;
+
+  // The pop-up menus. Choosing an id that the menu does not offer does nothing.
+  Menu HistoryMenu() const;
+  void ChooseHistory(int id);
+  Menu BaseMenu() const;
+  void ChooseBase(int id);
+  Menu MemoryMenu() const;
+  KeyRequest ChooseMemory(int id);
+
+  // What dialogs bring back.
+  void TakeConverter(const ConverterOutcome& outcome);
+  /// Writes the call of macro `index` around the selection.
+  void TakeMacro(int index);
+  /// Inserts the text of a recalled memory variable.
+  void TakeVariable(std::u16string_view value);
+  /// Inserts the text of a constant.
+  void TakeConstant(std::u16string_view value);
+  /// Reads the display settings anew after their dialog changed them.
+  void TakeDisplaySettings();
+
+  AngleUnit Angle() const { return modes_.angleUnit; }
+  BaseMode Base() const { return modes_.baseMode; }
+  ShiftState Shift() const { return shift_; }
+  double LastAnswer() const { return lastAnswer_; }
+  double Memory() const { return memory_; }
+  const History& PastLines() const { return history_; }
+  /// The message of the last "="; empty where it had an answer, and before the first.
+  const std::u16string& ErrorText() const { return errorText_; }
+  /// The line as the last "=" or the last CLR found it.
+  const std::u16string& Expression() const { return expression_; }
+
+ private:
+  void Change(Key key);
+  void Evaluate();
+  void Answer(double value);
+  void Fail(const LineFailure& failure);
+  void ShowAnswer();
+  void Insert(double value);
+  KeyRequest MacroRequest() const;
+  KeyRequest ConverterRequest() const;
+
+  SettingsStore& store_;
+  CalcModes modes_;
+  DisplayFormat format_;
+  ConverterPositions positions_;
+  History history_;
+  ExpressionLine line_;
+  ShiftState shift_ = ShiftState::Off;
+  std::u16string expression_;
+  std::u16string errorText_;
+  std::u16string resultText_;
+  bool showsAnswer_ = true;
+  double lastAnswer_ = 0;
+  double memory_ = 0;
+};
+
+}  // namespace kav

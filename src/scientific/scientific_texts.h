@@ -1,0 +1,35 @@
+// What the user reads on the scientific screen beside the captions that never change.
+#pragma once
+
+#include <string_view>
+
+namespace kav {
+
+inline constexpr std::u16string_view kMemoryAdd = u"Memory +";
+inline constexpr std::u16string_view kMemorySubtract = u"Memory -";
+inline constexpr std::u16string_view kMemoryRecall = u"Memory Recall";
+inline constexpr std::u16string_view kMemoryClear = u"Memory Clear";
+inline constexpr std::u16string_view kRecallVariable = u"ReCall MemVar";
+inline constexpr std::u16string_view kStoreVariable = u"Store MemVar";
+inline constexpr std::u16string_view kConstants = u"Constants";
+
+// The captions of the angle key and of the base key.
+inline constexpr std::u16string_view kDegreesCaption = u"DEG";
+inline constexpr std::u16string_view kRadiansCaption = u"RAD";
+inline constexpr std::u16string_view kDecimalCaption = u"DEC";
+inline constexpr std::u16string_view kHexadecimalCaption = u"HEX";
+inline constexpr std::u16string_view kBinaryCaption = u"BIN";
+inline constexpr std::u16string_view kOctalCaption = u"OCT";
+
+inline constexpr std::u16string_view kBinary = u"Binary";
+inline constexpr std::u16string_view kOctal = u"Octal";
+inline constexpr std::u16string_view kDecimal = u"Decimal";
+inline constexpr std::u16string_view kHexadecimal = u"Hexadecimal";
+
+inline constexpr std::u16string_view kNoExpression = u"There is no expression.";
+
+inline constexpr std::u16string_view kExpressionName = u"Expression";
+inline constexpr std::u16string_view kResultName = u"Result";
+inline constexpr std::u16string_view kShiftIsOn = u"on";
+
+}  // namespace kav

@@ -1,0 +1,334 @@
+#include "scientific/scientific_model.h"
+
+#include <gtest/gtest.h>
+
+#include "support/scientific_screen.h"
+#include "support/stored_macros.h"
+
+namespace kav {
+namespace {
+
+using test::kBinaryItem;
+using test::kDecimalItem;
+using test::kHexadecimalItem;
+using test::kOctalItem;
+using test::Press;
+using test::Screen;
+using test::Texts;
+
+// History.
+
+TEST_F(Screen, EqualsTwiceOnTheSameLineAddsItOnce) {
+  Evaluate(u"1+1");
+  Press(*model_, u"= = =");
+  EXPECT_EQ(History(), (Texts{u"=[D]2", u"1+1"}));
+}
+
+TEST_F(Screen, FailedLinesAreRememberedWithoutAnAnswer) {
+  Evaluate(u"1/0");
+  Press(*model_, u"=");
+  EXPECT_EQ(History(), (Texts{u"1/0"}));
+}
+
+TEST_F(Screen, FailedMacroCallsAndEmptyLinesAreNotRemembered) {
+  Evaluate(u"M:G(3)");
+  Evaluate(u"2M:G(3)");
+  Evaluate(u"  ");
+  EXPECT_TRUE(History().empty());
+  EXPECT_FALSE(model_->IsEnabled(Key::PlayBack));
+}
+
+TEST_F(Screen, HistoryKeepsBlanksAndComparesThem) {
+  Evaluate(u" 1+1");
+  Evaluate(u"1+1");
+  EXPECT_EQ(History(), (Texts{u"=[D]2", u" 1+1", u"=[D]2", u"1+1"}));
+}
+
+TEST_F(Screen, LineThatFailedAndThenAnswersIsNotAddedAgain) {
+  Evaluate(u"FF");
+  EXPECT_EQ(Result(), u"ff is not supported.");
+  model_->ChooseBase(kHexadecimalItem);
+  Press(*model_, u"=");
+  EXPECT_EQ(Result(), u"FF");
+  EXPECT_EQ(History(), (Texts{u"FF"}));
+}
+
+TEST_F(Screen, HistoryHoldsTwentyEntries) {
+  for (const char16_t digit : std::u16string(u"0123456789A")) {
+    Evaluate(std::u16string(u"1+") + digit);
+  }
+  EXPECT_EQ(History().size(), 20U);
+  // "A" failed and so brought one entry only: the oldest answer made room for it.
+  EXPECT_EQ(History().front(), u"1+0");
+  EXPECT_EQ(History().back(), u"1+A");
+}
+
+TEST_F(Screen, AnswersCarryTheBaseTheyWereShownIn) {
+  model_->ChooseBase(kHexadecimalItem);
+  Evaluate(u"F0+F");
+  model_->ChooseBase(kBinaryItem);
+  Evaluate(u"101");
+  model_->ChooseBase(kOctalItem);
+  Evaluate(u"7+1");
+  EXPECT_EQ(History(), (Texts{u"=[H]FF", u"F0+F", u"=[B]101", u"101", u"=[O]10", u"7+1"}));
+}
+
+TEST_F(Screen, ChosenEntriesReplaceTheSelection) {
+  Evaluate(u"1234*2");
+  ASSERT_EQ(model_->HistoryMenu(), (Menu{{2, u"1234*2"}, {1, u"=[D]2,468"}}));
+  model_->ChooseHistory(1);
+  EXPECT_EQ(MarkedNow(), u"2468|");
+  Press(*model_, u"+");
+  model_->ChooseHistory(2);
+  EXPECT_EQ(MarkedNow(), u"2468+1234*2|");
+}
+
+TEST_F(Screen, LongEntriesAreInsertedWhole) {
+  Evaluate(u"1+2+3+4+5+6+7+8+9+10+11");
+  EXPECT_EQ(model_->HistoryMenu()[0].text, u"1+2+3+4+5+6+7+8+9...");
+  SetMarked(u"|");
+  model_->ChooseHistory(2);
+  EXPECT_EQ(MarkedNow(), u"1+2+3+4+5+6+7+8+9+10+11|");
+}
+
+TEST_F(Screen, CancelledHistoryMenuLeavesTheLine) {
+  Evaluate(u"1+1");
+  for (const int id : {0, -1, 3, 21, 2147483647}) {
+    model_->ChooseHistory(id);
+    EXPECT_EQ(MarkedNow(), u"[1+1]") << id;
+  }
+}
+
+// Memory.
+
+TEST_F(Screen, MemoryAddsSubtractsRecallsAndClears) {
+  Evaluate(u"5");
+  model_->ChooseMemory(9);
+  model_->ChooseMemory(9);
+  EXPECT_EQ(model_->Memory(), 10);
+  Evaluate(u"3");
+  model_->ChooseMemory(8);
+  EXPECT_EQ(model_->Memory(), 7);
+  SetMarked(u"2*|");
+  model_->ChooseMemory(7);
+  EXPECT_EQ(MarkedNow(), u"2*7|");
+  model_->ChooseMemory(6);
+  EXPECT_EQ(model_->Memory(), 0);
+}
+
+TEST_F(Screen, MemoryIsRecalledWithoutSeparatorsAndInTheBase) {
+  Evaluate(u"1234567.5");
+  EXPECT_EQ(Result(), u"1,234,567.5");
+  model_->ChooseMemory(9);
+  model_->ChooseMemory(7);
+  EXPECT_EQ(MarkedNow(), u"1234567.5|");
+  model_->ChooseBase(kHexadecimalItem);
+  SetMarked(u"|");
+  model_->ChooseMemory(7);
+  EXPECT_EQ(MarkedNow(), u"12D687|");
+}
+
+TEST_F(Screen, MemoryIsNotKeptBetweenRuns) {
+  Evaluate(u"5");
+  model_->ChooseMemory(9);
+  model_->Save();
+  Open();
+  EXPECT_EQ(model_->Memory(), 0);
+  EXPECT_EQ(model_->LastAnswer(), 0);
+  EXPECT_EQ(Result(), u"0");
+}
+
+TEST_F(Screen, MemoryThatOverflowedIsRecalledAsTheMessage) {
+  Evaluate(u"1e308");
+  for (int i = 0; i < 2; ++i) model_->ChooseMemory(9);
+  SetMarked(u"|");
+  model_->ChooseMemory(7);
+  EXPECT_EQ(MarkedNow(), u"Out of range(overflow or underflow)|");
+}
+
+TEST_F(Screen, MemoryMenuOffersNothingOfTheAnswerAfterAFailure) {
+  EXPECT_EQ(model_->MemoryMenu().size(), 9U);
+  Evaluate(u"5");
+  model_->ChooseMemory(9);
+  for (const std::u16string_view failing : {u"1/0", u"", u"M:G(1)"}) {
+    Evaluate(failing);
+    EXPECT_EQ(model_->MemoryMenu().size(), 6U);
+    for (const int id : {9, 8, 3}) {
+      EXPECT_TRUE(std::holds_alternative<Nothing>(model_->ChooseMemory(id))) << id;
+    }
+    EXPECT_EQ(model_->Memory(), 5);
+  }
+  Evaluate(u"1");
+  EXPECT_EQ(model_->MemoryMenu().size(), 9U);
+}
+
+TEST_F(Screen, ItemsTheMemoryMenuDoesNotHaveDoNothing) {
+  Evaluate(u"5");
+  for (const int id : {0, -1, 2, 5, 10}) {
+    EXPECT_TRUE(std::holds_alternative<Nothing>(model_->ChooseMemory(id))) << id;
+  }
+  EXPECT_EQ(MarkedNow(), u"[5]");
+  EXPECT_EQ(model_->Memory(), 0);
+}
+
+std::u16string StoredValue(const KeyRequest& request) {
+  const auto* store = std::get_if<StoreMemoryVariable>(&request);
+  return store != nullptr ? store->value : u"no StoreMemoryVariable";
+}
+
+TEST_F(Screen, AnswerIsStoredInDecimalWithoutSeparators) {
+  Evaluate(u"1234567.5");
+  EXPECT_EQ(StoredValue(model_->ChooseMemory(3)), u"1234567.5");
+  model_->ChooseBase(kHexadecimalItem);
+  EXPECT_EQ(StoredValue(model_->ChooseMemory(3)), u"1234567.5");
+  EXPECT_EQ(Result(), u"12D687");
+}
+
+TEST_F(Screen, RecallAndConstantsAreAskedForAlsoAfterAFailure) {
+  for (const std::u16string_view line : {u"1", u"1/0"}) {
+    Evaluate(line);
+    EXPECT_TRUE(std::holds_alternative<RecallMemoryVariable>(model_->ChooseMemory(4)));
+    EXPECT_TRUE(std::holds_alternative<OpenConstants>(model_->ChooseMemory(1)));
+  }
+}
+
+TEST_F(Screen, RecalledVariableIsWrittenInTheBase) {
+  SetMarked(u"1+[2]");
+  model_->TakeVariable(u"2.500");
+  EXPECT_EQ(MarkedNow(), u"1+2.5|");
+  model_->TakeVariable(u"not a number");
+  EXPECT_EQ(MarkedNow(), u"1+2.50|");
+  model_->ChooseBase(kHexadecimalItem);
+  SetMarked(u"|");
+  model_->TakeVariable(u"255.9");
+  EXPECT_EQ(MarkedNow(), u"FF|");
+}
+
+TEST_F(Screen, ConstantIsInsertedAsItStandsInDecimalOnly) {
+  SetMarked(u"2*|");
+  model_->TakeConstant(u"6.02E23 ");
+  EXPECT_EQ(MarkedNow(), u"2*6.02E23 |");
+  model_->ChooseBase(kOctalItem);
+  SetMarked(u"|");
+  model_->TakeConstant(u"9.81");
+  EXPECT_EQ(MarkedNow(), u"11|");
+}
+
+TEST_F(Screen, ResultLineTellsAnAnswerFromAMessage) {
+  EXPECT_TRUE(model_->ShowsAnswer());
+  for (const std::u16string_view failing : {u"1/0", u"", u"M:G(1)"}) {
+    Evaluate(failing);
+    EXPECT_FALSE(model_->ShowsAnswer());
+    model_->ChooseBase(kDecimalItem);
+    EXPECT_FALSE(model_->ShowsAnswer());
+    Evaluate(u"1");
+    EXPECT_TRUE(model_->ShowsAnswer());
+  }
+  Evaluate(u"1/0");
+  model_->ChooseBase(kHexadecimalItem);
+  EXPECT_TRUE(model_->ShowsAnswer());
+}
+
+// Macros.
+
+TEST_F(Screen, MacroKeyWithoutMacrosTellsSoAndOpensTheEditor) {
+  const KeyRequest request = Press(*model_, u"Mac");
+  const auto* editor = std::get_if<OpenMacroEditor>(&request);
+  ASSERT_NE(editor, nullptr);
+  EXPECT_EQ(editor->message, u"Not exist saved macro");
+}
+
+TEST_F(Screen, MacroKeyWithMacrosOpensTheList) {
+  test::StoreMacros(store_, {{"F1", "TYPE1 : F(X)", "x"}});
+  EXPECT_TRUE(std::holds_alternative<OpenMacroList>(Press(*model_, u"Mac")));
+}
+
+TEST_F(Screen, ChosenMacroIsWrittenWithPlacesForItsArguments) {
+  test::StoreMacros(store_, {{"F1", "TYPE1 : F(X)", "x"},
+                             {"sum", "TYPE2 : F(X,Y)", "x+y"},
+                             {"vol", "TYPE3 : F(X,Y,Z)", "x*y*z"},
+                             {"other", "anything", "x*y*z"}});
+  struct Row {
+    int index;
+    std::u16string_view bare;
+    std::u16string_view selected;
+  };
+  const Row rows[] = {
+      {0, u"1+M:F1(| )", u"1+M:F1(2 )|"},
+      {1, u"1+M:sum(| , )", u"1+M:sum(2 , )|"},
+      {2, u"1+M:vol(| , , )", u"1+M:vol(2 , , )|"},
+      {3, u"1+M:other(| , , )", u"1+M:other(2 , , )|"},
+      {4, u"1+|", u"1+[2]"},
+      {-1, u"1+|", u"1+[2]"},
+  };
+  for (const Row& row : rows) {
+    SetMarked(u"1+|");
+    model_->TakeMacro(row.index);
+    EXPECT_EQ(MarkedNow(), row.bare);
+    SetMarked(u"1+[2]");
+    model_->TakeMacro(row.index);
+    EXPECT_EQ(MarkedNow(), row.selected);
+  }
+}
+
+// The unit converter.
+
+ConverterInput InputOf(const KeyRequest& request) {
+  const auto* open = std::get_if<OpenConverter>(&request);
+  return open != nullptr ? open->input : ConverterInput{u"no OpenConverter", {}, 0};
+}
+
+TEST_F(Screen, ConverterTakesTheAnswerWithoutSeparators) {
+  struct Row {
+    std::int32_t type;
+    std::u16string_view value;
+  };
+  for (const Row& row : {Row{0, u"12345.678"}, Row{1, u"12345.678"}, Row{2, u"1.235e+04"},
+                         Row{3, u"12345.678"}, Row{4, u"12.346E+003"}, Row{9, u"12345.678"}}) {
+    Set("Config", "Display Type", row.type);
+    Set("Config", "Precision", 3);
+    Open();
+    Evaluate(u"12345.678");
+    EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).value, row.value) << row.type;
+  }
+}
+
+TEST_F(Screen, ConverterTakesOneWhereThereIsNoAnswer) {
+  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).value, u"1");
+  Evaluate(u"5-5");
+  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).value, u"1");
+  Evaluate(u"-0.0");
+  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).value, u"1");
+  Evaluate(u"1/0");
+  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).value, u"1");
+  Evaluate(u"5");
+  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).value, u"5");
+}
+
+TEST_F(Screen, ConverterOpensWithTheStoredPositionsAndTheMemory) {
+  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).positions, (ConverterPositions{-1, -1, -1}));
+  Set("Convert", "ClassPos", 6);
+  Set("Convert", "InputTypePos", 2);
+  Set("Convert", "OutputTypePos", 14);
+  Open();
+  Evaluate(u"5");
+  model_->ChooseMemory(9);
+  const ConverterInput input = InputOf(Press(*model_, u"Cnv"));
+  EXPECT_EQ(input.positions, (ConverterPositions{6, 2, 14}));
+  EXPECT_EQ(input.memory, 5);
+}
+
+TEST_F(Screen, ConverterResultIsInsertedAndItsStateTakenBackEitherWay) {
+  SetMarked(u"2*[3]");
+  model_->TakeConverter({u"39.37", {6, 1, 2}, 8});
+  EXPECT_EQ(MarkedNow(), u"2*39.37|");
+  EXPECT_EQ(model_->Memory(), 8);
+  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).positions, (ConverterPositions{6, 1, 2}));
+  model_->TakeConverter({std::nullopt, {7, 3, 4}, 9});
+  EXPECT_EQ(MarkedNow(), u"2*39.37|");
+  EXPECT_EQ(model_->Memory(), 9);
+  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).positions, (ConverterPositions{7, 3, 4}));
+}
+
+}  // namespace
+}  // namespace kav
