@@ -1,0 +1,71 @@
+#include "cli/cli_texts.h"
+
+#include "common/number_text.h"
+
+namespace kav {
+namespace {
+
+/// The longest start of `text` that ends between two characters and fits.
+std::string_view StartOf(std::string_view text, std::size_t longest) {
+  std::size_t length = 0;
+  while (length < text.size()) {
+    const std::size_t next = length + Utf8Length(text.substr(length));
+    if (next > longest) break;
+    length = next;
+  }
+  return text.substr(0, length);
+}
+
+std::string Joined(std::string_view start, std::string_view middle, std::string_view end) {
+  return std::string(start).append(middle).append(end);
+}
+
+}  // namespace
+
+std::string Quoted(std::string_view text) {
+  constexpr std::size_t kLongest = 40;
+  if (text.size() <= kLongest) return Joined("\"", text, "\"");
+  return Joined("\"", StartOf(text, kLongest), "...\"");
+}
+
+std::string NotANumber(std::string_view text) {
+  return Quoted(text) + " is not a number.";
+}
+
+std::string NoKeyShows(std::string_view caption) {
+  return "No key shows " + Quoted(caption) + ".";
+}
+
+std::string KeyIsDisabled(std::string_view caption) {
+  return "The key " + Quoted(caption) + " is disabled.";
+}
+
+std::string MenuDoesNotOffer(std::string_view text) {
+  return "The menu does not offer " + Quoted(text) + ".";
+}
+
+std::string NeedsTheWindow(std::string_view key) {
+  return Quoted(key) + " opens a dialog, which only the window has.";
+}
+
+std::string CannotRead(std::string_view reason) {
+  return Joined("cannot read standard input: ", reason, "");
+}
+
+std::string CannotWrite(std::string_view reason) {
+  return Joined("cannot write to standard output: ", reason, "");
+}
+
+std::string CannotKeepHistory(std::string_view path, std::string_view reason) {
+  return Joined("the history is not kept: ", path, ": ").append(reason);
+}
+
+std::string OptionLacksValue(std::string_view option) {
+  return Joined(option, " lacks its value", "");
+}
+
+std::string OptionTakes(std::string_view option, std::string_view values, std::string_view given) {
+  return Joined(option, " takes ", values).append(", not ").append(Quoted(given));
+}
+
+}  // namespace kav

@@ -1,0 +1,30 @@
+// What the user reads from kavcalc beside the answers of the calculator itself and the help.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kav {
+
+inline constexpr std::string_view kProgramName = "kavcalc";
+inline constexpr std::string_view kFailureMark = "error: ";
+inline constexpr std::string_view kPrompt = "> ";
+
+/// `text` in quotes, as messages name it; one of more than 40 bytes is cut.
+std::string Quoted(std::string_view text);
+
+// Behind the failure mark.
+std::string NotANumber(std::string_view text);
+std::string NoKeyShows(std::string_view caption);
+std::string KeyIsDisabled(std::string_view caption);
+std::string MenuDoesNotOffer(std::string_view text);
+std::string NeedsTheWindow(std::string_view key);
+
+// On standard error, behind the program's name. `reason` is the system's.
+std::string CannotRead(std::string_view reason);
+std::string CannotWrite(std::string_view reason);
+std::string CannotKeepHistory(std::string_view path, std::string_view reason);
+std::string OptionLacksValue(std::string_view option);
+std::string OptionTakes(std::string_view option, std::string_view values, std::string_view given);
+
+}  // namespace kav

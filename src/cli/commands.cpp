@@ -1,0 +1,31 @@
+#include "cli/commands.h"
+
+#include <array>
+
+#include "cli/check_command.h"
+#include "cli/eval_command.h"
+#include "cli/format_command.h"
+#include "cli/help_texts.h"
+#include "cli/keys_command.h"
+
+namespace kav {
+namespace {
+
+constexpr std::array kCommands{
+    Command{"eval", "[eval] [OPTION]... [--] [EXPRESSION]...", "evaluate expressions", kEvalDetails,
+            RunEval},
+    Command{"check", "check [OPTION]... [--] [FORMULA]...", "check formulas with variables",
+            kCheckDetails, RunCheck},
+    Command{"format", "format [OPTION]... [--] [NUMBER]...",
+            "write numbers as the calculator shows them", kFormatDetails, RunFormat},
+    Command{"keys", "keys [OPTION]... [--] [KEY]...", "press keys of the scientific screen",
+            kKeysDetails, RunKeys},
+};
+
+}  // namespace
+
+std::span<const Command> Commands() {
+  return kCommands;
+}
+
+}  // namespace kav

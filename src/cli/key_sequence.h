@@ -1,0 +1,38 @@
+// Keys of the scientific screen by what they show, pressed one after the other.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "scientific/scientific_model.h"
+
+namespace kav {
+
+/// Presses keys on a screen, which must outlive it.
+class KeySequence {
+ public:
+  explicit KeySequence(ScientificModel& screen) : screen_(screen) {}
+
+  /// Takes the next of the sequence (UTF-8): the caption of a key as shown now, a quoted text to
+  /// type, "[A:B]" or "[A]" to select, or after a key that opens a menu the text of one of its
+  /// items. Answers why it cannot be done; nullopt where it was.
+  std::optional<std::string> Take(std::string_view step);
+
+ private:
+  enum class OpenMenu { None, History, Base, Memory };
+
+  std::optional<std::string> TakeItem(std::string_view text);
+  std::optional<std::string> ChooseHistory(std::u16string_view text);
+  std::optional<std::string> Press(std::string_view caption);
+  std::optional<std::string> CarryOut(const KeyRequest& request, std::string_view name);
+  void Type(std::string_view text);
+
+  ScientificModel& screen_;
+  OpenMenu menu_ = OpenMenu::None;
+};
+
+/// The line with "|" at the caret or "[" and "]" around the selection.
+std::string MarkedLine(const ExpressionLine& line);
+
+}  // namespace kav

@@ -1,0 +1,53 @@
+// A line typed at a terminal, with editing, history and completion.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "cli/completion.h"
+
+// The library's own types, which its header declares for who includes it.
+struct editline;
+struct history;
+
+namespace kav {
+
+/// Reads lines from the terminal at standard input and output. Texts are UTF-8 whatever the locale.
+class LineEditor {
+ public:
+  /// Called with the line up to the caret when the Tab key is pressed.
+  using Completer = std::function<Completion(std::string_view before)>;
+
+  explicit LineEditor(Completer completer);
+  LineEditor(const LineEditor&) = delete;
+  LineEditor& operator=(const LineEditor&) = delete;
+  ~LineEditor();
+
+  enum class Outcome { Line, GivenUp, End };
+  /// Prompts for a line and puts it, without its end, into `line`. GivenUp: Ctrl-C gave the
+  /// line up. End: Ctrl-D, or the terminal is gone.
+  Outcome Read(std::string& line);
+
+  /// Makes `line` the newest of those the arrows go back to.
+  void Remember(const std::string& line);
+
+ private:
+  struct Closer {
+    void operator()(editline* editor) const;
+    void operator()(struct history* lines) const;
+  };
+  static LineEditor& Of(editline* editor);
+  static unsigned char OnTab(editline* editor, int key);
+  static unsigned char OnGiveUp(editline* editor, int key);
+  static unsigned char OnStop(editline* editor, int key);
+  unsigned char CompleteAtCaret();
+
+  Completer completer_;
+  std::unique_ptr<struct history, Closer> history_;
+  std::unique_ptr<editline, Closer> editor_;
+  bool isGivenUp_ = false;
+};
+
+}  // namespace kav

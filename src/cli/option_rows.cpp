@@ -1,0 +1,84 @@
+#include "cli/option_rows.h"
+
+#include <array>
+#include <charconv>
+#include <optional>
+#include <system_error>
+
+namespace kav {
+namespace {
+
+/// Which of the words of `choices` (separated by '|') `word` is, from 0.
+std::optional<int> IndexIn(std::string_view choices, std::string_view word) {
+  for (int index = 0;; ++index) {
+    const std::size_t end = choices.find('|');
+    if (choices.substr(0, end) == word) return index;
+    if (end == choices.npos) return std::nullopt;
+    choices.remove_prefix(end + 1);
+  }
+}
+
+/// For choices in the order of the enumeration, whose first number is kFirst.
+template <class Target, int kFirst>
+bool TakeChoice(std::string_view choices, std::string_view given, Target& target) {
+  const auto index = IndexIn(choices, given);
+  if (index) target = static_cast<Target>(*index + kFirst);
+  return index.has_value();
+}
+
+bool TakeAngle(std::string_view choices, std::string_view given, Options& options) {
+  return TakeChoice<AngleUnit, 1>(choices, given, options.angle.emplace());
+}
+bool TakeBase(std::string_view choices, std::string_view given, Options& options) {
+  return TakeChoice<BaseMode, 1>(choices, given, options.base);
+}
+bool TakeDisplay(std::string_view choices, std::string_view given, Options& options) {
+  return TakeChoice<DisplayType, 0>(choices, given, options.display.type);
+}
+bool TakeVariables(std::string_view choices, std::string_view given, Options& options) {
+  return TakeChoice<VariableType, 0>(choices, given, options.variables);
+}
+
+bool TakePrecision(std::string_view, std::string_view given, Options& options) {
+  int& precision = options.display.precision;
+  const char* end = given.data() + given.size();
+  const auto read = std::from_chars(given.data(), end, precision);
+  return read.ec == std::errc{} && read.ptr == end && precision >= 0 &&
+         precision <= DisplayFormat::kMaxPrecision;
+}
+
+bool TakeSettings(std::string_view, std::string_view given, Options& options) {
+  options.settingsFile = given;
+  return !given.empty();
+}
+
+bool TakeRaw(std::string_view, std::string_view, Options& options) {
+  return options.isRaw = true;
+}
+bool TakeSteps(std::string_view, std::string_view, Options& options) {
+  return options.showsSteps = true;
+}
+
+static_assert(DisplayFormat::kMaxPrecision == 99, "the help names the limit");
+constexpr std::array kOptions{
+    OptionRow{"--angle", "deg|rad", R"(angle unit [the stored "Angle Type"])", "", TakeAngle},
+    OptionRow{"--base", "dec|hex|bin|oct", "number base [dec]", "", TakeBase},
+    OptionRow{"--display", "floating|fixed|scientific|thousands|engineering",
+              "how numbers are shown [floating]", "", TakeDisplay},
+    OptionRow{"--precision", "0..99", "digits after the point [7]", "", TakePrecision},
+    OptionRow{"--raw", "", "17 significant digits, in decimal, instead of the display", "",
+              TakeRaw},
+    OptionRow{"--settings", "FILE", "the settings file to use instead of the user's", "",
+              TakeSettings},
+    OptionRow{"--variables", "x|xy|xyz", "the variables of the formulas [x]", "check",
+              TakeVariables},
+    OptionRow{"--steps", "", "show the order of the calculation", "check", TakeSteps},
+};
+
+}  // namespace
+
+std::span<const OptionRow> OptionRows() {
+  return kOptions;
+}
+
+}  // namespace kav

@@ -1,0 +1,49 @@
+// What kavcalc is asked to do: the command, its options and its items.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/expected.h"
+#include "engine/calc_modes.h"
+#include "engine/number_format.h"
+#include "engine/tokenizer.h"
+
+namespace kav {
+
+struct Command;
+
+/// The options of all commands, with their defaults.
+struct Options {
+  std::optional<AngleUnit> angle;  ///< none: the stored one
+  BaseMode base = BaseMode::Decimal;
+  DisplayFormat display{.type = DisplayType::FloatingPoint};
+  bool isRaw = false;        ///< 17 significant digits instead of `display` and `base`
+  std::string settingsFile;  ///< empty: the user's
+  VariableType variables = VariableType::X;
+  bool showsSteps = false;
+};
+
+/// A command line that can be carried out. `items` are what the command works on, in order; with
+/// none it works on standard input. They view the arguments, which must outlive them.
+struct CommandLine {
+  const Command* command;
+  Options options;
+  std::vector<std::string_view> items;
+};
+
+/// Why nothing is to be carried out: help or version was asked for (status 0, `text` is the answer)
+/// or the arguments are unusable (status 2, `text` is the reason and a usage line).
+struct EarlyEnd {
+  int status;
+  std::string text;
+};
+
+/// Reads the arguments behind the program's name. The first of them that is no option tells the
+/// command by its name, or else is an expression for the command eval.
+Expected<CommandLine, EarlyEnd> ReadCommandLine(std::span<const char* const> arguments);
+
+}  // namespace kav

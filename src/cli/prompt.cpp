@@ -1,0 +1,73 @@
+#include "cli/prompt.h"
+
+#include <unistd.h>
+
+#include "cli/answer_writer.h"
+#include "cli/evaluation.h"
+#include "cli/history_file.h"
+#include "cli/line_editor.h"
+#include "common/number_text.h"
+#include "engine/tokenizer.h"
+#include "settings/settings_path.h"
+
+namespace kav {
+namespace {
+
+constexpr std::string_view kHistoryName = "kavcalc_history";
+
+/// What can be called in `base`, with what follows each name in a line.
+std::vector<std::string> KnownNames(BaseMode base, const MacroStore& macros) {
+  std::vector<std::string> names;
+  if (base == BaseMode::Decimal) {
+    names.emplace_back("pi");
+    for (const FunctionName& function : FunctionNames()) {
+      names.push_back(std::string(function.name) + "(");
+    }
+  }
+  for (int i = 0; i < macros.Count(); ++i) names.push_back("M:" + macros.Name(i) + "(");
+  return names;
+}
+
+/// The lines that were typed, in the editor and in the file.
+class PastLines {
+ public:
+  explicit PastLines(LineEditor& editor) : editor_(editor), file_(StatePath(kHistoryName)) {
+    for (const std::string& line : file_.Load()) editor_.Remember(line);
+  }
+  void Add(const std::string& line) {
+    if (line == newest_) return;
+    newest_ = line;
+    editor_.Remember(line);
+    file_.Append(line);
+  }
+
+ private:
+  LineEditor& editor_;
+  HistoryFile file_;
+  std::string newest_;
+};
+
+}  // namespace
+
+bool CanPrompt() {
+  return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
+}
+
+int RunPrompt(const Options& options) {
+  AnswerWriter answers;
+  Evaluation evaluation(options);
+  LineEditor editor([&](std::string_view before) {
+    return Complete(before, KnownNames(options.base, evaluation.Macros()));
+  });
+  PastLines pastLines(editor);
+  std::string line;
+  for (;;) {
+    const auto outcome = editor.Read(line);
+    if (outcome == LineEditor::Outcome::End || answers.IsBroken()) return answers.Finish();
+    if (outcome == LineEditor::Outcome::GivenUp || TrimBlanks(line).empty()) continue;
+    pastLines.Add(line);
+    evaluation.Answer(line, answers);
+  }
+}
+
+}  // namespace kav

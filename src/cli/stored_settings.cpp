@@ -1,0 +1,27 @@
+#include "cli/stored_settings.h"
+
+#include "cli/answer_writer.h"
+#include "common/number_text.h"
+#include "settings/keys.h"
+#include "settings/settings_path.h"
+
+namespace kav {
+
+StoredSettings::StoredSettings(const Options& options)
+    : store_(options.settingsFile.empty() ? DefaultSettingsPath() : options.settingsFile) {}
+
+StoredSettings::~StoredSettings() {
+  TellNotices();
+}
+
+AngleUnit StoredSettings::Angle() {
+  const AngleUnit angle = AngleUnitFromSetting(store_.Get(kAngleType));
+  TellNotices();
+  return angle;
+}
+
+void StoredSettings::TellNotices() {
+  while (const auto notice = store_.TakeNotice()) Tell(Narrow(*notice));
+}
+
+}  // namespace kav

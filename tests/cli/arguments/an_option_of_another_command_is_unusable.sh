@@ -1,0 +1,1 @@
+kavcalc --steps 1

@@ -1,0 +1,2 @@
+kavcalc 1+1
+cat

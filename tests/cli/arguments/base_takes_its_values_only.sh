@@ -1,0 +1,1 @@
+kavcalc --base wrong 1

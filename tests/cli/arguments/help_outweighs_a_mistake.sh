@@ -1,0 +1,1 @@
+kavcalc --help --bogus | grep -c '^Usage'

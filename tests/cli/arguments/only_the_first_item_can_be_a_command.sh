@@ -1,0 +1,3 @@
+kavcalc 1 check
+kavcalc eval check
+kavcalc check check

@@ -1,0 +1,1 @@
+kavcalc --precision x 1

@@ -1,0 +1,1 @@
+kavcalc --precision 1.5 1

@@ -1,0 +1,1 @@
+kavcalc --precision 07x 1

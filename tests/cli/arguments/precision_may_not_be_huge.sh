@@ -1,0 +1,1 @@
+kavcalc --precision 99999999999999999999 1

@@ -1,0 +1,1 @@
+kavcalc --precision 1e1 1

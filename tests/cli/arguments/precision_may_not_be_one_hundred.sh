@@ -1,0 +1,1 @@
+kavcalc --precision 100 1

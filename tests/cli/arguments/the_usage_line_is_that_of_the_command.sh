@@ -1,0 +1,3 @@
+kavcalc check --bogus x; echo $?
+kavcalc format --bogus 1; echo $?
+kavcalc keys --bogus 1

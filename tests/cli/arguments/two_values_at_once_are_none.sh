@@ -1,0 +1,1 @@
+kavcalc --base 'dec|hex' 1

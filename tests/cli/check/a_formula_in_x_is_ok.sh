@@ -1,0 +1,1 @@
+kavcalc check 'x^2+3*x-5' 'SIN(X)'

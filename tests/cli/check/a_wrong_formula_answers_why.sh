@@ -1,0 +1,1 @@
+kavcalc check x '(x' 'x+' 'foo(x)' '' 'x y' 1

@@ -1,0 +1,1 @@
+kavcalc check --base hex --angle rad --raw --display fixed --precision 3 --settings . 'sin(x)'

@@ -1,0 +1,1 @@
+kavcalc check --variables xy 'x+y' y x 'x+y+z'

@@ -1,0 +1,1 @@
+kavcalc check --variables x x 'x+y' 'x+z'

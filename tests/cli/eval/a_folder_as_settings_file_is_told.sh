@@ -1,0 +1,1 @@
+kavcalc --settings . 'sin(30)'

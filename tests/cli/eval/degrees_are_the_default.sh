@@ -1,0 +1,1 @@
+kavcalc 'sin(90)' 'acos(0)'

@@ -1,0 +1,2 @@
+kavcalc 'sin(30)' 'M:F(1)' >/dev/null
+find "$HOME" -mindepth 1

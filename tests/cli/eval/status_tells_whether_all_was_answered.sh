@@ -1,0 +1,3 @@
+kavcalc 1; echo $?
+kavcalc 1 '('; echo $?
+kavcalc '(' 1; echo $?

@@ -1,0 +1,1 @@
+kavcalc --settings "$FILES/macros.toml" 1234567.5

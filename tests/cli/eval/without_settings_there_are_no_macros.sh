@@ -1,0 +1,1 @@
+kavcalc 'M:F(3)'

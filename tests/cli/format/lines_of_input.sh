@@ -1,0 +1,1 @@
+kavcalc format --display thousands

@@ -1,0 +1,1 @@
+kavcalc format inf -- -inf nan INF 1e999

@@ -1,0 +1,82 @@
+#include "cli/history_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "settings/temporary_folder.h"
+
+namespace kav {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class HistoryFileTest : public testing::Test {
+ protected:
+  std::string Text() const { return FileContent(path_); }
+
+  TemporaryFolder folder_;
+  std::string path_ = folder_.File("deep/below/lines");
+};
+
+TEST_F(HistoryFileTest, StartsEmptyAndKeepsEachLineAtOnce) {
+  HistoryFile history(path_);
+  EXPECT_EQ(history.Load(), Lines{});
+  history.Append("1+1");
+  EXPECT_EQ(Text(), "1+1\n");
+  history.Append(" 2*\xc3\xa9 ");
+  EXPECT_EQ(HistoryFile(path_).Load(), (Lines{"1+1", " 2*\xc3\xa9 "}));
+}
+
+TEST_F(HistoryFileTest, TwoPromptsAddToOneFile) {
+  HistoryFile first(path_);
+  HistoryFile second(path_);
+  first.Append("1");
+  second.Append("2");
+  first.Append("3");
+  EXPECT_EQ(HistoryFile(path_).Load(), (Lines{"1", "2", "3"}));
+}
+
+TEST_F(HistoryFileTest, KeepsTheNewestThousand) {
+  HistoryFile history(path_);
+  for (int i = 1; i <= 1001; ++i) history.Append(std::to_string(i));
+  const Lines lines = HistoryFile(path_).Load();
+  ASSERT_EQ(lines.size(), 1000U);
+  EXPECT_EQ(lines.front(), "2");
+  EXPECT_EQ(lines.back(), "1001");
+  EXPECT_EQ(Text().substr(0, 4), "2\n3\n");
+}
+
+TEST_F(HistoryFileTest, LinesOfMoreThan4096BytesAreNotKept) {
+  HistoryFile history(path_);
+  history.Append(std::string(4096, '1'));
+  history.Append(std::string(4097, '2'));
+  EXPECT_EQ(history.Load(), (Lines{std::string(4096, '1')}));
+}
+
+TEST_F(HistoryFileTest, EmptyLinesAndAMissingLastEndAreNoHarm) {
+  std::filesystem::create_directories(folder_.File("deep/below"));
+  PutFile(path_, "\n1\n\n2");
+  EXPECT_EQ(HistoryFile(path_).Load(), (Lines{"1", "2"}));
+}
+
+TEST_F(HistoryFileTest, WithoutAPathNothingIsKept) {
+  HistoryFile history("");
+  history.Append("1+1");
+  EXPECT_EQ(history.Load(), Lines{});
+}
+
+TEST_F(HistoryFileTest, AFolderInItsPlaceIsToldOnceAndLeft) {
+  std::filesystem::create_directories(path_);
+  HistoryFile history(path_);
+  EXPECT_EQ(history.Load(), Lines{});
+  testing::internal::CaptureStderr();
+  history.Append("1+1");
+  history.Append("2+2");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "kavcalc: the history is not kept: " + path_ + ": Is a directory\n");
+  EXPECT_TRUE(std::filesystem::is_directory(path_));
+}
+
+}  // namespace
+}  // namespace kav

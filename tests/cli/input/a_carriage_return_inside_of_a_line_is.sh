@@ -1,0 +1,1 @@
+kavcalc | od -An -c | tr -d ' \n'; echo

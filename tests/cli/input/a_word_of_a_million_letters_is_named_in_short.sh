@@ -1,0 +1,1 @@
+head -c 1000000 /dev/zero | tr '\0' a | kavcalc

@@ -1,0 +1,1 @@
+kavcalc | od -An -tx1 | tr -d '\n '

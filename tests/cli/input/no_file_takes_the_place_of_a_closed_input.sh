@@ -1,0 +1,1 @@
+kavcalc --settings "$FILES/macros.toml" 'sin(pi/2)' <&-

@@ -1,0 +1,3 @@
+kavcalc keys A; echo $?
+kavcalc keys --base hex A B
+kavcalc keys --base hex SIN

@@ -1,0 +1,1 @@
+kavcalc keys 7 DEC

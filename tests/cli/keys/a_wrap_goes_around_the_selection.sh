@@ -1,0 +1,2 @@
+kavcalc keys '"45"' '[0:2]' SIN
+kavcalc keys '"45"' '[0:2]' Shift ASIN

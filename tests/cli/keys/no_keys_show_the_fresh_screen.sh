@@ -1,0 +1,3 @@
+kavcalc keys
+kavcalc keys --display fixed --precision 2
+kavcalc keys --display scientific

@@ -1,0 +1,1 @@
+kavcalc keys 1 + 1 = 2 = | wc -l

@@ -1,0 +1,1 @@
+kavcalc keys --settings "$FILES/macros.toml" PB

@@ -1,0 +1,129 @@
+#include "cli/options.h"
+
+#include <gtest/gtest.h>
+
+#include "cli/commands.h"
+
+namespace kav {
+namespace {
+
+using Arguments = std::vector<const char*>;
+using Items = std::vector<std::string_view>;
+
+/// What a command line that can be carried out says, as one value.
+CommandLine Read(const Arguments& arguments) {
+  const auto line = ReadCommandLine(arguments);
+  EXPECT_TRUE(line) << line.error().text;
+  return line ? *line : CommandLine{&Commands().front(), {}, {}};
+}
+
+TEST(Options, WithoutArgumentsAllIsAsTheHelpSays) {
+  const CommandLine line = Read({});
+  EXPECT_EQ(line.command->name, "eval");
+  EXPECT_EQ(line.items, Items{});
+  EXPECT_EQ(line.options.angle, std::nullopt);
+  EXPECT_EQ(line.options.base, BaseMode::Decimal);
+  EXPECT_EQ(line.options.display.type, DisplayType::FloatingPoint);
+  EXPECT_EQ(line.options.display.precision, 7);
+  EXPECT_FALSE(line.options.isRaw);
+  EXPECT_EQ(line.options.settingsFile, "");
+  EXPECT_EQ(line.options.variables, VariableType::X);
+  EXPECT_FALSE(line.options.showsSteps);
+}
+
+TEST(Options, EachChoiceStandsForItsValue) {
+  EXPECT_EQ(Read({"--angle", "deg"}).options.angle, AngleUnit::Degrees);
+  EXPECT_EQ(Read({"--angle", "rad"}).options.angle, AngleUnit::Radians);
+  EXPECT_EQ(Read({"--base", "dec"}).options.base, BaseMode::Decimal);
+  EXPECT_EQ(Read({"--base", "hex"}).options.base, BaseMode::Hexadecimal);
+  EXPECT_EQ(Read({"--base", "bin"}).options.base, BaseMode::Binary);
+  EXPECT_EQ(Read({"--base", "oct"}).options.base, BaseMode::Octal);
+  const auto display = [](const char* type) {
+    return Read({"--display", type}).options.display.type;
+  };
+  EXPECT_EQ(display("floating"), DisplayType::FloatingPoint);
+  EXPECT_EQ(display("fixed"), DisplayType::FixedPoint);
+  EXPECT_EQ(display("scientific"), DisplayType::ScientificNotation);
+  EXPECT_EQ(display("thousands"), DisplayType::Thousands);
+  EXPECT_EQ(display("engineering"), DisplayType::EngineeringNotation);
+  const auto variables = [](const char* names) {
+    return Read({"check", "--variables", names}).options.variables;
+  };
+  EXPECT_EQ(variables("x"), VariableType::X);
+  EXPECT_EQ(variables("xy"), VariableType::XY);
+  EXPECT_EQ(variables("xyz"), VariableType::XYZ);
+}
+
+TEST(Options, SwitchesTextsAndNumbers) {
+  const CommandLine line =
+      Read({"check", "--raw", "--steps", "--settings", "a=b", "--precision", "12"});
+  EXPECT_TRUE(line.options.isRaw);
+  EXPECT_TRUE(line.options.showsSteps);
+  EXPECT_EQ(line.options.settingsFile, "a=b");
+  EXPECT_EQ(line.options.display.precision, 12);
+  EXPECT_EQ(Read({"--settings=a=b"}).options.settingsFile, "a=b");
+  EXPECT_EQ(Read({"--settings", "[a,b]"}).options.settingsFile, "[a,b]");
+  EXPECT_EQ(Read({"--settings", "--raw"}).options.settingsFile, "--raw");
+}
+
+TEST(Options, TheFirstArgumentThatIsNoOptionMayNameACommand) {
+  struct Row {
+    Arguments arguments;
+    std::string_view command;
+    Items items;
+  };
+  const std::vector<Row> rows{
+      {{"1+1"}, "eval", {"1+1"}},
+      {{"eval", "1"}, "eval", {"1"}},
+      {{"check", "x"}, "check", {"x"}},
+      {{"format", "1"}, "format", {"1"}},
+      {{"keys", "1"}, "keys", {"1"}},
+      {{"--raw", "format", "1"}, "format", {"1"}},
+      {{"--base", "hex", "format", "1"}, "format", {"1"}},
+      {{"--base=hex", "format", "1"}, "format", {"1"}},
+      {{"--settings", "format", "1"}, "eval", {"1"}},
+      {{"1", "check"}, "eval", {"1", "check"}},
+      {{"keys", "keys", "eval"}, "keys", {"keys", "eval"}},
+      {{"--", "check", "x"}, "eval", {"check", "x"}},
+      {{"check", "--", "--steps"}, "check", {"--steps"}},
+      {{"check", "x", "--steps", "--", "--"}, "check", {"x", "--"}},
+      {{"Check"}, "eval", {"Check"}},
+      {{""}, "eval", {""}},
+      {{"-1", "-.5", "-(1)", "-"}, "eval", {"-1", "-.5", "-(1)", "-"}},
+      {{"keys", "[1:2]", "++", "/", "{}"}, "keys", {"[1:2]", "++", "/", "{}"}},
+  };
+  for (const Row& row : rows) {
+    const CommandLine line = Read(row.arguments);
+    EXPECT_EQ(line.command->name, row.command) << row.arguments.front();
+    EXPECT_EQ(line.items, row.items) << row.arguments.front();
+  }
+}
+
+TEST(Options, UnusableArgumentsEndWithStatus2) {
+  const std::vector<Arguments> rows{
+      {"--bogus"},       {"-pi"},          {"--angle"},           {"--angle", "grad"},
+      {"--angle=", "1"}, {"--base", "16"}, {"--precision", "-1"}, {"--precision", "100"},
+      {"--precision="},  {"--settings="},  {"--variables", "x"},  {"--steps"},
+
+      {"--raw=perhaps"}, {"---"},          {"-x", "1"},
+  };
+  for (const Arguments& arguments : rows) {
+    const auto line = ReadCommandLine(arguments);
+    ASSERT_FALSE(line) << arguments.front();
+    EXPECT_EQ(line.error().status, 2) << arguments.front();
+    EXPECT_EQ(line.error().text.substr(0, 9), "kavcalc: ") << arguments.front();
+    EXPECT_NE(line.error().text.find("\nUsage: kavcalc "), std::string::npos) << arguments.front();
+  }
+}
+
+TEST(Options, HelpAndVersionEndWithStatus0) {
+  for (const char* argument : {"--help", "-h", "--version"}) {
+    const auto line = ReadCommandLine(Arguments{argument});
+    ASSERT_FALSE(line) << argument;
+    EXPECT_EQ(line.error().status, 0) << argument;
+    EXPECT_EQ(line.error().text.back(), '\n') << argument;
+  }
+}
+
+}  // namespace
+}  // namespace kav

@@ -1,0 +1,1 @@
+kavcalc 1+1 >/dev/full

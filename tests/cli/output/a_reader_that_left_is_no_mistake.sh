@@ -1,0 +1,1 @@
+yes 1+1 | kavcalc | head -n 2

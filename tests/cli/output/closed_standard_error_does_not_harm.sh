@@ -1,0 +1,2 @@
+kavcalc '(' 2>&-
+kavcalc --bogus 2>&-

@@ -1,0 +1,225 @@
+// The prompt, at a terminal. Keys are typed only after the prompt came, as the terminal is set up
+// anew for each line and what was typed before may be lost.
+#include <gtest/gtest.h>
+
+#include "cli/terminal.h"
+#include "settings/temporary_folder.h"
+
+namespace kav::test {
+namespace {
+
+constexpr const char* kUp = "\x1b[A";
+constexpr const char* kControlC = "\x03";
+constexpr const char* kControlD = "\x04";
+
+class Prompt : public testing::Test {
+ protected:
+  Terminal::Environment Environment() const {
+    return {{"HOME", home_.Path()},
+            {"TERM", "xterm"},
+            {"LC_ALL", "tr_TR.UTF-8"},
+            // The line editor never frees the names of the functions that it was given.
+            {"ASAN_OPTIONS", "detect_leaks=0"}};
+  }
+  std::string HistoryPath() const {
+    return home_.File(".local/state/kav-calculator/kavcalc_history");
+  }
+  std::string HistoryText() const { return FileContent(HistoryPath()); }
+
+  TemporaryFolder home_;
+};
+
+TEST_F(Prompt, AnswersEachLineAtOnceUntilControlD) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("1+1\r");
+  ASSERT_TRUE(terminal.Shows("1+1\r\n2\r\n> "));
+  terminal.Type("2*sin(30)+3!\r");
+  ASSERT_TRUE(terminal.Shows("\r\n7\r\n> "));
+  terminal.Type(kControlD);
+  EXPECT_EQ(terminal.Status(), 0);
+}
+
+TEST_F(Prompt, AnswersWithTheOptionsGiven) {
+  Terminal terminal({"eval", "--base", "hex"}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("FF AND F\r");
+  EXPECT_TRUE(terminal.Shows("\r\nF\r\n> "));
+}
+
+TEST_F(Prompt, ShowsFailuresAndCountsThemInTheStatus) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("(1\r");
+  ASSERT_TRUE(terminal.Shows("\r\nerror: Not matched '(' and ')'.\r\n> "));
+  terminal.Type(kControlD);
+  EXPECT_EQ(terminal.Status(), 1);
+}
+
+TEST_F(Prompt, AnEmptyLineIsNoQuestion) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("\r");
+  ASSERT_TRUE(terminal.Shows("\r\n> "));
+  terminal.Type("  \r");
+  ASSERT_TRUE(terminal.Shows("\r\n> "));
+  terminal.Type(kControlD);
+  EXPECT_EQ(terminal.Status(), 0);
+  EXPECT_EQ(HistoryText(), "");
+}
+
+TEST_F(Prompt, TakesCharactersBeyondAscii) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("1+\xc3\xa9\r");
+  EXPECT_TRUE(terminal.Shows("error: \xc3\xa9 is not supported.\r\n"));
+}
+
+TEST_F(Prompt, ControlCGivesUpTheLineAndNothingElse) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("999");
+  ASSERT_TRUE(terminal.Shows("999"));
+  terminal.Type(kControlC);
+  ASSERT_TRUE(terminal.Shows("\r\n> "));
+  terminal.Type("1+1\r");
+  ASSERT_TRUE(terminal.Shows("\r\n2\r\n> "));
+  terminal.Type(kControlD);
+  EXPECT_EQ(terminal.Status(), 0);
+}
+
+TEST_F(Prompt, EndsWhenItsTerminalGoes) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Close();
+  EXPECT_TRUE(terminal.Ends());
+}
+
+TEST_F(Prompt, TheArrowGoesBackToTheLineBefore) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("20+3\r");
+  ASSERT_TRUE(terminal.Shows("\r\n23\r\n> "));
+  terminal.Type(kUp);
+  ASSERT_TRUE(terminal.Shows("20+3"));
+  terminal.Type("*2\r");
+  EXPECT_TRUE(terminal.Shows("\r\n26\r\n> "));
+}
+
+TEST_F(Prompt, LinesOutliveTheirRunEvenWhereItWasKilled) {
+  {
+    Terminal terminal({}, Environment());
+    ASSERT_TRUE(terminal.Shows("> "));
+    terminal.Type("20+3\r");
+    ASSERT_TRUE(terminal.Shows("\r\n23\r\n> "));
+    terminal.Kill();
+  }
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type(kUp);
+  EXPECT_TRUE(terminal.Shows("20+3"));
+}
+
+TEST_F(Prompt, EqualNeighboursAreRememberedOnce) {
+  Terminal terminal({}, Environment());
+  for (const char* line : {"1+1\r", "1+1\r", "3+1\r", "1+1\r"}) {
+    ASSERT_TRUE(terminal.Shows("> "));
+    terminal.Type(line);
+    ASSERT_TRUE(terminal.Shows("\r\n"));
+  }
+  ASSERT_TRUE(terminal.Shows("> "));
+  EXPECT_EQ(HistoryText(), "1+1\n3+1\n1+1\n");
+}
+
+TEST_F(Prompt, TheHistoryFollowsXdgStateHomeAndIsForItsOwnerOnly) {
+  auto environment = Environment();
+  environment["XDG_STATE_HOME"] = home_.File("state");
+  Terminal terminal({}, environment);
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("1+1\r");
+  ASSERT_TRUE(terminal.Shows("\r\n2\r\n> "));
+  EXPECT_EQ(PermissionsOf(home_.File("state/kav-calculator/kavcalc_history")), 0600U);
+}
+
+TEST_F(Prompt, AHistoryThatCannotBeKeptIsToldOnce) {
+  auto environment = Environment();
+  environment["XDG_STATE_HOME"] = "/dev/null/nowhere";
+  Terminal terminal({}, environment);
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("1+1\r");
+  ASSERT_TRUE(terminal.Shows(
+      "kavcalc: the history is not kept: /dev/null/nowhere/kav-calculator/kavcalc_history: "));
+  ASSERT_TRUE(terminal.Shows("\r\n2\r\n> "));
+  terminal.Type("2+2\r");
+  ASSERT_TRUE(terminal.Shows("2+2\r\n4\r\n> "));
+}
+
+TEST_F(Prompt, TabCompletesTheNameOfAFunction) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("1+sq\t");
+  ASSERT_TRUE(terminal.Shows("rt("));
+  terminal.Type("9)\r");
+  EXPECT_TRUE(terminal.Shows("\r\n4\r\n> "));
+}
+
+TEST_F(Prompt, TabListsWhatItCannotTellApart) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("sin\t");
+  EXPECT_TRUE(terminal.Shows("\r\nsin(  sinh(\r\n"));
+  EXPECT_TRUE(terminal.Shows("> sin"));
+}
+
+TEST_F(Prompt, TabCompletesTheNameOfAMacro) {
+  const std::string settings = home_.File("mine.toml");
+  PutFile(settings,
+          "[MacroInfo]\nTotalNumber = 1\n[Macro0]\nName = \"area\"\n"
+          "Type = \"TYPE2 : F(X,Y)\"\nFormula = \"x*y\"\n");
+  Terminal terminal({"--settings", settings}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("M\t");
+  ASSERT_TRUE(terminal.Shows(":area("));
+  terminal.Type("2,3)\r");
+  EXPECT_TRUE(terminal.Shows("\r\n6\r\n> "));
+}
+
+TEST_F(Prompt, InABaseNoFunctionIsOffered) {
+  Terminal terminal({"--base", "bin"}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("sq\t");
+  terminal.Type("\r");
+  EXPECT_TRUE(terminal.Shows("error: Expression error.\r\n"));
+}
+
+TEST_F(Prompt, ThereIsNoneWhereTheAnswersGoToAFile) {
+  const std::string answers = home_.File("answers");
+  {
+    Terminal terminal({}, Environment(), answers);
+    terminal.Type("1+1\n");
+    terminal.Type(kControlD);
+    ASSERT_EQ(terminal.Status(), 0);
+  }
+  EXPECT_EQ(FileContent(answers), "2\n");
+}
+
+TEST_F(Prompt, OtherCommandsReadATerminalLineByLine) {
+  Terminal terminal({"format", "--base", "hex"}, Environment());
+  terminal.Type("255\n");
+  ASSERT_TRUE(terminal.Shows("255\r\nFF\r\n"));
+  terminal.Type(kControlD);
+  EXPECT_EQ(terminal.Status(), 0);
+  EXPECT_EQ(terminal.Unread().find("> "), std::string::npos);
+}
+
+TEST_F(Prompt, ATerminalThatNobodyKnowsWillDo) {
+  auto environment = Environment();
+  environment["TERM"] = "unheard-of";
+  Terminal terminal({}, environment);
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("1+1\r");
+  EXPECT_TRUE(terminal.Shows("2\r\n> "));
+}
+
+}  // namespace
+}  // namespace kav::test

@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# run_case.sh KAVCALC CASE.sh: runs the commands in CASE.sh with KAVCALC as "kavcalc" in every locale, and
+# compares what comes of it with the files beside: standard output with CASE.out; each line of
+# standard error with its line in CASE.err, which need only be a part of it (no file: nothing may
+# come); the exit status with CASE.status (no file: 0). Standard input is CASE.in or empty. The home
+# folder is new and empty each time, and so is the folder that the commands run in, but for what
+# $FILES holds.
+set -euo pipefail
+
+kavcalc=$(readlink -f -- "$1")
+case=$(readlink -f -- "${2%.sh}.sh")
+case=${case%.sh}
+here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
+work=$(mktemp -d)
+trap 'rm -rf -- "$work"' EXIT
+
+complain() {
+  printf '%s in %s: %s\n' "${case##*/cli/}" "$locale" "$1" >&2
+  exit 1
+}
+
+same_lines() {
+  local expected got
+  while IFS= read -r -u 3 expected; do
+    IFS= read -r -u 4 got && [[ $got == *"$expected"* ]] || return 1
+  done
+  ! IFS= read -r -u 4 got
+} 3<"$1" 4<"$2"
+
+run_in() {
+  local room=$work/$1
+  mkdir -p "$room/home" "$room/here" "$room/bin"
+  ln -s "$kavcalc" "$room/bin/kavcalc"
+  local input=/dev/null
+  [[ ! -e $case.in ]] || input=$case.in
+  (cd "$room/here" && exec env -i "PATH=$room/bin:/usr/bin:/bin" "HOME=$room/home" "LC_ALL=$1" \
+    "LOCPATH=${LOCPATH-}" "FILES=$here/files" bash "$case.sh") \
+    <"$input" >"$room/out" 2>"$room/err" && status=0 || status=$?
+}
+
+for locale in C.UTF-8 de_DE.UTF-8 tr_TR.UTF-8; do
+  run_in "$locale"
+  diff -u --text "$case.out" "$work/$locale/out" >&2 || complain "another answer"
+  expected=/dev/null
+  [[ ! -e $case.err ]] || expected=$case.err
+  same_lines "$expected" "$work/$locale/err" ||
+    complain "on standard error: $(cat -- "$work/$locale/err")"
+  [[ $status == "$(cat -- "$case.status" 2>/dev/null || echo 0)" ]] || complain "status $status"
+done
