@@ -1,0 +1,44 @@
+// What the user reads of the application itself: captions, menus and notices.
+#pragma once
+
+#include <string_view>
+
+namespace kav {
+
+inline constexpr std::u16string_view kApplicationName = u"Kav Calculator";
+inline constexpr std::u16string_view kLoading = u"Loading...";
+
+// The version that the settings and the about box name.
+inline constexpr std::string_view kVersionNumber = "2.5";
+inline constexpr std::u16string_view kAbout =
+    u"Kav Calculator 2.5\n\n"
+    u"A scientific calculator with an expression line,\n"
+    u"number bases, a history and macros.\n\n"
+    u"kavcalc is the same for the command line.";
+
+// One per screen, as its window and the Mode menu call it.
+inline constexpr std::u16string_view kScientificScreen = u"Scientific Calculator";
+
+// The menus; '&' stands before the letter that chooses the entry together with Alt.
+inline constexpr std::u16string_view kFileMenu = u"&File";
+inline constexpr std::u16string_view kAboutEntry = u"&About...";
+inline constexpr std::u16string_view kConfigEntry = u"&Config...";
+inline constexpr std::u16string_view kEditUnitsEntry = u"Edit &Unit Convert";
+inline constexpr std::u16string_view kEditMacroEntry = u"Edit &Macro";
+inline constexpr std::u16string_view kExitEntry = u"E&xit";
+
+inline constexpr std::u16string_view kEditMenu = u"&Edit";
+inline constexpr std::u16string_view kUndoEntry = u"&Undo";
+inline constexpr std::u16string_view kRedoEntry = u"&Redo";
+inline constexpr std::u16string_view kCutEntry = u"Cu&t";
+inline constexpr std::u16string_view kCopyEntry = u"&Copy";
+inline constexpr std::u16string_view kPasteEntry = u"&Paste";
+inline constexpr std::u16string_view kSelectAllEntry = u"Select &All";
+
+inline constexpr std::u16string_view kModeMenu = u"&Mode";
+
+// Told on the standard error output of the program that was started.
+inline constexpr std::string_view kTakesNoArguments =
+    "kav-calculator takes no arguments; kavcalc is the calculator for the command line\n";
+
+}  // namespace kav

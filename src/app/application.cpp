@@ -1,0 +1,56 @@
+#include "app/application.h"
+
+#include <QApplication>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "app/app_texts.h"
+#include "app/session.h"
+#include "app/single_instance.h"
+#include "settings/settings_path.h"
+
+namespace kav {
+namespace {
+
+/// How long a second copy waits for the first to answer.
+constexpr std::chrono::milliseconds kPatience(2000);
+
+constexpr int kWrongArguments = 2;
+
+std::string Environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value != nullptr ? value : "";
+}
+
+/// What stands where no option of the toolkit can stand.
+bool IsMistake(std::string_view argument) {
+  return !argument.starts_with('-') || argument.starts_with("--");
+}
+
+int RefuseArguments() {
+  std::fwrite(kTakesNoArguments.data(), 1, kTakesNoArguments.size(), stderr);
+  return kWrongArguments;
+}
+
+}  // namespace
+
+int RunApplication(int argc, char** argv) {
+  if (argc > 1 && IsMistake(argv[1])) return RefuseArguments();
+  SingleInstance instance =
+      SingleInstance::Claim(OpenMeetingFolder(Environment("XDG_RUNTIME_DIR"), "/tmp"), kPatience);
+  if (instance.Result() == SingleInstance::Outcome::Called) return 0;
+  // A menu bar of the desktop's own would not stand at the bottom of the screen.
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+  QApplication application(argc, argv);
+  if (argc > 1) return RefuseArguments();
+  QGuiApplication::setDesktopFileName("kav-calculator");
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  const Session session(std::move(instance), DefaultSettingsPath());
+  return QApplication::exec();
+}
+
+}  // namespace kav

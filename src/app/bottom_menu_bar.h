@@ -1,0 +1,22 @@
+// The menu bar of a screen.
+#pragma once
+
+#include <QMenuBar>
+
+namespace kav {
+
+/// A menu bar whose titles have room in proportion to their size, and on which the keyboard's
+/// choice is to be seen, opened or not. Tab leaves it; the arrows move among its menus.
+class BottomMenuBar final : public QMenuBar {
+ public:
+  explicit BottomMenuBar(QWidget* parent);
+
+  /// Highlights the first menu, as for a user who presses and releases Alt.
+  void Enter();
+
+ private:
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace kav

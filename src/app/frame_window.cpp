@@ -1,0 +1,188 @@
+#include "app/frame_window.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
+#include <utility>
+
+#include "app/app_texts.h"
+#include "scientific/scientific_dlg.h"
+#include "settings/keys.h"
+
+namespace kav {
+namespace {
+
+constexpr std::array kScreens{
+    ScreenKind{ScreenMode::Scientific, kScientificScreen, MakeScientificScreen},
+};
+
+/// How long the frame waits to be painted: a desktop may keep a window that it has just been given
+/// from being seen.
+constexpr int kPatienceMs = 200;
+
+WindowPlace StoredPlace(const SettingsStore& store) {
+  std::vector<QRect> desktops{QGuiApplication::primaryScreen()->availableGeometry()};
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    desktops.push_back(screen->availableGeometry());
+  }
+  std::optional<WindowPlace> place = ReadPlace(store.Get(kWindowGeometry));
+  if (!place) return {FirstPlace(desktops.front())};
+  return {MovedOntoDesktop(place->rect, desktops), place->isMaximized};
+}
+
+std::int32_t StoredMode(const SettingsStore& store) {
+  const std::int32_t mode = store.Get(kMode);
+  return mode == kNoModeStored ? static_cast<std::int32_t>(ScreenMode::Scientific) : mode;
+}
+
+/// The screen that a stored number stands for.
+ScreenMode ModeFromSetting(std::int32_t stored) {
+  const bool isNamed = stored >= 1 && stored <= static_cast<std::int32_t>(ScreenMode::TwoVariable);
+  return isNamed ? static_cast<ScreenMode>(stored) : ScreenMode::Matrix;
+}
+
+}  // namespace
+
+std::span<const ScreenKind> AllScreens() {
+  return kScreens;
+}
+
+Rooms AllRooms(SettingsStore&) {
+  return {};  // a line for each dialog that there is
+}
+
+FrameWindow::FrameWindow(SettingsStore& store, std::span<const ScreenKind> screens, Rooms rooms,
+                         FrameHooks hooks)
+    // Without a title, an animation or an entry among the desktop's windows: the screen is what the
+    // desktop knows as the window of the program.
+    : QWidget(nullptr, Qt::SplashScreen | Qt::BypassWindowManagerHint),
+      store_(store),
+      screens_(screens),
+      rooms_(std::move(rooms)),
+      hooks_(std::move(hooks)),
+      place_(StoredPlace(store)),
+      mode_(StoredMode(store)) {
+  store_.Set(kVersion, kVersionNumber);
+  setWindowTitle(QStringView(kApplicationName).toString());
+  setPalette(ScreenPalette());
+  TakePlace(*this, {place_.rect});
+  // While the desktop is still bringing the frame up, there is time to make the first screen.
+  QMetaObject::invokeMethod(this, &FrameWindow::PrepareScreen, Qt::QueuedConnection);
+  QTimer::singleShot(kPatienceMs, this, &FrameWindow::StartSoon);
+}
+
+FrameWindow::~FrameWindow() {
+  CloseAll();
+  store_.Set(kMode, mode_);
+  store_.Set(kWindowGeometry, PrintPlace(place_));
+}
+
+void FrameWindow::paintEvent(QPaintEvent*) {
+  constexpr QPoint kLoadingPlace(15, 15);
+  QPainter painter(this);
+  const QRect rest = rect().adjusted(kLoadingPlace.x(), kLoadingPlace.y(), 0, 0);
+  painter.drawText(rest, Qt::AlignLeft | Qt::AlignTop, QStringView(kLoading).toString());
+  StartSoon();
+}
+
+void FrameWindow::PrepareScreen() {
+  if (prepared_ || Shown() != nullptr) return;
+  prepared_ = KindOf(mode_).make(*this);
+  TakePlace(*prepared_, place_);
+  prepared_->installEventFilter(this);
+}
+
+void FrameWindow::StartSoon() {
+  QMetaObject::invokeMethod(this, &FrameWindow::Start, Qt::QueuedConnection);
+}
+
+void FrameWindow::Start() {
+  if (std::exchange(isStarted_, true)) return;
+  SwitchMode();
+  hide();
+  hooks_.started();
+}
+
+void FrameWindow::SwitchMode() {
+  const std::size_t old = activeSlot_;
+  if (Shown() != nullptr) place_ = PlaceOf(*Shown());
+  activeSlot_ = 1 - old;  // a slot with nothing to show yet
+  PrepareScreen();
+  slots_[activeSlot_] = std::move(prepared_);
+  Shown()->show();
+  // Showing posts an update of each widget. Handled only after the window's first painting, they
+  // would make a second of it.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
+  CloseScreen(old);
+}
+
+void FrameWindow::ComeToFront() {
+  QWidget* screen = Shown();
+  if (screen == nullptr) return;
+  screen->setWindowState(screen->windowState() & ~Qt::WindowMinimized);
+  screen->show();
+  QWidget* box = QApplication::activeModalWidget();
+  QWidget* front = box != nullptr ? box : screen;
+  front->raise();
+  front->activateWindow();
+}
+
+std::vector<ScreenChoice> FrameWindow::ScreensBeside(ScreenMode own) const {
+  std::vector<ScreenChoice> others;
+  for (const ScreenKind& kind : screens_) {
+    if (kind.mode != own) others.push_back({kind.mode, kind.caption});
+  }
+  return others;
+}
+
+void FrameWindow::ChangeMode(ScreenMode mode) {
+  mode_ = static_cast<std::int32_t>(mode);
+  const auto change = [this] {
+    if (!isQuitting_) SwitchMode();
+  };
+  QMetaObject::invokeMethod(this, change, Qt::QueuedConnection);
+}
+
+void FrameWindow::Exit() {
+  const auto exit = [this] {
+    if (isQuitting_) return;
+    CloseAll();
+    hooks_.finished();
+  };
+  QMetaObject::invokeMethod(this, exit, Qt::QueuedConnection);
+}
+
+bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
+  // However the user closes the screen, it means the end; only the frame itself just closes one.
+  const bool isUsersClose = event->type() == QEvent::Close && watched == Shown() && !isQuitting_;
+  if (!isUsersClose) return QWidget::eventFilter(watched, event);
+  event->ignore();
+  Exit();
+  return true;
+}
+
+const ScreenKind& FrameWindow::KindOf(std::int32_t mode) const {
+  const auto kind = std::find_if(screens_.begin(), screens_.end(), [mode](const ScreenKind& k) {
+    return k.mode == ModeFromSetting(mode);
+  });
+  return kind != screens_.end() ? *kind : screens_.front();
+}
+
+void FrameWindow::CloseScreen(std::size_t slot) {
+  // A screen saves what it leaves behind when it is destroyed.
+  std::unique_ptr<QWidget> screen = std::move(slots_[slot]);
+  if (screen) screen->close();
+}
+
+void FrameWindow::CloseAll() {
+  hide();
+  isQuitting_ = true;
+  if (Shown() != nullptr) place_ = PlaceOf(*Shown());
+  prepared_.reset();
+  CloseScreen(1);
+  CloseScreen(0);
+}
+
+}  // namespace kav

@@ -1,0 +1,87 @@
+// The window that starts the calculator and changes its screens.
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "app/frame.h"
+#include "app/window_place.h"
+
+namespace kav {
+
+/// A screen that can be opened.
+struct ScreenKind {
+  ScreenMode mode;
+  std::u16string_view caption;
+  std::unique_ptr<QWidget> (*make)(Frame& frame);
+};
+
+/// Every screen and every dialog that this build has.
+std::span<const ScreenKind> AllScreens();
+Rooms AllRooms(SettingsStore& store);
+
+/// What the frame asks of the application.
+struct FrameHooks {
+  std::function<void()> saveStore;  ///< see Frame::SaveStore
+  std::function<void()> started;    ///< the first screen is shown
+  std::function<void()> finished;   ///< the last screen is gone: the application may end
+};
+
+/// Shows "Loading..." until the first screen is there, then stays hidden behind it. Screens take
+/// turns in two slots, so that the new one is there before the old one goes. Store and screens must
+/// outlive the frame; the first screen is the one that stands for modes that no screen has.
+class FrameWindow final : public QWidget, public Frame {
+ public:
+  FrameWindow(SettingsStore& store, std::span<const ScreenKind> screens, Rooms rooms,
+              FrameHooks hooks);
+  /// Closes what is still open and stores the mode and the window's place.
+  ~FrameWindow() override;
+
+  /// Opens the screen of the current mode, then closes the one there was. A mode that no screen of
+  /// this build has stays the current one, and is stored, so that a build that has it opens it.
+  void SwitchMode();
+
+  /// The screen shown, or its last box or pop-up, restored and in front; nothing before the first.
+  void ComeToFront();
+
+  /// Null before the first screen is there and after the last is gone.
+  QWidget* Shown() const { return slots_[activeSlot_].get(); }
+
+  SettingsStore& Store() override { return store_; }
+  const Rooms& OpenRooms() const override { return rooms_; }
+  std::vector<ScreenChoice> ScreensBeside(ScreenMode own) const override;
+  void SaveStore() override { hooks_.saveStore(); }
+  void ChangeMode(ScreenMode mode) override;
+  void Exit() override;
+
+ private:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void PrepareScreen();
+  void StartSoon();
+  void Start();
+  const ScreenKind& KindOf(std::int32_t mode) const;
+  void CloseScreen(std::size_t slot);
+  void CloseAll();
+
+  SettingsStore& store_;
+  std::span<const ScreenKind> screens_;
+  Rooms rooms_;
+  FrameHooks hooks_;
+  WindowPlace place_;
+  std::int32_t mode_;
+  std::unique_ptr<QWidget> prepared_;  ///< made, but not shown yet
+  std::array<std::unique_ptr<QWidget>, 2> slots_;
+  std::size_t activeSlot_ = 0;
+  bool isStarted_ = false;
+  bool isQuitting_ = false;
+};
+
+}  // namespace kav

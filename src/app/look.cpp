@@ -1,0 +1,120 @@
+#include "app/look.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QPointer>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <algorithm>
+
+namespace kav {
+
+namespace {
+
+/// The face that the keys are made for, where it is installed, else the one that comes closest to
+/// it in shape and width.
+QString FaceName() {
+  const QStringList installed = QFontDatabase::families();
+  for (const char* face : {"Tahoma", "DejaVu Sans Condensed", "DejaVu Sans", "Verdana"}) {
+    if (installed.contains(QLatin1String(face))) return face;
+  }
+  return "Tahoma";  // with the hint below, the system finds a stand-in
+}
+
+class TextMeasuredStyle final : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+ private:
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override {
+    const int text = option->fontMetrics.height();
+    if (type == CT_MenuBarItem) return size + QSize(text, text / 2);
+    const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+    // The column for ticks is drawn as wide as an entry is high, but counted with fewer pixels.
+    return type == CT_MenuItem ? usual + QSize(text, text / 4) : usual;
+  }
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    if (metric == PM_MenuBarItemSpacing) return 0;
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric != PM_TextCursorWidth || option == nullptr) return usual;
+    return std::max(usual, option->fontMetrics.height() / 30);
+  }
+};
+
+}  // namespace
+
+QStyle* ScreenStyle() {
+  static QPointer<QStyle> style;
+  if (!style) {
+    style = new TextMeasuredStyle(QStyleFactory::create(QApplication::style()->name()));
+    style->setParent(QCoreApplication::instance());
+  }
+  return style;
+}
+
+QFont ScreenFont(int pixels) {
+  static const QString kFace = FaceName();
+  QFont font(kFace);
+  font.setStyleHint(QFont::SansSerif);
+  font.setPixelSize(std::max(pixels, 1));
+  return font;
+}
+
+int FittingPixels(const std::vector<SpacedText>& texts, int most, int least) {
+  int pixels = std::max(most, least);
+  while (pixels > least) {
+    const QFontMetricsF metrics(ScreenFont(pixels));
+    double excess = 0;  // the width of the text that is furthest out of its room, by that room
+    for (const SpacedText& text : texts) {
+      excess = std::max(excess, metrics.horizontalAdvance(text.text) / std::max(text.width, 1));
+    }
+    if (excess <= 1) break;
+    // Widths grow nearly as sizes do: the guess is right, or too large by a pixel or two.
+    pixels = std::clamp(static_cast<int>(pixels / excess), least, pixels - 1);
+  }
+  return pixels;
+}
+
+QPalette ScreenPalette() {
+  // The same for the window in front and for those behind it, which so need no new painting.
+  QPalette palette(QColor(233, 236, 240), QColor(241, 243, 246));
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::Mid, QColor(173, 181, 189));
+  palette.setColor(QPalette::Highlight, QColor(0, 110, 190));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  return palette;
+}
+
+QColor BackdropColour() {
+  return {214, 219, 225};
+}
+
+QRect PortraitArea(QSize window) {
+  constexpr double kWidest = 3.0 / 4;  // width by height, that of the screens' own display
+  constexpr double kTallest = 2;       // height by width: beyond it, keys would be mere strips
+  const int width = std::min(window.width(), qRound(window.height() * kWidest));
+  const int height = std::min(window.height(), qRound(width * kTallest));
+  return {(window.width() - width) / 2, (window.height() - height) / 2, width, height};
+}
+
+QRect DialogUnits::Pixels(const QRect& units) const {
+  const QPoint topLeft(X(units.x()), Y(units.y()));
+  const QPoint end(X(units.x() + units.width()), Y(units.y() + units.height()));
+  return {topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
+}
+
+int DialogUnits::X(int units) const {
+  return area_.x() + units * area_.width() / size_.width();
+}
+
+int DialogUnits::Y(int units) const {
+  return area_.y() + units * area_.height() / size_.height();
+}
+
+}  // namespace kav

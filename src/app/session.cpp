@@ -1,0 +1,90 @@
+#include "app/session.h"
+
+#include <sys/signalfd.h>
+
+#include <QApplication>
+#include <QIcon>
+#include <csignal>
+#include <utility>
+
+#include "app/message_box.h"
+
+namespace kav {
+namespace {
+
+/// The signals that ask a program to end, to be read from a descriptor instead of ending it at
+/// once.
+FileDescriptor EndSignals() {
+  sigset_t ends;
+  sigemptyset(&ends);
+  for (const int number : {SIGTERM, SIGINT, SIGHUP}) sigaddset(&ends, number);
+  sigprocmask(SIG_BLOCK, &ends, nullptr);
+  return FileDescriptor(signalfd(-1, &ends, SFD_CLOEXEC | SFD_NONBLOCK));
+}
+
+}  // namespace
+
+Session::Session(SingleInstance instance, std::string settingsPath)
+    : store_(std::move(settingsPath)), instance_(std::move(instance)), endSignals_(EndSignals()) {
+  const auto later = [this](void (Session::*what)()) {
+    return [this, what] {
+      QMetaObject::invokeMethod(
+          &context_, [this, what] { (this->*what)(); }, Qt::QueuedConnection);
+    };
+  };
+  frame_ = std::make_unique<FrameWindow>(
+      store_, AllScreens(), AllRooms(store_),
+      FrameHooks{[this] { Save(); }, later(&Session::Started), later(&Session::End)});
+  frame_->show();
+  WatchSignals();
+  WatchCalls();
+}
+
+Session::~Session() {
+  frame_.reset();
+  store_.Save();
+}
+
+void Session::WatchSignals() {
+  if (!endSignals_.IsOpen()) return;
+  ending_ = std::make_unique<QSocketNotifier>(endSignals_.Number(), QSocketNotifier::Read);
+  // Unlike a user, a signal also ends what waits in a box; this object's end does the rest.
+  QObject::connect(ending_.get(), &QSocketNotifier::activated, &context_,
+                   [] { QApplication::exit(); });
+}
+
+void Session::WatchCalls() {
+  if (instance_.CallSocket() < 0) return;
+  calls_ = std::make_unique<QSocketNotifier>(instance_.CallSocket(), QSocketNotifier::Read);
+  QObject::connect(calls_.get(), &QSocketNotifier::activated, &context_, [this] {
+    if (instance_.TakeCalls()) frame_->ComeToFront();
+  });
+}
+
+void Session::Started() {
+  // The icon for desktops that have no entry for the program; decoding it can wait until now.
+  QApplication::setWindowIcon(QIcon(":/kav-calculator.png"));
+  TellNotices();
+}
+
+void Session::Save() {
+  store_.Save();
+  TellNotices();
+}
+
+void Session::End() {
+  // The next start is a new one from here on; it waits until this one has saved and is gone.
+  calls_.reset();
+  instance_.StopListening();
+  frame_.reset();
+  Save();
+  QApplication::exit();
+}
+
+void Session::TellNotices() {
+  while (const auto notice = store_.TakeNotice()) {
+    ShowNotice(frame_ ? frame_->Shown() : nullptr, *notice);
+  }
+}
+
+}  // namespace kav

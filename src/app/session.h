@@ -1,0 +1,45 @@
+// One run of the calculator: its settings, its frame, and what reaches it from outside.
+#pragma once
+
+#include <QObject>
+#include <QSocketNotifier>
+#include <memory>
+#include <string>
+
+#include "app/frame_window.h"
+#include "app/single_instance.h"
+#include "settings/file_descriptor.h"
+#include "settings/user_settings_store.h"
+
+namespace kav {
+
+/// Lasts from the first sight of the frame to the end of its last screen, and then ends the event
+/// loop, as do the signals by which a desktop or a terminal asks a program to end. Saves the
+/// settings at its end, however that comes about, and tells the user once what is wrong with them.
+class Session {
+ public:
+  /// Settings are kept in the file `settingsPath`. Calls that `instance` takes bring the screen to
+  /// the foreground.
+  Session(SingleInstance instance, std::string settingsPath);
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+  ~Session();
+
+ private:
+  void WatchSignals();
+  void WatchCalls();
+  void Started();
+  void Save();
+  void End();
+  void TellNotices();
+
+  UserSettingsStore store_;
+  SingleInstance instance_;
+  FileDescriptor endSignals_;
+  QObject context_;  // what is still to be called is forgotten with it
+  std::unique_ptr<QSocketNotifier> ending_;
+  std::unique_ptr<QSocketNotifier> calls_;
+  std::unique_ptr<FrameWindow> frame_;
+};
+
+}  // namespace kav

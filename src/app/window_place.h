@@ -1,0 +1,39 @@
+// Where a window stands on the desktop, as the settings keep it.
+#pragma once
+
+#include <QRect>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+class QWidget;
+
+namespace kav {
+
+/// Place and size of a window that is not maximized, and whether it is.
+struct WindowPlace {
+  QRect rect;
+  bool isMaximized = false;
+
+  bool operator==(const WindowPlace&) const = default;
+};
+
+/// "x y width height", followed by "maximized" where it is.
+std::string PrintPlace(const WindowPlace& place);
+
+/// The place that PrintPlace wrote as `text`; nullopt for any other text.
+std::optional<WindowPlace> ReadPlace(std::string_view text);
+
+/// `wanted` moved, and where need be shrunk, to lie within the one of the `desktops` (at least one;
+/// the first is the main one) that it overlaps most.
+QRect MovedOntoDesktop(const QRect& wanted, std::span<const QRect> desktops);
+
+/// Where a first window opens on a desktop: in its middle, of a comfortable size.
+QRect FirstPlace(const QRect& desktop);
+
+/// The place of a window of ours, and how another takes it.
+WindowPlace PlaceOf(const QWidget& window);
+void TakePlace(QWidget& window, const WindowPlace& place);
+
+}  // namespace kav

@@ -1,0 +1,79 @@
+#include "app/look.h"
+
+#include <gtest/gtest.h>
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <vector>
+
+namespace kav {
+namespace {
+
+TEST(Look, AScreenStandsUprightInItsWindow) {
+  struct Row {
+    QSize window;
+    QRect area;
+  };
+  const std::vector<Row> rows{
+      {{240, 320}, {0, 0, 240, 320}},     {{480, 640}, {0, 0, 480, 640}},
+      {{1080, 1440}, {0, 0, 1080, 1440}}, {{360, 560}, {0, 0, 360, 560}},
+      {{1000, 400}, {350, 0, 300, 400}},  {{640, 640}, {80, 0, 480, 640}},
+      {{200, 1000}, {0, 300, 200, 400}},
+  };
+  for (const Row& row : rows) {
+    EXPECT_EQ(PortraitArea(row.window), row.area)
+        << row.window.width() << 'x' << row.window.height();
+  }
+}
+
+TEST(Look, UnitsFillTheAreaWithoutGapsAndOverlaps) {
+  const QRect area(7, 11, 241, 333);
+  const DialogUnits units(area, {136, 153});
+  EXPECT_EQ(units.Pixels({0, 0, 136, 153}), area);
+  int end = area.x();
+  for (int x = 0; x < 136; ++x) {
+    const QRect column = units.Pixels({x, 0, 1, 153});
+    EXPECT_EQ(column.x(), end);
+    end = column.x() + column.width();
+  }
+  EXPECT_EQ(end, area.x() + area.width());
+}
+
+TEST(Look, UnitsScaleByTheirSize) {
+  const DialogUnits units({0, 0, 272, 459}, {136, 153});
+  EXPECT_EQ(units.Pixels({3, 34, 20, 10}), QRect(6, 102, 40, 30));
+}
+
+TEST(Look, TheLargestFittingSizeIsFound) {
+  const std::vector<SpacedText> texts{{"SIN", 40}, {"COSH", 50}, {"W", 60}};
+  const auto fits = [&](int pixels) {
+    const QFontMetricsF metrics(ScreenFont(pixels));
+    for (const SpacedText& text : texts) {
+      if (metrics.horizontalAdvance(text.text) > text.width) return false;
+    }
+    return true;
+  };
+  const int found = FittingPixels(texts, 100, 1);
+  EXPECT_TRUE(fits(found));
+  EXPECT_FALSE(fits(found + 2));
+}
+
+TEST(Look, ASizeIsNeverOutsideItsBounds) {
+  EXPECT_EQ(FittingPixels({{"SIN", 10000}}, 20, 5), 20);
+  EXPECT_EQ(FittingPixels({{"a text much too long", 10}}, 20, 5), 5);
+  EXPECT_EQ(FittingPixels({{"SIN", 0}}, 20, 5), 5);
+  EXPECT_EQ(FittingPixels({}, 20, 5), 20);
+  EXPECT_EQ(FittingPixels({{"SIN", 10}}, 3, 5), 5);
+}
+
+TEST(Look, TheFaceIsTahomaOrTheNextToItThatIsInstalled) {
+  const QString family = QFontInfo(ScreenFont(20)).family();
+  EXPECT_TRUE(
+      QStringList({"Tahoma", "DejaVu Sans Condensed", "DejaVu Sans", "Verdana"}).contains(family))
+      << family.toStdString();
+  EXPECT_EQ(ScreenFont(20).pixelSize(), 20);
+  EXPECT_EQ(ScreenFont(0).pixelSize(), 1);
+}
+
+}  // namespace
+}  // namespace kav

@@ -1,0 +1,99 @@
+// The scientific screen as a screen reader finds it.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <map>
+
+#include "screens/screen_driver.h"
+
+namespace kav::test {
+namespace {
+
+class ScreenAccessibilityTest : public ScientificScreen {
+ protected:
+  QAccessibleInterface& Of(QWidget& widget) {
+    return *QAccessible::queryAccessibleInterface(&widget);
+  }
+  QString NameOf(QWidget& widget) { return Of(widget).text(QAccessible::Name); }
+
+  /// All buttons that a screen reader can reach from the screen, by name.
+  std::map<QString, QAccessibleInterface*> Buttons() {
+    std::map<QString, QAccessibleInterface*> buttons;
+    Collect(&Of(*dlg_), buttons);
+    return buttons;
+  }
+
+ private:
+  static void Collect(QAccessibleInterface* from, std::map<QString, QAccessibleInterface*>& into) {
+    for (int i = 0; i < from->childCount(); ++i) {
+      QAccessibleInterface* child = from->child(i);
+      if (child == nullptr || child->state().invisible) continue;
+      if (child->role() == QAccessible::Button) into[child->text(QAccessible::Name)] = child;
+      Collect(child, into);
+    }
+  }
+};
+
+TEST_F(ScreenAccessibilityTest, EveryKeyIsNamedAsItsCaptionReads) {
+  const auto buttons = Buttons();
+  EXPECT_EQ(buttons.size(), 46U);
+  for (const char* caption :
+       {"DEG", "DEC",   "BS", "DEL", "PB",   "CLR",  "Shift", "Mac", "Cnv", "ABS()", "M/C", "SIN",
+        "COS", "TAN",   "Pi", "nCr", "SINH", "COSH", "TANH",  "LOG", "LN",  "SQRT",  "X^2", "Y^X",
+        "%",   "(...)", "7",  "8",   "9",    "(",    ")",     "4",   "5",   "6",     "*",   "/",
+        "1",   "2",     "3",  "+",   "-",    "0",    "00",    ".",   "Exp", "="}) {
+    EXPECT_TRUE(buttons.contains(caption)) << caption;
+  }
+}
+
+TEST_F(ScreenAccessibilityTest, NamesFollowTheCaptionsOfShiftAndBase) {
+  Tap(u"Shift");
+  EXPECT_TRUE(Buttons().contains("ASIN"));
+  EXPECT_FALSE(Buttons().contains("SIN"));
+  Tap(u"Shift DEC");
+  Choose(u"Hexadecimal");
+  const auto buttons = Buttons();
+  for (const char* caption : {"HEX", "A", "B", "C", "D", "E", "F", "AND", "NOT", "XNOR"}) {
+    EXPECT_TRUE(buttons.contains(caption)) << caption;
+  }
+  EXPECT_FALSE(buttons.contains("SIN"));
+  EXPECT_EQ(buttons.size(), 46U);
+}
+
+TEST_F(ScreenAccessibilityTest, TheActiveShiftKeySaysThatItIsOn) {
+  EXPECT_NE(Buttons().at("Shift")->text(QAccessible::Description), "on");
+  Tap(u"Shift");
+  EXPECT_EQ(Buttons().at("Shift")->text(QAccessible::Description), "on");
+}
+
+TEST_F(ScreenAccessibilityTest, DisabledKeysSaySo) {
+  EXPECT_TRUE(Buttons().at("Mac")->state().disabled);
+  EXPECT_FALSE(Buttons().at("SIN")->state().disabled);
+}
+
+TEST_F(ScreenAccessibilityTest, AScreenReaderPressesAKey) {
+  Buttons().at("SIN")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Line() == u"sin(|)"; }));
+}
+
+TEST_F(ScreenAccessibilityTest, TheLinesHaveNamesAndTheResultItsText) {
+  EXPECT_EQ(NameOf(Expression(*dlg_)), "Expression");
+  EXPECT_EQ(NameOf(Result(*dlg_)), "Result");
+  Tap(u"SIN 3 0 =");
+  EXPECT_EQ(Of(Result(*dlg_)).text(QAccessible::Value), "0.5");
+  EXPECT_EQ(Of(Result(*dlg_)).text(QAccessible::Description), "0.5");
+  EXPECT_EQ(Of(Expression(*dlg_)).text(QAccessible::Value), "sin(30)");
+  EXPECT_TRUE(Of(Result(*dlg_)).state().readOnly);
+  EXPECT_FALSE(Of(Expression(*dlg_)).state().readOnly);
+}
+
+TEST_F(ScreenAccessibilityTest, TheMenusAreNamed) {
+  auto* bar = dlg_->findChild<QMenuBar*>();
+  QAccessibleInterface& menus = Of(*bar);
+  ASSERT_EQ(menus.childCount(), 2);
+  EXPECT_EQ(menus.child(0)->text(QAccessible::Name), "File");
+  EXPECT_EQ(menus.child(1)->text(QAccessible::Name), "Edit");
+}
+
+}  // namespace
+}  // namespace kav::test

@@ -1,0 +1,227 @@
+// The dialogs of other rooms: offered and carried out where they are there, not offered where not.
+#include <gtest/gtest.h>
+
+#include "screens/box_watch.h"
+#include "screens/screen_driver.h"
+#include "settings/keys.h"
+#include "support/stored_macros.h"
+
+namespace kav::test {
+namespace {
+
+class ScreenRoomsTest : public ScientificScreen {
+ protected:
+  /// Opens the screen anew in a frame with the rooms that were set.
+  void OpenWithRooms() {
+    Open();
+    dlg_->activateWindow();
+  }
+  void Evaluate(const QString& line) {
+    Expression(*dlg_).clear();
+    Type(line + "=");
+  }
+};
+
+Rooms AllFakeRooms() {
+  Rooms rooms;
+  rooms.displaySettings = [](QWidget*) { return false; };
+  rooms.unitEditor = [](QWidget*) {};
+  rooms.macroEditor = [](QWidget*) {};
+  rooms.macroList = [](QWidget*) { return std::optional<int>(); };
+  rooms.converter = [](QWidget*, const ConverterInput& input) {
+    return ConverterOutcome{std::nullopt, input.positions, input.memory};
+  };
+  rooms.storeVariable = [](QWidget*, const std::u16string&) {};
+  rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
+  rooms.constants = [](QWidget*) { return std::optional<std::u16string>(); };
+  return rooms;
+}
+
+TEST_F(ScreenRoomsTest, WithoutRoomsNothingThatNeedsOneIsOffered) {
+  EXPECT_EQ(Offered(MenuOf(*dlg_, u"&File")), (Texts{u"&About...", u"E&xit"}));
+  EXPECT_EQ(MenuOf(*dlg_, u"&Mode"), nullptr);
+  EXPECT_FALSE(FindKey(*dlg_, u"Mac")->isEnabled());
+  EXPECT_FALSE(FindKey(*dlg_, u"Cnv")->isEnabled());
+  Tap(u"M/C");
+  EXPECT_EQ(Offered(OpenMenu()),
+            (Texts{u"Memory +", u"Memory -", u"Memory Recall", u"Memory Clear"}));
+  QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+}
+
+TEST_F(ScreenRoomsTest, WithAllRoomsEverythingIsOffered) {
+  frame_.rooms = AllFakeRooms();
+  frame_.others = {{ScreenMode::Plotter, u"Function Plotter"},
+                   {ScreenMode::Matrix, u"Matrix Calculator"}};
+  OpenWithRooms();
+  EXPECT_EQ(Offered(MenuOf(*dlg_, u"&File")),
+            (Texts{u"&About...", u"&Config...", u"Edit &Unit Convert", u"Edit &Macro", u"E&xit"}));
+  EXPECT_EQ(Offered(MenuOf(*dlg_, u"&Mode")), (Texts{u"Function Plotter", u"Matrix Calculator"}));
+  EXPECT_TRUE(FindKey(*dlg_, u"Mac")->isEnabled());
+  EXPECT_TRUE(FindKey(*dlg_, u"Cnv")->isEnabled());
+  Tap(u"M/C");
+  EXPECT_EQ(Offered(OpenMenu()),
+            (Texts{u"Memory +", u"Memory -", u"Memory Recall", u"Memory Clear", u"-",
+                   u"ReCall MemVar", u"Store MemVar", u"-", u"Constants"}));
+  QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+}
+
+TEST_F(ScreenRoomsTest, TheMemoryMenuKeepsNoSeparatorWithoutEntriesOnBothSides) {
+  frame_.rooms.constants = AllFakeRooms().constants;
+  OpenWithRooms();
+  Tap(u"M/C");
+  EXPECT_EQ(Offered(OpenMenu()), (Texts{u"Memory +", u"Memory -", u"Memory Recall", u"Memory Clear",
+                                        u"-", u"Constants"}));
+  QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+}
+
+TEST_F(ScreenRoomsTest, TheModeMenuAsksTheFrameForAnotherScreen) {
+  frame_.others = {{ScreenMode::Plotter, u"Function Plotter"}};
+  OpenWithRooms();
+  ChooseFrom(*dlg_, u"&Mode", u"Function Plotter");
+  EXPECT_EQ(frame_.modes, std::vector<ScreenMode>{ScreenMode::Plotter});
+}
+
+TEST_F(ScreenRoomsTest, MacWithoutMacrosSaysSoAndOpensTheEditor) {
+  int opened = 0;
+  frame_.rooms = AllFakeRooms();
+  frame_.rooms.macroEditor = [&](QWidget*) { ++opened; };
+  OpenWithRooms();
+  BoxWatch::Instance().Expect(QMessageBox::Ok);
+  Tap(u"Mac");
+  const auto seen = BoxWatch::Instance().TakeSeen();
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_EQ(seen[0].text, u"Not exist saved macro");
+  EXPECT_EQ(seen[0].icon, QMessageBox::Critical);
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(dlg_->focusWidget(), &Expression(*dlg_));
+}
+
+TEST_F(ScreenRoomsTest, MacWritesTheCallOfTheMacroThatWasChosen) {
+  StoreMacros(frame_.store, {{"F1", "TYPE1 : F(X)", "x^2"}, {"G", "TYPE2 : F(X,Y)", "x+y"}});
+  std::optional<int> chosen = 0;
+  frame_.rooms = AllFakeRooms();
+  frame_.rooms.macroList = [&](QWidget*) { return chosen; };
+  OpenWithRooms();
+  Tap(u"Mac");
+  EXPECT_EQ(Line(), u"M:F1(| )");
+  Type("3");
+  Tap(u"=");
+  EXPECT_EQ(Answer(), u"9");
+  Put(u"[2]");
+  chosen = 1;
+  Tap(u"Mac");
+  EXPECT_EQ(Line(), u"M:G(2 , )|");
+  chosen.reset();
+  Tap(u"CLR Mac");
+  EXPECT_EQ(Line(), u"|");
+}
+
+TEST_F(ScreenRoomsTest, AMacroMadeInTheEditorIsThereAtOnce) {
+  frame_.rooms = AllFakeRooms();
+  frame_.rooms.macroEditor = [this](QWidget*) {
+    StoreMacros(frame_.store, {{"F1", "TYPE1 : F(X)", "x^2"}});
+  };
+  frame_.rooms.macroList = [](QWidget*) { return std::optional<int>(0); };
+  OpenWithRooms();
+  ChooseFrom(*dlg_, u"&File", u"Edit &Macro");
+  Tap(u"Mac");
+  EXPECT_EQ(Line(), u"M:F1(| )");
+}
+
+TEST_F(ScreenRoomsTest, TheConverterGetsTheAnswerAndItsResultReplacesTheSelection) {
+  ConverterInput given;
+  frame_.rooms = AllFakeRooms();
+  frame_.rooms.converter = [&](QWidget*, const ConverterInput& input) {
+    given = input;
+    return ConverterOutcome{u"25.4", {1, 2, 3}, 7};
+  };
+  OpenWithRooms();
+  Tap(u"Cnv");
+  EXPECT_EQ(given.value, u"1") << "an answer of 0 is handed over as 1";
+  EXPECT_EQ(given.positions, (ConverterPositions{-1, -1, -1}));
+  EXPECT_EQ(Line(), u"25.4|");
+  Evaluate("1000*2");
+  Tap(u"Cnv");
+  EXPECT_EQ(given.value, u"2000") << "no thousands separators";
+  EXPECT_EQ(given.positions, (ConverterPositions{1, 2, 3}));
+  EXPECT_EQ(given.memory, 7);
+  EXPECT_EQ(Line(), u"25.4|");
+}
+
+TEST_F(ScreenRoomsTest, AConverterThatIsCancelledStillLeavesItsPositionsAndTheMemory) {
+  frame_.rooms = AllFakeRooms();
+  frame_.rooms.converter = [&](QWidget*, const ConverterInput&) {
+    return ConverterOutcome{std::nullopt, {4, 5, 6}, 8};
+  };
+  OpenWithRooms();
+  Tap(u"1 Cnv");
+  EXPECT_EQ(Line(), u"1|");
+  Tap(u"CLR M/C");
+  Choose(u"Memory Recall");
+  EXPECT_EQ(Line(), u"8|");
+  dlg_.reset();
+  EXPECT_EQ(frame_.store.Get(kConverterClass), 4);
+  EXPECT_EQ(frame_.store.Get(kConverterInput), 5);
+  EXPECT_EQ(frame_.store.Get(kConverterOutput), 6);
+}
+
+TEST_F(ScreenRoomsTest, MemoryVariablesAreStoredAndRecalledInFloatingPoint) {
+  std::u16string stored;
+  frame_.rooms = AllFakeRooms();
+  frame_.rooms.storeVariable = [&](QWidget*, const std::u16string& value) { stored = value; };
+  frame_.rooms.recallVariable = [&](QWidget*) { return std::optional<std::u16string>(u"1234.5"); };
+  OpenWithRooms();
+  Evaluate("1000*2");
+  EXPECT_EQ(Answer(), u"2,000");
+  Tap(u"M/C");
+  Choose(u"Store MemVar");
+  EXPECT_EQ(stored, u"2000");
+  Tap(u"CLR M/C");
+  Choose(u"ReCall MemVar");
+  EXPECT_EQ(Line(), u"1234.5|");
+}
+
+TEST_F(ScreenRoomsTest, ConstantsAreInsertedAsTheyStand) {
+  frame_.rooms = AllFakeRooms();
+  frame_.rooms.constants = [](QWidget*) { return std::optional<std::u16string>(u"6.6260755E-34"); };
+  OpenWithRooms();
+  Tap(u"M/C");
+  Choose(u"Constants");
+  EXPECT_EQ(Line(), u"6.6260755E-34|");
+  EXPECT_TRUE(LineHasFocus());
+}
+
+TEST_F(ScreenRoomsTest, ConfigClosedWithOkShowsTheAnswerInTheNewFormat) {
+  bool isOk = false;
+  frame_.rooms = AllFakeRooms();
+  frame_.rooms.displaySettings = [&](QWidget*) {
+    frame_.store.Set(kDisplayType, 1);
+    frame_.store.Set(kPrecision, 2);
+    return isOk;
+  };
+  OpenWithRooms();
+  Evaluate("3/8");
+  Type("77");
+  ChooseFrom(*dlg_, u"&File", u"&Config...");
+  EXPECT_EQ(Answer(), u"0.375");
+  isOk = true;
+  ChooseFrom(*dlg_, u"&File", u"&Config...");
+  EXPECT_EQ(Answer(), u"0.38");
+  EXPECT_EQ(Line(), u"77|") << "what was typed meanwhile stays";
+}
+
+TEST_F(ScreenRoomsTest, AboutTellsNameAndVersion) {
+  BoxWatch::Instance().Expect(QMessageBox::Ok);
+  ChooseFrom(*dlg_, u"&File", u"&About...");
+  const auto seen = BoxWatch::Instance().TakeSeen();
+  ASSERT_EQ(seen.size(), 1U);
+  EXPECT_TRUE(ToQt(seen[0].text).startsWith("Kav Calculator 2.5"));
+}
+
+TEST_F(ScreenRoomsTest, ExitAsksTheFrameToEnd) {
+  ChooseFrom(*dlg_, u"&File", u"E&xit");
+  EXPECT_EQ(frame_.exits, 1);
+}
+
+}  // namespace
+}  // namespace kav::test

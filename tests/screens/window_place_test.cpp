@@ -1,0 +1,60 @@
+#include "app/window_place.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <vector>
+
+namespace kav {
+namespace {
+
+TEST(WindowPlace, PrintsFourNumbersAndMaximized) {
+  EXPECT_EQ(PrintPlace({{10, 20, 300, 400}}), "10 20 300 400");
+  EXPECT_EQ(PrintPlace({{-10, 0, 1, 2}, true}), "-10 0 1 2 maximized");
+}
+
+TEST(WindowPlace, ReadsWhatItPrints) {
+  for (const WindowPlace& place :
+       {WindowPlace{{10, 20, 300, 400}}, WindowPlace{{-1920, -30, 240, 320}, true}}) {
+    EXPECT_EQ(ReadPlace(PrintPlace(place)), place);
+  }
+}
+
+TEST(WindowPlace, RefusesWhatIsNoPlace) {
+  for (const char* text :
+       {"", " ", "1", "1 2 3", "1 2 3 4 5", "1 2 3 4 maximised", "1 2 0 4", "1 2 3 -4", "a b c d",
+        "1  2 3 4", "1 2 3 1e99", "1 2 nan 4", "inf 2 3 4", "1 2 3 99999999999"}) {
+    EXPECT_EQ(ReadPlace(text), std::nullopt) << text;
+  }
+}
+
+TEST(WindowPlace, IsMovedOntoTheDesktopThatItOverlapsMost) {
+  const std::array desktops{QRect(0, 0, 1000, 800), QRect(1000, 0, 1000, 800)};
+  struct Row {
+    QRect wanted;
+    QRect place;
+  };
+  const std::vector<Row> rows{
+      {{100, 100, 300, 400}, {100, 100, 300, 400}},    // lies within
+      {{900, 100, 300, 400}, {1000, 100, 300, 400}},   // mostly on the second
+      {{-50, 100, 300, 400}, {0, 100, 300, 400}},      // over the left edge
+      {{100, 700, 300, 400}, {100, 400, 300, 400}},    // over the bottom
+      {{5000, 5000, 300, 400}, {700, 400, 300, 400}},  // nowhere: the main desktop
+      {{1100, 10, 5000, 90}, {1000, 10, 1000, 90}},    // too wide
+      {{0, 0, 3000, 3000}, {0, 0, 1000, 800}},         // too large
+  };
+  for (const Row& row : rows) {
+    const QRect place = MovedOntoDesktop(row.wanted, desktops);
+    EXPECT_EQ(place, row.place) << place.x() << ' ' << place.y() << ' ' << place.width() << ' '
+                                << place.height();
+  }
+}
+
+TEST(WindowPlace, FirstWindowsAreInTheMiddleAndNeverLargerThanTheDesktop) {
+  EXPECT_EQ(FirstPlace({0, 0, 1360, 1560}), QRect(500, 500, 360, 560));
+  EXPECT_EQ(FirstPlace({0, 0, 240, 320}), QRect(0, 0, 240, 320));
+  EXPECT_EQ(FirstPlace({100, 0, 1360, 320}), QRect(600, 0, 360, 320));
+}
+
+}  // namespace
+}  // namespace kav
