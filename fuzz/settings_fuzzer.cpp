@@ -1,0 +1,98 @@
+// Settings files of any content: reading one ends, and saving over it loses nothing that could be
+// read.
+#include <unistd.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "settings/setting_key.h"
+#include "settings/settings_toml.h"
+#include "settings/toml_library.h"
+#include "settings/toml_writer.h"
+#include "settings/user_settings_store.h"
+
+namespace {
+
+constexpr kav::SettingKey<std::int32_t> kNumber{"Config", "Angle Type", 1};
+constexpr kav::SettingKey<std::string_view> kText{"History", "CalHistory1", ""};
+constexpr std::string_view kLine = "2*sin(30) \"#\\\n";
+
+/// The folder of the run, in memory where the system offers one there; gone at the end.
+class Folder {
+ public:
+  Folder() {
+    const char* base = std::filesystem::exists("/dev/shm") ? "/dev/shm" : "/tmp";
+    path_ = std::string(base) + "/kav-settings-fuzzer-XXXXXX";
+    if (mkdtemp(path_.data()) == nullptr) std::abort();
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  ~Folder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+
+  std::string SettingsFile() const { return path_ + "/settings.toml"; }
+
+ private:
+  std::string path_;
+};
+
+void Check(bool holds) {
+  if (!holds) std::abort();
+}
+
+std::string FileContent(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// What is read is written so that it reads the same. (A table with "not a number" in it is not
+/// even equal to itself.)
+void CheckWriting(std::string_view input) {
+  const auto parsed = toml::parse(input);
+  if (!parsed || !(parsed.table() == parsed.table())) return;
+  const std::string written = kav::PrintToml(parsed.table());
+  const auto again = toml::parse(written);
+  Check(again && again.table() == parsed.table());
+  Check(kav::PrintToml(again.table()) == written);
+}
+
+void CheckStore(const std::string& path, const std::string& input) {
+  std::ofstream(path, std::ios::binary) << input;
+  const auto before = kav::ReadSettings(input);
+  kav::UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  store.Set(kText, kLine);
+  Check(store.Get(kNumber) == 2 && store.Get(kText) == kLine);
+  if (!store.Save()) {
+    Check(FileContent(path) == input);
+    return;
+  }
+  kav::SettingsTable expected = before.value_or(kav::SettingsTable());
+  expected["Config"]["Angle Type"] = 2;
+  expected["History"]["CalHistory1"] = std::string(kLine);
+  Check(kav::ReadSettings(FileContent(path)) == expected);
+  const kav::UserSettingsStore reader(path);
+  Check(reader.Get(kNumber) == 2 && reader.Get(kText) == kLine);
+  if (!before) Check(FileContent(path + ".damaged") == input);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static const Folder folder;
+  const std::string path = folder.SettingsFile();
+  const std::string input(reinterpret_cast<const char*>(data), size);
+  if (kav::ReadSettings(input)) CheckWriting(input);
+  CheckStore(path, input);
+  unlink((path + ".damaged").c_str());
+  return 0;
+}
