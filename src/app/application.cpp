@@ -43,6 +43,7 @@ int RunApplication(int argc, char** argv) {
   SingleInstance instance =
       SingleInstance::Claim(OpenMeetingFolder(Environment("XDG_RUNTIME_DIR"), "/tmp"), kPatience);
   if (instance.Result() == SingleInstance::Outcome::Called) return 0;
+  HoldEndSignals();
   // A menu bar of the desktop's own would not stand at the bottom of the screen.
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication application(argc, argv);

@@ -12,20 +12,32 @@
 namespace kav {
 namespace {
 
-/// The signals that ask a program to end, to be read from a descriptor instead of ending it at
-/// once.
-FileDescriptor EndSignals() {
+/// The signals that ask a program to end.
+sigset_t EndSignals() {
   sigset_t ends;
   sigemptyset(&ends);
   for (const int number : {SIGTERM, SIGINT, SIGHUP}) sigaddset(&ends, number);
-  sigprocmask(SIG_BLOCK, &ends, nullptr);
+  return ends;
+}
+
+/// Where they are read.
+FileDescriptor OpenEndSignals() {
+  HoldEndSignals();
+  const sigset_t ends = EndSignals();
   return FileDescriptor(signalfd(-1, &ends, SFD_CLOEXEC | SFD_NONBLOCK));
 }
 
 }  // namespace
 
+void HoldEndSignals() {
+  const sigset_t ends = EndSignals();
+  pthread_sigmask(SIG_BLOCK, &ends, nullptr);
+}
+
 Session::Session(SingleInstance instance, std::string settingsPath)
-    : store_(std::move(settingsPath)), instance_(std::move(instance)), endSignals_(EndSignals()) {
+    : store_(std::move(settingsPath)),
+      instance_(std::move(instance)),
+      endSignals_(OpenEndSignals()) {
   const auto later = [this](void (Session::*what)()) {
     return [this, what] {
       QMetaObject::invokeMethod(
