@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <array>
 #include <csignal>
 #include <cstdlib>
+#include <thread>
 
 #include "screens/box_watch.h"
 #include "screens/screen_driver.h"
@@ -194,6 +196,23 @@ TEST_F(SessionTest, AKillLosesNothingThatWasAnswered) {
   EXPECT_EQ(store.Get(kCalHistoryCount), 2);
   EXPECT_EQ(store.Get(CalHistoryEntry(1)), "=[D]0.5");
   EXPECT_EQ(store.Get(CalHistoryEntry(2)), "sin(30)");
+}
+
+// On a real display the toolkit starts threads, and a signal may reach any of them.
+TEST(EndSignals, AreHeldInThreadsThatStartLater) {
+  constexpr std::array kEnds{SIGTERM, SIGINT, SIGHUP};
+  sigset_t ends;
+  sigemptyset(&ends);
+  for (const int number : kEnds) sigaddset(&ends, number);
+  sigset_t held;
+  sigemptyset(&held);
+  // In a thread of its own: sessions before this test hold the signals in the first one.
+  std::thread([&] {
+    pthread_sigmask(SIG_UNBLOCK, &ends, nullptr);
+    HoldEndSignals();
+    std::thread([&held] { pthread_sigmask(SIG_BLOCK, nullptr, &held); }).join();
+  }).join();
+  for (const int number : kEnds) EXPECT_EQ(sigismember(&held, number), 1) << number;
 }
 
 }  // namespace
