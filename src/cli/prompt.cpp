@@ -24,7 +24,7 @@ std::vector<std::string> KnownNames(BaseMode base, const MacroStore& macros) {
       names.push_back(std::string(function.name) + "(");
     }
   }
-  for (int i = 0; i < macros.Count(); ++i) names.push_back("M:" + macros.Name(i) + "(");
+  for (int i = 0; i < macros.Count(); ++i) names.push_back("M:" + macros.At(i).name + "(");
   return names;
 }
 

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <map>
 #include <utility>
 
 #include "common/number_text.h"
@@ -75,48 +74,20 @@ std::string FormulaFailure(const std::string& formula, VariableType type, const 
   return isInvalid ? std::string(kMacroFormulaInvalid) : error.message;
 }
 
-/// The macros called in one line. Each is looked up and checked at its first call only.
-class CalledMacros {
- public:
-  CalledMacros(CalcModes modes, const MacroStore& store) : modes_(modes), store_(store) {}
-
-  Expected<double, std::string> Value(const Call& call) {
-    auto called = macros_.find(call.name);
-    if (called == macros_.end()) {
-      const auto index = store_.Find(call.name);
-      if (!index) return std::string(kMacroNameUnknown);
-      called = macros_.emplace(call.name, Macro{*index, store_.Type(*index), {}}).first;
-    }
-    return Apply(called->second, call.arguments);
-  }
-
- private:
-  struct Macro {
-    int index;
-    VariableType type;
-    std::optional<CheckedFormula> formula;
-  };
-
-  Expected<double, std::string> Apply(Macro& macro, std::string_view arguments) {
-    const auto values = ReadArguments(arguments, macro.type, modes_);
-    if (!values) return std::string(kMacroArgumentsWrong);
-    if (!macro.formula) {
-      const std::string formula = store_.Formula(macro.index);
-      const auto checked = CheckFormula(formula, macro.type);
-      if (!checked) return FormulaFailure(formula, macro.type, checked.error());
-      macro.formula = *checked;
-    }
-    engine_.SetAngleUnit(modes_.angleUnit);
-    engine_.EvaluateTokens(*macro.formula, *values);
-    if (engine_.HasError()) return std::string(engine_.GetErrorText());
-    return engine_.GetResult();
-  }
-
-  CalcModes modes_;
-  const MacroStore& store_;
-  ExpressionEngine engine_;
-  std::map<std::string_view, Macro> macros_;
-};
+Expected<double, std::string> ValueOf(const Call& call, CalcModes modes, const MacroStore& macros) {
+  const auto index = macros.Find(call.name);
+  if (!index) return std::string(kMacroNameUnknown);
+  const Macro& macro = macros.At(*index);
+  const auto values = ReadArguments(call.arguments, macro.type, modes);
+  if (!values) return std::string(kMacroArgumentsWrong);
+  const auto& formula = macros.Checked(*index);
+  if (!formula) return FormulaFailure(macro.formula, macro.type, formula.error());
+  ExpressionEngine engine;
+  engine.SetAngleUnit(modes.angleUnit);
+  engine.EvaluateTokens(*formula, *values);
+  if (engine.HasError()) return std::string(engine.GetErrorText());
+  return engine.GetResult();
+}
 
 }  // namespace
 
@@ -126,7 +97,6 @@ bool HoldsMacroCall(std::string_view line) {
 
 Expected<ExpandedLine, std::string> ExpandMacros(std::string_view line, CalcModes modes,
                                                  const MacroStore& macros) {
-  CalledMacros called(modes, macros);
   ExpandedLine expanded;
   std::string& text = expanded.text;
   // What stands before a call is never looked at again: a value holds no call, and none can begin
@@ -138,7 +108,7 @@ Expected<ExpandedLine, std::string> ExpandMacros(std::string_view line, CalcMode
     }
     const auto call = ReadCall(line.substr(mark + kCallMark.size()));
     if (!call) return std::string(call.error());
-    auto value = called.Value(*call);
+    auto value = ValueOf(*call, modes, macros);
     if (!value) return std::move(value).error();
     if (text.empty() && call->behind.empty()) expanded.wholeValue = *value;
     AppendFixed(text, *value, kEmbeddedDecimals);

@@ -1,7 +1,12 @@
 // What the user reads about macros and their calls.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <string>
 #include <string_view>
+
+#include "common/number_text.h"
 
 namespace kav {
 
@@ -11,10 +16,65 @@ inline constexpr std::string_view kMacroArgumentsWrong = "Macro argument error";
 inline constexpr std::string_view kMacroFormulaInvalid = "Macro formula is invalid";
 inline constexpr std::string_view kLineIsEmpty = "Expression is null.";
 
-// The types of macros as they are stored; every other text stands for three arguments.
+// The types of macros as they are stored and chosen; every text but the first two stands for three
+// arguments.
 inline constexpr std::string_view kMacroTypeX = "TYPE1 : F(X)";
 inline constexpr std::string_view kMacroTypeXY = "TYPE2 : F(X,Y)";
+inline constexpr std::string_view kMacroTypeXYZ = "TYPE3 : F(X,Y,Z)";
+
+// What follows a macro's name in a list, by its type.
+inline constexpr std::u16string_view kMacroArgumentsX = u"(X)";
+inline constexpr std::u16string_view kMacroArgumentsXY = u"(X,Y)";
+inline constexpr std::u16string_view kMacroArgumentsXYZ = u"(X,Y,Z)";
 
 inline constexpr std::u16string_view kNoMacroStored = u"Not exist saved macro";
+
+// The captions of the editor and of the list.
+inline constexpr std::u16string_view kMacroEditorTitle = u"Edit Macro";
+inline constexpr std::u16string_view kMacroListTitle = u"Macro List";
+inline constexpr std::u16string_view kMacroNameCaption = u"Macro Name";
+inline constexpr std::u16string_view kMacroTypeCaption = u"Argument Type";
+inline constexpr std::u16string_view kFunctionsButton = u"F(X)";
+inline constexpr std::u16string_view kVariablesButton = u"Variables";
+inline constexpr std::u16string_view kDeleteMacroQuestion =
+    u"Are you sure you want to delete the selected macro?";
+
+// What a list of macros and a formula that is only shown are called, where no caption says so.
+inline constexpr std::u16string_view kMacroListName = u"Macros";
+inline constexpr std::u16string_view kFormulaName = u"Formula";
+
+inline std::u16string DecimalText(std::size_t number) {
+  return Widen(PrintInteger(static_cast<std::int64_t>(number)));
+}
+
+inline std::u16string MacroFormulaCaption(std::size_t most) {
+  return u"Macro Expression(Max Len:" + DecimalText(most) + u")";
+}
+
+inline std::u16string MacroListCaption(std::size_t count, std::size_t most) {
+  return u"List(" + DecimalText(count) + u"/" + DecimalText(most) + u")";
+}
+
+// Why a macro is not saved.
+inline constexpr std::u16string_view kMacroNameIsNull = u"Macro Name is NULL";
+inline constexpr std::u16string_view kMacroNameHasMarks = u"Can not use '(',')',':' in Macro Name.";
+inline constexpr std::u16string_view kMacroTypeIsNull = u"Argument Type is NULL";
+inline constexpr std::u16string_view kMacroFormulaIsNull = u"Macro Expression is NULL";
+
+inline std::u16string MaximumOfMacros(std::size_t most) {
+  return u"Maximum of macro is " + DecimalText(most);
+}
+
+inline std::u16string MacroExistsAlready(std::u16string_view name) {
+  // Names may be of any length, boxes may not.
+  constexpr std::size_t kMostShown = 200;
+  const bool isCut = name.size() > kMostShown;
+  return std::u16string(name.substr(0, kMostShown)) + (isCut ? u"…" : u"") + u" exists already.";
+}
+
+inline std::u16string MacroFormulaIsTooLong(std::size_t length, std::size_t most) {
+  return u"Macro Expression has " + DecimalText(length) + u" characters, more than " +
+         DecimalText(most) + u".";
+}
 
 }  // namespace kav

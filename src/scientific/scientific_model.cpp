@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "common/number_text.h"
-#include "macros/macro_store.h"
+#include "macros/macro_expansion.h"
 #include "macros/macros_texts.h"
 #include "scientific/scientific_texts.h"
 #include "scientific/shown_number.h"
@@ -29,6 +29,7 @@ std::u16string_view ArgumentPlaces(VariableType type) {
 
 ScientificModel::ScientificModel(SettingsStore& store)
     : store_(store),
+      macros_(store),
       modes_{AngleUnitFromSetting(store.Get(kAngleType)),
              BaseModeFromSetting(store.Get(kBaseType))},
       format_(LoadDisplayFormat(store)),
@@ -120,8 +121,10 @@ void ScientificModel::Change(Key key) {
   }
 }
 
-KeyRequest ScientificModel::MacroRequest() const {
-  if (MacroStore(store_).Count() == 0) return OpenMacroEditor{kNoMacroStored};
+KeyRequest ScientificModel::MacroRequest() {
+  // Another program may have stored the first one.
+  store_.Refresh();
+  if (macros_.Count() == 0) return OpenMacroEditor{kNoMacroStored};
   return OpenMacroList{};
 }
 
@@ -139,7 +142,10 @@ KeyRequest ScientificModel::ConverterRequest() const {
 
 void ScientificModel::Evaluate() {
   expression_ = line_.Text();
-  const auto value = EvaluateLine(Narrow(expression_), modes_, MacroStore(store_));
+  const std::string line = Narrow(expression_);
+  // A macro that another program stored a moment ago is there to be called.
+  if (HoldsMacroCall(line)) store_.Refresh();
+  const auto value = EvaluateLine(line, modes_, macros_);
   if (value) {
     Answer(*value);
   } else {
@@ -230,10 +236,10 @@ void ScientificModel::TakeConverter(const ConverterOutcome& outcome) {
 }
 
 void ScientificModel::TakeMacro(int index) {
-  const MacroStore macros(store_);
-  if (index < 0 || index >= macros.Count()) return;
-  const std::u16string prefix = u"M:" + Widen(macros.Name(index)) + u"(";
-  line_.WrapSelection(prefix, ArgumentPlaces(macros.Type(index)), prefix.size() - 1);
+  if (index < 0 || index >= macros_.Count()) return;
+  const Macro& macro = macros_.At(index);
+  const std::u16string prefix = u"M:" + Widen(macro.name) + u"(";
+  line_.WrapSelection(prefix, ArgumentPlaces(macro.type), prefix.size() - 1);
 }
 
 void ScientificModel::TakeVariable(std::u16string_view value) {

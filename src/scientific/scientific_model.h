@@ -8,6 +8,7 @@
 #include "engine/calc_modes.h"
 #include "engine/number_format.h"
 #include "macros/line_evaluator.h"
+#include "macros/macro_store.h"
 #include "scientific/expression_line.h"
 #include "scientific/history.h"
 #include "scientific/key_request.h"
@@ -80,10 +81,11 @@ class ScientificModel {
   void Fail(const LineFailure& failure);
   void ShowAnswer();
   void Insert(double value);
-  KeyRequest MacroRequest() const;
+  KeyRequest MacroRequest();
   KeyRequest ConverterRequest() const;
 
   SettingsStore& store_;
+  MacroStore macros_;
   CalcModes modes_;
   DisplayFormat format_;
   ConverterPositions positions_;

@@ -24,6 +24,15 @@ inline constexpr IntegerKey kBaseType{"Config", "Base Type", 1};
 inline constexpr IntegerKey kDisplayType{"Config", "Display Type", 3};
 inline constexpr IntegerKey kPrecision{"Config", "Precision", 7};
 
+// The same of the matrix screen's cells, and what a new matrix is like: rows and columns (1 to 10),
+// the alignment of its cells (0 left, 1 right) and the width of its columns in pixels.
+inline constexpr IntegerKey kMatrixDisplayType{"Config", "Matrix Display Type", 0};
+inline constexpr IntegerKey kMatrixPrecision{"Config", "Matrix Precision", 12};
+inline constexpr IntegerKey kMatrixRows{"Config", "Matrix Default Row", 3};
+inline constexpr IntegerKey kMatrixColumns{"Config", "Matrix Default Col", 3};
+inline constexpr IntegerKey kMatrixAlignment{"Config", "Matrix Default Value", 0};
+inline constexpr IntegerKey kMatrixColumnWidth{"Config", "Matrix Colum Width", 60};
+
 // The scientific screen's history: a count, then entries numbered from 1, the newest last.
 inline constexpr IntegerKey kCalHistoryCount{"History", "CalHistoryCount", 0};
 inline NumberedKey CalHistoryEntry(int number) {
@@ -48,6 +57,11 @@ inline NumberedKey MacroType(int index) {
 }
 inline NumberedKey MacroFormula(int index) {
   return {MacroSection(index), "Formula", ""};
+}
+
+// The memory variables, numbered from 0: numbers as texts.
+inline NumberedKey MemoryVariable(int index) {
+  return {"MemoryVar", "Var" + std::to_string(index), "0"};
 }
 
 // The window's place and size on the desktop ("x y width height", with " maximized" behind it where

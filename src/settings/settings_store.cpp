@@ -19,15 +19,25 @@ std::string SettingsStore::Get(const NumberedKey& key) const {
 }
 
 void SettingsStore::Set(const SettingKey<std::int32_t>& key, std::int32_t value) {
-  Write(key.section, key.name, value);
+  Put(key.section, key.name, value);
 }
 
 void SettingsStore::Set(const SettingKey<std::string_view>& key, std::string_view value) {
-  Write(key.section, key.name, std::string(value));
+  Put(key.section, key.name, std::string(value));
 }
 
 void SettingsStore::Set(const NumberedKey& key, std::string_view value) {
-  Write(key.section, key.name, std::string(value));
+  Put(key.section, key.name, std::string(value));
+}
+
+bool SettingsStore::Change(const std::function<void()>& change) {
+  change();
+  return true;
+}
+
+void SettingsStore::Put(std::string_view section, std::string_view name, StoredSetting value) {
+  Write(section, name, std::move(value));
+  MarkChanged();
 }
 
 bool MemorySettingsStore::Holds(std::string_view section, std::string_view name) const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -35,10 +36,30 @@ class SettingsStore {
   void Set(const SettingKey<std::string_view>& key, std::string_view value);
   void Set(const NumberedKey& key, std::string_view value);
 
+  /// Runs `change`, which reads and writes settings of this store, as one step for all programs
+  /// that share them: it finds what the others stored before and none of them stores anything until
+  /// all is kept. For changes whose result depends on what is stored, such as the next free number.
+  /// Not to be called within another change. False where it could only be made in memory.
+  virtual bool Change(const std::function<void()>& change);
+
+  /// Takes over what other programs stored since; what this one changed and has not saved yet
+  /// stays.
+  virtual void Refresh() {}
+
+  /// Differs from what it was before wherever any setting may have changed in between.
+  std::uint64_t Revision() const { return revision_; }
+
+ protected:
+  /// To be called where settings change otherwise than by Set.
+  void MarkChanged() { ++revision_; }
+
  private:
   virtual std::optional<StoredSetting> Read(std::string_view section,
                                             std::string_view name) const = 0;
   virtual void Write(std::string_view section, std::string_view name, StoredSetting value) = 0;
+  void Put(std::string_view section, std::string_view name, StoredSetting value);
+
+  std::uint64_t revision_ = 0;
 };
 
 /// Settings that live as long as the object: for tests, and for a run without a place to keep them.

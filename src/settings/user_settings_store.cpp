@@ -91,18 +91,48 @@ void UserSettingsStore::Refresh() {
   if (!stored_) return;
   const auto content = ReadFile(path_);
   if (!content || !*content) return;
-  if (auto settings = ReadSettings(**content)) stored_ = std::move(settings);
+  auto settings = ReadSettings(**content);
+  if (!settings || settings == stored_) return;
+  stored_ = std::move(settings);
+  MarkChanged();
 }
 
 bool UserSettingsStore::Save() {
   if (changes_.empty()) return true;
-  auto failure = SaveChanges();
+  return Kept(WithLock([this](const std::string& file) { return SaveOver(file); }));
+}
+
+bool UserSettingsStore::Change(const std::function<void()>& change) {
+  bool isMade = false;
+  auto failure = WithLock([&](const std::string& file) -> std::optional<std::u16string> {
+    Refresh();
+    change();
+    isMade = true;
+    if (changes_.empty()) return std::nullopt;
+    return SaveOver(file);
+  });
+  if (!isMade) change();
+  return Kept(std::move(failure));
+}
+
+bool UserSettingsStore::Kept(std::optional<std::u16string> failure) {
   if (!failure) return true;
+  failure_ = *failure;
   Tell(*std::move(failure));
   return false;
 }
 
-std::optional<std::u16string> UserSettingsStore::SaveChanges() {
+std::optional<std::u16string> UserSettingsStore::TakeBackUnsaved() {
+  if (changes_.empty()) return std::nullopt;
+  changes_.clear();
+  MarkChanged();
+  return failure_;
+}
+
+/// Does `action` on the file behind all links while no other process saves; answers its failure or
+/// that to get the lock.
+std::optional<std::u16string> UserSettingsStore::WithLock(
+    const std::function<std::optional<std::u16string>(const std::string& file)>& action) {
   if (path_.empty()) return SettingsCannotBeSaved(path_, FileError::BadPath);
   const std::string file = FollowLinks(path_);
   MakeFoldersFor(file);
@@ -113,7 +143,7 @@ std::optional<std::u16string> UserSettingsStore::SaveChanges() {
     return SettingsCannotBeSaved(path_, lock.error());
   }
   patience_ = kPatience;
-  return SaveOver(file);
+  return action(file);
 }
 
 /// With the lock in hand.
@@ -135,6 +165,7 @@ std::optional<std::u16string> UserSettingsStore::SaveOver(const std::string& fil
   if (error) return SettingsCannotBeSaved(path_, *error);
   stored_ = std::move(readBack);
   changes_.clear();
+  MarkChanged();
   return std::nullopt;
 }
 

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <deque>
+#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -34,10 +35,18 @@ class UserSettingsStore final : public SettingsStore {
   /// was free once.
   bool Save();
 
-  /// Takes over what other processes wrote since; changes of this one that are not saved yet stay.
+  /// Holds the file's lock from before the file is read anew until the change, with all that was
+  /// changed earlier, is on the disk. Where that cannot be, the change is made in memory, to be
+  /// saved with the next save.
+  bool Change(const std::function<void()>& change) override;
+
+  /// Takes back what was changed and could not be saved, for whoever must not go on with what will
+  /// not last. Answers why it could not, as a notice told or tells; nullopt where nothing waits.
+  std::optional<std::u16string> TakeBackUnsaved();
+
   /// For what opens late and should show the others' entries too. No effect where the file cannot
   /// be read, and none before settings were first asked for, which reads them anyway.
-  void Refresh();
+  void Refresh() override;
 
   /// The next thing to tell the user, nullopt where there is none. Each is told once in the life of
   /// the store. Ask after settings were first read, and after saving.
@@ -48,7 +57,9 @@ class UserSettingsStore final : public SettingsStore {
   void Write(std::string_view section, std::string_view name, StoredSetting value) override;
 
   const SettingsTable& Stored() const;
-  std::optional<std::u16string> SaveChanges();
+  bool Kept(std::optional<std::u16string> failure);
+  std::optional<std::u16string> WithLock(
+      const std::function<std::optional<std::u16string>(const std::string& file)>& action);
   std::optional<std::u16string> SaveOver(const std::string& file);
   SettingsTable All() const;
   void Tell(std::u16string text) const;
@@ -56,6 +67,7 @@ class UserSettingsStore final : public SettingsStore {
   std::string path_;
   std::chrono::milliseconds patience_;
   SettingsTable changes_;
+  std::u16string failure_;  ///< why the last try to save them was none
   // What the file held when it was last read; reading it late is no change that anybody sees.
   mutable std::optional<SettingsTable> stored_;
   mutable std::deque<std::u16string> notices_;

@@ -30,6 +30,12 @@ const std::vector<IntegerRow> kIntegers{
     {kConverterInput, "Convert", "InputTypePos", -1},
     {kConverterOutput, "Convert", "OutputTypePos", -1},
     {kMacroCount, "MacroInfo", "TotalNumber", 0},
+    {kMatrixDisplayType, "Config", "Matrix Display Type", 0},
+    {kMatrixPrecision, "Config", "Matrix Precision", 12},
+    {kMatrixRows, "Config", "Matrix Default Row", 3},
+    {kMatrixColumns, "Config", "Matrix Default Col", 3},
+    {kMatrixAlignment, "Config", "Matrix Default Value", 0},
+    {kMatrixColumnWidth, "Config", "Matrix Colum Width", 60},
 };
 
 struct TextRow {
@@ -56,6 +62,8 @@ const std::vector<TextRow> kTexts{
     {MacroName(59), "Macro59", "Name", ""},
     {MacroType(59), "Macro59", "Type", ""},
     {MacroFormula(59), "Macro59", "Formula", ""},
+    {MemoryVariable(0), "MemoryVar", "Var0", "0"},
+    {MemoryVariable(19), "MemoryVar", "Var19", "0"},
 };
 
 TEST(Keys, IntegersAreSpelledAndDefaultedAsUsersFilesHaveThem) {

@@ -157,6 +157,43 @@ TEST(SettingsFailure, WithoutAPlaceTheUserIsToldWhenSomethingShouldBeSaved) {
   EXPECT_TRUE(SuffersOnce(store, std::u16string(kNoPlaceForSettings)));
 }
 
+TEST(SettingsFailure, AChangeThatCannotBeSavedIsMadeInMemoryAndTold) {
+  const TemporaryFolder folder;
+  PutFile(folder.File("file"), "");
+  const std::string path = folder.File("file/settings.toml");
+  UserSettingsStore store(path);
+  EXPECT_FALSE(store.Change([&] { store.Set(kNumber, 9); }));
+  EXPECT_EQ(store.Get(kNumber), 9);
+  EXPECT_TRUE(store.TakeNotice());
+  EXPECT_FALSE(store.Change([&] { store.Set(kNumber, 10); }));
+  EXPECT_EQ(store.Get(kNumber), 10);
+  EXPECT_FALSE(store.TakeNotice()) << "it is told once";
+  UserSettingsStore nowhere("");
+  EXPECT_FALSE(nowhere.Change([&] { nowhere.Set(kNumber, 9); }));
+  EXPECT_EQ(nowhere.Get(kNumber), 9);
+}
+
+TEST(SettingsFailure, WhatCouldNotBeSavedCanBeTakenBack) {
+  const TemporaryFolder folder;
+  const std::string path = folder.File("place/settings.toml");
+  PutFile(folder.File("place"), "");
+  UserSettingsStore store(path);
+  EXPECT_EQ(store.TakeBackUnsaved(), std::nullopt) << "nothing waits";
+  for (const int round : {1, 2}) {
+    store.Change([&] { store.Set(kNumber, round); });
+    const auto revision = store.Revision();
+    EXPECT_EQ(store.TakeBackUnsaved(), SettingsCannotBeSaved(path, FileError::BadPath)) << round;
+    EXPECT_EQ(store.Get(kNumber), 42) << "as before the change";
+    EXPECT_NE(store.Revision(), revision);
+    EXPECT_EQ(store.TakeBackUnsaved(), std::nullopt) << "once is enough";
+  }
+  unlink(folder.File("place").c_str());
+  EXPECT_TRUE(store.Change([&] { store.Set(kText, "later"); }));
+  EXPECT_EQ(store.TakeBackUnsaved(), std::nullopt) << "all is kept";
+  EXPECT_EQ(UserSettingsStore(path).Get(kText), "later");
+  EXPECT_EQ(UserSettingsStore(path).Get(kNumber), 42);
+}
+
 TEST(SettingsFailure, APlaceThatCannotBeIsToldOnce) {
   const TemporaryFolder folder;
   PutFile(folder.File("file"), "");

@@ -49,6 +49,24 @@ TEST(SettingsProcesses, WritersAtTheSameTimeLoseNoEntry) {
   }
 }
 
+TEST(SettingsProcesses, ChangesAtTheSameTimeAreMadeOneAfterTheOther) {
+  const TemporaryFolder folder;
+  const std::string path = folder.File("settings.toml");
+  constexpr SettingKey<std::int32_t> kCounter{"A", "Counter", 0};
+  std::vector<pid_t> counters;
+  for (int process = 0; process < kProcesses; ++process) {
+    counters.push_back(StartProcess([&] {
+      UserSettingsStore store(path);
+      for (int i = 0; i < kSavesEach; ++i) {
+        if (!store.Change([&] { store.Set(kCounter, store.Get(kCounter) + 1); })) return 1;
+      }
+      return 0;
+    }));
+  }
+  for (const pid_t counter : counters) EXPECT_EQ(ResultOf(counter), 0);
+  EXPECT_EQ(UserSettingsStore(path).Get(kCounter), kProcesses * kSavesEach);
+}
+
 /// Saves two settings that always agree, again and again, until killed.
 int SaveForever(const std::string& path, std::int32_t start) {
   UserSettingsStore store(path);

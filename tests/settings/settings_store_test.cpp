@@ -100,5 +100,28 @@ TEST(SettingsStore, ATextIsCopiedAtOnce) {
   EXPECT_EQ(store.Get(kText), "before");
 }
 
+TEST(SettingsStore, AChangeIsMadeWhereItStands) {
+  MemorySettingsStore store;
+  constexpr SettingKey<std::int32_t> kCounter{"A", "Counter", 5};
+  EXPECT_TRUE(store.Change([&] { store.Set(kCounter, store.Get(kCounter) + 1); }));
+  EXPECT_EQ(store.Get(kCounter), 6);
+}
+
+TEST(SettingsStore, TheRevisionTellsWhereSomethingMayHaveChanged) {
+  MemorySettingsStore store;
+  constexpr SettingKey<std::int32_t> kCounter{"A", "Counter", 5};
+  const auto fresh = store.Revision();
+  (void)store.Get(kCounter);
+  EXPECT_EQ(store.Revision(), fresh) << "reading changes nothing";
+  store.Set(kCounter, 1);
+  const auto second = store.Revision();
+  EXPECT_NE(second, fresh);
+  store.Set(SettingKey<std::string_view>{"A", "Text", ""}, "x");
+  const auto third = store.Revision();
+  EXPECT_NE(third, second);
+  store.Set(NumberedKey{"A", "Text1", ""}, "x");
+  EXPECT_NE(store.Revision(), third);
+}
+
 }  // namespace
 }  // namespace kav

@@ -347,6 +347,44 @@ TEST_F(UserSettingsStoreTest, RefreshFromWhatCannotBeReadChangesNothing) {
   EXPECT_EQ(store.TakeNotice(), std::nullopt);
 }
 
+TEST_F(UserSettingsStoreTest, AChangeFindsWhatOthersStoredAndIsOnTheDiskAtOnce) {
+  UserSettingsStore store(path);
+  EXPECT_EQ(store.Get(kNumber), 42);
+  PutByHand("[Config]\n\"Angle Type\" = 7");
+  EXPECT_TRUE(store.Change([&] { store.Set(kNumber, store.Get(kNumber) + 1); }));
+  EXPECT_EQ(store.Get(kNumber), 8);
+  EXPECT_EQ(UserSettingsStore(path).Get(kNumber), 8);
+}
+
+TEST_F(UserSettingsStoreTest, AChangeTakesAlongWhatWasNotSavedYet) {
+  UserSettingsStore store(path);
+  constexpr SettingKey<std::string_view> kVersionText{"Config", "Version", ""};
+  store.Set(kVersionText, "unsaved");
+  EXPECT_TRUE(store.Change([&] { store.Set(kNumber, 3); }));
+  const UserSettingsStore reader(path);
+  EXPECT_EQ(reader.Get(kVersionText), "unsaved");
+  EXPECT_EQ(reader.Get(kNumber), 3);
+}
+
+TEST_F(UserSettingsStoreTest, AChangeThatChangesNothingWritesNothing) {
+  UserSettingsStore store(path);
+  EXPECT_TRUE(store.Change([] {}));
+  EXPECT_FALSE(Exists(path));
+}
+
+TEST_F(UserSettingsStoreTest, TheRevisionTellsOfWhatOthersStored) {
+  UserSettingsStore store(path);
+  EXPECT_EQ(store.Get(kNumber), 42);
+  const auto before = store.Revision();
+  PutByHand("[Config]\n\"Angle Type\" = 7");
+  store.Refresh();
+  EXPECT_NE(store.Revision(), before);
+  const auto refreshed = store.Revision();
+  PutByHand("[Config]\n\"Angle Type\" = 8");
+  EXPECT_TRUE(store.Change([] {}));
+  EXPECT_NE(store.Revision(), refreshed);
+}
+
 TEST_F(UserSettingsStoreTest, RefreshBeforeTheFirstSettingTouchesNothing) {
   PutByHand("?");
   UserSettingsStore store(path);
