@@ -164,9 +164,7 @@ std::string PrintInBase(double value, BaseMode base) {
 
 DisplayFormat DisplayFormatFromSettings(std::int32_t type, std::int32_t precision) {
   DisplayFormat format;
-  if (type >= 0 && type <= static_cast<std::int32_t>(DisplayType::EngineeringNotation)) {
-    format.type = static_cast<DisplayType>(type);
-  }
+  if (IsDisplayType(type)) format.type = static_cast<DisplayType>(type);
   format.precision = std::clamp<std::int32_t>(precision, 0, DisplayFormat::kMaxPrecision);
   return format;
 }

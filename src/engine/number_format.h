@@ -20,6 +20,17 @@ enum class DisplayType : std::int32_t {
   EngineeringNotation = 4,
 };
 
+/// Whether a stored integer is the number of a display type.
+constexpr bool IsDisplayType(std::int32_t stored) {
+  return stored >= 0 && stored <= static_cast<std::int32_t>(DisplayType::EngineeringNotation);
+}
+
+/// Whether the type prints the number of decimals that the user chose, and not as many as the value
+/// has.
+constexpr bool UsesPrecision(DisplayType type) {
+  return type != DisplayType::FloatingPoint && type != DisplayType::Thousands;
+}
+
 /// How numbers are shown. `precision` counts digits after the point where the type prints a fixed
 /// number of them: 0 to kMaxPrecision.
 struct DisplayFormat {

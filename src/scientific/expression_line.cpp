@@ -1,6 +1,7 @@
 #include "scientific/expression_line.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace kav {
@@ -76,6 +77,15 @@ std::size_t ExpressionLine::Clamped(std::size_t position) const {
 void ExpressionLine::Erase(std::size_t start, std::size_t end) {
   text_.erase(start, end - start);
   Select({start, start});
+}
+
+TextChange ChangeBetween(std::u16string_view old, std::u16string_view now) {
+  const auto [a, b] = std::mismatch(old.begin(), old.end(), now.begin(), now.end());
+  const auto [c, d] = std::mismatch(old.rbegin(), std::make_reverse_iterator(a), now.rbegin(),
+                                    std::make_reverse_iterator(b));
+  const auto start = static_cast<std::size_t>(a - old.begin());
+  const auto common = static_cast<std::size_t>(c - old.rbegin());
+  return {start, old.size() - start - common, now.substr(start, now.size() - start - common)};
 }
 
 bool CutsCharacter(std::u16string_view text, std::size_t position) {

@@ -49,6 +49,16 @@ class ExpressionLine {
   Selection selection_;
 };
 
+/// The part of a text that is to become another: `length` characters from `start` on become `text`.
+struct TextChange {
+  std::size_t start;
+  std::size_t length;
+  std::u16string_view text;
+};
+
+/// The one change that makes `now` of `old`, the smallest there is. It refers to `now`.
+TextChange ChangeBetween(std::u16string_view old, std::u16string_view now);
+
 /// Whether `position` lies between the two halves of one character of `text`.
 bool CutsCharacter(std::u16string_view text, std::size_t position);
 

@@ -16,22 +16,6 @@ constexpr double kSmallestText = 0.45;
 /// As long as a line can be; beyond, widths in pixels leave the range that Qt lays text out in.
 constexpr int kLongestLine = 1 << 20;
 
-/// The part of a line that is to become `text`.
-struct Difference {
-  qsizetype start;
-  qsizetype length;
-  QString text;
-};
-
-Difference DifferenceBetween(const QString& old, const QString& now) {
-  const auto [a, b] = std::mismatch(old.begin(), old.end(), now.begin(), now.end());
-  const auto start = a - old.begin();
-  const auto [c, d] = std::mismatch(old.rbegin(), std::make_reverse_iterator(a), now.rbegin(),
-                                    std::make_reverse_iterator(b));
-  const auto common = c - old.rbegin();
-  return {start, old.size() - start - common, now.mid(start, now.size() - start - common)};
-}
-
 /// Keeps the selection of a line, and its direction, over what the line does with it meanwhile.
 class SelectionKeeper {
  public:
@@ -116,13 +100,13 @@ Selection SelectionOf(const QLineEdit& line) {
 }
 
 void WriteLine(QLineEdit& widget, const ExpressionLine& line) {
-  const QString text = QString::fromStdU16String(line.Text());
-  if (text != widget.text()) {
-    const Difference change = DifferenceBetween(widget.text(), text);
+  const std::u16string old = widget.text().toStdU16String();
+  if (line.Text() != old) {
+    const TextChange change = ChangeBetween(old, line.Text());
     // Undo joins insertions that follow one another as long as the caret does not move between.
     widget.home(false);
     widget.setSelection(static_cast<int>(change.start), static_cast<int>(change.length));
-    widget.insert(change.text);
+    widget.insert(QStringView(change.text).toString());
   }
   const auto start = static_cast<int>(line.Selected().start);
   const auto end = static_cast<int>(line.Selected().end);

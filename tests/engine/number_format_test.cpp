@@ -349,5 +349,20 @@ TEST(DisplayFormatFromSettings, UnknownNumbersBecomeUsableOnes) {
   }
 }
 
+TEST(IsDisplayType, FiveNumbersAre) {
+  for (int type = 0; type <= 4; ++type) EXPECT_TRUE(IsDisplayType(type)) << type;
+  for (const int type : {-1, 5, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+    EXPECT_FALSE(IsDisplayType(type)) << type;
+  }
+}
+
+TEST(UsesPrecision, FloatingPointAndThousandsShowWhatTheValueHas) {
+  EXPECT_FALSE(UsesPrecision(DisplayType::FloatingPoint));
+  EXPECT_TRUE(UsesPrecision(DisplayType::FixedPoint));
+  EXPECT_TRUE(UsesPrecision(DisplayType::ScientificNotation));
+  EXPECT_FALSE(UsesPrecision(DisplayType::Thousands));
+  EXPECT_TRUE(UsesPrecision(DisplayType::EngineeringNotation));
+}
+
 }  // namespace
 }  // namespace kav

@@ -223,5 +223,36 @@ TEST(ExpressionLine, NoSequenceOfEditsTakesTheCaretOutOfTheTextOrIntoACharacter)
   }
 }
 
+TEST(ExpressionLine, TheChangeBetweenTwoTextsIsTheSmallestThereIs) {
+  struct Row {
+    std::u16string_view old;
+    std::u16string_view now;
+    std::size_t start;
+    std::size_t length;
+    std::u16string_view text;
+  };
+  const Row rows[] = {
+      {u"", u"", 0, 0, u""},
+      {u"x+1", u"x+1", 3, 0, u""},
+      {u"", u"abc", 0, 0, u"abc"},
+      {u"abc", u"", 0, 3, u""},
+      {u"x+1", u"x+12", 3, 0, u"2"},
+      {u"x+1", u"2x+1", 0, 0, u"2"},
+      {u"x+1", u"x1", 1, 1, u""},
+      {u"x+1", u"x*1", 1, 1, u"*"},
+      {u"x", u"sin(x)", 0, 1, u"sin(x)"},
+      {u"11", u"111", 2, 0, u"1"},
+      {u"aba", u"a", 1, 2, u""},
+  };
+  for (const Row& row : rows) {
+    const TextChange change = ChangeBetween(row.old, row.now);
+    EXPECT_EQ(change.start, row.start) << row.start;
+    EXPECT_EQ(change.length, row.length) << row.start;
+    EXPECT_EQ(change.text, row.text) << row.start;
+    std::u16string changed(row.old);
+    EXPECT_EQ(changed.replace(change.start, change.length, change.text), row.now);
+  }
+}
+
 }  // namespace
 }  // namespace kav

@@ -1,0 +1,74 @@
+#include "memory/constants_model.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "common/number_text.h"
+#include "memory/memory_texts.h"
+
+namespace kav {
+namespace {
+
+std::u16string Printed(std::size_t count) {
+  return Widen(PrintInteger(static_cast<std::int64_t>(count)));
+}
+
+}  // namespace
+
+ConstantsModel::ConstantsModel(const std::vector<std::string>& folders) {
+  auto table = LoadConstants(folders);
+  if (table) {
+    table_ = *std::move(table);
+  } else {
+    failure_ = std::move(table).error();
+  }
+  SetFilter({});
+}
+
+void ConstantsModel::SetFilter(std::u16string_view filter) {
+  shown_.clear();
+  for (std::size_t i = 0; i < table_.size(); ++i) {
+    if (Matches(table_[i], filter)) shown_.push_back(i);
+  }
+  if (!SelectedRow()) selected_.reset();
+}
+
+std::u16string ConstantsModel::CountText() const {
+  return ShownOfAll(Printed(shown_.size()), Printed(table_.size()));
+}
+
+std::optional<std::size_t> ConstantsModel::SelectedRow() const {
+  if (!selected_) return std::nullopt;
+  const auto found = std::lower_bound(shown_.begin(), shown_.end(), *selected_);
+  if (found == shown_.end() || *found != *selected_) return std::nullopt;
+  return static_cast<std::size_t>(found - shown_.begin());
+}
+
+void ConstantsModel::Select(std::optional<std::size_t> row) {
+  selected_.reset();
+  if (row && *row < shown_.size()) selected_ = shown_[*row];
+}
+
+void ConstantsModel::Move(std::ptrdiff_t rows) {
+  if (shown_.empty() || rows == 0) return;
+  const auto last = static_cast<std::ptrdiff_t>(shown_.size()) - 1;
+  const auto row = SelectedRow();
+  if (!row) return Select(rows > 0 ? 0 : static_cast<std::size_t>(last));
+  const auto from = static_cast<std::ptrdiff_t>(*row);
+  Select(static_cast<std::size_t>(from + std::clamp(rows, -from, last - from)));
+}
+
+std::u16string_view ConstantsModel::SelectedName() const {
+  return selected_ ? std::u16string_view(table_[*selected_].name) : std::u16string_view();
+}
+
+std::u16string_view ConstantsModel::SelectedValue() const {
+  return selected_ ? std::u16string_view(table_[*selected_].value) : std::u16string_view();
+}
+
+Expected<std::u16string, std::u16string_view> ConstantsModel::Choose() const {
+  if (!selected_) return kNoConstantSelected;
+  return table_[*selected_].value;
+}
+
+}  // namespace kav

@@ -1,0 +1,116 @@
+#include "memory/constants_table.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <system_error>
+
+#include "memory/memory_texts.h"
+
+namespace kav {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The installed data, seen from the folder of the executable, so that an installation may stand
+/// anywhere.
+constexpr std::string_view kInstalledData = "../share/kav-calculator";
+
+std::u16string Characters(std::string_view bytes) {
+  std::u16string text(bytes.size(), u'\0');
+  std::transform(bytes.begin(), bytes.end(), text.begin(),
+                 [](char byte) { return static_cast<char16_t>(static_cast<unsigned char>(byte)); });
+  return text;
+}
+
+/// `text` is what stands before the ']' of the name.
+std::string_view GroupIn(std::string_view text) {
+  const std::size_t open = text.rfind('[');
+  return open == std::string_view::npos ? std::string_view() : text.substr(open + 1);
+}
+
+std::optional<Constant> ParseRecord(std::string_view record) {
+  const std::size_t bracket = record.find(']');
+  const std::size_t equals = record.find('=');
+  if (bracket == std::string_view::npos || equals == std::string_view::npos) return std::nullopt;
+  const bool hasName = bracket + 1 < equals;
+  const bool hasValue = equals + 1 < record.size();
+  if (!hasName || !hasValue) return std::nullopt;
+  return Constant{Characters(GroupIn(record.substr(0, bracket))),
+                  Characters(record.substr(bracket + 1, equals - bracket - 1)),
+                  Characters(record.substr(equals + 1))};
+}
+
+/// Lower case for the letters that a byte of the file can be.
+char16_t Folded(char16_t c) {
+  const bool isPlain = c >= u'A' && c <= u'Z';
+  const bool isAccented = c >= u'\u00C0' && c <= u'\u00DE' && c != u'\u00D7';
+  return isPlain || isAccented ? static_cast<char16_t>(c + 0x20) : c;
+}
+
+bool Contains(std::u16string_view text, std::u16string_view word) {
+  const auto isEqual = [](char16_t a, char16_t b) { return Folded(a) == Folded(b); };
+  return word.empty() ||
+         std::search(text.begin(), text.end(), word.begin(), word.end(), isEqual) != text.end();
+}
+
+/// The bytes of the file `path`, of which there may be one more than the limit; nullopt where it
+/// cannot be opened. Pipes and devices, which could keep the program waiting, are no such files.
+std::optional<std::string> ReadBytes(const fs::path& path) {
+  std::error_code error;
+  if (!fs::is_regular_file(path, error)) return std::nullopt;
+  const std::uintmax_t size = fs::file_size(path, error);
+  std::ifstream file(path, std::ios::binary);
+  if (error || !file) return std::nullopt;
+  const std::uintmax_t most = kLargestConstantsFile + 1;
+  std::string bytes(static_cast<std::size_t>(std::min(size, most)), '\0');
+  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  bytes.resize(static_cast<std::size_t>(file.gcount()));
+  return bytes;
+}
+
+}  // namespace
+
+std::vector<Constant> ParseConstants(std::string_view bytes) {
+  std::vector<Constant> rows;
+  for (std::size_t end = bytes.find(';'); end != std::string_view::npos; end = bytes.find(';')) {
+    if (auto row = ParseRecord(bytes.substr(0, end))) rows.push_back(*std::move(row));
+    bytes.remove_prefix(end + 1);
+  }
+  return rows;
+}
+
+bool Matches(const Constant& constant, std::u16string_view filter) {
+  while (!filter.empty()) {
+    const std::u16string_view word = filter.substr(0, filter.find(u' '));
+    filter.remove_prefix(std::min(word.size() + 1, filter.size()));
+    const bool occurs = Contains(constant.group, word) || Contains(constant.name, word) ||
+                        Contains(constant.value, word);
+    if (!occurs) return false;
+  }
+  return true;
+}
+
+Expected<std::vector<Constant>, std::u16string> LoadConstants(
+    const std::vector<std::string>& folders) {
+  for (const std::string& folder : folders) {
+    const fs::path path = fs::path(folder) / kConstantsFile;
+    const auto bytes = ReadBytes(path);
+    if (!bytes) continue;
+    if (bytes->size() > kLargestConstantsFile) return ConstantsAreTooLarge(path.native());
+    return ParseConstants(*bytes);
+  }
+  const fs::path beside = folders.empty() ? fs::path() : fs::path(folders.front());
+  return ConstantsNotFound((beside / kConstantsFile).native());
+}
+
+std::vector<std::string> ConstantsFolders() {
+  std::error_code error;
+  const fs::path executable = fs::read_symlink("/proc/self/exe", error);
+  if (error) return {};
+  const fs::path folder = executable.parent_path();
+  return {folder.native(), (folder / kInstalledData).lexically_normal().native()};
+}
+
+}  // namespace kav

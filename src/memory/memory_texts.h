@@ -1,0 +1,49 @@
+// What the user reads about the memory variables and the constants.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "common/number_text.h"
+
+namespace kav {
+
+// A line of the list is the prefix, the number in two digits, the separator and the value.
+inline constexpr std::u16string_view kVariablePrefix = u"Mem";
+inline constexpr std::u16string_view kVariableSeparator = u" = ";
+
+inline constexpr std::u16string_view kVariablesTitle = u"Memory Variable";
+inline constexpr std::u16string_view kStoreCaption = u"Store";
+inline constexpr std::u16string_view kRecallCaption = u"Recall";
+inline constexpr std::u16string_view kClearCaption = u"Clear";
+inline constexpr std::u16string_view kClearAllCaption = u"Clear All";
+inline constexpr std::u16string_view kVariableListName = u"Variables";
+
+inline constexpr std::u16string_view kNoVariableSelected = u"Please select a memory variable";
+inline constexpr std::u16string_view kClearQuestion =
+    u"Are you sure you want to clear the selected variable?";
+inline constexpr std::u16string_view kClearAllQuestion =
+    u"Are you sure you want to clear all variable?";
+
+inline constexpr std::u16string_view kConstantsTitle = u"Constants";
+inline constexpr std::u16string_view kFilterCaption = u"Filter";
+inline constexpr std::u16string_view kNameColumn = u"Name";
+inline constexpr std::u16string_view kValueColumn = u"Value";
+inline constexpr std::u16string_view kConstantName = u"Constant Name";
+inline constexpr std::u16string_view kConstantValue = u"Constant Value";
+
+inline std::u16string ShownOfAll(std::u16string_view shown, std::u16string_view all) {
+  return std::u16string(shown).append(u" of ").append(all);
+}
+
+inline constexpr std::u16string_view kNoConstantSelected = u"Please select a constant";
+
+inline std::u16string ConstantsNotFound(std::string_view path) {
+  return Widen(path) + u" file was not found.";
+}
+
+inline std::u16string ConstantsAreTooLarge(std::string_view path) {
+  return Widen(path) + u" file is larger than 4 MB: it is no table of constants.";
+}
+
+}  // namespace kav

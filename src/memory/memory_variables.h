@@ -1,0 +1,32 @@
+// The numbered memory variables: numbers, as texts, that survive restarts.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "settings/settings_store.h"
+
+namespace kav {
+
+/// Twenty texts, numbered from 0 here and from 1 where the user sees them. They are neither checked
+/// nor converted. Always shows what the settings hold, which must outlive it.
+class MemoryVariables {
+ public:
+  static constexpr int kCount = 20;
+
+  explicit MemoryVariables(SettingsStore& settings) : settings_(settings) {}
+
+  // `index` is 0 to kCount - 1.
+  std::string Get(int index) const;
+  void Set(int index, std::string_view value);
+  void Clear(int index);
+  void ClearAll();
+
+  /// The line that shows the variable in a list: "Mem01 = 0".
+  std::u16string Line(int index) const;
+
+ private:
+  SettingsStore& settings_;
+};
+
+}  // namespace kav
