@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
 
 #include "cli/cli_texts.h"
 #include "cli/descriptor.h"
@@ -14,12 +15,23 @@ namespace {
 
 constexpr std::size_t kBlock = 65536;
 
+bool IsControl(char c) {
+  return static_cast<unsigned char>(c) < ' ';
+}
+
 }  // namespace
 
 AnswerWriter::AnswerWriter() : flushAt_(isatty(STDOUT_FILENO) != 0 ? 1 : kBlock) {}
 
 void AnswerWriter::Answer(std::string_view text) {
   AppendOnOneLine(text);
+  End();
+}
+
+void AnswerWriter::AnswerRow(std::string_view first, std::string_view second) {
+  std::replace_copy_if(first.begin(), first.end(), std::back_inserter(text_), IsControl, ' ');
+  text_ += '\t';
+  std::replace_copy_if(second.begin(), second.end(), std::back_inserter(text_), IsControl, ' ');
   End();
 }
 

@@ -19,6 +19,9 @@ class AnswerWriter {
     if (text_.size() >= flushAt_) Flush();
   }
   void Answer(std::string_view text);
+  /// Answers with two columns, a tab between them. Tabs, line breaks and the like within them
+  /// become blanks, so that a row stays one.
+  void AnswerRow(std::string_view first, std::string_view second);
   /// Answers that the item failed, and why.
   void Fail(std::string_view message);
   /// Remembers that an item stays without an answer.

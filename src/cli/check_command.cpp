@@ -1,5 +1,6 @@
 #include "cli/check_command.h"
 
+#include "cli/cli_texts.h"
 #include "cli/items.h"
 #include "engine/formula_checker.h"
 
@@ -13,7 +14,7 @@ void AnswerSteps(const StepList& steps, AnswerWriter& answers) {
 void AnswerFormula(std::string_view formula, const Options& options, AnswerWriter& answers) {
   const auto checked = CheckFormula(formula, options.variables);
   if (!checked) return answers.Fail(checked.error().message);
-  answers.Answer("ok");
+  answers.Answer(kDone);
   if (options.showsSteps) AnswerSteps(checked->Steps(), answers);
 }
 

@@ -48,6 +48,15 @@ std::string NeedsTheWindow(std::string_view key) {
   return Quoted(key) + " opens a dialog, which only the window has.";
 }
 
+std::string NotVariables(std::string_view text) {
+  return Quoted(text) + " names no variables: x, xy or xyz does.";
+}
+
+std::string NotAMemoryVariable(std::string_view text, int count) {
+  return Quoted(text) + " is no memory variable: they are numbered from 1 to " +
+         PrintInteger(count) + ".";
+}
+
 std::string CannotRead(std::string_view reason) {
   return Joined("cannot read standard input: ", reason, "");
 }
@@ -58,6 +67,18 @@ std::string CannotWrite(std::string_view reason) {
 
 std::string CannotKeepHistory(std::string_view path, std::string_view reason) {
   return Joined("the history is not kept: ", path, ": ").append(reason);
+}
+
+std::string LacksVerb(std::string_view command) {
+  return Joined(command, " lacks its verb", "");
+}
+
+std::string HasNoVerb(std::string_view command, std::string_view given) {
+  return Joined(command, " has no verb ", Quoted(given));
+}
+
+std::string VerbTakes(std::string_view command, std::string_view verb, std::string_view arguments) {
+  return Joined(command, " ", verb).append(" takes ").append(arguments);
 }
 
 std::string OptionLacksValue(std::string_view option) {

@@ -13,17 +13,25 @@ inline constexpr std::string_view kPrompt = "> ";
 /// `text` in quotes, as messages name it; one of more than 40 bytes is cut.
 std::string Quoted(std::string_view text);
 
-// Behind the failure mark.
+// Answers, and what stands behind the failure mark.
+inline constexpr std::string_view kDone = "ok";
 std::string NotANumber(std::string_view text);
 std::string NoKeyShows(std::string_view caption);
 std::string KeyIsDisabled(std::string_view caption);
 std::string MenuDoesNotOffer(std::string_view text);
 std::string NeedsTheWindow(std::string_view key);
+std::string NotVariables(std::string_view text);
+std::string NotAMemoryVariable(std::string_view text, int count);
 
 // On standard error, behind the program's name. `reason` is the system's.
 std::string CannotRead(std::string_view reason);
 std::string CannotWrite(std::string_view reason);
 std::string CannotKeepHistory(std::string_view path, std::string_view reason);
+inline constexpr std::string_view kNothingToClear =
+    "memory clear lacks what to clear: numbers from 1 to 20, or all";
+std::string LacksVerb(std::string_view command);
+std::string HasNoVerb(std::string_view command, std::string_view given);
+std::string VerbTakes(std::string_view command, std::string_view verb, std::string_view arguments);
 std::string OptionLacksValue(std::string_view option);
 std::string OptionTakes(std::string_view option, std::string_view values, std::string_view given);
 

@@ -3,10 +3,13 @@
 #include <array>
 
 #include "cli/check_command.h"
+#include "cli/constants_command.h"
 #include "cli/eval_command.h"
 #include "cli/format_command.h"
 #include "cli/help_texts.h"
 #include "cli/keys_command.h"
+#include "cli/macro_command.h"
+#include "cli/memory_command.h"
 
 namespace kav {
 namespace {
@@ -20,6 +23,12 @@ constexpr std::array kCommands{
             "write numbers as the calculator shows them", kFormatDetails, RunFormat},
     Command{"keys", "keys [OPTION]... [--] [KEY]...", "press keys of the scientific screen",
             kKeysDetails, RunKeys},
+    Command{"macro", "macro list|add|remove [OPTION]... [--] [ARGUMENT]...",
+            "list, add and remove macros", kMacroDetails, RunMacro},
+    Command{"memory", "memory list|store|clear [OPTION]... [--] [ARGUMENT]...",
+            "list, store and clear memory variables", kMemoryDetails, RunMemory},
+    Command{"constants", "constants [OPTION]... [--] [WORD]...", "list constants",
+            kConstantsDetails, RunConstants},
 };
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "common/number_text.h"
-#include "macros/line_evaluator.h"
 
 namespace kav {
 namespace {
@@ -17,8 +16,12 @@ bool IsLetter(char c) {
 Evaluation::Evaluation(const Options& options)
     : options_(options), settings_(options), macros_(settings_.Store()), angle_(options.angle) {}
 
+Expected<double, LineFailure> Evaluation::Value(std::string_view line) {
+  return EvaluateLine(line, ModesFor(line), macros_);
+}
+
 void Evaluation::Answer(std::string_view line, AnswerWriter& answers) {
-  const auto value = EvaluateLine(line, ModesFor(line), macros_);
+  const auto value = Value(line);
   if (!value) return answers.Fail(value.error().message);
   AnswerNumber(*value, options_, answers);
 }

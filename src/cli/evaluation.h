@@ -7,6 +7,8 @@
 #include "cli/answer_writer.h"
 #include "cli/options.h"
 #include "cli/stored_settings.h"
+#include "common/expected.h"
+#include "macros/line_evaluator.h"
 #include "macros/macro_store.h"
 
 namespace kav {
@@ -17,6 +19,8 @@ class Evaluation {
  public:
   explicit Evaluation(const Options& options);
 
+  /// The value of `line`, or why it has none.
+  Expected<double, LineFailure> Value(std::string_view line);
   /// Answers `line` with the text of the result line.
   void Answer(std::string_view line, AnswerWriter& answers);
 

@@ -54,4 +54,41 @@ at the caret or "[" and "]" around the selection, a tab, the result line. A key 
   kavcalc keys SIN 3 0 =                          [sin(30)] TAB 0.5
   kavcalc keys DEC Hexadecimal '"FF"' =           [FF] TAB FF)text";
 
+inline constexpr std::string_view kMacroDetails =
+    R"text(The user's macros, which expressions call as "M:NAME(...)":
+
+  macro list               prints each one's name with its arguments, a tab and
+                           its formula
+  macro add NAME FORMULA   stores a macro in the --variables and answers its name
+                           with its arguments; an item of standard input is NAME,
+                           a tab, FORMULA, and where a tab and x, xy or xyz
+                           follow, these are its variables
+  macro remove NAME...     removes the macro of each NAME and answers "ok"
+
+  kavcalc macro add sq 'x^2'                      sq(X)
+  kavcalc macro add --variables xy area 'x*y'     area(X,Y)
+  kavcalc 'M:sq(3)'                               9
+  kavcalc macro remove sq                         ok)text";
+
+inline constexpr std::string_view kMemoryDetails =
+    R"text(The twenty memory variables, numbered from 1:
+
+  memory list                      prints a line for each of them
+  memory store NUMBER EXPRESSION   evaluates EXPRESSION, stores its value and
+                                   answers the new line; an item of standard
+                                   input is NUMBER, a tab, EXPRESSION
+  memory clear NUMBER...           sets each to 0 and answers its new line; the
+                                   item "all" means all of them
+
+  kavcalc memory store 3 '2*sin(30)'              Mem03 = 1
+  kavcalc memory clear 3                          Mem03 = 0)text";
+
+inline constexpr std::string_view kConstantsDetails =
+    R"text(Prints the constants of which the name, the value or the group holds each WORD,
+in any case; without one all of them. A constant is a line: its name, a tab, its
+value. Standard input is not read.
+
+  kavcalc constants speed light
+  kavcalc constants | grep -i electron)text";
+
 }  // namespace kav

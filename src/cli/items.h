@@ -21,6 +21,18 @@ template <class Take>
 void ForEachItem(const std::vector<std::string_view>& items, std::size_t longest,
                  AnswerWriter& answers, Take take);
 
+/// The first `most` - 1 columns of `line`, which tabs end, and what is left of it.
+std::vector<std::string_view> Columns(std::string_view line, std::size_t most);
+
+/// As above, for items of several parts: they are the arguments or, where there are none, the
+/// Columns of each line.
+template <class Take>
+void ForEachRow(const std::vector<std::string_view>& items, std::size_t most, std::size_t longest,
+                AnswerWriter& answers, Take take) {
+  if (!items.empty()) return take(items);
+  ForEachItem(items, longest, answers, [&](std::string_view line) { take(Columns(line, most)); });
+}
+
 /// Standard input read for `answers`: they are flushed before each wait, so that whoever waits for
 /// an answer before the next question gets it.
 class InputLines {

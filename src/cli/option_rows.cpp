@@ -2,7 +2,6 @@
 
 #include <array>
 #include <charconv>
-#include <optional>
 #include <system_error>
 
 namespace kav {
@@ -25,6 +24,8 @@ bool TakeChoice(std::string_view choices, std::string_view given, Target& target
   if (index) target = static_cast<Target>(*index + kFirst);
   return index.has_value();
 }
+
+constexpr std::string_view kVariables = "x|xy|xyz";
 
 bool TakeAngle(std::string_view choices, std::string_view given, Options& options) {
   return TakeChoice<AngleUnit, 1>(choices, given, options.angle.emplace());
@@ -70,12 +71,22 @@ constexpr std::array kOptions{
               TakeRaw},
     OptionRow{"--settings", "FILE", "the settings file to use instead of the user's", "",
               TakeSettings},
-    OptionRow{"--variables", "x|xy|xyz", "the variables of the formulas [x]", "check",
+    OptionRow{"--variables", kVariables, "the variables of the formulas [x]", "check|macro",
               TakeVariables},
     OptionRow{"--steps", "", "show the order of the calculation", "check", TakeSteps},
 };
 
 }  // namespace
+
+bool IsFor(const OptionRow& row, std::string_view command) {
+  return row.commands.empty() || IndexIn(row.commands, command);
+}
+
+std::optional<VariableType> VariablesCalled(std::string_view names) {
+  VariableType type{};
+  if (!TakeChoice<VariableType, 0>(kVariables, names, type)) return std::nullopt;
+  return type;
+}
 
 std::span<const OptionRow> OptionRows() {
   return kOptions;

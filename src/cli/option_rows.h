@@ -1,6 +1,7 @@
 // The options of kavcalc, a row each.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -14,9 +15,15 @@ struct OptionRow {
   const char* name;
   std::string_view values;
   const char* help;
-  std::string_view command;  ///< the one command that has it; empty: all have it
+  std::string_view commands;  ///< those that have it, separated by '|'; empty: all have it
   bool (*take)(std::string_view values, std::string_view given, Options& options);
 };
+
+/// Whether `command` has the option.
+bool IsFor(const OptionRow& row, std::string_view command);
+
+/// What `names`, spelled as the option for variables takes it, stands for; nullopt for nothing.
+std::optional<VariableType> VariablesCalled(std::string_view names);
 
 /// All options but help and version, in the order of the help.
 std::span<const OptionRow> OptionRows();

@@ -11,11 +11,10 @@
 #include "cli/commands.h"
 #include "cli/help_texts.h"
 #include "cli/option_rows.h"
+#include "cli/usage.h"
 
 namespace kav {
 namespace {
-
-constexpr int kUnusable = 2;
 
 bool IsOption(std::string_view argument) {
   constexpr std::string_view kOpensAnExpression = "0123456789.(";
@@ -88,14 +87,6 @@ class ArgumentSorter {
   std::vector<std::string_view> items_;
 };
 
-std::string UsageLine(const Command& command) {
-  return "Usage: kavcalc " + std::string(command.usage) + "\n";
-}
-
-std::string Complaint(const std::string& reason, const Command& command) {
-  return std::string(kProgramName) + ": " + reason + "\n" + UsageLine(command);
-}
-
 /// Writes the usage as the commands have it, and the list of them where none was named.
 class HelpFormatter final : public CLI::Formatter {
  public:
@@ -141,7 +132,7 @@ std::optional<EarlyEnd> ReadOptions(std::vector<std::string> given, const Comman
   app.set_version_flag("--version", std::string(kProgramName) + " " KAV_VERSION,
                        "print the version and end");
   for (const OptionRow& row : OptionRows()) {
-    if (row.command.empty() || row.command == command.name) Register(row, app, options);
+    if (IsFor(row, command.name)) Register(row, app, options);
   }
   const std::string last = given.back();
   std::reverse(given.begin(), given.end());

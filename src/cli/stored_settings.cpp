@@ -20,6 +20,15 @@ AngleUnit StoredSettings::Angle() {
   return angle;
 }
 
+std::optional<std::string> StoredSettings::TakeFailure() {
+  const auto failure = store_.TakeBackUnsaved();
+  while (const auto notice = store_.TakeNotice()) {
+    if (notice != failure) Tell(Narrow(*notice));
+  }
+  if (!failure) return std::nullopt;
+  return Narrow(*failure);
+}
+
 void StoredSettings::TellNotices() {
   while (const auto notice = store_.TakeNotice()) Tell(Narrow(*notice));
 }

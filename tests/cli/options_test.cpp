@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "cli/commands.h"
+#include "cli/option_rows.h"
 
 namespace kav {
 namespace {
@@ -52,6 +53,16 @@ TEST(Options, EachChoiceStandsForItsValue) {
   EXPECT_EQ(variables("x"), VariableType::X);
   EXPECT_EQ(variables("xy"), VariableType::XY);
   EXPECT_EQ(variables("xyz"), VariableType::XYZ);
+  EXPECT_EQ(Read({"macro", "--variables", "xy"}).options.variables, VariableType::XY);
+}
+
+TEST(Options, VariablesAreCalledAsTheirOptionTakesThem) {
+  EXPECT_EQ(VariablesCalled("x"), VariableType::X);
+  EXPECT_EQ(VariablesCalled("xy"), VariableType::XY);
+  EXPECT_EQ(VariablesCalled("xyz"), VariableType::XYZ);
+  for (const char* text : {"", "y", "X", "x ", "xyzx", "x|xy", "|"}) {
+    EXPECT_EQ(VariablesCalled(text), std::nullopt) << text;
+  }
 }
 
 TEST(Options, SwitchesTextsAndNumbers) {
@@ -78,6 +89,10 @@ TEST(Options, TheFirstArgumentThatIsNoOptionMayNameACommand) {
       {{"check", "x"}, "check", {"x"}},
       {{"format", "1"}, "format", {"1"}},
       {{"keys", "1"}, "keys", {"1"}},
+      {{"macro", "list"}, "macro", {"list"}},
+      {{"memory", "store", "3", "-1"}, "memory", {"store", "3", "-1"}},
+      {{"constants", "list"}, "constants", {"list"}},
+      {{"macro", "--variables", "xy", "add", "f", "x"}, "macro", {"add", "f", "x"}},
       {{"--raw", "format", "1"}, "format", {"1"}},
       {{"--base", "hex", "format", "1"}, "format", {"1"}},
       {{"--base=hex", "format", "1"}, "format", {"1"}},
@@ -101,11 +116,11 @@ TEST(Options, TheFirstArgumentThatIsNoOptionMayNameACommand) {
 
 TEST(Options, UnusableArgumentsEndWithStatus2) {
   const std::vector<Arguments> rows{
-      {"--bogus"},       {"-pi"},          {"--angle"},           {"--angle", "grad"},
-      {"--angle=", "1"}, {"--base", "16"}, {"--precision", "-1"}, {"--precision", "100"},
-      {"--precision="},  {"--settings="},  {"--variables", "x"},  {"--steps"},
-
-      {"--raw=perhaps"}, {"---"},          {"-x", "1"},
+      {"--bogus"},          {"-pi"},          {"--angle"},           {"--angle", "grad"},
+      {"--angle=", "1"},    {"--base", "16"}, {"--precision", "-1"}, {"--precision", "100"},
+      {"--precision="},     {"--settings="},  {"--variables", "x"},  {"--steps"},
+      {"--raw=perhaps"},    {"---"},          {"-x", "1"},           {"memory", "--variables", "x"},
+      {"macro", "--steps"},
   };
   for (const Arguments& arguments : rows) {
     const auto line = ReadCommandLine(arguments);

@@ -1,0 +1,35 @@
+#include "cli/constants_command.h"
+
+#include <string>
+
+#include "cli/answer_writer.h"
+#include "common/number_text.h"
+#include "memory/constants_table.h"
+
+namespace kav {
+namespace {
+
+std::u16string FilterOf(const std::vector<std::string_view>& words) {
+  std::string filter;
+  for (const std::string_view word : words) filter.append(word) += ' ';
+  return Widen(filter);
+}
+
+}  // namespace
+
+int RunConstants(const CommandLine& line) {
+  AnswerWriter answers;
+  const auto constants = LoadConstants(ConstantsFolders());
+  if (!constants) {
+    answers.Fail(Narrow(constants.error()));
+    return answers.Finish();
+  }
+  const std::u16string filter = FilterOf(line.items);
+  for (const Constant& constant : *constants) {
+    if (!Matches(constant, filter)) continue;
+    answers.AnswerRow(Narrow(constant.name), Narrow(constant.value));
+  }
+  return answers.Finish();
+}
+
+}  // namespace kav

@@ -1,0 +1,38 @@
+#include "cli/verbs.h"
+
+#include <algorithm>
+
+#include "cli/cli_texts.h"
+#include "cli/usage.h"
+
+namespace kav {
+namespace {
+
+bool Takes(const Verb& verb, std::size_t given) {
+  switch (verb.count) {
+    case Arguments::None:
+      return given == 0;
+    case Arguments::TwoOrNone:
+      return given == 0 || given == 2;
+    case Arguments::Any:
+      break;
+  }
+  return true;
+}
+
+}  // namespace
+
+int RunVerb(const CommandLine& line, std::span<const Verb> verbs) {
+  const Command& command = *line.command;
+  if (line.items.empty()) return Complain(LacksVerb(command.name), command);
+  const std::string_view name = line.items.front();
+  const auto verb = std::find_if(verbs.begin(), verbs.end(),
+                                 [name](const Verb& known) { return known.name == name; });
+  if (verb == verbs.end()) return Complain(HasNoVerb(command.name, name), command);
+  CommandLine rest = line;
+  rest.items.erase(rest.items.begin());
+  if (Takes(*verb, rest.items.size())) return verb->run(rest);
+  return Complain(VerbTakes(command.name, verb->name, verb->arguments), command);
+}
+
+}  // namespace kav

@@ -1,0 +1,2 @@
+kavcalc constants speed light vacuum
+kavcalc constants Avogadro | head -1

@@ -1,0 +1,3 @@
+kavcalc constants | cut -f2 >values
+kavcalc <values | grep error
+(($(wc -l <values) >= 80)) && echo enough

@@ -1,0 +1,1 @@
+kavcalc constants --help | sed -n 3p

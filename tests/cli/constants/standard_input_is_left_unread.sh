@@ -1,0 +1,2 @@
+kavcalc constants 299792458 nonsense
+cat

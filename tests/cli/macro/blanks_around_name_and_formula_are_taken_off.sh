@@ -1,0 +1,3 @@
+kavcalc macro add '  sq  ' '  x^2 '
+kavcalc macro list
+kavcalc 'M:sq(3)'

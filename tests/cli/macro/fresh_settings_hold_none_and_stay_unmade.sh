@@ -1,0 +1,3 @@
+kavcalc macro list
+kavcalc macro list --settings new.toml
+find . "$HOME" -mindepth 1

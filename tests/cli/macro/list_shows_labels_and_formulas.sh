@@ -1,0 +1,1 @@
+kavcalc macro list --settings "$FILES/macros.toml"

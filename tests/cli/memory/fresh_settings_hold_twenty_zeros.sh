@@ -1,0 +1,3 @@
+kavcalc memory list
+kavcalc memory list --settings new.toml | wc -l
+find . "$HOME" -mindepth 1

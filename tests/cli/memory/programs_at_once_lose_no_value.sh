@@ -1,0 +1,8 @@
+# Five at a time: whoever waits for the others longer than two seconds gives up, and says so.
+for i in {1..20}; do
+  kavcalc memory store "$i" "$i*$i" >"answer$i" &
+  ((i % 5)) || wait
+done
+kavcalc memory list | awk '{ if ($3 != NR * NR) print "lost: " $0 }'
+cat answer* | LC_ALL=C sort | cmp - <(kavcalc memory list)
+kavcalc memory list | tail -1
