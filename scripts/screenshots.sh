@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # screenshots.sh: takes the pictures of the screen in docs/images anew, from the program itself on a
-# display of its own: in decimal, in hexadecimal and with Shift on, each at three sizes. Nothing in
-# them depends on the user's settings.
+# display of its own: in decimal, in hexadecimal and with Shift on, and its dialogs, each at three
+# sizes. Nothing in them depends on the user's settings.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
@@ -21,28 +21,56 @@ coproc server { exec Xvfb -displayfd 1 -noreset -screen 0 1280x1600x24 -dpi 96 -
 read -r number <&"${server[0]}"
 export DISPLAY=:$number
 
-# take NAME WIDTHxHEIGHT BASE TEXT...: one picture, of the base numbered BASE, after these texts were
-# typed, or the keys pressed that a text such as press:alt+s names.
+# What there is to be seen in the dialogs.
+stored='
+[MacroInfo]
+TotalNumber = 3
+[Macro0]
+Name = "sq"
+Type = "TYPE1 : F(X)"
+Formula = "x^2"
+[Macro1]
+Name = "hyp"
+Type = "TYPE2 : F(X,Y)"
+Formula = "sqrt(x^2+y^2)"
+[Macro2]
+Name = "box"
+Type = "TYPE3 : F(X,Y,Z)"
+Formula = "x*y*z"
+[MemoryVar]
+Var0 = "299792.458"
+Var3 = "-2.5e-12"
+'
+
+# The picture is of this window, whose title is "$1", and keys go to it.
+focus() {
+  window=$(timeout 30 xdotool search --onlyvisible --sync --name "^$1\$")
+  xdotool windowfocus --sync "$window"
+}
+
+# take NAME WIDTHxHEIGHT BASE DEED...: one picture, of the base numbered BASE, after these texts were
+# typed, or the keys pressed that a deed such as press:alt+s names, or the dialog came to the front
+# that one such as focus:Constants names.
 take() {
   local name=$1 size=$2 base=$3 window
   shift 3
   mkdir -p "$home/kav-calculator"
-  printf '[Config]\n"Window Geometry" = "0 0 %s"\n"Base Type" = %s\n' "${size/x/ }" "$base" \
-    >"$home/kav-calculator/settings.toml"
+  printf '[Config]\n"Window Geometry" = "0 0 %s"\n"Base Type" = %s\n%s' "${size/x/ }" "$base" \
+    "$stored" >"$home/kav-calculator/settings.toml"
   build/release/src/app/kav-calculator &
   local calculator=$!
   xdotool mousemove 1279 1599
   sleep 1  # by then the window of that name is the screen, and no longer the frame that loads it
-  window=$(timeout 30 xdotool search --onlyvisible --sync --name '^Kav Calculator$')
-  xdotool windowfocus --sync "$window"
-  for key in "$@"; do
-    case $key in
-      press:*) xdotool key "${key#press:}" ;;
-      *) xdotool type "$key" ;;
+  focus 'Kav Calculator'
+  for deed in "$@"; do
+    case $deed in
+      press:*) xdotool key "${deed#press:}" ;;
+      focus:*) focus "${deed#focus:}" ;;
+      *) xdotool type "$deed" ;;
     esac
     sleep 0.4
   done
-  xdotool key End  # after a key the caret is to be seen for half a second
+  [[ $* == *focus:* ]] || xdotool key End  # after a key the caret is to be seen for half a second
   sleep 0.2
   import -window "$window" +repage -define png:exclude-chunks=date,time \
     "docs/images/$name-$size.png"
@@ -54,4 +82,10 @@ for size in 240x320 480x640 1080x1440; do
   take dec "$size" 1 '2*sin(30)+3!='
   take hex "$size" 2 'FF AND 3C='
   take shift "$size" 1 '8^(1/3)=' press:alt+s
+  take macro-editor "$size" 1 press:alt+f press:m 'focus:Edit Macro' press:Down press:Return
+  take macro-list "$size" 1 press:alt+a 'focus:Macro List' press:Down
+  take display-settings "$size" 1 press:alt+f press:c 'focus:Display Settings'
+  take memory "$size" 1 press:alt+c press:Up press:Up press:Up press:Return 'focus:Memory Variable' \
+    press:Down
+  take constants "$size" 1 press:alt+c press:Up press:Return focus:Constants mass press:Down
 done

@@ -8,6 +8,11 @@
 #include <utility>
 
 #include "app/app_texts.h"
+#include "engine/display_settings_dlg.h"
+#include "macros/macro_editor_dlg.h"
+#include "macros/macro_list_dlg.h"
+#include "memory/constants_dlg.h"
+#include "memory/memory_variables_dlg.h"
 #include "scientific/scientific_dlg.h"
 #include "settings/keys.h"
 
@@ -49,8 +54,20 @@ std::span<const ScreenKind> AllScreens() {
   return kScreens;
 }
 
-Rooms AllRooms(SettingsStore&) {
-  return {};  // a line for each dialog that there is
+Rooms AllRooms(SettingsStore& store) {
+  // A line for each dialog that there is.
+  Rooms rooms;
+  rooms.displaySettings = [&store](QWidget* parent) {
+    return RunDisplaySettings(parent, store, DisplayPage::Normal);
+  };
+  rooms.macroEditor = [&store](QWidget* parent) { RunMacroEditor(parent, store); };
+  rooms.macroList = [&store](QWidget* parent) { return RunMacroList(parent, store); };
+  rooms.storeVariable = [&store](QWidget* parent, const std::u16string& value) {
+    RunStoreVariable(parent, store, value);
+  };
+  rooms.recallVariable = [&store](QWidget* parent) { return RunRecallVariable(parent, store); };
+  rooms.constants = [](QWidget* parent) { return RunConstants(parent); };
+  return rooms;
 }
 
 FrameWindow::FrameWindow(SettingsStore& store, std::span<const ScreenKind> screens, Rooms rooms,

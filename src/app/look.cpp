@@ -1,12 +1,7 @@
 #include "app/look.h"
 
-#include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetricsF>
-#include <QPointer>
-#include <QProxyStyle>
-#include <QStyleFactory>
-#include <QStyleOption>
 #include <algorithm>
 
 namespace kav {
@@ -23,39 +18,7 @@ QString FaceName() {
   return "Tahoma";  // with the hint below, the system finds a stand-in
 }
 
-class TextMeasuredStyle final : public QProxyStyle {
- public:
-  using QProxyStyle::QProxyStyle;
-
- private:
-  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
-                         const QWidget* widget) const override {
-    const int text = option->fontMetrics.height();
-    if (type == CT_MenuBarItem) return size + QSize(text, text / 2);
-    const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
-    // The column for ticks is drawn as wide as an entry is high, but counted with fewer pixels.
-    return type == CT_MenuItem ? usual + QSize(text, text / 4) : usual;
-  }
-
-  int pixelMetric(PixelMetric metric, const QStyleOption* option,
-                  const QWidget* widget) const override {
-    if (metric == PM_MenuBarItemSpacing) return 0;
-    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    if (metric != PM_TextCursorWidth || option == nullptr) return usual;
-    return std::max(usual, option->fontMetrics.height() / 30);
-  }
-};
-
 }  // namespace
-
-QStyle* ScreenStyle() {
-  static QPointer<QStyle> style;
-  if (!style) {
-    style = new TextMeasuredStyle(QStyleFactory::create(QApplication::style()->name()));
-    style->setParent(QCoreApplication::instance());
-  }
-  return style;
-}
 
 QFont ScreenFont(int pixels) {
   static const QString kFace = FaceName();
@@ -85,6 +48,7 @@ QPalette ScreenPalette() {
   QPalette palette(QColor(233, 236, 240), QColor(241, 243, 246));
   palette.setColor(QPalette::Base, Qt::white);
   palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::Disabled, QPalette::Base, palette.color(QPalette::Window));
   palette.setColor(QPalette::Mid, QColor(173, 181, 189));
   palette.setColor(QPalette::Highlight, QColor(0, 110, 190));
   palette.setColor(QPalette::HighlightedText, Qt::white);
@@ -101,6 +65,10 @@ QRect PortraitArea(QSize window) {
   const int width = std::min(window.width(), qRound(window.height() * kWidest));
   const int height = std::min(window.height(), qRound(width * kTallest));
   return {(window.width() - width) / 2, (window.height() - height) / 2, width, height};
+}
+
+int TextPixels(int height) {
+  return qRound(height * 0.036);
 }
 
 QRect DialogUnits::Pixels(const QRect& units) const {

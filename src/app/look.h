@@ -32,13 +32,17 @@ QPalette ScreenPalette();
 QColor BackdropColour();
 
 /// The desktop's style, but for measures that are a fixed number of pixels there and here grow with
-/// the text: the room around the entries of menus, and the caret. For menu bars, menus and lines;
-/// the application owns it.
+/// the text: the room around the entries of menus, ticks, arrows, the caret. A widget does not hand
+/// it on to those within it. The application owns it.
 QStyle* ScreenStyle();
 
 /// The part of a window of `window` pixels that a screen fills: all of it as long as it stands
 /// upright, else a centred column.
 QRect PortraitArea(QSize window);
+
+/// The height of the running text, menus and dialogs alike, of a screen whose portrait area is
+/// `height` pixels high.
+int TextPixels(int height);
 
 /// Places in dialog units, in pixels. Neighbours in units stay neighbours in pixels, without gaps
 /// and overlaps, whatever the scale.

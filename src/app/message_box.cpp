@@ -1,19 +1,65 @@
 #include "app/message_box.h"
 
+#include <QEvent>
+#include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
+#include <algorithm>
 
 #include "app/app_texts.h"
+#include "app/look.h"
 
 namespace kav {
 namespace {
 
+/// A box with letters as large as those of the screen that it speaks for. By itself a message box
+/// breaks its text at a width that knows nothing of their size.
+class ScaledBox final : public QMessageBox {
+ public:
+  ScaledBox(Icon icon, const QString& text, StandardButtons buttons, QWidget* parent)
+      : QMessageBox(icon, QStringView(kApplicationName).toString(), text, buttons, parent) {
+    // What is said may hold a file name or a line of the user's, which is not to be read as markup.
+    setTextFormat(Qt::PlainText);
+    setPalette(ScreenPalette());
+    if (parent != nullptr) area_ = PortraitArea(parent->window()->size()).size();
+    setFont(ScreenFont(TextPixels(area_.height())));
+    setStyle(ScreenStyle());
+    for (QWidget* widget : findChildren<QWidget*>()) widget->setStyle(ScreenStyle());
+    setIcon(icon);  // drawn anew, at the size that the style has by now
+  }
+
+ private:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::LayoutRequest) return QMessageBox::event(event);
+    Fit();
+    return true;
+  }
+  void showEvent(QShowEvent* event) override {
+    QMessageBox::showEvent(event);
+    Fit();
+    if (parentWidget() == nullptr) return;
+    const QWidget* window = parentWidget()->window();
+    move(window->mapToGlobal(window->rect().center()) - rect().center());
+  }
+
+  void Fit() {
+    auto* label = findChild<QLabel*>("qt_msgbox_label");
+    const int pixels = font().pixelSize();
+    const int wanted = fontMetrics().boundingRect(QRect(), 0, text()).width() + pixels / 2;
+    if (!label->wordWrap()) label->setWordWrap(true);
+    label->setFixedWidth(std::min(wanted, area_.width() * 2 / 3));
+    layout()->setContentsMargins(pixels, pixels, pixels, pixels);
+    layout()->activate();
+    const int width = layout()->totalSizeHint().width();
+    setFixedSize(width, layout()->totalHeightForWidth(width));
+  }
+
+  QSize area_{480, 640};
+};
+
 int Show(QWidget* parent, QMessageBox::Icon icon, std::u16string_view text,
          QMessageBox::StandardButtons buttons) {
-  QMessageBox box(icon, QStringView(kApplicationName).toString(), QStringView(text).toString(),
-                  buttons, parent);
-  // What is said may hold a file name or a line of the user's, which is not to be read as markup.
-  box.setTextFormat(Qt::PlainText);
-  return box.exec();
+  return ScaledBox(icon, QStringView(text).toString(), buttons, parent).exec();
 }
 
 }  // namespace

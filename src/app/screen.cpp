@@ -13,9 +13,6 @@
 namespace kav {
 namespace {
 
-// Of the height of a screen.
-constexpr double kMenuTextHeight = 0.036;
-
 constexpr QSize kSmallest(180, 240);
 
 void AddAction(QMenu* menu, const MenuEntry& entry) {
@@ -90,7 +87,7 @@ void Screen::Dress(QMenu* menu) {
 
 void Screen::resizeEvent(QResizeEvent*) {
   const QRect area = PortraitArea(size());
-  menuBar_->setFont(ScreenFont(qRound(area.height() * kMenuTextHeight)));
+  menuBar_->setFont(ScreenFont(TextPixels(area.height())));
   const int menuHeight = menuBar_->sizeHint().height();
   menuBar_->setGeometry(area.x(), area.bottom() + 1 - menuHeight, area.width(), menuHeight);
   LayOut(DialogUnits(area.adjusted(0, 0, 0, -menuHeight), size_));

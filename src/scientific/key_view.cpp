@@ -3,17 +3,18 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "app/key_painter.h"
 #include "app/look.h"
 
 namespace kav {
 namespace {
 
-struct Colours {
+struct KeyRgb {
   QRgb background;
   QRgb text;
 };
 
-Colours ColoursOf(KeyColour colour) {
+KeyRgb RgbOf(KeyColour colour) {
   constexpr QRgb kBlack = qRgb(0, 0, 0);
   constexpr QRgb kOrange = qRgb(255, 192, 126);
   switch (colour) {
@@ -35,11 +36,9 @@ Colours ColoursOf(KeyColour colour) {
   return {qRgb(192, 255, 192), kBlack};
 }
 
-/// `share` (0 to 1) of `colour`, the rest of `other`.
-QColor Mixed(QColor colour, QColor other, double share) {
-  const auto mix = [share](int a, int b) { return qRound(a * share + b * (1 - share)); };
-  return {mix(colour.red(), other.red()), mix(colour.green(), other.green()),
-          mix(colour.blue(), other.blue())};
+KeyColours ColoursOf(KeyColour colour) {
+  const auto [background, text] = RgbOf(colour);
+  return {QColor(background), QColor(text)};
 }
 
 }  // namespace
@@ -63,37 +62,16 @@ QFont KeyView::TextFont() const {
 }
 
 QColor KeyView::Background() const {
-  const QColor colour(ColoursOf(place_.colour).background);
-  const QColor body = palette().color(QPalette::Window);
-  if (!isEnabled()) return Mixed(colour, body, 0.35);
-  if (isDown()) return Mixed(colour, TextColour(), 0.75);
-  if (underMouse()) return Mixed(colour, TextColour(), 0.93);
-  return colour;
+  return ColoursNow(*this, ColoursOf(place_.colour)).background;
 }
 
 QColor KeyView::TextColour() const {
-  const Colours colours = ColoursOf(place_.colour);
-  if (isEnabled()) return colours.text;
-  return Mixed(QColor(colours.text), palette().color(QPalette::Window), 0.35);
+  return ColoursNow(*this, ColoursOf(place_.colour)).text;
 }
 
 void KeyView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  // Two fills, one within the other, cost much less than a fill and a stroke.
-  const QColor background = Background();
-  const double line = qMax(1.0, height() / 36.0) * (hasFocus() ? 2 : 1);
-  const double radius = height() * 0.18;
-  const QRectF outline(rect());
-  painter.setBrush(hasFocus() ? palette().color(QPalette::Highlight)
-                              : Mixed(background, QColor(70, 80, 90), 0.6));
-  painter.drawRoundedRect(outline, radius, radius);
-  painter.setBrush(background);
-  painter.drawRoundedRect(outline.adjusted(line, line, -line, -line), radius - line, radius - line);
-  painter.setPen(TextColour());
-  painter.setFont(TextFont());
-  painter.drawText(rect(), Qt::AlignCenter, text());
+  PaintKey(painter, *this, ColoursOf(place_.colour), TextFont());
 }
 
 void KeyView::keyPressEvent(QKeyEvent* event) {

@@ -179,6 +179,7 @@ void CScientificDlg::Do(const ShowMemoryMenu&) {
 void CScientificDlg::Do(const OpenMacroEditor& request) {
   if (!request.message.empty()) ShowStop(this, request.message);
   TheRooms().macroEditor(this);
+  TheFrame().SaveStore();
 }
 
 void CScientificDlg::Do(const OpenMacroList&) {
@@ -191,10 +192,13 @@ void CScientificDlg::Do(const OpenConverter& request) {
 
 void CScientificDlg::Do(const StoreMemoryVariable& request) {
   TheRooms().storeVariable(this, request.value);
+  TheFrame().SaveStore();
 }
 
 void CScientificDlg::Do(const RecallMemoryVariable&) {
+  // Variables may have been cleared in it as well.
   if (const auto value = TheRooms().recallVariable(this)) model_.TakeVariable(*value);
+  TheFrame().SaveStore();
 }
 
 void CScientificDlg::Do(const OpenConstants&) {
@@ -215,8 +219,10 @@ void CScientificDlg::PopUp(const Menu& items, Key key, const std::function<void(
             });
   }
   const QRect below = keypad_->KeyArea(key);
-  const int left = std::min(below.left(), rect().right() - menu->sizeHint().width());
-  menu->popup(mapToGlobal(QPoint(left, below.bottom() + 1)));
+  menu->popup(mapToGlobal(QPoint(below.left(), below.bottom() + 1)));
+  // How wide it is, is known from now on.
+  const int beyond = menu->geometry().right() - mapToGlobal(rect().bottomRight()).x();
+  if (beyond > 0) menu->move(menu->x() - beyond, menu->y());
 }
 
 bool CScientificDlg::IsOffered(Key key) const {
@@ -238,6 +244,7 @@ std::function<void()> CScientificDlg::Opening(const std::function<void(QWidget*)
     TakeLine();
     open(this);
     Refresh();
+    TheFrame().SaveStore();
   };
 }
 

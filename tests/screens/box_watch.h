@@ -1,4 +1,5 @@
-// Modal boxes in tests: one that is expected is answered, any other fails the test and is closed.
+// Modal boxes and dialogs in tests: those that are expected are answered or used, any other fails
+// the test and is closed.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,8 +9,12 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QtTest/QTest>
 #include <deque>
+#include <functional>
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 namespace kav::test {
@@ -26,37 +31,65 @@ class BoxWatch final : public QObject {
     return watch;
   }
 
-  /// The next box that opens is expected, and answered by this button; left open for NoButton.
-  void Expect(QMessageBox::StandardButton answer) { answers_.push_back(answer); }
+  /// The next to open is a box, answered by this button; left open for NoButton.
+  void Expect(QMessageBox::StandardButton answer) { expected_.emplace_back(answer); }
+
+  /// The next to open is a dialog, on which `use` is run; it must leave it closed.
+  void ExpectDialog(std::function<void(QDialog&)> use) { expected_.emplace_back(std::move(use)); }
 
   /// The boxes that were answered since the last call; all that were expected must have come.
   std::vector<SeenBox> TakeSeen() {
-    EXPECT_TRUE(answers_.empty()) << "a box that was expected did not open";
-    answers_.clear();
+    EXPECT_TRUE(expected_.empty()) << "a box or a dialog that was expected did not open";
+    expected_.clear();
     return std::exchange(seen_, {});
   }
 
  private:
   BoxWatch() { qApp->installEventFilter(this); }
 
+  using Use = std::function<void(QDialog&)>;
+
   bool eventFilter(QObject* watched, QEvent* event) override {
     auto* dialog = qobject_cast<QDialog*>(watched);
-    if (dialog == nullptr || event->type() != QEvent::Show) return false;
+    if (dialog == nullptr || event->type() != QEvent::Show || event->spontaneous()) return false;
     auto* box = qobject_cast<QMessageBox*>(dialog);
-    if (box == nullptr || answers_.empty()) {
+    const bool isExpected =
+        !expected_.empty() && (box == nullptr ? 1U : 0U) == expected_.front().index();
+    if (!isExpected) {
       const QString text = box != nullptr ? box->text() : dialog->windowTitle();
       ADD_FAILURE() << "a modal box opened unasked: " << text.toStdString();
       QTimer::singleShot(0, dialog, &QDialog::reject);
       return false;
     }
-    seen_.push_back({box->text().toStdU16String(), box->icon()});
-    auto* answer = box->button(answers_.front());
-    if (answer != nullptr) QTimer::singleShot(0, answer, &QAbstractButton::click);
-    answers_.pop_front();
+    auto next = std::move(expected_.front());
+    expected_.pop_front();
+    if (box != nullptr) {
+      Answer(*box, std::get<QMessageBox::StandardButton>(next));
+    } else {
+      Run(*dialog, std::get<Use>(std::move(next)));
+    }
     return false;
   }
 
-  std::deque<QMessageBox::StandardButton> answers_;
+  void Answer(QMessageBox& box, QMessageBox::StandardButton answer) {
+    seen_.push_back({box.text().toStdU16String(), box.icon()});
+    auto* button = box.button(answer);
+    if (button != nullptr) QTimer::singleShot(0, button, &QAbstractButton::click);
+  }
+
+  static void Run(QDialog& dialog, Use use) {
+    QTimer::singleShot(0, &dialog, [&dialog, use = std::move(use)] {
+      // A dialog counts as active while its opener is, before it has the keyboard itself.
+      dialog.activateWindow();
+      EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &dialog; }));
+      use(dialog);
+      if (!dialog.isVisible()) return;
+      ADD_FAILURE() << "a dialog was left open: " << dialog.windowTitle().toStdString();
+      dialog.reject();
+    });
+  }
+
+  std::deque<std::variant<QMessageBox::StandardButton, Use>> expected_;
   std::vector<SeenBox> seen_;
 };
 

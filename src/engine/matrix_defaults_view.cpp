@@ -1,0 +1,84 @@
+#include "engine/matrix_defaults_view.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <string>
+#include <vector>
+
+#include "engine/display_settings_texts.h"
+
+namespace kav {
+namespace {
+
+QString ToQt(std::u16string_view text) {
+  return QStringView(text).toString();
+}
+
+template <class Texts>
+QComboBox* NewChoice(std::u16string_view name, const Texts& texts) {
+  auto* choice = new QComboBox;
+  choice->setAccessibleName(ToQt(name));
+  for (const auto& text : texts) choice->addItem(ToQt(text));
+  // As wide as its place; what it would like to have is too much on the smallest screen.
+  choice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  choice->view();  // made now, it gets the look of the dialog
+  return choice;
+}
+
+std::vector<std::u16string> MatrixSizes() {
+  std::vector<std::u16string> sizes;
+  for (int size = kMatrixSizeRange.least; size <= kMatrixSizeRange.most; ++size) {
+    sizes.push_back(Widen(PrintInteger(size)));
+  }
+  return sizes;
+}
+
+}  // namespace
+
+MatrixDefaultsView::MatrixDefaultsView(DisplaySettingsModel& model)
+    : model_(model),
+      columnWidth_(new QLineEdit),
+      rows_(NewChoice(kRowsName, MatrixSizes())),
+      columns_(NewChoice(kColumnsName, MatrixSizes())),
+      alignment_(NewChoice(kAlignmentCaption, kAlignments)) {
+  columnWidth_->setAccessibleName(ToQt(kColumnWidthCaption));
+  LayOut();
+  Connect();
+}
+
+void MatrixDefaultsView::LayOut() {
+  auto* parts = new QGridLayout(this);
+  parts->setContentsMargins(0, 0, 0, 0);
+  parts->addWidget(new QLabel(ToQt(kColumnWidthCaption)), 0, 0);
+  parts->addWidget(columnWidth_, 0, 1, 1, 3);
+  parts->addWidget(new QLabel(ToQt(kMatrixSizeCaption)), 1, 0);
+  parts->addWidget(rows_, 1, 1);
+  parts->addWidget(new QLabel(ToQt(kSizeSign)), 1, 2);
+  parts->addWidget(columns_, 1, 3);
+  parts->addWidget(new QLabel(ToQt(kAlignmentCaption)), 2, 0);
+  parts->addWidget(alignment_, 2, 1, 1, 3);
+  for (const int column : {1, 3}) parts->setColumnStretch(column, 1);
+}
+
+void MatrixDefaultsView::Connect() {
+  connect(columnWidth_, &QLineEdit::textEdited, this,
+          [this](const QString& text) { model_.TypeColumnWidth(text.toStdU16String()); });
+  connect(rows_, &QComboBox::activated, this,
+          [this](int index) { model_.ChooseMatrixRows(index + kMatrixSizeRange.least); });
+  connect(columns_, &QComboBox::activated, this,
+          [this](int index) { model_.ChooseMatrixColumns(index + kMatrixSizeRange.least); });
+  connect(alignment_, &QComboBox::activated, this,
+          [this](int index) { model_.ChooseAlignment(static_cast<CellAlignment>(index)); });
+}
+
+void MatrixDefaultsView::Refresh() {
+  columnWidth_->setText(ToQt(model_.ColumnWidth()));
+  rows_->setCurrentIndex(model_.MatrixRows() - kMatrixSizeRange.least);
+  columns_->setCurrentIndex(model_.MatrixColumns() - kMatrixSizeRange.least);
+  alignment_->setCurrentIndex(static_cast<int>(model_.Alignment()));
+}
+
+}  // namespace kav

@@ -1,0 +1,89 @@
+#include "macros/macro_list_dlg.h"
+
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QVBoxLayout>
+
+#include "app/dialog.h"
+#include "app/dialog_texts.h"
+#include "common/number_text.h"
+#include "macros/formula_view.h"
+#include "macros/macro_list_model.h"
+#include "macros/macro_list_view.h"
+#include "macros/macros_texts.h"
+
+namespace kav {
+namespace {
+
+/// Enough for the longest formula.
+constexpr int kFormulaLines = 6;
+
+class CMacroListDlg final : public Dialog {
+ public:
+  CMacroListDlg(QWidget* parent, SettingsStore& store);
+
+  std::optional<int> Selected() const { return model_.Selected(); }
+
+ private:
+  void LayOut();
+  void Connect();
+  void Refresh();
+  void OnSelect();
+
+  MacroListModel model_;
+  MacroListView* list_ = new MacroListView;
+  FormulaView* formula_ = new FormulaView(kFormulaLines);
+  DialogButton* ok_ = new DialogButton(kOkCaption);
+  DialogButton* cancel_ = new DialogButton(kCancelCaption);
+};
+
+CMacroListDlg::CMacroListDlg(QWidget* parent, SettingsStore& store)
+    : Dialog(parent, kMacroListTitle), model_(store) {
+  formula_->setReadOnly(true);
+  formula_->setFocusPolicy(Qt::NoFocus);
+  formula_->setFrameShape(QFrame::NoFrame);
+  formula_->viewport()->setAutoFillBackground(false);
+  formula_->setAccessibleName(QStringView(kFormulaName).toString());
+  LayOut();
+  Connect();
+  Refresh();
+}
+
+void CMacroListDlg::LayOut() {
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(ok_);
+  buttons->addWidget(cancel_);
+  auto* all = new QVBoxLayout(this);
+  all->addWidget(list_, 1);
+  all->addWidget(formula_);
+  all->addLayout(buttons);
+  ok_->setDefault(true);
+}
+
+void CMacroListDlg::Connect() {
+  connect(list_, &QListWidget::itemSelectionChanged, this, &CMacroListDlg::OnSelect);
+  connect(list_, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
+  connect(ok_, &QPushButton::clicked, this, &QDialog::accept);
+  connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void CMacroListDlg::Refresh() {
+  list_->Write(model_.Labels(), model_.Selected());
+  const Macro* macro = model_.SelectedMacro();
+  formula_->setPlainText(OneLine(macro != nullptr ? Widen(macro->formula) : std::u16string()));
+  ok_->setEnabled(macro != nullptr);
+}
+
+void CMacroListDlg::OnSelect() {
+  model_.Select(list_->Selected());
+  Refresh();
+}
+
+}  // namespace
+
+std::optional<int> RunMacroList(QWidget* parent, SettingsStore& store) {
+  CMacroListDlg dlg(parent, store);
+  return dlg.RunModal() ? dlg.Selected() : std::nullopt;
+}
+
+}  // namespace kav

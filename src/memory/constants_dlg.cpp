@@ -1,0 +1,154 @@
+#include "memory/constants_dlg.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "app/dialog.h"
+#include "app/dialog_texts.h"
+#include "app/message_box.h"
+#include "memory/constants_model.h"
+#include "memory/constants_table.h"
+#include "memory/constants_view.h"
+#include "memory/memory_texts.h"
+
+namespace kav {
+namespace {
+
+constexpr int kLongestFilter = 100;
+
+QString Text(std::u16string_view text) {
+  return QStringView(text).toString();
+}
+
+/// A text with room for two lines, whatever it is: nothing moves when another row is selected.
+class TwoLines final : public QLabel {
+ public:
+  TwoLines() {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  }
+
+  QSize sizeHint() const override { return {0, fontMetrics().size(0, "X\nX").height()}; }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+  int heightForWidth(int) const override { return sizeHint().height(); }
+};
+
+class CConstantsDlg final : public Dialog {
+ public:
+  CConstantsDlg(QWidget* parent, ConstantsModel& model);
+
+  /// The value that was chosen; nullopt where none was.
+  std::optional<std::u16string> Chosen() && { return std::move(chosen_); }
+
+ private:
+  void LayOut();
+  void Connect();
+  void Refresh();
+  void OnFilter(const QString& filter);
+  void OnOk();
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  ConstantsModel& model_;
+  std::optional<std::u16string> chosen_;
+  QLineEdit* filter_ = new QLineEdit;
+  QLabel* count_ = new QLabel;
+  ConstantsView* list_;
+  QLabel* name_ = new TwoLines;
+  QLineEdit* value_ = new QLineEdit;
+  DialogButton* ok_ = new DialogButton(kOkCaption);
+  DialogButton* cancel_ = new DialogButton(kCancelCaption);
+};
+
+CConstantsDlg::CConstantsDlg(QWidget* parent, ConstantsModel& model)
+    : Dialog(parent, kConstantsTitle),
+      model_(model),
+      list_(new ConstantsView(model, [this] { Refresh(); })) {
+  filter_->setPlaceholderText(Text(kFilterCaption));
+  filter_->setAccessibleName(Text(kFilterCaption));
+  filter_->setMaxLength(kLongestFilter);
+  filter_->installEventFilter(this);
+  name_->setAccessibleName(Text(kConstantName));
+  value_->setAccessibleName(Text(kConstantValue));
+  value_->setReadOnly(true);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, QColor(255, 255, 192));
+  colours.setColor(QPalette::Text, Qt::black);
+  value_->setPalette(colours);
+  LayOut();
+  Connect();
+  Refresh();
+}
+
+void CConstantsDlg::LayOut() {
+  auto* top = new QHBoxLayout;
+  top->addWidget(filter_, 1);
+  top->addWidget(count_);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(ok_);
+  buttons->addWidget(cancel_);
+  auto* all = new QVBoxLayout(this);
+  all->addLayout(top);
+  all->addWidget(list_, 1);
+  all->addWidget(new QLabel(Text(kConstantName)));
+  all->addWidget(name_);
+  all->addWidget(new QLabel(Text(kConstantValue)));
+  all->addWidget(value_);
+  all->addLayout(buttons);
+  ok_->setDefault(true);
+  filter_->setFocus();
+}
+
+void CConstantsDlg::Connect() {
+  connect(filter_, &QLineEdit::textChanged, this, &CConstantsDlg::OnFilter);
+  connect(list_, &QTreeView::doubleClicked, this, &CConstantsDlg::OnOk);
+  connect(ok_, &QPushButton::clicked, this, &CConstantsDlg::OnOk);
+  connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void CConstantsDlg::Refresh() {
+  count_->setText(Text(model_.CountText()));
+  name_->setText(OneLine(model_.SelectedName()));
+  value_->setText(OneLine(model_.SelectedValue()));
+  value_->setCursorPosition(0);
+}
+
+void CConstantsDlg::OnFilter(const QString& filter) {
+  model_.SetFilter(filter.toStdU16String());
+  list_->Reload();
+  Refresh();
+}
+
+void CConstantsDlg::OnOk() {
+  auto value = model_.Choose();
+  if (!value) return ShowStop(this, value.error());
+  chosen_ = *std::move(value);
+  accept();
+}
+
+/// The keys that move between rows do so while the filter is typed.
+bool CConstantsDlg::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != filter_ || event->type() != QEvent::KeyPress) return false;
+  return list_->TakeKey(static_cast<QKeyEvent*>(event)->key());
+}
+
+}  // namespace
+
+std::optional<std::u16string> RunConstants(QWidget* parent) {
+  return RunConstants(parent, ConstantsFolders());
+}
+
+std::optional<std::u16string> RunConstants(QWidget* parent,
+                                           const std::vector<std::string>& folders) {
+  ConstantsModel model(folders);
+  if (model.LoadFailure()) ShowStop(parent, *model.LoadFailure());
+  CConstantsDlg dlg(parent, model);
+  dlg.RunModal();
+  return std::move(dlg).Chosen();
+}
+
+}  // namespace kav

@@ -1,0 +1,126 @@
+// What all dialogs have in common: where they open, how they scale, and how their lines are shown.
+#include "app/dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "screens/box_watch.h"
+#include "screens/screen_driver.h"
+
+namespace kav::test {
+namespace {
+
+class SampleDialog final : public Dialog {
+ public:
+  explicit SampleDialog(QWidget* parent) : Dialog(parent, u"Sample") {
+    auto* rows = new QVBoxLayout(this);
+    rows->addWidget(field = new QLineEdit("text"));
+    rows->addWidget(combo = new QComboBox);
+    rows->addWidget(radio = new QRadioButton("choice"));
+    rows->addWidget(button = new DialogButton(u"Variables"));
+    combo->addItems({"Left", "Right"});
+    connect(button, &QPushButton::clicked, this, &QDialog::accept);
+  }
+
+  QLineEdit* field;
+  QComboBox* combo;
+  QRadioButton* radio;
+  DialogButton* button;
+};
+
+class DialogTest : public testing::Test {
+ protected:
+  void Open(QSize size, const std::function<void(SampleDialog&)>& use) {
+    Show(screen_, size);
+    SampleDialog dialog(&screen_);
+    BoxWatch::Instance().ExpectDialog([&](QDialog&) {
+      use(dialog);
+      dialog.reject();
+    });
+    EXPECT_FALSE(dialog.RunModal());
+    EXPECT_TRUE(BoxWatch::Instance().TakeSeen().empty());
+  }
+
+  QWidget screen_;
+};
+
+TEST_F(DialogTest, CoversTheScreenThatOpensIt) {
+  Open({480, 640}, [this](const SampleDialog& dialog) {
+    EXPECT_EQ(dialog.geometry(), screen_.geometry());
+    EXPECT_TRUE(dialog.isModal());
+    EXPECT_EQ(dialog.windowTitle(), "Sample");
+  });
+}
+
+TEST_F(DialogTest, CoversOnlyTheUprightPartOfAWideScreen) {
+  Open({800, 400}, [this](const SampleDialog& dialog) {
+    EXPECT_EQ(dialog.size(), QSize(300, 400));
+    EXPECT_EQ(dialog.geometry().center().x(), screen_.geometry().center().x());
+  });
+}
+
+TEST_F(DialogTest, TextsGrowWithTheHeight) {
+  std::vector<int> sizes;
+  for (const QSize size : {QSize(240, 320), QSize(480, 640), QSize(960, 1280)}) {
+    Open(size, [&](const SampleDialog& dialog) {
+      sizes.push_back(dialog.field->font().pixelSize());
+      EXPECT_EQ(dialog.button->font().pixelSize(), sizes.back());
+      EXPECT_GE(dialog.field->height(), dialog.field->fontMetrics().height());
+      EXPECT_GE(dialog.combo->height(), dialog.combo->fontMetrics().height());
+    });
+  }
+  ASSERT_EQ(sizes.size(), 3U);
+  EXPECT_GE(sizes[0], 11);
+  EXPECT_NEAR(sizes[1], 2 * sizes[0], 2);
+  EXPECT_NEAR(sizes[2], 4 * sizes[0], 4);
+}
+
+TEST_F(DialogTest, MarksGrowWithTheTexts) {
+  Open({960, 1280}, [](const SampleDialog& dialog) {
+    const int mark = dialog.radio->style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr,
+                                                        dialog.radio);
+    EXPECT_GT(mark, dialog.radio->fontMetrics().height() / 2);
+  });
+}
+
+TEST_F(DialogTest, ACaptionHasRoomOnItsButton) {
+  Open({240, 320}, [](const SampleDialog& dialog) {
+    const int text = dialog.button->fontMetrics().horizontalAdvance(dialog.button->text());
+    EXPECT_LT(text, dialog.button->sizeHint().width());
+  });
+}
+
+TEST_F(DialogTest, AcceptingIsTheAnswerYes) {
+  Show(screen_, {480, 640});
+  SampleDialog dialog(&screen_);
+  BoxWatch::Instance().ExpectDialog([&](QDialog&) { Click(*dialog.button); });
+  EXPECT_TRUE(dialog.RunModal());
+}
+
+TEST_F(DialogTest, EscapeIsTheAnswerNo) {
+  Show(screen_, {480, 640});
+  SampleDialog dialog(&screen_);
+  BoxWatch::Instance().ExpectDialog([](QDialog& open) { QTest::keyClick(&open, Qt::Key_Escape); });
+  EXPECT_FALSE(dialog.RunModal());
+}
+
+TEST(OneLine, KeepsAShortText) {
+  EXPECT_EQ(OneLine(u""), "");
+  EXPECT_EQ(OneLine(u"M:größe(1)"), QStringView(u"M:größe(1)").toString());
+  EXPECT_EQ(OneLine(std::u16string(400, u'x')), QString(400, 'x'));
+}
+
+TEST(OneLine, MakesBreaksAndTabsBlanks) {
+  EXPECT_EQ(OneLine(u"a\nb\tc\r\nd"), "a b c  d");
+}
+
+TEST(OneLine, CutsWhatNoScreenHasRoomFor) {
+  EXPECT_EQ(OneLine(std::u16string(1'000'000, u'x')), QString(400, 'x') + QChar(u'…'));
+}
+
+}  // namespace
+}  // namespace kav::test
