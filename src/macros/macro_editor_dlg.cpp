@@ -8,10 +8,10 @@
 
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
+#include "app/label_list.h"
 #include "app/message_box.h"
 #include "macros/macro_editor_model.h"
 #include "macros/macro_fields_view.h"
-#include "macros/macro_list_view.h"
 #include "macros/macros_texts.h"
 #include "memory/memory_variables_dlg.h"
 
@@ -63,7 +63,7 @@ class CMacroEditorDlg final : public Dialog {
   MacroEditorModel model_;
   MacroFieldsView* fields_ = new MacroFieldsView;
   QLabel* count_ = new QLabel;
-  MacroListView* list_ = new MacroListView;
+  LabelList* list_ = new LabelList(kMacroListName);
   std::array<DialogButton*, kButtonCount> buttons_{};
 };
 

@@ -6,10 +6,10 @@
 
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
+#include "app/label_list.h"
 #include "common/number_text.h"
 #include "macros/formula_view.h"
 #include "macros/macro_list_model.h"
-#include "macros/macro_list_view.h"
 #include "macros/macros_texts.h"
 
 namespace kav {
@@ -31,7 +31,7 @@ class CMacroListDlg final : public Dialog {
   void OnSelect();
 
   MacroListModel model_;
-  MacroListView* list_ = new MacroListView;
+  LabelList* list_ = new LabelList(kMacroListName);
   FormulaView* formula_ = new FormulaView(kFormulaLines);
   DialogButton* ok_ = new DialogButton(kOkCaption);
   DialogButton* cancel_ = new DialogButton(kCancelCaption);

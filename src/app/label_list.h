@@ -1,16 +1,18 @@
-// The list of macros as a widget, the same in the editor and in the list to choose from.
+// A list of what the user stored under names of his own, which may be of any length.
 #pragma once
 
 #include <QListWidget>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kav {
 
-class MacroListView final : public QListWidget {
+class LabelList final : public QListWidget {
  public:
-  MacroListView();
+  /// A list called `name`.
+  explicit LabelList(std::u16string_view name);
 
   std::optional<int> Selected() const;
 

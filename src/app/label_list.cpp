@@ -1,10 +1,9 @@
-#include "macros/macro_list_view.h"
+#include "app/label_list.h"
 
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
 #include "app/dialog.h"
-#include "macros/macros_texts.h"
 
 namespace kav {
 namespace {
@@ -22,19 +21,19 @@ class FittingDelegate final : public QStyledItemDelegate {
 
 }  // namespace
 
-MacroListView::MacroListView() {
-  setAccessibleName(QStringView(kMacroListName).toString());
+LabelList::LabelList(std::u16string_view name) {
+  setAccessibleName(QStringView(name).toString());
   setItemDelegate(new FittingDelegate(this));
   setTextElideMode(Qt::ElideMiddle);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-std::optional<int> MacroListView::Selected() const {
+std::optional<int> LabelList::Selected() const {
   const QList<QListWidgetItem*> items = selectedItems();
   return items.isEmpty() ? std::nullopt : std::optional(row(items.front()));
 }
 
-void MacroListView::Write(const std::vector<std::u16string>& labels, std::optional<int> selected) {
+void LabelList::Write(const std::vector<std::u16string>& labels, std::optional<int> selected) {
   const QSignalBlocker blocker(this);
   const int wanted = static_cast<int>(labels.size());
   while (count() > wanted) delete takeItem(count() - 1);
