@@ -362,4 +362,16 @@ std::u16string_view TrimBlanks(std::u16string_view text) {
   return Trim(text);
 }
 
+std::u16string OnOneLine(std::u16string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](char16_t c) { return c < u' '; }, u' ');
+  return text;
+}
+
+std::u16string Shortened(std::u16string_view text, std::size_t most) {
+  if (text.size() <= most) return OnOneLine(std::u16string(text));
+  const bool cutsCharacter = most > 0 && (text[most - 1] & 0xFC00U) == 0xD800U;
+  return OnOneLine(std::u16string(text.substr(0, cutsCharacter ? most - 1 : most))) + u'…';
+}
+
 }  // namespace kav

@@ -65,4 +65,11 @@ std::size_t Utf8Length(std::string_view text);
 std::string_view TrimBlanks(std::string_view text);
 std::u16string_view TrimBlanks(std::u16string_view text);
 
+/// `text` with a blank in the place of each line break, tab and other control character.
+std::u16string OnOneLine(std::u16string text);
+
+/// The first `most` UTF-16 units of `text`, never half a character, on one line; behind them an
+/// ellipsis where they are not all. For texts of any length in boxes and lists that have an end.
+std::u16string Shortened(std::u16string_view text, std::size_t most);
+
 }  // namespace kav

@@ -72,12 +72,7 @@ MacroFields FieldsOf(const Macro& macro) {
 }  // namespace
 
 std::u16string ShownText(std::u16string_view text) {
-  std::size_t length = std::min(text.size(), kMostShown);
-  if (CutsCharacter(text, length)) --length;
-  std::u16string shown(text.substr(0, length));
-  std::replace_if(
-      shown.begin(), shown.end(), [](char16_t c) { return c < u' '; }, u' ');
-  return length < text.size() ? shown + u'…' : shown;
+  return Shortened(text, kMostShown);
 }
 
 MacroEditorModel::MacroEditorModel(SettingsStore& settings) : settings_(settings), list_(settings) {

@@ -34,9 +34,7 @@ void WriteRecord(const Record& record, int index, SettingsStore& settings) {
 /// `typed` without blanks around it. What is pasted brings line breaks and tabs along, which mean
 /// no more than blanks do.
 std::u16string Cleaned(std::u16string text) {
-  std::replace_if(
-      text.begin(), text.end(), [](char16_t c) { return c < u' '; }, u' ');
-  return std::u16string(TrimBlanks(text));
+  return std::u16string(TrimBlanks(OnOneLine(std::move(text))));
 }
 
 bool IsUsedByAnother(std::string_view name, std::optional<int> own, const MacroStore& macros) {

@@ -68,8 +68,7 @@ inline std::u16string MaximumOfMacros(std::size_t most) {
 inline std::u16string MacroExistsAlready(std::u16string_view name) {
   // Names may be of any length, boxes may not.
   constexpr std::size_t kMostShown = 200;
-  const bool isCut = name.size() > kMostShown;
-  return std::u16string(name.substr(0, kMostShown)) + (isCut ? u"…" : u"") + u" exists already.";
+  return Shortened(name, kMostShown) + u" exists already.";
 }
 
 inline std::u16string MacroFormulaIsTooLong(std::size_t length, std::size_t most) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "app/look.h"
+#include "common/number_text.h"
 
 namespace kav {
 namespace {
@@ -84,10 +85,7 @@ void LineView::focusOutEvent(QFocusEvent* event) {
 }
 
 std::u16string TextOf(const QLineEdit& line) {
-  std::u16string text = line.text().toStdU16String();
-  std::replace_if(
-      text.begin(), text.end(), [](char16_t c) { return c < u' '; }, u' ');
-  return text;
+  return OnOneLine(line.text().toStdU16String());
 }
 
 Selection SelectionOf(const QLineEdit& line) {

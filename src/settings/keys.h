@@ -44,6 +44,18 @@ inline constexpr IntegerKey kConverterClass{"Convert", "ClassPos", -1};
 inline constexpr IntegerKey kConverterInput{"Convert", "InputTypePos", -1};
 inline constexpr IntegerKey kConverterOutput{"Convert", "OutputTypePos", -1};
 
+// The unit conversions that the user defined: a count, then a section each, numbered from 0.
+inline constexpr IntegerKey kUserConversionCount{"Converter", "UserDefine_TotalNumber", 0};
+inline std::string UserConversionSection(int index) {
+  return "UserDefine_Convert_" + std::to_string(index);
+}
+inline NumberedKey UserConversionText(int index) {
+  return {UserConversionSection(index), "ConvType", ""};
+}
+inline NumberedKey UserConversionRate(int index) {
+  return {UserConversionSection(index), "Rate", ""};
+}
+
 // Macros: a count, then a section each, numbered from 0.
 inline constexpr IntegerKey kMacroCount{"MacroInfo", "TotalNumber", 0};
 inline std::string MacroSection(int index) {

@@ -139,5 +139,27 @@ TEST(TrimBlanks, TakesBlanksOffBothEndsAndNothingElse) {
   }
 }
 
+TEST(OnOneLine, ControlCharactersBecomeBlanks) {
+  EXPECT_EQ(OnOneLine(u""), u"");
+  EXPECT_EQ(OnOneLine(u"größe 1"), u"größe 1");
+  EXPECT_EQ(OnOneLine(u"a\nb\tc\r\nd\u0001"), u"a b c  d ");
+  EXPECT_EQ(OnOneLine(std::u16string(1, u'\0')), u" ");
+}
+
+TEST(Shortened, TellsByAnEllipsisThatThereIsMore) {
+  EXPECT_EQ(Shortened(u"", 0), u"");
+  EXPECT_EQ(Shortened(u"abc", 3), u"abc");
+  EXPECT_EQ(Shortened(u"abcd", 3), u"abc…");
+  EXPECT_EQ(Shortened(u"abcd", 0), u"…");
+  EXPECT_EQ(Shortened(u"a\nb", 3), u"a b");
+  EXPECT_EQ(Shortened(u"a\nbc", 3), u"a b…");
+}
+
+TEST(Shortened, NeverCutsACharacter) {
+  EXPECT_EQ(Shortened(u"ab\U0001F600c", 3), u"ab…");
+  EXPECT_EQ(Shortened(u"ab\U0001F600c", 4), u"ab\U0001F600…");
+  EXPECT_EQ(Shortened(u"ab\U0001F600", 4), u"ab\U0001F600");
+}
+
 }  // namespace
 }  // namespace kav
