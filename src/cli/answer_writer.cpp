@@ -28,10 +28,12 @@ void AnswerWriter::Answer(std::string_view text) {
   End();
 }
 
-void AnswerWriter::AnswerRow(std::string_view first, std::string_view second) {
-  std::replace_copy_if(first.begin(), first.end(), std::back_inserter(text_), IsControl, ' ');
-  text_ += '\t';
-  std::replace_copy_if(second.begin(), second.end(), std::back_inserter(text_), IsControl, ' ');
+void AnswerWriter::AnswerRow(std::initializer_list<std::string_view> columns) {
+  for (const std::string_view column : columns) {
+    std::replace_copy_if(column.begin(), column.end(), std::back_inserter(text_), IsControl, ' ');
+    text_ += '\t';
+  }
+  text_.pop_back();
   End();
 }
 

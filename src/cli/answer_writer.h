@@ -1,6 +1,7 @@
 // Standard output, one line for each item.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -19,9 +20,9 @@ class AnswerWriter {
     if (text_.size() >= flushAt_) Flush();
   }
   void Answer(std::string_view text);
-  /// Answers with two columns, a tab between them. Tabs, line breaks and the like within them
-  /// become blanks, so that a row stays one.
-  void AnswerRow(std::string_view first, std::string_view second);
+  /// Answers with columns, a tab between them. Tabs, line breaks and the like within them become
+  /// blanks, so that a row stays one.
+  void AnswerRow(std::initializer_list<std::string_view> columns);
   /// Answers that the item failed, and why.
   void Fail(std::string_view message);
   /// Remembers that an item stays without an answer.

@@ -20,6 +20,11 @@ std::string Joined(std::string_view start, std::string_view middle, std::string_
   return std::string(start).append(middle).append(end);
 }
 
+/// Where to find what the category numbered `number` offers.
+std::string SeeList(int number) {
+  return "; kavcalc convert --list " + PrintInteger(number) + " shows all";
+}
+
 }  // namespace
 
 std::string Quoted(std::string_view text) {
@@ -57,6 +62,10 @@ std::string NotAMemoryVariable(std::string_view text, int count) {
          PrintInteger(count) + ".";
 }
 
+std::string NotAUserConversion(std::string_view text) {
+  return Quoted(text) + " is no user-define unit convert.";
+}
+
 std::string CannotRead(std::string_view reason) {
   return Joined("cannot read standard input: ", reason, "");
 }
@@ -67,6 +76,27 @@ std::string CannotWrite(std::string_view reason) {
 
 std::string CannotKeepHistory(std::string_view path, std::string_view reason) {
   return Joined("the history is not kept: ", path, ": ").append(reason);
+}
+
+std::string RatesLostDigits(std::string_view conversions) {
+  return Joined("all rates were stored with six decimals, and these lost digits:", conversions, "");
+}
+
+std::string NoCategoryIs(std::string_view name) {
+  return Joined("there is no category ", Quoted(name), "; kavcalc convert --list shows all");
+}
+
+std::string CategoryTakes(std::string_view category, int number, std::string_view arguments) {
+  return Quoted(category).append(" takes ").append(arguments) + SeeList(number);
+}
+
+std::string HasNoUnit(std::string_view category, int number, std::string_view given) {
+  return Joined(Quoted(category), " has no ", Quoted(given)) + SeeList(number);
+}
+
+std::string IsSeveralUnits(std::string_view category, std::string_view given) {
+  return Joined(Quoted(category), " has several ", Quoted(given)) +
+         ", which differ in upper and lower case";
 }
 
 std::string LacksVerb(std::string_view command) {

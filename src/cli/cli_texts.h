@@ -22,6 +22,7 @@ std::string MenuDoesNotOffer(std::string_view text);
 std::string NeedsTheWindow(std::string_view key);
 std::string NotVariables(std::string_view text);
 std::string NotAMemoryVariable(std::string_view text, int count);
+std::string NotAUserConversion(std::string_view text);
 
 // On standard error, behind the program's name. `reason` is the system's.
 std::string CannotRead(std::string_view reason);
@@ -29,6 +30,16 @@ std::string CannotWrite(std::string_view reason);
 std::string CannotKeepHistory(std::string_view path, std::string_view reason);
 inline constexpr std::string_view kNothingToClear =
     "memory clear lacks what to clear: numbers from 1 to 20, or all";
+std::string RatesLostDigits(std::string_view conversions);
+inline constexpr std::string_view kLacksCategory =
+    "convert lacks the category; kavcalc convert --list shows all";
+inline constexpr std::string_view kListTakesOneCategory = "convert --list takes one category";
+inline constexpr std::string_view kTwoUnits = "a unit and the unit to convert it to";
+inline constexpr std::string_view kOneConversion = "one of its conversions";
+std::string NoCategoryIs(std::string_view name);
+std::string CategoryTakes(std::string_view category, int number, std::string_view arguments);
+std::string HasNoUnit(std::string_view category, int number, std::string_view given);
+std::string IsSeveralUnits(std::string_view category, std::string_view given);
 std::string LacksVerb(std::string_view command);
 std::string HasNoVerb(std::string_view command, std::string_view given);
 std::string VerbTakes(std::string_view command, std::string_view verb, std::string_view arguments);

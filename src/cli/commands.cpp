@@ -4,6 +4,7 @@
 
 #include "cli/check_command.h"
 #include "cli/constants_command.h"
+#include "cli/convert_command.h"
 #include "cli/eval_command.h"
 #include "cli/format_command.h"
 #include "cli/help_texts.h"
@@ -21,6 +22,8 @@ constexpr std::array kCommands{
             kCheckDetails, RunCheck},
     Command{"format", "format [OPTION]... [--] [NUMBER]...",
             "write numbers as the calculator shows them", kFormatDetails, RunFormat},
+    Command{"convert", "convert [OPTION]... [--] CATEGORY FROM [TO] [VALUE]...",
+            "convert values to other units", kConvertDetails, RunConvert},
     Command{"keys", "keys [OPTION]... [--] [KEY]...", "press keys of the scientific screen",
             kKeysDetails, RunKeys},
     Command{"macro", "macro list|add|remove [OPTION]... [--] [ARGUMENT]...",

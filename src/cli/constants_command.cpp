@@ -27,7 +27,7 @@ int RunConstants(const CommandLine& line) {
   const std::u16string filter = FilterOf(line.items);
   for (const Constant& constant : *constants) {
     if (!Matches(constant, filter)) continue;
-    answers.AnswerRow(Narrow(constant.name), Narrow(constant.value));
+    answers.AnswerRow({Narrow(constant.name), Narrow(constant.value)});
   }
   return answers.Finish();
 }

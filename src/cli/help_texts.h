@@ -40,6 +40,27 @@ inline constexpr std::string_view kFormatDetails =
   kavcalc format --display thousands 1234567      1,234,567
   kavcalc format --base hex 255                   FF)text";
 
+inline constexpr std::string_view kConvertDetails =
+    R"text(Converts each value from the unit FROM to the unit TO. CATEGORY is the number or
+the caption of a category; where it lists conversions rather than units
+(Temperature, User Define), one of them stands as FROM, without TO. --list prints
+what there is, a line for each unit: category, tab, unit, tab, rate.
+
+  convert user list        prints each conversion of the user's own, a tab and
+                           its rate
+  convert user add FROM TO RATE
+                           stores a conversion and answers its text; an item of
+                           standard input is FROM, a tab, TO, a tab, RATE
+  convert user remove TEXT...
+                           removes each conversion and answers "ok"; all other
+                           rates are then stored with six decimals
+
+  kavcalc convert length Miles Kilometers 1            1.609344
+  kavcalc convert 12 'Celsius -> Fahrenheit' 100       212
+  kavcalc convert --list speed
+  kavcalc convert user add inch cm 2.54                inch -> cm
+  kavcalc convert 15 'inch -> cm' 10                   25.4)text";
+
 inline constexpr std::string_view kKeysDetails =
     R"text(Presses the keys of a fresh scientific screen, one an argument or one a line of
 standard input, and prints one line for all of them: the expression line with "|"

@@ -22,7 +22,7 @@ int ListMacros(const CommandLine& line) {
   const MacroStore macros(settings.Store());
   AnswerWriter answers;
   for (int i = 0; i < macros.Count(); ++i) {
-    answers.AnswerRow(Narrow(MacroLabel(macros.At(i))), macros.At(i).formula);
+    answers.AnswerRow({Narrow(MacroLabel(macros.At(i))), macros.At(i).formula});
   }
   return answers.Finish();
 }

@@ -59,6 +59,9 @@ bool TakeRaw(std::string_view, std::string_view, Options& options) {
 bool TakeSteps(std::string_view, std::string_view, Options& options) {
   return options.showsSteps = true;
 }
+bool TakeList(std::string_view, std::string_view, Options& options) {
+  return options.listsUnits = true;
+}
 
 static_assert(DisplayFormat::kMaxPrecision == 99, "the help names the limit");
 constexpr std::array kOptions{
@@ -74,6 +77,7 @@ constexpr std::array kOptions{
     OptionRow{"--variables", kVariables, "the variables of the formulas [x]", "check|macro",
               TakeVariables},
     OptionRow{"--steps", "", "show the order of the calculation", "check", TakeSteps},
+    OptionRow{"--list", "", "list the units of the category, or of all", "convert", TakeList},
 };
 
 }  // namespace

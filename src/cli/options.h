@@ -25,6 +25,7 @@ struct Options {
   std::string settingsFile;  ///< empty: the user's
   VariableType variables = VariableType::X;
   bool showsSteps = false;
+  bool listsUnits = false;
 };
 
 /// A command line that can be carried out. `items` are what the command works on, in order; with

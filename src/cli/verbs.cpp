@@ -14,6 +14,8 @@ bool Takes(const Verb& verb, std::size_t given) {
       return given == 0;
     case Arguments::TwoOrNone:
       return given == 0 || given == 2;
+    case Arguments::ThreeOrNone:
+      return given == 0 || given == 3;
     case Arguments::Any:
       break;
   }

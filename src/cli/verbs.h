@@ -8,8 +8,9 @@
 
 namespace kav {
 
-/// What may stand behind a verb: nothing, the two parts of an item or nothing, any number of items.
-enum class Arguments { None, TwoOrNone, Any };
+/// What may stand behind a verb: nothing, the two or three parts of an item or nothing, any number
+/// of items.
+enum class Arguments { None, TwoOrNone, ThreeOrNone, Any };
 
 /// One of the things that a command can do.
 struct Verb {

@@ -1,0 +1,130 @@
+#include "cli/convert_command.h"
+
+#include <cmath>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "cli/cli_texts.h"
+#include "cli/evaluation.h"
+#include "cli/items.h"
+#include "cli/stored_settings.h"
+#include "cli/unit_rows.h"
+#include "cli/usage.h"
+#include "cli/user_conversions_command.h"
+#include "common/number_text.h"
+#include "converter/conversion.h"
+#include "converter/converter_input.h"
+#include "converter/converter_texts.h"
+#include "converter/user_conversions.h"
+#include "engine/calc_error.h"
+
+namespace kav {
+namespace {
+
+std::string WhyNot(NameFailure failure, std::string_view name, const UnitCategory& category) {
+  const std::string caption = Narrow(category.caption);
+  return failure == NameFailure::Ambiguous ? IsSeveralUnits(caption, name)
+                                           : HasNoUnit(caption, NumberOf(category), name);
+}
+
+/// What the arguments ask for: a conversion, and how many of them it took to name it.
+struct Asked {
+  std::function<double(double)> convert;
+  std::size_t names;
+};
+
+/// The conversion of `category` that the rows at `places` mean.
+std::function<double(double)> ConversionOf(const UnitCategory& category,
+                                           const std::vector<UnitRow>& rows,
+                                           const std::vector<std::size_t>& places) {
+  const std::size_t first = places.front();
+  switch (category.kind) {
+    case CategoryKind::Rates:
+      return [from = category.units[first], to = category.units[places.back()]](double value) {
+        return ConvertUnits(value, from, to);
+      };
+    case CategoryKind::Temperature:
+      return TemperatureConversions()[first].convert;
+    case CategoryKind::UserDefined:
+      break;
+  }
+  const double rate = UserConversion{rows[first].name, rows[first].rate}.Rate();
+  return [rate](double value) { return ConvertByRate(value, rate); };
+}
+
+/// What `items` (not empty) ask for, or why they ask for nothing.
+Expected<Asked, std::string> Ask(const std::vector<std::string_view>& items,
+                                 const SettingsStore& settings) {
+  const UnitCategory* category = FindCategory(items.front());
+  if (category == nullptr) return NoCategoryIs(items.front());
+  const auto rows = UnitRows(*category, settings);
+  if (rows.empty()) return Narrow(kNoUserConversionStored);
+  const std::size_t names = category->kind == CategoryKind::Rates ? 2 : 1;
+  if (items.size() <= names) {
+    return CategoryTakes(Narrow(category->caption), NumberOf(*category),
+                         names == 2 ? kTwoUnits : kOneConversion);
+  }
+  std::vector<std::size_t> places;
+  for (std::size_t i = 1; i <= names; ++i) {
+    const auto place = FindRow(rows, items[i]);
+    if (!place) return WhyNot(place.error(), items[i], *category);
+    places.push_back(*place);
+  }
+  return Asked{ConversionOf(*category, rows, places), names + 1};
+}
+
+void AnswerConverted(std::string_view text, const Asked& asked, const Options& options,
+                     AnswerWriter& answers) {
+  const auto value = ReadShownNumber(text);
+  if (!value) return answers.Fail(NotANumber(text));
+  const double converted = asked.convert(*value);
+  // With 17 digits an infinity could be printed, but it is no answer.
+  if (!std::isfinite(converted)) return answers.Fail(MakeError(CalcErrorCode::OutOfRange).message);
+  AnswerNumber(converted, options, answers);
+}
+
+int Convert(CommandLine line) {
+  StoredSettings settings(line.options);
+  const auto asked = Ask(line.items, settings.Store());
+  settings.TellNotices();
+  if (!asked) return Complain(asked.error(), *line.command);
+  line.items.erase(line.items.begin(),
+                   line.items.begin() + static_cast<std::ptrdiff_t>(asked->names));
+  AnswerWriter answers;
+  ForEachItem(line.items, LineReader::kAnyLength, answers,
+              [&](std::string_view item) { AnswerConverted(item, *asked, line.options, answers); });
+  return answers.Finish();
+}
+
+int ListUnits(const CommandLine& line) {
+  if (line.items.size() > 1) return Complain(kListTakesOneCategory, *line.command);
+  const UnitCategory* only = line.items.empty() ? nullptr : FindCategory(line.items.front());
+  if (only == nullptr && !line.items.empty()) {
+    return Complain(NoCategoryIs(line.items.front()), *line.command);
+  }
+  StoredSettings settings(line.options);
+  AnswerWriter answers;
+  for (const UnitCategory& category : UnitCategories()) {
+    if (only != nullptr && only != &category) continue;
+    for (const auto& [name, rate] : UnitRows(category, settings.Store())) {
+      answers.AnswerRow({Narrow(category.caption), name, rate});
+    }
+  }
+  return answers.Finish();
+}
+
+}  // namespace
+
+int RunConvert(const CommandLine& line) {
+  if (line.options.listsUnits) return ListUnits(line);
+  if (line.items.empty()) return Complain(kLacksCategory, *line.command);
+  if (line.items.front() != "user") return Convert(line);
+  CommandLine rest = line;
+  rest.items.erase(rest.items.begin());
+  return RunUserConversions(std::move(rest));
+}
+
+}  // namespace kav

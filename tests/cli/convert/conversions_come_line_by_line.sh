@@ -1,0 +1,2 @@
+kavcalc convert user add; echo $?
+kavcalc convert user list
