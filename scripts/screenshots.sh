@@ -37,6 +37,18 @@ Formula = "sqrt(x^2+y^2)"
 Name = "box"
 Type = "TYPE3 : F(X,Y,Z)"
 Formula = "x*y*z"
+[Converter]
+UserDefine_TotalNumber = 2
+[UserDefine_Convert_0]
+ConvType = "inch -> cm"
+Rate = "2.54"
+[UserDefine_Convert_1]
+ConvType = "knot -> km/h"
+Rate = "1.852"
+[Convert]
+ClassPos = 6
+InputTypePos = 18
+OutputTypePos = 14
 [MemoryVar]
 Var0 = "299792.458"
 Var3 = "-2.5e-12"
@@ -85,6 +97,8 @@ for size in 240x320 480x640 1080x1440; do
   take macro-editor "$size" 1 press:alt+f press:m 'focus:Edit Macro' press:Down press:Return
   take macro-list "$size" 1 press:alt+a 'focus:Macro List' press:Down
   take display-settings "$size" 1 press:alt+f press:c 'focus:Display Settings'
+  take converter "$size" 1 press:alt+n 'focus:Unit Converter' 26.2188
+  take units-editor "$size" 1 press:alt+f press:u 'focus:Edit Unit Convert' press:Return
   take memory "$size" 1 press:alt+c press:Up press:Up press:Up press:Return 'focus:Memory Variable' \
     press:Down
   take constants "$size" 1 press:alt+c press:Up press:Return focus:Constants mass press:Down

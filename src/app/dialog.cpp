@@ -7,12 +7,13 @@
 #include <algorithm>
 
 #include "app/look.h"
+#include "common/number_text.h"
 
 namespace kav {
 namespace {
 
 constexpr QSize kSmallest(180, 240);
-constexpr qsizetype kLongestLine = 400;
+constexpr std::size_t kLongestLine = 400;
 
 /// The part of the desktop that a dialog opened by `opener` covers.
 QRect AreaOver(const QWidget& opener) {
@@ -77,12 +78,7 @@ DialogButton::DialogButton(std::u16string_view caption)
 }
 
 QString OneLine(std::u16string_view text) {
-  const bool isCut = static_cast<qsizetype>(text.size()) > kLongestLine;
-  QString line = QStringView(text).left(kLongestLine).toString();
-  std::replace_if(
-      line.begin(), line.end(), [](QChar c) { return c.unicode() < u' '; }, QChar(u' '));
-  if (isCut) line += QChar(u'…');
-  return line;
+  return QString::fromStdU16String(Shortened(text, kLongestLine));
 }
 
 }  // namespace kav

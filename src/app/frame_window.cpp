@@ -8,6 +8,8 @@
 #include <utility>
 
 #include "app/app_texts.h"
+#include "converter/converter_dlg.h"
+#include "converter/user_conversion_dlg.h"
 #include "engine/display_settings_dlg.h"
 #include "macros/macro_editor_dlg.h"
 #include "macros/macro_list_dlg.h"
@@ -60,8 +62,12 @@ Rooms AllRooms(SettingsStore& store) {
   rooms.displaySettings = [&store](QWidget* parent) {
     return RunDisplaySettings(parent, store, DisplayPage::Normal);
   };
+  rooms.unitEditor = [&store](QWidget* parent) { RunUserConversions(parent, store); };
   rooms.macroEditor = [&store](QWidget* parent) { RunMacroEditor(parent, store); };
   rooms.macroList = [&store](QWidget* parent) { return RunMacroList(parent, store); };
+  rooms.converter = [&store](QWidget* parent, const ConverterInput& input) {
+    return RunConverter(parent, store, input);
+  };
   rooms.storeVariable = [&store](QWidget* parent, const std::u16string& value) {
     RunStoreVariable(parent, store, value);
   };

@@ -12,14 +12,19 @@
 namespace kav {
 namespace {
 
+// Heights of letters that the sign and all margins take across.
+constexpr int kBesideText = 8;
+
 /// A box with letters as large as those of the screen that it speaks for. By itself a message box
 /// breaks its text at a width that knows nothing of their size.
 class ScaledBox final : public QMessageBox {
  public:
-  ScaledBox(Icon icon, const QString& text, StandardButtons buttons, QWidget* parent)
+  ScaledBox(Icon icon, const QString& text, const QString& more, StandardButtons buttons,
+            QWidget* parent)
       : QMessageBox(icon, QStringView(kApplicationName).toString(), text, buttons, parent) {
     // What is said may hold a file name or a line of the user's, which is not to be read as markup.
     setTextFormat(Qt::PlainText);
+    if (!more.isEmpty()) setInformativeText(more);
     setPalette(ScreenPalette());
     if (parent != nullptr) area_ = PortraitArea(parent->window()->size()).size();
     setFont(ScreenFont(TextPixels(area_.height())));
@@ -43,11 +48,15 @@ class ScaledBox final : public QMessageBox {
   }
 
   void Fit() {
-    auto* label = findChild<QLabel*>("qt_msgbox_label");
     const int pixels = font().pixelSize();
-    const int wanted = fontMetrics().boundingRect(QRect(), 0, text()).width() + pixels / 2;
-    if (!label->wordWrap()) label->setWordWrap(true);
-    label->setFixedWidth(std::min(wanted, area_.width() * 2 / 3));
+    for (QLabel* label : {findChild<QLabel*>("qt_msgbox_label"),
+                          findChild<QLabel*>("qt_msgbox_informativelabel")}) {
+      if (label == nullptr) continue;
+      const QRect lines = fontMetrics().boundingRect(QRect(), 0, label->text());
+      if (!label->wordWrap()) label->setWordWrap(true);
+      label->setFixedWidth(
+          std::min(lines.width() + pixels / 2, area_.width() - kBesideText * pixels));
+    }
     layout()->setContentsMargins(pixels, pixels, pixels, pixels);
     layout()->activate();
     const int width = layout()->totalSizeHint().width();
@@ -58,8 +67,10 @@ class ScaledBox final : public QMessageBox {
 };
 
 int Show(QWidget* parent, QMessageBox::Icon icon, std::u16string_view text,
-         QMessageBox::StandardButtons buttons) {
-  return ScaledBox(icon, QStringView(text).toString(), buttons, parent).exec();
+         QMessageBox::StandardButtons buttons, std::u16string_view more = {}) {
+  return ScaledBox(icon, QStringView(text).toString(), QStringView(more).toString(), buttons,
+                   parent)
+      .exec();
 }
 
 }  // namespace
@@ -72,8 +83,8 @@ void ShowNotice(QWidget* parent, std::u16string_view text) {
   Show(parent, QMessageBox::Warning, text, QMessageBox::Ok);
 }
 
-bool AskYesNo(QWidget* parent, std::u16string_view question) {
-  return Show(parent, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) ==
+bool AskYesNo(QWidget* parent, std::u16string_view question, std::u16string_view more) {
+  return Show(parent, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No, more) ==
          QMessageBox::Yes;
 }
 

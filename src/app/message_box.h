@@ -14,7 +14,8 @@ void ShowStop(QWidget* parent, std::u16string_view text);
 void ShowNotice(QWidget* parent, std::u16string_view text);
 
 /// `question` with the answers Yes and No; whether it was Yes. Closing the box is a No.
-bool AskYesNo(QWidget* parent, std::u16string_view question);
+/// What `more` says, where it says something, stands below the question.
+bool AskYesNo(QWidget* parent, std::u16string_view question, std::u16string_view more = {});
 
 /// Name, version and purpose of the program.
 void ShowAbout(QWidget* parent);

@@ -171,6 +171,8 @@ class TextMeasuredStyle final : public QProxyStyle {
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* result) const override {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    // With a bar to scroll it by: the arrows of a menu are too small for fingers.
+    if (hint == SH_ComboBox_Popup) return 0;
     return QProxyStyle::styleHint(hint, option, widget, result);
   }
 

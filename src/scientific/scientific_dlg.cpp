@@ -188,6 +188,7 @@ void CScientificDlg::Do(const OpenMacroList&) {
 
 void CScientificDlg::Do(const OpenConverter& request) {
   model_.TakeConverter(TheRooms().converter(this, request.input));
+  TheFrame().SaveStore();
 }
 
 void CScientificDlg::Do(const StoreMemoryVariable& request) {

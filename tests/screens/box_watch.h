@@ -22,6 +22,7 @@ namespace kav::test {
 struct SeenBox {
   std::u16string text;
   QMessageBox::Icon icon;
+  std::u16string more;  ///< what stands below the text
 };
 
 class BoxWatch final : public QObject {
@@ -72,7 +73,8 @@ class BoxWatch final : public QObject {
   }
 
   void Answer(QMessageBox& box, QMessageBox::StandardButton answer) {
-    seen_.push_back({box.text().toStdU16String(), box.icon()});
+    seen_.push_back(
+        {box.text().toStdU16String(), box.icon(), box.informativeText().toStdU16String()});
     auto* button = box.button(answer);
     if (button != nullptr) QTimer::singleShot(0, button, &QAbstractButton::click);
   }

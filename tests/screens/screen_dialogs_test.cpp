@@ -10,6 +10,7 @@
 #include "app/frame_window.h"
 #include "screens/box_watch.h"
 #include "screens/screen_driver.h"
+#include "settings/keys.h"
 #include "settings/temporary_folder.h"
 #include "settings/user_settings_store.h"
 #include "support/stored_macros.h"
@@ -255,13 +256,88 @@ TEST_F(ScreenDialogsTest, DisplaySettingsChangeTheAnswerThatIsShown) {
 
 TEST_F(ScreenDialogsTest, EveryDialogOfTheProgramIsOffered) {
   EXPECT_EQ(Offered(MenuOf(*dlg_, u"&File")),
-            (Texts{u"&About...", u"&Config...", u"Edit &Macro", u"E&xit"}));
+            (Texts{u"&About...", u"&Config...", u"Edit &Unit Convert", u"Edit &Macro", u"E&xit"}));
   Tap(u"M/C");
   EXPECT_EQ(Offered(OpenMenu()),
             (Texts{u"Memory +", u"Memory -", u"Memory Recall", u"Memory Clear", u"-",
                    u"ReCall MemVar", u"Store MemVar", u"-", u"Constants"}));
   QTest::keyClick(OpenMenu(), Qt::Key_Escape);
   EXPECT_TRUE(FindKey(*dlg_, u"Mac")->isEnabled());
+  EXPECT_TRUE(FindKey(*dlg_, u"Cnv")->isEnabled());
+}
+
+/// Chooses by the keyboard: the entry of the list that begins with `text`.
+void ChooseIn(QComboBox& list, const QString& text) {
+  list.setFocus();
+  QTest::keyClicks(&list, text);
+}
+
+std::vector<QComboBox*> VisibleLists(const QDialog& dialog) {
+  std::vector<QComboBox*> lists;
+  for (auto* list : dialog.findChildren<QComboBox*>()) {
+    if (list->isVisible()) lists.push_back(list);
+  }
+  return lists;
+}
+
+TEST_F(ScreenDialogsTest, AnAnswerIsConvertedAndComesBackIntoTheLine) {
+  Evaluate("1500*2");
+  ASSERT_EQ(Answer(), u"3,000");
+  PutLine(*dlg_, u"1+[2]");
+  InDialog([](QDialog& dialog) {
+    ChooseIn(*VisibleLists(dialog).front(), "07");
+    ASSERT_EQ(VisibleLists(dialog).size(), 3U);
+    ChooseIn(*VisibleLists(dialog)[1], "Met");
+    ChooseIn(*VisibleLists(dialog)[2], "Kilometers");
+    PressButton(dialog, u"OK");
+  });
+  Tap(u"Cnv");
+  EXPECT_EQ(Line(), u"1+3|");
+  // The choice is there again, and after a restart as well.
+  Evaluate("5000+0");
+  PutLine(*dlg_, u"|");
+  InDialog([](QDialog& dialog) { PressButton(dialog, u"OK"); });
+  Tap(u"Cnv");
+  EXPECT_EQ(Line(), u"5|");
+  dlg_.reset();
+  EXPECT_EQ(frame_.store.Get(IntegerKey{"Convert", "ClassPos", -1}), 6);
+  EXPECT_EQ(frame_.store.Get(IntegerKey{"Convert", "InputTypePos", -1}), 16);
+  EXPECT_EQ(frame_.store.Get(IntegerKey{"Convert", "OutputTypePos", -1}), 14);
+}
+
+TEST_F(ScreenDialogsTest, ACancelledConverterLeavesTheLineAndKeepsTheChoice) {
+  PutLine(*dlg_, u"1+[2]");
+  InDialog([](QDialog& dialog) {
+    ChooseIn(*VisibleLists(dialog).front(), "12");
+    PressButton(dialog, u"Cancel");
+  });
+  Tap(u"Cnv");
+  EXPECT_EQ(Line(), u"1+[2]");
+  dlg_.reset();
+  EXPECT_EQ(frame_.store.Get(IntegerKey{"Convert", "ClassPos", -1}), 11);
+}
+
+TEST_F(ScreenDialogsTest, AUnitThatWasDefinedInTheEditorIsOfferedByTheConverter) {
+  InDialog([](QDialog& dialog) {
+    PressButton(dialog, u"New");
+    QTest::keyClicks(dialog.focusWidget(), "inch");
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(dialog.focusWidget(), "cm");
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(dialog.focusWidget(), "2.54");
+    PressButton(dialog, u"Save");
+    PressButton(dialog, u"Close");
+  });
+  ChooseFrom(*dlg_, u"&File", u"Edit &Unit Convert");
+  Evaluate("10+0");
+  PutLine(*dlg_, u"|");
+  InDialog([](QDialog& dialog) {
+    ChooseIn(*VisibleLists(dialog).front(), "15");
+    PressButton(dialog, u"OK");
+  });
+  Tap(u"Cnv");
+  EXPECT_EQ(Line(), u"25.4|");
 }
 
 }  // namespace

@@ -1,0 +1,14 @@
+// The editor of the user's own conversions on the screen.
+#pragma once
+
+#include "settings/settings_store.h"
+
+class QWidget;
+
+namespace kav {
+
+/// Lets the user write, change and remove conversions of his own until the dialog is closed. Each
+/// that is saved or removed is so in `store`, and on the disk, at once.
+void RunUserConversions(QWidget* parent, SettingsStore& store);
+
+}  // namespace kav

@@ -1,0 +1,536 @@
+// The unit converter as its user meets it.
+#include "converter/converter_dlg.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QClipboard>
+#include <QComboBox>
+#include <QListWidget>
+#include <algorithm>
+#include <climits>
+#include <ctime>
+#include <functional>
+
+#include "screens/box_watch.h"
+#include "screens/dialog_layout.h"
+#include "screens/screen_driver.h"
+#include "settings/keys.h"
+#include "support/stored_conversions.h"
+
+namespace kav::test {
+namespace {
+
+constexpr ConverterPositions kMilesToKilometers{6, 18, 14};
+constexpr ConverterPositions kCelsiusToFahrenheit{11, 0, -1};
+
+double MillisecondsSince(std::clock_t start) {
+  return 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+/// The converter on a screen of its own. What a test does in it stands in the function that it
+/// hands to Run, since the converter is modal.
+class ConverterDlgTest : public testing::Test {
+ protected:
+  ConverterDlgTest() {
+    Show(screen_);
+    // So long, a tap on a list counts as the end of the one that opened it.
+    QApplication::setDoubleClickInterval(1);
+  }
+
+  /// What the converter leaves once `use` has closed it.
+  ConverterOutcome Run(const ConverterInput& input, const std::function<void()>& use) {
+    BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) {
+      dlg_ = &dialog;
+      use();
+    });
+    const ConverterOutcome outcome = RunConverter(&screen_, store_, input);
+    EXPECT_TRUE(BoxWatch::Instance().TakeSeen().empty()) << "a box that no test looked at";
+    return outcome;
+  }
+  ConverterOutcome RunMiles(const std::function<void()>& use) {
+    return Run({u"1", kMilesToKilometers, 0}, use);
+  }
+  /// The same, closed with "Cancel".
+  void UseMiles(const std::function<void()>& use) {
+    RunMiles([&, this] {
+      use();
+      Tap(u"Cancel");
+    });
+  }
+
+  QComboBox& Choice(const char* name) {
+    for (auto* choice : dlg_->findChildren<QComboBox*>()) {
+      if (choice->accessibleName() == QLatin1String(name)) return *choice;
+    }
+    ADD_FAILURE() << "no list is called " << name;
+    return *dlg_->findChild<QComboBox*>();
+  }
+  QComboBox& Category() { return Choice("Category"); }
+  QComboBox& InputUnit() { return Choice("Input unit"); }
+  QComboBox& OutputUnit() { return Choice("Output unit"); }
+  QLineEdit& Value() { return LineNamed(*dlg_, "Input value"); }
+  QLineEdit& Result() { return LineNamed(*dlg_, "Result"); }
+  std::u16string ResultText() { return Result().text().toStdU16String(); }
+  QAbstractButton& SwapButton() {
+    for (auto* button : dlg_->findChildren<QAbstractButton*>()) {
+      if (button->accessibleName() == "Swap units") return *button;
+    }
+    ADD_FAILURE() << "no button swaps";
+    return *dlg_->findChild<QAbstractButton*>();
+  }
+
+  void Tap(std::u16string_view captions) { test::Tap(*dlg_, captions); }
+  // A list that was just closed gives the keyboard back only once the display says so.
+  void Press(Qt::Key key) { QTest::keyClick(dlg_->focusWidget(), key); }
+  void Type(const QString& text) { QTest::keyClicks(dlg_->focusWidget(), text); }
+  void Replace(const QString& text) {
+    Value().setFocus();
+    Value().selectAll();
+    if (text.isEmpty()) return Press(Qt::Key_Delete);
+    Type(text);
+  }
+  /// Opens the list and taps the entry `text`.
+  static void Choose(QComboBox& choice, const QString& text) {
+    Click(choice);
+    QAbstractItemView& list = *choice.view();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list.isVisible(); }));
+    const QModelIndex entry = choice.model()->index(choice.findText(text), 0);
+    ASSERT_TRUE(entry.isValid()) << text.toStdString();
+    list.scrollTo(entry);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(entry).center());
+      return !list.isVisible();
+    }));
+  }
+
+  std::u16string RefusedOk() {
+    BoxWatch::Instance().Expect(QMessageBox::Ok);
+    Tap(u"OK");
+    const auto seen = BoxWatch::Instance().TakeSeen();
+    if (seen.size() != 1) return u"no message";
+    EXPECT_EQ(seen[0].icon, QMessageBox::Critical);
+    EXPECT_TRUE(dlg_->isVisible());
+    EXPECT_EQ(dlg_->focusWidget(), &Value());
+    return seen[0].text;
+  }
+
+  MemorySettingsStore store_;
+  QWidget screen_;
+  QDialog* dlg_ = nullptr;
+};
+
+TEST_F(ConverterDlgTest, OpensWithWhatItIsHanded) {
+  UseMiles([this] {
+    EXPECT_EQ(dlg_->windowTitle(), "Unit Converter");
+    EXPECT_EQ(Category().currentText(), "07. Length");
+    EXPECT_EQ(Category().count(), 15);
+    EXPECT_EQ(Category().itemText(14), "15. User Define");
+    EXPECT_EQ(InputUnit().currentText(), "Miles");
+    EXPECT_EQ(OutputUnit().currentText(), "Kilometers");
+    EXPECT_EQ(Value().text(), "1");
+    EXPECT_EQ(Value().selectedText(), "1");
+    EXPECT_TRUE(Value().hasFocus());
+    EXPECT_EQ(ResultText(), u"1.609344");
+  });
+}
+
+TEST_F(ConverterDlgTest, TheResultIsYellowAndOnlyRead) {
+  UseMiles([this] {
+    EXPECT_TRUE(Result().isReadOnly());
+    EXPECT_EQ(Result().palette().color(QPalette::Base), QColor(255, 255, 192));
+    Result().setFocus();
+    Result().selectAll();
+    Result().copy();
+    EXPECT_EQ(QApplication::clipboard()->text(), "1.609344");
+  });
+}
+
+TEST_F(ConverterDlgTest, EachKeystrokeIsConverted) {
+  UseMiles([this] {
+    Type("2");
+    EXPECT_EQ(ResultText(), u"3.218688");
+    Type("0");
+    EXPECT_EQ(ResultText(), u"32.18688");
+    Press(Qt::Key_Backspace);
+    EXPECT_EQ(ResultText(), u"3.218688");
+    Press(Qt::Key_Home);
+    Type("1");
+    EXPECT_EQ(ResultText(), u"19.312128");
+    EXPECT_EQ(Value().cursorPosition(), 1);
+  });
+}
+
+TEST_F(ConverterDlgTest, EachSelectionIsConverted) {
+  UseMiles([this] {
+    Choose(InputUnit(), "Meters");
+    EXPECT_EQ(ResultText(), u"0.001");
+    Choose(OutputUnit(), "Centimeters");
+    EXPECT_EQ(ResultText(), u"100");
+    InputUnit().setFocus();
+    Press(Qt::Key_Up);  // Light years
+    EXPECT_EQ(ResultText(), u"9.4605000e+17");
+  });
+}
+
+TEST_F(ConverterDlgTest, ACategoryBringsItsUnitsAndSelectsTheFirst) {
+  const auto outcome = RunMiles([this] {
+    Choose(Category(), "06. Force");
+    EXPECT_EQ(InputUnit().count(), 11);
+    EXPECT_EQ(OutputUnit().count(), 11);
+    EXPECT_EQ(InputUnit().currentText(), "Dynes");
+    EXPECT_EQ(OutputUnit().currentText(), "Dynes");
+    EXPECT_EQ(InputUnit().itemText(10), "Tons Force (US)");
+    EXPECT_EQ(ResultText(), u"1");
+    Tap(u"Cancel");
+  });
+  EXPECT_EQ(outcome.positions, (ConverterPositions{5, 0, 0}));
+}
+
+TEST_F(ConverterDlgTest, SwapsTheUnits) {
+  const auto outcome = RunMiles([this] {
+    Replace("1.609344");
+    Click(SwapButton());
+    EXPECT_EQ(InputUnit().currentText(), "Kilometers");
+    EXPECT_EQ(OutputUnit().currentText(), "Miles");
+    EXPECT_EQ(ResultText(), u"1");
+    Tap(u"OK");
+  });
+  EXPECT_EQ(outcome.positions, (ConverterPositions{6, 14, 18}));
+  EXPECT_EQ(outcome.result, u"1");
+}
+
+TEST_F(ConverterDlgTest, TemperaturesAreOneListOfConversions) {
+  const auto outcome = Run({u"100", kMilesToKilometers, 0}, [this] {
+    QComboBox& units = OutputUnit();
+    Choose(Category(), "12. Temperature");
+    EXPECT_FALSE(units.isVisible());
+    EXPECT_EQ(Choice("Conversion").count(), 6);
+    EXPECT_EQ(Choice("Conversion").currentText(), "Celsius -> Fahrenheit");
+    EXPECT_EQ(ResultText(), u"212");
+    Click(SwapButton());
+    EXPECT_EQ(Choice("Conversion").currentText(), "Fahrenheit -> Celsius");
+    Replace("-40");
+    EXPECT_EQ(ResultText(), u"-40");
+    Tap(u"OK");
+  });
+  EXPECT_EQ(outcome.positions, (ConverterPositions{11, 2, -1}));
+  EXPECT_EQ(outcome.result, u"-40");
+}
+
+TEST_F(ConverterDlgTest, TheSecondListComesBackWithACategoryOfUnits) {
+  Run({u"1", kCelsiusToFahrenheit, 0}, [this] {
+    Choose(Category(), "01. Area");
+    EXPECT_TRUE(OutputUnit().isVisible());
+    EXPECT_EQ(InputUnit().currentText(), "Acres");
+    Tap(u"Cancel");
+  });
+}
+
+TEST_F(ConverterDlgTest, ListsTheUsersConversions) {
+  StoreConversions(store_, {{"inch -> cm", "2.54"}, {"dozen -> piece", "12"}});
+  const auto outcome = Run({u"10", {}, 0}, [this] {
+    Choose(Category(), "15. User Define");
+    QComboBox& conversions = Choice("Conversion");
+    EXPECT_EQ(conversions.count(), 2);
+    EXPECT_EQ(ResultText(), u"25.4");
+    EXPECT_FALSE(SwapButton().isEnabled());
+    Choose(conversions, "dozen -> piece");
+    EXPECT_EQ(ResultText(), u"120");
+    Tap(u"OK");
+  });
+  EXPECT_EQ(outcome.positions, (ConverterPositions{14, 1, -1}));
+  EXPECT_EQ(outcome.result, u"120");
+}
+
+TEST_F(ConverterDlgTest, BeginsWithNothingSelectedAndThenHasNothingToGive) {
+  const auto outcome = Run({u"5", {}, 7}, [this] {
+    EXPECT_EQ(Category().currentIndex(), -1);
+    EXPECT_EQ(InputUnit().count(), 0);
+    EXPECT_EQ(OutputUnit().count(), 0);
+    EXPECT_FALSE(SwapButton().isEnabled());
+    EXPECT_FALSE(FindKey(*dlg_, u"MEM")->isEnabled());
+    EXPECT_EQ(ResultText(), u"");
+    Tap(u"OK");
+    EXPECT_FALSE(dlg_->isVisible());
+  });
+  EXPECT_EQ(outcome.result, std::nullopt);
+  EXPECT_EQ(outcome.positions, ConverterPositions{});
+  EXPECT_EQ(outcome.memory, 7);
+}
+
+TEST_F(ConverterDlgTest, PositionsThatThereAreNotSelectNothing) {
+  const auto outcome = Run({u"5", {6, INT_MIN, 99}, 0}, [this] {
+    EXPECT_EQ(Category().currentText(), "07. Length");
+    EXPECT_EQ(InputUnit().currentIndex(), -1);
+    EXPECT_EQ(OutputUnit().currentIndex(), -1);
+    EXPECT_EQ(ResultText(), u"");
+    Tap(u"Cancel");
+  });
+  EXPECT_EQ(outcome.positions, (ConverterPositions{6, -1, -1}));
+}
+
+TEST_F(ConverterDlgTest, OkHandsOverTheResultAndCancelOnlyThePositions) {
+  const auto taken = Run({u"1000", kMilesToKilometers, -1.5}, [this] {
+    Choose(OutputUnit(), "Meters");
+    EXPECT_EQ(ResultText(), u"1,609,344");
+    Tap(u"OK");
+  });
+  EXPECT_EQ(taken.result, u"1609344");
+  EXPECT_EQ(taken.positions, (ConverterPositions{6, 18, 16}));
+  EXPECT_EQ(taken.memory, -1.5);
+  for (const bool byKey : {false, true}) {
+    const auto left = Run({u"1000", kMilesToKilometers, 2.5}, [&, this] {
+      Choose(OutputUnit(), "Meters");
+      if (byKey) {
+        Press(Qt::Key_Escape);
+      } else {
+        Tap(u"Cancel");
+      }
+    });
+    EXPECT_EQ(left.result, std::nullopt);
+    EXPECT_EQ(left.positions, (ConverterPositions{6, 18, 16}));
+    EXPECT_EQ(left.memory, 2.5);
+  }
+}
+
+TEST_F(ConverterDlgTest, TheUsersFormatIsShownAndNotHandedOver) {
+  store_.Set(kDisplayType, 1);
+  store_.Set(kPrecision, 2);
+  const auto outcome = RunMiles([this] {
+    EXPECT_EQ(ResultText(), u"1.61");
+    Tap(u"OK");
+  });
+  EXPECT_EQ(outcome.result, u"1.609344");
+}
+
+TEST_F(ConverterDlgTest, SeparatorsAreTakenOffWhatIsTyped) {
+  UseMiles([this] {
+    Replace(" 1,000 ");
+    EXPECT_EQ(ResultText(), u"1,609.344");
+    EXPECT_EQ(Value().text(), " 1,000 ");
+  });
+}
+
+TEST_F(ConverterDlgTest, ATextThatIsNoNumberIsMarkedAndRefused) {
+  UseMiles([this] {
+    for (const char* text : {"", "abc", "inf", "nan", "0x10", "1,5", "-"}) {
+      SCOPED_TRACE(text);
+      Replace(text);
+      EXPECT_EQ(ResultText(), u"");
+      EXPECT_EQ(Value().accessibleDescription(), "Not a number");
+      const QColor base = Value().palette().color(QPalette::Base);
+      EXPECT_GT(base.red(), base.green() + 30);
+      EXPECT_FALSE(FindKey(*dlg_, u"MEM")->isEnabled());
+      EXPECT_EQ(RefusedOk(), u"Converting value is error");
+      EXPECT_EQ(Value().text(), text);
+    }
+    Replace("1");
+    EXPECT_EQ(ResultText(), u"1.609344");
+    EXPECT_EQ(Value().accessibleDescription(), "");
+    EXPECT_EQ(Value().palette().color(QPalette::Base), QColor(Qt::white));
+    EXPECT_TRUE(FindKey(*dlg_, u"MEM")->isEnabled());
+  });
+}
+
+TEST_F(ConverterDlgTest, AValueThatCannotBeShownIsRefusedAndTheSelectionsStay) {
+  const auto outcome = RunMiles([this] {
+    Choose(OutputUnit(), "Nanometers");
+    Replace("1e300");
+    EXPECT_EQ(ResultText(), u"Out of range(overflow or underflow)");
+    EXPECT_EQ(Value().accessibleDescription(), "");
+    EXPECT_FALSE(FindKey(*dlg_, u"MEM")->isEnabled());
+    EXPECT_EQ(RefusedOk(), u"Converting value is error");
+    EXPECT_EQ(InputUnit().currentText(), "Miles");
+    EXPECT_EQ(OutputUnit().currentText(), "Nanometers");
+    EXPECT_EQ(Value().text(), "1e300");
+    Choose(OutputUnit(), "Miles");
+    EXPECT_EQ(ResultText(), u"1.0000000e+300");
+    Tap(u"OK");
+  });
+  EXPECT_EQ(outcome.result, u"1.0000000e+300");
+}
+
+TEST_F(ConverterDlgTest, MemStoresTheResultInAVariable) {
+  Run({u"1000", {6, 18, 16}, 0}, [this] {
+    EXPECT_EQ(ResultText(), u"1,609,344");
+    BoxWatch::Instance().ExpectDialog([](QDialog& variables) {
+      EXPECT_EQ(variables.windowTitle(), "Memory Variable");
+      variables.findChild<QListWidget*>()->setCurrentRow(2);
+      test::Tap(variables, u"Store Close");
+    });
+    Tap(u"MEM");
+    EXPECT_TRUE(dlg_->isVisible());
+    Tap(u"Cancel");
+  });
+  EXPECT_EQ(store_.Get(MemoryVariable(2)), "1609344");
+}
+
+class WithoutUserConversions : public ConverterDlgTest {
+ protected:
+  /// Chooses the empty category; `inEditor` is run on the editor that opens then.
+  void ChooseUserDefined(std::function<void(QDialog&)> inEditor) {
+    BoxWatch::Instance().Expect(QMessageBox::Ok);
+    BoxWatch::Instance().ExpectDialog(std::move(inEditor));
+    Choose(Category(), "15. User Define");
+    const auto seen = BoxWatch::Instance().TakeSeen();
+    ASSERT_EQ(seen.size(), 1U);
+    EXPECT_EQ(seen[0].text, u"Not exist saved user-define unit convert");
+    EXPECT_EQ(seen[0].icon, QMessageBox::Critical);
+  }
+};
+
+TEST_F(WithoutUserConversions, TheEditorOpensAndWithoutAnyTheFirstCategoryFollows) {
+  const auto outcome = RunMiles([this] {
+    ChooseUserDefined([](QDialog& editor) {
+      EXPECT_EQ(editor.windowTitle(), "Edit Unit Convert");
+      editor.reject();
+    });
+    EXPECT_EQ(Category().currentText(), "01. Area");
+    EXPECT_EQ(InputUnit().currentText(), "Acres");
+    EXPECT_TRUE(OutputUnit().isVisible());
+    EXPECT_EQ(ResultText(), u"1");
+    Tap(u"Cancel");
+  });
+  EXPECT_EQ(outcome.positions, (ConverterPositions{0, 0, 0}));
+}
+
+TEST_F(WithoutUserConversions, TheKeyboardIsToldOnceToo) {
+  Run({u"1", {13, 0, 0}, 0}, [this] {
+    Category().setFocus();
+    BoxWatch::Instance().Expect(QMessageBox::Ok);
+    BoxWatch::Instance().ExpectDialog([](QDialog& editor) { editor.reject(); });
+    Press(Qt::Key_Down);
+    EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
+    EXPECT_EQ(Category().currentText(), "01. Area");
+    Tap(u"Cancel");
+  });
+}
+
+TEST_F(WithoutUserConversions, WhatIsWrittenInTheEditorIsListedAtOnce) {
+  const auto outcome = RunMiles([this] {
+    ChooseUserDefined([this](QDialog& editor) {
+      StoreConversions(store_, {{"dozen -> piece", "12"}});
+      editor.reject();
+    });
+    EXPECT_EQ(Category().currentText(), "15. User Define");
+    EXPECT_EQ(Choice("Conversion").currentText(), "dozen -> piece");
+    EXPECT_EQ(ResultText(), u"12");
+    Tap(u"OK");
+  });
+  EXPECT_EQ(outcome.positions, (ConverterPositions{14, 0, -1}));
+  EXPECT_EQ(outcome.result, u"12");
+}
+
+TEST_F(WithoutUserConversions, ARememberedCategoryThatIsEmptyOpensNothingUntilItIsChosen) {
+  Run({u"1", {14, 0, -1}, 0}, [this] {
+    EXPECT_EQ(Category().currentText(), "15. User Define");
+    EXPECT_EQ(ResultText(), u"");
+    ChooseUserDefined([](QDialog& editor) { editor.reject(); });
+    EXPECT_EQ(Category().currentText(), "01. Area");
+    Tap(u"Cancel");
+  });
+}
+
+TEST_F(ConverterDlgTest, TheKeyboardAloneConverts) {
+  const auto outcome = Run({u"1", {}, 0}, [this] {
+    Type("5");
+    Press(Qt::Key_Backtab);
+    EXPECT_TRUE(Category().hasFocus());
+    Type("07");
+    EXPECT_EQ(Category().currentText(), "07. Length");
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(InputUnit().hasFocus());
+    Type("mil");
+    EXPECT_EQ(InputUnit().currentText(), "Miles");
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(SwapButton().hasFocus());
+    Press(Qt::Key_Space);
+    EXPECT_EQ(OutputUnit().currentText(), "Miles");
+    Press(Qt::Key_Space);
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(Result().hasFocus());
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(OutputUnit().hasFocus());
+    Type("kilo");
+    EXPECT_EQ(OutputUnit().currentText(), "Kilometers");
+    EXPECT_EQ(ResultText(), u"8.04672");
+    for (const char16_t* caption : {u"MEM", u"OK", u"Cancel"}) {
+      Press(Qt::Key_Tab);
+      EXPECT_TRUE(FindKey(*dlg_, caption)->hasFocus());
+    }
+    Value().setFocus();
+    Press(Qt::Key_Return);
+  });
+  EXPECT_EQ(outcome.result, u"8.04672");
+}
+
+TEST_F(ConverterDlgTest, TypingJumpsToTheUnitAlsoInTheOpenList) {
+  UseMiles([this] {
+    Click(InputUnit());
+    QAbstractItemView& list = *InputUnit().view();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list.isVisible(); }));
+    QTest::keyClicks(&list, "yar");
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(InputUnit().currentText(), "Yards");
+    EXPECT_EQ(ResultText(), u"0.0009144");
+  });
+}
+
+TEST_F(ConverterDlgTest, NamesOfAnyLengthAreShownCut) {
+  const std::string longest = std::string(10000, 'W') + "\n -> " + std::string(10000, 'x');
+  StoreConversions(store_, {{longest, "2"}, {"a -> b", "3"}});
+  Run({u"5", {14, 0, -1}, 0}, [this] {
+    EXPECT_LT(Choice("Conversion").currentText().size(), 500);
+    EXPECT_EQ(ResultText(), u"10");
+    EXPECT_EQ(dlg_->size(), screen_.size());
+    EXPECT_TRUE(dlg_->rect().contains(Choice("Conversion").geometry()));
+    EXPECT_TRUE(dlg_->rect().contains(Result().geometry()));
+    Tap(u"Cancel");
+  });
+}
+
+TEST_F(ConverterDlgTest, OpensWithin50MillisecondsAndAnswersAKeyWithin5) {
+  StoreConversions(store_, NumberedConversions(60));
+  double opening = 0;
+  double keystroke = 0;
+  for (int i = 0; i < 5; ++i) {
+    const std::clock_t start = std::clock();
+    Run({u"1", {14, 59, -1}, 0}, [&, this] {
+      dlg_->repaint();
+      opening = std::max(opening, MillisecondsSince(start));
+      for (int key = 0; key < 10; ++key) {
+        const std::clock_t typed = std::clock();
+        Type("2");
+        dlg_->repaint();
+        keystroke = std::max(keystroke, MillisecondsSince(typed));
+      }
+      Tap(u"Cancel");
+    });
+  }
+  EXPECT_LT(opening, 50);
+  EXPECT_LT(keystroke, 5);
+}
+
+TEST_F(ConverterDlgTest, EverythingHasRoomAtEverySize) {
+  for (const QSize size : {QSize(240, 320), QSize(480, 640), QSize(1080, 1440), QSize(180, 240)}) {
+    SCOPED_TRACE(size.width());
+    Show(screen_, size);
+    // The widest unit names, and the longest result.
+    for (const ConverterPositions& chosen :
+         {ConverterPositions{9, 8, 17}, ConverterPositions{4, 5, 7}, kCelsiusToFahrenheit}) {
+      Run({u"1e308", chosen, 0}, [&, this] {
+        EXPECT_EQ(dlg_->size(), size);
+        ExpectRoomForAll(*dlg_);
+        Replace("1e999");
+        const QFontMetrics text = Result().fontMetrics();
+        EXPECT_GT(Result().width(), text.horizontalAdvance(Result().text()) + text.height() / 2);
+        Tap(u"Cancel");
+      });
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kav::test
