@@ -51,7 +51,7 @@ const std::set<std::string> kNamedByScreensOnly{"macros/macro_editor_model"};
 /// What a screen may name of the application around it.
 const std::set<std::string> kOfferedToScreens{
     "app/screen",     "app/dialog", "app/dialog_texts", "app/key_painter",
-    "app/label_list", "app/look",   "app/message_box"};
+    "app/label_list", "app/look",   "app/message_box",  "app/qt_text"};
 
 /// The one file that names the screens of every room.
 const std::string kNamesAllScreens = "app/frame_window";

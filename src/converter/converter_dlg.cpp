@@ -7,6 +7,7 @@
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
 #include "app/message_box.h"
+#include "app/qt_text.h"
 #include "converter/choice_view.h"
 #include "converter/converter_model.h"
 #include "converter/converter_texts.h"
@@ -15,10 +16,6 @@
 
 namespace kav {
 namespace {
-
-QString ToQt(std::u16string_view text) {
-  return QStringView(text).toString();
-}
 
 void SetBase(QWidget& field, const QColor& colour) {
   QPalette colours = field.palette();

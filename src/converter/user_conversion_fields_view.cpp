@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "app/qt_text.h"
 #include "converter/converter_texts.h"
 
 namespace kav {
@@ -11,10 +12,6 @@ namespace {
 
 /// As many characters as a field holds and stays fluent.
 constexpr int kLongestText = 1 << 16;
-
-QString ToQt(std::u16string_view text) {
-  return QStringView(text).toString();
-}
 
 void WriteField(QLineEdit& field, const std::u16string& text) {
   const QString shown = ToQt(text);

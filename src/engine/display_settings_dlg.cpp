@@ -12,16 +12,13 @@
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
 #include "app/message_box.h"
+#include "app/qt_text.h"
 #include "engine/display_settings_texts.h"
 #include "engine/display_type_view.h"
 #include "engine/matrix_defaults_view.h"
 
 namespace kav {
 namespace {
-
-QString ToQt(std::u16string_view text) {
-  return QStringView(text).toString();
-}
 
 /// Hidden, it leaves its room free, so that nothing else moves.
 template <class Widget>

@@ -8,14 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "app/qt_text.h"
 #include "engine/display_settings_texts.h"
 
 namespace kav {
 namespace {
-
-QString ToQt(std::u16string_view text) {
-  return QStringView(text).toString();
-}
 
 template <class Texts>
 QComboBox* NewChoice(std::u16string_view name, const Texts& texts) {

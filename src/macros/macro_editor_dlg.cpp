@@ -10,6 +10,7 @@
 #include "app/dialog_texts.h"
 #include "app/label_list.h"
 #include "app/message_box.h"
+#include "app/qt_text.h"
 #include "macros/macro_editor_model.h"
 #include "macros/macro_fields_view.h"
 #include "macros/macros_texts.h"
@@ -79,10 +80,6 @@ const std::array<CMacroEditorDlg::ButtonRow, CMacroEditorDlg::kButtonCount>
         {EditorButton::Functions, kFunctionsButton, &CMacroEditorDlg::OnFunctions},
         {EditorButton::Variables, kVariablesButton, &CMacroEditorDlg::OnVariables},
     }};
-
-QString ToQt(std::u16string_view text) {
-  return QStringView(text).toString();
-}
 
 CMacroEditorDlg::CMacroEditorDlg(QWidget* parent, SettingsStore& store)
     : Dialog(parent, kMacroEditorTitle), store_(store), model_(store) {

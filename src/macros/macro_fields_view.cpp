@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 
+#include "app/qt_text.h"
 #include "common/number_text.h"
 #include "macros/macros_texts.h"
 
@@ -17,10 +18,6 @@ constexpr int kFormulaLines = 4;
 constexpr int kLongestName = 1 << 16;
 
 constexpr std::array kTypes{VariableType::X, VariableType::XY, VariableType::XYZ};
-
-QString ToQt(std::u16string_view text) {
-  return QStringView(text).toString();
-}
 
 }  // namespace
 

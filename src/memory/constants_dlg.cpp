@@ -10,6 +10,7 @@
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
 #include "app/message_box.h"
+#include "app/qt_text.h"
 #include "memory/constants_model.h"
 #include "memory/constants_table.h"
 #include "memory/constants_view.h"
@@ -19,10 +20,6 @@ namespace kav {
 namespace {
 
 constexpr int kLongestFilter = 100;
-
-QString Text(std::u16string_view text) {
-  return QStringView(text).toString();
-}
 
 /// A text with room for two lines, whatever it is: nothing moves when another row is selected.
 class TwoLines final : public QLabel {
@@ -68,12 +65,12 @@ CConstantsDlg::CConstantsDlg(QWidget* parent, ConstantsModel& model)
     : Dialog(parent, kConstantsTitle),
       model_(model),
       list_(new ConstantsView(model, [this] { Refresh(); })) {
-  filter_->setPlaceholderText(Text(kFilterCaption));
-  filter_->setAccessibleName(Text(kFilterCaption));
+  filter_->setPlaceholderText(ToQt(kFilterCaption));
+  filter_->setAccessibleName(ToQt(kFilterCaption));
   filter_->setMaxLength(kLongestFilter);
   filter_->installEventFilter(this);
-  name_->setAccessibleName(Text(kConstantName));
-  value_->setAccessibleName(Text(kConstantValue));
+  name_->setAccessibleName(ToQt(kConstantName));
+  value_->setAccessibleName(ToQt(kConstantValue));
   value_->setReadOnly(true);
   QPalette colours = palette();
   colours.setColor(QPalette::Base, QColor(255, 255, 192));
@@ -94,9 +91,9 @@ void CConstantsDlg::LayOut() {
   auto* all = new QVBoxLayout(this);
   all->addLayout(top);
   all->addWidget(list_, 1);
-  all->addWidget(new QLabel(Text(kConstantName)));
+  all->addWidget(new QLabel(ToQt(kConstantName)));
   all->addWidget(name_);
-  all->addWidget(new QLabel(Text(kConstantValue)));
+  all->addWidget(new QLabel(ToQt(kConstantValue)));
   all->addWidget(value_);
   all->addLayout(buttons);
   ok_->setDefault(true);
@@ -111,7 +108,7 @@ void CConstantsDlg::Connect() {
 }
 
 void CConstantsDlg::Refresh() {
-  count_->setText(Text(model_.CountText()));
+  count_->setText(ToQt(model_.CountText()));
   name_->setText(OneLine(model_.SelectedName()));
   value_->setText(OneLine(model_.SelectedValue()));
   value_->setCursorPosition(0);

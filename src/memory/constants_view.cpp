@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "app/dialog.h"
+#include "app/qt_text.h"
 #include "memory/memory_texts.h"
 
 namespace kav {
@@ -21,10 +22,6 @@ constexpr int kValue = 1;
 constexpr double kValueShare = 0.44;  // of the width
 
 constexpr std::ptrdiff_t kAllRows = std::numeric_limits<std::ptrdiff_t>::max();
-
-QString Text(std::u16string_view text) {
-  return QStringView(text).toString();
-}
 
 /// `number` in as many lines of `room` pixels as it takes, two at most, its exponent in one of
 /// them. A number too long for that loses digits in its middle, and so keeps the exponent.
@@ -87,7 +84,7 @@ class ConstantsView::Rows final : public QAbstractTableModel {
 
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    return Text(section == kName ? kNameColumn : kValueColumn);
+    return ToQt(section == kName ? kNameColumn : kValueColumn);
   }
 
  private:
@@ -96,7 +93,7 @@ class ConstantsView::Rows final : public QAbstractTableModel {
 
 ConstantsView::ConstantsView(ConstantsModel& model, std::function<void()> onSelect)
     : model_(model), onSelect_(std::move(onSelect)), rows_(new Rows(this, model)) {
-  setAccessibleName(Text(kConstantsTitle));
+  setAccessibleName(ToQt(kConstantsTitle));
   setModel(rows_);
   setRootIsDecorated(false);
   setUniformRowHeights(true);
