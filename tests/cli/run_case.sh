@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# run_case.sh KAVCALC CASE.sh: runs the commands in CASE.sh with KAVCALC as "kavcalc" in every locale, and
-# compares what comes of it with the files beside: standard output with CASE.out; each line of
+# run_case.sh KAVCALC CASE.sh LOCALE...: runs the commands in CASE.sh with KAVCALC as "kavcalc" in each
+# locale, and compares what comes of it with the files beside: standard output with CASE.out; each line of
 # standard error with its line in CASE.err, which need only be a part of it (no file: nothing may
 # come); the exit status with CASE.status (no file: 0). Standard input is CASE.in or empty. The home
 # folder is new and empty each time, and so is the folder that the commands run in, but for what
@@ -11,6 +11,7 @@ kavcalc=$(readlink -f -- "$1")
 case=$(readlink -f -- "${2%.sh}.sh")
 case=${case%.sh}
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
+locales=("${@:3}")
 work=$(mktemp -d)
 trap 'rm -rf -- "$work"' EXIT
 
@@ -38,7 +39,7 @@ run_in() {
     <"$input" >"$room/out" 2>"$room/err" && status=0 || status=$?
 }
 
-for locale in C.UTF-8 de_DE.UTF-8 tr_TR.UTF-8; do
+for locale in "${locales[@]:?no locale to run in}"; do
   run_in "$locale"
   diff -u --text "$case.out" "$work/$locale/out" >&2 || complain "another answer"
   expected=/dev/null
