@@ -16,10 +16,10 @@
 #include "cli/user_conversions_command.h"
 #include "common/number_text.h"
 #include "converter/conversion.h"
-#include "converter/converter_input.h"
 #include "converter/converter_texts.h"
 #include "converter/user_conversions.h"
 #include "engine/calc_error.h"
+#include "engine/number_input.h"
 
 namespace kav {
 namespace {

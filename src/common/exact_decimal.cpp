@@ -36,11 +36,11 @@ std::optional<BinaryFraction> Decompose(double magnitude) {
 }
 
 std::optional<std::uint64_t> Rounded(Wide product, int shift) {
-  const Wide whole = product >> shift;
-  const Wide rest = product - (whole << shift);
-  const Wide half = shift == 0 ? 1 : Wide{1} << (shift - 1);
-  const bool isUp = rest > half || (rest == half && (whole & 1U) != 0);
-  const Wide rounded = whole + (isUp ? 1 : 0);
+  // The product has 127 bits at most: the sum does not overflow.
+  const Wide sum = product + (shift == 0 ? 0 : Wide{1} << (shift - 1));
+  Wide rounded = sum >> shift;
+  const bool isTie = shift != 0 && rounded << shift == sum;
+  if (isTie) rounded &= ~Wide{1};
   if ((rounded >> 64) != 0) return std::nullopt;
   return static_cast<std::uint64_t>(rounded);
 }

@@ -17,7 +17,7 @@ double ReadLeadingNumber(std::string_view text);
 /// Up to this many decimal digits make an exact double, as an integer and as a power of ten.
 inline constexpr std::size_t kExactDigits = 15;
 
-/// `digits` divided by 10^`decimals`, correctly rounded: both of at most kExactDigits digits.
+/// `digits`, at most 2^53, divided by 10^`decimals`, at most kExactDigits: correctly rounded.
 double DecimalValue(std::uint64_t digits, std::size_t decimals);
 
 /// `text` as a number where the whole of it is one (blanks around it allowed), "inf", "-inf" and

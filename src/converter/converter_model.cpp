@@ -6,8 +6,8 @@
 
 #include "common/number_text.h"
 #include "converter/conversion.h"
-#include "converter/converter_input.h"
 #include "converter/converter_texts.h"
+#include "engine/number_input.h"
 
 namespace kav {
 namespace {

@@ -16,6 +16,11 @@ constexpr AngleUnit AngleUnitFromSetting(std::int32_t stored) {
   return stored == 1 ? AngleUnit::Degrees : AngleUnit::Radians;
 }
 
+/// What the angle key switches to from `unit`.
+constexpr AngleUnit OtherAngleUnit(AngleUnit unit) {
+  return unit == AngleUnit::Degrees ? AngleUnit::Radians : AngleUnit::Degrees;
+}
+
 /// The base that a stored integer stands for: 2 to 4 as enumerated, anything else decimal.
 constexpr BaseMode BaseModeFromSetting(std::int32_t stored) {
   return stored >= 2 && stored <= 4 ? static_cast<BaseMode>(stored) : BaseMode::Decimal;

@@ -7,6 +7,7 @@
 
 #include "engine/calc_error.h"
 #include "engine/calc_modes.h"
+#include "engine/natural_decimals.h"
 #include "settings/settings_store.h"
 
 namespace kav {
@@ -59,9 +60,9 @@ CalcResult<std::string> FormatNumber(double value, DisplayFormat format,
 CalcResult<std::string> FormatForInsertion(double value, DisplayFormat format,
                                            BaseMode base = BaseMode::Decimal);
 
-/// How many decimals (0 to 13) show `value` without representation noise. `value` is finite and of
-/// a magnitude from 1e-12 to 1e12, or 0.
-int NaturalDecimals(double value);
+/// The number that the text of `value`, which is finite, reads back as in display type "Floating
+/// Point" with `precision`. Makes no text from 1e-12 to 1e12.
+double RoundAsShown(double value, int precision);
 
 /// A decimal text with "," between each three digits of its integer part.
 std::string GroupThousands(std::string_view text);

@@ -28,6 +28,11 @@ TEST(AngleUnitFromSetting, OneIsDegreesAndAllElseRadians) {
   }
 }
 
+TEST(AngleUnit, EachIsTheOtherOfTheOther) {
+  EXPECT_EQ(OtherAngleUnit(AngleUnit::Degrees), AngleUnit::Radians);
+  EXPECT_EQ(OtherAngleUnit(AngleUnit::Radians), AngleUnit::Degrees);
+}
+
 TEST(BaseModeFromSetting, UnknownNumbersAreDecimal) {
   EXPECT_EQ(BaseModeFromSetting(2), BaseMode::Hexadecimal);
   EXPECT_EQ(BaseModeFromSetting(3), BaseMode::Binary);

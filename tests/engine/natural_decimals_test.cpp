@@ -1,4 +1,5 @@
-// The part of number_format that finds how many decimals of a number are worth showing.
+#include "engine/natural_decimals.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,7 +8,6 @@
 #include <vector>
 
 #include "common/number_text.h"
-#include "engine/number_format.h"
 #include "support/effort.h"
 #include "support/plain_format.h"
 #include "support/random.h"
@@ -31,6 +31,7 @@ void ExpectDecimals(const std::vector<DecimalsRow>& rows) {
       EXPECT_EQ(NaturalDecimals(value), row.decimals) << row.shown;
       const std::string minus = value < 0 ? "-" : "";
       EXPECT_EQ(PrintFixed(value, NaturalDecimals(value)), minus + row.shown);
+      EXPECT_EQ(RoundToNaturalDecimals(value), ReadLeadingNumber(minus + row.shown));
     }
   }
 }
@@ -168,6 +169,8 @@ TEST(NaturalDecimals, AreThoseOfTheRules) {
     if (size != 0 && (size < 1e-12 || size > 1e12)) continue;
     ASSERT_EQ(NaturalDecimals(value), test::PlainNaturalDecimals(value)) << PrintRoundTrip(value);
     ASSERT_EQ(NaturalDecimals(-value), test::PlainNaturalDecimals(-value)) << PrintRoundTrip(value);
+    const std::string shown = test::PlainPrint("%.*f", test::PlainNaturalDecimals(value), value);
+    ASSERT_EQ(RoundToNaturalDecimals(value), ReadLeadingNumber(shown)) << PrintRoundTrip(value);
   }
 }
 

@@ -327,6 +327,25 @@ TEST(DisplayFormat, StartsAsTheSettingsDo) {
   EXPECT_EQ(LoadDisplayFormat(store).precision, 7);
 }
 
+TEST(RoundAsShown, IsTheNumberThatTheTextReadsAs) {
+  const struct {
+    double value;
+    int precision;
+    double shown;
+  } rows[] = {{0.1 + 0.2, 7, 0.3},
+              {1.0 / 3, 2, 0.333333333333},
+              {1234567890123.0, 3, 1.235e12},
+              {1234567890123.0, 12, 1234567890123.0},
+              {1.23456e-20, 0, 1e-20},
+              {std::numeric_limits<double>::max(), 1, std::numeric_limits<double>::infinity()},
+              {0, 7, 0}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(RoundAsShown(row.value, row.precision), row.shown);
+    EXPECT_EQ(RoundAsShown(-row.value, row.precision), -row.shown);
+    EXPECT_FALSE(std::signbit(RoundAsShown(-0.0, row.precision)));
+  }
+}
+
 TEST(DisplayFormat, IsReadFromItsSettings) {
   MemorySettingsStore store;
   store.Set(SettingKey<std::int32_t>{"Config", "Display Type", 0}, 4);

@@ -6,8 +6,8 @@
 
 namespace kav::test {
 
-// Whether this is built as users run it: optimised, and without sanitizers.
-#if !defined(__OPTIMIZE__) || defined(__SANITIZE_ADDRESS__)
+// Whether what is tested is built as users run it: optimised, and without sanitizers.
+#if !defined(NDEBUG) || defined(__SANITIZE_ADDRESS__)
 inline constexpr bool kIsFast = false;
 #elif defined(__has_feature)
 #if __has_feature(address_sanitizer)

@@ -1,4 +1,4 @@
-#include "converter/converter_input.h"
+#include "engine/number_input.h"
 
 #include <algorithm>
 #include <string>

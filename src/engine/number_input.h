@@ -1,4 +1,4 @@
-// The value to convert as the user types or pastes it.
+// Numbers as users type and paste them.
 #pragma once
 
 #include <optional>
