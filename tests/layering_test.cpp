@@ -33,7 +33,6 @@ const std::map<std::string, std::set<std::string>> kMayName{
 
 /// The settings on disk: a library of their own, for those who start a program.
 const std::set<std::string> kStore{
-    "settings/atomic_file",   "settings/file_descriptor",     "settings/file_error",
     "settings/file_lock",     "settings/settings_path",       "settings/settings_texts",
     "settings/settings_toml", "settings/toml_library",        "settings/toml_text",
     "settings/toml_writer",   "settings/user_settings_store",
@@ -50,8 +49,8 @@ const std::set<std::string> kNamedByScreensOnly{"macros/macro_editor_model"};
 
 /// What a screen may name of the application around it.
 const std::set<std::string> kOfferedToScreens{
-    "app/screen",     "app/dialog", "app/dialog_texts", "app/key_painter",
-    "app/label_list", "app/look",   "app/message_box",  "app/qt_text"};
+    "app/screen",     "app/dialog",      "app/dialog_texts", "app/file_choice", "app/key_painter",
+    "app/label_list", "app/line_screen", "app/look",         "app/message_box", "app/qt_text"};
 
 /// The one file that names the screens of every room.
 const std::string kNamesAllScreens = "app/frame_window";

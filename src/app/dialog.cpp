@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "app/look.h"
+#include "app/qt_text.h"
 #include "common/number_text.h"
 
 namespace kav {
@@ -29,7 +30,7 @@ void SetMargins(QLayout* layout, int pixels) {
 }  // namespace
 
 Dialog::Dialog(QWidget* parent, std::u16string_view title) : QDialog(parent) {
-  setWindowTitle(QStringView(title).toString());
+  setWindowTitle(ToQt(title));
   setPalette(ScreenPalette());
   setMinimumSize(kSmallest);
   setModal(true);
@@ -72,8 +73,7 @@ void Dialog::Scale() {
   SetMargins(layout(), text / 2);
 }
 
-DialogButton::DialogButton(std::u16string_view caption)
-    : QPushButton(QStringView(caption).toString()) {
+DialogButton::DialogButton(std::u16string_view caption) : QPushButton(ToQt(caption)) {
   setAttribute(Qt::WA_Hover);
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/display_settings_model.h"
 #include "scientific/key_request.h"
 #include "settings/settings_store.h"
 
@@ -20,7 +21,8 @@ enum class ScreenMode { Scientific = 1, Plotter = 2, OneVariable = 3, TwoVariabl
 /// The dialogs that screens open, each a function that returns once its dialog is closed; empty
 /// where this build has no such dialog, and then nothing that needs it is offered.
 struct Rooms {
-  std::function<bool(QWidget* parent)> displaySettings;  ///< whether it was closed with OK
+  /// Opens with `first`; whether it was closed with OK.
+  std::function<bool(QWidget* parent, DisplayPage first)> displaySettings;
   std::function<void(QWidget* parent)> unitEditor;
   std::function<void(QWidget* parent)> macroEditor;
   std::function<std::optional<int>(QWidget* parent)> macroList;  ///< the macro chosen

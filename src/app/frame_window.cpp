@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "app/app_texts.h"
+#include "app/qt_text.h"
 #include "converter/converter_dlg.h"
 #include "converter/user_conversion_dlg.h"
 #include "engine/display_settings_dlg.h"
@@ -59,8 +60,8 @@ std::span<const ScreenKind> AllScreens() {
 Rooms AllRooms(SettingsStore& store) {
   // A line for each dialog that there is.
   Rooms rooms;
-  rooms.displaySettings = [&store](QWidget* parent) {
-    return RunDisplaySettings(parent, store, DisplayPage::Normal);
+  rooms.displaySettings = [&store](QWidget* parent, DisplayPage first) {
+    return RunDisplaySettings(parent, store, first);
   };
   rooms.unitEditor = [&store](QWidget* parent) { RunUserConversions(parent, store); };
   rooms.macroEditor = [&store](QWidget* parent) { RunMacroEditor(parent, store); };
@@ -88,7 +89,7 @@ FrameWindow::FrameWindow(SettingsStore& store, std::span<const ScreenKind> scree
       place_(StoredPlace(store)),
       mode_(StoredMode(store)) {
   store_.Set(kVersion, kVersionNumber);
-  setWindowTitle(QStringView(kApplicationName).toString());
+  setWindowTitle(ToQt(kApplicationName));
   setPalette(ScreenPalette());
   TakePlace(*this, {place_.rect});
   // While the desktop is still bringing the frame up, there is time to make the first screen.
@@ -106,7 +107,7 @@ void FrameWindow::paintEvent(QPaintEvent*) {
   constexpr QPoint kLoadingPlace(15, 15);
   QPainter painter(this);
   const QRect rest = rect().adjusted(kLoadingPlace.x(), kLoadingPlace.y(), 0, 0);
-  painter.drawText(rest, Qt::AlignLeft | Qt::AlignTop, QStringView(kLoading).toString());
+  painter.drawText(rest, Qt::AlignLeft | Qt::AlignTop, ToQt(kLoading));
   StartSoon();
 }
 

@@ -4,6 +4,7 @@
 #include <QStyledItemDelegate>
 
 #include "app/dialog.h"
+#include "app/qt_text.h"
 
 namespace kav {
 namespace {
@@ -22,7 +23,7 @@ class FittingDelegate final : public QStyledItemDelegate {
 }  // namespace
 
 LabelList::LabelList(std::u16string_view name) {
-  setAccessibleName(QStringView(name).toString());
+  setAccessibleName(ToQt(name));
   setItemDelegate(new FittingDelegate(this));
   setTextElideMode(Qt::ElideMiddle);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -8,6 +8,7 @@
 
 #include "app/app_texts.h"
 #include "app/look.h"
+#include "app/qt_text.h"
 
 namespace kav {
 namespace {
@@ -21,7 +22,7 @@ class ScaledBox final : public QMessageBox {
  public:
   ScaledBox(Icon icon, const QString& text, const QString& more, StandardButtons buttons,
             QWidget* parent)
-      : QMessageBox(icon, QStringView(kApplicationName).toString(), text, buttons, parent) {
+      : QMessageBox(icon, ToQt(kApplicationName), text, buttons, parent) {
     // What is said may hold a file name or a line of the user's, which is not to be read as markup.
     setTextFormat(Qt::PlainText);
     if (!more.isEmpty()) setInformativeText(more);
@@ -68,9 +69,7 @@ class ScaledBox final : public QMessageBox {
 
 int Show(QWidget* parent, QMessageBox::Icon icon, std::u16string_view text,
          QMessageBox::StandardButtons buttons, std::u16string_view more = {}) {
-  return ScaledBox(icon, QStringView(text).toString(), QStringView(more).toString(), buttons,
-                   parent)
-      .exec();
+  return ScaledBox(icon, ToQt(text), ToQt(more), buttons, parent).exec();
 }
 
 }  // namespace

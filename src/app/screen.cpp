@@ -4,11 +4,13 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
+#include <array>
 #include <utility>
 
 #include "app/app_texts.h"
 #include "app/bottom_menu_bar.h"
 #include "app/message_box.h"
+#include "app/qt_text.h"
 
 namespace kav {
 namespace {
@@ -16,7 +18,7 @@ namespace {
 constexpr QSize kSmallest(180, 240);
 
 void AddAction(QMenu* menu, const MenuEntry& entry) {
-  QAction* action = menu->addAction(QStringView(entry.text).toString());
+  QAction* action = menu->addAction(ToQt(entry.text));
   action->setShortcut(entry.shortcut);
   action->setShortcutContext(Qt::WidgetShortcut);
   QObject::connect(action, &QAction::triggered, action, entry.action);
@@ -25,11 +27,60 @@ void AddAction(QMenu* menu, const MenuEntry& entry) {
                    [action, isEnabled = entry.isEnabled] { action->setEnabled(isEnabled()); });
 }
 
+/// An entry of the Edit menu.
+struct EditRow {
+  EditCommand command;
+  std::u16string_view text;
+  QKeySequence::StandardKey shortcut;
+};
+
+constexpr std::array kEditRows{
+    EditRow{EditCommand::Undo, kUndoEntry, QKeySequence::Undo},
+    EditRow{EditCommand::Redo, kRedoEntry, QKeySequence::Redo},
+    EditRow{EditCommand::Cut, kCutEntry, QKeySequence::Cut},
+    EditRow{EditCommand::Copy, kCopyEntry, QKeySequence::Copy},
+    EditRow{EditCommand::Paste, kPasteEntry, QKeySequence::Paste},
+    EditRow{EditCommand::SelectAll, kSelectAllEntry, QKeySequence::SelectAll},
+};
+
 }  // namespace
+
+void EditLine(QLineEdit& line, EditCommand command) {
+  switch (command) {
+    case EditCommand::Undo:
+      return line.undo();
+    case EditCommand::Redo:
+      return line.redo();
+    case EditCommand::Cut:
+      return line.cut();
+    case EditCommand::Copy:
+      return line.copy();
+    case EditCommand::Paste:
+      return line.paste();
+    case EditCommand::SelectAll:
+      return line.selectAll();
+  }
+}
+
+bool CanEditLine(const QLineEdit& line, EditCommand command) {
+  switch (command) {
+    case EditCommand::Undo:
+      return line.isUndoAvailable();
+    case EditCommand::Redo:
+      return line.isRedoAvailable();
+    case EditCommand::Cut:
+    case EditCommand::Copy:
+      return line.hasSelectedText();
+    case EditCommand::Paste:
+    case EditCommand::SelectAll:
+      break;
+  }
+  return true;
+}
 
 Screen::Screen(Frame& frame, QSize size)
     : frame_(frame), size_(size), menuBar_(new BottomMenuBar(this)) {
-  setWindowTitle(QStringView(kApplicationName).toString());
+  setWindowTitle(ToQt(kApplicationName));
   setPalette(ScreenPalette());
   setMinimumSize(kSmallest);
 }
@@ -38,7 +89,7 @@ void Screen::AddMenu(std::u16string_view title, const std::vector<MenuEntry>& en
   QMenu* menu = nullptr;
   for (const MenuEntry& entry : entries) {
     if (!entry.action) continue;
-    if (menu == nullptr) menu = menuBar_->addMenu(QStringView(title).toString());
+    if (menu == nullptr) menu = menuBar_->addMenu(ToQt(title));
     AddAction(menu, entry);
   }
   if (menu == nullptr) return;
@@ -53,16 +104,15 @@ void Screen::AddFileMenu(const FileCommands& commands) {
                       {kExitEntry, [this] { frame_.Exit(); }}});
 }
 
-void Screen::AddEditMenu(const std::function<QLineEdit*()>& line) {
-  const auto on = [line](auto edit) { return [line, edit] { (line()->*edit)(); }; };
-  const auto is = [line](auto state) { return [line, state] { return (line()->*state)(); }; };
-  AddMenu(kEditMenu,
-          {{kUndoEntry, on(&QLineEdit::undo), QKeySequence::Undo, is(&QLineEdit::isUndoAvailable)},
-           {kRedoEntry, on(&QLineEdit::redo), QKeySequence::Redo, is(&QLineEdit::isRedoAvailable)},
-           {kCutEntry, on(&QLineEdit::cut), QKeySequence::Cut, is(&QLineEdit::hasSelectedText)},
-           {kCopyEntry, on(&QLineEdit::copy), QKeySequence::Copy, is(&QLineEdit::hasSelectedText)},
-           {kPasteEntry, on(&QLineEdit::paste), QKeySequence::Paste},
-           {kSelectAllEntry, on(&QLineEdit::selectAll), QKeySequence::SelectAll}});
+void Screen::AddEditMenu(const EditHooks& hooks) {
+  std::vector<MenuEntry> entries;
+  entries.reserve(kEditRows.size());
+  for (const EditRow& row : kEditRows) {
+    entries.push_back({row.text, [edit = hooks.edit, command = row.command] { edit(command); },
+                       row.shortcut,
+                       [can = hooks.canEdit, command = row.command] { return can(command); }});
+  }
+  AddMenu(kEditMenu, entries);
 }
 
 void Screen::AddModeMenu(ScreenMode own) {

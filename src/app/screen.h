@@ -32,6 +32,18 @@ struct FileCommands {
   std::function<void()> editMacros;
 };
 
+/// What the entries of the Edit menu do.
+enum class EditCommand { Undo, Redo, Cut, Copy, Paste, SelectAll };
+
+struct EditHooks {
+  std::function<void(EditCommand)> edit;
+  std::function<bool(EditCommand)> canEdit;  ///< asked each time the menu opens
+};
+
+/// Does it to a line, and tells whether there is something to do.
+void EditLine(QLineEdit& line, EditCommand command);
+bool CanEditLine(const QLineEdit& line, EditCommand command);
+
 /// A calculating screen, a window of its own.
 class Screen : public QWidget {
  public:
@@ -45,8 +57,7 @@ class Screen : public QWidget {
   /// A menu of those entries that have an action; no menu where none has.
   void AddMenu(std::u16string_view title, const std::vector<MenuEntry>& entries);
   void AddFileMenu(const FileCommands& commands);
-  /// The menu that edits the line that `line` returns at the time.
-  void AddEditMenu(const std::function<QLineEdit*()>& line);
+  void AddEditMenu(const EditHooks& hooks);
   /// The menu of all screens but `own`.
   void AddModeMenu(ScreenMode own);
   /// An empty pop-up menu of the screen's look, deleted once it is closed.

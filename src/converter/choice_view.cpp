@@ -6,6 +6,7 @@
 
 #include "app/dialog.h"
 #include "app/look.h"
+#include "app/qt_text.h"
 
 namespace kav {
 namespace {
@@ -26,7 +27,7 @@ class EntryDelegate final : public QStyledItemDelegate {
 ChoiceView::ChoiceView(std::u16string_view name) {
   // Before the list is made, which is the style's to shape.
   setStyle(ScreenStyle());
-  setAccessibleName(QStringView(name).toString());
+  setAccessibleName(ToQt(name));
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(1);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -11,6 +11,7 @@
 #include "app/dialog_texts.h"
 #include "app/label_list.h"
 #include "app/message_box.h"
+#include "app/qt_text.h"
 #include "converter/converter_texts.h"
 #include "converter/user_conversion_fields_view.h"
 #include "converter/user_conversion_model.h"
@@ -110,7 +111,7 @@ void CUserConversionDlg::Refresh() {
   // Before they are enabled: what was shown last is not to be undone.
   fields_->Write(model_.Fields());
   fields_->SetEditable(model_.IsEditing());
-  count_->setText(QStringView(model_.CountText()).toString());
+  count_->setText(ToQt(model_.CountText()));
   list_->Write(model_.Labels(), model_.Selected());
   list_->setEnabled(!model_.IsEditing());
   for (const ButtonRow& row : kButtons) {

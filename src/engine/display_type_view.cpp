@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QRadioButton>
 
+#include "app/qt_text.h"
 #include "engine/display_settings_texts.h"
 
 namespace kav {
@@ -22,8 +23,7 @@ class RowButton final : public QRadioButton {
 }  // namespace
 
 DisplayTypeView::DisplayTypeView()
-    : buttons_(new QButtonGroup(this)),
-      mark_(new QLabel(QStringView(kRecommendedMark).toString())) {
+    : buttons_(new QButtonGroup(this)), mark_(new QLabel(ToQt(kRecommendedMark))) {
   QPalette colours;
   colours.setColor(QPalette::Window, QColor(192, 255, 192));
   setPalette(colours);
@@ -33,7 +33,7 @@ DisplayTypeView::DisplayTypeView()
   rows->setColumnStretch(1, 1);
   for (const std::u16string_view caption : kDisplayTypeCaptions) {
     const int type = static_cast<int>(buttons_->buttons().size());
-    auto* button = new RowButton(QStringView(caption).toString());
+    auto* button = new RowButton(ToQt(caption));
     buttons_->addButton(button, type);
     // The mark stands right behind its button; the others may be as wide as they like.
     const bool isMarked = type == static_cast<int>(DisplayType::FloatingPoint);

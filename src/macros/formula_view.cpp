@@ -4,6 +4,7 @@
 #include <QMimeData>
 #include <algorithm>
 
+#include "app/qt_text.h"
 #include "macros/macro_editor_model.h"
 
 namespace kav {
@@ -51,7 +52,7 @@ void FormulaView::Change(const TextChange& change) {
   // A block of edits is a step of its own for undo.
   QTextCursor cursor = textCursor();
   cursor.beginEditBlock();
-  cursor.insertText(QStringView(change.text).toString());
+  cursor.insertText(ToQt(change.text));
   cursor.endEditBlock();
 }
 

@@ -7,6 +7,7 @@
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
 #include "app/label_list.h"
+#include "app/qt_text.h"
 #include "common/number_text.h"
 #include "macros/formula_view.h"
 #include "macros/macro_list_model.h"
@@ -43,7 +44,7 @@ CMacroListDlg::CMacroListDlg(QWidget* parent, SettingsStore& store)
   formula_->setFocusPolicy(Qt::NoFocus);
   formula_->setFrameShape(QFrame::NoFrame);
   formula_->viewport()->setAutoFillBackground(false);
-  formula_->setAccessibleName(QStringView(kFormulaName).toString());
+  formula_->setAccessibleName(ToQt(kFormulaName));
   LayOut();
   Connect();
   Refresh();

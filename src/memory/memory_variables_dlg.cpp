@@ -9,6 +9,7 @@
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
 #include "app/message_box.h"
+#include "app/qt_text.h"
 #include "memory/memory_texts.h"
 #include "memory/memory_variables_model.h"
 
@@ -62,7 +63,7 @@ CMemoryVariablesDlg::CMemoryVariablesDlg(QWidget* parent, VariablesMode mode, Se
     : Dialog(parent, kVariablesTitle),
       model_(std::move(mode), store),
       action_(new DialogButton(model_.ActionCaption())) {
-  list_->setAccessibleName(QStringView(kVariableListName).toString());
+  list_->setAccessibleName(ToQt(kVariableListName));
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   for (int i = 0; i < MemoryVariables::kCount; ++i) list_->addItem(QString());
   LayOut();

@@ -7,7 +7,6 @@
 #include "common/number_text.h"
 #include "scientific/expression_line.h"
 #include "scientific/shown_number.h"
-#include "settings/keys.h"
 
 namespace kav {
 namespace {
@@ -78,21 +77,19 @@ double RecordedAnswer(std::u16string_view entry) {
 
 }  // namespace
 
-History History::Load(const SettingsStore& store) {
+History History::Load(const SettingsStore& store, const HistoryKeys& keys) {
   History history;
-  const int count = std::clamp(store.Get(kCalHistoryCount), 0, static_cast<int>(kCapacity));
-  for (int number = 1; number <= count; ++number) {
-    history.entries_.push_back(Widen(store.Get(CalHistoryEntry(number))));
+  const int count = std::clamp(store.Get(keys.count), 0, static_cast<int>(kCapacity));
+  for (int i = 0; i < count; ++i) {
+    history.entries_.push_back(Widen(store.Get(keys.entry(keys.first + i))));
   }
   return history;
 }
 
-void History::Save(SettingsStore& store) const {
-  const int count = static_cast<int>(entries_.size());
-  store.Set(kCalHistoryCount, count);
-  for (int number = count; number >= 1; --number) {
-    store.Set(CalHistoryEntry(number), Narrow(entries_[static_cast<std::size_t>(number) - 1]));
-  }
+void History::Save(SettingsStore& store, const HistoryKeys& keys) const {
+  store.Set(keys.count, static_cast<std::int32_t>(entries_.size()));
+  int number = keys.first;
+  for (const std::u16string& entry : entries_) store.Set(keys.entry(number++), Narrow(entry));
 }
 
 bool History::NewestIs(std::u16string_view text) const {

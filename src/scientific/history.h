@@ -7,9 +7,21 @@
 
 #include "engine/calc_modes.h"
 #include "engine/number_format.h"
+#include "settings/keys.h"
 #include "settings/settings_store.h"
 
 namespace kav {
+
+/// Where a history is stored: a count, and the entries under keys that are numbered from `first`
+/// on.
+struct HistoryKeys {
+  IntegerKey count;
+  NumberedKey (*entry)(int number);
+  int first;
+};
+
+inline constexpr HistoryKeys kCalculatorHistory{kCalHistoryCount, CalHistoryEntry, 1};
+inline constexpr HistoryKeys kMatrixHistory{kCalMHistoryCount, CalMHistoryEntry, 0};
 
 /// Up to 20 texts, the newest last. An expression is kept as typed; an answer is "=", a base tag
 /// such as "[D]", and the number as it was shown.
@@ -18,8 +30,8 @@ class History {
   static constexpr std::size_t kCapacity = 20;
 
   /// The stored entries; a count out of range is the nearest one in range.
-  static History Load(const SettingsStore& store);
-  void Save(SettingsStore& store) const;
+  static History Load(const SettingsStore& store, const HistoryKeys& keys);
+  void Save(SettingsStore& store, const HistoryKeys& keys) const;
 
   bool IsEmpty() const { return entries_.empty(); }
   /// Oldest first.

@@ -1,17 +1,10 @@
 #include "scientific/scientific_dlg.h"
 
-#include <QAction>
-#include <QCoreApplication>
-#include <QKeyEvent>
-#include <QMenu>
-#include <QTimer>
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <variant>
 #include <vector>
 
-#include "app/message_box.h"
 #include "scientific/scientific_texts.h"
 
 namespace kav {
@@ -20,143 +13,95 @@ namespace {
 /// Of the expression line's height.
 constexpr double kLineTextHeight = 0.42;
 
-QRect UnitsOf(const LinePlace& place) {
-  return {place.x, place.y, place.width, place.height};
+struct KeyShortcut {
+  Key key;
+  const char* keys;
+};
+
+// For the keys whose work cannot be typed. The letters are none of those of the menus.
+constexpr std::array kShortcuts{
+    KeyShortcut{Key::Deg, "Alt+D"},         KeyShortcut{Key::Dec, "Alt+B"},
+    KeyShortcut{Key::PlayBack, "Alt+P"},    KeyShortcut{Key::Shift, "Alt+S"},
+    KeyShortcut{Key::ShiftActive, "Alt+S"}, KeyShortcut{Key::Macro, "Alt+A"},
+    KeyShortcut{Key::Converter, "Alt+N"},   KeyShortcut{Key::MemoryMenu, "Alt+C"},
+};
+
+const char* ShortcutOf(Key key) {
+  const auto* row = std::find_if(kShortcuts.begin(), kShortcuts.end(),
+                                 [key](const KeyShortcut& s) { return s.key == key; });
+  return row != kShortcuts.end() ? row->keys : nullptr;
 }
 
-/// The key of the keypad that a key of the keyboard presses, whatever has the focus.
-std::optional<Key> KeyOf(const QKeyEvent& event) {
-  if (event.text() == u"=") return Key::Equals;
-  switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return Key::Equals;
-    case Qt::Key_Escape:
-      return Key::Clear;
-    default:
-      return std::nullopt;
+/// Every caption that `key` can show.
+std::vector<std::u16string_view> CaptionsOf(Key key) {
+  if (key == Key::Deg) return {kDegreesCaption, kRadiansCaption};
+  std::vector<std::u16string_view> captions;
+  if (key == Key::Dec) {
+    for (const MenuItem& item : BuildBaseMenu())
+      captions.push_back(BaseCaption(*BaseOfItem(item.id)));
+    return captions;
   }
-}
-
-/// Whether a key that the focused widget has no use for is typing.
-bool IsForLine(const QKeyEvent& event) {
-  if ((event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
-  constexpr std::array kEditing{Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Home, Qt::Key_End,
-                                Qt::Key_Up};
-  return !event.text().isEmpty() ||
-         std::find(kEditing.begin(), kEditing.end(), event.key()) != kEditing.end();
-}
-
-/// Whether the focus only returns from a menu or another window.
-bool IsReturn(const QFocusEvent& event) {
-  return event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason ||
-         event.reason() == Qt::ActiveWindowFocusReason;
-}
-
-/// `text` as the label of a menu entry, where '&' and a tab have meanings of their own.
-QString LabelOf(const std::u16string& text) {
-  return QString::fromStdU16String(text)
-      .replace(QChar(u'&'), QString("&&"))
-      .replace(QChar(u'\t'), QChar(u' '));
-}
-
-/// `items` without those of `ids`, and without separators that then separate nothing.
-Menu Without(const Menu& items, const std::vector<int>& ids) {
-  Menu rest;
-  for (const MenuItem& item : items) {
-    if (std::find(ids.begin(), ids.end(), item.id) != ids.end()) continue;
-    if (item.IsSeparator() && (rest.empty() || rest.back().IsSeparator())) continue;
-    rest.push_back(item);
+  for (const Face face : {Face::Plain, Face::Shifted, Face::Base}) {
+    const KeyFace& shown = FaceOf(key, face);
+    if (shown.face == face) captions.push_back(shown.caption);
   }
-  if (!rest.empty() && rest.back().IsSeparator()) rest.pop_back();
-  return rest;
+  return captions;
+}
+
+std::vector<KeySpot> KeySpots() {
+  std::vector<KeySpot> spots;
+  for (const KeyPlace& place : KeyPlaces()) {
+    KeySpot spot{static_cast<int>(place.key), QRect(place.x, place.y, place.width, kKeyHeight),
+                 place.colour, CaptionsOf(place.key), ShortcutOf(place.key)};
+    // Both Shift keys have one name.
+    if (place.key == Key::ShiftActive) spot.description = kShiftIsOn;
+    spots.push_back(std::move(spot));
+  }
+  return spots;
 }
 
 }  // namespace
 
 CScientificDlg::CScientificDlg(Frame& frame)
-    : Screen(frame, QSize(kScreenWidth, kScreenHeight)),
-      model_(frame.Store()),
-      line_(new LineView(this)),
-      result_(new ResultView(this)),
-      keypad_(new KeypadView(this, [this](Key key) { OnKey(key); })) {
-  keypad_->lower();
-  line_->setAccessibleName(QStringView(kExpressionName).toString());
-  line_->setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
-  line_->installEventFilter(this);
-  result_->setAccessibleName(QStringView(kResultName).toString());
-  AddMenus();
-  Refresh();
+    : LineScreen(frame, QSize(kScreenWidth, kScreenHeight), KeySpots(),
+                 {static_cast<int>(Key::Equals), static_cast<int>(Key::Clear)}),
+      model_(frame.Store()) {
+  AddMenus(ScreenMode::Scientific, DisplayPage::Normal, [this] { model_.TakeDisplaySettings(); });
+  CScientificDlg::Refresh();
 }
 
 CScientificDlg::~CScientificDlg() {
   model_.Save();
 }
 
-void CScientificDlg::OnKey(Key key) {
+void CScientificDlg::OnKey(int key) {
   TakeLine();
-  CarryOut(model_.Press(key));
+  CarryOut(model_.Press(static_cast<Key>(key)));
   Refresh();
-  if (key == Key::Equals) SaveAfterPainting();
+  if (static_cast<Key>(key) == Key::Equals) SaveAfterPainting([this] { model_.Save(); });
 }
 
 void CScientificDlg::TakeLine() {
-  model_.SetLine(TextOf(*line_), SelectionOf(*line_));
+  model_.SetLine(TextOf(Line()), SelectionOf(Line()));
 }
 
 void CScientificDlg::Refresh() {
-  WriteLine(*line_, model_.Line());
-  result_->Show(model_.ResultText());
-  keypad_->Refresh(model_, [this](Key key) { return IsOffered(key); });
-  line_->setFocus();
-}
-
-void CScientificDlg::SaveAfterPainting() {
-  // The disk may be slow: whoever waits for an answer sees it first.
-  line_->repaint();
-  result_->repaint();
-  QTimer::singleShot(0, this, [this] {
-    model_.Save();
-    TheFrame().SaveStore();
+  WriteLine(Line(), model_.Line());
+  Result().Show(model_.ResultText());
+  Keys().Refresh([this](int id) {
+    const Key key = static_cast<Key>(id);
+    return KeyState{model_.Caption(key), model_.IsEnabled(key) && IsOffered(key),
+                    model_.IsVisible(key)};
   });
+  Line().setFocus();
 }
 
 void CScientificDlg::LayOut(const DialogUnits& units) {
-  keypad_->setGeometry(rect());
-  keypad_->LayOut(units);
-  line_->setGeometry(units.Pixels(UnitsOf(kExpressionPlace)));
-  line_->SetTextHeight(qRound(line_->height() * kLineTextHeight));
-  result_->LayOut(units.Pixels(UnitsOf(kResultPlace)));
-}
-
-bool CScientificDlg::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    // Ahead of the line, which would write the "=" and knows Enter and Esc in its own way.
-    const std::optional<Key> key = KeyOf(*static_cast<QKeyEvent*>(event));
-    if (key) OnKey(*key);
-    return key.has_value();
-  }
-  if (event->type() == QEvent::InputMethod &&
-      static_cast<QInputMethodEvent*>(event)->commitString() == u"=") {
-    OnKey(Key::Equals);
-    return true;
-  }
-  // Whoever comes back to the line has done with the result. (From a menu one only returns.)
-  if (event->type() == QEvent::FocusIn && !IsReturn(*static_cast<QFocusEvent*>(event))) {
-    result_->deselect();
-  }
-  return Screen::eventFilter(watched, event);
-}
-
-void CScientificDlg::keyPressEvent(QKeyEvent* event) {
-  if (const std::optional<Key> key = KeyOf(*event)) return OnKey(*key);
-  if (focusWidget() == line_) {
-    if (event->key() == Qt::Key_Down) return keypad_->Enter();
-    return Screen::keyPressEvent(event);
-  }
-  if (!IsForLine(*event)) return Screen::keyPressEvent(event);
-  line_->setFocus();
-  QCoreApplication::sendEvent(line_, event);
+  Keys().setGeometry(rect());
+  Keys().LayOut(units);
+  Line().setGeometry(units.Pixels(UnitsOf(kExpressionPlace)));
+  Line().SetTextHeight(qRound(Line().height() * kLineTextHeight));
+  Result().LayOut(units.Pixels(UnitsOf(kResultPlace)));
 }
 
 void CScientificDlg::CarryOut(const KeyRequest& request) {
@@ -177,18 +122,15 @@ void CScientificDlg::Do(const ShowMemoryMenu&) {
 }
 
 void CScientificDlg::Do(const OpenMacroEditor& request) {
-  if (!request.message.empty()) ShowStop(this, request.message);
-  TheRooms().macroEditor(this);
-  TheFrame().SaveStore();
+  Open(request);
 }
 
-void CScientificDlg::Do(const OpenMacroList&) {
-  if (const std::optional<int> index = TheRooms().macroList(this)) model_.TakeMacro(*index);
+void CScientificDlg::Do(const OpenMacroList& request) {
+  if (const std::optional<int> index = Open(request)) model_.TakeMacro(*index);
 }
 
 void CScientificDlg::Do(const OpenConverter& request) {
-  model_.TakeConverter(TheRooms().converter(this, request.input));
-  TheFrame().SaveStore();
+  model_.TakeConverter(Open(request));
 }
 
 void CScientificDlg::Do(const StoreMemoryVariable& request) {
@@ -196,34 +138,16 @@ void CScientificDlg::Do(const StoreMemoryVariable& request) {
   TheFrame().SaveStore();
 }
 
-void CScientificDlg::Do(const RecallMemoryVariable&) {
-  // Variables may have been cleared in it as well.
-  if (const auto value = TheRooms().recallVariable(this)) model_.TakeVariable(*value);
-  TheFrame().SaveStore();
+void CScientificDlg::Do(const RecallMemoryVariable& request) {
+  if (const auto value = Open(request)) model_.TakeVariable(*value);
 }
 
-void CScientificDlg::Do(const OpenConstants&) {
-  if (const auto value = TheRooms().constants(this)) model_.TakeConstant(*value);
+void CScientificDlg::Do(const OpenConstants& request) {
+  if (const auto value = Open(request)) model_.TakeConstant(*value);
 }
 
 void CScientificDlg::PopUp(const Menu& items, Key key, const std::function<void(int)>& choose) {
-  QMenu* menu = MakePopUp();
-  for (const MenuItem& item : items) {
-    if (item.IsSeparator()) {
-      menu->addSeparator();
-      continue;
-    }
-    connect(menu->addAction(LabelOf(item.text)), &QAction::triggered, this,
-            [this, choose, id = item.id] {
-              choose(id);
-              Refresh();
-            });
-  }
-  const QRect below = keypad_->KeyArea(key);
-  menu->popup(mapToGlobal(QPoint(below.left(), below.bottom() + 1)));
-  // How wide it is, is known from now on.
-  const int beyond = menu->geometry().right() - mapToGlobal(rect().bottomRight()).x();
-  if (beyond > 0) menu->move(menu->x() - beyond, menu->y());
+  LineScreen::PopUp(items, static_cast<int>(key), choose);
 }
 
 bool CScientificDlg::IsOffered(Key key) const {
@@ -232,34 +156,18 @@ bool CScientificDlg::IsOffered(Key key) const {
 }
 
 Menu CScientificDlg::OfferedMemoryMenu() const {
-  std::vector<int> missing;
-  if (!TheRooms().recallVariable) missing.push_back(memory_item::kRecallVariable);
-  if (!TheRooms().storeVariable) missing.push_back(memory_item::kStoreVariable);
-  if (!TheRooms().constants) missing.push_back(memory_item::kConstants);
-  return Without(model_.MemoryMenu(), missing);
-}
-
-std::function<void()> CScientificDlg::Opening(const std::function<void(QWidget*)>& open) {
-  if (!open) return nullptr;
-  return [this, open] {
-    TakeLine();
-    open(this);
-    Refresh();
-    TheFrame().SaveStore();
-  };
-}
-
-void CScientificDlg::AddMenus() {
-  const Rooms& rooms = TheRooms();
-  std::function<void(QWidget*)> config;
-  if (rooms.displaySettings) {
-    config = [this](QWidget* parent) {
-      if (TheRooms().displaySettings(parent)) model_.TakeDisplaySettings();
-    };
-  }
-  AddFileMenu({Opening(config), Opening(rooms.unitEditor), Opening(rooms.macroEditor)});
-  AddEditMenu([this]() -> QLineEdit* { return result_->hasSelectedText() ? result_ : line_; });
-  AddModeMenu(ScreenMode::Scientific);
+  return OfferedOf(model_.MemoryMenu(), [&rooms = TheRooms()](int id) {
+    switch (id) {
+      case memory_item::kRecallVariable:
+        return static_cast<bool>(rooms.recallVariable);
+      case memory_item::kStoreVariable:
+        return static_cast<bool>(rooms.storeVariable);
+      case memory_item::kConstants:
+        return static_cast<bool>(rooms.constants);
+      default:
+        return true;
+    }
+  });
 }
 
 std::unique_ptr<QWidget> MakeScientificScreen(Frame& frame) {

@@ -3,49 +3,28 @@
 #include <utility>
 
 #include "common/number_text.h"
-#include "macros/macro_expansion.h"
-#include "macros/macros_texts.h"
+#include "scientific/macro_call.h"
 #include "scientific/scientific_texts.h"
 #include "scientific/shown_number.h"
 #include "settings/keys.h"
 
 namespace kav {
-namespace {
-
-/// The places for the arguments that a call of a macro leaves behind its first one.
-std::u16string_view ArgumentPlaces(VariableType type) {
-  switch (type) {
-    case VariableType::X:
-      return u" )";
-    case VariableType::XY:
-      return u" , )";
-    case VariableType::XYZ:
-      break;
-  }
-  return u" , , )";
-}
-
-}  // namespace
-
 ScientificModel::ScientificModel(SettingsStore& store)
     : store_(store),
       macros_(store),
       modes_{AngleUnitFromSetting(store.Get(kAngleType)),
              BaseModeFromSetting(store.Get(kBaseType))},
       format_(LoadDisplayFormat(store)),
-      positions_{store.Get(kConverterClass), store.Get(kConverterInput),
-                 store.Get(kConverterOutput)},
-      history_(History::Load(store)) {
+      converter_(store),
+      history_(History::Load(store, kCalculatorHistory)) {
   ShowAnswer();
 }
 
 void ScientificModel::Save() const {
   store_.Set(kAngleType, static_cast<std::int32_t>(modes_.angleUnit));
   store_.Set(kBaseType, static_cast<std::int32_t>(modes_.baseMode));
-  store_.Set(kConverterClass, positions_.category);
-  store_.Set(kConverterInput, positions_.input);
-  store_.Set(kConverterOutput, positions_.output);
-  history_.Save(store_);
+  converter_.Save(store_);
+  history_.Save(store_, kCalculatorHistory);
 }
 
 void ScientificModel::SetLine(std::u16string text, Selection selection) {
@@ -53,9 +32,7 @@ void ScientificModel::SetLine(std::u16string text, Selection selection) {
 }
 
 std::u16string_view ScientificModel::Caption(Key key) const {
-  if (key == Key::Deg) {
-    return modes_.angleUnit == AngleUnit::Degrees ? kDegreesCaption : kRadiansCaption;
-  }
+  if (key == Key::Deg) return AngleCaption(modes_.angleUnit);
   if (key == Key::Dec) return BaseCaption(modes_.baseMode);
   return FaceShown(key, modes_.baseMode, shift_).caption;
 }
@@ -86,7 +63,8 @@ KeyRequest ScientificModel::Press(Key key) {
     case Key::MemoryMenu:
       return ShowMemoryMenu{};
     case Key::Macro:
-      return MacroRequest();
+      return std::visit([](auto request) -> KeyRequest { return request; },
+                        RequestMacro(store_, macros_));
     case Key::Converter:
       return ConverterRequest();
     default:
@@ -98,8 +76,7 @@ KeyRequest ScientificModel::Press(Key key) {
 void ScientificModel::Change(Key key) {
   switch (key) {
     case Key::Deg:
-      modes_.angleUnit =
-          modes_.angleUnit == AngleUnit::Degrees ? AngleUnit::Radians : AngleUnit::Degrees;
+      modes_.angleUnit = OtherAngleUnit(modes_.angleUnit);
       return;
     case Key::Shift:
       shift_ = ShiftState::On;
@@ -121,15 +98,8 @@ void ScientificModel::Change(Key key) {
   }
 }
 
-KeyRequest ScientificModel::MacroRequest() {
-  // Another program may have stored the first one.
-  store_.Refresh();
-  if (macros_.Count() == 0) return OpenMacroEditor{kNoMacroStored};
-  return OpenMacroList{};
-}
-
 KeyRequest ScientificModel::ConverterRequest() const {
-  std::u16string value = u"1";
+  std::u16string value(kValueToConvert);
   // Where the last "=" failed, the answer is 0 as well.
   if (lastAnswer_ != 0) {
     DisplayFormat format = format_;
@@ -137,15 +107,12 @@ KeyRequest ScientificModel::ConverterRequest() const {
     if (format.type == DisplayType::Thousands) format.type = DisplayType::FloatingPoint;
     value = ShownNumber(lastAnswer_, format, modes_.baseMode);
   }
-  return OpenConverter{{std::move(value), positions_, memory_}};
+  return converter_.Request(std::move(value));
 }
 
 void ScientificModel::Evaluate() {
   expression_ = line_.Text();
-  const std::string line = Narrow(expression_);
-  // A macro that another program stored a moment ago is there to be called.
-  if (HoldsMacroCall(line)) store_.Refresh();
-  const auto value = EvaluateLine(line, modes_, macros_);
+  const auto value = EvaluateTypedLine(expression_, modes_, store_, macros_);
   if (value) {
     Answer(*value);
   } else {
@@ -205,16 +172,16 @@ KeyRequest ScientificModel::ChooseMemory(int id) {
   if (!Offers(MemoryMenu(), id)) return Nothing{};
   switch (id) {
     case memory_item::kAdd:
-      memory_ = lastAnswer_ + memory_;
+      converter_.memory = lastAnswer_ + converter_.memory;
       break;
     case memory_item::kSubtract:
-      memory_ = memory_ - lastAnswer_;
+      converter_.memory = converter_.memory - lastAnswer_;
       break;
     case memory_item::kRecall:
-      Insert(memory_);
+      Insert(converter_.memory);
       break;
     case memory_item::kClear:
-      memory_ = 0;
+      converter_.memory = 0;
       break;
     case memory_item::kRecallVariable:
       return RecallMemoryVariable{};
@@ -230,16 +197,11 @@ KeyRequest ScientificModel::ChooseMemory(int id) {
 }
 
 void ScientificModel::TakeConverter(const ConverterOutcome& outcome) {
-  if (outcome.result) line_.InsertText(*outcome.result);
-  positions_ = outcome.positions;
-  memory_ = outcome.memory;
+  converter_.Take(outcome, line_);
 }
 
 void ScientificModel::TakeMacro(int index) {
-  if (index < 0 || index >= macros_.Count()) return;
-  const Macro& macro = macros_.At(index);
-  const std::u16string prefix = u"M:" + Widen(macro.name) + u"(";
-  line_.WrapSelection(prefix, ArgumentPlaces(macro.type), prefix.size() - 1);
+  WriteMacroCall(index, macros_, line_);
 }
 
 void ScientificModel::TakeVariable(std::u16string_view value) {

@@ -9,6 +9,7 @@
 #include "engine/number_format.h"
 #include "macros/line_evaluator.h"
 #include "macros/macro_store.h"
+#include "scientific/converter_link.h"
 #include "scientific/expression_line.h"
 #include "scientific/history.h"
 #include "scientific/key_request.h"
@@ -67,7 +68,7 @@ class ScientificModel {
   BaseMode Base() const { return modes_.baseMode; }
   ShiftState Shift() const { return shift_; }
   double LastAnswer() const { return lastAnswer_; }
-  double Memory() const { return memory_; }
+  double Memory() const { return converter_.memory; }
   const History& PastLines() const { return history_; }
   /// The message of the last "="; empty where it had an answer, and before the first.
   const std::u16string& ErrorText() const { return errorText_; }
@@ -81,14 +82,13 @@ class ScientificModel {
   void Fail(const LineFailure& failure);
   void ShowAnswer();
   void Insert(double value);
-  KeyRequest MacroRequest();
   KeyRequest ConverterRequest() const;
 
   SettingsStore& store_;
   MacroStore macros_;
   CalcModes modes_;
   DisplayFormat format_;
-  ConverterPositions positions_;
+  ConverterLink converter_;
   History history_;
   ExpressionLine line_;
   ShiftState shift_ = ShiftState::Off;
@@ -97,7 +97,6 @@ class ScientificModel {
   std::u16string resultText_;
   bool showsAnswer_ = true;
   double lastAnswer_ = 0;
-  double memory_ = 0;
 };
 
 }  // namespace kav

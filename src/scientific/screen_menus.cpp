@@ -76,6 +76,10 @@ std::u16string_view BaseCaption(BaseMode base) {
   return kDecimalCaption;
 }
 
+std::u16string_view AngleCaption(AngleUnit unit) {
+  return unit == AngleUnit::Degrees ? kDegreesCaption : kRadiansCaption;
+}
+
 Menu BuildMemoryMenu(std::u16string_view errorText) {
   Menu menu;
   for (const MemoryChoice& choice : kMemoryChoices) {

@@ -41,6 +41,9 @@ std::optional<BaseMode> BaseOfItem(int id);
 /// The short name of `base`, as the base key shows it.
 std::u16string_view BaseCaption(BaseMode base);
 
+/// The short name of `unit`, as the angle key shows it.
+std::u16string_view AngleCaption(AngleUnit unit);
+
 /// The memory menu. What works on the answer is offered only where `errorText` is empty.
 Menu BuildMemoryMenu(std::u16string_view errorText);
 

@@ -39,6 +39,12 @@ inline NumberedKey CalHistoryEntry(int number) {
   return {"History", "CalHistory" + std::to_string(number), ""};
 }
 
+// The matrix screen's history: a count, then entries numbered from 0, the newest last.
+inline constexpr IntegerKey kCalMHistoryCount{"MHistory", "CalMHistoryCount", 0};
+inline NumberedKey CalMHistoryEntry(int number) {
+  return {"MHistory", "CalMHistory" + std::to_string(number), ""};
+}
+
 // The unit converter's choices: positions in its lists, -1 for none.
 inline constexpr IntegerKey kConverterClass{"Convert", "ClassPos", -1};
 inline constexpr IntegerKey kConverterInput{"Convert", "InputTypePos", -1};

@@ -5,37 +5,13 @@
 #include <string_view>
 
 #include "common/number_text.h"
-#include "settings/file_error.h"
+#include "settings/file_error_texts.h"
 
 namespace kav {
 
 inline constexpr std::u16string_view kNoPlaceForSettings =
     u"The settings cannot be saved: this user has no home folder. Set HOME or XDG_CONFIG_HOME to a "
     u"folder to keep them in.";
-
-/// A clause that goes on after "...: " and ends without a point.
-inline std::u16string_view ReasonAndRemedy(FileError error) {
-  switch (error) {
-    case FileError::NotThere:
-    case FileError::BadPath:
-      return u"a folder on the way there is missing and cannot be made; check the path";
-    case FileError::NotAFile:
-      return u"a folder or a device has this name; move it away or choose another file";
-    case FileError::TooLarge:
-      return u"they would be too large to be read again; delete what is not needed";
-    case FileError::Busy:
-      return u"another program keeps them locked; close other copies of the calculator";
-    case FileError::NoPermission:
-      return u"there is no permission; check who owns the file and its folder, and who may write";
-    case FileError::ReadOnly:
-      return u"the disk is read-only; make it writable or choose another place";
-    case FileError::Full:
-      return u"the disk is full or its quota is used up; free some space";
-    case FileError::Device:
-      break;
-  }
-  return u"the disk reports an error; check the disk";
-}
 
 inline std::u16string SettingsAreDamaged(std::string_view path) {
   return u"The settings in " + Widen(path) +

@@ -23,7 +23,7 @@ History OfNumbers(int first, int last) {
 
 TEST(History, FreshHistoryIsEmpty) {
   const MemorySettingsStore store;
-  const History history = History::Load(store);
+  const History history = History::Load(store, kCalculatorHistory);
   EXPECT_TRUE(history.IsEmpty());
   EXPECT_FALSE(history.NewestIs(u""));
 }
@@ -71,7 +71,7 @@ TEST(History, StoredCountIsHeldBetweenZeroAndTwenty) {
                          Row{2147483647, 20}, Row{-1, 0}, Row{-2147483647 - 1, 0}}) {
     MemorySettingsStore store;
     store.Set(kCount, row.stored);
-    EXPECT_EQ(History::Load(store).Entries().size(), row.loaded) << row.stored;
+    EXPECT_EQ(History::Load(store, kCalculatorHistory).Entries().size(), row.loaded) << row.stored;
   }
 }
 
@@ -79,7 +79,7 @@ TEST(History, CountOfThirtyFiveLoadsTheFirstTwentyEntries) {
   MemorySettingsStore store;
   store.Set(kCount, 35);
   for (int number = 1; number <= 35; ++number) store.Set(Entry(number), std::to_string(number));
-  const History history = History::Load(store);
+  const History history = History::Load(store, kCalculatorHistory);
   EXPECT_EQ(history.Entries(), OfNumbers(1, 20).Entries());
 }
 
@@ -87,18 +87,46 @@ TEST(History, MissingEntriesLoadAsEmptyTexts) {
   MemorySettingsStore store;
   store.Set(kCount, 3);
   store.Set(Entry(2), "1+1");
-  EXPECT_EQ(History::Load(store).Entries(), (std::vector<std::u16string>{u"", u"1+1", u""}));
+  EXPECT_EQ(History::Load(store, kCalculatorHistory).Entries(),
+            (std::vector<std::u16string>{u"", u"1+1", u""}));
 }
 
 TEST(History, SavedEntriesAreNumberedFromOneTheNewestLast) {
   MemorySettingsStore store;
-  OfNumbers(7, 9).Save(store);
+  OfNumbers(7, 9).Save(store, kCalculatorHistory);
   EXPECT_EQ(store.Get(kCount), 3);
   EXPECT_EQ(store.Get(Entry(1)), "7");
   EXPECT_EQ(store.Get(Entry(2)), "8");
   EXPECT_EQ(store.Get(Entry(3)), "9");
   EXPECT_FALSE(store.Holds("History", "CalHistory0"));
   EXPECT_FALSE(store.Holds("History", "CalHistory4"));
+}
+
+TEST(History, MatrixEntriesAreNumberedFromZeroInASectionOfTheirOwn) {
+  MemorySettingsStore store;
+  OfNumbers(7, 9).Save(store, kMatrixHistory);
+  EXPECT_EQ(store.Get(IntegerKey{"MHistory", "CalMHistoryCount", -1}), 3);
+  EXPECT_EQ(store.Get(NumberedKey{"MHistory", "CalMHistory0", ""}), "7");
+  EXPECT_EQ(store.Get(NumberedKey{"MHistory", "CalMHistory1", ""}), "8");
+  EXPECT_EQ(store.Get(NumberedKey{"MHistory", "CalMHistory2", ""}), "9");
+  EXPECT_FALSE(store.Holds("MHistory", "CalMHistory3"));
+  EXPECT_FALSE(store.Holds("History", "CalHistoryCount"));
+  EXPECT_EQ(History::Load(store, kMatrixHistory).Entries(),
+            (std::vector<std::u16string>{u"7", u"8", u"9"}));
+  EXPECT_TRUE(History::Load(store, kCalculatorHistory).IsEmpty());
+}
+
+TEST(History, StoredMatrixCountOfThirtyFiveLoadsTheFirstTwentyEntries) {
+  MemorySettingsStore store;
+  store.Set(IntegerKey{"MHistory", "CalMHistoryCount", 0}, 35);
+  for (int number = 0; number < 35; ++number) {
+    const std::string text = std::to_string(number);
+    store.Set(NumberedKey{"MHistory", "CalMHistory" + text, ""}, text);
+  }
+  const History history = History::Load(store, kMatrixHistory);
+  ASSERT_EQ(history.Entries().size(), 20U);
+  EXPECT_EQ(history.Entries().front(), u"0");
+  EXPECT_EQ(history.Entries().back(), u"19");
 }
 
 TEST(History, AnyTextComesBackAsItWas) {
@@ -108,8 +136,8 @@ TEST(History, AnyTextComesBackAsItWas) {
                                           u"\"a;b#c\"", std::u16string(100000, u'1')};
   for (const auto& text : texts) history.Add(text);
   MemorySettingsStore store;
-  history.Save(store);
-  EXPECT_EQ(History::Load(store).Entries(), texts);
+  history.Save(store, kCalculatorHistory);
+  EXPECT_EQ(History::Load(store, kCalculatorHistory).Entries(), texts);
 }
 
 TEST(History, AnswerEntriesCarryTheirBase) {

@@ -18,7 +18,7 @@ TEST(ScreenMenus, HistoryMenuShowsTheNewestOnTop) {
 TEST(ScreenMenus, EmptyEntryOfTheHistoryIsNoSeparator) {
   MemorySettingsStore store;
   store.Set(SettingKey<std::int32_t>{"History", "CalHistoryCount", 0}, 1);
-  const Menu menu = BuildHistoryMenu(History::Load(store));
+  const Menu menu = BuildHistoryMenu(History::Load(store, kCalculatorHistory));
   ASSERT_EQ(menu.size(), 1U);
   EXPECT_FALSE(menu[0].IsSeparator());
   EXPECT_TRUE(Offers(menu, 1));
@@ -43,6 +43,11 @@ TEST(ScreenMenus, BasesHaveShortNames) {
   EXPECT_EQ(BaseCaption(BaseMode::Hexadecimal), u"HEX");
   EXPECT_EQ(BaseCaption(BaseMode::Binary), u"BIN");
   EXPECT_EQ(BaseCaption(BaseMode::Octal), u"OCT");
+}
+
+TEST(ScreenMenus, AngleUnitsHaveShortNames) {
+  EXPECT_EQ(AngleCaption(AngleUnit::Degrees), u"DEG");
+  EXPECT_EQ(AngleCaption(AngleUnit::Radians), u"RAD");
 }
 
 TEST(ScreenMenus, MemoryMenuOffersAllAfterAnAnswer) {

@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "app/frame.h"
-#include "scientific/line_view.h"
+#include "app/line_view.h"
 #include "scientific/scientific_dlg.h"
 #include "settings/settings_store.h"
 #include "support/marked_line.h"

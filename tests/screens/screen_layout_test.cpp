@@ -1,56 +1,20 @@
 // How the scientific screen looks: places, sizes, captions and colours at every size of window.
 #include <gtest/gtest.h>
 
-#include <QFontMetricsF>
 #include <set>
 
-#include "scientific/key_view.h"
-#include "screens/screen_driver.h"
+#include "screens/screen_layout.h"
 
 namespace kav::test {
 namespace {
 
-constexpr QSize kSizes[] = {{240, 320}, {480, 640}, {1080, 1440}};
-
 class ScreenLayoutTest : public ScientificScreen {
  protected:
-  void Resize(QSize size) {
-    dlg_->resize(size);
-    QCoreApplication::processEvents();
-    ASSERT_EQ(dlg_->size(), size);
-  }
-  /// The place of a widget on the screen.
-  QRect AreaOf(const QWidget& widget) {
-    return {widget.mapTo(dlg_.get(), QPoint(0, 0)), widget.size()};
-  }
-  std::vector<KeyView*> VisibleKeys() {
-    std::vector<KeyView*> keys;
-    for (auto* button : dlg_->findChildren<QAbstractButton*>()) {
-      auto* key = dynamic_cast<KeyView*>(button);
-      if (key != nullptr && key->isVisible()) keys.push_back(key);
-    }
-    return keys;
-  }
-  void ExpectEveryCaptionFits() {
-    for (const KeyView* key : VisibleKeys()) {
-      const QFontMetricsF metrics(key->TextFont());
-      const std::string name = key->text().toStdString();
-      EXPECT_LT(metrics.horizontalAdvance(key->text()), key->width() - 2) << name;
-      EXPECT_LT(metrics.tightBoundingRect(key->text()).height(), key->height() - 2) << name;
-      EXPECT_GE(key->TextFont().pixelSize(), key->height() / 3) << name << " is too small to read";
-    }
-  }
-  void ExpectNothingOverlaps() {
-    std::vector<const QWidget*> widgets{&Expression(*dlg_), &Result(*dlg_),
-                                        dlg_->findChild<QMenuBar*>()};
-    for (const KeyView* key : VisibleKeys()) widgets.push_back(key);
-    for (const QWidget* a : widgets) {
-      EXPECT_TRUE(dlg_->rect().contains(AreaOf(*a)));
-      for (const QWidget* b : widgets) {
-        EXPECT_TRUE(a == b || !AreaOf(*a).intersects(AreaOf(*b)));
-      }
-    }
-  }
+  void Resize(QSize size) { ResizeScreen(*dlg_, size); }
+  QRect AreaOf(const QWidget& widget) { return AreaOn(*dlg_, widget); }
+  std::vector<KeyView*> VisibleKeys() { return test::VisibleKeys(*dlg_); }
+  void ExpectEveryCaptionFits() { test::ExpectEveryCaptionFits(*dlg_); }
+  void ExpectNothingOverlaps() { test::ExpectNothingOverlaps(*dlg_); }
   void Choose(std::u16string_view now, std::u16string_view base) {
     Tap(now);
     test::Choose(base);
@@ -58,7 +22,7 @@ class ScreenLayoutTest : public ScientificScreen {
 };
 
 TEST_F(ScreenLayoutTest, NoCaptionIsCutInAnyBaseWithShiftOnOrOffAtAnySize) {
-  for (const QSize size : kSizes) {
+  for (const QSize size : kScreenSizes) {
     SCOPED_TRACE(size.width());
     Resize(size);
     ExpectEveryCaptionFits();
@@ -76,7 +40,7 @@ TEST_F(ScreenLayoutTest, NoCaptionIsCutInAnyBaseWithShiftOnOrOffAtAnySize) {
 }
 
 TEST_F(ScreenLayoutTest, NoCaptionIsCutInAnOddWindowEither) {
-  for (const QSize size : {QSize(180, 240), QSize(180, 700), QSize(1600, 300), QSize(241, 333)}) {
+  for (const QSize size : kOddSizes) {
     SCOPED_TRACE(size.width());
     Resize(size);
     ExpectEveryCaptionFits();
@@ -85,7 +49,7 @@ TEST_F(ScreenLayoutTest, NoCaptionIsCutInAnOddWindowEither) {
 }
 
 TEST_F(ScreenLayoutTest, NothingOverlapsAtAnySize) {
-  for (const QSize size : kSizes) {
+  for (const QSize size : kScreenSizes) {
     SCOPED_TRACE(size.width());
     Resize(size);
     ExpectNothingOverlaps();
@@ -97,7 +61,7 @@ TEST_F(ScreenLayoutTest, NothingOverlapsAtAnySize) {
 
 TEST_F(ScreenLayoutTest, AllCaptionsAreOfOneSizeThatGrowsWithTheWindow) {
   int before = 0;
-  for (const QSize size : kSizes) {
+  for (const QSize size : kScreenSizes) {
     Resize(size);
     std::set<int> sizes;
     for (const KeyView* key : VisibleKeys()) sizes.insert(key->TextFont().pixelSize());
@@ -138,7 +102,7 @@ TEST_F(ScreenLayoutTest, KeysStandInTheRowsAndColumnsOfTheKeypad) {
 }
 
 TEST_F(ScreenLayoutTest, TheMenuBarStandsAtTheBottom) {
-  for (const QSize size : kSizes) {
+  for (const QSize size : kScreenSizes) {
     Resize(size);
     const QRect bar = AreaOf(*dlg_->findChild<QMenuBar*>());
     EXPECT_EQ(bar.bottom(), dlg_->rect().bottom());

@@ -24,7 +24,7 @@ class ScreenRoomsTest : public ScientificScreen {
 
 Rooms AllFakeRooms() {
   Rooms rooms;
-  rooms.displaySettings = [](QWidget*) { return false; };
+  rooms.displaySettings = [](QWidget*, DisplayPage) { return false; };
   rooms.unitEditor = [](QWidget*) {};
   rooms.macroEditor = [](QWidget*) {};
   rooms.macroList = [](QWidget*) { return std::optional<int>(); };
@@ -194,7 +194,7 @@ TEST_F(ScreenRoomsTest, ConstantsAreInsertedAsTheyStand) {
 TEST_F(ScreenRoomsTest, ConfigClosedWithOkShowsTheAnswerInTheNewFormat) {
   bool isOk = false;
   frame_.rooms = AllFakeRooms();
-  frame_.rooms.displaySettings = [&](QWidget*) {
+  frame_.rooms.displaySettings = [&](QWidget*, DisplayPage) {
     frame_.store.Set(kDisplayType, 1);
     frame_.store.Set(kPrecision, 2);
     return isOk;

@@ -1,10 +1,11 @@
-#include "scientific/line_view.h"
+#include "app/line_view.h"
 
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
 
 #include "app/look.h"
+#include "app/qt_text.h"
 #include "common/number_text.h"
 
 namespace kav {
@@ -104,7 +105,7 @@ void WriteLine(QLineEdit& widget, const ExpressionLine& line) {
     // Undo joins insertions that follow one another as long as the caret does not move between.
     widget.home(false);
     widget.setSelection(static_cast<int>(change.start), static_cast<int>(change.length));
-    widget.insert(QStringView(change.text).toString());
+    widget.insert(ToQt(change.text));
   }
   const auto start = static_cast<int>(line.Selected().start);
   const auto end = static_cast<int>(line.Selected().end);

@@ -1,19 +1,32 @@
-// One key of the keypad as a widget.
+// One key of a screen as a widget.
 #pragma once
 
 #include <QAbstractButton>
+#include <QRect>
+#include <string_view>
+#include <vector>
 
 #include "scientific/keypad.h"
 
 namespace kav {
 
+/// What a key is, whatever it shows at the moment.
+struct KeySpot {
+  int id;       ///< its owner's name for it
+  QRect place;  ///< in dialog units
+  KeyColour colour;
+  std::vector<std::u16string_view> captions;  ///< all that it may ever show
+  const char* shortcut = nullptr;             ///< such as "Alt+D"; null for none
+  std::u16string_view description = {};       ///< for screen readers, beside its caption
+};
+
 /// A button painted in the colours of its key: what it does and how it is called is up to its
 /// owner. It takes the focus by the Tab key only, so that a tap leaves the caret where it is.
 class KeyView final : public QAbstractButton {
  public:
-  KeyView(const KeyPlace& place, QWidget* parent);
+  KeyView(KeySpot spot, QWidget* parent);
 
-  const KeyPlace& Place() const { return place_; }
+  const KeySpot& Spot() const { return spot_; }
 
   /// Captions are written `pixels` high.
   void SetTextHeight(int pixels);
@@ -25,10 +38,8 @@ class KeyView final : public QAbstractButton {
  private:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  QColor Background() const;
-  QColor TextColour() const;
 
-  const KeyPlace& place_;
+  KeySpot spot_;
   int textHeight_ = 1;
 };
 

@@ -1,7 +1,8 @@
-#include "scientific/key_view.h"
+#include "app/key_view.h"
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <utility>
 
 #include "app/key_painter.h"
 #include "app/look.h"
@@ -43,7 +44,7 @@ KeyColours ColoursOf(KeyColour colour) {
 
 }  // namespace
 
-KeyView::KeyView(const KeyPlace& place, QWidget* parent) : QAbstractButton(parent), place_(place) {
+KeyView::KeyView(KeySpot spot, QWidget* parent) : QAbstractButton(parent), spot_(std::move(spot)) {
   setFocusPolicy(Qt::TabFocus);
   setAttribute(Qt::WA_Hover);
 }
@@ -61,21 +62,13 @@ QFont KeyView::TextFont() const {
   return ScreenFont(textHeight_);
 }
 
-QColor KeyView::Background() const {
-  return ColoursNow(*this, ColoursOf(place_.colour)).background;
-}
-
-QColor KeyView::TextColour() const {
-  return ColoursNow(*this, ColoursOf(place_.colour)).text;
-}
-
 void KeyView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  PaintKey(painter, *this, ColoursOf(place_.colour), TextFont());
+  PaintKey(painter, *this, ColoursOf(spot_.colour), TextFont());
 }
 
 void KeyView::keyPressEvent(QKeyEvent* event) {
-  // Space presses the key. All else, arrows and Enter included, is for the keypad or the screen.
+  // Space presses the key. All else, arrows and Enter included, is for the sheet or the screen.
   if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Select) {
     QAbstractButton::keyPressEvent(event);
   } else {
