@@ -10,6 +10,7 @@
 #include "cli/help_texts.h"
 #include "cli/keys_command.h"
 #include "cli/macro_command.h"
+#include "cli/matrix_command.h"
 #include "cli/memory_command.h"
 
 namespace kav {
@@ -22,6 +23,8 @@ constexpr std::array kCommands{
             kCheckDetails, RunCheck},
     Command{"format", "format [OPTION]... [--] [NUMBER]...",
             "write numbers as the calculator shows them", kFormatDetails, RunFormat},
+    Command{"matrix", "matrix [OPTION]... [--] [EXPRESSION]...", "evaluate matrix expressions",
+            kMatrixDetails, RunMatrix},
     Command{"convert", "convert [OPTION]... [--] CATEGORY FROM [TO] [VALUE]...",
             "convert values to other units", kConvertDetails, RunConvert},
     Command{"keys", "keys [OPTION]... [--] [KEY]...", "press keys of the scientific screen",

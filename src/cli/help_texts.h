@@ -9,10 +9,10 @@ inline constexpr std::string_view kProgramSummary = "The calculator on the comma
 
 inline constexpr std::string_view kItemsHelp =
     R"text(The items are the arguments or, without any, the lines of standard input. Each
-gets one line on standard output; where an item fails, that line is "error: "
-and the reason. "--" ends the options. An argument that begins with "-" and a
-digit, "." or "(" is an item; one that begins with "-" and a letter is one only
-behind "--": kavcalc -- '-sin(30)'
+gets one line on standard output, a matrix more; where an item fails, its line
+is "error: " and the reason. "--" ends the options. An argument that begins with
+"-" and a digit, "." or "(" is an item; one that begins with "-" and a letter is
+one only behind "--": kavcalc -- '-sin(30)'
 
 Exit status: 0 everything was answered, 1 something failed, 2 the arguments were
 unusable.)text";
@@ -39,6 +39,22 @@ inline constexpr std::string_view kFormatDetails =
 
   kavcalc format --display thousands 1234567      1,234,567
   kavcalc format --base hex 255                   FF)text";
+
+inline constexpr std::string_view kMatrixDetails =
+    R"text(Evaluates each expression over the matrices [M1], [M2], [M3] and [M Ans] just as
+"=" does it on the matrix screen. The answer is the matrix as a matrix file holds
+it, and is [M Ans] for the expressions that follow. An expression without
+matrices and their functions is a number expression and gets one line.
+
+  operators    + - * ^
+  functions    inverse(A) transpose(A) determinant(A) triangular(A)
+               linearequation(A,B)
+
+A matrix file holds "[ROWS*COLUMNS]" and then a line for each row, with a tab
+between two cells:
+
+  printf '[2*2]\r\n2\t1\r\n1\t1\r\n' >a.txt
+  kavcalc matrix --m1 a.txt 'inverse([M1])' '[M1]*[M Ans]' 1+1)text";
 
 inline constexpr std::string_view kConvertDetails =
     R"text(Converts each value from the unit FROM to the unit TO. CATEGORY is the number or

@@ -63,6 +63,13 @@ bool TakeList(std::string_view, std::string_view, Options& options) {
   return options.listsUnits = true;
 }
 
+/// For the file of the matrix kSlot.
+template <std::size_t kSlot>
+bool TakeMatrixFile(std::string_view, std::string_view given, Options& options) {
+  options.matrixFiles[kSlot] = given;
+  return !given.empty();
+}
+
 static_assert(DisplayFormat::kMaxPrecision == 99, "the help names the limit");
 constexpr std::array kOptions{
     OptionRow{"--angle", "deg|rad", R"(angle unit [the stored "Angle Type"])", "", TakeAngle},
@@ -78,6 +85,11 @@ constexpr std::array kOptions{
               TakeVariables},
     OptionRow{"--steps", "", "show the order of the calculation", "check", TakeSteps},
     OptionRow{"--list", "", "list the units of the category, or of all", "convert", TakeList},
+    OptionRow{"--m1", "FILE", "the matrix file that [M1] is loaded from", "matrix",
+              TakeMatrixFile<0>},
+    OptionRow{"--m2", "FILE", "the same for [M2]", "matrix", TakeMatrixFile<1>},
+    OptionRow{"--m3", "FILE", "the same for [M3]", "matrix", TakeMatrixFile<2>},
+    OptionRow{"--ans", "FILE", "the same for [M Ans]", "matrix", TakeMatrixFile<kAnswerMatrix>},
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 // What kavcalc is asked to do: the command, its options and its items.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string>
@@ -11,6 +12,7 @@
 #include "engine/calc_modes.h"
 #include "engine/number_format.h"
 #include "engine/tokenizer.h"
+#include "matrix/matrix_value.h"
 
 namespace kav {
 
@@ -26,6 +28,7 @@ struct Options {
   VariableType variables = VariableType::X;
   bool showsSteps = false;
   bool listsUnits = false;
+  std::array<std::string, kMatrixCount> matrixFiles;  ///< empty where there is none
 };
 
 /// A command line that can be carried out. `items` are what the command works on, in order; with

@@ -1,0 +1,86 @@
+#include "cli/matrix_command.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "cli/evaluation.h"
+#include "cli/items.h"
+#include "cli/usage.h"
+#include "common/expected.h"
+#include "common/number_text.h"
+#include "matrix/matrix_evaluator.h"
+#include "matrix/matrix_file.h"
+#include "matrix/matrix_line.h"
+#include "matrix/matrix_text.h"
+#include "matrix/matrix_texts.h"
+#include "settings/keys.h"
+
+namespace kav {
+namespace {
+
+/// No expression may name a matrix with an empty cell, so that the size of this one never shows and
+/// the settings need not be asked for theirs.
+MatrixValue EmptyMatrix() {
+  MatrixValue matrix;
+  matrix.rows = kMatrixRows.fallback;
+  matrix.columns = kMatrixColumns.fallback;
+  return matrix;
+}
+
+/// The matrices that the options name files for, or why there are none.
+Expected<Matrices, std::string> LoadMatrices(const Options& options) {
+  Matrices matrices;
+  for (std::size_t i = 0; i < matrices.size(); ++i) {
+    const std::string& path = options.matrixFiles[i];
+    auto loaded = path.empty() ? EmptyMatrix() : LoadMatrixFile(path);
+    if (!loaded) return Narrow(MatrixFileIsInvalid(Widen(path)));
+    matrices[i] = *std::move(loaded);
+  }
+  return matrices;
+}
+
+/// Answers items, each over the matrices that the ones before have left.
+class MatrixSession {
+ public:
+  MatrixSession(const Options& options, Matrices matrices, AnswerWriter& answers)
+      : matrices_(std::move(matrices)), answers_(answers), evaluation_(options) {}
+
+  void Answer(std::string_view item) {
+    const std::u16string line = Widen(item);
+    if (!IsMatrixExpression(line)) return evaluation_.Answer(item, answers_);
+    if (const auto invalid = FirstInvalidMatrix(line, matrices_)) {
+      return answers_.Fail(Narrow(MatrixIsInvalid(*invalid)));
+    }
+    auto result = MatrixEvaluator(matrices_, files_).Evaluate(item);
+    if (!result) return answers_.Fail(result.error().message);
+    AnswerMatrix(*result);
+    matrices_[kAnswerMatrix] = *std::move(result);
+  }
+
+ private:
+  void AnswerMatrix(const MatrixValue& matrix) {
+    answers_.Text() += PrintMatrix(matrix);
+    answers_.Text().pop_back();  // The end of an answer brings it back.
+    answers_.End();
+  }
+
+  Matrices matrices_;
+  AnswerWriter& answers_;
+  Evaluation evaluation_;
+  TemporaryMatrices files_;
+};
+
+}  // namespace
+
+int RunMatrix(const CommandLine& line) {
+  auto matrices = LoadMatrices(line.options);
+  if (!matrices) return Complain(matrices.error(), *line.command);
+  AnswerWriter answers;
+  MatrixSession session(line.options, *std::move(matrices), answers);
+  ForEachItem(line.items, kLongestExpression, answers,
+              [&](std::string_view item) { session.Answer(item); });
+  return answers.Finish();
+}
+
+}  // namespace kav

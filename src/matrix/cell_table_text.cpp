@@ -1,0 +1,133 @@
+#include "matrix/cell_table_text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "common/number_text.h"
+#include "engine/number_input.h"
+#include "matrix/matrix_edits.h"
+
+namespace kav {
+namespace {
+
+// The digits of the smallest double, written in full, are somewhat fewer.
+constexpr std::size_t kLongestNumber = 1100;
+
+constexpr char16_t kTab = u'\t';
+constexpr char16_t kComma = u',';
+constexpr char16_t kBlank = u' ';
+
+char16_t SeparatorOf(std::u16string_view text) {
+  for (const char16_t separator : {kTab, kComma}) {
+    if (text.find(separator) != std::u16string_view::npos) return separator;
+  }
+  return kBlank;
+}
+
+/// Takes the text up to `end` and `end` itself from the front of `text`.
+std::u16string_view TakeUpTo(char16_t end, std::u16string_view& text) {
+  const std::u16string_view taken = text.substr(0, text.find(end));
+  text.remove_prefix(std::min(taken.size() + 1, text.size()));
+  return taken;
+}
+
+/// Whether `cell` is a number, with separators between its thousands or without. A comma that was
+/// meant as a decimal point must not turn 1,5 into 15.
+bool IsShownNumber(std::u16string_view cell) {
+  const auto number = ReadShownNumber(Narrow(cell));
+  return number && std::isfinite(*number);
+}
+
+/// The number `cell` as it is stored: without separators.
+std::u16string Cleaned(std::u16string_view cell) {
+  std::u16string cleaned(cell);
+  cleaned.erase(std::remove(cleaned.begin(), cleaned.end(), kComma), cleaned.end());
+  return cleaned;
+}
+
+/// Takes the cells of a text one by one.
+class TableReader {
+ public:
+  TableReader(int rows, int columns) : rows_(rows), columns_(columns) {}
+
+  void ReadRow(std::u16string_view line, char16_t separator) {
+    column_ = 0;
+    while (!line.empty()) {
+      const std::u16string_view cell = TrimBlanks(TakeUpTo(separator, line));
+      // Any number of blanks separates only once.
+      if (cell.empty() && separator == kBlank) continue;
+      Take(cell);
+      ++column_;
+    }
+    ++row_;
+  }
+
+  PastedCells Result() && { return std::move(cells_); }
+
+ private:
+  void Take(std::u16string_view cell) {
+    if (cell.empty()) return;
+    if (row_ >= rows_ || column_ >= columns_) {
+      ++cells_.beyond;
+      return;
+    }
+    if (cell.size() > kLongestNumber || !IsShownNumber(cell)) {
+      ++cells_.refused;
+      return;
+    }
+    cells_.numbers.push_back({static_cast<int>(row_), static_cast<int>(column_), Cleaned(cell)});
+  }
+
+  std::ptrdiff_t rows_;
+  std::ptrdiff_t columns_;
+  std::ptrdiff_t row_ = 0;
+  std::ptrdiff_t column_ = 0;
+  PastedCells cells_;
+};
+
+}  // namespace
+
+bool IsNumberText(std::u16string_view text) {
+  const auto number = ReadWholeNumber(Narrow(text));
+  return number && std::isfinite(*number);
+}
+
+std::u16string PrintCells(const MatrixValue& matrix, const CellRange& range) {
+  std::u16string text;
+  for (int row = range.top; row <= range.bottom; ++row) {
+    if (row > range.top) text += u'\n';
+    for (int column = range.left; column <= range.right; ++column) {
+      if (column > range.left) text += kTab;
+      text += OnOneLine(matrix.At(row, column));
+    }
+  }
+  return text;
+}
+
+PastedCells ReadCells(std::u16string_view text, int rows, int columns) {
+  const char16_t separator = SeparatorOf(text);
+  TableReader reader(rows, columns);
+  while (!text.empty()) {
+    std::u16string_view line = TakeUpTo(u'\n', text);
+    if (line.ends_with(u'\r')) line.remove_suffix(1);
+    reader.ReadRow(line, separator);
+  }
+  return std::move(reader).Result();
+}
+
+MatrixValue Overwritten(const MatrixValue& matrix, int row, int column, const PastedCells& pasted) {
+  int rows = matrix.rows;
+  int columns = matrix.columns;
+  for (const PastedNumber& number : pasted.numbers) {
+    rows = std::max(rows, row + number.row + 1);
+    columns = std::max(columns, column + number.column + 1);
+  }
+  MatrixValue changed = Resized(matrix, rows, columns);
+  for (const PastedNumber& number : pasted.numbers) {
+    changed.At(row + number.row, column + number.column) = number.text;
+  }
+  return changed;
+}
+
+}  // namespace kav

@@ -1,0 +1,108 @@
+#include "matrix/matrix_board.h"
+
+#include <utility>
+
+#include "common/number_text.h"
+#include "matrix/cell_table_text.h"
+#include "matrix/matrix_file.h"
+#include "matrix/matrix_texts.h"
+
+namespace kav {
+
+MatrixBoard::MatrixBoard(const DisplaySettings& settings)
+    : edits_(EmptyMatrix(settings.matrixRows, settings.matrixColumns),
+             UniformWidths(settings.columnWidth)) {}
+
+void MatrixBoard::SetWidths(const ColumnWidths& widths) {
+  ColumnWidths taken = widths;
+  taken.front() = kHeaderColumnWidth;
+  edits_.SetWidths(shown_, taken);
+}
+
+void MatrixBoard::Show(int index) {
+  if (index < 0 || index >= kMatrixCount) return;
+  shown_ = index;
+  isLocked_ = false;
+}
+
+void MatrixBoard::TakeAnswer(MatrixValue result) {
+  edits_.Change(kAnswerMatrix, std::move(result));
+  Show(kAnswerMatrix);
+}
+
+std::u16string_view MatrixBoard::CellText(int row, int column) const {
+  return HasCell(row, column) ? std::u16string_view(Shown().At(row, column)) : u"";
+}
+
+bool MatrixBoard::HasCell(int row, int column) const {
+  return row >= 0 && row < Shown().rows && column >= 0 && column < Shown().columns;
+}
+
+void MatrixBoard::SetCell(int row, int column, std::u16string text) {
+  if (!HasCell(row, column)) return;
+  MatrixValue changed = Shown();
+  // A line end or a TAB would end the cell in a file.
+  changed.At(row, column) = OnOneLine(std::move(text));
+  edits_.Change(shown_, std::move(changed));
+}
+
+void MatrixBoard::ClearCells(const CellRange& cells) {
+  edits_.Change(shown_, Cleared(Shown(), cells));
+}
+
+void MatrixBoard::Resize(int rows, int columns) {
+  edits_.Change(shown_, Resized(Shown(), rows, columns));
+}
+
+std::u16string MatrixBoard::CopyCells(const CellRange& cells) const {
+  const MatrixValue& matrix = Shown();
+  const CellRange all{0, 0, matrix.rows - 1, matrix.columns - 1};
+  return PrintCells(matrix, cells.IsOneCell() ? all : WithinMatrix(cells, matrix));
+}
+
+std::optional<std::u16string> MatrixBoard::PasteCells(int row, int column,
+                                                      std::u16string_view text) {
+  if (!HasCell(row, column)) return std::nullopt;
+  const PastedCells pasted = ReadCells(text, kLargestMatrix - row, kLargestMatrix - column);
+  edits_.Change(shown_, Overwritten(Shown(), row, column, pasted));
+  if (pasted.beyond == 0 && pasted.refused == 0) return std::nullopt;
+  return CellsWereLeftOut(pasted.beyond, pasted.refused);
+}
+
+void MatrixBoard::Undo() {
+  ShowChanged(edits_.Undo());
+}
+
+void MatrixBoard::Redo() {
+  ShowChanged(edits_.Redo());
+}
+
+void MatrixBoard::ShowChanged(std::optional<int> index) {
+  if (index && *index != shown_) Show(*index);
+}
+
+std::optional<std::u16string> MatrixBoard::SaveTo(const std::string& path) const {
+  return SaveMatrixFile(path, Shown());
+}
+
+std::optional<std::u16string> MatrixBoard::LoadFrom(const std::string& path) {
+  auto loaded = LoadMatrixFile(path);
+  if (!loaded) return MatrixFileIsInvalid(Widen(path));
+  edits_.Change(shown_, *std::move(loaded));
+  return std::nullopt;
+}
+
+void MatrixBoard::Cut() {
+  Copy();
+  edits_.Change(shown_, EmptyMatrix(Shown().rows, Shown().columns));
+}
+
+void MatrixBoard::Copy() {
+  clipboard_ = {Shown(), Widths()};
+}
+
+void MatrixBoard::Paste() {
+  if (clipboard_.matrix.rows != 0) edits_.Change(shown_, clipboard_);
+}
+
+}  // namespace kav

@@ -1,0 +1,158 @@
+#include <array>
+#include <numeric>
+
+#include "matrix/matrix_operations.h"
+#include "matrix/matrix_texts.h"
+#include "matrix/working_matrix.h"
+
+namespace kav {
+namespace {
+
+CalcError Failure(std::string_view message) {
+  return MakeError(CalcErrorCode::Free, message);
+}
+
+CalcError SizeMismatch(std::string_view operation) {
+  return Failure(MatrixSizeMismatch(operation));
+}
+
+bool IsSquare(const MatrixValue& a) {
+  return a.rows == a.columns;
+}
+
+/// Multiplies the cells of `row` from `first` on.
+void ScaleRow(WorkingMatrix& m, int row, int first, double factor) {
+  for (int j = first; j < m.Columns(); ++j) m.Store(row, j, m.At(row, j) * factor);
+}
+
+/// Takes `factor` times row `pivot` from the cells of `row` from `first` on.
+void ReduceRow(WorkingMatrix& m, int row, int pivot, int first, double factor) {
+  for (int j = first; j < m.Columns(); ++j) {
+    m.Store(row, j, m.At(row, j) - m.At(pivot, j) * factor);
+  }
+}
+
+/// Gauss-Jordan elimination of `a`, done to `right` as well. Exchanges no rows: false where a pivot
+/// is exactly 0, which ends it there.
+bool Eliminate(WorkingMatrix& a, WorkingMatrix& right) {
+  for (int k = 0; k < a.Rows(); ++k) {
+    const double pivot = a.At(k, k);
+    if (pivot == 0) return false;
+    ScaleRow(a, k, k, 1 / pivot);
+    ScaleRow(right, k, 0, 1 / pivot);
+    for (int i = 0; i < a.Rows(); ++i) {
+      if (i == k) continue;
+      const double factor = a.At(i, k);
+      ReduceRow(a, i, k, k, factor);
+      ReduceRow(right, i, k, 0, factor);
+    }
+  }
+  return true;
+}
+
+/// Which row of a matrix stands where after exchanges.
+using RowTable = std::array<int, kLargestMatrix>;
+
+/// Puts the row with the largest value of a column, the first of them, where that column's pivot
+/// is, column by column. Values and not magnitudes are compared.
+RowTable RankRows(WorkingMatrix& a, WorkingMatrix& right) {
+  RowTable table;
+  std::iota(table.begin(), table.end(), 0);
+  for (int k = 0; k < a.Rows(); ++k) {
+    int largest = k;
+    for (int i = k + 1; i < a.Rows(); ++i) {
+      if (a.At(i, k) > a.At(largest, k)) largest = i;
+    }
+    a.ExchangeRows(k, largest);
+    right.ExchangeRows(k, largest);
+    std::swap(table[static_cast<std::size_t>(k)], table[static_cast<std::size_t>(largest)]);
+  }
+  return table;
+}
+
+/// The first row from `k` on that has a value other than 0 in column `k`; the number of rows where
+/// there is none.
+int FindPivot(const WorkingMatrix& m, int k) {
+  int row = k;
+  while (row < m.Rows() && m.At(row, k) == 0) ++row;
+  return row;
+}
+
+/// Adds to the cells of `row` behind column `pivot` so much of row `pivot` as makes its cell in
+/// that column 0.
+void ClearColumn(WorkingMatrix& m, int row, int pivot) {
+  const double factor = -m.At(row, pivot) / m.At(pivot, pivot);
+  m.Store(row, pivot, 0);
+  for (int j = pivot + 1; j < m.Columns(); ++j) {
+    m.Store(row, j, m.At(row, j) + m.At(pivot, j) * factor);
+  }
+}
+
+double DeterminantOf(WorkingMatrix m) {
+  double product = 1;
+  for (int k = 0; k < m.Rows(); ++k) {
+    const int pivot = FindPivot(m, k);
+    if (pivot == m.Rows()) return 0;
+    if (pivot != k) {
+      m.ExchangeRows(k, pivot);
+      product = -product;
+    }
+    for (int i = k + 1; i < m.Rows(); ++i) ClearColumn(m, i, k);
+    product *= m.At(k, k);
+  }
+  return product;
+}
+
+bool HasZeroInDiagonal(const WorkingMatrix& m) {
+  for (int i = 0; i < m.Rows(); ++i) {
+    if (m.At(i, i) == 0) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+CalcResult<MatrixValue> InvertMatrix(const MatrixValue& a) {
+  if (!IsSquare(a)) return SizeMismatch(kMatrixInverse);
+  WorkingMatrix rest(a);
+  WorkingMatrix inverse = WorkingMatrix::Identity(a.rows);
+  if (!Eliminate(rest, inverse)) return Failure(MatrixIsNotInvertible());
+  return inverse.Texts();
+}
+
+CalcResult<MatrixValue> SolveLinearEquation(const MatrixValue& a, const MatrixValue& b) {
+  if (!IsSquare(a) || b.rows != a.rows || b.columns != 1) {
+    return SizeMismatch(kMatrixLinearEquation);
+  }
+  WorkingMatrix rest(a);
+  WorkingMatrix right(b);
+  const RowTable table = RankRows(rest, right);
+  // Where a pivot is 0, what has been reduced by then is the answer.
+  Eliminate(rest, right);
+  MatrixValue solution = MatrixOfSize(b.rows, 1);
+  for (int i = 0; i < b.rows; ++i) {
+    solution.At(table[static_cast<std::size_t>(i)], 0) = right.TextAt(i, 0);
+  }
+  return solution;
+}
+
+CalcResult<MatrixValue> MatrixDeterminant(const MatrixValue& a) {
+  if (!IsSquare(a)) return SizeMismatch(kMatrixDeterminant);
+  MatrixValue determinant = MatrixOfSize(1, 1);
+  determinant.At(0, 0) = CellText(DeterminantOf(WorkingMatrix(a)));
+  return determinant;
+}
+
+CalcResult<MatrixValue> TriangularMatrix(const MatrixValue& a) {
+  if (!IsSquare(a)) return SizeMismatch(kMatrixTriangular);
+  WorkingMatrix m(a);
+  if (HasZeroInDiagonal(m)) return Failure(MatrixHasZeroInDiagonal());
+  for (int k = 0; k + 1 < m.Rows(); ++k) {
+    for (int i = k + 1; i < m.Rows(); ++i) {
+      if (m.At(i, k) != 0) ClearColumn(m, i, k);
+    }
+  }
+  return m.Texts();
+}
+
+}  // namespace kav

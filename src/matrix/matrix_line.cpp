@@ -1,0 +1,72 @@
+#include "matrix/matrix_line.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "matrix/matrix_texts.h"
+#include "matrix/matrix_tokenizer.h"
+
+namespace kav {
+namespace {
+
+constexpr std::u16string_view kMacroMark = u"M:";
+
+char16_t LowerOf(char16_t c) {
+  return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c - u'A' + u'a') : c;
+}
+
+bool IsLetter(char16_t c) {
+  return LowerOf(c) >= u'a' && LowerOf(c) <= u'z';
+}
+
+/// Whether `word` is one of the functions of matrices.
+bool IsFunction(std::u16string_view word) {
+  const auto names = MatrixFunctionNames();
+  return std::any_of(names.begin(), names.end(), [&](const MatrixFunctionName& row) {
+    return std::equal(word.begin(), word.end(), row.name.begin(), row.name.end(),
+                      [](char16_t a, char b) { return LowerOf(a) == static_cast<char16_t>(b); });
+  });
+}
+
+/// Whether one of the words, which are runs of letters, of `text` is a function of matrices.
+bool NamesFunction(std::u16string_view text) {
+  for (std::size_t start = 0; start < text.size();) {
+    std::size_t end = start;
+    while (end < text.size() && IsLetter(text[end])) ++end;
+    if (IsFunction(text.substr(start, end - start))) return true;
+    start = end + 1;
+  }
+  return false;
+}
+
+bool Names(std::u16string_view line, std::u16string_view matrix) {
+  return std::search(line.begin(), line.end(), matrix.begin(), matrix.end(),
+                     [](char16_t a, char16_t b) { return LowerOf(a) == LowerOf(b); }) != line.end();
+}
+
+}  // namespace
+
+bool IsMatrixExpression(std::u16string_view line) {
+  while (true) {
+    const std::size_t mark = line.find(kMacroMark);
+    const std::u16string_view before = line.substr(0, mark);
+    if (before.find(u'[') != before.npos || NamesFunction(before)) return true;
+    const std::size_t open = mark == line.npos ? mark : line.find(u'(', mark);
+    if (open == line.npos) return false;
+    line.remove_prefix(open);
+  }
+}
+
+std::optional<int> FirstInvalidMatrix(std::u16string_view line, const Matrices& matrices) {
+  for (int i = 0; i < kMatrixCount; ++i) {
+    const auto index = static_cast<std::size_t>(i);
+    if (Names(line, kMatrixNames[index]) && HasEmptyCell(matrices[index])) return i;
+  }
+  return std::nullopt;
+}
+
+std::u16string MatrixIsInvalid(int index) {
+  return NamedMatrixIsInvalid(kMatrixNames[static_cast<std::size_t>(index)]);
+}
+
+}  // namespace kav

@@ -1,0 +1,46 @@
+// The pop-up menus of the matrix screen.
+#pragma once
+
+#include <string>
+
+#include "scientific/screen_menus.h"
+
+namespace kav {
+
+/// The ids of the menus whose items do more than writing; those of the others count from 1.
+namespace tools_item {
+inline constexpr int kConstants = 1;
+inline constexpr int kRecallVariable = 2;
+inline constexpr int kConverter = 3;
+inline constexpr int kMacro = 4;
+}  // namespace tools_item
+
+namespace matrix_tools_item {
+inline constexpr int kCut = 1;
+inline constexpr int kCopy = 2;
+inline constexpr int kPaste = 3;
+inline constexpr int kSave = 4;
+inline constexpr int kLoad = 5;
+inline constexpr int kResetWidths = 6;
+inline constexpr int kAutofitWidths = 7;
+}  // namespace matrix_tools_item
+
+/// The functions of number expressions, by their names.
+Menu BuildFunctionMenu();
+/// What an item of it writes in front of the selection, behind which comes ")".
+std::u16string FunctionPrefix(int id);
+
+Menu BuildToolsMenu();
+
+/// The functions of matrix expressions.
+Menu BuildOperationMenu();
+/// What an item of it writes: the function's name and "(".
+std::u16string OperationText(int id);
+
+/// The tools for the matrix `index`: nothing that would replace [M Ans] is offered for it.
+Menu BuildMatrixToolsMenu(int index);
+
+/// The names of the matrices, which are what the items write.
+Menu BuildVariableMenu();
+
+}  // namespace kav

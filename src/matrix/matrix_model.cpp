@@ -1,0 +1,282 @@
+#include "matrix/matrix_model.h"
+
+#include <array>
+#include <cstdint>
+#include <utility>
+
+#include "common/number_text.h"
+#include "matrix/cell_number.h"
+#include "matrix/cell_table_text.h"
+#include "matrix/matrix_evaluator.h"
+#include "matrix/matrix_line.h"
+#include "matrix/matrix_menus.h"
+#include "matrix/matrix_texts.h"
+#include "scientific/macro_call.h"
+#include "scientific/scientific_texts.h"
+#include "scientific/shown_number.h"
+#include "settings/keys.h"
+
+namespace kav {
+namespace {
+
+/// What the screen reads and does not change.
+constexpr std::array kReadOnly{kMatrixDisplayType, kMatrixPrecision,   kMatrixRows,  kMatrixColumns,
+                               kMatrixAlignment,   kMatrixColumnWidth, kDisplayType, kPrecision};
+
+}  // namespace
+
+MatrixModel::MatrixModel(SettingsStore& store)
+    : store_(store),
+      macros_(store),
+      angle_(AngleUnitFromSetting(store.Get(kAngleType))),
+      settings_(LoadDisplaySettings(store)),
+      converter_(store),
+      history_(History::Load(store, kMatrixHistory)),
+      board_(settings_) {}
+
+void MatrixModel::Save() const {
+  store_.Set(kAngleType, static_cast<std::int32_t>(angle_));
+  for (const IntegerKey& key : kReadOnly) store_.Set(key, store_.Get(key));
+  converter_.Save(store_);
+  history_.Save(store_, kMatrixHistory);
+}
+
+void MatrixModel::SetLine(std::u16string text, Selection selection) {
+  line_.Set(std::move(text), selection);
+}
+
+std::u16string_view MatrixModel::Caption(MatrixKey key) const {
+  return key == MatrixKey::Deg ? AngleCaption(angle_) : RowOf(key).caption;
+}
+
+bool MatrixModel::IsEnabled(MatrixKey key) const {
+  switch (key) {
+    case MatrixKey::PlayBack:
+      return !history_.IsEmpty();
+    case MatrixKey::ClearCells:
+    case MatrixKey::Size:
+      return board_.IsOpen();
+    default:
+      return true;
+  }
+}
+
+MatrixRequest MatrixModel::Press(MatrixKey key) {
+  if (!IsEnabled(key)) return Nothing{};
+  switch (key) {
+    case MatrixKey::Functions:
+      return ShowMatrixMenu{MatrixMenu::Functions};
+    case MatrixKey::Tools:
+      return ShowMatrixMenu{MatrixMenu::Tools};
+    case MatrixKey::Operations:
+      return ShowMatrixMenu{MatrixMenu::Operations};
+    case MatrixKey::MatrixTools:
+      return ShowMatrixMenu{MatrixMenu::MatrixTools};
+    case MatrixKey::Variables:
+      return ShowMatrixMenu{MatrixMenu::Variables};
+    case MatrixKey::PlayBack:
+      return ShowMatrixMenu{MatrixMenu::History};
+    case MatrixKey::ClearCells:
+      return AskClearCells{kClearCellsQuestion};
+    case MatrixKey::Size:
+      return AskMatrixSize{ShownMatrix().rows, ShownMatrix().columns};
+    case MatrixKey::Equals:
+      return Evaluate();
+    default:
+      Write(key);
+      return Nothing{};
+  }
+}
+
+void MatrixModel::Write(MatrixKey key) {
+  switch (key) {
+    case MatrixKey::Deg:
+      angle_ = OtherAngleUnit(angle_);
+      return;
+    case MatrixKey::Backspace:
+      return line_.DeleteBackward();
+    case MatrixKey::Delete:
+      return line_.DeleteForward();
+    case MatrixKey::Clear:
+      return line_.Clear();
+    default:
+      break;
+  }
+  const MatrixKeyRow& row = RowOf(key);
+  const auto& edit = line_.Selected().IsEmpty() ? row.bare : row.selected;
+  if (edit) ApplyEdit(*edit, line_);
+}
+
+MatrixRequest MatrixModel::Evaluate() {
+  const std::u16string text(TrimBlanks(std::u16string_view(line_.Text())));
+  if (IsMatrixExpression(text)) {
+    line_.SelectAll();
+    return EvaluateMatrix(text);
+  }
+  // Numbers are for the matrices that are typed in: beside a result they would pass for it.
+  if (Shown() != kAnswerMatrix) EvaluateNumber(text);
+  return Nothing{};
+}
+
+void MatrixModel::EvaluateNumber(std::u16string_view text) {
+  line_.SelectAll();
+  const auto value = EvaluateTypedLine(text, {angle_, BaseMode::Decimal}, store_, macros_);
+  if (value) {
+    lastAnswer_ = *value;
+    return ShowAnswer();
+  }
+  lastAnswer_.reset();
+  const bool isEmpty = value.error().cause == LineFailure::Cause::EmptyLine;
+  resultText_ = isEmpty ? std::u16string(kNoExpression) : Widen(value.error().message);
+}
+
+MatrixRequest MatrixModel::EvaluateMatrix(std::u16string_view text) {
+  history_.Add(std::u16string(text));
+  if (const auto invalid = FirstInvalidMatrix(text, AllMatrices())) {
+    return TellStop{MatrixIsInvalid(*invalid)};
+  }
+  auto result = MatrixEvaluator(AllMatrices(), files_).Evaluate(Narrow(text));
+  if (!result) {
+    board_.Lock();
+    return TellStop{Widen(result.error().message)};
+  }
+  board_.TakeAnswer(*std::move(result));
+  return Nothing{};
+}
+
+void MatrixModel::ShowAnswer() {
+  resultText_ = ShownNumber(*lastAnswer_, settings_.normal, BaseMode::Decimal);
+}
+
+Menu MatrixModel::MenuOf(MatrixMenu menu) const {
+  switch (menu) {
+    case MatrixMenu::Functions:
+      return BuildFunctionMenu();
+    case MatrixMenu::Tools:
+      return BuildToolsMenu();
+    case MatrixMenu::Operations:
+      return BuildOperationMenu();
+    case MatrixMenu::MatrixTools:
+      return BuildMatrixToolsMenu(Shown());
+    case MatrixMenu::Variables:
+      return BuildVariableMenu();
+    case MatrixMenu::History:
+      break;
+  }
+  return BuildHistoryMenu(history_);
+}
+
+MatrixRequest MatrixModel::Choose(MatrixMenu menu, int id) {
+  if (!Offers(MenuOf(menu), id)) return Nothing{};
+  const std::size_t place = static_cast<std::size_t>(id) - 1;
+  switch (menu) {
+    case MatrixMenu::Functions: {
+      const std::u16string prefix = FunctionPrefix(id);
+      line_.WrapSelection(prefix, u")", prefix.size() - 1);
+      break;
+    }
+    case MatrixMenu::Tools:
+      return ChooseTool(id);
+    case MatrixMenu::Operations:
+      line_.InsertText(OperationText(id));
+      break;
+    case MatrixMenu::MatrixTools:
+      return ChooseMatrixTool(id);
+    case MatrixMenu::Variables:
+      line_.InsertText(kMatrixNames[place]);
+      break;
+    case MatrixMenu::History:
+      line_.InsertText(history_.Entries()[place]);
+      break;
+  }
+  return Nothing{};
+}
+
+MatrixRequest MatrixModel::ChooseTool(int id) {
+  switch (id) {
+    case tools_item::kConstants:
+      return OpenConstants{};
+    case tools_item::kRecallVariable:
+      return RecallMemoryVariable{};
+    case tools_item::kConverter:
+      return ConverterRequest();
+    default:
+      return std::visit([](auto request) -> MatrixRequest { return request; },
+                        RequestMacro(store_, macros_));
+  }
+}
+
+MatrixRequest MatrixModel::ConverterRequest() const {
+  const double answer = lastAnswer_.value_or(0);
+  return converter_.Request(answer == 0
+                                ? std::u16string(kValueToConvert)
+                                : InsertedNumber(answer, settings_.normal, BaseMode::Decimal));
+}
+
+MatrixRequest MatrixModel::ChooseMatrixTool(int id) {
+  switch (id) {
+    case matrix_tools_item::kCut:
+      board_.Cut();
+      break;
+    case matrix_tools_item::kCopy:
+      board_.Copy();
+      break;
+    case matrix_tools_item::kPaste:
+      board_.Paste();
+      break;
+    case matrix_tools_item::kSave:
+      if (HasEmptyCell(ShownMatrix())) return TellStop{MatrixIsInvalid(Shown())};
+      return AskSaveFile{};
+    case matrix_tools_item::kLoad:
+      return AskLoadFile{};
+    case matrix_tools_item::kResetWidths:
+      board_.SetWidths(UniformWidths(settings_.columnWidth));
+      break;
+    default:
+      return AutofitColumns{};
+  }
+  return Nothing{};
+}
+
+void MatrixModel::TakeConverter(const ConverterOutcome& outcome) {
+  converter_.Take(outcome, line_);
+}
+
+void MatrixModel::TakeMacro(int index) {
+  WriteMacroCall(index, macros_, line_);
+}
+
+void MatrixModel::TakeVariable(std::u16string_view value) {
+  Insert(ReadLeadingNumber(Narrow(value)));
+}
+
+void MatrixModel::TakeConstant(std::u16string_view value) {
+  line_.InsertText(value);
+}
+
+void MatrixModel::Insert(double value) {
+  line_.InsertText(InsertedNumber(value, settings_.normal, BaseMode::Decimal));
+}
+
+void MatrixModel::TakeDisplaySettings() {
+  settings_ = LoadDisplaySettings(store_);
+  if (lastAnswer_) ShowAnswer();
+}
+
+bool MatrixModel::IsMarked(int row, int column) const {
+  const std::u16string_view text = board_.CellText(row, column);
+  return !text.empty() && !IsNumberText(text);
+}
+
+std::u16string MatrixModel::CellHint(int row, int column) const {
+  const std::u16string_view text = board_.CellText(row, column);
+  if (text.empty()) return {};
+  return ShownNumber(ReadCell(text), settings_.matrix, BaseMode::Decimal);
+}
+
+void MatrixModel::BeginCellEdit(int row, int column) {
+  const std::u16string_view text = board_.CellText(row, column);
+  if (!text.empty()) line_.Set(std::u16string(text), {0, text.size()});
+}
+
+}  // namespace kav

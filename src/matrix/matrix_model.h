@@ -1,0 +1,152 @@
+// The matrix screen without its pixels: matrices, line, keys, menus, clipboard, history, settings.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "engine/calc_modes.h"
+#include "engine/display_settings.h"
+#include "macros/macro_store.h"
+#include "matrix/cell_range.h"
+#include "matrix/column_widths.h"
+#include "matrix/matrix_board.h"
+#include "matrix/matrix_keypad.h"
+#include "matrix/matrix_value.h"
+#include "matrix/temporary_matrices.h"
+#include "scientific/converter_link.h"
+#include "scientific/expression_line.h"
+#include "scientific/history.h"
+#include "scientific/key_request.h"
+#include "scientific/screen_menus.h"
+#include "settings/settings_store.h"
+
+namespace kav {
+
+/// The menus that keys open.
+enum class MatrixMenu { Functions, Tools, Operations, MatrixTools, Variables, History };
+
+// What a key or a menu item asks of the outside, besides what key_request.h has.
+struct ShowMatrixMenu {
+  MatrixMenu menu;
+};
+struct AskClearCells {
+  std::u16string_view question;  ///< on Yes: ClearCells with what is selected
+};
+struct AskMatrixSize {
+  int rows;
+  int columns;
+};
+struct TellStop {
+  std::u16string text;  ///< with the stop icon
+};
+struct AskSaveFile {};     ///< then SaveTo with the file's path
+struct AskLoadFile {};     ///< then LoadFrom with the file's path
+struct AutofitColumns {};  ///< then SetColumnWidths with what the grid found
+using MatrixRequest =
+    std::variant<Nothing, ShowMatrixMenu, AskClearCells, AskMatrixSize, TellStop, AskSaveFile,
+                 AskLoadFile, AutofitColumns, OpenMacroEditor, OpenMacroList, OpenConverter,
+                 RecallMemoryVariable, OpenConstants>;
+
+/// Holds the whole state of the screen. The store must outlive it.
+class MatrixModel {
+ public:
+  /// Loads the settings and the history; the matrices are empty and [M1] is shown.
+  explicit MatrixModel(SettingsStore& store);
+
+  /// Writes settings and history into the store.
+  void Save() const;
+
+  // The two lines.
+  const ExpressionLine& Line() const { return line_; }
+  void SetLine(std::u16string text, Selection selection);
+  /// The last number expression's answer or message; empty before the first.
+  const std::u16string& ResultText() const { return resultText_; }
+
+  // The keys and the menus that they open.
+  std::u16string_view Caption(MatrixKey key) const;
+  bool IsEnabled(MatrixKey key) const;
+  MatrixRequest Press(MatrixKey key);
+  Menu MenuOf(MatrixMenu menu) const;
+  /// An id that the menu does not offer does nothing.
+  MatrixRequest Choose(MatrixMenu menu, int id);
+
+  // What dialogs bring back.
+  void TakeConverter(const ConverterOutcome& outcome);
+  void TakeMacro(int index);
+  void TakeVariable(std::u16string_view value);
+  void TakeConstant(std::u16string_view value);
+  /// Reads the display settings anew after their dialog changed them; matrices keep their sizes.
+  void TakeDisplaySettings();
+
+  // The matrices and the one that is shown.
+  const Matrices& AllMatrices() const { return board_.All(); }
+  int Shown() const { return board_.ShownIndex(); }
+  const MatrixValue& ShownMatrix() const { return board_.Shown(); }
+  /// The user's choice of a tab, also of the one that is shown already.
+  void Show(int index) { board_.Show(index); }
+  const ColumnWidths& Widths() const { return board_.Widths(); }
+  void SetColumnWidths(const ColumnWidths& widths) { board_.SetWidths(widths); }
+  CellAlignment Alignment() const { return settings_.alignment; }
+  /// Whether the text of a cell is more, or something else, than a number.
+  bool IsMarked(int row, int column) const;
+  /// What a cell is read as, as the matrix display settings show it; empty for an empty cell.
+  std::u16string CellHint(int row, int column) const;
+
+  // Editing the shown matrix.
+  /// Cells of [M Ans] can be edited as those of the others.
+  void BeginCellEdit(int row, int column);
+  void SetCell(int row, int column, std::u16string text) {
+    board_.SetCell(row, column, std::move(text));
+  }
+  void ClearCells(const CellRange& cells) { board_.ClearCells(cells); }
+  void Resize(int rows, int columns) { board_.Resize(rows, columns); }
+  /// The cells as lines of texts with a TAB between them; of one cell alone: all of the matrix.
+  std::u16string CopyCells(const CellRange& cells) const { return board_.CopyCells(cells); }
+  /// Writes the numbers of `text` into the shown matrix from the cell on, which grows for them as
+  /// far as it can. What the user is to be told where something did not fit or is no number.
+  std::optional<std::u16string> PasteCells(int row, int column, std::u16string_view text) {
+    return board_.PasteCells(row, column, text);
+  }
+  bool CanUndo() const { return board_.CanUndo(); }
+  bool CanRedo() const { return board_.CanRedo(); }
+  /// Show the matrix that changes.
+  void Undo() { board_.Undo(); }
+  void Redo() { board_.Redo(); }
+
+  /// Both: what the user is to be told where it failed.
+  std::optional<std::u16string> SaveTo(const std::string& path) const {
+    return board_.SaveTo(path);
+  }
+  std::optional<std::u16string> LoadFrom(const std::string& path) { return board_.LoadFrom(path); }
+
+  AngleUnit Angle() const { return angle_; }
+  const History& PastLines() const { return history_; }
+
+ private:
+  void Write(MatrixKey key);
+  MatrixRequest Evaluate();
+  void EvaluateNumber(std::u16string_view text);
+  MatrixRequest EvaluateMatrix(std::u16string_view text);
+  void ShowAnswer();
+  void Insert(double value);
+  MatrixRequest ChooseTool(int id);
+  MatrixRequest ChooseMatrixTool(int id);
+  MatrixRequest ConverterRequest() const;
+
+  SettingsStore& store_;
+  MacroStore macros_;
+  AngleUnit angle_;
+  DisplaySettings settings_;
+  ConverterLink converter_;
+  History history_;
+  MatrixBoard board_;
+  TemporaryMatrices files_;
+  ExpressionLine line_;
+  std::u16string resultText_;
+  std::optional<double> lastAnswer_;  ///< nullopt after a failure and before the first
+};
+
+}  // namespace kav

@@ -1,0 +1,104 @@
+// What the user reads from the matrix calculator: the 8-bit texts of the evaluator and its
+// operations, and the 16-bit texts of the screen.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "common/number_text.h"
+
+namespace kav {
+
+// The operations as their messages name them. One of them is misspelled and stays so: users know
+// the message.
+inline constexpr std::string_view kMatrixAddition = "Matrix Addition(+)";
+inline constexpr std::string_view kMatrixSubtraction = "Matrix Subtration(-)";
+inline constexpr std::string_view kMatrixMultiplication = "Matrix Multiplication(*)";
+inline constexpr std::string_view kMatrixPower = "Matrix Power(^)";
+inline constexpr std::string_view kMatrixInverse = "Matrix Inverse";
+inline constexpr std::string_view kMatrixTranspose = "Matrix Transpose";
+inline constexpr std::string_view kMatrixLinearEquation = "Matrix Linear Equation";
+inline constexpr std::string_view kMatrixDeterminant = "Matrix Determinant";
+inline constexpr std::string_view kMatrixTriangular = "Matrix Triangular";
+
+// What goes wrong with an operation; each is the whole message.
+inline std::string AboutOperation(std::string_view operation, std::string_view what) {
+  return std::string("[").append(operation).append("] ").append(what);
+}
+inline std::string MatrixSizeMismatch(std::string_view operation) {
+  return AboutOperation(operation, "Matrix Size Mismatch");
+}
+inline std::string MatrixArgumentError(std::string_view operation) {
+  return AboutOperation(operation, "Matrix Argument Error");
+}
+inline std::string MatrixIsNotInvertible() {
+  return AboutOperation(kMatrixInverse, "Not Invertible(Determinant Equals 0)");
+}
+inline std::string MatrixHasZeroInDiagonal() {
+  return AboutOperation(kMatrixTriangular, "Error(0 in Diagonal).");
+}
+
+/// Follows the name of an operation that takes whole numbers from 0 on.
+inline constexpr std::string_view kNeitherFractionNorNegative =
+    " is not supported non-integer and negative integer.";
+
+inline constexpr std::string_view kNoRoomForMatrix = "System Error : Check your freespace on PDA";
+
+/// `name` as the screen writes it, such as "[M1]".
+inline std::u16string NamedMatrixIsInvalid(std::u16string_view name) {
+  return std::u16string(u"Matrix ").append(name).append(u" is invalid");
+}
+
+/// `reason` is a clause without a point at its end.
+inline std::u16string MatrixCannotBeSaved(std::u16string_view path, std::u16string_view reason) {
+  return std::u16string(u"The matrix cannot be saved in ")
+      .append(path)
+      .append(u": ")
+      .append(reason)
+      .append(u".");
+}
+
+// The menus and the question of the screen.
+inline constexpr std::u16string_view kConstantsItem = u"Constants";
+inline constexpr std::u16string_view kRecallMemVarItem = u"Recall MemVar";
+inline constexpr std::u16string_view kConverterItem = u"Converter";
+inline constexpr std::u16string_view kMacroItem = u"Macro";
+inline constexpr std::u16string_view kMatrixCutItem = u"M Cut";
+inline constexpr std::u16string_view kMatrixCopyItem = u"M Copy";
+inline constexpr std::u16string_view kMatrixPasteItem = u"M Paste";
+inline constexpr std::u16string_view kMatrixSaveItem = u"M Save";
+inline constexpr std::u16string_view kMatrixLoadItem = u"M Load";
+inline constexpr std::u16string_view kResetWidthsItem = u"Reset Col Width";
+inline constexpr std::u16string_view kAutofitWidthsItem = u"Autofit Col Width";
+inline constexpr std::u16string_view kClearCellsQuestion =
+    u"Are you sure you want to delete the selected cell(s)?";
+
+inline std::u16string MatrixFileIsInvalid(std::u16string_view path) {
+  return std::u16string(path).append(u" is invalid.");
+}
+
+/// What pasting left out, `beyond` for want of room and `refused` for not being numbers; not both
+/// 0.
+inline std::u16string CellsWereLeftOut(std::size_t beyond, std::size_t refused) {
+  const auto sentence = [](std::size_t count, std::u16string_view one, std::u16string_view more) {
+    if (count == 0) return std::u16string();
+    return Widen(PrintInteger(static_cast<std::int64_t>(count))).append(count == 1 ? one : more);
+  };
+  std::u16string text = sentence(beyond, u" cell did not fit into the matrix.",
+                                 u" cells did not fit into the matrix.");
+  if (beyond != 0 && refused != 0) text += u' ';
+  return text + sentence(refused, u" cell is no number and was left out.",
+                         u" cells are no numbers and were left out.");
+}
+
+// The dialog that gives a matrix another size.
+inline constexpr std::u16string_view kMatrixSizeTitle = u"Select Matrix Size";
+inline constexpr std::u16string_view kRowsName = u"Rows";
+inline constexpr std::u16string_view kColumnsName = u"Columns";
+
+// What screen readers call the part of the screen that has no caption.
+inline constexpr std::u16string_view kMatrixGridName = u"Cells";
+
+}  // namespace kav

@@ -1,0 +1,119 @@
+#include "matrix/matrix_tokenizer.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+#include "common/number_text.h"
+#include "engine/token_reader.h"
+#include "matrix/matrix_value.h"
+
+namespace kav {
+namespace {
+
+constexpr std::array kFunctions{
+    MatrixFunctionName{"inverse", MatrixFunction::Inverse},
+    MatrixFunctionName{"transpose", MatrixFunction::Transpose},
+    MatrixFunctionName{"linearequation", MatrixFunction::LinearEquation},
+    MatrixFunctionName{"determinant", MatrixFunction::Determinant},
+    MatrixFunctionName{"triangular", MatrixFunction::Triangular},
+};
+
+/// kMatrixNames in lower case.
+constexpr std::array<std::string_view, kMatrixCount> kNames{"[m1]", "[m2]", "[m3]", "[m ans]"};
+
+/// Digits, '.', 'e', and a sign right behind an 'e'.
+std::string_view TakeNumber(TokenReader& reader) {
+  char before = 0;
+  return reader.TakeWhile([&](char c) {
+    const bool belongs =
+        IsDecimalDigit(c) || c == '.' || c == 'e' || (before == 'e' && (c == '+' || c == '-'));
+    before = c;
+    return belongs;
+  });
+}
+
+CalcResult<MatrixToken> ReadNumber(TokenReader& reader) {
+  constexpr std::size_t kLongestNumber = 30;
+  const std::string_view text = TakeNumber(reader);
+  const std::size_t point = text.find('.');
+  const std::size_t mark = text.find('e');
+  const bool hasTwoPoints = point != text.rfind('.');
+  const bool hasTwoMarks = mark != text.rfind('e');
+  const bool hasPointInExponent = point != text.npos && point > mark;
+  if (hasTwoPoints || hasTwoMarks || hasPointInExponent) {
+    return MakeError(CalcErrorCode::Expression);
+  }
+  if (text.size() > kLongestNumber) return MakeError(CalcErrorCode::LengthLimit);
+  return MatrixToken::Number(ReadLeadingNumber(text));
+}
+
+CalcResult<MatrixToken> ReadMatrixName(TokenReader& reader) {
+  char before = 0;
+  const std::string_view name =
+      reader.TakeWhile([&](char c) { return std::exchange(before, c) != ']'; });
+  const auto* const found = std::find(kNames.begin(), kNames.end(), name);
+  if (found == kNames.end()) return MakeError(CalcErrorCode::NotSupported, name);
+  return MatrixToken::Matrix(static_cast<int>(found - kNames.begin()));
+}
+
+CalcResult<MatrixToken> ReadFunction(TokenReader& reader) {
+  const std::string_view word = reader.TakeWord();
+  const auto* const found =
+      std::find_if(kFunctions.begin(), kFunctions.end(),
+                   [&](const MatrixFunctionName& row) { return row.name == word; });
+  if (found == kFunctions.end()) return MakeError(CalcErrorCode::NotSupported, word);
+  reader.SkipBlanks();
+  if (reader.AtEnd()) return MakeError(CalcErrorCode::NeedsArgument, word);
+  return MatrixToken::Function(found->code);
+}
+
+CalcResult<MatrixToken> ReadSymbol(TokenReader& reader) {
+  const char c = reader.Peek();
+  switch (c) {
+    case '^':
+    case '+':
+    case '-':
+    case '*':
+      reader.Skip();
+      return MatrixToken::Symbol(c, MatrixToken::Class::Operator);
+    case '(':
+    case ')':
+      reader.Skip();
+      return MatrixToken::Symbol(c, MatrixToken::Class::Parenthesis);
+    case ',':
+      reader.Skip();
+      return MatrixToken::Symbol(c, MatrixToken::Class::None);
+    default:
+      return UnsupportedCharacter(reader);
+  }
+}
+
+CalcResult<MatrixToken> ReadToken(TokenReader& reader) {
+  const char c = reader.Peek();
+  if (IsDecimalDigit(c) || c == '.') return ReadNumber(reader);
+  if (IsLetter(c)) return ReadFunction(reader);
+  if (c == '[') return ReadMatrixName(reader);
+  return ReadSymbol(reader);
+}
+
+}  // namespace
+
+std::span<const MatrixFunctionName> MatrixFunctionNames() {
+  return kFunctions;
+}
+
+CalcResult<MatrixTokens> TokenizeMatrixExpression(std::string_view text) {
+  MatrixTokens tokens;
+  TokenReader reader(text);
+  for (reader.SkipBlanks(); !reader.AtEnd(); reader.SkipBlanks()) {
+    if (tokens.size() == kMostMatrixTokens) return MakeError(CalcErrorCode::LengthLimit);
+    auto token = ReadToken(reader);
+    if (!token) return std::move(token).error();
+    tokens.push_back(*std::move(token));
+  }
+  return tokens;
+}
+
+}  // namespace kav

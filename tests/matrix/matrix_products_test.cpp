@@ -1,0 +1,152 @@
+// Products of matrices and powers.
+#include "matrix/matrix_products.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include "matrix/matrix_operations.h"
+#include "support/expect_matrix.h"
+
+namespace kav {
+namespace {
+
+using test::ExpectError;
+using test::ExpectMessage;
+using test::ExpectRows;
+using test::kOutOfRange;
+using test::MatrixOf;
+using test::PlainRows;
+using test::RowsOf;
+
+const MatrixValue kSquare = MatrixOf({{"1", "2"}, {"3", "4"}});
+const MatrixValue kWide = MatrixOf({{"1", "2", "3"}, {"4", "5", "6"}});
+
+TEST(ProductOf, KeepsTheNumbersOfItsCells) {
+  const MatrixValue thirds = MatrixOf({{"0.333333333333"}});
+  const WorkingMatrix product = ProductOf(WorkingMatrix(thirds), WorkingMatrix(thirds));
+  EXPECT_EQ(product.Rows(), 1);
+  EXPECT_EQ(product.Columns(), 1);
+  EXPECT_EQ(product.At(0, 0), 0.111111111111);
+}
+
+TEST(ProductOf, HasTheRowsOfTheFirstAndTheColumnsOfTheSecond) {
+  const MatrixValue tall = TransposeMatrix(kWide);
+  EXPECT_EQ(ProductOf(WorkingMatrix(kSquare), WorkingMatrix(kWide)).Columns(), 3);
+  EXPECT_EQ(ProductOf(WorkingMatrix(tall), WorkingMatrix(kSquare)).Rows(), 3);
+}
+
+TEST(MatrixPower, NeedsASquare) {
+  for (const MatrixValue& a : {kWide, TransposeMatrix(kWide)}) {
+    for (const double exponent : {0.0, 1.0, 2.0}) {
+      ExpectMessage(RaiseMatrix(a, exponent), "[Matrix Power(^)] Matrix Size Mismatch");
+    }
+  }
+}
+
+TEST(MatrixPower, MultipliesInTurn) {
+  ExpectRows(RaiseMatrix(kSquare, 2), {{"7", "10"}, {"15", "22"}});
+  ExpectRows(RaiseMatrix(kSquare, 3), {{"37", "54"}, {"81", "118"}});
+  ExpectRows(RaiseMatrix(MatrixOf({{"0.1"}}), 3), {{"0.001"}});
+}
+
+TEST(MatrixPower, OfZeroIsTheIdentity) {
+  ExpectRows(RaiseMatrix(MatrixOf({{"1", "2", "3"}, {"4", "5", "6"}, {"7", "8", "x"}}), 0),
+             {{"1", "0", "0"}, {"0", "1", "0"}, {"0", "0", "1"}});
+  ExpectRows(RaiseMatrix(MatrixOf({{"0"}}), 0), {{"1"}});
+  ExpectRows(RaiseMatrix(MatrixOf({{"5"}}), -0.0), {{"1"}});
+}
+
+TEST(MatrixPower, OfOneKeepsTheVeryTexts) {
+  const PlainRows texts{{"1.50", "x"}, {"", "+2e0"}};
+  ExpectRows(RaiseMatrix(MatrixOf(texts), 1), texts);
+}
+
+TEST(MatrixPower, TakesWholeExponentsFromZeroOn) {
+  const std::string message = "Matrix Power(^) is not supported non-integer and negative integer.";
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  for (const double exponent : {2.5, -1.0, -0.5, 1e-9, -kInfinity, kInfinity, std::nan("")}) {
+    ExpectError(RaiseMatrix(kSquare, exponent), CalcErrorCode::NotInteger, message);
+  }
+}
+
+TEST(MatrixPower, TheExponentIsCheckedBeforeTheSize) {
+  ExpectError(RaiseMatrix(kWide, 2.5), CalcErrorCode::NotInteger,
+              "Matrix Power(^) is not supported non-integer and negative integer.");
+}
+
+TEST(MatrixPower, RoundsEachProductToItsText) {
+  // 0.111111111111 times 0.333333333333 is 0.037037037036963 before it is rounded.
+  ExpectRows(RaiseMatrix(MatrixOf({{"0.333333333333"}}), 3), {{"0.037037037037"}});
+}
+
+TEST(MatrixPower, PassesThroughOutOfRangeAndReadsItAsZero) {
+  const MatrixValue tens = MatrixOf({{"1e200"}});
+  ExpectRows(RaiseMatrix(tens, 2), {{kOutOfRange}});
+  ExpectRows(RaiseMatrix(tens, 3), {{"0"}});
+  ExpectRows(RaiseMatrix(tens, 1e300), {{"0"}});
+}
+
+using Clock = std::chrono::steady_clock;
+
+/// `test` must not take longer than anyone waits.
+template <class Test>
+void ExpectPrompt(Test test) {
+  const auto start = Clock::now();
+  test();
+  EXPECT_LT(Clock::now() - start, std::chrono::seconds(20));
+}
+
+TEST(MatrixPower, HugeExponentsOfPowersThatComeBackAreAnsweredAtOnce) {
+  const MatrixValue turn = MatrixOf({{"0", "-1"}, {"1", "0"}});  // A quarter of a circle.
+  // Three cells in turn, two in turn: after six powers they are where they were.
+  const MatrixValue six = MatrixOf({{"0", "1", "0", "0", "0"},
+                                    {"0", "0", "1", "0", "0"},
+                                    {"1", "0", "0", "0", "0"},
+                                    {"0", "0", "0", "0", "1"},
+                                    {"0", "0", "0", "1", "0"}});
+  ExpectPrompt([&] {
+    ExpectRows(RaiseMatrix(turn, 4e15), {{"1", "0"}, {"0", "1"}});
+    ExpectRows(RaiseMatrix(turn, 4e15 + 1), {{"0", "-1"}, {"1", "0"}});
+    ExpectRows(RaiseMatrix(turn, 4e15 + 2), {{"-1", "0"}, {"0", "-1"}});
+    ExpectRows(RaiseMatrix(turn, 4e15 + 3), {{"0", "1"}, {"-1", "0"}});
+    // An even number, and one more than a multiple of three: 2^1000 leaves 4 of sixes.
+    ExpectRows(RaiseMatrix(six, std::ldexp(1, 1000)), RowsOf(*RaiseMatrix(six, 4)));
+    ExpectRows(RaiseMatrix(MatrixOf({{"1"}}), 1e308), {{"1"}});
+    ExpectRows(RaiseMatrix(MatrixOf({{"-1"}}), 1e15 + 1), {{"-1"}});
+    ExpectRows(RaiseMatrix(MatrixOf({{"0.5"}}), 1e308), {{"0"}});
+    ExpectRows(RaiseMatrix(MatrixOf({{"2"}}), 1e308), {{"0"}});
+  });
+}
+
+TEST(MatrixPower, EveryExponentAroundTheReturnIsRight) {
+  const PlainRows turn{{"0", "-1", "0"}, {"1", "0", "0"}, {"0", "0", "0.5"}};
+  for (int exponent = 0; exponent < 60; ++exponent) {
+    ExpectRows(RaiseMatrix(MatrixOf(turn), exponent), test::PlainPower(turn, exponent));
+  }
+}
+
+TEST(MatrixPower, TheTextsOfTheFirstPowerDoNotComeBack) {
+  // The numbers are those of the first power already; only that one keeps its texts.
+  const MatrixValue one = MatrixOf({{"1.0", "x"}, {"", "+1"}});
+  ExpectRows(RaiseMatrix(one, 1), {{"1.0", "x"}, {"", "+1"}});
+  ExpectRows(RaiseMatrix(one, 2), {{"1", "0"}, {"0", "1"}});
+  ExpectRows(RaiseMatrix(one, 1e9), {{"1", "0"}, {"0", "1"}});
+}
+
+TEST(MatrixPower, PowersThatNeverComeBackAreGivenUp) {
+  // A turn by three degrees and a half, which is no part of a circle in twelve decimals.
+  const MatrixValue turn =
+      MatrixOf({{"0.998134798422", "-0.061048539535"}, {"0.061048539535", "0.998134798422"}});
+  ExpectPrompt([&] {
+    EXPECT_TRUE(RaiseMatrix(turn, 10'000));
+    ExpectError(RaiseMatrix(turn, 1e300), CalcErrorCode::CalculationLimit,
+                "Matrix Power(^) exceeded calculation limit.");
+  });
+}
+
+}  // namespace
+}  // namespace kav

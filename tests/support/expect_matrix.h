@@ -1,0 +1,32 @@
+// What an operation on matrices answers, as rows of texts or as an error.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "engine/calc_error.h"
+#include "matrix/matrix_value.h"
+#include "support/plain_matrix.h"
+
+namespace kav::test {
+
+inline constexpr const char* kOutOfRange = "Out of range(overflow or underflow)";
+
+inline void ExpectRows(const CalcResult<MatrixValue>& answer, const PlainRows& expected) {
+  ASSERT_TRUE(answer) << answer.error().message;
+  EXPECT_EQ(RowsOf(*answer), expected);
+}
+
+inline void ExpectError(const CalcResult<MatrixValue>& answer, CalcErrorCode code,
+                        const std::string& message) {
+  ASSERT_FALSE(answer) << ::testing::PrintToString(RowsOf(*answer));
+  EXPECT_EQ(answer.error().code, code);
+  EXPECT_EQ(answer.error().message, message);
+}
+
+inline void ExpectMessage(const CalcResult<MatrixValue>& answer, const std::string& message) {
+  ExpectError(answer, CalcErrorCode::Free, message);
+}
+
+}  // namespace kav::test

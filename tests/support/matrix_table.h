@@ -1,0 +1,50 @@
+// Matrices written as tests read best: cells separated by blanks, rows by ";". "_" is an empty
+// cell.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "matrix/matrix_value.h"
+
+namespace kav::test {
+
+inline MatrixValue MatrixOf(std::u16string_view table) {
+  MatrixValue matrix;
+  matrix.rows = 1;
+  int column = 0;
+  std::u16string cell;
+  const auto endCell = [&] {
+    if (cell.empty()) return;
+    matrix.At(matrix.rows - 1, column++) = cell == u"_" ? u"" : cell;
+    matrix.columns = column;
+    cell.clear();
+  };
+  for (const char16_t c : table) {
+    if (c == u' ' || c == u';') endCell();
+    if (c == u';') {
+      ++matrix.rows;
+      column = 0;
+    } else if (c != u' ') {
+      cell += c;
+    }
+  }
+  endCell();
+  return matrix;
+}
+
+inline std::u16string TableOf(const MatrixValue& matrix) {
+  std::u16string table;
+  for (int row = 0; row < matrix.rows; ++row) {
+    if (row > 0) table += u"; ";
+    for (int column = 0; column < matrix.columns; ++column) {
+      if (column > 0) table += u' ';
+      const std::u16string& cell = matrix.At(row, column);
+      table += cell.empty() ? std::u16string(u"_") : cell;
+    }
+  }
+  return table;
+}
+
+}  // namespace kav::test
