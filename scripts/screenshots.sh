@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # screenshots.sh: takes the pictures of the screen in docs/images anew, from the program itself on a
-# display of its own: in decimal, in hexadecimal and with Shift on, and its dialogs, each at three
-# sizes. Nothing in them depends on the user's settings.
+# display of its own: in decimal, in hexadecimal and with Shift on, its dialogs, and the matrix screen,
+# each at three sizes. Nothing in them depends on the user's settings.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
@@ -62,13 +62,13 @@ focus() {
 
 # take NAME WIDTHxHEIGHT BASE DEED...: one picture, of the base numbered BASE, after these texts were
 # typed, or the keys pressed that a deed such as press:alt+s names, or the dialog came to the front
-# that one such as focus:Constants names.
+# that one such as focus:Constants names. $config may have further settings of the first section.
 take() {
   local name=$1 size=$2 base=$3 window
   shift 3
   mkdir -p "$home/kav-calculator"
-  printf '[Config]\n"Window Geometry" = "0 0 %s"\n"Base Type" = %s\n%s' "${size/x/ }" "$base" \
-    "$stored" >"$home/kav-calculator/settings.toml"
+  printf '[Config]\n"Window Geometry" = "0 0 %s"\n"Base Type" = %s\n%s\n%s' "${size/x/ }" "$base" \
+    "${config-}" "$stored" >"$home/kav-calculator/settings.toml"
   build/release/src/app/kav-calculator &
   local calculator=$!
   xdotool mousemove 1279 1599
@@ -90,6 +90,11 @@ take() {
   wait "$calculator" || true
 }
 
+ten_by_ten=
+for row in {1..10}; do
+  for column in {1..10}; do ten_by_ten+="$((row * column))"$'\t'; done
+done
+
 for size in 240x320 480x640 1080x1440; do
   take dec "$size" 1 '2*sin(30)+3!='
   take hex "$size" 2 'FF AND 3C='
@@ -102,4 +107,8 @@ for size in 240x320 480x640 1080x1440; do
   take memory "$size" 1 press:alt+c press:Up press:Up press:Up press:Return 'focus:Memory Variable' \
     press:Down
   take constants "$size" 1 press:alt+c press:Up press:Return focus:Constants mass press:Down
+  config='"Mode" = 5' take matrix "$size" 1 press:Tab press:Tab press:Tab $'2\t-1\t0\t-1\t2\t-1\t0\t-1\t2\t' \
+    'inverse([M1])='
+  config=$'"Mode" = 5\n"Matrix Default Row" = 10\n"Matrix Default Col" = 10\n"Matrix Colum Width" = 40' \
+    take matrix-10x10 "$size" 1 press:Tab press:Tab press:Tab "$ten_by_ten"
 done

@@ -14,6 +14,7 @@
 #include "engine/display_settings_dlg.h"
 #include "macros/macro_editor_dlg.h"
 #include "macros/macro_list_dlg.h"
+#include "matrix/matrix_dlg.h"
 #include "memory/constants_dlg.h"
 #include "memory/memory_variables_dlg.h"
 #include "scientific/scientific_dlg.h"
@@ -24,6 +25,7 @@ namespace {
 
 constexpr std::array kScreens{
     ScreenKind{ScreenMode::Scientific, kScientificScreen, MakeScientificScreen},
+    ScreenKind{ScreenMode::Matrix, kMatrixScreen, MakeMatrixScreen},
 };
 
 /// How long the frame waits to be painted: a desktop may keep a window that it has just been given

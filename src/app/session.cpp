@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "app/message_box.h"
+#include "matrix/temporary_matrices.h"
 
 namespace kav {
 namespace {
@@ -76,6 +77,8 @@ void Session::WatchCalls() {
 void Session::Started() {
   // The icon for desktops that have no entry for the program; decoding it can wait until now.
   QApplication::setWindowIcon(QIcon(":/kav-calculator.png"));
+  // Takes away what a run that was killed has left behind, whichever screen is shown.
+  const TemporaryMatrices leftovers;
   TellNotices();
 }
 

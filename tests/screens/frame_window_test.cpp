@@ -177,11 +177,15 @@ TEST_F(FrameWindowTest, TheModeMenuOffersAllScreensButItsOwn) {
                              u"Matrix Calculator"}));
 }
 
-TEST_F(FrameWindowTest, ThisBuildsOnlyScreenOffersNoOther) {
-  const auto screens = AllScreens();
-  ASSERT_EQ(screens.size(), 1U);
-  EXPECT_EQ(screens[0].mode, ScreenMode::Scientific);
-  EXPECT_EQ(screens[0].caption, u"Scientific Calculator");
+TEST_F(FrameWindowTest, ScreensStandInTheOrderOfTheModeMenu) {
+  Texts captions;
+  std::vector<ScreenMode> modes;
+  for (const ScreenKind& screen : AllScreens()) {
+    captions.emplace_back(screen.caption);
+    modes.push_back(screen.mode);
+  }
+  EXPECT_EQ(captions, (Texts{u"Scientific Calculator", u"Matrix Calculator"}));
+  EXPECT_EQ(modes, (std::vector<ScreenMode>{ScreenMode::Scientific, ScreenMode::Matrix}));
 }
 
 TEST_F(FrameWindowTest, ExitClosesTheScreenAndThenEnds) {

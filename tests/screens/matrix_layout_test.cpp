@@ -1,0 +1,110 @@
+// How the matrix screen looks at every size of window, and as a screen reader finds it.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QFontMetrics>
+
+#include "screens/dialog_layout.h"
+#include "screens/matrix_driver.h"
+#include "screens/screen_layout.h"
+#include "settings/keys.h"
+
+namespace kav::test {
+namespace {
+
+class MatrixLayoutTest : public MatrixScreen {
+ protected:
+  void OpenLargest() {
+    frame_.store.Set(kMatrixRows, 10);
+    frame_.store.Set(kMatrixColumns, 10);
+    Open();
+  }
+};
+
+TEST_F(MatrixLayoutTest, NothingIsCutOrOverlapsAtAnySize) {
+  OpenLargest();
+  std::vector<QSize> sizes(std::begin(kScreenSizes), std::end(kScreenSizes));
+  sizes.insert(sizes.end(), std::begin(kOddSizes), std::end(kOddSizes));
+  for (const QSize size : sizes) {
+    SCOPED_TRACE(std::to_string(size.width()) + "x" + std::to_string(size.height()));
+    ResizeScreen(*dlg_, size);
+    ExpectEveryCaptionFits(*dlg_);
+    ExpectNothingOverlaps(*dlg_, {&Tabs(), &Grid()});
+    const QFontMetrics text = Tabs().fontMetrics();
+    for (int tab = 0; tab < Tabs().count(); ++tab) {
+      EXPECT_GT(Tabs().tabRect(tab).width(), text.horizontalAdvance(Tabs().tabText(tab)));
+      EXPECT_TRUE(Tabs().rect().contains(Tabs().tabRect(tab)));
+    }
+    EXPECT_GE(Tabs().height(), text.height());
+  }
+}
+
+TEST_F(MatrixLayoutTest, ThreeColumnsOfTheDefaultWidthAreSeenWhole) {
+  for (const QSize size : kScreenSizes) {
+    ResizeScreen(*dlg_, size);
+    EXPECT_TRUE(Grid().viewport()->rect().contains(Grid().CellArea({3, 3}))) << size.width();
+  }
+}
+
+TEST_F(MatrixLayoutTest, KeysStandInTheirRows) {
+  const std::vector<std::vector<const char16_t*>> rows{
+      {u"DEG", u"F(X)", u"Tools", u"BS", u"DEL", u"CLR"},
+      {u"M CLS"},
+      {u"MPB", u"MOpers", u"MTools", u"MVar", u"MSize"},
+      {u"7", u"8", u"9", u"(...)", u"Y^N"},
+      {u"4", u"5", u"6", u"*", u"/"},
+      {u"1", u"2", u"3", u"+", u"-"},
+      {u"0", u"00", u".", u"Exp", u"="},
+  };
+  int above = AreaOn(*dlg_, Result(*dlg_)).bottom();
+  for (const auto& row : rows) {
+    int left = -1;
+    for (const char16_t* caption : row) {
+      const QAbstractButton* key = FindKey(*dlg_, caption);
+      ASSERT_NE(key, nullptr) << ToQt(caption).toStdString();
+      const QRect area = AreaOn(*dlg_, *key);
+      EXPECT_GT(area.top(), above);
+      EXPECT_GT(area.left(), left);
+      left = area.right();
+    }
+    above = AreaOn(*dlg_, *FindKey(*dlg_, row.front())).bottom();
+  }
+  EXPECT_EQ(VisibleKeys(*dlg_).size(), 32U);
+}
+
+TEST_F(MatrixLayoutTest, EveryPartHasAName) {
+  const auto nameOf = [](QWidget& widget) {
+    return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name).toStdString();
+  };
+  EXPECT_EQ(nameOf(Expression(*dlg_)), "Expression");
+  EXPECT_EQ(nameOf(Result(*dlg_)), "Result");
+  EXPECT_EQ(nameOf(Tabs()), "[M1]");
+  EXPECT_EQ(nameOf(Grid()), "Cells");
+}
+
+TEST_F(MatrixLayoutTest, TabReachesLineTabsGridAndKeys) {
+  std::vector<QWidget*> reached;
+  Click(Expression(*dlg_));
+  for (int i = 0; i < 4; ++i) {
+    QApplication::focusWidget()->setFocus();
+    Key(Qt::Key_Tab);
+    reached.push_back(QApplication::focusWidget());
+  }
+  EXPECT_EQ(reached[0], &Result(*dlg_));
+  EXPECT_EQ(reached[1], &Tabs());
+  EXPECT_EQ(reached[2], &Grid());
+}
+
+TEST_F(MatrixLayoutTest, TheSizeDialogHasRoomForAllAtAnySize) {
+  for (const QSize size : kScreenSizes) {
+    ResizeScreen(*dlg_, size);
+    BoxWatch::Instance().ExpectDialog([](QDialog& dialog) {
+      ExpectRoomForAll(dialog);
+      dialog.reject();
+    });
+    Tap(u"MSize");
+  }
+}
+
+}  // namespace
+}  // namespace kav::test
