@@ -27,7 +27,7 @@ const std::map<std::string, std::set<std::string>> kMayName{
     {"scientific", {"common", "engine", "macros", "settings"}},
     {"matrix", {"common", "engine", "macros", "scientific", "settings"}},
     {"plotter", {"common", "engine", "scientific", "settings"}},
-    {"statistics", {"common", "engine", "plotter", "settings"}},
+    {"statistics", {"common", "engine", "plotter", "scientific", "settings"}},
     {"matrix/grid", {}},
 };
 
@@ -49,8 +49,10 @@ const std::set<std::string> kNamedByScreensOnly{"macros/macro_editor_model"};
 
 /// What a screen may name of the application around it.
 const std::set<std::string> kOfferedToScreens{
-    "app/screen",     "app/dialog",      "app/dialog_texts", "app/file_choice", "app/key_painter",
-    "app/label_list", "app/line_screen", "app/look",         "app/message_box", "app/qt_text"};
+    "app/bottom_menu_bar", "app/dialog",      "app/dialog_texts", "app/file_choice",
+    "app/formula_view",    "app/key_painter", "app/key_screen",   "app/label_list",
+    "app/line_screen",     "app/line_view",   "app/look",         "app/message_box",
+    "app/qt_text",         "app/screen"};
 
 /// The one file that names the screens of every room.
 const std::string kNamesAllScreens = "app/frame_window";

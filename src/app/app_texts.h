@@ -19,6 +19,7 @@ inline constexpr std::u16string_view kAbout =
 // One per screen, as its window and the Mode menu call it.
 inline constexpr std::u16string_view kScientificScreen = u"Scientific Calculator";
 inline constexpr std::u16string_view kMatrixScreen = u"Matrix Calculator";
+inline constexpr std::u16string_view kPlotterScreen = u"Function Plotter";
 
 // The menus; '&' stands before the letter that chooses the entry together with Alt.
 inline constexpr std::u16string_view kFileMenu = u"&File";

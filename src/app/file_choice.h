@@ -1,7 +1,9 @@
 // Where a file is to be read from or written to: the user's choice.
 #pragma once
 
+#include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -20,5 +22,15 @@ struct FileKind {
 /// begin in the folder of the last choice.
 std::optional<std::string> AskFileToOpen(QWidget* parent, const FileKind& kind);
 std::optional<std::string> AskFileToSave(QWidget* parent, const FileKind& kind);
+
+/// A file that may be written, and the number of its kind.
+struct FileToSave {
+  std::string path;
+  std::size_t kind;
+};
+
+/// The same where the user chooses among `kinds`, of which there is at least one; the first is
+/// preset. The kind is the one that the name's suffix says, else the chosen one.
+std::optional<FileToSave> AskFileToSave(QWidget* parent, std::span<const FileKind> kinds);
 
 }  // namespace kav

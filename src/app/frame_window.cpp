@@ -9,6 +9,7 @@
 
 #include "app/app_texts.h"
 #include "app/qt_text.h"
+#include "app/screen.h"
 #include "converter/converter_dlg.h"
 #include "converter/user_conversion_dlg.h"
 #include "engine/display_settings_dlg.h"
@@ -17,6 +18,7 @@
 #include "matrix/matrix_dlg.h"
 #include "memory/constants_dlg.h"
 #include "memory/memory_variables_dlg.h"
+#include "plotter/plotter_dlg.h"
 #include "scientific/scientific_dlg.h"
 #include "settings/keys.h"
 
@@ -26,6 +28,7 @@ namespace {
 constexpr std::array kScreens{
     ScreenKind{ScreenMode::Scientific, kScientificScreen, MakeScientificScreen},
     ScreenKind{ScreenMode::Matrix, kMatrixScreen, MakeMatrixScreen},
+    ScreenKind{ScreenMode::Plotter, kPlotterScreen, MakePlotterScreen},
 };
 
 /// How long the frame waits to be painted: a desktop may keep a window that it has just been given
@@ -185,6 +188,7 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
   const bool isUsersClose = event->type() == QEvent::Close && watched == Shown() && !isQuitting_;
   if (!isUsersClose) return QWidget::eventFilter(watched, event);
   event->ignore();
+  if (auto* screen = dynamic_cast<Screen*>(watched)) screen->Leaving();
   Exit();
   return true;
 }

@@ -1,7 +1,10 @@
 #include "app/key_screen.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QMenu>
+#include <algorithm>
+#include <array>
 #include <utility>
 
 #include "app/message_box.h"
@@ -104,6 +107,14 @@ Menu OfferedOf(const Menu& items, const std::function<bool(int)>& offered) {
   }
   if (!rest.empty() && rest.back().IsSeparator()) rest.pop_back();
   return rest;
+}
+
+bool IsTyping(const QKeyEvent& event) {
+  if ((event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
+  constexpr std::array kEditing{Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Home, Qt::Key_End,
+                                Qt::Key_Up};
+  return !event.text().isEmpty() ||
+         std::find(kEditing.begin(), kEditing.end(), event.key()) != kEditing.end();
 }
 
 }  // namespace kav

@@ -62,6 +62,10 @@ class KeyScreen : public Screen {
 /// `items` without those that are not `offered`, and without separators that then separate nothing.
 Menu OfferedOf(const Menu& items, const std::function<bool(int)>& offered);
 
+/// Whether `event` types into a line or edits it, and so is of use to one that does not have the
+/// focus.
+bool IsTyping(const QKeyEvent& event);
+
 /// A place of the tables of keys, in dialog units.
 inline QRect UnitsOf(const LinePlace& place) {
   return {place.x, place.y, place.width, place.height};

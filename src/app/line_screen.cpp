@@ -3,8 +3,6 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QTimer>
-#include <algorithm>
-#include <array>
 #include <utility>
 
 #include "app/qt_text.h"
@@ -12,15 +10,6 @@
 
 namespace kav {
 namespace {
-
-/// Whether a key that the focused widget has no use for is typing.
-bool IsForLine(const QKeyEvent& event) {
-  if ((event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
-  constexpr std::array kEditing{Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Home, Qt::Key_End,
-                                Qt::Key_Up};
-  return !event.text().isEmpty() ||
-         std::find(kEditing.begin(), kEditing.end(), event.key()) != kEditing.end();
-}
 
 /// Whether the focus only returns from a menu or another window.
 bool IsReturn(const QFocusEvent& event) {
@@ -82,7 +71,7 @@ void LineScreen::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Down) return Keys().Enter();
     return KeyScreen::keyPressEvent(event);
   }
-  if (!IsForLine(*event)) return KeyScreen::keyPressEvent(event);
+  if (!IsTyping(*event)) return KeyScreen::keyPressEvent(event);
   line_->setFocus();
   QCoreApplication::sendEvent(line_, event);
 }

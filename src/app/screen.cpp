@@ -101,7 +101,10 @@ void Screen::AddFileMenu(const FileCommands& commands) {
                       {kConfigEntry, commands.config},
                       {kEditUnitsEntry, commands.editUnits},
                       {kEditMacroEntry, commands.editMacros},
-                      {kExitEntry, [this] { frame_.Exit(); }}});
+                      {kExitEntry, [this] {
+                         Leaving();
+                         frame_.Exit();
+                       }}});
 }
 
 void Screen::AddEditMenu(const EditHooks& hooks) {
@@ -118,7 +121,10 @@ void Screen::AddEditMenu(const EditHooks& hooks) {
 void Screen::AddModeMenu(ScreenMode own) {
   std::vector<MenuEntry> entries;
   for (const ScreenChoice& choice : frame_.ScreensBeside(own)) {
-    entries.push_back({choice.caption, [this, mode = choice.mode] { frame_.ChangeMode(mode); }});
+    entries.push_back({choice.caption, [this, mode = choice.mode] {
+                         Leaving();
+                         frame_.ChangeMode(mode);
+                       }});
   }
   AddMenu(kModeMenu, entries);
 }

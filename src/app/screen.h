@@ -50,6 +50,9 @@ class Screen : public QWidget {
   /// `size` is that of the body in dialog units; the frame must outlive the screen.
   Screen(Frame& frame, QSize size);
 
+  /// The user leaves the screen, for another or for good: the time to ask what must not be lost.
+  virtual void Leaving() {}
+
  protected:
   /// Called whenever the body has a new size: places everything on it.
   virtual void LayOut(const DialogUnits& units) = 0;

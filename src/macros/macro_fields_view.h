@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QWidget>
 
-#include "macros/formula_view.h"
+#include "app/formula_view.h"
 #include "macros/macro_editor_model.h"
 
 namespace kav {

@@ -6,10 +6,10 @@
 
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
+#include "app/formula_view.h"
 #include "app/label_list.h"
 #include "app/qt_text.h"
 #include "common/number_text.h"
-#include "macros/formula_view.h"
 #include "macros/macro_list_model.h"
 #include "macros/macros_texts.h"
 

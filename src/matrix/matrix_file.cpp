@@ -19,7 +19,7 @@ std::optional<MatrixValue> LoadMatrixFile(const std::string& path) {
 }
 
 std::optional<std::u16string> SaveMatrixFile(const std::string& path, const MatrixValue& matrix) {
-  const auto error = ReplaceFile(path, PrintMatrix(matrix));
+  const auto error = SaveFile(path, PrintMatrix(matrix));
   if (!error) return std::nullopt;
   return MatrixCannotBeSaved(Widen(path), ReasonAndRemedy(*error));
 }

@@ -22,6 +22,7 @@ struct HistoryKeys {
 
 inline constexpr HistoryKeys kCalculatorHistory{kCalHistoryCount, CalHistoryEntry, 1};
 inline constexpr HistoryKeys kMatrixHistory{kCalMHistoryCount, CalMHistoryEntry, 0};
+inline constexpr HistoryKeys kPlotterHistory{kGrapHistoryCount, GrapHistoryEntry, 1};
 
 /// Up to 20 texts, the newest last. An expression is kept as typed; an answer is "=", a base tag
 /// such as "[D]", and the number as it was shown.

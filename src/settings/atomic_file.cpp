@@ -140,6 +140,12 @@ std::optional<FileError> ReplaceFile(const std::string& path, std::string_view c
   return std::nullopt;
 }
 
+std::optional<FileError> SaveFile(const std::string& path, std::string_view content) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) return FileError::NotAFile;
+  return ReplaceFile(FollowLinks(path), content);
+}
+
 void RemoveLeftovers(const std::string& path) {
   const std::string folder = FolderOf(path);
   const std::string_view fileName = std::string_view(path).substr(folder.size());

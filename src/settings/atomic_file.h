@@ -31,6 +31,10 @@ void MakeFoldersFor(const std::string& path);
 /// none.
 std::optional<FileError> ReplaceFile(const std::string& path, std::string_view content);
 
+/// ReplaceFile for a name that the user chose: a link stays, and the file that it leads to is
+/// replaced. FileError::NotAFile for a folder, a device or a pipe.
+std::optional<FileError> SaveFile(const std::string& path, std::string_view content);
+
 /// Removes what ReplaceFile left beside `path` where its process was killed half-way. Only for who
 /// keeps other writers of `path` away meanwhile.
 void RemoveLeftovers(const std::string& path);

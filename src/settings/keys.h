@@ -45,6 +45,21 @@ inline NumberedKey CalMHistoryEntry(int number) {
   return {"MHistory", "CalMHistory" + std::to_string(number), ""};
 }
 
+// The function plotter: its equations (0 to 3), numbered from 0, the texts of its four fields, and
+// its history as that of the scientific screen.
+inline constexpr IntegerKey kEquationCount{"Grapher", "Grapher FunTotalNumber", 0};
+inline NumberedKey StoredEquation(int index) {
+  return {"Grapher", "Fun" + std::to_string(index), ""};
+}
+inline constexpr TextKey kPlotXMin{"Grapher", "X Min", "-10"};
+inline constexpr TextKey kPlotXMax{"Grapher", "X Max", "10"};
+inline constexpr TextKey kPlotYMin{"Grapher", "Y Min", "-10"};
+inline constexpr TextKey kPlotYMax{"Grapher", "Y Max", "10"};
+inline constexpr IntegerKey kGrapHistoryCount{"History", "GrapHistoryCount", 0};
+inline NumberedKey GrapHistoryEntry(int number) {
+  return {"History", "GrapHistory" + std::to_string(number), ""};
+}
+
 // The unit converter's choices: positions in its lists, -1 for none.
 inline constexpr IntegerKey kConverterClass{"Convert", "ClassPos", -1};
 inline constexpr IntegerKey kConverterInput{"Convert", "InputTypePos", -1};

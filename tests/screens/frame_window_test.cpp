@@ -42,6 +42,27 @@ const std::vector<ScreenKind> kAllFive{
     {ScreenMode::Matrix, u"Matrix Calculator", MakeFake<ScreenMode::Matrix>},
 };
 
+/// Notes when its user leaves it.
+class AskingScreen final : public Screen {
+ public:
+  explicit AskingScreen(Frame& frame) : Screen(frame, {100, 100}) {
+    AddFileMenu({});
+    AddModeMenu(ScreenMode::Scientific);
+  }
+  void Leaving() override { events.emplace_back("leaving"); }
+
+ private:
+  void LayOut(const DialogUnits&) override {}
+};
+
+const std::vector<ScreenKind> kOneThatAsks{
+    {ScreenMode::Scientific, u"Scientific Calculator",
+     [](Frame& frame) -> std::unique_ptr<QWidget> {
+       return std::make_unique<AskingScreen>(frame);
+     }},
+    {ScreenMode::Matrix, u"Matrix Calculator", MakeFake<ScreenMode::Matrix>},
+};
+
 class FrameWindowTest : public testing::Test {
  protected:
   FrameWindowTest() { events.clear(); }
@@ -184,8 +205,38 @@ TEST_F(FrameWindowTest, ScreensStandInTheOrderOfTheModeMenu) {
     captions.emplace_back(screen.caption);
     modes.push_back(screen.mode);
   }
-  EXPECT_EQ(captions, (Texts{u"Scientific Calculator", u"Matrix Calculator"}));
-  EXPECT_EQ(modes, (std::vector<ScreenMode>{ScreenMode::Scientific, ScreenMode::Matrix}));
+  EXPECT_EQ(captions, (Texts{u"Scientific Calculator", u"Matrix Calculator", u"Function Plotter"}));
+  EXPECT_EQ(modes, (std::vector<ScreenMode>{ScreenMode::Scientific, ScreenMode::Matrix,
+                                            ScreenMode::Plotter}));
+}
+
+TEST_F(FrameWindowTest, AScreenIsToldBeforeItsUserLeavesItForAnother) {
+  Start(kOneThatAsks);
+  ChooseFrom(*frame_->Shown(), u"&Mode", u"Matrix Calculator");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(events, (std::vector<std::string>{"leaving", "make 5", "show 5"}));
+}
+
+TEST_F(FrameWindowTest, AScreenIsToldBeforeItsUserEndsTheProgram) {
+  Start(kOneThatAsks);
+  ChooseFrom(*frame_->Shown(), u"&File", u"E&xit");
+  EXPECT_EQ(events, std::vector<std::string>{"leaving"});
+  QCoreApplication::processEvents();
+  EXPECT_EQ(finished_, 1);
+}
+
+TEST_F(FrameWindowTest, AScreenIsToldBeforeItsUserClosesTheWindow) {
+  Start(kOneThatAsks);
+  frame_->Shown()->close();
+  EXPECT_EQ(events, std::vector<std::string>{"leaving"});
+  QCoreApplication::processEvents();
+  EXPECT_EQ(finished_, 1);
+}
+
+TEST_F(FrameWindowTest, AScreenThatIsClosedByTheEndOfAllIsNotAsked) {
+  Start(kOneThatAsks);
+  frame_.reset();
+  EXPECT_EQ(events, std::vector<std::string>{});
 }
 
 TEST_F(FrameWindowTest, ExitClosesTheScreenAndThenEnds) {

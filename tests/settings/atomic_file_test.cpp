@@ -224,6 +224,28 @@ TEST(ReplaceFile, AFolderMadeReadOnlyIsAQuestionOfPermission) {
   EXPECT_TRUE(folder.Names().empty());
 }
 
+TEST(SaveFile, ReplacesTheFileThatALinkLeadsTo) {
+  const TemporaryFolder folder;
+  PutFile(folder.File("file"), "old");
+  symlink("file", folder.File("link").c_str());
+  EXPECT_EQ(SaveFile(folder.File("link"), "new"), std::nullopt);
+  EXPECT_EQ(FileContent(folder.File("file")), "new");
+  EXPECT_EQ(FollowLinks(folder.File("link")), folder.File("file"));
+  EXPECT_EQ(SaveFile(folder.File("other"), "first"), std::nullopt);
+  EXPECT_EQ(FileContent(folder.File("other")), "first");
+}
+
+TEST(SaveFile, RefusesWhatIsNoFile) {
+  const TemporaryFolder folder;
+  mkdir(folder.File("folder").c_str(), 0700);
+  mkfifo(folder.File("pipe").c_str(), 0600);
+  symlink("pipe", folder.File("link").c_str());
+  for (const char* name : {"folder", "pipe", "link"}) {
+    EXPECT_EQ(SaveFile(folder.File(name), "new"), FileError::NotAFile) << name;
+  }
+  EXPECT_EQ(folder.Names(), (Names{"folder", "link", "pipe"}));
+}
+
 TEST(RemoveLeftovers, RemovesNewFilesOfThisNameAndNothingElse) {
   const TemporaryFolder folder;
   const Names others{

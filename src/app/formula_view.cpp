@@ -1,4 +1,4 @@
-#include "macros/formula_view.h"
+#include "app/formula_view.h"
 
 #include <QKeyEvent>
 #include <QMimeData>

@@ -1,0 +1,49 @@
+// The equations that the function plotter draws.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "plotter/graph_input.h"
+#include "settings/settings_store.h"
+
+namespace kav {
+
+/// Up to three equations in x, none twice where they were added here. While there are any, one of
+/// them is selected.
+class EquationList {
+ public:
+  static constexpr std::size_t kCapacity = kMostCurves;
+
+  /// The stored equations, the first selected. A count out of range is the nearest one in range,
+  /// and an empty text is no equation.
+  static EquationList Load(const SettingsStore& store);
+  void Save(SettingsStore& store) const;
+
+  const std::vector<std::u16string>& All() const { return equations_; }
+  bool IsEmpty() const { return equations_.empty(); }
+  bool IsFull() const { return equations_.size() == kCapacity; }
+  bool Holds(std::u16string_view equation) const;
+  /// A place in the list, from 0; nullopt for an empty list.
+  std::optional<std::size_t> Selected() const { return selected_; }
+
+  /// Nothing where there is no such place.
+  void Select(std::size_t place);
+  /// Appends `equation` and selects it; a full list stays as it is.
+  void Add(std::u16string equation);
+  /// Removes the selected equation; the one before it is selected then, or else the first.
+  void DeleteSelected();
+
+ private:
+  std::vector<std::u16string> equations_;
+  std::optional<std::size_t> selected_;
+};
+
+/// What the curve of an equation is called that is the `place`-th of the list, from 0 to
+/// kMostCurves - 1: "R:F1(X)=sin(x)".
+std::u16string CurveLabel(std::size_t place, std::u16string_view equation);
+
+}  // namespace kav

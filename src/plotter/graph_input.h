@@ -1,0 +1,47 @@
+// What a graph is opened with.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "engine/calc_modes.h"
+#include "engine/formula_checker.h"
+#include "engine/number_format.h"
+#include "plotter/plot_range.h"
+
+namespace kav {
+
+/// A curve y = f(x). The label is its colour prefix and its equation, such as "R:F1(X)=sin(x)".
+struct GraphCurve {
+  std::u16string label;
+  CheckedFormula formula;
+};
+
+/// A pair of data.
+struct DataPoint {
+  double x;
+  double y;
+
+  bool operator==(const DataPoint&) const = default;
+};
+
+struct GraphOptions {
+  bool hasGrid = true;
+  bool hasLines = true;  ///< else a curve is its points
+  bool hasCoordinates = true;
+
+  bool operator==(const GraphOptions&) const = default;
+};
+
+inline constexpr std::size_t kMostCurves = 3;
+
+struct GraphInput {
+  std::vector<GraphCurve> curves;  ///< 1 to kMostCurves
+  PlotRange range;                 ///< without a RangeRefusal
+  AngleUnit angle = AngleUnit::Degrees;
+  GraphOptions options;
+  DisplayFormat format;           ///< of the numbers shown
+  std::vector<DataPoint> points;  ///< marked by discs; none for the function plotter
+};
+
+}  // namespace kav

@@ -1,0 +1,234 @@
+#include "plotter/graph_model.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+#include "common/number_text.h"
+#include "engine/number_input.h"
+#include "plotter/plotter_texts.h"
+
+namespace kav {
+namespace {
+
+/// The part of the width or height by which a range is zoomed or moved.
+constexpr double kChangePart = 0.2;
+
+/// Both bounds of a direction move by parts of their distance.
+struct Shift {
+  double lower = 0;
+  double upper = 0;
+};
+struct RangeShift {
+  Shift x{};
+  Shift y{};
+};
+
+constexpr Shift kUp{kChangePart, kChangePart};
+constexpr Shift kDown{-kChangePart, -kChangePart};
+constexpr Shift kInwards{kChangePart, -kChangePart};
+constexpr Shift kOutwards{-kChangePart, kChangePart};
+
+/// None for the changes that restore a range.
+RangeShift ShiftOf(RangeChange change) {
+  switch (change) {
+    case RangeChange::MoveLeft:
+      return {.x = kDown};
+    case RangeChange::MoveRight:
+      return {.x = kUp};
+    case RangeChange::MoveUp:
+      return {.y = kUp};
+    case RangeChange::MoveDown:
+      return {.y = kDown};
+    case RangeChange::ZoomIn:
+      return {kInwards, kInwards};
+    case RangeChange::ZoomOut:
+      return {kOutwards, kOutwards};
+    case RangeChange::Reset:
+    case RangeChange::Undo:
+      break;
+  }
+  return {};
+}
+
+PlotRange Shifted(const PlotRange& range, RangeShift shift) {
+  const double width = range.xMax - range.xMin;
+  const double height = range.yMax - range.yMin;
+  return {range.xMin + shift.x.lower * width, range.xMax + shift.x.upper * width,
+          range.yMin + shift.y.lower * height, range.yMax + shift.y.upper * height};
+}
+
+std::u16string Shown(double value, DisplayFormat format) {
+  const auto text = FormatNumber(value, format);
+  return Widen(text ? *text : text.error().message);
+}
+
+}  // namespace
+
+GraphModel::GraphModel(GraphInput input)
+    : input_(std::move(input)),
+      range_(input_.range),
+      undo_(input_.range),
+      options_(input_.options) {
+  Sample();
+}
+
+void GraphModel::SetArea(const PlotArea& area) {
+  if (area == area_) return;
+  area_ = area;
+  Sample();
+}
+
+void GraphModel::Sample() {
+  for (std::size_t i = 0; i < input_.curves.size(); ++i) {
+    rows_[i] =
+        SampleCurve(input_.curves[i].formula, range_, input_.angle, {area_.top, area_.bottom});
+  }
+}
+
+RangeOutcome GraphModel::Change(RangeChange change) {
+  switch (change) {
+    case RangeChange::Undo:
+      return canUndo_ ? Take(undo_) : std::nullopt;
+    case RangeChange::Reset:
+      return Take(input_.range);
+    default:
+      return Take(Shifted(range_, ShiftOf(change)));
+  }
+}
+
+RangeOutcome GraphModel::Apply(const PlotRange& range, const GraphOptions& options) {
+  if (const auto refusal = RangeRefusal(range)) return refusal;
+  options_ = options;
+  return range == range_ ? std::nullopt : Take(range);
+}
+
+RangeOutcome GraphModel::Take(const PlotRange& range) {
+  if (const auto refusal = DrawingRefusal(range)) return refusal;
+  undo_ = std::exchange(range_, range);
+  canUndo_ = true;
+  Sample();
+  return std::nullopt;
+}
+
+RangeOutcome GraphModel::ZoomToBox(GraphPlace from, GraphPlace to) {
+  constexpr double kShortestDrag = 10;
+  const double shortest = kShortestDrag * area_.Scale();
+  const bool isBox =
+      std::fabs(to.column - from.column) >= shortest && std::fabs(to.row - from.row) >= shortest;
+  if (traces_ || !isBox || !IsInPlot(from)) return std::nullopt;
+  const auto yAt = [this](double row) {
+    return range_.yMin +
+           (area_.bottom - row) * (range_.yMax - range_.yMin) / (area_.bottom - area_.top);
+  };
+  const auto xAt = [this](double column) {
+    return range_.xMin +
+           (column - area_.left) * (range_.xMax - range_.xMin) / (area_.right - area_.left);
+  };
+  const auto [left, right] = std::minmax(from.column, to.column);
+  const auto [top, bottom] = std::minmax(from.row, to.row);
+  return Take({xAt(left), xAt(right), yAt(bottom), yAt(top)});
+}
+
+void GraphModel::SelectCurve(int index) {
+  if (index >= 0 && static_cast<std::size_t>(index) < input_.curves.size()) selected_ = index;
+}
+
+bool GraphModel::IsInPlot(GraphPlace place) const {
+  return place.column >= area_.left && place.column <= area_.right && place.row >= area_.top &&
+         place.row <= area_.bottom;
+}
+
+double GraphModel::XAt(double column) const {
+  return range_.xMin +
+         (range_.xMax - range_.xMin) / (area_.right - area_.left) * (column - area_.left);
+}
+
+std::optional<GraphReading> GraphModel::Tap(GraphPlace place) {
+  if (!IsInPlot(place)) return std::nullopt;
+  if (traces_) return Trace(XAt(place.column));
+  tracedX_.reset();
+  return ReadPoint(place);
+}
+
+GraphReading GraphModel::ReadPoint(GraphPlace place) const {
+  const double y = range_.yMin + (range_.yMax - range_.yMin) / (area_.bottom - area_.top + 1) *
+                                     (area_.bottom - place.row + 1);
+  GraphReading reading;
+  reading.x = Shown(XAt(place.column), input_.format);
+  reading.lines.push_back(std::u16string(kTouchedYPrefix) + Shown(y, input_.format));
+  return reading;
+}
+
+Expected<GraphReading, std::u16string> GraphModel::Calculate(std::u16string_view text) {
+  const std::u16string_view typed = TrimBlanks(text).empty() ? std::u16string_view(u"0") : text;
+  const auto x = ReadShownNumber(Narrow(typed));
+  if (!x || !std::isfinite(*x)) return FieldTakesNumbers(kTracedXField, typed);
+  return ReadCurves(*x, typed);
+}
+
+/// The traced x is shown with all of its digits, so that the field holds what is calculated.
+GraphReading GraphModel::Trace(double x) {
+  const auto text = FormatForInsertion(x, input_.format);
+  const std::u16string shown = Widen(text ? *text : text.error().message);
+  GraphReading reading = ReadCurves(ReadShownNumber(Narrow(shown)).value_or(x), shown);
+  tracedX_ = x;
+  reading.xValue = x;
+  return reading;
+}
+
+GraphReading GraphModel::ReadCurves(double x, std::u16string_view shown) {
+  tracedX_ = x;
+  GraphReading reading;
+  reading.x = shown;
+  for (std::size_t i = 0; i < input_.curves.size(); ++i) reading.lines.push_back(ValueLine(i, x));
+  reading.selected = selected_;
+  if (traces_) reading.xValue = x;
+  return reading;
+}
+
+std::u16string GraphModel::ValueLine(std::size_t index, double x) const {
+  const auto y = input_.curves[index].formula.At({.x = x}, input_.angle);
+  return CurveValuePrefix(static_cast<int>(index)) +
+         (y ? Shown(*y, input_.format) : std::u16string(kValueOutOfRange));
+}
+
+std::optional<GraphReading> GraphModel::Step(int columns) {
+  if (!traces_) return std::nullopt;
+  constexpr double kLast = kSampleCount - 1;
+  const double at = tracedX_ ? (*tracedX_ - range_.xMin) / (range_.xMax - range_.xMin) * kLast
+                             : std::floor(kLast / 2);
+  const double sample = std::clamp(std::round(std::clamp(at, 0., kLast)) + columns, 0., kLast);
+  return Trace(SampleX(range_, static_cast<int>(sample)));
+}
+
+std::optional<double> GraphModel::MarkerColumn() const {
+  const bool isInRange = tracedX_ && *tracedX_ >= range_.xMin && *tracedX_ <= range_.xMax;
+  if (!traces_ || !isInRange) return std::nullopt;
+  return area_.left +
+         (*tracedX_ - range_.xMin) / (range_.xMax - range_.xMin) * (area_.right - area_.left);
+}
+
+std::optional<GraphPlace> GraphModel::Marker() const {
+  const auto column = MarkerColumn();
+  if (!column) return std::nullopt;
+  const auto& formula = input_.curves[static_cast<std::size_t>(selected_)].formula;
+  const auto y = formula.At({.x = *tracedX_}, input_.angle);
+  if (!y || *y < range_.yMin || *y > range_.yMax) return std::nullopt;
+  const double row =
+      area_.bottom - (area_.bottom - area_.top) / (range_.yMax - range_.yMin) * (*y - range_.yMin);
+  return GraphPlace{*column, std::clamp<double>(std::trunc(row), area_.top, area_.bottom)};
+}
+
+std::vector<std::u16string> GraphModel::RangeLabels() const {
+  if (!options_.hasCoordinates) return {};
+  const std::array<double, 4> bounds{range_.xMin, range_.xMax, range_.yMin, range_.yMax};
+  std::vector<std::u16string> labels;
+  for (std::size_t i = 0; i < bounds.size(); ++i) {
+    labels.push_back(std::u16string(kRangeLabels[i]) + Shown(bounds[i], input_.format));
+  }
+  return labels;
+}
+
+}  // namespace kav

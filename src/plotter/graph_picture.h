@@ -1,0 +1,68 @@
+// What a graph looks like, as a list of shapes in the order of painting.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "plotter/graph_model.h"
+
+namespace kav {
+
+/// 0xRRGGBB.
+using GraphColour = std::uint32_t;
+
+namespace graph_colour {
+inline constexpr GraphColour kPaper = 0xFFFFFF;
+inline constexpr GraphColour kInk = 0x000000;
+inline constexpr GraphColour kGrid = 0xC0C0C0;
+inline constexpr GraphColour kAxis = 0x008284;
+inline constexpr GraphColour kDisc = 0x0000FF;
+inline constexpr GraphColour kMarker = 0xFF8000;
+inline constexpr std::array<GraphColour, kMostCurves> kCurves{0xFF0000, 0x00FF00, 0x0000FF};
+}  // namespace graph_colour
+
+// Places are centres of pixels, in pixels of the view; sizes are pixels of a plot 230 pixels wide.
+struct GraphFrame {
+  PlotArea area;
+};
+/// A straight line that is a row or a column of pixels.
+struct GraphRule {
+  GraphPlace from;
+  GraphPlace to;
+  GraphColour colour;
+};
+/// A stroke through consecutive places, antialiased.
+struct GraphStroke {
+  std::vector<GraphPlace> places;
+  GraphColour colour;
+};
+struct GraphDot {
+  GraphPlace place;
+  GraphColour colour;
+};
+struct GraphDisc {
+  GraphPlace place;
+  double radius;
+  GraphColour colour;
+};
+/// A text whose lower left corner is at `place`.
+struct GraphText {
+  GraphPlace place;
+  std::u16string text;
+};
+using GraphShape = std::variant<GraphFrame, GraphRule, GraphStroke, GraphDot, GraphDisc, GraphText>;
+using GraphPicture = std::vector<GraphShape>;
+
+/// The picture of `model` in its area: the frame, the grid, the axes and their labels, the curves,
+/// the discs of the data points, the labels of the range. Discs are as many as can be told apart,
+/// however many the points.
+GraphPicture BuildPicture(const GraphModel& model);
+
+/// The trace marker, to be painted over the picture and never saved with it: a line at the traced
+/// x, and a cross line and a disc where the selected curve has a point there. Empty without one.
+GraphPicture BuildMarker(const GraphModel& model);
+
+}  // namespace kav

@@ -1,0 +1,101 @@
+// The function plotter's screen without its pixels: input, equations, range, keys, history,
+// settings.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "common/refusal.h"
+#include "engine/calc_modes.h"
+#include "plotter/equation_list.h"
+#include "plotter/graph_input.h"
+#include "plotter/plotter_keypad.h"
+#include "plotter/range_fields.h"
+#include "scientific/expression_line.h"
+#include "scientific/history.h"
+#include "scientific/key_request.h"
+#include "scientific/key_state.h"
+#include "scientific/screen_menus.h"
+#include "settings/settings_store.h"
+
+namespace kav {
+
+/// The options that have a check box on the screen.
+enum class PlotterOption { Grid, Line };
+
+/// Told with the stop icon; then the field of the range gets the focus, or else the input.
+using PlotterRefusal = Refusal<std::optional<RangeField>>;
+
+// What a key asks of the outside, besides what key_request.h has.
+struct AskDeleteEquation {
+  std::u16string_view question;  ///< on Yes: DeleteEquation
+};
+struct TellNoMacro {};  ///< with the stop icon
+struct PlotCurves {
+  GraphInput graph;
+};
+using PlotterRequest = std::variant<Nothing, PlotterRefusal, ShowHistoryMenu, AskDeleteEquation,
+                                    TellNoMacro, OpenMacroList, PlotCurves>;
+
+/// Holds the whole state of the screen. The store must outlive it.
+class PlotterModel {
+ public:
+  /// Loads the settings, the equations and the history; the input is empty.
+  explicit PlotterModel(SettingsStore& store);
+
+  /// Writes what the screen leaves behind into the store.
+  void Save() const;
+
+  // What the user types and chooses.
+  const ExpressionLine& Input() const { return input_; }
+  void SetInput(ExpressionLine input);
+  const RangeTexts& Range() const { return range_; }
+  void SetRangeText(RangeField field, std::u16string text);
+  const GraphOptions& Options() const { return options_; }
+  void Toggle(PlotterOption option);
+  const EquationList& Equations() const { return equations_; }
+  /// The user's choice of an equation: it is copied into the input.
+  void ChooseEquation(std::size_t place);
+
+  // The keys as they are now.
+  std::u16string_view Caption(PlotterKey key) const;
+  bool IsEnabled(PlotterKey key) const;
+  bool IsVisible(PlotterKey key) const;
+  /// Presses `key`; a disabled or hidden one does nothing.
+  PlotterRequest Press(PlotterKey key);
+  /// Adds the input to the equations, whether the key for it is enabled or not, and then clears it;
+  /// why that cannot be. Whatever was typed is in the history then.
+  std::optional<PlotterRefusal> Add();
+  /// Deletes the selected equation.
+  void DeleteEquation();
+
+  Menu HistoryMenu() const { return BuildHistoryMenu(history_); }
+  /// Inserts an entry into the input; an id that the menu does not offer does nothing.
+  void ChooseHistory(int id);
+  /// Inserts the formula of a macro into the input.
+  void TakeMacro(std::u16string_view formula) { Insert(formula); }
+
+  AngleUnit Angle() const { return angle_; }
+  const History& PastEquations() const { return history_; }
+
+ private:
+  void Change(PlotterKey key);
+  void Write(PlotterKey key);
+  void Insert(std::u16string_view text);
+  PlotterRequest RequestMacroList();
+  PlotterRequest Plot();
+  PlotterRequest PlotIn(const PlotRange& range);
+
+  SettingsStore& store_;
+  AngleUnit angle_;
+  EquationList equations_;
+  RangeTexts range_;
+  History history_;
+  GraphOptions options_;
+  ExpressionLine input_;
+  ShiftState shift_ = ShiftState::Off;
+};
+
+}  // namespace kav

@@ -1,0 +1,133 @@
+// What the user reads about plots.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "common/number_text.h"
+
+namespace kav {
+
+// Why a range is not taken from the user.
+inline constexpr std::u16string_view kXRangeIsEmpty =
+    u"The maximum value of X should be bigger than the minimum value of X.";
+inline constexpr std::u16string_view kYRangeIsEmpty =
+    u"The maximum value of Y should be bigger than the minimum value of Y.";
+
+// Why a zoom or a move is taken back.
+inline constexpr std::u16string_view kXBoundsAreEqual = u"Can not draw graph(X min = X max)";
+inline constexpr std::u16string_view kYBoundsAreEqual = u"Can not draw graph(Y min = Y max)";
+
+// What a field of a number is told that holds none.
+inline std::u16string FieldTakesNumbers(std::u16string_view field, std::u16string_view typed) {
+  // Texts may be of any length, boxes may not.
+  constexpr std::size_t kMostShown = 60;
+  std::u16string text(field);
+  text += u" takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size";
+  if (TrimBlanks(typed).empty()) return text + u"; it is empty.";
+  return text + u", not \"" + Shortened(typed, kMostShown) + u"\".";
+}
+inline constexpr std::u16string_view kTracedXField = u"\"X =\"";
+
+// The results list.
+inline constexpr std::array<std::u16string_view, 3> kCurveTags{u"R:", u"G:", u"B:"};
+inline constexpr std::u16string_view kTouchedYPrefix = u"y = ";
+inline constexpr std::u16string_view kValueOutOfRange = u"Out of range";
+
+/// What opens the line of curve `index`, from 0.
+inline std::u16string CurveValuePrefix(int index) {
+  std::u16string text(kCurveTags[static_cast<std::size_t>(index)]);
+  return text + u"F" + Widen(PrintInteger(index + 1)) + u"(X) = ";
+}
+
+// In the picture.
+inline constexpr std::u16string_view kYAxisLabel = u"x=0";
+inline constexpr std::u16string_view kXAxisLabel = u"y=0";
+inline constexpr std::array<std::u16string_view, 4> kRangeLabels{u"x min=", u"x max=", u"y min=",
+                                                                 u"y max="};
+
+// The screen.
+inline constexpr std::u16string_view kAddCaption = u"A";
+inline constexpr std::u16string_view kDeleteEquationCaption = u"D";
+inline constexpr std::u16string_view kPlotCaption = u"Plot";
+inline constexpr std::u16string_view kVariableCaption = u"X-Var";
+inline constexpr std::u16string_view kGridCaption = u"Grid";
+inline constexpr std::u16string_view kLineCaption = u"Line";
+inline constexpr std::u16string_view kXMinCaption = u"X min";
+inline constexpr std::u16string_view kXMaxCaption = u"X max";
+inline constexpr std::u16string_view kYMinCaption = u"Y min";
+inline constexpr std::u16string_view kYMaxCaption = u"Y max";
+
+/// The variable of an equation.
+inline constexpr std::u16string_view kVariable = u"x";
+
+// The options dialog, which has the captions above as well.
+inline constexpr std::u16string_view kPlotterOptionsTitle = u"Plotter Options";
+inline constexpr std::u16string_view kCoordinatesCaption = u"Coordinates";
+
+// What screen readers call the parts of the screen that have no caption, and its short ones.
+inline constexpr std::u16string_view kEquationInputName = u"Equation";
+inline constexpr std::u16string_view kEquationListName = u"Equations";
+inline constexpr std::u16string_view kAddName = u"Add the equation";
+inline constexpr std::u16string_view kDeleteEquationName = u"Delete the selected equation";
+
+/// What opens the label of a curve, by its place. Users know them as they are, the lower-case x
+/// included.
+inline constexpr std::array<std::u16string_view, 3> kCurvePrefixes{u"R:F1(X)=", u"G:F2(x)=",
+                                                                   u"B:F3(X)="};
+
+/// `text` whole where it has at most `longest` UTF-16 units, else its first `kept` (less one where
+/// that would halve a character) and three points.
+inline std::u16string CutTo(std::u16string_view text, std::size_t longest, std::size_t kept) {
+  if (text.size() <= longest) return OnOneLine(std::u16string(text));
+  const bool halves = (text[kept - 1] & 0xFC00U) == 0xD800U;
+  return OnOneLine(std::u16string(text.substr(0, halves ? kept - 1 : kept))) + u"...";
+}
+
+// Why an equation is not added or plotted.
+inline constexpr std::u16string_view kEquationIsNull = u"Equation is null.";
+inline constexpr std::u16string_view kNoEquationToPlot = u"Please, Add a graph equation.";
+inline std::u16string MaximumOfEquations(std::size_t most) {
+  return u"Maximum of graph equation is " + Widen(PrintInteger(static_cast<std::int64_t>(most)));
+}
+inline std::u16string EquationIsAddedAlready(std::u16string_view equation) {
+  return CutTo(equation, 17, 14) + u" is added already.";
+}
+/// `message` is the engine's.
+inline std::u16string EquationFails(std::u16string_view equation, std::u16string_view message) {
+  return CutTo(equation, 7, 5) + u" : " + std::u16string(message);
+}
+
+inline constexpr std::u16string_view kDeleteEquationQuestion =
+    u"Are you sure you want to delete the selected graph equation?";
+
+// The graph on the screen.
+inline constexpr std::u16string_view kGraphTitle = u"Graph";
+inline constexpr std::u16string_view kTraceCaption = u"Trace";
+inline constexpr std::u16string_view kSaveGraphCaption = u"Save Graph";
+inline constexpr std::u16string_view kTracedXCaption = u"X =";
+inline constexpr std::u16string_view kCalculateCaption = u"Cal";
+inline constexpr std::u16string_view kGraphFileError = u"File Error";
+
+// Its menu; '&' stands before the letter that chooses the entry.
+inline constexpr std::u16string_view kGraphMenu = u"&Graph";
+inline constexpr std::u16string_view kMoveLeftEntry = u"Move &Left";
+inline constexpr std::u16string_view kMoveRightEntry = u"Move &Right";
+inline constexpr std::u16string_view kMoveUpEntry = u"Move &Up";
+inline constexpr std::u16string_view kMoveDownEntry = u"Move &Down";
+inline constexpr std::u16string_view kZoomInEntry = u"Zoom &In";
+inline constexpr std::u16string_view kZoomOutEntry = u"Zoom &Out";
+inline constexpr std::u16string_view kResetEntry = u"Re&set";
+inline constexpr std::u16string_view kUndoRangeEntry = u"U&ndo";
+inline constexpr std::u16string_view kGraphOptionsEntry = u"&Graph Options";
+
+// What screen readers call its parts.
+inline constexpr std::u16string_view kGraphName = u"Graph";
+inline constexpr std::u16string_view kCurveSelectorName = u"Selected equation";
+inline constexpr std::u16string_view kTracedXName = u"X";
+inline constexpr std::u16string_view kGraphResultsName = u"Results";
+
+}  // namespace kav

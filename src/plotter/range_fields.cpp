@@ -1,0 +1,48 @@
+#include "plotter/range_fields.h"
+
+#include <cmath>
+
+#include "common/number_text.h"
+#include "engine/number_input.h"
+#include "plotter/plotter_texts.h"
+
+namespace kav {
+namespace {
+
+constexpr std::array<std::u16string_view, kRangeFields.size()> kCaptions{
+    kXMinCaption, kXMaxCaption, kYMinCaption, kYMaxCaption};
+
+}  // namespace
+
+std::u16string_view CaptionOf(RangeField field) {
+  return kCaptions[IndexOf(field)];
+}
+
+double& BoundOf(PlotRange& range, RangeField field) {
+  constexpr std::array kBounds{&PlotRange::xMin, &PlotRange::xMax, &PlotRange::yMin,
+                               &PlotRange::yMax};
+  return range.*kBounds[IndexOf(field)];
+}
+
+Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts) {
+  PlotRange range;
+  for (const RangeField field : kRangeFields) {
+    const std::u16string& text = texts[IndexOf(field)];
+    const std::optional<double> value = ReadShownNumber(Narrow(text));
+    if (!value || !std::isfinite(*value)) {
+      return Refusal<RangeField>{FieldTakesNumbers(CaptionOf(field), text), field};
+    }
+    BoundOf(range, field) = *value;
+  }
+  return range;
+}
+
+std::optional<Refusal<RangeField>> RefuseRange(const PlotRange& range) {
+  const auto text = RangeRefusal(range);
+  if (!text) return std::nullopt;
+  const double width = range.xMax - range.xMin;
+  const bool isAboutX = width <= 0 || !std::isfinite(width);
+  return Refusal<RangeField>{std::u16string(*text), isAboutX ? RangeField::XMax : RangeField::YMax};
+}
+
+}  // namespace kav
