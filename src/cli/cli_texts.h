@@ -30,12 +30,16 @@ std::string CannotWrite(std::string_view reason);
 std::string CannotKeepHistory(std::string_view path, std::string_view reason);
 inline constexpr std::string_view kNothingToClear =
     "memory clear lacks what to clear: numbers from 1 to 20, or all";
+inline constexpr std::string_view kNeedsTwo =
+    "stats takes --model, --x and --y only together with --two";
 std::string RatesLostDigits(std::string_view conversions);
 inline constexpr std::string_view kLacksCategory =
     "convert lacks the category; kavcalc convert --list shows all";
 inline constexpr std::string_view kListTakesOneCategory = "convert --list takes one category";
 inline constexpr std::string_view kTwoUnits = "a unit and the unit to convert it to";
 inline constexpr std::string_view kOneConversion = "one of its conversions";
+inline constexpr std::string_view kAreaIsEmpty =
+    "the TOP of --area has to be a smaller number than its BOTTOM";
 std::string NoCategoryIs(std::string_view name);
 std::string CategoryTakes(std::string_view category, int number, std::string_view arguments);
 std::string HasNoUnit(std::string_view category, int number, std::string_view given);

@@ -12,6 +12,8 @@
 #include "cli/macro_command.h"
 #include "cli/matrix_command.h"
 #include "cli/memory_command.h"
+#include "cli/plot_command.h"
+#include "cli/stats_command.h"
 
 namespace kav {
 namespace {
@@ -25,6 +27,9 @@ constexpr std::array kCommands{
             "write numbers as the calculator shows them", kFormatDetails, RunFormat},
     Command{"matrix", "matrix [OPTION]... [--] [EXPRESSION]...", "evaluate matrix expressions",
             kMatrixDetails, RunMatrix},
+    Command{"stats", "stats [OPTION]... [--] [FILE]...", "sums, moments and curves of data",
+            kStatsDetails, RunStats},
+    Command{"plot", "plot [OPTION]... [--] [EQUATION]...", "sample curves", kPlotDetails, RunPlot},
     Command{"convert", "convert [OPTION]... [--] CATEGORY FROM [TO] [VALUE]...",
             "convert values to other units", kConvertDetails, RunConvert},
     Command{"keys", "keys [OPTION]... [--] [KEY]...", "press keys of the scientific screen",

@@ -9,10 +9,10 @@ inline constexpr std::string_view kProgramSummary = "The calculator on the comma
 
 inline constexpr std::string_view kItemsHelp =
     R"text(The items are the arguments or, without any, the lines of standard input. Each
-gets one line on standard output, a matrix more; where an item fails, its line
-is "error: " and the reason. "--" ends the options. An argument that begins with
-"-" and a digit, "." or "(" is an item; one that begins with "-" and a letter is
-one only behind "--": kavcalc -- '-sin(30)'
+gets one line on standard output; a matrix, a data file and a curve get more.
+Where an item fails, its line is "error: " and the reason. "--" ends the options.
+An argument that begins with "-" and a digit, "." or "(" is an item; one that
+begins with "-" and a letter is one only behind "--": kavcalc -- '-sin(30)'
 
 Exit status: 0 everything was answered, 1 something failed, 2 the arguments were
 unusable.)text";
@@ -55,6 +55,31 @@ between two cells:
 
   printf '[2*2]\r\n2\t1\r\n1\t1\r\n' >a.txt
   kavcalc matrix --m1 a.txt 'inverse([M1])' '[M1]*[M Ans]' 1+1)text";
+
+inline constexpr std::string_view kPlotDetails =
+    R"text(Samples each equation in x as a plot does, in 230 lines: the number of the
+sample from 0, a tab, its x, a tab, the row of pixels where the curve stands, and
+nothing where it has no point. A blank line is between two equations. --range
+tells what is plotted and --area where: its rows count downwards from TOP, where
+YMAX is, to BOTTOM.
+
+  kavcalc plot 'x^2/10'
+  kavcalc plot --range -5 5 -2 2 --area 0 479 'sin(x)' 1/x)text";
+
+inline constexpr std::string_view kStatsDetails =
+    R"text(Sums the data files up that the statistics screens save: a row is a line of its
+value, a tab and its count, with --two of X, Y and the count. "-" is standard
+input. An answer is several lines, each a name, a tab, and a value with 17
+significant digits: rows, total, sum_x, sum_x2, mean_x, sd_sample_x and
+sd_population_x; with --two also the same of y, sum_xy, and A, B, C and r as far
+as the model has them. Then follow the estimates: y', a tab, X, a tab, the value
+for each --x, and x' (x1' and x2' with quadratic) for each --y.
+
+  models       linear A*X+B, power A*X^B, inverse A/X+B, logarithmic A*ln(X)+B,
+               exponential A*exp(B*X), quadratic A*X^2+B*X+C
+
+  kavcalc stats data.txt
+  kavcalc stats --two --model quadratic --x 2.5 data.txt)text";
 
 inline constexpr std::string_view kConvertDetails =
     R"text(Converts each value from the unit FROM to the unit TO. CATEGORY is the number or

@@ -2,7 +2,11 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <cstddef>
 #include <system_error>
+
+#include "engine/number_input.h"
 
 namespace kav {
 namespace {
@@ -40,11 +44,16 @@ bool TakeVariables(std::string_view choices, std::string_view given, Options& op
   return TakeChoice<VariableType, 0>(choices, given, options.variables);
 }
 
+/// The whole of `text` as an integer.
+bool TakeInteger(std::string_view text, int& integer) {
+  const char* end = text.data() + text.size();
+  const auto read = std::from_chars(text.data(), end, integer);
+  return read.ec == std::errc{} && read.ptr == end;
+}
+
 bool TakePrecision(std::string_view, std::string_view given, Options& options) {
   int& precision = options.display.precision;
-  const char* end = given.data() + given.size();
-  const auto read = std::from_chars(given.data(), end, precision);
-  return read.ec == std::errc{} && read.ptr == end && precision >= 0 &&
+  return TakeInteger(given, precision) && precision >= 0 &&
          precision <= DisplayFormat::kMaxPrecision;
 }
 
@@ -70,6 +79,47 @@ bool TakeMatrixFile(std::string_view, std::string_view given, Options& options) 
   return !given.empty();
 }
 
+bool TakeRange(std::string_view values, std::string_view given, Options& options) {
+  double* const bounds[] = {&options.range.xMin, &options.range.xMax, &options.range.yMin,
+                            &options.range.yMax};
+  const auto words = Words(given);
+  if (words.size() != Words(values).size()) return false;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const auto bound = ReadShownNumber(words[i]);
+    if (!bound) return false;
+    *bounds[i] = *bound;
+  }
+  return true;
+}
+
+bool TakeArea(std::string_view values, std::string_view given, Options& options) {
+  const auto words = Words(given);
+  return words.size() == Words(values).size() && TakeInteger(words[0], options.area.top) &&
+         TakeInteger(words[1], options.area.bottom);
+}
+
+bool TakeTwo(std::string_view, std::string_view, Options& options) {
+  options.shape = DataShape::TwoVariables;
+  return true;
+}
+bool TakeModel(std::string_view choices, std::string_view given, Options& options) {
+  return TakeChoice<RegressionModel, 1>(choices, given, options.model);
+}
+
+/// For a number that a field of the screen would take.
+bool TakeEstimate(std::string_view given, std::vector<double>& estimates) {
+  const auto number = ReadShownNumber(given);
+  if (!number || !std::isfinite(*number)) return false;
+  estimates.push_back(*number);
+  return true;
+}
+bool TakeEstimateAtX(std::string_view, std::string_view given, Options& options) {
+  return TakeEstimate(given, options.estimatesAtX);
+}
+bool TakeEstimateAtY(std::string_view, std::string_view given, Options& options) {
+  return TakeEstimate(given, options.estimatesAtY);
+}
+
 static_assert(DisplayFormat::kMaxPrecision == 99, "the help names the limit");
 constexpr std::array kOptions{
     OptionRow{"--angle", "deg|rad", R"(angle unit [the stored "Angle Type"])", "", TakeAngle},
@@ -90,9 +140,30 @@ constexpr std::array kOptions{
     OptionRow{"--m2", "FILE", "the same for [M2]", "matrix", TakeMatrixFile<1>},
     OptionRow{"--m3", "FILE", "the same for [M3]", "matrix", TakeMatrixFile<2>},
     OptionRow{"--ans", "FILE", "the same for [M Ans]", "matrix", TakeMatrixFile<kAnswerMatrix>},
+    OptionRow{"--two", "", "files of two variables, and a curve through them", "stats", TakeTwo},
+    OptionRow{"--model", "linear|power|inverse|logarithmic|exponential|quadratic",
+              "the curve [linear]", "stats", TakeModel},
+    OptionRow{"--x", "NUMBER", "also estimate Y there; may be repeated", "stats", TakeEstimateAtX,
+              Repeated::EachCounts},
+    OptionRow{"--y", "NUMBER", "also estimate X there; may be repeated", "stats", TakeEstimateAtY,
+              Repeated::EachCounts},
+    OptionRow{"--range", "XMIN XMAX YMIN YMAX", "the range of the plot [-10 10 -10 10]", "plot",
+              TakeRange},
+    OptionRow{"--area", "TOP BOTTOM", "the pixel rows of the plot [0 229]", "plot", TakeArea},
 };
 
 }  // namespace
+
+std::vector<std::string_view> Words(std::string_view text) {
+  std::vector<std::string_view> words;
+  while (true) {
+    const std::size_t start = text.find_first_not_of(' ');
+    if (start == text.npos) return words;
+    text.remove_prefix(start);
+    words.push_back(text.substr(0, text.find(' ')));
+    text.remove_prefix(words.back().size());
+  }
+}
 
 bool IsFor(const OptionRow& row, std::string_view command) {
   return row.commands.empty() || IndexIn(row.commands, command);

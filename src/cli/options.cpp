@@ -22,10 +22,12 @@ bool IsOption(std::string_view argument) {
          kOpensAnExpression.find(argument[1]) == std::string_view::npos;
 }
 
-bool TakesValue(std::string_view name) {
+/// How many values the option called `name` has.
+std::size_t ValueCount(std::string_view name) {
   const auto rows = OptionRows();
-  return std::any_of(rows.begin(), rows.end(),
-                     [&](const OptionRow& row) { return row.name == name && !row.values.empty(); });
+  const auto found = std::find_if(rows.begin(), rows.end(),
+                                  [&](const OptionRow& row) { return row.name == name; });
+  return found == rows.end() ? 0 : Words(found->values).size();
 }
 
 const Command* FindCommand(std::string_view name) {
@@ -70,14 +72,21 @@ class ArgumentSorter {
   void TakeOption(std::string_view argument) {
     const std::size_t mark = argument.find('=');
     const std::string_view name = argument.substr(0, mark);
-    const bool takesValue = TakesValue(name);
-    options_.emplace_back(takesValue ? name : argument);
-    if (!takesValue) return;
+    const std::size_t count = ValueCount(name);
+    options_.emplace_back(count > 0 ? name : argument);
+    if (count == 0) return;
     if (mark != argument.npos) {
       options_.emplace_back(argument.substr(mark + 1));
     } else if (!left_.empty()) {
       options_.emplace_back(Next());
     }
+    if (count > 1) TakeMoreValues(count);
+  }
+
+  /// Goes on with the last value until it is `count` values, which may be one argument or several.
+  void TakeMoreValues(std::size_t count) {
+    std::string& values = options_.back();
+    while (Words(values).size() < count && !left_.empty()) values.append(" ").append(Next());
   }
 
   std::span<const char* const> left_;
@@ -120,7 +129,8 @@ void Register(const OptionRow& row, CLI::App& app, Options& options) {
   };
   app.add_option_function<std::string>(row.name, take, row.help)
       ->type_name(std::string(row.values))
-      ->take_last();
+      ->take_last()
+      ->trigger_on_parse(row.repeated == Repeated::EachCounts);
 }
 
 std::optional<EarlyEnd> ReadOptions(std::vector<std::string> given, const Command& command,

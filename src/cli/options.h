@@ -13,6 +13,10 @@
 #include "engine/number_format.h"
 #include "engine/tokenizer.h"
 #include "matrix/matrix_value.h"
+#include "plotter/curve_sampling.h"
+#include "plotter/plot_range.h"
+#include "statistics/data_list.h"
+#include "statistics/regression.h"
 
 namespace kav {
 
@@ -29,6 +33,12 @@ struct Options {
   bool showsSteps = false;
   bool listsUnits = false;
   std::array<std::string, kMatrixCount> matrixFiles;  ///< empty where there is none
+  DataShape shape = DataShape::OneVariable;
+  RegressionModel model = RegressionModel::Linear;
+  std::vector<double> estimatesAtX;  ///< where Y is asked for
+  std::vector<double> estimatesAtY;  ///< where X is
+  PlotRange range;                   ///< as given: perhaps one to refuse
+  PlotRows area;                     ///< as given, even if bottom is above
 };
 
 /// A command line that can be carried out. `items` are what the command works on, in order; with

@@ -209,7 +209,7 @@ void AppendUtf8(std::string& out, char32_t c) {
 }  // namespace
 
 double DecimalValue(std::uint64_t digits, std::size_t decimals) {
-  constexpr std::array<double, kExactDigits + 1> kPowersOfTen{
+  static constexpr std::array<double, kExactDigits + 1> kPowersOfTen{
       1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
   const auto whole = static_cast<double>(digits);
   // Of two exact doubles, so that the one rounding is the right one.

@@ -30,6 +30,9 @@ TEST(Options, WithoutArgumentsAllIsAsTheHelpSays) {
   EXPECT_EQ(line.options.settingsFile, "");
   EXPECT_EQ(line.options.variables, VariableType::X);
   EXPECT_FALSE(line.options.showsSteps);
+  EXPECT_EQ(line.options.range, (PlotRange{-10, 10, -10, 10}));
+  EXPECT_EQ(line.options.area.top, 0);
+  EXPECT_EQ(line.options.area.bottom, 229);
 }
 
 TEST(Options, EachChoiceStandsForItsValue) {
@@ -77,6 +80,30 @@ TEST(Options, SwitchesTextsAndNumbers) {
   EXPECT_EQ(Read({"--settings", "--raw"}).options.settingsFile, "--raw");
 }
 
+TEST(Options, OptionsOfSeveralValuesTakeThemAsOneArgumentOrSeveral) {
+  const Arguments rows[] = {{"plot", "--range", "-1", "2", "-3e2", ".5", "x"},
+                            {"plot", "--range", "-1 2 -3e2 .5", "x"},
+                            {"plot", "--range=-1", "2", "-3e2 .5", "x"},
+                            {"--range= -1  2 -3e2  .5 ", "plot", "x"},
+                            {"plot", "x", "--range", "-1", "2", "-300", "0.5"}};
+  for (const Arguments& arguments : rows) {
+    const CommandLine line = Read(arguments);
+    EXPECT_EQ(line.options.range, (PlotRange{-1, 2, -300, 0.5}));
+    EXPECT_EQ(line.items, Items{"x"});
+  }
+  const CommandLine line = Read({"plot", "--area", "-5", "7", "-1"});
+  EXPECT_EQ(line.options.area.top, -5);
+  EXPECT_EQ(line.options.area.bottom, 7);
+  EXPECT_EQ(line.items, Items{"-1"});
+}
+
+TEST(Options, WordsAreWhatIsBetweenBlanks) {
+  EXPECT_EQ(Words(""), Items{});
+  EXPECT_EQ(Words("  "), Items{});
+  EXPECT_EQ(Words("a"), Items{"a"});
+  EXPECT_EQ(Words(" a  bc d "), (Items{"a", "bc", "d"}));
+}
+
 TEST(Options, TheFirstArgumentThatIsNoOptionMayNameACommand) {
   struct Row {
     Arguments arguments;
@@ -88,6 +115,7 @@ TEST(Options, TheFirstArgumentThatIsNoOptionMayNameACommand) {
       {{"eval", "1"}, "eval", {"1"}},
       {{"check", "x"}, "check", {"x"}},
       {{"format", "1"}, "format", {"1"}},
+      {{"plot", "x"}, "plot", {"x"}},
       {{"keys", "1"}, "keys", {"1"}},
       {{"macro", "list"}, "macro", {"list"}},
       {{"memory", "store", "3", "-1"}, "memory", {"store", "3", "-1"}},
@@ -116,11 +144,27 @@ TEST(Options, TheFirstArgumentThatIsNoOptionMayNameACommand) {
 
 TEST(Options, UnusableArgumentsEndWithStatus2) {
   const std::vector<Arguments> rows{
-      {"--bogus"},          {"-pi"},          {"--angle"},           {"--angle", "grad"},
-      {"--angle=", "1"},    {"--base", "16"}, {"--precision", "-1"}, {"--precision", "100"},
-      {"--precision="},     {"--settings="},  {"--variables", "x"},  {"--steps"},
-      {"--raw=perhaps"},    {"---"},          {"-x", "1"},           {"memory", "--variables", "x"},
+      {"--bogus"},
+      {"-pi"},
+      {"--angle"},
+      {"--angle", "grad"},
+      {"--angle=", "1"},
+      {"--base", "16"},
+      {"--precision", "-1"},
+      {"--precision", "100"},
+      {"--precision="},
+      {"--settings="},
+      {"--variables", "x"},
+      {"--steps"},
+      {"--raw=perhaps"},
+      {"---"},
+      {"-x", "1"},
+      {"memory", "--variables", "x"},
       {"macro", "--steps"},
+      {"plot", "--range", "1", "2", "3"},
+      {"plot", "--area", "1"},
+      {"plot", "--area", "1", "x"},
+      {"--range", "0", "1", "0", "1"},
   };
   for (const Arguments& arguments : rows) {
     const auto line = ReadCommandLine(arguments);

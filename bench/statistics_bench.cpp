@@ -1,0 +1,182 @@
+// Loading a million rows of data and computing a result, beside the bare loop over the same file
+// that reads the same numbers by the C++ library; and sorting them.
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <malloc.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <new>
+#include <random>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "statistics/data_file.h"
+#include "statistics/one_variable.h"
+
+namespace {
+
+// What this program takes by new, for the memory of a list.
+std::size_t taken = 0;
+std::size_t mostTaken = 0;
+
+}  // namespace
+
+// Inlined, they would look mismatched to the compiler.
+[[gnu::noinline]] void* operator new(std::size_t size) {
+  void* const block = std::malloc(size);
+  if (block == nullptr) throw std::bad_alloc();
+  taken += malloc_usable_size(block);
+  mostTaken = std::max(mostTaken, taken);
+  return block;
+}
+[[gnu::noinline]] void operator delete(void* block) noexcept {
+  taken -= block == nullptr ? 0 : malloc_usable_size(block);
+  std::free(block);
+}
+[[gnu::noinline]] void operator delete(void* block, std::size_t) noexcept {
+  operator delete(block);
+}
+
+namespace kav {
+namespace {
+
+constexpr int kRows = 1'000'000;
+
+/// Of the processor, so that other programs on the machine count less.
+double Seconds() {
+  return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+double Median(std::vector<double>& values) {
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
+}
+
+/// A file of a value with three decimals, a tab and a count in each line.
+class DataFile {
+ public:
+  DataFile() {
+    const int file = mkstemp(path_.data());
+    std::mt19937_64 random(20260101);
+    std::string text;
+    for (int i = 0; i < kRows; ++i) {
+      char line[32];
+      size_ += static_cast<std::size_t>(std::snprintf(
+          line, sizeof line, "%.3f\t%d\r\n", static_cast<double>(random() % 10'000'000) / 1000,
+          static_cast<int>(random() % 9 + 1)));
+      text += line;
+    }
+    if (write(file, text.data(), text.size()) < 0) std::abort();
+    close(file);
+  }
+  DataFile(const DataFile&) = delete;
+  DataFile& operator=(const DataFile&) = delete;
+  ~DataFile() { std::remove(path_.c_str()); }
+
+  const std::string& Path() const { return path_; }
+  std::size_t Size() const { return size_; }
+
+ private:
+  std::string path_ = "/tmp/statistics-bench-XXXXXX";
+  std::size_t size_ = 0;
+};
+
+/// The bound, the least that a program for well-formed files does: it reads blocks of 64 KiB and
+/// takes every value of every line as a double and every count as an integer by std::from_chars,
+/// and adds the values up by their counts. It keeps none of them and looks for no faults.
+double MeanByLibrary(const std::string& path) {
+  const int file = open(path.c_str(), O_RDONLY);
+  std::vector<char> block(65'536);
+  std::size_t kept = 0;
+  double sum = 0;
+  long total = 0;
+  while (true) {
+    const ssize_t got = read(file, block.data() + kept, block.size() - kept);
+    if (got <= 0) break;
+    const char* at = block.data();
+    const char* const end = at + kept + got;
+    const char* last = end;
+    while (last != at && last[-1] != '\n') --last;
+    while (at != last) {
+      double value = 0;
+      long count = 0;
+      const auto behindValue = std::from_chars(at, last, value);
+      const auto behindCount = std::from_chars(behindValue.ptr + 1, last, count);
+      sum += static_cast<double>(count) * value;
+      total += count;
+      at = behindCount.ptr + 2;
+    }
+    kept = static_cast<std::size_t>(end - last);
+    std::memmove(block.data(), last, kept);
+  }
+  close(file);
+  return sum / static_cast<double>(total);
+}
+
+double MeanByList(const std::string& path) {
+  const auto loaded = LoadDataFile(path, DataShape::OneVariable, {});
+  return MomentOf(std::get<DataList>(loaded), 0, Moment::Mean);
+}
+
+/// Both in turn, round by round: `ratio` is the median of those of the rounds.
+void LoadAndMeanBesideLibrary(benchmark::State& state) {
+  const DataFile file;
+  std::vector<double> library;
+  std::vector<double> list;
+  std::vector<double> ratio;
+  const std::size_t before = mostTaken = taken;
+  for (auto _ : state) {
+    const double start = Seconds();
+    const double expected = MeanByLibrary(file.Path());
+    const double middle = Seconds();
+    const double mean = MeanByList(file.Path());
+    const double end = Seconds();
+    if (mean != expected) return state.SkipWithError("the means differ");
+    library.push_back(middle - start);
+    list.push_back(end - middle);
+    ratio.push_back(list.back() / library.back());
+  }
+  state.counters["library_ms"] = 1000 * Median(library);
+  state.counters["list_ms"] = 1000 * Median(list);
+  state.counters["ratio"] = Median(ratio);
+  // Without the few figures above, which are taken as well.
+  state.counters["memory_of_file"] =
+      static_cast<double>(mostTaken - before) / static_cast<double>(file.Size());
+}
+BENCHMARK(LoadAndMeanBesideLibrary)->Unit(benchmark::kMillisecond)->Iterations(15);
+
+enum class Order { Sorted, Reversed, Equal, OrganPipe, Random };
+
+DataList RowsIn(Order order) {
+  std::mt19937_64 random(20260101);
+  DataList list(DataShape::OneVariable);
+  for (int i = 0; i < kRows; ++i) {
+    const int keys[] = {i, -i, 7, std::min(i, kRows - i), static_cast<int>(random() % kRows)};
+    const std::string text = std::to_string(keys[static_cast<int>(order)]);
+    if (list.Append({{text, {}}, 1})) std::abort();
+  }
+  return list;
+}
+
+void Sort(benchmark::State& state) {
+  const auto order = static_cast<Order>(state.range(0));
+  for (auto _ : state) {
+    state.PauseTiming();
+    DataList list = RowsIn(order);
+    state.ResumeTiming();
+    list.Sort(0, DataList::Direction::Ascending);
+  }
+}
+BENCHMARK(Sort)->ArgName("order")->DenseRange(0, 4)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+}  // namespace
+}  // namespace kav

@@ -1,0 +1,48 @@
+#include "statistics/data_fields.h"
+
+#include <cmath>
+#include <string_view>
+
+#include "common/expected.h"
+#include "common/number_text.h"
+#include "engine/number_input.h"
+#include "statistics/statistics_texts.h"
+
+namespace kav {
+namespace {
+
+/// The number in the field called `name`, or what it must be.
+Expected<double, std::u16string> ReadValue(std::u16string_view text, std::u16string_view name) {
+  const auto value = ReadShownNumber(Narrow(text));
+  if (!value) return ValueIsNoNumber(name);
+  if (!std::isfinite(*value)) return ValueIsTooLarge(name);
+  return *value;
+}
+
+}  // namespace
+
+std::optional<std::int32_t> ReadCount(std::u16string_view text) {
+  const auto value = ReadShownNumber(Narrow(text));
+  if (!value || *value < kLeastCount || *value > kLargestCount) return std::nullopt;
+  if (*value != std::trunc(*value)) return std::nullopt;
+  return static_cast<std::int32_t>(*value);
+}
+
+std::variant<FieldNumbers, Refusal<DataField>> ReadTypedRow(const TypedRow& typed,
+                                                            DataShape shape) {
+  FieldNumbers numbers;
+  const auto x = ReadValue(typed.x, kXName);
+  if (!x) return Refusal<DataField>{x.error(), DataField::X};
+  numbers.x = *x;
+  if (shape == DataShape::TwoVariables) {
+    const auto y = ReadValue(typed.y, kYName);
+    if (!y) return Refusal<DataField>{y.error(), DataField::Y};
+    numbers.y = *y;
+  }
+  const auto count = ReadCount(typed.count);
+  if (!count) return Refusal<DataField>{CountIsOutOfRange(), DataField::Count};
+  numbers.count = *count;
+  return numbers;
+}
+
+}  // namespace kav

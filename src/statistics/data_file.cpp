@@ -1,0 +1,168 @@
+#include "statistics/data_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <new>
+#include <span>
+#include <utility>
+
+#include "common/number_text.h"
+#include "settings/atomic_file.h"
+#include "settings/file_descriptor.h"
+#include "statistics/data_reader.h"
+#include "statistics/data_texts.h"
+#include "statistics/progress_clock.h"
+
+namespace kav {
+namespace {
+
+constexpr std::size_t kBlockSize = std::size_t{1} << 16U;
+/// How many rows are printed between two looks at the clock.
+constexpr std::size_t kRowsAtOnce = 1024;
+
+using Loaded = std::variant<DataList, WorkFailed, WorkCancelled>;
+using NotSaved = std::variant<WorkFailed, WorkCancelled>;
+
+/// An open file, read from its start to its end.
+class DataSource {
+ public:
+  explicit DataSource(const std::string& path)
+      : file_(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)) {}
+
+  /// nullopt: it is a file that can be read.
+  std::optional<FileError> Check() {
+    struct stat status {};
+    if (!file_.IsOpen() || fstat(file_.Number(), &status) != 0) return FileErrorFromErrno(errno);
+    if (!S_ISREG(status.st_mode)) return FileError::NotAFile;
+    size_ = static_cast<std::uint64_t>(status.st_size);
+    return std::nullopt;
+  }
+
+  /// The next bytes, none at the end.
+  Expected<std::string_view, FileError> Next() {
+    ssize_t got = 0;
+    do {
+      got = read(file_.Number(), block_.data(), block_.size());
+    } while (got < 0 && errno == EINTR);
+    if (got < 0) return FileErrorFromErrno(errno);
+    position_ += static_cast<std::uint64_t>(got);
+    return std::string_view(block_.data(), static_cast<std::size_t>(got));
+  }
+
+  bool HasShrunk() const { return position_ < size_; }
+  double Done() const {
+    if (position_ >= size_) return 1;
+    return static_cast<double>(position_) / static_cast<double>(size_);
+  }
+
+ private:
+  FileDescriptor file_;
+  std::string block_ = std::string(kBlockSize, '\0');
+  std::uint64_t size_ = 0;
+  std::uint64_t position_ = 0;
+};
+
+/// Why the rows of `source` are not in the list, a clause; or that nobody wants them any more.
+using Unread = std::variant<std::u16string, WorkCancelled>;
+
+std::optional<Unread> ReadAll(DataSource& source, DataReader& reader,
+                              const WorkProgress& progress) {
+  ProgressClock clock(progress);
+  while (true) {
+    if (!clock.GoesOn(source.Done())) return WorkCancelled{};
+    const auto block = source.Next();
+    if (!block) return std::u16string(ReasonOfReading(block.error()));
+    const auto fault = block->empty() ? reader.Finish() : reader.Read(*block);
+    if (fault) return ReasonOf(fault->refusal, fault->line);
+    if (!block->empty()) continue;
+    if (source.HasShrunk()) return std::u16string(kFileHasShrunk);
+    return std::nullopt;
+  }
+}
+
+Loaded NotLoaded(const std::string& path, std::u16string_view reason) {
+  return WorkFailed{DataCannotBeLoaded(Widen(path), reason)};
+}
+
+Loaded LoadRows(const std::string& path, DataShape shape, const WorkProgress& progress) {
+  DataSource source(path);
+  if (const auto error = source.Check()) return NotLoaded(path, ReasonOfReading(*error));
+  DataList list(shape);
+  DataReader reader(shape,
+                    [&list](std::span<const DataRow> rows) { return list.AppendRows(rows); });
+  if (const auto unread = ReadAll(source, reader, progress)) {
+    if (std::holds_alternative<WorkCancelled>(*unread)) return WorkCancelled{};
+    return NotLoaded(path, std::get<std::u16string>(*unread));
+  }
+  return list;
+}
+
+NotSaved NotSavedFor(const std::string& path, std::u16string_view reason) {
+  return WorkFailed{DataCannotBeSaved(Widen(path), reason)};
+}
+
+void AppendRow(std::string& text, const DataList& list, std::size_t row) {
+  for (std::size_t i = 0; i < static_cast<std::size_t>(list.Shape()); ++i) {
+    text.append(list.ValueText(row, i)) += '\t';
+  }
+  text.append(list.CountText(row)).append("\r\n");
+}
+
+/// At least as many bytes as the rows take.
+std::size_t SizeBound(const DataList& list) {
+  constexpr std::size_t kRest = std::string_view("\t\t-2147483648\r\n").size();
+  std::size_t size = 0;
+  for (std::size_t row = 0; row < list.RowCount(); ++row) {
+    size += list.ValueText(row, 0).size() + list.ValueText(row, 1).size() + kRest;
+  }
+  return size;
+}
+
+/// nullopt: given up.
+std::optional<std::string> PrintAll(const DataList& list, const WorkProgress& progress) {
+  ProgressClock clock(progress);
+  const auto rows = static_cast<double>(list.RowCount());
+  std::string text;
+  text.reserve(SizeBound(list));
+  for (std::size_t row = 0; row < list.RowCount(); ++row) {
+    if (row % kRowsAtOnce == 0 && !clock.GoesOn(static_cast<double>(row) / rows)) {
+      return std::nullopt;
+    }
+    AppendRow(text, list, row);
+  }
+  return text;
+}
+
+std::optional<NotSaved> SaveRows(const std::string& path, const DataList& list,
+                                 const WorkProgress& progress) {
+  const auto text = PrintAll(list, progress);
+  if (!text) return WorkCancelled{};
+  const auto error = SaveFile(path, *text);
+  if (error) return NotSavedFor(path, ReasonAndRemedy(*error));
+  return std::nullopt;
+}
+
+}  // namespace
+
+Loaded LoadDataFile(const std::string& path, DataShape shape, const WorkProgress& progress) {
+  try {
+    return LoadRows(path, shape, progress);
+  } catch (const std::bad_alloc&) {
+    return NotLoaded(path, ReasonOf(DataRefusal::NoMemory, 0));
+  }
+}
+
+std::optional<NotSaved> SaveDataFile(const std::string& path, const DataList& list,
+                                     const WorkProgress& progress) {
+  try {
+    return SaveRows(path, list, progress);
+  } catch (const std::bad_alloc&) {
+    return NotSavedFor(path, kNoMemoryToSave);
+  }
+}
+
+}  // namespace kav

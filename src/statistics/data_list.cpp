@@ -1,0 +1,218 @@
+#include "statistics/data_list.h"
+
+#include <algorithm>
+#include <functional>
+#include <limits>
+#include <new>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "common/number_text.h"
+
+namespace kav {
+namespace {
+
+bool IsInt32(std::int64_t value) {
+  return value >= std::numeric_limits<std::int32_t>::min() &&
+         value <= std::numeric_limits<std::int32_t>::max();
+}
+
+}  // namespace
+
+std::string_view DataList::ValueText(std::size_t row, std::size_t variable) const {
+  return TextOf(rows_[row], variable);
+}
+
+double DataList::Value(std::size_t row, std::size_t variable) const {
+  return ReadDataNumber(TextOf(rows_[row], variable));
+}
+
+std::string DataList::CountText(std::size_t row) const {
+  return rows_[row].IsComplete() ? PrintInteger(rows_[row].count) : std::string();
+}
+
+/// Whether the texts of `row` fit, and its count in the place of `replacedCount`.
+inline std::optional<DataRefusal> DataList::Check(const DataRow& row,
+                                                  std::int64_t replacedCount) const {
+  for (std::size_t i = 0; i < Variables(); ++i) {
+    if (row.values[i].size() > kLongestValue) return DataRefusal::ValueTooLong;
+  }
+  if (IsInt32(total_ - replacedCount + row.count.value_or(0))) return std::nullopt;
+  return DataRefusal::TotalOutOfRange;
+}
+
+inline std::optional<DataRefusal> DataList::CheckNew(const DataRow& row) const {
+  if (RowCount() == kMostRows) return DataRefusal::TooManyRows;
+  return Check(row, 0);
+}
+
+/// Makes `stored` the row, with its texts behind all others; false where there is no room for them.
+/// It is written where it stays: a copy of it would be read in another width than it was written
+/// in, for which the processor waits.
+inline bool DataList::Store(const DataRow& row, StoredRow& stored) {
+  const std::string_view second = Variables() == 2 ? row.values[1] : std::string_view();
+  try {
+    if (!texts_.MakeRoom(row.values[0].size() + second.size())) return false;
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
+  stored.place = texts_.PutInRoom(row.values[0], second);
+  stored.lengths[0] = static_cast<std::uint16_t>(row.values[0].size());
+  stored.lengths[1] = static_cast<std::uint16_t>(second.size() | (row.count ? 0U : kNoCount));
+  stored.count = row.count.value_or(0);
+  return true;
+}
+
+inline void DataList::Tally(const StoredRow& row) {
+  total_ += row.count;
+  completeRows_ += row.IsComplete() ? 1U : 0U;
+  textLength_ += row.TextLength();
+}
+
+void DataList::Untally(const StoredRow& row) {
+  total_ -= row.count;
+  completeRows_ -= row.IsComplete() ? 1U : 0U;
+  textLength_ -= row.TextLength();
+}
+
+std::optional<DataRefusal> DataList::InsertTop(const DataRow& row) {
+  if (auto refusal = CheckNew(row)) return refusal;
+  try {
+    rows_.emplace_front();
+  } catch (const std::bad_alloc&) {
+    return DataRefusal::NoMemory;
+  }
+  if (!Store(row, rows_.front())) {
+    rows_.pop_front();
+    return DataRefusal::NoMemory;
+  }
+  Tally(rows_.front());
+  return std::nullopt;
+}
+
+inline std::optional<DataRefusal> DataList::AppendOne(const DataRow& row) {
+  if (auto refusal = CheckNew(row)) return refusal;
+  try {
+    rows_.emplace_back();
+  } catch (const std::bad_alloc&) {
+    return DataRefusal::NoMemory;
+  }
+  if (!Store(row, rows_.back())) {
+    rows_.pop_back();
+    return DataRefusal::NoMemory;
+  }
+  Tally(rows_.back());
+  return std::nullopt;
+}
+
+TakenRows DataList::AppendRows(std::span<const DataRow> rows) {
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (auto refusal = AppendOne(rows[i])) return {i, refusal};
+  }
+  return {rows.size(), std::nullopt};
+}
+
+std::optional<DataRefusal> DataList::InsertTop(const DataList& rows) {
+  if (rows.RowCount() > kMostRows - RowCount()) return DataRefusal::TooManyRows;
+  if (!IsInt32(std::int64_t{total_} + rows.total_)) return DataRefusal::TotalOutOfRange;
+  const auto end = texts_.End();
+  std::optional<DataRefusal> refusal;
+  try {
+    refusal = InsertCopies(rows);
+  } catch (const std::bad_alloc&) {
+    refusal = DataRefusal::NoMemory;
+  }
+  if (refusal) texts_.CutTo(end);
+  return refusal;
+}
+
+std::optional<DataRefusal> DataList::InsertCopies(const DataList& rows) {
+  std::vector<StoredRow> copies(rows.rows_.begin(), rows.rows_.end());
+  for (StoredRow& copy : copies) {
+    if (copy.TextLength() == 0) continue;
+    const auto place = texts_.Put(rows.texts_.At(copy.place, copy.TextLength()), {});
+    if (!place) return DataRefusal::NoMemory;
+    copy.place = *place;
+  }
+  rows_.insert(rows_.begin(), copies.begin(), copies.end());
+  total_ += rows.total_;
+  completeRows_ += rows.completeRows_;
+  textLength_ += rows.textLength_;
+  return std::nullopt;
+}
+
+std::optional<DataRefusal> DataList::Rewrite(std::size_t row, const DataRow& with) {
+  if (auto refusal = Check(with, rows_[row].count)) return refusal;
+  StoredRow stored;
+  if (!Store(with, stored)) return DataRefusal::NoMemory;
+  Untally(rows_[row]);
+  Tally(rows_[row] = stored);
+  CompactTexts();
+  return std::nullopt;
+}
+
+std::optional<DataRefusal> DataList::Erase(std::size_t row) {
+  if (!IsInt32(std::int64_t{total_} - rows_[row].count)) return DataRefusal::TotalOutOfRange;
+  Untally(rows_[row]);
+  rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(row));
+  CompactTexts();
+  return std::nullopt;
+}
+
+void DataList::Clear() {
+  *this = DataList(shape_);
+}
+
+/// Copies the texts that rows have into a new arena when they are less than half of it. Without
+/// the memory for that, all stays as it is.
+void DataList::CompactTexts() {
+  if (texts_.Size() < TextArena::kBlockSize || textLength_ > texts_.Size() / 2) return;
+  try {
+    TextArena texts;
+    std::vector<std::uint32_t> places;
+    places.reserve(rows_.size());
+    for (const StoredRow& row : rows_) {
+      const auto place = texts.Put(TextOf(row, 0), TextOf(row, 1));
+      if (!place) return;
+      places.push_back(*place);
+    }
+    for (std::size_t i = 0; i < places.size(); ++i) rows_[i].place = places[i];
+    texts_ = std::move(texts);
+  } catch (const std::bad_alloc&) {
+    return;
+  }
+}
+
+double DataList::Key(const StoredRow& row, std::size_t column) const {
+  return column < Variables() ? ReadDataNumber(TextOf(row, column)) : row.count;
+}
+
+template <class Before>
+void DataList::SortBy(std::size_t column, Before before) {
+  struct KeyedRow {
+    double key;
+    StoredRow row;
+  };
+  try {
+    std::vector<KeyedRow> keyed;
+    keyed.reserve(rows_.size());
+    for (const StoredRow& row : rows_) keyed.push_back({Key(row, column), row});
+    std::sort(keyed.begin(), keyed.end(),
+              [before](const KeyedRow& a, const KeyedRow& b) { return before(a.key, b.key); });
+    std::transform(keyed.begin(), keyed.end(), rows_.begin(),
+                   [](const KeyedRow& sorted) { return sorted.row; });
+  } catch (const std::bad_alloc&) {
+    // Slower, because each comparison reads two texts, but without any memory.
+    std::sort(rows_.begin(), rows_.end(), [&](const StoredRow& a, const StoredRow& b) {
+      return before(Key(a, column), Key(b, column));
+    });
+  }
+}
+
+void DataList::Sort(std::size_t column, Direction direction) {
+  if (direction == Direction::Ascending) return SortBy(column, std::less<>());
+  SortBy(column, std::greater<>());
+}
+
+}  // namespace kav

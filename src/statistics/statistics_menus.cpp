@@ -1,0 +1,60 @@
+#include "statistics/statistics_menus.h"
+
+#include <array>
+#include <string>
+
+#include "scientific/scientific_texts.h"
+#include "statistics/statistics_texts.h"
+
+namespace kav {
+namespace {
+
+struct ModelChoice {
+  RegressionModel model;
+  std::u16string_view text;
+  std::u16string_view caption;
+};
+
+constexpr std::array kModelChoices{
+    ModelChoice{RegressionModel::Linear, kLinearItem, kLinearCaption},
+    ModelChoice{RegressionModel::Power, kPowerItem, kPowerCaption},
+    ModelChoice{RegressionModel::Inverse, kInverseItem, kInverseCaption},
+    ModelChoice{RegressionModel::Logarithmic, kLogarithmicItem, kLogarithmicCaption},
+    ModelChoice{RegressionModel::Exponential, kExponentialItem, kExponentialCaption},
+    ModelChoice{RegressionModel::Quadratic, kQuadraticItem, kQuadraticCaption},
+};
+
+}  // namespace
+
+Menu BuildVariablesMenu(LastResult result) {
+  Menu menu;
+  if (result == LastResult::CanBeStored) {
+    menu.push_back({variables_item::kStore, std::u16string(kStoreVariable)});
+  }
+  menu.push_back({variables_item::kRecall, std::u16string(kRecallVariable)});
+  return menu;
+}
+
+Menu BuildModelMenu() {
+  Menu menu;
+  for (const ModelChoice& choice : kModelChoices) {
+    menu.push_back({static_cast<int>(choice.model), std::u16string(choice.text)});
+  }
+  return menu;
+}
+
+std::optional<RegressionModel> ModelOfItem(int id) {
+  for (const ModelChoice& choice : kModelChoices) {
+    if (static_cast<int>(choice.model) == id) return choice.model;
+  }
+  return std::nullopt;
+}
+
+std::u16string_view ModelCaption(RegressionModel model) {
+  for (const ModelChoice& choice : kModelChoices) {
+    if (choice.model == model) return choice.caption;
+  }
+  return kLinearCaption;
+}
+
+}  // namespace kav

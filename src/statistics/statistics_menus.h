@@ -1,0 +1,29 @@
+// The pop-up menus of the statistics screens.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "scientific/screen_menus.h"
+#include "statistics/regression.h"
+
+namespace kav {
+
+/// The ids of the menu of memory variables.
+namespace variables_item {
+inline constexpr int kStore = 1;
+inline constexpr int kRecall = 2;
+}  // namespace variables_item
+
+/// Whether there is a result that a memory variable could take.
+enum class LastResult { CanBeStored, CannotBeStored };
+Menu BuildVariablesMenu(LastResult result);
+
+/// The regression models, with their numbers as ids.
+Menu BuildModelMenu();
+/// nullopt for an id that the menu does not have.
+std::optional<RegressionModel> ModelOfItem(int id);
+/// The short name of `model`, as the button shows it that opens the menu.
+std::u16string_view ModelCaption(RegressionModel model);
+
+}  // namespace kav

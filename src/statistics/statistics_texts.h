@@ -1,0 +1,114 @@
+// What the user reads on the statistics screens beside the captions of their buttons.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "common/number_text.h"
+#include "statistics/data_list.h"
+
+namespace kav {
+
+// Fields, list and total.
+inline constexpr std::u16string_view kXLabel = u"X :";
+inline constexpr std::u16string_view kYLabel = u"Y :";
+inline constexpr std::u16string_view kCountLabel = u"Count :";
+inline constexpr std::u16string_view kTotalLabel = u"Total : ";
+inline constexpr std::u16string_view kXHeading = u"X";
+inline constexpr std::u16string_view kYHeading = u"Y";
+inline constexpr std::u16string_view kCountHeading = u"Count";
+inline constexpr std::u16string_view kShortCountHeading = u"Cnt";
+
+// What screen readers call the parts of the screens that have no caption.
+inline constexpr std::u16string_view kXName = u"X";
+inline constexpr std::u16string_view kYName = u"Y";
+inline constexpr std::u16string_view kCountName = u"Count";
+inline constexpr std::u16string_view kTotalName = u"Total";
+inline constexpr std::u16string_view kDataListName = u"Data";
+
+// Questions, and what is told where there is nothing to do.
+inline constexpr std::u16string_view kSaveDataQuestion = u"Do you want to save changes to Data?";
+inline constexpr std::u16string_view kDeleteRowQuestion =
+    u"Are you sure you want to delete the selected data?";
+inline constexpr std::u16string_view kClearRowsQuestion =
+    u"Are you sure you want to delete all data?";
+inline constexpr std::u16string_view kNoRowIsSelected = u"No items were selected!";
+inline constexpr std::u16string_view kXMaximumIsNotBigger =
+    u"The maximum value of X should be bigger than the minimum value of X.";
+inline constexpr std::u16string_view kYMaximumIsNotBigger =
+    u"The maximum value of Y should be bigger than the minimum value of Y.";
+
+// What fields take. `name` is that of the field.
+inline std::u16string ValueIsNoNumber(std::u16string_view name) {
+  return std::u16string(name).append(u" must be a number such as -12.5 or 1.5e-3.");
+}
+inline std::u16string ValueIsTooLarge(std::u16string_view name) {
+  return std::u16string(name).append(
+      u" is too large: it must be a number from -1.79e308 to 1.79e308.");
+}
+inline std::u16string CountIsOutOfRange() {
+  return std::u16string(kCountName)
+      .append(u" must be a whole number from ")
+      .append(Widen(PrintInteger(kLeastCount)))
+      .append(u" to ")
+      .append(Widen(PrintInteger(kLargestCount)))
+      .append(u".");
+}
+
+/// Why rows are not put into a list.
+inline std::u16string WhyRowsDoNotFit(DataRefusal refusal) {
+  switch (refusal) {
+    case DataRefusal::TotalOutOfRange:
+      return u"The total of all counts must be from -2147483648 to 2147483647. The list was not "
+             u"changed.";
+    case DataRefusal::TooManyRows:
+      return u"A list holds up to " +
+             Widen(PrintInteger(static_cast<std::int64_t>(DataList::kMostRows))) +
+             u" rows. The list was not changed.";
+    case DataRefusal::ValueTooLong:
+      return u"A value holds up to " +
+             Widen(PrintInteger(static_cast<std::int64_t>(DataList::kLongestValue))) +
+             u" characters. The list was not changed.";
+    case DataRefusal::NoMemory:
+      break;
+  }
+  return u"There is not enough memory for more rows. The list was not changed.";
+}
+
+// The regression models: in their menu, and on the button that opens it.
+inline constexpr std::u16string_view kLinearItem = u"Linear : A*X+B";
+inline constexpr std::u16string_view kPowerItem = u"Power : A*X^B";
+inline constexpr std::u16string_view kInverseItem = u"Inverse : A/X+B";
+inline constexpr std::u16string_view kLogarithmicItem = u"Logarithmic : A*ln(X)+B";
+inline constexpr std::u16string_view kExponentialItem = u"Exponential : A*exp(B*X)";
+inline constexpr std::u16string_view kQuadraticItem = u"Quadratic : A*X^2+B*X+C";
+inline constexpr std::u16string_view kLinearCaption = u"Lin";
+inline constexpr std::u16string_view kPowerCaption = u"Pow";
+inline constexpr std::u16string_view kInverseCaption = u"Inv";
+inline constexpr std::u16string_view kLogarithmicCaption = u"Log";
+inline constexpr std::u16string_view kExponentialCaption = u"Exp";
+inline constexpr std::u16string_view kQuadraticCaption = u"Quad";
+
+/// A coefficient that is no number makes the text unreadable: beside `message` it tells which.
+inline std::u16string EquationIsUnreadable(std::u16string_view message,
+                                           std::u16string_view equation) {
+  return std::u16string(message).append(u"\n").append(equation);
+}
+inline constexpr std::u16string_view kNoMemoryForGraph =
+    u"There is not enough memory for the graph. Close other programs.";
+
+/// The curve of a plot; its equation follows.
+inline constexpr std::u16string_view kFittedCurvePrefix = u"R:F1(X)=";
+
+// The list and the boxes over it, as the screens show them.
+/// `key` is the number that sorts by a column together with Alt.
+inline std::u16string SortHint(int key) {
+  return std::u16string(u"Sorts the rows (Alt+").append(Widen(PrintInteger(key))).append(u")");
+}
+inline constexpr std::u16string_view kLoadingData = u"Loading Data...";
+inline constexpr std::u16string_view kSavingData = u"Saving Data...";
+inline constexpr std::u16string_view kPastingData = u"Pasting Data...";
+
+}  // namespace kav

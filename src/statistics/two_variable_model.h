@@ -1,0 +1,45 @@
+// The screen of two-variable statistics without its pixels: that of one variable, with regression.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "statistics/regression.h"
+#include "statistics/statistics_model.h"
+
+namespace kav {
+
+class TwoVariableModel final : public StatisticsModel {
+ public:
+  explicit TwoVariableModel(SettingsStore& store)
+      : StatisticsModel(DataShape::TwoVariables, store) {}
+
+  std::u16string_view Caption(StatisticsKey key) const override;
+  bool IsVisible(StatisticsKey key) const override;
+  bool IsEnabled(StatisticsKey key) const override;
+
+  RegressionModel Model() const { return model_; }
+  Menu MenuOfModels() const;
+  /// An id that the menu does not offer does nothing.
+  void ChooseModel(int id);
+
+ private:
+  /// What is kept of the data until they or the model change. Sorting is no such change, though
+  /// sums depend on the order of the rows in their last digits.
+  struct Fit {
+    Coefficients coefficients;
+    double correlation;
+  };
+
+  StatisticsRequest PressResult(StatisticsKey key) override;
+  void Forget() override { fit_.reset(); }
+  const Fit& Fitted();
+  double ValueOf(StatisticsKey key);
+  StatisticsRequest Estimate(StatisticsKey key);
+  StatisticsRequest Plot();
+
+  RegressionModel model_ = RegressionModel::Linear;
+  std::optional<Fit> fit_;
+};
+
+}  // namespace kav

@@ -1,0 +1,1 @@
+kavcalc plot 'foo(x)' '' 'x+y' 5 '(x'

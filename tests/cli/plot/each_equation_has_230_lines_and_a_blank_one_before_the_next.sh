@@ -1,0 +1,7 @@
+# The number of lines, and of fields in each, of one equation after the other.
+kavcalc plot x 'x+' 'sqrt(x)' '-1*x' |
+  awk -F '\t' '$0 == "" { print lines, fields; lines = fields = 0; next }
+    { lines++; fields += NF } END { print lines, fields }'
+kavcalc plot x 'x+' 'sqrt(x)' >answers
+echo $?
+kavcalc plot x | tail -n 1

@@ -1,0 +1,106 @@
+#include "statistics/data_fields.h"
+
+#include <gtest/gtest.h>
+
+#include <string_view>
+#include <vector>
+
+#include "common/number_text.h"
+
+namespace kav {
+namespace {
+
+std::variant<FieldNumbers, Refusal<DataField>> Read(std::u16string_view x, std::u16string_view y,
+                                                    std::u16string_view count) {
+  return ReadTypedRow({std::u16string(x), std::u16string(y), std::u16string(count)},
+                      DataShape::TwoVariables);
+}
+
+TEST(DataFields, FreshFieldsAreEmptyButForACountOfOne) {
+  const TypedRow fresh;
+  EXPECT_EQ(fresh.x, u"");
+  EXPECT_EQ(fresh.y, u"");
+  EXPECT_EQ(fresh.count, u"1");
+}
+
+TEST(DataFields, NumbersAreReadAsTheyAreTypedAndShown) {
+  struct Row {
+    std::u16string_view text;
+    double value;
+  };
+  for (const Row& row :
+       {Row{u"0", 0}, Row{u"-12.5", -12.5}, Row{u"1.5e-3", 0.0015}, Row{u"1.5E3", 1500},
+        Row{u"  7  ", 7}, Row{u"+.5", 0.5}, Row{u"1,234,567.5", 1234567.5}, Row{u"1e308", 1e308}}) {
+    const auto read = Read(row.text, row.text, u"3");
+    ASSERT_TRUE(std::holds_alternative<FieldNumbers>(read)) << Narrow(row.text);
+    const auto& numbers = std::get<FieldNumbers>(read);
+    EXPECT_EQ(numbers.x, row.value) << Narrow(row.text);
+    EXPECT_EQ(numbers.y, row.value) << Narrow(row.text);
+    EXPECT_EQ(numbers.count, 3);
+  }
+}
+
+TEST(DataFields, WhatIsNoNumberIsRefusedWithTheNameOfItsField) {
+  for (const std::u16string_view text :
+       {u"", u" ", u"abc", u"1,5", u"1 2", u"1e", u"--1", u"inf", u"nan", u"0x10", u"\u0663"}) {
+    const auto x = Read(text, u"1", u"1");
+    ASSERT_TRUE(std::holds_alternative<Refusal<DataField>>(x)) << Narrow(text);
+    EXPECT_EQ(std::get<Refusal<DataField>>(x).text, u"X must be a number such as -12.5 or 1.5e-3.");
+    EXPECT_EQ(std::get<Refusal<DataField>>(x).focus, DataField::X);
+
+    const auto y = Read(u"1", text, u"1");
+    ASSERT_TRUE(std::holds_alternative<Refusal<DataField>>(y)) << Narrow(text);
+    EXPECT_EQ(std::get<Refusal<DataField>>(y).text, u"Y must be a number such as -12.5 or 1.5e-3.");
+    EXPECT_EQ(std::get<Refusal<DataField>>(y).focus, DataField::Y);
+  }
+}
+
+TEST(DataFields, NumbersBeyondThoseOfTheMachineAreRefused) {
+  for (const std::u16string_view text : {u"1e309", u"-1e309"}) {
+    const auto x = Read(text, u"1", u"1");
+    ASSERT_TRUE(std::holds_alternative<Refusal<DataField>>(x));
+    EXPECT_EQ(std::get<Refusal<DataField>>(x).text,
+              u"X is too large: it must be a number from -1.79e308 to 1.79e308.");
+    const auto y = Read(u"1", text, u"1");
+    ASSERT_TRUE(std::holds_alternative<Refusal<DataField>>(y));
+    EXPECT_EQ(std::get<Refusal<DataField>>(y).text,
+              u"Y is too large: it must be a number from -1.79e308 to 1.79e308.");
+  }
+}
+
+TEST(DataFields, CountsAreWholeNumbersFromOneToTenThousand) {
+  struct Row {
+    std::u16string_view text;
+    std::int32_t count;
+  };
+  for (const Row& row : {Row{u"1", 1}, Row{u"10000", 10000}, Row{u"10,000", 10000},
+                         Row{u"1e4", 10000}, Row{u" 5.0 ", 5}}) {
+    EXPECT_EQ(ReadCount(row.text), row.count) << Narrow(row.text);
+  }
+  for (const std::u16string_view text :
+       {u"0", u"10001", u"-1", u"1.5", u"0.9999", u"10000.0001", u"", u"x", u"1e309", u"inf"}) {
+    EXPECT_FALSE(ReadCount(text)) << Narrow(text);
+    const auto read = Read(u"1", u"2", text);
+    ASSERT_TRUE(std::holds_alternative<Refusal<DataField>>(read)) << Narrow(text);
+    EXPECT_EQ(std::get<Refusal<DataField>>(read).text,
+              u"Count must be a whole number from 1 to 10000.");
+    EXPECT_EQ(std::get<Refusal<DataField>>(read).focus, DataField::Count);
+  }
+}
+
+TEST(DataFields, FirstBadFieldIsTheOneThatIsRefused) {
+  EXPECT_EQ(std::get<Refusal<DataField>>(Read(u"", u"", u"")).focus, DataField::X);
+  EXPECT_EQ(std::get<Refusal<DataField>>(Read(u"1", u"", u"")).focus, DataField::Y);
+  EXPECT_EQ(std::get<Refusal<DataField>>(Read(u"1", u"1", u"")).focus, DataField::Count);
+}
+
+TEST(DataFields, OneVariableHasNoY) {
+  const auto read = ReadTypedRow({u"2.5", u"not asked", u"4"}, DataShape::OneVariable);
+  ASSERT_TRUE(std::holds_alternative<FieldNumbers>(read));
+  EXPECT_EQ(std::get<FieldNumbers>(read).x, 2.5);
+  EXPECT_EQ(std::get<FieldNumbers>(read).y, 0);
+  EXPECT_EQ(std::get<FieldNumbers>(read).count, 4);
+}
+
+}  // namespace
+}  // namespace kav

@@ -1,0 +1,218 @@
+// The memory that a list takes, and what it does without.
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+#include <cstdlib>
+#include <limits>
+#include <new>
+#include <string>
+
+#include "common/number_text.h"
+#include "settings/temporary_folder.h"
+#include "statistics/data_file.h"
+#include "statistics/data_list.h"
+#include "statistics/pasted_rows.h"
+#include "support/effort.h"
+
+namespace {
+
+constexpr std::size_t kUnlimited = std::numeric_limits<std::size_t>::max();
+
+// Everything that this program takes by new.
+std::size_t taken = 0;
+std::size_t mostTaken = 0;
+std::size_t allowed = kUnlimited;
+
+void* Take(std::size_t size) {
+  if (size > allowed || taken > allowed - size) throw std::bad_alloc();
+  void* const block = std::malloc(size);
+  if (block == nullptr) throw std::bad_alloc();
+  taken += malloc_usable_size(block);
+  mostTaken = std::max(mostTaken, taken);
+  return block;
+}
+
+void Give(void* block) {
+  taken -= block == nullptr ? 0 : malloc_usable_size(block);
+  std::free(block);
+}
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+  return Take(size);
+}
+void* operator new[](std::size_t size) {
+  return Take(size);
+}
+void operator delete(void* block) noexcept {
+  Give(block);
+}
+void operator delete[](void* block) noexcept {
+  Give(block);
+}
+void operator delete(void* block, std::size_t) noexcept {
+  Give(block);
+}
+void operator delete[](void* block, std::size_t) noexcept {
+  Give(block);
+}
+
+namespace kav {
+namespace {
+
+/// While it lives, `more` bytes are left to take.
+class Shortage {
+ public:
+  explicit Shortage(std::size_t more) { allowed = taken + more; }
+  ~Shortage() { allowed = kUnlimited; }
+  Shortage(const Shortage&) = delete;
+  Shortage& operator=(const Shortage&) = delete;
+};
+
+DataList ListOf(std::int64_t rows) {
+  DataList list(DataShape::OneVariable);
+  for (std::int64_t i = 0; i < rows; ++i) {
+    EXPECT_EQ(list.Append({{PrintInteger(i), {}}, 1}), std::nullopt);
+  }
+  return list;
+}
+
+/// Appends until there is no memory for it; answers how many rows there are then.
+std::size_t Fill(DataList& list, std::string_view value) {
+  while (true) {
+    const auto refusal = list.Append({{value, {}}, 1});
+    if (!refusal) continue;
+    EXPECT_EQ(refusal, DataRefusal::NoMemory);
+    return list.RowCount();
+  }
+}
+
+TEST(DataListMemory, LoadingTakesAtMostThreeTimesTheFile) {
+  constexpr int kRows = test::Tries(1'000'000);
+  std::string text;
+  for (int i = 0; i < kRows; ++i) text += std::to_string(i % 9000 + 1000) + ".123\t5\r\n";
+  ASSERT_EQ(text.size(), kRows * 12U);
+  const TemporaryFolder folder;
+  PutFile(folder.File("data.txt"), text);
+  const std::size_t before = mostTaken = taken;
+  const auto loaded = LoadDataFile(folder.File("data.txt"), DataShape::OneVariable, {});
+  ASSERT_TRUE(std::holds_alternative<DataList>(loaded));
+  EXPECT_EQ(std::get<DataList>(loaded).RowCount(), static_cast<std::size_t>(kRows));
+  EXPECT_LE(mostTaken - before, 3 * text.size());
+}
+
+TEST(DataListMemory, ChangesWithoutEndTakeNoMoreThanTwiceTheTexts) {
+  const std::string value(20'000, '1');
+  DataList list(DataShape::OneVariable);
+  for (int i = 0; i < 50; ++i) ASSERT_EQ(list.Append({{value, {}}, 1}), std::nullopt);
+  const std::size_t before = mostTaken = taken;
+  for (std::size_t i = 0; i < 2000; ++i) {
+    ASSERT_EQ(list.Rewrite(i % 50, {{value, {}}, 1}), std::nullopt);
+  }
+  // The old texts and the new ones while they are compacted, and blocks that are not full.
+  EXPECT_LE(mostTaken - before, 3 * 50 * value.size());
+}
+
+TEST(DataListMemory, AnErasedListGivesItsMemoryBack) {
+  const std::size_t before = taken;
+  DataList list = ListOf(100'000);
+  while (list.RowCount() > 0) ASSERT_EQ(list.Erase(list.RowCount() - 1), std::nullopt);
+  EXPECT_LE(taken - before, 600'000U);
+  list.Clear();
+  EXPECT_LE(taken - before, 2'000U);
+}
+
+TEST(DataListMemory, ARowWithoutMemoryIsRefusedAndTheListStays) {
+  DataList list(DataShape::OneVariable);
+  const Shortage shortage(2'000'000);
+  const std::size_t rows = Fill(list, "12345");
+  ASSERT_GT(rows, 50'000U);
+  EXPECT_EQ(list.Total(), static_cast<std::int32_t>(rows));
+  EXPECT_EQ(list.CompleteRowCount(), rows);
+  EXPECT_EQ(list.ValueText(0, 0), "12345");
+  EXPECT_EQ(list.ValueText(rows - 1, 0), "12345");
+}
+
+TEST(DataListMemory, ARewriteWithoutMemoryLeavesTheRow) {
+  const std::string longText(30'000, '7');
+  DataList list(DataShape::OneVariable);
+  ASSERT_EQ(list.Append({{"5", {}}, 3}), std::nullopt);
+  const Shortage shortage(0);
+  std::optional<DataRefusal> refusal;
+  // What is left of the first block takes a few of them.
+  for (int i = 0; i < 20 && !refusal; ++i) {
+    refusal = list.Rewrite(0, {{longText, {}}, 4});
+    if (!refusal) refusal = list.Rewrite(0, {{"6", {}}, 5});
+  }
+  EXPECT_EQ(refusal, DataRefusal::NoMemory);
+  EXPECT_EQ(list.ValueText(0, 0), "6");
+  EXPECT_EQ(list.CountText(0), "5");
+  EXPECT_EQ(list.Total(), 5);
+}
+
+TEST(DataListMemory, RowsWithoutMemoryAreAllRefused) {
+  const DataList rows = ListOf(200'000);
+  for (const std::size_t more : {0U, 1'000U, 300'000U, 2'500'000U, 3'000'000U}) {
+    DataList list = ListOf(3);
+    const Shortage shortage(more);
+    ASSERT_EQ(list.InsertTop(rows), DataRefusal::NoMemory) << more;
+    ASSERT_EQ(list.RowCount(), 3U);
+    ASSERT_EQ(list.Total(), 3);
+    ASSERT_EQ(list.ValueText(2, 0), "2");
+  }
+}
+
+TEST(DataListMemory, SortingGoesWithoutMemory) {
+  DataList list = ListOf(2'000);
+  const Shortage shortage(100);
+  list.Sort(0, DataList::Direction::Descending);
+  for (std::size_t row = 0; row < 2'000; ++row) {
+    ASSERT_EQ(list.Value(row, 0), 1999 - static_cast<double>(row));
+  }
+}
+
+TEST(DataListMemory, AFileTooLargeForTheMemoryIsToldAsSuch) {
+  std::string text;
+  for (int i = 0; i < 300'000; ++i) text += "1234\t1\r\n";
+  const TemporaryFolder folder;
+  const std::string path = folder.File("data.txt");
+  PutFile(path, text);
+  text = {};
+  const Shortage shortage(2'000'000);
+  const auto loaded = LoadDataFile(path, DataShape::OneVariable, {});
+  ASSERT_TRUE(std::holds_alternative<WorkFailed>(loaded));
+  EXPECT_TRUE(std::get<WorkFailed>(loaded).text.ends_with(
+      u": there is not enough memory for its rows; close other programs or split the data into "
+      u"parts."));
+}
+
+TEST(DataListMemory, SavingWithoutMemoryLeavesTheFile) {
+  const TemporaryFolder folder;
+  const std::string path = folder.File("data.txt");
+  PutFile(path, "old");
+  const DataList list = ListOf(50'000);
+  std::optional<std::variant<WorkFailed, WorkCancelled>> failure;
+  {
+    const Shortage shortage(100'000);
+    failure = SaveDataFile(path, list, {});
+  }
+  ASSERT_TRUE(failure && std::holds_alternative<WorkFailed>(*failure));
+  EXPECT_TRUE(std::get<WorkFailed>(*failure).text.ends_with(
+      u": there is not enough memory; close other programs."));
+  EXPECT_EQ(FileContent(path), "old");
+}
+
+TEST(DataListMemory, APasteTooLargeForTheMemoryIsRefused) {
+  std::u16string text;
+  for (int i = 0; i < 200'000; ++i) text += u"1234\t1\n";
+  const Shortage shortage(1'000'000);
+  const auto pasted = ReadPastedRows(text, DataShape::OneVariable, {}, {});
+  ASSERT_TRUE(std::holds_alternative<WorkFailed>(pasted));
+  EXPECT_EQ(std::get<WorkFailed>(pasted).text,
+            u"The rows cannot be pasted: there is not enough memory for its rows; close other "
+            u"programs or split the data into parts.");
+}
+
+}  // namespace
+}  // namespace kav
