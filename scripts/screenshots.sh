@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # screenshots.sh: takes the pictures of the screen in docs/images anew, from the program itself on a
-# display of its own: in decimal, in hexadecimal and with Shift on, its dialogs, and the matrix screen,
+# display of its own: in decimal, in hexadecimal and with Shift on, its dialogs, and the other screens,
 # each at three sizes. Nothing in them depends on the user's settings.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
@@ -49,6 +49,11 @@ Rate = "1.852"
 ClassPos = 6
 InputTypePos = 18
 OutputTypePos = 14
+[Grapher]
+"Grapher FunTotalNumber" = 3
+Fun0 = "8*sin(60*x)"
+Fun1 = "1/x"
+Fun2 = "x^2-5"
 [MemoryVar]
 Var0 = "299792.458"
 Var3 = "-2.5e-12"
@@ -90,6 +95,14 @@ take() {
   wait "$calculator" || true
 }
 
+# What is typed for each row of data: its values, and Enter behind the last.
+rows_of_data() {
+  local row
+  for row in "$@"; do
+    printf '%s\0press:Return\0' "${row/ /$'\t'}"
+  done
+}
+
 ten_by_ten=
 for row in {1..10}; do
   for column in {1..10}; do ten_by_ten+="$((row * column))"$'\t'; done
@@ -111,4 +124,11 @@ for size in 240x320 480x640 1080x1440; do
     'inverse([M1])='
   config=$'"Mode" = 5\n"Matrix Default Row" = 10\n"Matrix Default Col" = 10\n"Matrix Colum Width" = 40' \
     take matrix-10x10 "$size" 1 press:Tab press:Tab press:Tab "$ten_by_ten"
+  mapfile -d '' values < <(rows_of_data 9.8 10.1 9.9 10.4 10)
+  config='"Mode" = 3' take one-variable "$size" 1 "${values[@]}"
+  mapfile -d '' pairs < <(rows_of_data '1 2.1' '2 3.9' '3 6.2' '4 7.8' '5 10.1')
+  config='"Mode" = 4' take two-variable "$size" 1 "${pairs[@]}"
+  config='"Mode" = 4' take regression "$size" 1 "${pairs[@]}" press:alt+p focus:Graph
+  config='"Mode" = 2' take plotter "$size" 1 'sqrt(x)'
+  config='"Mode" = 2' take graph "$size" 1 press:ctrl+Return focus:Graph
 done

@@ -19,6 +19,8 @@ inline constexpr std::u16string_view kAbout =
 // One per screen, as its window and the Mode menu call it.
 inline constexpr std::u16string_view kScientificScreen = u"Scientific Calculator";
 inline constexpr std::u16string_view kMatrixScreen = u"Matrix Calculator";
+inline constexpr std::u16string_view kOneVariableScreen = u"1-Var Statistics";
+inline constexpr std::u16string_view kTwoVariableScreen = u"2-Var Statistics";
 inline constexpr std::u16string_view kPlotterScreen = u"Function Plotter";
 
 // The menus; '&' stands before the letter that chooses the entry together with Alt.

@@ -21,6 +21,8 @@
 #include "plotter/plotter_dlg.h"
 #include "scientific/scientific_dlg.h"
 #include "settings/keys.h"
+#include "statistics/one_variable_dlg.h"
+#include "statistics/two_variable_dlg.h"
 
 namespace kav {
 namespace {
@@ -28,6 +30,8 @@ namespace {
 constexpr std::array kScreens{
     ScreenKind{ScreenMode::Scientific, kScientificScreen, MakeScientificScreen},
     ScreenKind{ScreenMode::Matrix, kMatrixScreen, MakeMatrixScreen},
+    ScreenKind{ScreenMode::OneVariable, kOneVariableScreen, MakeOneVariableScreen},
+    ScreenKind{ScreenMode::TwoVariable, kTwoVariableScreen, MakeTwoVariableScreen},
     ScreenKind{ScreenMode::Plotter, kPlotterScreen, MakePlotterScreen},
 };
 

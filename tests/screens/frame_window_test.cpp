@@ -205,8 +205,10 @@ TEST_F(FrameWindowTest, ScreensStandInTheOrderOfTheModeMenu) {
     captions.emplace_back(screen.caption);
     modes.push_back(screen.mode);
   }
-  EXPECT_EQ(captions, (Texts{u"Scientific Calculator", u"Matrix Calculator", u"Function Plotter"}));
+  EXPECT_EQ(captions, (Texts{u"Scientific Calculator", u"Matrix Calculator", u"1-Var Statistics",
+                             u"2-Var Statistics", u"Function Plotter"}));
   EXPECT_EQ(modes, (std::vector<ScreenMode>{ScreenMode::Scientific, ScreenMode::Matrix,
+                                            ScreenMode::OneVariable, ScreenMode::TwoVariable,
                                             ScreenMode::Plotter}));
 }
 

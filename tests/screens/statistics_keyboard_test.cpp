@@ -1,0 +1,187 @@
+// The statistics screens by the keyboard, by their Edit menu, and with memory variables.
+#include <gtest/gtest.h>
+
+#include "screens/statistics_driver.h"
+
+namespace kav::test {
+namespace {
+
+using StatisticsKeyboardTest = OneVariableScreen;
+
+TEST_F(StatisticsKeyboardTest, TheKeyboardSortsToo) {
+  AddRows("10 1;9 3;-2 2");
+  Key(Qt::Key_2, Qt::AltModifier);
+  EXPECT_EQ(Rows(), "10 1;-2 2;9 3");
+  Key(Qt::Key_1, Qt::AltModifier);
+  EXPECT_EQ(Rows(), "10 1;9 3;-2 2");
+}
+
+TEST_F(StatisticsKeyboardTest, TheListIsWorkedByTheKeyboard) {
+  AddRows("1;2;3");
+  ClickRow(0);
+  Key(Qt::Key_Down);
+  EXPECT_EQ(SelectedRows(), "1");
+  Key(Qt::Key_End);
+  EXPECT_EQ(SelectedRows(), "2");
+  Key(Qt::Key_Home);
+  EXPECT_EQ(SelectedRows(), "0");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(TextIn("X"), "3");
+  EXPECT_TRUE(IsShown(u"Ok"));
+  Key(Qt::Key_Escape);
+  Table().setFocus();
+  ExpectBox(QMessageBox::Yes);
+  Key(Qt::Key_Delete);
+  ExpectSeen(u"Are you sure you want to delete the selected data?", QMessageBox::Question);
+  EXPECT_EQ(Rows(), "2 1;1 1");
+  Focused();
+  EXPECT_TRUE(ListHasFocus()) << "the next row may be next";
+}
+
+TEST_F(StatisticsKeyboardTest, WhatIsTypedAfterTheTabKeyReplacesTheText) {
+  AddRows("1.5 2");
+  Key(Qt::Key_Tab);
+  Type("7");
+  EXPECT_EQ(TextIn("Count"), "7");
+  Key(Qt::Key_Tab, Qt::ShiftModifier);
+  Type("3");
+  EXPECT_EQ(TextIn("X"), "3");
+}
+
+TEST_F(StatisticsKeyboardTest, ADoubleClickEditsTheRow) {
+  AddRows("1;2;3");
+  QTest::mouseDClick(Table().viewport(), Qt::LeftButton, {}, PlaceOf(1));
+  ClickRow(1);
+  Tap(u"Cancel Edit");
+  Tap(u"Cancel");
+  QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, PlaceOf(2));
+  QTest::mouseDClick(Table().viewport(), Qt::LeftButton, {}, PlaceOf(2));
+  EXPECT_TRUE(IsShown(u"Ok"));
+  EXPECT_EQ(TextIn("X"), "1");
+}
+
+TEST_F(StatisticsKeyboardTest, WhatIsTypedIntoTheListGoesToTheFieldOfLate) {
+  AddRows("1;2");
+  Field("Count").setFocus();
+  Field("Count").selectAll();
+  ClickRow(0);
+  Type("35");
+  EXPECT_EQ(TextIn("Count"), "35");
+  EXPECT_TRUE(HasFocus("Count"));
+}
+
+TEST_F(StatisticsKeyboardTest, ANegativeSumUnderTheRootShowsTheMessageAndCannotBeStored) {
+  frame_.rooms.storeVariable = [](QWidget*, const std::u16string&) {};
+  frame_.rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
+  Open();
+  // With counts below 0, as files may hold them: N = -1, and the sum is 2e18 / -1.
+  Load("1.0e+9\t1\r\n1.0e+9\t-3\r\n0\t1\r\n");
+  TapKey(u"σ(n) of X");
+  EXPECT_EQ(Answer(), u"Out of range(overflow or underflow)");
+  Tap(u"MEM");
+  EXPECT_EQ(Offered(OpenMenu()), (Texts{u"ReCall MemVar"}));
+  QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+}
+
+TEST_F(StatisticsKeyboardTest, TheLastResultIsStored) {
+  std::u16string stored;
+  frame_.rooms.storeVariable = [&](QWidget*, const std::u16string& value) { stored = value; };
+  frame_.rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
+  Open();
+  AddRows("1000000 1;500000.5 1");
+  EXPECT_EQ(ResultOf(u"ΣX"), u"1,500,000.5");
+  Tap(u"MEM");
+  EXPECT_EQ(Offered(OpenMenu()), (Texts{u"Store MemVar", u"ReCall MemVar"}));
+  const int saves = frame_.saves;
+  Choose(u"Store MemVar");
+  EXPECT_EQ(stored, u"1500000.5");
+  EXPECT_EQ(frame_.saves, saves + 1);
+}
+
+TEST_F(StatisticsKeyboardTest, ARecalledValueReplacesTheFieldOfLate) {
+  frame_.rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(u"1.50"); };
+  Open();
+  Put("X", "77");
+  Click(Field("X"));
+  Tap(u"MEM");
+  Choose(u"ReCall MemVar");
+  EXPECT_EQ(TextIn("X"), "1.5");
+  EXPECT_TRUE(IsAllSelected("X"));
+  Click(Field("Count"));
+  Tap(u"MEM");
+  Choose(u"ReCall MemVar");
+  EXPECT_EQ(TextIn("Count"), "1.5");
+  EXPECT_TRUE(IsAllSelected("Count"));
+}
+
+TEST_F(StatisticsKeyboardTest, ARecallThatIsGivenUpChangesNothing) {
+  frame_.rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
+  Open();
+  Put("X", "77");
+  Tap(u"MEM");
+  EXPECT_EQ(Offered(OpenMenu()), (Texts{u"ReCall MemVar"}));
+  Choose(u"ReCall MemVar");
+  EXPECT_EQ(TextIn("X"), "77");
+}
+
+TEST_F(StatisticsKeyboardTest, WithoutADialogForVariablesTheMenuStaysClosed) {
+  Tap(u"MEM");
+  EXPECT_EQ(OpenMenu(), nullptr);
+}
+
+TEST_F(StatisticsKeyboardTest, TheEditMenuWorksOnTheFieldOfLate) {
+  AddRows("1;2");
+  Put("Count", "345");
+  Click(Field("Count"));
+  ChooseFrom(*dlg_, u"&Edit", u"Select &All");
+  ChooseFrom(*dlg_, u"&Edit", u"Cu&t");
+  EXPECT_EQ(TextIn("Count"), "");
+  EXPECT_EQ(QApplication::clipboard()->text(), "345");
+  Click(Field("X"));
+  ChooseFrom(*dlg_, u"&Edit", u"Select &All");
+  ChooseFrom(*dlg_, u"&Edit", u"&Paste");
+  EXPECT_EQ(TextIn("X"), "345");
+  ChooseFrom(*dlg_, u"&Edit", u"&Undo");
+  EXPECT_EQ(TextIn("X"), "2");
+}
+
+TEST_F(StatisticsKeyboardTest, TheEditMenuWorksOnTheListWhileThatHasTheFocus) {
+  AddRows("1;2;3");
+  ClickRow(1);
+  ChooseFrom(*dlg_, u"&Edit", u"&Copy");
+  EXPECT_EQ(QApplication::clipboard()->text(), "2\t1\n");
+  ChooseFrom(*dlg_, u"&Edit", u"Select &All");
+  EXPECT_EQ(SelectedRows(), "0 1 2");
+  ChooseFrom(*dlg_, u"&Edit", u"&Paste");
+  EXPECT_EQ(Rows(), "2 1;3 1;2 1;1 1");
+}
+
+TEST_F(StatisticsKeyboardTest, TheEditMenuCopiesWhatIsSelectedOfTheResult) {
+  AddRows("1000;500");
+  TapKey(u"ΣX");
+  Result(*dlg_).setFocus();
+  Result(*dlg_).selectAll();
+  ChooseFrom(*dlg_, u"&Edit", u"&Copy");
+  EXPECT_EQ(QApplication::clipboard()->text(), "1,500");
+}
+
+TEST_F(StatisticsKeyboardTest, ArrowsLeadThroughFieldsAndKeys) {
+  Key(Qt::Key_Down);
+  EXPECT_TRUE(HasFocus("Count"));
+  Key(Qt::Key_Down);
+  EXPECT_EQ(QApplication::focusWidget(), FindKey(*dlg_, u"Add"));
+  Key(Qt::Key_Up);
+  EXPECT_TRUE(HasFocus("Count"));
+  Key(Qt::Key_Up);
+  EXPECT_TRUE(HasFocus("X"));
+  Key(Qt::Key_Up);
+  EXPECT_TRUE(HasFocus("X"));
+}
+
+TEST_F(StatisticsKeyboardTest, AltAndALetterWritesNothingWhereTheKeyIsDisabled) {
+  Key(Qt::Key_C, Qt::AltModifier);
+  EXPECT_EQ(TextIn("X"), "");
+}
+
+}  // namespace
+}  // namespace kav::test
