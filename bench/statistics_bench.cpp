@@ -1,12 +1,10 @@
 // Loading a million rows of data and computing a result, beside the bare loop over the same file
 // that reads the same numbers by the C++ library; and sorting them.
 #include <benchmark/benchmark.h>
-#include <fcntl.h>
 #include <malloc.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -18,6 +16,7 @@
 #include <variant>
 #include <vector>
 
+#include "counted_values.h"
 #include "statistics/data_file.h"
 #include "statistics/one_variable.h"
 
@@ -90,35 +89,14 @@ class DataFile {
   std::size_t size_ = 0;
 };
 
-/// The bound, the least that a program for well-formed files does: it reads blocks of 64 KiB and
-/// takes every value of every line as a double and every count as an integer by std::from_chars,
-/// and adds the values up by their counts. It keeps none of them and looks for no faults.
+/// The bound.
 double MeanByLibrary(const std::string& path) {
-  const int file = open(path.c_str(), O_RDONLY);
-  std::vector<char> block(65'536);
-  std::size_t kept = 0;
   double sum = 0;
   long total = 0;
-  while (true) {
-    const ssize_t got = read(file, block.data() + kept, block.size() - kept);
-    if (got <= 0) break;
-    const char* at = block.data();
-    const char* const end = at + kept + got;
-    const char* last = end;
-    while (last != at && last[-1] != '\n') --last;
-    while (at != last) {
-      double value = 0;
-      long count = 0;
-      const auto behindValue = std::from_chars(at, last, value);
-      const auto behindCount = std::from_chars(behindValue.ptr + 1, last, count);
-      sum += static_cast<double>(count) * value;
-      total += count;
-      at = behindCount.ptr + 2;
-    }
-    kept = static_cast<std::size_t>(end - last);
-    std::memmove(block.data(), last, kept);
-  }
-  close(file);
+  ForEachCountedValue(path.c_str(), [&](double value, long count) {
+    sum += static_cast<double>(count) * value;
+    total += count;
+  });
   return sum / static_cast<double>(total);
 }
 

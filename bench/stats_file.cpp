@@ -11,7 +11,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
@@ -19,6 +18,8 @@
 #include <cstring>
 #include <string>
 #include <vector>
+
+#include "counted_values.h"
 
 namespace {
 
@@ -40,32 +41,14 @@ void WriteFile(long lines) {
 }
 
 int SumUp(const char* path) {
-  const int file = open(path, O_RDONLY);
-  std::vector<char> block(65'536);
-  std::size_t kept = 0;
   double sum = 0;
   double squares = 0;
   long total = 0;
-  while (true) {
-    const ssize_t got = read(file, block.data() + kept, block.size() - kept);
-    if (got <= 0) break;
-    const char* at = block.data();
-    const char* const end = at + kept + got;
-    const char* last = end;
-    while (last != at && last[-1] != '\n') --last;
-    while (at != last) {
-      double value = 0;
-      long count = 0;
-      const auto behindValue = std::from_chars(at, last, value);
-      const auto behindCount = std::from_chars(behindValue.ptr + 1, last, count);
-      sum += static_cast<double>(count) * value;
-      squares += value * value * static_cast<double>(count);
-      total += count;
-      at = behindCount.ptr + 2;
-    }
-    kept = static_cast<std::size_t>(end - last);
-    std::memmove(block.data(), last, kept);
-  }
+  kav::ForEachCountedValue(path, [&](double value, long count) {
+    sum += static_cast<double>(count) * value;
+    squares += value * value * static_cast<double>(count);
+    total += count;
+  });
   std::printf("%ld %.17g %.17g\n", total, sum, squares);
   return 0;
 }

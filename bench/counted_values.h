@@ -1,0 +1,43 @@
+// What a program needs at the least to read a file of values and counts: the bound for ours.
+#pragma once
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <charconv>
+#include <cstddef>
+#include <cstring>
+#include <vector>
+
+namespace kav {
+
+/// Calls `use` with the value and the count of each line "value TAB count CR LF" of the file
+/// `path`: blocks of 64 KiB, every value taken as a double and every count as an integer by
+/// std::from_chars, nothing kept, no fault looked for.
+template <class Use>
+void ForEachCountedValue(const char* path, Use use) {
+  const int file = open(path, O_RDONLY);
+  std::vector<char> block(65'536);
+  std::size_t kept = 0;
+  while (true) {
+    const ssize_t got = read(file, block.data() + kept, block.size() - kept);
+    if (got <= 0) break;
+    const char* at = block.data();
+    const char* const end = at + kept + got;
+    const char* last = end;
+    while (last != at && last[-1] != '\n') --last;
+    while (at != last) {
+      double value = 0;
+      long count = 0;
+      const auto behindValue = std::from_chars(at, last, value);
+      const auto behindCount = std::from_chars(behindValue.ptr + 1, last, count);
+      use(value, count);
+      at = behindCount.ptr + 2;
+    }
+    kept = static_cast<std::size_t>(end - last);
+    std::memmove(block.data(), last, kept);
+  }
+  close(file);
+}
+
+}  // namespace kav
