@@ -66,6 +66,13 @@ std::u16string Shown(double value, DisplayFormat format) {
 
 }  // namespace
 
+int RowOf(const PlotRange& range, const PlotArea& area, double y) {
+  const double row =
+      area.bottom - (area.bottom - area.top) / (range.yMax - range.yMin) * (y - range.yMin);
+  // In a range too flat for double, the row of its lower bound comes out as no number.
+  return row < area.bottom ? static_cast<int>(std::max<double>(row, area.top)) : area.bottom;
+}
+
 GraphModel::GraphModel(GraphInput input)
     : input_(std::move(input)),
       range_(input_.range),
@@ -216,9 +223,7 @@ std::optional<GraphPlace> GraphModel::Marker() const {
   const auto& formula = input_.curves[static_cast<std::size_t>(selected_)].formula;
   const auto y = formula.At({.x = *tracedX_}, input_.angle);
   if (!y || *y < range_.yMin || *y > range_.yMax) return std::nullopt;
-  const double row =
-      area_.bottom - (area_.bottom - area_.top) / (range_.yMax - range_.yMin) * (*y - range_.yMin);
-  return GraphPlace{*column, std::clamp<double>(std::trunc(row), area_.top, area_.bottom)};
+  return GraphPlace{*column, static_cast<double>(RowOf(range_, area_, *y))};
 }
 
 std::vector<std::u16string> GraphModel::RangeLabels() const {

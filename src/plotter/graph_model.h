@@ -29,6 +29,10 @@ struct PlotArea {
   bool operator==(const PlotArea&) const = default;
 };
 
+/// The row of pixels in which `y`, which is in the range, stands: never beyond the area for want of
+/// a digit.
+int RowOf(const PlotRange& range, const PlotArea& area, double y);
+
 /// A place of the view in pixels.
 struct GraphPlace {
   double column;

@@ -42,13 +42,6 @@ void AddGrid(const PlotArea& area, GraphPicture& picture) {
   }
 }
 
-/// The row of `y`, which is in the range: never beyond the area for want of a digit.
-int RowOf(const PlotRange& range, const PlotArea& area, double y) {
-  const double row =
-      area.bottom - (area.bottom - area.top) / (range.yMax - range.yMin) * (y - range.yMin);
-  return static_cast<int>(std::clamp<double>(row, area.top, area.bottom));
-}
-
 std::optional<int> XAxisRow(const PlotRange& range, const PlotArea& area) {
   if (!(range.yMax > 0 && range.yMin < 0)) return std::nullopt;
   return RowOf(range, area, 0);

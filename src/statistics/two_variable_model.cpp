@@ -62,7 +62,7 @@ double TwoVariableModel::ValueOf(StatisticsKey key) {
   if (const auto shown = MomentOf(key)) return MomentOf(List(), shown->variable, shown->moment);
   switch (key) {
     case StatisticsKey::Products:
-      return SumUp(List(), model_).Products();
+      return SumUp(List(), RegressionModel::Linear).Products();
     case StatisticsKey::Correlation:
       return Fitted().correlation;
     case StatisticsKey::A:

@@ -265,6 +265,12 @@ GraphModel PointsModel(std::vector<DataPoint> points, const PlotRange& range = {
   return GraphModel(std::move(input));
 }
 
+TEST(GraphPicture, ADataPointOnTheLowerBoundOfARangeTooFlatForDoubleStandsInTheLastRow) {
+  const auto discs = All<GraphDisc>(BuildPicture(PointsModel({{0.5, 0}}, {0, 1, 0, 1e-310})));
+  ASSERT_EQ(discs.size(), 1U);
+  EXPECT_EQ(discs[0].place.row, 229);
+}
+
 TEST(GraphPicture, DataPointsAreBlueDiscsAtTheirPlaces) {
   const auto discs =
       All<GraphDisc>(BuildPicture(PointsModel({{100, 50}, {0.5, 3.5}}, {0, 229, 0, 229})));
