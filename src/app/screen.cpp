@@ -69,9 +69,11 @@ bool CanEditLine(const QLineEdit& line, EditCommand command) {
     case EditCommand::Redo:
       return line.isRedoAvailable();
     case EditCommand::Cut:
+      return !line.isReadOnly() && line.hasSelectedText();
     case EditCommand::Copy:
       return line.hasSelectedText();
     case EditCommand::Paste:
+      return !line.isReadOnly();
     case EditCommand::SelectAll:
       break;
   }

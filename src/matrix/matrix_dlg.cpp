@@ -343,7 +343,10 @@ Menu CMatrixDlg::OfferedMenu(MatrixMenu menu) const {
 bool CMatrixDlg::eventFilter(QObject* watched, QEvent* event) {
   if (watched == &Line() && event->type() == QEvent::FocusIn) editsGrid_ = false;
   if (watched == grid_) {
-    if (event->type() == QEvent::FocusIn) editsGrid_ = true;
+    if (event->type() == QEvent::FocusIn) {
+      editsGrid_ = true;
+      Result().deselect();
+    }
     return event->type() == QEvent::KeyPress && OnGridKey(*static_cast<QKeyEvent*>(event));
   }
   if (watched == grid_->viewport()) {
@@ -389,8 +392,12 @@ bool CMatrixDlg::ShowHint(const QHelpEvent& event) {
   return true;
 }
 
+bool CMatrixDlg::EditsGrid() const {
+  return editsGrid_ && !Result().hasSelectedText();
+}
+
 void CMatrixDlg::Edit(EditCommand command) {
-  if (!editsGrid_) return LineScreen::Edit(command);
+  if (!EditsGrid()) return LineScreen::Edit(command);
   grid_->FinishEdit();
   switch (command) {
     case EditCommand::Undo:
@@ -418,7 +425,7 @@ void CMatrixDlg::Edit(EditCommand command) {
 }
 
 bool CMatrixDlg::CanEdit(EditCommand command) const {
-  if (!editsGrid_) return LineScreen::CanEdit(command);
+  if (!EditsGrid()) return LineScreen::CanEdit(command);
   switch (command) {
     case EditCommand::Undo:
       return model_.CanUndo();

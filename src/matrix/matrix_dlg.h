@@ -58,6 +58,7 @@ class CMatrixDlg final : public LineScreen {
   bool ShowHint(const QHelpEvent& event);
 
   // The Edit menu and its keys work on the grid while that has the focus.
+  bool EditsGrid() const;
   void Edit(EditCommand command) override;
   bool CanEdit(EditCommand command) const override;
   bool OnGridKey(const QKeyEvent& event);

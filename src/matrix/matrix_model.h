@@ -85,7 +85,7 @@ class MatrixModel {
   const Matrices& AllMatrices() const { return board_.All(); }
   int Shown() const { return board_.ShownIndex(); }
   const MatrixValue& ShownMatrix() const { return board_.Shown(); }
-  /// The user's choice of a tab, also of the one that is shown already.
+  /// The user's choice of another tab.
   void Show(int index) { board_.Show(index); }
   const ColumnWidths& Widths() const { return board_.Widths(); }
   void SetColumnWidths(const ColumnWidths& widths) { board_.SetWidths(widths); }

@@ -310,6 +310,19 @@ TEST_F(MatrixDlgTest, TheEditMenuWorksOnTheLineOnceThatHasTheFocus) {
   EXPECT_EQ(SelectedText(), u"12");
 }
 
+TEST_F(MatrixDlgTest, TheEditMenuCopiesWhatIsSelectedOfTheResult) {
+  Evaluate(u"1+1");
+  TypeCells(1, 1, "5");
+  Result(*dlg_).setFocus();
+  Result(*dlg_).selectAll();
+  ChooseFrom(*dlg_, u"&Edit", u"&Copy");
+  EXPECT_EQ(QApplication::clipboard()->text(), "2");
+  ClickCell(1, 1);
+  ClickCell(1, 1, Qt::ShiftModifier);
+  ChooseFrom(*dlg_, u"&Edit", u"Cu&t");
+  EXPECT_EQ(Cells(), "_ _ _;_ _ _;_ _ _");
+}
+
 TEST_F(MatrixDlgTest, AnEqualsSignInTheGridEvaluates) {
   Put(u"3*4");
   ClickCell(1, 1);

@@ -165,6 +165,19 @@ TEST_F(StatisticsKeyboardTest, TheEditMenuCopiesWhatIsSelectedOfTheResult) {
   EXPECT_EQ(QApplication::clipboard()->text(), "1,500");
 }
 
+TEST_F(StatisticsKeyboardTest, TheResultCannotBeCutOrPastedOver) {
+  AddRows("1000;500");
+  TapKey(u"ΣX");
+  Result(*dlg_).setFocus();
+  Result(*dlg_).selectAll();
+  QApplication::clipboard()->setText("7");
+  for (const EditCommand command : {EditCommand::Cut, EditCommand::Paste}) {
+    EXPECT_FALSE(CanEditLine(Result(*dlg_), command));
+  }
+  EXPECT_TRUE(CanEditLine(Result(*dlg_), EditCommand::Copy));
+  EXPECT_EQ(test::ResultOf(*dlg_), u"1,500");
+}
+
 TEST_F(StatisticsKeyboardTest, ArrowsLeadThroughFieldsAndKeys) {
   Key(Qt::Key_Down);
   EXPECT_TRUE(HasFocus("Count"));
