@@ -7,14 +7,16 @@ cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
 declare -A sets=(
   # To build and run the two programs. Line editing is linked from archives, and so is what it stands
-  # on; the font is for machines that have none at all.
+  # on; the fonts are those that look best, for the screens have room for the texts in any.
   [run]="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libcli11-dev libtomlplusplus-dev libedit-dev
-    libncurses-dev libbsd-dev libmd-dev fonts-dejavu-core"
+    libncurses-dev libbsd-dev libmd-dev fonts-dejavu-extra"
   # The window on a desktop that has no X server beside its Wayland one.
   [wayland]="qt6-wayland"
   # The tests and, so that they keep compiling, the benchmarks; locales brings the sources from which
-  # the build makes the foreign locales that the tests run in.
-  [test]="libgtest-dev libgmock-dev libbenchmark-dev locales"
+  # the build makes the foreign locales that the tests run in, and the fonts are those that the screens
+  # are measured in.
+  [test]="libgtest-dev libgmock-dev libbenchmark-dev locales fonts-dejavu-core fonts-dejavu-extra
+    fonts-liberation fonts-noto-core fonts-opendyslexic"
   # The checks beyond the tests. llvm makes the sanitizers' reports name lines instead of addresses;
   # lld links what they have made large in a third of the time.
   [check]="clang clang-format clang-tidy libclang-rt-14-dev lld llvm shellcheck"

@@ -10,6 +10,7 @@ set -euo pipefail
 kavcalc=$(readlink -f -- "$1")
 case=$(readlink -f -- "${2%.sh}.sh")
 case=${case%.sh}
+umask 022
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 locales=("${@:3}")
 work=$(mktemp -d)

@@ -32,7 +32,8 @@ TEST_F(PlotterDlgTest, KeysWriteIntoTheInput) {
   EXPECT_EQ(Text(), u"7894561230.E+-*/^Pi%!Cx");
   Tap(u"BS BS");
   EXPECT_EQ(Text(), u"7894561230.E+-*/^Pi%!");
-  Key(Qt::Key_Home);
+  // Of the formula: Home alone is the beginning of a line, and where that is the face decides.
+  Key(Qt::Key_Home, Qt::ControlModifier);
   Tap(u"DEL");
   EXPECT_EQ(Text(), u"894561230.E+-*/^Pi%!");
   Tap(u"CLR (...) 5");

@@ -1,11 +1,16 @@
-// The main program of every test of screens: no display, no user's settings, no box unasked.
+// The main program of every test of screens: no display, no user's settings, no fonts but its own,
+// no box unasked.
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFontInfo>
 #include <cstdio>
 
+#include "app/look.h"
 #include "screens/box_watch.h"
+#include "screens/test_fonts.h"
 #include "settings/temporary_folder.h"
+#include "support/own_environment.h"
 
 namespace {
 
@@ -21,12 +26,18 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const kav::TemporaryFolder home;
   chmod(home.Path().c_str(), 0700);
-  for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "XDG_DATA_HOME"}) {
-    setenv(name, home.Path().c_str(), 1);
-  }
+  kav::test::TakeOwnEnvironment(home.Path());
+  const kav::test::FontSet& fonts = kav::test::ChosenFontSet();
+  kav::test::UseFonts(fonts, home.Path());
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   qInstallMessageHandler(DropRemarks);
   QApplication application(argc, argv);
+  const std::string face = QFontInfo(kav::ScreenFont(20)).family().toStdString();
+  if (face != fonts.face) {
+    std::fprintf(stderr, "The screens have %s instead of the fonts %s\n", face.c_str(),
+                 fonts.name.data());
+    return 1;
+  }
   QGuiApplication::setQuitOnLastWindowClosed(false);
   kav::test::BoxWatch::Instance();
   return RUN_ALL_TESTS();

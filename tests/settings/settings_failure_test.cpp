@@ -234,6 +234,7 @@ TEST(SettingsFailure, WhatCannotBeReadIsNotOverwritten) {
               return ResultOfSuffering(store, SettingsCannotBeRead(path, FileError::NoPermission));
             }),
             0);
+  chmod(path.c_str(), 0644);
   EXPECT_EQ(FileContent(path), "[Config]\n\"Angle Type\" = 5\n");
 }
 

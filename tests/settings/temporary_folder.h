@@ -26,6 +26,7 @@ class TemporaryFolder {
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
   ~TemporaryFolder() {
+    chmod(path_.c_str(), 0700);  // whatever a test did to it
     std::error_code ignored;
     std::filesystem::remove_all(path_, ignored);
   }

@@ -1,5 +1,5 @@
 place=$(mktemp -d)
-trap 'rm -rf -- "$place"' EXIT
+trap 'chmod 755 "$place"; rm -rf -- "$place"' EXIT
 cp "$FILES/macros.toml" "$place/mine.toml"
 cp -- "$(readlink -f -- "$(command -v kavcalc)")" "$place"
 chmod 555 "$place"
