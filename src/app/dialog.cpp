@@ -49,6 +49,13 @@ QMenu* Dialog::MakePopUp() {
   return menu;
 }
 
+bool Dialog::event(QEvent* event) {
+  const bool isKnown = QDialog::event(event);
+  // Something was shown, or has another text now.
+  if (event->type() == QEvent::LayoutRequest && isVisible()) ScaleDown();
+  return isKnown;
+}
+
 void Dialog::showEvent(QShowEvent* event) {
   for (QWidget* widget : findChildren<QWidget*>()) widget->setStyle(ScreenStyle());
   Scale();
@@ -58,12 +65,12 @@ void Dialog::showEvent(QShowEvent* event) {
 }
 
 void Dialog::resizeEvent(QResizeEvent* event) {
-  Scale();
+  // Before it is shown, its parts have not got their style.
+  if (isVisible()) Scale();
   QDialog::resizeEvent(event);
 }
 
-void Dialog::Scale() {
-  const int text = std::max(TextPixels(height()), 1);
+void Dialog::SetTextHeight(int text) {
   if (font().pixelSize() == text) return;
   setFont(ScreenFont(text));
   for (auto* edit : findChildren<QPlainTextEdit*>())
@@ -73,8 +80,41 @@ void Dialog::Scale() {
   SetMargins(layout(), text / 2);
 }
 
+void Dialog::Scale() {
+  SetTextHeight(std::max(TextPixels(height()), 1));
+  ScaleDown();
+}
+
+void Dialog::ScaleDown() {
+  double excess = Excess();
+  while (excess > 1 && font().pixelSize() > 1) {
+    const int text = font().pixelSize();
+    // All that has to have room shrinks nearly as the text does: the guess is right, or too large
+    // by a pixel or two.
+    SetTextHeight(std::clamp(static_cast<int>(text / excess), 1, text - 1));
+    excess = Excess();
+  }
+}
+
+/// What the parts need at least of the dialog's width or height, by what there is.
+double Dialog::Excess() const {
+  if (layout() == nullptr) return 0;
+  layout()->activate();
+  const QSize needed = layout()->totalMinimumSize();
+  const int high = layout()->hasHeightForWidth() ? layout()->totalMinimumHeightForWidth(width())
+                                                 : needed.height();
+  // Of their heights the parts can give so much of what they keep free above and below their texts.
+  constexpr double kGive = 1.03;
+  return std::max(static_cast<double>(needed.width()) / width(), high / (kGive * height()));
+}
+
 DialogButton::DialogButton(std::u16string_view caption) : QPushButton(ToQt(caption)) {
   setAttribute(Qt::WA_Hover);
+}
+
+QSize DialogButton::minimumSizeHint() const {
+  const int gap = std::max(fontMetrics().height() / 4, 2);
+  return fontMetrics().size(Qt::TextShowMnemonic, text()) + QSize(2 * gap, gap);
 }
 
 QString OneLine(std::u16string_view text) {

@@ -13,7 +13,7 @@ namespace {
 
 /// The share of a result line's height that its text takes, at most and at least.
 constexpr double kLargestText = 0.68;
-constexpr double kSmallestText = 0.45;
+constexpr double kSmallestText = 0.3;
 
 /// As long as a line can be; beyond, widths in pixels leave the range that Qt lays text out in.
 constexpr int kLongestLine = 1 << 20;
@@ -55,7 +55,7 @@ LineView::LineView(QWidget* parent) : QLineEdit(parent) {
 }
 
 void LineView::SetTextHeight(int pixels) {
-  setFont(ScreenFont(pixels));
+  setFont(ScreenFont(PixelsForLine(pixels, height())));
   const int margin = std::max(3, pixels / 4);
   setTextMargins(margin, 0, margin, 0);
 }

@@ -15,6 +15,7 @@ class LineView : public QLineEdit {
  public:
   explicit LineView(QWidget* parent);
 
+  /// Letters are `pixels` high, lower where a line of them would be higher than the widget is now.
   void SetTextHeight(int pixels);
 
  private:

@@ -43,6 +43,25 @@ int FittingPixels(const std::vector<SpacedText>& texts, int most, int least) {
   return pixels;
 }
 
+QStringList LongOnes(const QStringList& texts) {
+  qsizetype longest = 0;
+  for (const QString& text : texts) longest = std::max(longest, text.size());
+  QStringList longOnes;
+  for (const QString& text : texts) {
+    if (3 * text.size() >= 2 * longest) longOnes.append(text);
+  }
+  return longOnes;
+}
+
+int PixelsForLine(int pixels, double height) {
+  while (pixels > 1) {
+    const double line = QFontMetricsF(ScreenFont(pixels)).lineSpacing();
+    if (line <= height) break;
+    pixels = std::clamp(static_cast<int>(pixels * height / line), 1, pixels - 1);
+  }
+  return std::max(pixels, 1);
+}
+
 QPalette ScreenPalette() {
   // The same for the window in front and for those behind it, which so need no new painting.
   QPalette palette(QColor(233, 236, 240), QColor(241, 243, 246));

@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 class QStyle;
@@ -24,6 +25,14 @@ struct SpacedText {
 /// The largest size in pixels, from `most` down to `least`, at which each of the texts has room;
 /// `least` where there is none.
 int FittingPixels(const std::vector<SpacedText>& texts, int most, int least);
+
+/// Those of `texts` that may be the widest in some face: not those with less than two thirds of the
+/// characters of the longest. To measure a few hundred takes longer than a dialog may to open.
+QStringList LongOnes(const QStringList& texts);
+
+/// `pixels`, or the largest size below at which a line is no higher than `height` pixels; at
+/// least 1. The lines of some faces are much higher than their letters.
+int PixelsForLine(int pixels, double height);
 
 /// The colours of a screen, whatever the desktop's are: those of the keys are made for a light one.
 QPalette ScreenPalette();

@@ -20,6 +20,9 @@
 namespace kav {
 namespace {
 
+/// What a list that drops down keeps free before its text.
+constexpr int kComboMargin = 1;
+
 /// The height of the text in what is drawn; 0 where nothing tells it.
 int TextHeight(const QStyleOption* option, const QWidget* widget) {
   if (option != nullptr) return option->fontMetrics.height();
@@ -122,6 +125,7 @@ class TextMeasuredStyle final : public QProxyStyle {
   QRect subElementRect(SubElement element, const QStyleOption* option,
                        const QWidget* widget) const override {
     const QRect usual = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_TabBarTabText) return WithRoomForText(usual, option);
     if (element != SE_LineEditContents) return usual;
     const int margin = option->fontMetrics.height() / 6;
     return usual.adjusted(margin, 0, -margin, 0);
@@ -161,6 +165,7 @@ class TextMeasuredStyle final : public QProxyStyle {
 
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
+    if (element == CE_ComboBoxLabel) return DrawChoice(option, painter, widget);
     const auto* button = dynamic_cast<const QAbstractButton*>(widget);
     if (element != CE_PushButton || button == nullptr) {
       return QProxyStyle::drawControl(element, option, painter, widget);
@@ -183,6 +188,26 @@ class TextMeasuredStyle final : public QProxyStyle {
     }
     DrawField(*option, *painter);
     DrawArrow(subControlRect(control, option, SC_ComboBoxArrow, widget), *option, *painter);
+  }
+
+  /// `usual`, or where the text of a tab needs what is kept free around it, all of the tab.
+  static QRect WithRoomForText(const QRect& usual, const QStyleOption* option) {
+    const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+    if (tab == nullptr) return usual;
+    const int text = tab->fontMetrics.size(Qt::TextShowMnemonic, tab->text).width();
+    return text <= usual.width() ? usual : tab->rect.adjusted(1, 0, -1, 0);
+  }
+
+  /// A text that is too long for its field is seen to be.
+  void DrawChoice(const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
+    const auto* chosen = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (chosen == nullptr)
+      return QProxyStyle::drawControl(CE_ComboBoxLabel, option, painter, widget);
+    QStyleOptionComboBox shown = *chosen;
+    const int room =
+        subControlRect(CC_ComboBox, chosen, SC_ComboBoxEditField, widget).width() - kComboMargin;
+    shown.currentText = shown.fontMetrics.elidedText(shown.currentText, Qt::ElideRight, room);
+    QProxyStyle::drawControl(CE_ComboBoxLabel, &shown, painter, widget);
   }
 
   /// The box of what is typed or chosen.

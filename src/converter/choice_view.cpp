@@ -5,8 +5,7 @@
 #include <QStyledItemDelegate>
 
 #include "app/dialog.h"
-#include "app/look.h"
-#include "app/qt_text.h"
+#include "converter/unit_tables.h"
 
 namespace kav {
 namespace {
@@ -24,13 +23,13 @@ class EntryDelegate final : public QStyledItemDelegate {
 
 }  // namespace
 
-ChoiceView::ChoiceView(std::u16string_view name) {
-  // Before the list is made, which is the style's to shape.
-  setStyle(ScreenStyle());
-  setAccessibleName(ToQt(name));
-  setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-  setMinimumContentsLength(1);
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+ChoiceView::ChoiceView(std::u16string_view name) : ChoiceBox(name) {
+  std::vector<std::u16string_view> builtIn;
+  for (const UnitCategory& category : UnitCategories()) {
+    builtIn.push_back(category.caption);
+    for (const Unit& unit : category.units) builtIn.push_back(unit.name);
+  }
+  KeepRoomFor(builtIn);
   setItemDelegate(new EntryDelegate(this));
   view()->setTextElideMode(Qt::ElideMiddle);
 }

@@ -1,16 +1,18 @@
 // A list that drops down, from which the converter's user chooses.
 #pragma once
 
-#include <QComboBox>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/choice_box.h"
+
 namespace kav {
 
-/// Takes taps and, where a text begins with what is typed, keys. It is as wide as its place: names
-/// that the user gave may be of any length.
-class ChoiceView final : public QComboBox {
+/// Takes taps and, where a text begins with what is typed, keys. It keeps room for whatever is
+/// built in, so that nothing moves from one category to the next; names that the user gave may be
+/// of any length.
+class ChoiceView final : public ChoiceBox {
  public:
   explicit ChoiceView(std::u16string_view name);
 

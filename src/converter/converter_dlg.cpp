@@ -6,6 +6,7 @@
 
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
+#include "app/look.h"
 #include "app/message_box.h"
 #include "app/qt_text.h"
 #include "converter/choice_view.h"
@@ -23,6 +24,42 @@ void SetBase(QWidget& field, const QColor& colour) {
   field.setPalette(colours);
 }
 
+/// A number, or what is said in its place, in smaller letters where it is too long.
+class ResultField final : public QLineEdit {
+ public:
+  ResultField() { setReadOnly(true); }
+
+  void Write(const QString& result) {
+    if (text() != result) setText(result);
+    Fit(most_);
+    home(false);
+  }
+
+  /// Letters are `most` pixels high at most.
+  void Fit(int most) {
+    if (most != most_) {
+      most_ = most;
+      setFont(ScreenFont(most));
+      height_ = QLineEdit::sizeHint().height();
+    }
+    const int pixels = FittingPixels({{text(), width() - most}}, most, 1);
+    if (font().pixelSize() != pixels) setFont(ScreenFont(pixels));
+  }
+
+  /// As high as ever, so that nothing moves with what is shown.
+  QSize sizeHint() const override { return {QLineEdit::sizeHint().width(), height_}; }
+  QSize minimumSizeHint() const override { return {QLineEdit::minimumSizeHint().width(), height_}; }
+
+ private:
+  void resizeEvent(QResizeEvent* event) override {
+    Fit(most_);
+    QLineEdit::resizeEvent(event);
+  }
+
+  int most_ = 1;
+  int height_ = 0;
+};
+
 class CConverterDlg final : public Dialog {
  public:
   CConverterDlg(QWidget* parent, SettingsStore& store, const ConverterInput& input);
@@ -39,6 +76,7 @@ class CConverterDlg final : public Dialog {
   void OnCategory(int category);
   void OnMemory();
   void OnAccept();
+  void SetTextHeight(int text) override;
 
   SettingsStore& store_;
   ConverterModel model_;
@@ -46,7 +84,7 @@ class CConverterDlg final : public Dialog {
   QLineEdit* value_ = new QLineEdit;
   ChoiceView* input_ = new ChoiceView(kInputUnitName);
   ChoiceView* output_ = new ChoiceView(kOutputUnitName);
-  QLineEdit* result_ = new QLineEdit;
+  ResultField* result_ = new ResultField;
   DialogButton* swap_ = new DialogButton(kSwapCaption);
   DialogButton* memory_ = new DialogButton(kMemoryCaption);
   DialogButton* ok_ = new DialogButton(kOkCaption);
@@ -60,7 +98,6 @@ CConverterDlg::CConverterDlg(QWidget* parent, SettingsStore& store, const Conver
              {input.positions.category, input.positions.input, input.positions.output}) {
   value_->setAccessibleName(ToQt(kInputValueName));
   result_->setAccessibleName(ToQt(kConverterResultName));
-  result_->setReadOnly(true);
   SetBase(*result_, QColor(255, 255, 192));
   swap_->setAccessibleName(ToQt(kSwapName));
   LayOut();
@@ -120,10 +157,13 @@ void CConverterDlg::Connect() {
 void CConverterDlg::Refresh() {
   RefreshChoices();
   RefreshValue();
-  const QString result = ToQt(model_.ShownResult());
-  if (result_->text() != result) result_->setText(result);
-  result_->home(false);
+  result_->Write(ToQt(model_.ShownResult()));
   memory_->setEnabled(model_.Result().has_value());
+}
+
+void CConverterDlg::SetTextHeight(int text) {
+  Dialog::SetTextHeight(text);
+  result_->Fit(text);
 }
 
 void CConverterDlg::RefreshChoices() {

@@ -8,9 +8,11 @@
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <initializer_list>
+#include <vector>
 
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
+#include "app/look.h"
 #include "app/message_box.h"
 #include "app/qt_text.h"
 #include "engine/display_settings_texts.h"
@@ -29,6 +31,40 @@ Widget* KeepingItsRoom(Widget* widget) {
   return widget;
 }
 
+/// Lines of numbers, in smaller letters than those around them where they are too long.
+class ExampleLabel final : public QLabel {
+ public:
+  ExampleLabel() { setAlignment(Qt::AlignRight | Qt::AlignVCenter); }
+
+  void Write(const QString& text) {
+    setText(text);
+    Fit(most_);
+  }
+
+  /// Letters are `most` pixels high at most.
+  void Fit(int most) {
+    if (most != most_) {
+      most_ = most;
+      setFont(ScreenFont(most));
+      height_ = QLabel::sizeHint().height();
+    }
+    std::vector<SpacedText> lines;
+    for (const QString& line : text().split(u'\n')) lines.push_back({line, width()});
+    const int pixels = FittingPixels(lines, most, 1);
+    if (font().pixelSize() != pixels) setFont(ScreenFont(pixels));
+  }
+
+  /// As wide as its place, and as high as ever, so that nothing moves with what is shown.
+  QSize sizeHint() const override { return {0, height_}; }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ private:
+  void resizeEvent(QResizeEvent*) override { Fit(most_); }
+
+  int most_ = 1;
+  int height_ = 0;
+};
+
 class CDisplaySettingsDlg final : public Dialog {
  public:
   CDisplaySettingsDlg(QWidget* parent, SettingsStore& store, DisplayPage first);
@@ -41,6 +77,7 @@ class CDisplaySettingsDlg final : public Dialog {
   void OnPage(int page);
   void OnAccept();
   void ShowRefusal(const Refusal<DisplayField>& refusal);
+  void SetTextHeight(int text) override;
 
   SettingsStore& store_;
   DisplaySettingsModel model_;
@@ -48,7 +85,7 @@ class CDisplaySettingsDlg final : public Dialog {
   DisplayTypeView* types_ = new DisplayTypeView;
   QLineEdit* precision_ = new QLineEdit;
   QLabel* meaning_ = KeepingItsRoom(new QLabel(ToQt(kRecommendedMeaning)));
-  QLabel* example_ = new QLabel;
+  ExampleLabel* example_ = new ExampleLabel;
   MatrixDefaultsView* matrixParts_ = KeepingItsRoom(new MatrixDefaultsView(model_));
   QTabBar* pages_ = new QTabBar;
   DialogButton* accept_ = new DialogButton(kOkCaption);
@@ -70,8 +107,6 @@ CDisplaySettingsDlg::CDisplaySettingsDlg(QWidget* parent, SettingsStore& store, 
 QWidget* CDisplaySettingsDlg::NewGroup() {
   precision_->setAccessibleName(ToQt(kPrecisionCaption));
   example_->setAccessibleName(ToQt(kExampleCaption));
-  example_->setWordWrap(true);
-  example_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* parts = new QGridLayout(group_);
   // The margins of the dialog are enough, and alone in growing with it.
   parts->setContentsMargins(0, 0, 0, 0);
@@ -87,6 +122,9 @@ QWidget* CDisplaySettingsDlg::NewGroup() {
 QLayout* CDisplaySettingsDlg::NewBottom() {
   pages_->setShape(QTabBar::RoundedSouth);
   pages_->setExpanding(false);
+  // Both are to be seen: without arrows to turn to them by, they need their room.
+  pages_->setUsesScrollButtons(false);
+  pages_->setElideMode(Qt::ElideNone);
   pages_->setDrawBase(false);
   for (const auto page : {kNormalPage, kMatrixPage}) pages_->addTab(ToQt(page));
   accept_->setDefault(true);
@@ -121,12 +159,17 @@ void CDisplaySettingsDlg::Refresh() {
   const QString precision = ToQt(model_.Precision());
   if (precision_->text() != precision) precision_->setText(precision);
   precision_->setEnabled(model_.TakesPrecision());
-  example_->setText(ToQt(model_.Example()));
+  example_->Write(ToQt(model_.Example()));
   matrixParts_->Refresh();
   for (QWidget* part :
        std::initializer_list<QWidget*>{matrixParts_, &types_->RecommendedMark(), meaning_}) {
     part->setVisible(model_.ShowsMatrixParts());
   }
+}
+
+void CDisplaySettingsDlg::SetTextHeight(int text) {
+  Dialog::SetTextHeight(text);
+  example_->Fit(text);
 }
 
 void CDisplaySettingsDlg::OnPage(int page) {

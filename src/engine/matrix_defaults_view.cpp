@@ -1,13 +1,13 @@
 #include "engine/matrix_defaults_view.h"
 
 #include <QAbstractItemView>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <string>
 #include <vector>
 
+#include "app/choice_box.h"
 #include "app/qt_text.h"
 #include "engine/display_settings_texts.h"
 
@@ -16,11 +16,8 @@ namespace {
 
 template <class Texts>
 QComboBox* NewChoice(std::u16string_view name, const Texts& texts) {
-  auto* choice = new QComboBox;
-  choice->setAccessibleName(ToQt(name));
+  auto* choice = new ChoiceBox(name);
   for (const auto& text : texts) choice->addItem(ToQt(text));
-  // As wide as its place; what it would like to have is too much on the smallest screen.
-  choice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   choice->view();  // made now, it gets the look of the dialog
   return choice;
 }

@@ -2,12 +2,15 @@
 
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
 #include "app/formula_view.h"
 #include "app/label_list.h"
+#include "app/look.h"
 #include "app/qt_text.h"
 #include "common/number_text.h"
 #include "macros/macro_list_model.h"
@@ -30,6 +33,8 @@ class CMacroListDlg final : public Dialog {
   void Connect();
   void Refresh();
   void OnSelect();
+  void SetTextHeight(int text) override;
+  void FitFormula();
 
   MacroListModel model_;
   LabelList* list_ = new LabelList(kMacroListName);
@@ -73,6 +78,24 @@ void CMacroListDlg::Refresh() {
   const Macro* macro = model_.SelectedMacro();
   formula_->setPlainText(OneLine(macro != nullptr ? Widen(macro->formula) : std::u16string()));
   ok_->setEnabled(macro != nullptr);
+  FitFormula();
+}
+
+void CMacroListDlg::SetTextHeight(int text) {
+  Dialog::SetTextHeight(text);
+  formula_->setFont(font());
+  // In whatever letters a formula is shown.
+  formula_->setFixedHeight(formula_->sizeHint().height());
+  FitFormula();
+}
+
+void CMacroListDlg::FitFormula() {
+  // Nobody can scroll it: in wide letters a long formula has room only where they are smaller.
+  const int most = font().pixelSize();
+  for (int text = most; text >= most / 2; text -= std::max(text / 8, 1)) {
+    formula_->setFont(ScreenFont(text));
+    if (formula_->verticalScrollBar()->maximum() == 0) return;
+  }
 }
 
 void CMacroListDlg::OnSelect() {

@@ -25,6 +25,8 @@ namespace {
 /// Of the heights of line and tabs.
 constexpr double kLineTextHeight = 0.62;
 constexpr double kTabTextHeight = 0.55;
+/// What the text of a tab leaves free of it at least, in pixels.
+constexpr int kTabMargins = 4;
 /// Of the pixels of a screen that is 240 wide, which the widths of columns are counted in.
 constexpr double kScreenPixels = 240;
 constexpr double kCellText = 11.5;
@@ -84,6 +86,14 @@ class FillingTabs final : public QTabBar {
   using QTabBar::QTabBar;
 
  private:
+  void resizeEvent(QResizeEvent* event) override {
+    const int most = qRound(height() * kTabTextHeight);
+    setFont(ScreenFont(most));
+    int needed = count() * kTabMargins;
+    for (int i = 0; i < count(); ++i) needed += TextWidth(i);
+    if (needed > width()) setFont(ScreenFont(most * width() / needed));
+    QTabBar::resizeEvent(event);
+  }
   int TextWidth(int index) const { return fontMetrics().horizontalAdvance(tabText(index)); }
   QSize tabSizeHint(int index) const override {
     int rest = width();
@@ -248,9 +258,7 @@ void CMatrixDlg::LayOut(const DialogUnits& units) {
   Line().setGeometry(units.Pixels(UnitsOf(kMatrixLinePlace)));
   Line().SetTextHeight(qRound(Line().height() * kLineTextHeight));
   Result().LayOut(units.Pixels(UnitsOf(kMatrixResultPlace)));
-  const QRect tabs = units.Pixels(UnitsOf(kMatrixTabsPlace));
-  tabs_->setFont(ScreenFont(qRound(tabs.height() * kTabTextHeight)));
-  tabs_->setGeometry(tabs);
+  tabs_->setGeometry(units.Pixels(UnitsOf(kMatrixTabsPlace)));
   grid_->setGeometry(units.Pixels(UnitsOf(kGridPlace)));
   const double scale =
       units.Pixels(QRect(0, 0, kScreenWidth, kScreenHeight)).width() / kScreenPixels;

@@ -9,6 +9,7 @@
 
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
+#include "app/look.h"
 #include "app/message_box.h"
 #include "app/qt_text.h"
 #include "memory/constants_model.h"
@@ -21,18 +22,62 @@ namespace {
 
 constexpr int kLongestFilter = 100;
 
-/// A text with room for two lines, whatever it is: nothing moves when another row is selected.
-class TwoLines final : public QLabel {
+/// A text with room for as many lines as the longest of all that it will show takes, two at least:
+/// nothing moves when another row is selected.
+class NameLabel final : public QLabel {
  public:
-  TwoLines() {
+  explicit NameLabel(const ConstantsModel& model) {
+    QStringList names;
+    for (std::size_t row = 0; row < model.ShownCount(); ++row) {
+      names.append(OneLine(model.Shown(row).name));
+    }
+    names_ = LongOnes(names);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    // A label without a text does not say so itself.
+    QSizePolicy policy = sizePolicy();
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
   }
 
-  QSize sizeHint() const override { return {0, fontMetrics().size(0, "X\nX").height()}; }
+  QSize sizeHint() const override { return {0, HeightOf(kFewestLines)}; }
   QSize minimumSizeHint() const override { return sizeHint(); }
-  int heightForWidth(int) const override { return sizeHint().height(); }
+  int heightForWidth(int width) const override {
+    // A layout asks many times before it is done.
+    if (measured_ != std::pair(width, font().pixelSize())) {
+      lines_ = LinesIn(width);
+      measured_ = {width, font().pixelSize()};
+    }
+    return HeightOf(lines_);
+  }
+
+ private:
+  static constexpr int kFewestLines = 2;
+  static constexpr int kMostLines = 4;  // a table of the user's own may have names of any length
+
+  int LinesIn(int width) const {
+    int lines = kFewestLines;
+    for (const QString& name : names_) {
+      // Two lines that follow one another hold more than the width of one.
+      if (fontMetrics().horizontalAdvance(name) <= (lines - 1) * width) continue;
+      while (lines < kMostLines && HeightIn(width, name) > HeightOf(lines)) ++lines;
+    }
+    return lines;
+  }
+  int HeightOf(int lines) const {
+    return fontMetrics().size(0, QStringList(lines, "X").join(u'\n')).height();
+  }
+  int HeightIn(int width, const QString& name) const {
+    constexpr int kAnyHeight = 1 << 20;
+    return fontMetrics()
+        .boundingRect(QRect(0, 0, width, kAnyHeight), Qt::TextWordWrap, name)
+        .height();
+  }
+
+  QStringList names_;                           // those that may take most lines
+  mutable std::pair<int, int> measured_{0, 0};  // the width and the size of letters for lines_
+  mutable int lines_ = kFewestLines;
 };
 
 class CConstantsDlg final : public Dialog {
@@ -55,7 +100,7 @@ class CConstantsDlg final : public Dialog {
   QLineEdit* filter_ = new QLineEdit;
   QLabel* count_ = new QLabel;
   ConstantsView* list_;
-  QLabel* name_ = new TwoLines;
+  QLabel* name_;
   QLineEdit* value_ = new QLineEdit;
   DialogButton* ok_ = new DialogButton(kOkCaption);
   DialogButton* cancel_ = new DialogButton(kCancelCaption);
@@ -64,7 +109,8 @@ class CConstantsDlg final : public Dialog {
 CConstantsDlg::CConstantsDlg(QWidget* parent, ConstantsModel& model)
     : Dialog(parent, kConstantsTitle),
       model_(model),
-      list_(new ConstantsView(model, [this] { Refresh(); })) {
+      list_(new ConstantsView(model, [this] { Refresh(); })),
+      name_(new NameLabel(model)) {
   filter_->setPlaceholderText(ToQt(kFilterCaption));
   filter_->setAccessibleName(ToQt(kFilterCaption));
   filter_->setMaxLength(kLongestFilter);

@@ -11,6 +11,8 @@ namespace kav {
 // A line of the list is the prefix, the number in two digits, the separator and the value.
 inline constexpr std::u16string_view kVariablePrefix = u"Mem";
 inline constexpr std::u16string_view kVariableSeparator = u" = ";
+/// As wide as the line of any number, which has 15 digits at most.
+inline constexpr std::u16string_view kLongestVariableLine = u"Mem20 = -1.23456789012345e-300";
 
 inline constexpr std::u16string_view kVariablesTitle = u"Memory Variable";
 inline constexpr std::u16string_view kStoreCaption = u"Store";

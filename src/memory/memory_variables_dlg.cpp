@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -21,6 +22,14 @@ namespace {
 class VariableList final : public QListWidget {
  public:
   using QListWidget::QListWidget;
+
+  /// Any number has room, so that the letters keep their size when another one is stored.
+  QSize minimumSizeHint() const override {
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    const int line = fontMetrics().horizontalAdvance(ToQt(kLongestVariableLine)) + 2 * margin;
+    const int around = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    return {line + around, QListWidget::minimumSizeHint().height()};
+  }
 
  private:
   void keyPressEvent(QKeyEvent* event) override {

@@ -81,8 +81,10 @@ void EquationInputView::paintEvent(QPaintEvent*) {
 }
 
 void EquationInputView::resizeEvent(QResizeEvent*) {
-  const int text = qRound(height() * kTextHeight);
-  const int outline = std::max(2, text / 6);
+  const int most = qRound(height() * kTextHeight);
+  const int outline = std::max(2, most / 6);
+  // Each line has its part of what outline and margins leave of the height.
+  const int text = PixelsForLine(most, (height() - 2 * outline - most / 4.0) / kLines);
   formula_->setFont(ScreenFont(text));
   formula_->document()->setDocumentMargin(text / 8.0);
   formula_->setGeometry(rect().adjusted(outline, outline, -outline, -outline));

@@ -17,7 +17,6 @@ namespace {
 
 // In pixels of a plot 230 pixels wide.
 constexpr double kTapRadius = 3;  // a finger never lifts quite where it went down
-constexpr int kLowestPlot = 60;
 
 constexpr int kNotch = 120;
 constexpr int kLargeStep = 10;
@@ -46,7 +45,6 @@ GraphAreaView::GraphAreaView(GraphModel& model, GraphAreaHooks hooks)
     : model_(model), hooks_(std::move(hooks)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFocusPolicy(Qt::StrongFocus);
-  setMinimumHeight(kLowestPlot);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setAccessibleName(ToQt(kGraphName));
 }
@@ -58,6 +56,11 @@ void GraphAreaView::Redraw() {
 
 void GraphAreaView::MoveMarker() {
   update();
+}
+
+void GraphAreaView::KeepHeight(int pixels) {
+  keptHeight_ = pixels;
+  updateGeometry();
 }
 
 void GraphAreaView::FitArea() {

@@ -35,6 +35,10 @@ class GraphAreaView final : public QWidget {
   /// Its marker stands elsewhere.
   void MoveMarker();
 
+  /// What stands beside it gives way until it is `pixels` high.
+  void KeepHeight(int pixels);
+  QSize minimumSizeHint() const override { return {0, keptHeight_}; }
+
  private:
   /// From where the button or the stylus went down to where it is.
   struct Drag {
@@ -64,6 +68,7 @@ class GraphAreaView final : public QWidget {
 
   GraphModel& model_;
   GraphAreaHooks hooks_;
+  int keptHeight_ = 0;
   QImage picture_;
   bool isCurrent_ = false;  // whether the picture is that of the model
   std::optional<Drag> drag_;

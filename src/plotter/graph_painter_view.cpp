@@ -16,6 +16,7 @@ constexpr double kSideMargin = 2;
 constexpr double kTopMargin = 3;
 constexpr double kPictureWidth = kSampleCount + 2 * kSideMargin;
 constexpr double kTextHeight = 11;
+constexpr double kDescent = 2.75;
 
 // Lines grow more slowly than the plot: as wide in proportion, they would look coarse.
 constexpr double kStrokeGrowth = 0.65;
@@ -113,7 +114,8 @@ class ShapePainter {
 
   void operator()(const GraphText& text) {
     painter_.setPen(ColourOf(graph_colour::kInk));
-    const int descent = painter_.fontMetrics().descent();
+    // Not what some faces keep free below: the text would leave the plot at its other end.
+    const int descent = std::min(painter_.fontMetrics().descent(), Pixels(kDescent * scale_));
     painter_.drawText(PixelAt(text.place) - QPoint(0, descent), ToQt(text.text));
   }
 

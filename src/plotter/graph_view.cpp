@@ -1,7 +1,6 @@
 #include "plotter/graph_view.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,6 +10,7 @@
 #include <utility>
 
 #include "app/bottom_menu_bar.h"
+#include "app/choice_box.h"
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
 #include "app/label_list.h"
@@ -48,6 +48,9 @@ constexpr const char* kOptionsKey = "Ctrl+G";
 
 constexpr int kLinesOfResults = 3;
 
+/// Of the height of the whole, what the plot is to take at least.
+constexpr double kPlotShare = 0.585;
+
 QList<QKeySequence> Shortcuts(const ChangeRow& row) {
   QList<QKeySequence> keys;
   for (const char* key : row.keys) {
@@ -64,7 +67,6 @@ class CGraphView final : public Dialog {
   void MakeMenu();
   void LayOut();
   void Connect();
-  void Fit();
 
   GraphAreaHooks Hooks();
   void OnCalculate();
@@ -75,14 +77,13 @@ class CGraphView final : public Dialog {
   void Take(const std::optional<GraphReading>& reading);
   void Refresh();
 
-  void showEvent(QShowEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
+  void SetTextHeight(int text) override;
   void keyPressEvent(QKeyEvent* event) override;
 
   GraphModel model_;
   GraphReading reading_;
   GraphAreaView* area_;
-  QComboBox* curves_ = new QComboBox;
+  ChoiceBox* curves_ = new ChoiceBox(kCurveSelectorName);
   QLineEdit* x_ = new QLineEdit;
   DialogButton* calculate_ = new DialogButton(kCalculateCaption);
   LabelList* results_ = new LabelList(kGraphResultsName);
@@ -100,9 +101,7 @@ CGraphView::CGraphView(QWidget* parent, GraphInput input)
       area_(new GraphAreaView(model_, Hooks())) {
   for (const GraphCurve& curve : model_.Input().curves) curves_->addItem(OneLine(curve.label));
   // As wide as there is room, however long an equation is.
-  curves_->setMinimumContentsLength(1);
-  curves_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  curves_->setAccessibleName(ToQt(kCurveSelectorName));
+  curves_->KeepRoomFor({kShortCurveNames.begin(), kShortCurveNames.end()});
   x_->setAccessibleName(ToQt(kTracedXName));
   MakeMenu();
   LayOut();
@@ -211,25 +210,17 @@ void CGraphView::Refresh() {
   area_->Redraw();
 }
 
-void CGraphView::showEvent(QShowEvent* event) {
-  Dialog::showEvent(event);
-  Fit();
-}
-
-void CGraphView::resizeEvent(QResizeEvent* event) {
-  Dialog::resizeEvent(event);
-  Fit();
-}
-
-void CGraphView::Fit() {
-  const int text = font().pixelSize();
+void CGraphView::SetTextHeight(int text) {
+  Dialog::SetTextHeight(text);
   // The plot is as wide as can be, and the menu bar, as on every screen, all of the width.
   layout()->setContentsMargins(0, 0, 0, 0);
   layout()->setSpacing(0);
-  body_->setContentsMargins(text / 4, text / 4, text / 4, text / 4);
+  area_->KeepHeight(qRound(height() * kPlotShare));
+  // As wide as in any other face, however small this one's letters have to be.
+  const int margin = TextPixels(height()) / 4;
+  body_->setContentsMargins(margin, margin, margin, margin);
   const int line = results_->fontMetrics().height() + text / 6;
   results_->setFixedHeight(kLinesOfResults * line + 2 * results_->frameWidth());
-  layout()->activate();
 }
 
 void CGraphView::keyPressEvent(QKeyEvent* event) {

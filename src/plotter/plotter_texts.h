@@ -127,6 +127,8 @@ inline constexpr std::u16string_view kGraphOptionsEntry = u"&Graph Options";
 // What screen readers call its parts.
 inline constexpr std::u16string_view kGraphName = u"Graph";
 inline constexpr std::u16string_view kCurveSelectorName = u"Selected equation";
+/// What the selector shows at least of an equation.
+inline constexpr std::array<std::u16string_view, 3> kShortCurveNames{u"R:F1", u"G:F2", u"B:F3"};
 inline constexpr std::u16string_view kTracedXName = u"X";
 inline constexpr std::u16string_view kGraphResultsName = u"Results";
 

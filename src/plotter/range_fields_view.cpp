@@ -2,11 +2,14 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionFrame>
 #include <algorithm>
 #include <vector>
 
 #include "app/dialog.h"
 #include "app/key_screen.h"
+#include "app/look.h"
 #include "app/qt_text.h"
 #include "plotter/plotter_keypad.h"
 
@@ -16,6 +19,8 @@ namespace {
 /// Of a field's height, and of a caption's width.
 constexpr double kTextHeight = 0.55;
 constexpr double kTextWidth = 0.97;
+/// What a field keeps free beside its text, in pixels.
+constexpr int kBesideText = 3;
 
 }  // namespace
 
@@ -57,8 +62,15 @@ int RangeFieldsView::FittingText(int most) const {
   for (const QLabel* caption : captions_) {
     texts.push_back({caption->text(), static_cast<int>(caption->width() * kTextWidth)});
   }
-  const int height = qRound(fields_.front()->height() * kTextHeight);
-  return FittingPixels(texts, std::min(most, height), 1);
+  const QLineEdit& field = *fields_.front();
+  const int highest = std::min(most, qRound(field.height() * kTextHeight));
+  // A number with its sign and six digits is seen whole.
+  QStyleOptionFrame frame;
+  frame.initFrom(&field);
+  frame.fontMetrics = QFontMetrics(ScreenFont(highest));
+  const QRect room = field.style()->subElementRect(QStyle::SE_LineEditContents, &frame, &field);
+  texts.push_back({"-123.456", room.width() - kBesideText});
+  return FittingPixels(texts, highest, 1);
 }
 
 void RangeFieldsView::SetFont(const QFont& font) {

@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <algorithm>
 #include <limits>
 #include <numeric>
@@ -180,8 +181,21 @@ std::vector<std::size_t> DataTableView::SelectedRows() const {
 
 void DataTableView::SetTextHeight(int pixels) {
   setFont(ScreenFont(pixels));
-  horizontalHeader()->setFont(font());
+  FitHeadings();
   SetRowHeight();
+}
+
+void DataTableView::FitHeadings() {
+  QHeaderView& header = *horizontalHeader();
+  // At most: they shrink with the letters.
+  const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+  std::vector<SpacedText> headings;
+  headings.reserve(columns_.size());
+  for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
+    headings.push_back(
+        {ToQt(columns_[static_cast<std::size_t>(column)].heading), columnWidth(column) - margins});
+  }
+  header.setFont(ScreenFont(FittingPixels(headings, font().pixelSize(), 1)));
 }
 
 void DataTableView::SetRowHeight() {
@@ -210,6 +224,7 @@ void DataTableView::resizeEvent(QResizeEvent* event) {
     setColumnWidth(column, right - left);
     left = right;
   }
+  FitHeadings();
 }
 
 void DataTableView::selectionChanged(const QItemSelection& now, const QItemSelection& before) {

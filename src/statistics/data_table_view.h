@@ -62,6 +62,8 @@ class DataTableView final : public QTableView {
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void keyboardSearch(const QString&) override {}
 
+  /// Headings have the size of the rows, or a smaller one where a column is narrow.
+  void FitHeadings();
   void SetRowHeight();
   /// `select` selects rows, or one to go on from, which are not to be brought into view.
   void WithoutScrolling(const std::function<void()>& select);

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/file_choice.h"
+#include "app/look.h"
 #include "app/message_box.h"
 #include "app/qt_text.h"
 #include "scientific/scientific_texts.h"
@@ -20,6 +21,9 @@
 
 namespace kav {
 namespace {
+
+/// Of the letters, so that a few rows are in sight in faces with high lines, too.
+constexpr double kHighestLine = 1.3;
 
 constexpr FileKind kDataFiles{u"TXT(*.txt)", u"txt"};
 
@@ -156,7 +160,8 @@ void StatisticsScreen::LayOut(const DialogUnits& units) {
   Keys().LayOut(units);
   fields_.LayOut(units, places);
   table_->setGeometry(units.Pixels(UnitsOf(places.list)));
-  table_->SetTextHeight(qRound(fields_.Line(DataField::X).height() * kFieldText));
+  const int text = qRound(fields_.Line(DataField::X).height() * kFieldText);
+  table_->SetTextHeight(PixelsForLine(text, text * kHighestLine));
   result_->LayOut(units.Pixels(UnitsOf(places.result)));
 }
 

@@ -79,6 +79,55 @@ TEST_F(DialogTest, TextsGrowWithTheHeight) {
   EXPECT_NEAR(sizes[2], 4 * sizes[0], 4);
 }
 
+/// Whether the caption of the choice is seen whole.
+bool IsWhole(const SampleDialog& dialog) {
+  return dialog.radio->width() >= dialog.radio->sizeHint().width() &&
+         dialog.rect().contains(dialog.radio->geometry());
+}
+
+TEST_F(DialogTest, TextsAreSmallerWhereOneOfThemWouldBeCut) {
+  int usual = 0;
+  Open({240, 320}, [&](const SampleDialog& dialog) { usual = dialog.font().pixelSize(); });
+  Open({240, 320}, [&](SampleDialog& dialog) {
+    dialog.radio->setText("a caption that is longer than the smallest screen is wide");
+    QCoreApplication::processEvents();
+    EXPECT_LT(dialog.font().pixelSize(), usual);
+    EXPECT_GT(dialog.font().pixelSize(), usual / 3);
+    EXPECT_EQ(dialog.button->font().pixelSize(), dialog.font().pixelSize());
+    EXPECT_TRUE(IsWhole(dialog));
+    EXPECT_EQ(dialog.size(), QSize(240, 320));
+  });
+}
+
+TEST_F(DialogTest, TextsAreSmallerInAWindowThatIsNarrowForItsHeight) {
+  Open({240, 480}, [](SampleDialog& dialog) {
+    dialog.radio->setText("a caption for a square window");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(IsWhole(dialog));
+  });
+}
+
+TEST_F(DialogTest, ALargerWindowGivesTheTextsTheirSizeBack) {
+  Open({240, 320}, [](SampleDialog& dialog) {
+    dialog.radio->setText("a caption that is longer than the smallest screen is wide");
+    QCoreApplication::processEvents();
+    const int small = dialog.font().pixelSize();
+    dialog.resize(960, 320);
+    QCoreApplication::processEvents();
+    EXPECT_GT(dialog.font().pixelSize(), small);
+    EXPECT_TRUE(IsWhole(dialog));
+  });
+}
+
+TEST_F(DialogTest, AButtonGivesTheRoomAroundItsCaptionFirst) {
+  Open({240, 320}, [](const SampleDialog& dialog) {
+    const int text = dialog.button->fontMetrics().horizontalAdvance(dialog.button->text());
+    EXPECT_GT(dialog.button->minimumSizeHint().width(), text);
+    EXPECT_LT(dialog.button->minimumSizeHint().width(), dialog.button->sizeHint().width());
+    EXPECT_GE(dialog.button->minimumSizeHint().height(), dialog.button->fontMetrics().height());
+  });
+}
+
 TEST_F(DialogTest, MarksGrowWithTheTexts) {
   Open({960, 1280}, [](const SampleDialog& dialog) {
     const int mark = dialog.radio->style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr,

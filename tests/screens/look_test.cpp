@@ -75,5 +75,25 @@ TEST(Look, TheFaceIsTheBestOfThoseThatAreInstalled) {
   EXPECT_EQ(ScreenFont(0).pixelSize(), 1);
 }
 
+TEST(Look, TheWidestTextIsAmongTheLongOnes) {
+  EXPECT_EQ(LongOnes({"Miles", "Kilometers", "Nautical Miles", "m", "Centimeters"}),
+            QStringList({"Kilometers", "Nautical Miles", "Centimeters"}));
+  EXPECT_EQ(LongOnes({"", ""}), QStringList({"", ""}));
+  EXPECT_EQ(LongOnes({}), QStringList());
+}
+
+TEST(Look, ALineIsNoHigherThanItsRoom) {
+  for (const int pixels : {1, 10, 40}) {
+    for (const double room : {1000., 48.5, 20., 7., 0.}) {
+      const int found = PixelsForLine(pixels, room);
+      EXPECT_GE(found, 1);
+      EXPECT_LE(found, pixels);
+      const auto lineOf = [](int size) { return QFontMetricsF(ScreenFont(size)).lineSpacing(); };
+      EXPECT_TRUE(found == 1 || lineOf(found) <= room) << pixels << ' ' << room;
+      EXPECT_TRUE(found >= pixels - 1 || lineOf(found + 2) > room) << pixels << ' ' << room;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace kav
