@@ -24,6 +24,8 @@ declare -A sets=(
   [bench]="bc libxcb1-dev xvfb xauth"
   # To take the pictures of the screen in docs/images anew.
   [pictures]="xvfb xdotool imagemagick"
+  # An empty system to try the project on, and a display to see its windows on.
+  [fresh]="debootstrap git xvfb xdotool imagemagick"
   # To draw packaging/icons anew.
   [icons]="librsvg2-bin"
 )
