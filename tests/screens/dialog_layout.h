@@ -37,9 +37,8 @@ inline QString CaptionOf(const QWidget& widget) {
   return {};
 }
 
-/// Every visible part lies within the dialog, none over another, and each has room for its text.
-inline void ExpectRoomForAll(const QDialog& dialog) {
-  const TextRoom room(dialog);
+/// Every visible part lies within the dialog, and none over another.
+inline void ExpectPartsApart(const QDialog& dialog) {
   const auto areaOf = [&](const QWidget& part) {
     return QRect(part.mapTo(&dialog, QPoint(0, 0)), part.size());
   };
@@ -52,6 +51,16 @@ inline void ExpectRoomForAll(const QDialog& dialog) {
       EXPECT_TRUE(part == other || !areaOf(*part).intersects(areaOf(*other)))
           << name << " overlaps " << CaptionOf(*other).toStdString();
     }
+  }
+}
+
+/// And each has room for its text and all of its line.
+inline void ExpectRoomForAll(const QDialog& dialog) {
+  ExpectPartsApart(dialog);
+  const TextRoom room(dialog);
+  for (const QWidget* part : VisibleParts(dialog)) {
+    EXPECT_GE(part->height(), part->fontMetrics().height())
+        << CaptionOf(*part).toStdString() << " is lower than its text";
   }
 }
 

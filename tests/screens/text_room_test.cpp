@@ -73,7 +73,8 @@ class TextRoomTest : public testing::Test {
         for (const auto& change : changes) {
           change(dialog);
           QCoreApplication::processEvents();
-          ExpectRoomForAll(dialog);
+          ExpectPartsApart(dialog);
+          const TextRoom room(dialog);
         }
         ExpectReadable(dialog.font(), dialog.rect());
         dialog.hide();
