@@ -101,8 +101,8 @@ take_pictures() {
     sleep 3  # by then the window of that name is the screen, and no longer the frame that loads it
     window=$(DISPLAY=$display timeout 30 xdotool search --onlyvisible --sync --name '^Kav Calculator$')
     DISPLAY=$display import -window "$window" +repage "$kept/$user-${modes[$mode]}.png"
-    # What became a shell there heeds no other signal, and takes the window along.
-    kill -KILL "$started"
+    # The first process of that machine, with which all of it ends.
+    pkill -KILL --parent "$started"
     wait "$started" || true
   done
   find "$kept" -name "$user-*.png" | wc -l
