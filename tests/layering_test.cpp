@@ -48,11 +48,22 @@ const std::map<std::string, std::set<std::string>> kExceptions{
 const std::set<std::string> kNamedByScreensOnly{"macros/macro_editor_model"};
 
 /// What a screen may name of the application around it.
-const std::set<std::string> kOfferedToScreens{
-    "app/bottom_menu_bar", "app/dialog",       "app/dialog_texts", "app/file_choice",
-    "app/choice_box",      "app/formula_view", "app/key_painter",  "app/key_screen",
-    "app/label_list",      "app/line_screen",  "app/line_view",    "app/look",
-    "app/message_box",     "app/qt_text",      "app/screen"};
+const std::set<std::string> kOfferedToScreens{"app/bottom_menu_bar",
+                                              "app/dialog",
+                                              "app/dialog_texts",
+                                              "app/file_choice",
+                                              "app/choice_box",
+                                              "app/fitting_text",
+                                              "app/formula_view",
+                                              "app/key_painter",
+                                              "app/key_screen",
+                                              "app/label_list",
+                                              "app/line_screen",
+                                              "app/line_view",
+                                              "app/look",
+                                              "app/message_box",
+                                              "app/qt_text",
+                                              "app/screen"};
 
 /// The one file that names the screens of every room.
 const std::string kNamesAllScreens = "app/frame_window";

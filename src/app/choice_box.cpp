@@ -47,7 +47,7 @@ int ChoiceBox::WidestText() const {
 }
 
 QSize ChoiceBox::minimumSizeHint() const {
-  // What the style takes of any width for itself, and the pixel that it leaves free before a text.
+  // What the style takes of any width for itself.
   QStyleOptionComboBox option;
   initStyleOption(&option);
   constexpr int kAnyWidth = 1000;
@@ -56,7 +56,7 @@ QSize ChoiceBox::minimumSizeHint() const {
       style()
           ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
           .width();
-  return {WidestText() + 1 + kAnyWidth - field, QComboBox::sizeHint().height()};
+  return {WidestText() + kChoiceMargin + kAnyWidth - field, QComboBox::sizeHint().height()};
 }
 
 }  // namespace kav

@@ -45,6 +45,9 @@ QColor BackdropColour();
 /// it on to those within it. The application owns it.
 QStyle* ScreenStyle();
 
+/// What a list that drops down keeps free before its text, in pixels.
+inline constexpr int kChoiceMargin = 1;
+
 /// The part of a window of `window` pixels that a screen fills: all of it as long as it stands
 /// upright, else a centred column.
 QRect PortraitArea(QSize window);

@@ -20,9 +20,6 @@
 namespace kav {
 namespace {
 
-/// What a list that drops down keeps free before its text.
-constexpr int kComboMargin = 1;
-
 /// The height of the text in what is drawn; 0 where nothing tells it.
 int TextHeight(const QStyleOption* option, const QWidget* widget) {
   if (option != nullptr) return option->fontMetrics.height();
@@ -205,7 +202,7 @@ class TextMeasuredStyle final : public QProxyStyle {
       return QProxyStyle::drawControl(CE_ComboBoxLabel, option, painter, widget);
     QStyleOptionComboBox shown = *chosen;
     const int room =
-        subControlRect(CC_ComboBox, chosen, SC_ComboBoxEditField, widget).width() - kComboMargin;
+        subControlRect(CC_ComboBox, chosen, SC_ComboBoxEditField, widget).width() - kChoiceMargin;
     shown.currentText = shown.fontMetrics.elidedText(shown.currentText, Qt::ElideRight, room);
     QProxyStyle::drawControl(CE_ComboBoxLabel, &shown, painter, widget);
   }

@@ -6,7 +6,7 @@
 
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
-#include "app/look.h"
+#include "app/fitting_text.h"
 #include "app/message_box.h"
 #include "app/qt_text.h"
 #include "converter/choice_view.h"
@@ -23,42 +23,6 @@ void SetBase(QWidget& field, const QColor& colour) {
   colours.setColor(QPalette::Base, colour);
   field.setPalette(colours);
 }
-
-/// A number, or what is said in its place, in smaller letters where it is too long.
-class ResultField final : public QLineEdit {
- public:
-  ResultField() { setReadOnly(true); }
-
-  void Write(const QString& result) {
-    if (text() != result) setText(result);
-    Fit(most_);
-    home(false);
-  }
-
-  /// Letters are `most` pixels high at most.
-  void Fit(int most) {
-    if (most != most_) {
-      most_ = most;
-      setFont(ScreenFont(most));
-      height_ = QLineEdit::sizeHint().height();
-    }
-    const int pixels = FittingPixels({{text(), width() - most}}, most, 1);
-    if (font().pixelSize() != pixels) setFont(ScreenFont(pixels));
-  }
-
-  /// As high as ever, so that nothing moves with what is shown.
-  QSize sizeHint() const override { return {QLineEdit::sizeHint().width(), height_}; }
-  QSize minimumSizeHint() const override { return {QLineEdit::minimumSizeHint().width(), height_}; }
-
- private:
-  void resizeEvent(QResizeEvent* event) override {
-    Fit(most_);
-    QLineEdit::resizeEvent(event);
-  }
-
-  int most_ = 1;
-  int height_ = 0;
-};
 
 class CConverterDlg final : public Dialog {
  public:
@@ -84,7 +48,8 @@ class CConverterDlg final : public Dialog {
   QLineEdit* value_ = new QLineEdit;
   ChoiceView* input_ = new ChoiceView(kInputUnitName);
   ChoiceView* output_ = new ChoiceView(kOutputUnitName);
-  ResultField* result_ = new ResultField;
+  /// A number, or what is said in its place.
+  FittingText<QLineEdit>* result_ = new FittingText<QLineEdit>(1);
   DialogButton* swap_ = new DialogButton(kSwapCaption);
   DialogButton* memory_ = new DialogButton(kMemoryCaption);
   DialogButton* ok_ = new DialogButton(kOkCaption);
@@ -97,6 +62,7 @@ CConverterDlg::CConverterDlg(QWidget* parent, SettingsStore& store, const Conver
       model_(store, input.value,
              {input.positions.category, input.positions.input, input.positions.output}) {
   value_->setAccessibleName(ToQt(kInputValueName));
+  result_->setReadOnly(true);
   result_->setAccessibleName(ToQt(kConverterResultName));
   SetBase(*result_, QColor(255, 255, 192));
   swap_->setAccessibleName(ToQt(kSwapName));
@@ -158,6 +124,7 @@ void CConverterDlg::Refresh() {
   RefreshChoices();
   RefreshValue();
   result_->Write(ToQt(model_.ShownResult()));
+  result_->home(false);
   memory_->setEnabled(model_.Result().has_value());
 }
 

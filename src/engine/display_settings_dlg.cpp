@@ -8,11 +8,10 @@
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <initializer_list>
-#include <vector>
 
 #include "app/dialog.h"
 #include "app/dialog_texts.h"
-#include "app/look.h"
+#include "app/fitting_text.h"
 #include "app/message_box.h"
 #include "app/qt_text.h"
 #include "engine/display_settings_texts.h"
@@ -30,40 +29,6 @@ Widget* KeepingItsRoom(Widget* widget) {
   widget->setSizePolicy(policy);
   return widget;
 }
-
-/// Lines of numbers, in smaller letters than those around them where they are too long.
-class ExampleLabel final : public QLabel {
- public:
-  ExampleLabel() { setAlignment(Qt::AlignRight | Qt::AlignVCenter); }
-
-  void Write(const QString& text) {
-    setText(text);
-    Fit(most_);
-  }
-
-  /// Letters are `most` pixels high at most.
-  void Fit(int most) {
-    if (most != most_) {
-      most_ = most;
-      setFont(ScreenFont(most));
-      height_ = QLabel::sizeHint().height();
-    }
-    std::vector<SpacedText> lines;
-    for (const QString& line : text().split(u'\n')) lines.push_back({line, width()});
-    const int pixels = FittingPixels(lines, most, 1);
-    if (font().pixelSize() != pixels) setFont(ScreenFont(pixels));
-  }
-
-  /// As wide as its place, and as high as ever, so that nothing moves with what is shown.
-  QSize sizeHint() const override { return {0, height_}; }
-  QSize minimumSizeHint() const override { return sizeHint(); }
-
- private:
-  void resizeEvent(QResizeEvent*) override { Fit(most_); }
-
-  int most_ = 1;
-  int height_ = 0;
-};
 
 class CDisplaySettingsDlg final : public Dialog {
  public:
@@ -85,7 +50,7 @@ class CDisplaySettingsDlg final : public Dialog {
   DisplayTypeView* types_ = new DisplayTypeView;
   QLineEdit* precision_ = new QLineEdit;
   QLabel* meaning_ = KeepingItsRoom(new QLabel(ToQt(kRecommendedMeaning)));
-  ExampleLabel* example_ = new ExampleLabel;
+  FittingText<QLabel>* example_ = new FittingText<QLabel>(0);
   MatrixDefaultsView* matrixParts_ = KeepingItsRoom(new MatrixDefaultsView(model_));
   QTabBar* pages_ = new QTabBar;
   DialogButton* accept_ = new DialogButton(kOkCaption);
@@ -107,6 +72,7 @@ CDisplaySettingsDlg::CDisplaySettingsDlg(QWidget* parent, SettingsStore& store, 
 QWidget* CDisplaySettingsDlg::NewGroup() {
   precision_->setAccessibleName(ToQt(kPrecisionCaption));
   example_->setAccessibleName(ToQt(kExampleCaption));
+  example_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* parts = new QGridLayout(group_);
   // The margins of the dialog are enough, and alone in growing with it.
   parts->setContentsMargins(0, 0, 0, 0);
