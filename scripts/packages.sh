@@ -25,7 +25,7 @@ declare -A sets=(
   # To take the pictures of the screen in docs/images anew.
   [pictures]="xvfb xdotool imagemagick"
   # An empty system to try the project on, and a display to see its windows on.
-  [fresh]="debootstrap git xvfb xdotool imagemagick"
+  [fresh]="debootstrap git procps xvfb xdotool imagemagick"
   # To draw packaging/icons anew.
   [icons]="librsvg2-bin"
 )

@@ -7,6 +7,7 @@
 #include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QDialog>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
@@ -59,8 +60,12 @@ inline void ExpectRoomForAll(const QDialog& dialog) {
   ExpectPartsApart(dialog);
   const TextRoom room(dialog);
   for (const QWidget* part : VisibleParts(dialog)) {
-    EXPECT_GE(part->height(), part->fontMetrics().height())
-        << CaptionOf(*part).toStdString() << " is lower than its text";
+    const QString caption = CaptionOf(*part);
+    const std::string name = (part->accessibleName() + caption).toStdString();
+    const QFontMetrics text = part->fontMetrics();
+    const QSize needed = text.size(0, caption).expandedTo({0, text.height()});
+    EXPECT_GE(part->height(), needed.height()) << name << " is lower than its text";
+    EXPECT_GE(part->width(), needed.width()) << name << " is cut";
   }
 }
 
