@@ -6,7 +6,7 @@
 #include <cmath>
 #include <random>
 
-#include "engine/number_format.h"
+#include "display/number_format.h"
 
 namespace kav {
 namespace {

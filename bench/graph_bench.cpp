@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#include "plotter/graph_painter_view.h"
+#include "screens/plotter/graph_painter_view.h"
 
 namespace kav {
 namespace {

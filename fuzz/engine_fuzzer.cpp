@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "display/number_format.h"
 #include "engine/expression_engine.h"
-#include "engine/number_format.h"
 #include "support/effort.h"
 #include "support/plain_engine.h"
 #include "support/plain_format.h"

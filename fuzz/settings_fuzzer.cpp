@@ -13,10 +13,10 @@
 #include <system_error>
 
 #include "settings/setting_key.h"
-#include "settings/settings_toml.h"
-#include "settings/toml_library.h"
-#include "settings/toml_writer.h"
-#include "settings/user_settings_store.h"
+#include "store/settings_toml.h"
+#include "store/toml_library.h"
+#include "store/toml_writer.h"
+#include "store/user_settings_store.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
-// The layout of the sources, held: which folder may name which, who may name Qt, and that every
-// source of the logic has the test of its name. The table of rooms stands here and nowhere else.
+// The layout of the sources, held: the floors of the house, who may name Qt, and that every source
+// of the logic has the test of its name. The table of floors stands here and nowhere else.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <optional>
 #include <regex>
-#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -16,119 +16,80 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The rooms of the logic and the other rooms that each may name.
-const std::map<std::string, std::set<std::string>> kMayName{
-    {"common", {}},
-    {"settings", {"common"}},
-    {"engine", {"common", "settings"}},
-    {"memory", {"common", "settings"}},
-    {"macros", {"common", "engine", "settings"}},
-    {"converter", {"common", "engine", "settings"}},
-    {"scientific", {"common", "engine", "macros", "settings"}},
-    {"matrix", {"common", "engine", "macros", "scientific", "settings"}},
-    {"plotter", {"common", "engine", "scientific", "settings"}},
-    {"statistics", {"common", "engine", "plotter", "scientific", "settings"}},
-    {"matrix/grid", {}},
+/// The folders below src from the ground up. A file may name files of its own folder and of the
+/// floors below; folders on one floor do not know each other.
+const std::vector<std::vector<std::string>> kFloors{
+    {"common", "grid"},
+    {"settings", "engine"},
+    {"display", "memory", "store"},
+    {"converter", "line"},
+    {"macros", "plotter"},
+    {"scientific", "matrix", "statistics"},
+    {"screens/widgets"},
+    {"screens/display", "screens/grid", "screens/memory"},
+    {"screens/converter", "screens/macros", "screens/plotter"},
+    {"screens/matrix", "screens/scientific", "screens/statistics"},
+    {"cli", "app"},
 };
 
-/// The settings on disk: a library of their own, for those who start a program.
-const std::set<std::string> kStore{
-    "settings/file_lock",     "settings/settings_path",       "settings/settings_texts",
-    "settings/settings_toml", "settings/toml_library",        "settings/toml_text",
-    "settings/toml_writer",   "settings/user_settings_store",
-};
-
-/// Files that may name what their room may not.
-const std::map<std::string, std::set<std::string>> kExceptions{
-    // Its popup edits the formula as the keys of the keypad do.
-    {"macros/macro_editor_model", {"scientific/expression_line", "scientific/keypad"}},
-};
-
-/// Logic above its room, for its own screen only.
-const std::set<std::string> kNamedByScreensOnly{"macros/macro_editor_model"};
-
-/// What a screen may name of the application around it.
-const std::set<std::string> kOfferedToScreens{"app/bottom_menu_bar",
-                                              "app/dialog",
-                                              "app/dialog_texts",
-                                              "app/file_choice",
-                                              "app/choice_box",
-                                              "app/fitting_text",
-                                              "app/formula_view",
-                                              "app/key_painter",
-                                              "app/key_screen",
-                                              "app/label_list",
-                                              "app/line_screen",
-                                              "app/line_view",
-                                              "app/look",
-                                              "app/message_box",
-                                              "app/qt_text",
-                                              "app/screen"};
-
-/// The one file that names the screens of every room.
+/// The one file of app/ that names the screens of every room.
 const std::string kNamesAllScreens = "app/frame_window";
 
-enum class Layer { Logic, Store, Screen, App, Cli };
+/// What kind of code a folder holds.
+enum class Kind {
+  Logic,   ///< the C++ standard library only
+  Store,   ///< the settings on disk, for those who start a program
+  Widget,  ///< what all screens stand on
+  Screen,
+  App,
+  Cli
+};
 
 /// A source or header: its path below src without the extension, and where that puts it.
 struct Unit {
   std::string stem;
   std::string room;
-  Layer layer;
+  Kind kind;
 };
 
-bool EndsWith(const std::string& text, const std::string& end) {
-  return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
-}
-
-Layer LayerOf(const std::string& stem, const std::string& room) {
-  if (room == "app") return Layer::App;
-  if (room == "cli") return Layer::Cli;
-  for (const char* end : {"_dlg", "_view", "_ctrl"}) {
-    if (EndsWith(stem, end)) return Layer::Screen;
-  }
-  return kStore.contains(stem) ? Layer::Store : Layer::Logic;
+Kind KindOf(const std::string& room) {
+  if (room == "app") return Kind::App;
+  if (room == "cli") return Kind::Cli;
+  if (room == "store") return Kind::Store;
+  if (room == "screens/widgets") return Kind::Widget;
+  return room.rfind("screens/", 0) == 0 ? Kind::Screen : Kind::Logic;
 }
 
 Unit UnitOf(const fs::path& relative) {
   const std::string room = relative.parent_path().generic_string();
-  const std::string stem = fs::path(relative).replace_extension().generic_string();
-  return {stem, room, LayerOf(stem, room)};
+  return {fs::path(relative).replace_extension().generic_string(), room, KindOf(room)};
 }
 
-bool LogicMayName(const Unit& from, const Unit& to) {
-  if (to.layer != Layer::Logic || kNamedByScreensOnly.contains(to.stem)) return false;
-  const auto exception = kExceptions.find(from.stem);
-  if (exception != kExceptions.end() && exception->second.contains(to.stem)) return true;
-  const auto allowed = kMayName.find(from.room);
-  return allowed != kMayName.end() && allowed->second.contains(to.room);
+/// Counted from the ground; nothing for a folder that is on no floor.
+std::optional<std::size_t> FloorOf(const std::string& room) {
+  for (std::size_t floor = 0; floor < kFloors.size(); ++floor) {
+    if (std::count(kFloors[floor].begin(), kFloors[floor].end(), room) != 0) return floor;
+  }
+  return std::nullopt;
 }
 
-bool AppMayName(const Unit& from, const Unit& to) {
-  if (to.layer == Layer::Screen) return from.stem == kNamesAllScreens;
-  return to.layer != Layer::Cli;
+bool IsPicture(Kind kind) {
+  return kind == Kind::Widget || kind == Kind::Screen;
+}
+
+/// Whether `to`, on a lower floor, is out of sight of `from` all the same.
+bool IsHidden(const Unit& from, const Unit& to) {
+  if (to.kind == Kind::Store) return from.kind != Kind::App && from.kind != Kind::Cli;
+  if (from.kind == Kind::Cli) return IsPicture(to.kind);
+  if (from.kind == Kind::App && to.kind == Kind::Screen) return from.stem != kNamesAllScreens;
+  return false;
 }
 
 bool MayName(const Unit& from, const Unit& to) {
-  if (from.stem == to.stem) return true;
-  const bool sameRoom = from.room == to.room;
-  switch (from.layer) {
-    case Layer::Logic:
-      return LogicMayName(from, to) ||
-             (sameRoom && to.layer == Layer::Logic && !kNamedByScreensOnly.contains(to.stem));
-    case Layer::Store:
-      return to.layer == Layer::Store || (sameRoom && to.layer == Layer::Logic) ||
-             LogicMayName(from, to);
-    case Layer::Screen:
-      return to.layer == Layer::Logic || to.layer == Layer::Screen ||
-             kOfferedToScreens.contains(to.stem);
-    case Layer::App:
-      return AppMayName(from, to);
-    case Layer::Cli:
-      return sameRoom || to.layer == Layer::Store ||
-             (to.layer == Layer::Logic && !kNamedByScreensOnly.contains(to.stem));
-  }
-  return false;
+  if (from.room == to.room) return true;
+  const auto fromFloor = FloorOf(from.room);
+  const auto toFloor = FloorOf(to.room);
+  return fromFloor && toFloor && *toFloor < *fromFloor && !IsHidden(from, to);
 }
 
 /// An `#include` line: what it names, and whether in quotes (ours) or brackets (installed).
@@ -158,10 +119,10 @@ bool IsToml(const std::string& header) {
 /// What is wrong with one include; empty where nothing is.
 std::string Fault(const Unit& from, const Include& include) {
   if (!include.isOurs) {
-    if (IsQt(include.name) && from.layer != Layer::Screen && from.layer != Layer::App) {
+    if (IsQt(include.name) && !IsPicture(from.kind) && from.kind != Kind::App) {
       return "only screens and app name Qt";
     }
-    if (IsToml(include.name) && from.layer != Layer::Store) return "only the store names TOML";
+    if (IsToml(include.name) && from.kind != Kind::Store) return "only the store names TOML";
     return {};
   }
   const fs::path path(include.name);
@@ -216,11 +177,16 @@ TEST(Layering, EveryIncludeInQuotesIsAFileOfOurs) {
   }
 }
 
-TEST(Layering, EveryFolderIsARoomOfTheTable) {
+TEST(Layering, EveryFolderIsOnOneFloor) {
+  std::map<std::string, int> floors;
+  for (const auto& floor : kFloors) {
+    for (const auto& room : floor) {
+      EXPECT_EQ(++floors[room], 1) << room;
+      EXPECT_TRUE(fs::is_directory(SourceFolder() / room)) << room;
+    }
+  }
   for (const auto& source : Sources()) {
-    const Unit unit = UnitOf(source);
-    if (unit.layer == Layer::App || unit.layer == Layer::Cli) continue;
-    EXPECT_TRUE(kMayName.contains(unit.room)) << source;
+    EXPECT_TRUE(FloorOf(UnitOf(source).room)) << source;
   }
 }
 
@@ -228,7 +194,7 @@ TEST(Layering, EverySourceOfTheLogicHasTheTestOfItsName) {
   for (const auto& source : Sources()) {
     const Unit unit = UnitOf(source);
     if (source.extension() != ".cpp") continue;
-    if (unit.layer != Layer::Logic && unit.layer != Layer::Store) continue;
+    if (unit.kind != Kind::Logic && unit.kind != Kind::Store) continue;
     EXPECT_TRUE(fs::exists(TestFolder() / (unit.stem + "_test.cpp"))) << source;
   }
 }
@@ -251,12 +217,16 @@ TEST(Layering, TheRulesTellALegalIncludeFromAClimbingOne) {
   const std::vector<Row> rows{
       {"common/number_text.cpp", {"common/expected.h", true}, ""},
       {"common/number_text.cpp", {"settings/keys.h", true}, "climbs"},
-      {"engine/tokenizer.cpp", {"settings/keys.h", true}, ""},
-      {"engine/tokenizer.cpp", {"macros/macro_store.h", true}, "climbs"},
-      {"engine/tokenizer.cpp", {"engine/display_settings_dlg.h", true}, "climbs"},
-      {"engine/tokenizer.cpp", {"app/message_box.h", true}, "climbs"},
+      {"common/number_text.cpp", {"grid/grid_model.h", true}, "climbs"},
+      {"grid/grid_model.cpp", {"grid/grid_moves.h", true}, ""},
+      {"grid/grid_model.cpp", {"common/expected.h", true}, "climbs"},
+      {"engine/tokenizer.cpp", {"common/expected.h", true}, ""},
+      {"engine/tokenizer.cpp", {"settings/keys.h", true}, "climbs"},
+      {"engine/tokenizer.cpp", {"display/number_format.h", true}, "climbs"},
+      {"engine/tokenizer.cpp", {"screens/display/display_settings_dlg.h", true}, "climbs"},
+      {"engine/tokenizer.cpp", {"screens/widgets/message_box.h", true}, "climbs"},
       {"engine/tokenizer.cpp", {"cli/options.h", true}, "climbs"},
-      {"engine/tokenizer.cpp", {"settings/user_settings_store.h", true}, "climbs"},
+      {"engine/tokenizer.cpp", {"app/session.h", true}, "climbs"},
       {"engine/tokenizer.cpp", {"tokenizer.h", true}, "an include is spelled from src"},
       {"engine/tokenizer.cpp", {"../common/expected.h", true}, "an include is spelled from src"},
       {"engine/tokenizer.cpp", {"engine/../cli/options.h", true}, "an include is spelled from src"},
@@ -264,36 +234,43 @@ TEST(Layering, TheRulesTellALegalIncludeFromAClimbingOne) {
       {"engine/tokenizer.cpp", {"QtCore/QString", false}, "only screens and app name Qt"},
       {"engine/tokenizer.cpp", {"toml++/toml.h", false}, "only the store names TOML"},
       {"engine/tokenizer.cpp", {"vector", false}, ""},
-      {"memory/constants_table.cpp", {"engine/tokenizer.h", true}, "climbs"},
+      {"engine/tokenizer.cpp", {"unheard_of/tokenizer.h", true}, "climbs"},
+      {"unheard_of/tokenizer.cpp", {"common/expected.h", true}, "climbs"},
+      {"display/number_format.cpp", {"engine/calc_modes.h", true}, ""},
+      {"memory/memory_variables.cpp", {"display/number_format.h", true}, "climbs"},
+      {"line/keypad.cpp", {"macros/macro_store.h", true}, "climbs"},
       {"macros/macro_store.cpp", {"engine/tokenizer.h", true}, ""},
-      {"macros/macro_store.cpp", {"scientific/keypad.h", true}, "climbs"},
-      {"macros/macro_store.cpp", {"macros/macro_editor_model.h", true}, "climbs"},
-      {"macros/macro_editor_model.cpp", {"scientific/keypad.h", true}, ""},
-      {"macros/macro_editor_model.cpp", {"macros/macro_editor_model.h", true}, ""},
-      {"macros/macro_editor_model.cpp", {"scientific/history.h", true}, "climbs"},
-      {"macros/macro_editor_dlg.cpp", {"macros/macro_editor_model.h", true}, ""},
-      {"matrix/grid/grid_model.cpp", {"common/expected.h", true}, "climbs"},
-      {"matrix/grid/grid_model.cpp", {"matrix/grid/grid_model.h", true}, ""},
+      {"macros/macro_editor_model.cpp", {"line/keypad.h", true}, ""},
+      {"macros/macro_store.cpp", {"plotter/plot_range.h", true}, "climbs"},
+      {"macros/macro_store.cpp", {"store/user_settings_store.h", true}, "climbs"},
       {"statistics/regression.cpp", {"plotter/graph_model.h", true}, ""},
-      {"statistics/regression.cpp", {"plotter/graph_view.h", true}, "climbs"},
-      {"scientific/scientific_dlg.cpp", {"QWidget", false}, ""},
-      {"scientific/scientific_dlg.cpp", {"converter/converter_dlg.h", true}, ""},
-      {"scientific/scientific_dlg.cpp", {"app/message_box.h", true}, ""},
-      {"scientific/scientific_dlg.cpp", {"app/frame_window.h", true}, "climbs"},
-      {"scientific/scientific_dlg.cpp", {"settings/user_settings_store.h", true}, "climbs"},
-      {"settings/user_settings_store.cpp", {"settings/settings_toml.h", true}, ""},
-      {"settings/user_settings_store.cpp", {"common/number_text.h", true}, ""},
-      {"settings/user_settings_store.cpp", {"engine/calc_error.h", true}, "climbs"},
-      {"settings/settings_toml.cpp", {"toml++/toml.h", false}, ""},
-      {"settings/settings_toml.cpp", {"QString", false}, "only screens and app name Qt"},
-      {"app/frame_window.cpp", {"scientific/scientific_dlg.h", true}, ""},
-      {"app/application.cpp", {"scientific/scientific_dlg.h", true}, "climbs"},
-      {"app/application.cpp", {"settings/user_settings_store.h", true}, ""},
+      {"statistics/regression.cpp", {"matrix/matrix_value.h", true}, "climbs"},
+      {"statistics/regression.cpp", {"screens/plotter/graph_view.h", true}, "climbs"},
+      {"store/user_settings_store.cpp", {"store/settings_toml.h", true}, ""},
+      {"store/user_settings_store.cpp", {"common/number_text.h", true}, ""},
+      {"store/user_settings_store.cpp", {"line/history.h", true}, "climbs"},
+      {"store/settings_toml.cpp", {"toml++/toml.h", false}, ""},
+      {"store/settings_toml.cpp", {"QString", false}, "only screens and app name Qt"},
+      {"screens/widgets/look.cpp", {"QWidget", false}, ""},
+      {"screens/widgets/look.cpp", {"line/keypad.h", true}, ""},
+      {"screens/widgets/look.cpp", {"screens/memory/constants_dlg.h", true}, "climbs"},
+      {"screens/scientific/scientific_dlg.cpp", {"QWidget", false}, ""},
+      {"screens/scientific/scientific_dlg.cpp", {"screens/converter/converter_dlg.h", true}, ""},
+      {"screens/scientific/scientific_dlg.cpp", {"screens/matrix/matrix_dlg.h", true}, "climbs"},
+      {"screens/scientific/scientific_dlg.cpp", {"screens/widgets/message_box.h", true}, ""},
+      {"screens/scientific/scientific_dlg.cpp", {"app/frame_window.h", true}, "climbs"},
+      {"screens/scientific/scientific_dlg.cpp", {"store/user_settings_store.h", true}, "climbs"},
+      {"screens/converter/converter_dlg.cpp", {"screens/memory/constants_dlg.h", true}, ""},
+      {"app/frame_window.cpp", {"screens/scientific/scientific_dlg.h", true}, ""},
+      {"app/application.cpp", {"screens/scientific/scientific_dlg.h", true}, "climbs"},
+      {"app/application.cpp", {"screens/widgets/message_box.h", true}, ""},
+      {"app/application.cpp", {"store/user_settings_store.h", true}, ""},
       {"app/application.cpp", {"cli/options.h", true}, "climbs"},
-      {"cli/main.cpp", {"settings/user_settings_store.h", true}, ""},
+      {"cli/main.cpp", {"store/user_settings_store.h", true}, ""},
       {"cli/main.cpp", {"scientific/scientific_model.h", true}, ""},
-      {"cli/main.cpp", {"scientific/scientific_dlg.h", true}, "climbs"},
-      {"cli/main.cpp", {"app/screen.h", true}, "climbs"},
+      {"cli/main.cpp", {"screens/scientific/scientific_dlg.h", true}, "climbs"},
+      {"cli/main.cpp", {"screens/widgets/screen.h", true}, "climbs"},
+      {"cli/main.cpp", {"app/session.h", true}, "climbs"},
       {"cli/main.cpp", {"QString", false}, "only screens and app name Qt"},
   };
   for (const auto& row : rows) {

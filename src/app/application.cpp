@@ -8,10 +8,10 @@
 #include <string_view>
 #include <utility>
 
-#include "app/app_texts.h"
 #include "app/session.h"
 #include "app/single_instance.h"
-#include "settings/settings_path.h"
+#include "screens/widgets/app_texts.h"
+#include "store/settings_path.h"
 
 namespace kav {
 namespace {

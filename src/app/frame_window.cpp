@@ -7,22 +7,22 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/app_texts.h"
-#include "app/qt_text.h"
-#include "app/screen.h"
-#include "converter/converter_dlg.h"
-#include "converter/user_conversion_dlg.h"
-#include "engine/display_settings_dlg.h"
-#include "macros/macro_editor_dlg.h"
-#include "macros/macro_list_dlg.h"
-#include "matrix/matrix_dlg.h"
-#include "memory/constants_dlg.h"
-#include "memory/memory_variables_dlg.h"
-#include "plotter/plotter_dlg.h"
-#include "scientific/scientific_dlg.h"
+#include "screens/converter/converter_dlg.h"
+#include "screens/converter/user_conversion_dlg.h"
+#include "screens/display/display_settings_dlg.h"
+#include "screens/macros/macro_editor_dlg.h"
+#include "screens/macros/macro_list_dlg.h"
+#include "screens/matrix/matrix_dlg.h"
+#include "screens/memory/constants_dlg.h"
+#include "screens/memory/memory_variables_dlg.h"
+#include "screens/plotter/plotter_dlg.h"
+#include "screens/scientific/scientific_dlg.h"
+#include "screens/statistics/one_variable_dlg.h"
+#include "screens/statistics/two_variable_dlg.h"
+#include "screens/widgets/app_texts.h"
+#include "screens/widgets/qt_text.h"
+#include "screens/widgets/screen.h"
 #include "settings/keys.h"
-#include "statistics/one_variable_dlg.h"
-#include "statistics/two_variable_dlg.h"
 
 namespace kav {
 namespace {

@@ -11,8 +11,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/frame.h"
 #include "app/window_place.h"
+#include "screens/widgets/frame.h"
 
 namespace kav {
 

@@ -7,8 +7,8 @@
 #include <csignal>
 #include <utility>
 
-#include "app/message_box.h"
 #include "matrix/temporary_matrices.h"
+#include "screens/widgets/message_box.h"
 
 namespace kav {
 namespace {

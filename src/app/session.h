@@ -9,7 +9,7 @@
 #include "app/frame_window.h"
 #include "app/single_instance.h"
 #include "settings/file_descriptor.h"
-#include "settings/user_settings_store.h"
+#include "store/user_settings_store.h"
 
 namespace kav {
 

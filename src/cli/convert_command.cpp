@@ -18,8 +18,8 @@
 #include "converter/conversion.h"
 #include "converter/converter_texts.h"
 #include "converter/user_conversions.h"
+#include "display/number_input.h"
 #include "engine/calc_error.h"
-#include "engine/number_input.h"
 
 namespace kav {
 namespace {

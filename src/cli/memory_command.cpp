@@ -13,9 +13,9 @@
 #include "cli/usage.h"
 #include "cli/verbs.h"
 #include "common/number_text.h"
-#include "engine/number_format.h"
+#include "display/number_format.h"
+#include "line/shown_number.h"
 #include "memory/memory_variables.h"
-#include "scientific/shown_number.h"
 
 namespace kav {
 namespace {

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <system_error>
 
-#include "engine/number_input.h"
+#include "display/number_input.h"
 
 namespace kav {
 namespace {

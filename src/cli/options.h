@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "common/expected.h"
+#include "display/number_format.h"
 #include "engine/calc_modes.h"
-#include "engine/number_format.h"
 #include "engine/tokenizer.h"
 #include "matrix/matrix_value.h"
 #include "plotter/curve_sampling.h"

@@ -8,7 +8,7 @@
 #include "cli/line_editor.h"
 #include "common/number_text.h"
 #include "engine/tokenizer.h"
-#include "settings/settings_path.h"
+#include "store/settings_path.h"
 
 namespace kav {
 namespace {

@@ -3,7 +3,7 @@
 #include "cli/answer_writer.h"
 #include "common/number_text.h"
 #include "settings/keys.h"
-#include "settings/settings_path.h"
+#include "store/settings_path.h"
 
 namespace kav {
 

@@ -6,7 +6,7 @@
 
 #include "cli/options.h"
 #include "engine/calc_modes.h"
-#include "settings/user_settings_store.h"
+#include "store/user_settings_store.h"
 
 namespace kav {
 

@@ -7,7 +7,7 @@
 #include "common/number_text.h"
 #include "converter/conversion.h"
 #include "converter/converter_texts.h"
-#include "engine/number_input.h"
+#include "display/number_input.h"
 
 namespace kav {
 namespace {

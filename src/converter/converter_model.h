@@ -9,7 +9,7 @@
 
 #include "converter/unit_tables.h"
 #include "converter/user_conversions.h"
-#include "engine/number_format.h"
+#include "display/number_format.h"
 #include "settings/settings_store.h"
 
 namespace kav {

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "common/number_text.h"
+#include "line/keypad.h"
 #include "macros/macros_texts.h"
-#include "scientific/keypad.h"
 
 namespace kav {
 namespace {
@@ -55,12 +55,9 @@ struct VariableItem {
 constexpr std::array kVariableItems{VariableItem{u"X", u"x"}, VariableItem{u"Y", u"y"},
                                     VariableItem{u"Z", u"z"}};
 
-// Nobody reads more of a text, and a field that holds much more is no longer fluent.
-constexpr std::size_t kMostShown = 1000;
-
 std::u16string ShownStored(std::string_view stored) {
   constexpr std::size_t kMostBytes = 4;  // of one character
-  return ShownText(Widen(stored.substr(0, kMostBytes * (kMostShown + 1))));
+  return ShownText(Widen(stored.substr(0, kMostBytes * (kLongestShownText + 1))));
 }
 
 MacroFields FieldsOf(const Macro& macro) {
@@ -70,10 +67,6 @@ MacroFields FieldsOf(const Macro& macro) {
 }
 
 }  // namespace
-
-std::u16string ShownText(std::u16string_view text) {
-  return Shortened(text, kMostShown);
-}
 
 MacroEditorModel::MacroEditorModel(SettingsStore& settings) : settings_(settings), list_(settings) {
   Browse();

@@ -8,16 +8,12 @@
 #include <vector>
 
 #include "common/refusal.h"
+#include "line/expression_line.h"
 #include "macros/macro_list_model.h"
 #include "macros/macro_saving.h"
-#include "scientific/expression_line.h"
 #include "settings/settings_store.h"
 
 namespace kav {
-
-/// `text` as a field shows it: in one line and, where it is much too long to be read, cut, with an
-/// ellipsis behind it. A formula that was cut is still too long to be saved.
-std::u16string ShownText(std::u16string_view text);
 
 /// What stands in the fields.
 struct MacroFields {

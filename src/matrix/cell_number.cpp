@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "common/number_text.h"
-#include "engine/number_format.h"
+#include "display/number_format.h"
 
 namespace kav {
 namespace {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "common/number_text.h"
-#include "engine/number_input.h"
+#include "display/number_input.h"
 #include "matrix/matrix_edits.h"
 
 namespace kav {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/display_settings.h"
+#include "display/display_settings.h"
 #include "matrix/cell_range.h"
 #include "matrix/column_widths.h"
 #include "matrix/matrix_edits.h"

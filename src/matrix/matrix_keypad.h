@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "scientific/keypad.h"
+#include "line/keypad.h"
 
 namespace kav {
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "scientific/screen_menus.h"
+#include "line/screen_menus.h"
 
 namespace kav {
 

@@ -5,15 +5,15 @@
 #include <utility>
 
 #include "common/number_text.h"
+#include "line/line_texts.h"
+#include "line/shown_number.h"
+#include "macros/macro_call.h"
 #include "matrix/cell_number.h"
 #include "matrix/cell_table_text.h"
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_line.h"
 #include "matrix/matrix_menus.h"
 #include "matrix/matrix_texts.h"
-#include "scientific/macro_call.h"
-#include "scientific/scientific_texts.h"
-#include "scientific/shown_number.h"
 #include "settings/keys.h"
 
 namespace kav {

@@ -7,8 +7,13 @@
 #include <utility>
 #include <variant>
 
+#include "display/display_settings.h"
 #include "engine/calc_modes.h"
-#include "engine/display_settings.h"
+#include "line/converter_link.h"
+#include "line/expression_line.h"
+#include "line/history.h"
+#include "line/key_request.h"
+#include "line/screen_menus.h"
 #include "macros/macro_store.h"
 #include "matrix/cell_range.h"
 #include "matrix/column_widths.h"
@@ -16,11 +21,6 @@
 #include "matrix/matrix_keypad.h"
 #include "matrix/matrix_value.h"
 #include "matrix/temporary_matrices.h"
-#include "scientific/converter_link.h"
-#include "scientific/expression_line.h"
-#include "scientific/history.h"
-#include "scientific/key_request.h"
-#include "scientific/screen_menus.h"
 #include "settings/settings_store.h"
 
 namespace kav {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "engine/display_settings.h"
+#include "display/display_settings.h"
 
 namespace kav {
 

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "display/number_format.h"
 #include "engine/calc_modes.h"
 #include "engine/formula_checker.h"
-#include "engine/number_format.h"
 #include "plotter/plot_range.h"
 
 namespace kav {

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "common/number_text.h"
-#include "engine/number_input.h"
+#include "display/number_input.h"
 #include "plotter/plotter_texts.h"
 
 namespace kav {

@@ -5,9 +5,9 @@
 #include <span>
 #include <string_view>
 
+#include "line/key_state.h"
+#include "line/keypad.h"
 #include "plotter/range_fields.h"
-#include "scientific/key_state.h"
-#include "scientific/keypad.h"
 
 namespace kav {
 

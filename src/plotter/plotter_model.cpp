@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "common/number_text.h"
+#include "display/number_format.h"
 #include "engine/formula_checker.h"
-#include "engine/number_format.h"
+#include "line/line_texts.h"
 #include "plotter/plotter_texts.h"
-#include "scientific/scientific_texts.h"
 #include "settings/keys.h"
 
 namespace kav {

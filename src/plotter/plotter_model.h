@@ -9,15 +9,15 @@
 
 #include "common/refusal.h"
 #include "engine/calc_modes.h"
+#include "line/expression_line.h"
+#include "line/history.h"
+#include "line/key_request.h"
+#include "line/key_state.h"
+#include "line/screen_menus.h"
 #include "plotter/equation_list.h"
 #include "plotter/graph_input.h"
 #include "plotter/plotter_keypad.h"
 #include "plotter/range_fields.h"
-#include "scientific/expression_line.h"
-#include "scientific/history.h"
-#include "scientific/key_request.h"
-#include "scientific/key_state.h"
-#include "scientific/screen_menus.h"
 #include "settings/settings_store.h"
 
 namespace kav {

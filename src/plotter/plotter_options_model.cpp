@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "scientific/shown_number.h"
+#include "line/shown_number.h"
 
 namespace kav {
 

@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "common/number_text.h"
-#include "scientific/macro_call.h"
-#include "scientific/scientific_texts.h"
-#include "scientific/shown_number.h"
+#include "line/line_texts.h"
+#include "line/shown_number.h"
+#include "macros/macro_call.h"
 #include "settings/keys.h"
 
 namespace kav {

@@ -5,17 +5,17 @@
 #include <string>
 #include <string_view>
 
+#include "display/number_format.h"
 #include "engine/calc_modes.h"
-#include "engine/number_format.h"
+#include "line/converter_link.h"
+#include "line/expression_line.h"
+#include "line/history.h"
+#include "line/key_request.h"
+#include "line/key_state.h"
+#include "line/keypad.h"
+#include "line/screen_menus.h"
 #include "macros/line_evaluator.h"
 #include "macros/macro_store.h"
-#include "scientific/converter_link.h"
-#include "scientific/expression_line.h"
-#include "scientific/history.h"
-#include "scientific/key_request.h"
-#include "scientific/key_state.h"
-#include "scientific/keypad.h"
-#include "scientific/screen_menus.h"
 #include "settings/settings_store.h"
 
 namespace kav {

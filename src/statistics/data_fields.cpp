@@ -5,7 +5,7 @@
 
 #include "common/expected.h"
 #include "common/number_text.h"
-#include "engine/number_input.h"
+#include "display/number_input.h"
 #include "statistics/statistics_texts.h"
 
 namespace kav {

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "common/number_text.h"
-#include "engine/number_input.h"
+#include "display/number_input.h"
 #include "statistics/data_texts.h"
 #include "statistics/progress_clock.h"
 #include "statistics/statistics_texts.h"

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <variant>
 
-#include "engine/number_format.h"
+#include "display/number_format.h"
 #include "statistics/data_file.h"
 #include "statistics/data_list.h"
 

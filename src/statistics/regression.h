@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "engine/number_format.h"
+#include "display/number_format.h"
 #include "statistics/data_list.h"
 #include "statistics/one_variable.h"
 

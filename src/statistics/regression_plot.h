@@ -4,8 +4,8 @@
 #include <string>
 
 #include "common/expected.h"
+#include "display/number_format.h"
 #include "engine/calc_modes.h"
-#include "engine/number_format.h"
 #include "plotter/graph_input.h"
 #include "statistics/data_list.h"
 #include "statistics/regression.h"

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "scientific/keypad.h"
+#include "line/keypad.h"
 #include "statistics/data_list.h"
 #include "statistics/one_variable.h"
 

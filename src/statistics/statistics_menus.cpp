@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "scientific/scientific_texts.h"
+#include "line/line_texts.h"
 #include "statistics/statistics_texts.h"
 
 namespace kav {

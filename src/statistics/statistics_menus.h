@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "scientific/screen_menus.h"
+#include "line/screen_menus.h"
 #include "statistics/regression.h"
 
 namespace kav {

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "common/number_text.h"
-#include "scientific/shown_number.h"
+#include "line/shown_number.h"
 #include "settings/keys.h"
 #include "statistics/pasted_rows.h"
 #include "statistics/statistics_menus.h"

@@ -7,9 +7,9 @@
 #include <string_view>
 #include <variant>
 
+#include "display/number_format.h"
 #include "engine/calc_modes.h"
-#include "engine/number_format.h"
-#include "scientific/screen_menus.h"
+#include "line/screen_menus.h"
 #include "settings/settings_store.h"
 #include "statistics/data_fields.h"
 #include "statistics/data_file.h"

@@ -6,8 +6,8 @@
 #include <variant>
 
 #include "common/refusal.h"
+#include "line/key_request.h"
 #include "plotter/graph_input.h"
-#include "scientific/key_request.h"
 #include "statistics/data_fields.h"
 
 namespace kav {

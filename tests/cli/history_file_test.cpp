@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "settings/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "cli/terminal.h"
-#include "settings/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace kav::test {
 namespace {

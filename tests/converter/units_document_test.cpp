@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "converter/unit_tables.h"
-#include "settings/temporary_folder.h"
 #include "support/effort.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

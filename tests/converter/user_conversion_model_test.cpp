@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "common/number_text.h"
-#include "settings/temporary_folder.h"
-#include "settings/user_settings_store.h"
+#include "store/user_settings_store.h"
 #include "support/stored_conversions.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

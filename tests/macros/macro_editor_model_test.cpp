@@ -9,12 +9,12 @@
 #include <vector>
 
 #include "common/number_text.h"
-#include "scientific/keypad.h"
-#include "settings/temporary_folder.h"
-#include "settings/user_settings_store.h"
+#include "line/keypad.h"
+#include "store/user_settings_store.h"
 #include "support/macro_function_rows.h"
 #include "support/marked_line.h"
 #include "support/stored_macros.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

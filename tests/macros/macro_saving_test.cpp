@@ -8,9 +8,9 @@
 
 #include "common/number_text.h"
 #include "macros/macro_store.h"
-#include "settings/temporary_folder.h"
-#include "settings/user_settings_store.h"
+#include "store/user_settings_store.h"
 #include "support/stored_macros.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

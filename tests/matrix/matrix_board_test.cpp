@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "common/number_text.h"
-#include "settings/temporary_folder.h"
 #include "support/matrix_table.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

@@ -12,8 +12,8 @@
 #include "matrix/matrices.h"
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_operations.h"
-#include "settings/temporary_folder.h"
 #include "support/random.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "matrix/matrices.h"
-#include "settings/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

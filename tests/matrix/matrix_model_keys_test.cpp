@@ -1,9 +1,9 @@
 // Keys, menus and dialogs of the matrix screen.
 #include <gtest/gtest.h>
 
-#include "settings/temporary_folder.h"
 #include "support/matrix_screen.h"
 #include "support/stored_macros.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

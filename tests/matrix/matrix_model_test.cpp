@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <random>
 
-#include "settings/temporary_folder.h"
 #include "support/matrix_screen.h"
 #include "support/stored_macros.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

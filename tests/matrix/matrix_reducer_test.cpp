@@ -7,7 +7,7 @@
 
 #include "matrix/matrices.h"
 #include "matrix/matrix_tokenizer.h"
-#include "settings/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "matrix/matrices.h"
-#include "settings/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

@@ -12,7 +12,7 @@
 #include "common/number_text.h"
 #include "engine/expression_engine.h"
 #include "memory/constants_table.h"
-#include "settings/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "settings/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "settings/temporary_folder.h"
-#include "settings/user_settings_store.h"
+#include "store/user_settings_store.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

@@ -1,13 +1,13 @@
 // The lists that drop down: what room they ask for, and how they show what is too long for it.
-#include "app/choice_box.h"
+#include "screens/widgets/choice_box.h"
 
 #include <gtest/gtest.h>
 
 #include <QStyle>
 #include <QStyleOptionComboBox>
 
-#include "app/look.h"
 #include "screens/screen_driver.h"
+#include "screens/widgets/look.h"
 
 namespace kav::test {
 namespace {

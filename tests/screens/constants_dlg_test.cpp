@@ -1,4 +1,4 @@
-#include "memory/constants_dlg.h"
+#include "screens/memory/constants_dlg.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@
 #include <vector>
 
 #include "screens/box_watch.h"
-#include "settings/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace kav::test {
 namespace {

@@ -1,5 +1,5 @@
 // The unit converter as its user meets it.
-#include "converter/converter_dlg.h"
+#include "screens/converter/converter_dlg.h"
 
 #include <gtest/gtest.h>
 

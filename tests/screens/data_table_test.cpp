@@ -9,7 +9,7 @@
 #include <string>
 
 #include "screens/screen_driver.h"
-#include "statistics/data_table_view.h"
+#include "screens/statistics/data_table_view.h"
 
 namespace kav::test {
 namespace {

@@ -1,5 +1,5 @@
 // What all dialogs have in common: where they open, how they scale, and how their lines are shown.
-#include "app/dialog.h"
+#include "screens/widgets/dialog.h"
 
 #include <gtest/gtest.h>
 

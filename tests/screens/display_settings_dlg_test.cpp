@@ -1,5 +1,5 @@
 // The display settings: two pages over one set of boxes.
-#include "engine/display_settings_dlg.h"
+#include "screens/display/display_settings_dlg.h"
 
 #include <gtest/gtest.h>
 

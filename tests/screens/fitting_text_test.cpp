@@ -1,5 +1,5 @@
 // Shown texts that get smaller letters where they are too long.
-#include "app/fitting_text.h"
+#include "screens/widgets/fitting_text.h"
 
 #include <gtest/gtest.h>
 

@@ -18,8 +18,8 @@
 #include <utility>
 
 #include "common/number_text.h"
-#include "plotter/graph_view.h"
 #include "screens/box_watch.h"
+#include "screens/plotter/graph_view.h"
 #include "screens/screen_driver.h"
 #include "support/graph_inputs.h"
 

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "app/look.h"
 #include "screens/dialog_layout.h"
 #include "screens/graph_driver.h"
 #include "screens/screen_layout.h"
+#include "screens/widgets/look.h"
 
 namespace kav::test {
 namespace {

@@ -1,5 +1,5 @@
 // The graph on the screen: what its controls, its menu, its keys and taps do.
-#include "plotter/graph_view.h"
+#include "screens/plotter/graph_view.h"
 
 #include <gtest/gtest.h>
 

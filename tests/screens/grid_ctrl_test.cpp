@@ -1,5 +1,5 @@
 // The grid: its shape and texts, whom it tells, and what it does without memory.
-#include "matrix/grid/grid_ctrl.h"
+#include "screens/grid/grid_ctrl.h"
 
 #include <gtest/gtest.h>
 

@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include "matrix/grid/grid_ctrl.h"
-#include "matrix/grid/grid_edit_view.h"
+#include "screens/grid/grid_ctrl.h"
+#include "screens/grid/grid_edit_view.h"
 #include "screens/screen_driver.h"
 
 namespace kav::test {

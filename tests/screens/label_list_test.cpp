@@ -1,4 +1,4 @@
-#include "app/label_list.h"
+#include "screens/widgets/label_list.h"
 
 #include <gtest/gtest.h>
 

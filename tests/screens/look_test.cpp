@@ -1,4 +1,4 @@
-#include "app/look.h"
+#include "screens/widgets/look.h"
 
 #include <gtest/gtest.h>
 

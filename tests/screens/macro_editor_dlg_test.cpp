@@ -1,5 +1,5 @@
 // The macro editor: browsing, editing, what it refuses, and what it stores.
-#include "macros/macro_editor_dlg.h"
+#include "screens/macros/macro_editor_dlg.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +8,8 @@
 #include "macros/macro_saving.h"
 #include "screens/dialog_layout.h"
 #include "screens/macro_editor_driver.h"
-#include "settings/temporary_folder.h"
-#include "settings/user_settings_store.h"
+#include "store/user_settings_store.h"
+#include "support/temporary_folder.h"
 
 namespace kav::test {
 namespace {

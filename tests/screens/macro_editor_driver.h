@@ -11,8 +11,8 @@
 #include <string>
 #include <string_view>
 
-#include "macros/macro_editor_dlg.h"
 #include "screens/box_watch.h"
+#include "screens/macros/macro_editor_dlg.h"
 #include "screens/screen_driver.h"
 #include "support/marked_line.h"
 #include "support/stored_macros.h"

@@ -1,5 +1,5 @@
 // The list to choose a macro from.
-#include "macros/macro_list_dlg.h"
+#include "screens/macros/macro_list_dlg.h"
 
 #include <gtest/gtest.h>
 
@@ -12,9 +12,9 @@
 #include "screens/box_watch.h"
 #include "screens/dialog_layout.h"
 #include "screens/screen_driver.h"
-#include "settings/temporary_folder.h"
-#include "settings/user_settings_store.h"
+#include "store/user_settings_store.h"
 #include "support/stored_macros.h"
+#include "support/temporary_folder.h"
 
 namespace kav::test {
 namespace {

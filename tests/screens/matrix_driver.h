@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
-#include "matrix/grid/grid_ctrl.h"
-#include "matrix/matrix_dlg.h"
 #include "screens/box_watch.h"
+#include "screens/grid/grid_ctrl.h"
+#include "screens/matrix/matrix_dlg.h"
 #include "screens/screen_driver.h"
 
 namespace kav::test {

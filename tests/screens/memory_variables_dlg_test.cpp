@@ -1,5 +1,5 @@
 // The list of memory variables, to store into and to recall from.
-#include "memory/memory_variables_dlg.h"
+#include "screens/memory/memory_variables_dlg.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +12,8 @@
 #include "screens/box_watch.h"
 #include "screens/dialog_layout.h"
 #include "screens/screen_driver.h"
-#include "settings/temporary_folder.h"
-#include "settings/user_settings_store.h"
+#include "store/user_settings_store.h"
+#include "support/temporary_folder.h"
 
 namespace kav::test {
 namespace {

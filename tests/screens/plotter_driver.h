@@ -13,10 +13,10 @@
 #include <string>
 #include <string_view>
 
-#include "app/formula_view.h"
-#include "plotter/plotter_dlg.h"
 #include "screens/box_watch.h"
+#include "screens/plotter/plotter_dlg.h"
 #include "screens/screen_driver.h"
+#include "screens/widgets/formula_view.h"
 #include "support/marked_line.h"
 
 namespace kav::test {

@@ -1,5 +1,5 @@
 // The options of a graph: the fields typed into, the boxes ticked, the buttons pressed.
-#include "plotter/plotter_options_dlg.h"
+#include "screens/plotter/plotter_options_dlg.h"
 
 #include <gtest/gtest.h>
 

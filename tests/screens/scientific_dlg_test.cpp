@@ -1,5 +1,5 @@
 // The keys of the scientific screen, tapped one by one on the real widgets.
-#include "scientific/scientific_dlg.h"
+#include "screens/scientific/scientific_dlg.h"
 
 #include <gtest/gtest.h>
 

@@ -11,9 +11,9 @@
 #include "screens/box_watch.h"
 #include "screens/screen_driver.h"
 #include "settings/keys.h"
-#include "settings/temporary_folder.h"
-#include "settings/user_settings_store.h"
+#include "store/user_settings_store.h"
 #include "support/stored_macros.h"
+#include "support/temporary_folder.h"
 
 namespace kav::test {
 namespace {

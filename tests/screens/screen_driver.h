@@ -14,9 +14,9 @@
 #include <string_view>
 #include <vector>
 
-#include "app/frame.h"
-#include "app/line_view.h"
-#include "scientific/scientific_dlg.h"
+#include "screens/scientific/scientific_dlg.h"
+#include "screens/widgets/frame.h"
+#include "screens/widgets/line_view.h"
 #include "settings/settings_store.h"
 #include "support/marked_line.h"
 

@@ -8,9 +8,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "app/key_view.h"
 #include "screens/screen_driver.h"
 #include "screens/test_fonts.h"
+#include "screens/widgets/key_view.h"
 
 namespace kav::test {
 

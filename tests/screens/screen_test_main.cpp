@@ -1,4 +1,4 @@
-// The main program of every test of screens: no display, no user's settings, no fonts but its own,
+// The main program of the tests of screens: no display, no user's settings, no fonts but its own,
 // no box unasked.
 #include <gtest/gtest.h>
 
@@ -6,11 +6,12 @@
 #include <QFontInfo>
 #include <cstdio>
 
-#include "app/look.h"
 #include "screens/box_watch.h"
 #include "screens/test_fonts.h"
-#include "settings/temporary_folder.h"
+#include "screens/widgets/look.h"
+#include "support/one_file.h"
 #include "support/own_environment.h"
+#include "support/temporary_folder.h"
 
 namespace {
 
@@ -24,6 +25,7 @@ void DropRemarks(QtMsgType, const QMessageLogContext&, const QString& message) {
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
+  if (!kav::test::ChooseTestsOfOneFile(argc, argv)) return 1;
   const kav::TemporaryFolder home;
   chmod(home.Path().c_str(), 0700);
   kav::test::TakeOwnEnvironment(home.Path());

@@ -17,8 +17,8 @@
 
 #include "screens/box_watch.h"
 #include "screens/screen_driver.h"
-#include "statistics/one_variable_dlg.h"
-#include "statistics/two_variable_dlg.h"
+#include "screens/statistics/one_variable_dlg.h"
+#include "screens/statistics/two_variable_dlg.h"
 
 namespace kav::test {
 

@@ -24,9 +24,9 @@
 #include <QTreeView>
 #include <cmath>
 
-#include "app/key_sheet.h"
-#include "app/key_view.h"
-#include "matrix/grid/grid_ctrl.h"
+#include "screens/grid/grid_ctrl.h"
+#include "screens/widgets/key_sheet.h"
+#include "screens/widgets/key_view.h"
 
 namespace kav::test {
 

@@ -1,5 +1,5 @@
 // The editor of the user's own conversions: browsing, editing, what it refuses, and what it stores.
-#include "converter/user_conversion_dlg.h"
+#include "screens/converter/user_conversion_dlg.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,8 @@
 #include "converter/user_conversions.h"
 #include "screens/dialog_layout.h"
 #include "screens/user_conversion_driver.h"
-#include "settings/temporary_folder.h"
-#include "settings/user_settings_store.h"
+#include "store/user_settings_store.h"
+#include "support/temporary_folder.h"
 
 namespace kav::test {
 namespace {

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "converter/user_conversion_dlg.h"
 #include "screens/box_watch.h"
+#include "screens/converter/user_conversion_dlg.h"
 #include "screens/screen_driver.h"
 #include "support/stored_conversions.h"
 

@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "common/number_text.h"
-#include "settings/temporary_folder.h"
 #include "support/effort.h"
 #include "support/locales.h"
 #include "support/random.h"
+#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {

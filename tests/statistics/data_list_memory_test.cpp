@@ -8,11 +8,11 @@
 #include <string>
 
 #include "common/number_text.h"
-#include "settings/temporary_folder.h"
 #include "statistics/data_file.h"
 #include "statistics/data_list.h"
 #include "statistics/pasted_rows.h"
 #include "support/effort.h"
+#include "support/temporary_folder.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 namespace kav {
 namespace {
 
-class OneVariable : public test::StatisticsFixture<OneVariableModel> {
+class OneVariableScreen : public test::StatisticsFixture<OneVariableModel> {
  protected:
   std::u16string Stored() {
     const auto request = model_->ChooseVariables(1);
@@ -21,7 +21,7 @@ class OneVariable : public test::StatisticsFixture<OneVariableModel> {
   }
 };
 
-TEST_F(OneVariable, TwoAndFourWithCountsOfThreeAndOne) {
+TEST_F(OneVariableScreen, TwoAndFourWithCountsOfThreeAndOne) {
   Add(u"2", u"3");
   Add(u"4", u"1");
   EXPECT_EQ(Result(u"\u03A3X"), u"10");
@@ -32,7 +32,7 @@ TEST_F(OneVariable, TwoAndFourWithCountsOfThreeAndOne) {
   EXPECT_EQ(Result(u"\u03C3(n) of X"), u"0.866025403784");
 }
 
-TEST_F(OneVariable, ResultsAreShownAsTheDisplaySettingsSay) {
+TEST_F(OneVariableScreen, ResultsAreShownAsTheDisplaySettingsSay) {
   struct Row {
     std::int32_t type;
     std::u16string_view shown;
@@ -48,7 +48,7 @@ TEST_F(OneVariable, ResultsAreShownAsTheDisplaySettingsSay) {
   }
 }
 
-TEST_F(OneVariable, ChangedDisplaySettingsShowTheResultAnew) {
+TEST_F(OneVariableScreen, ChangedDisplaySettingsShowTheResultAnew) {
   Add(u"12345", u"1");
   Add(u"0.5", u"1");
   EXPECT_EQ(Result(u"\u03A3X"), u"12,345.5");
@@ -61,13 +61,13 @@ TEST_F(OneVariable, ChangedDisplaySettingsShowTheResultAnew) {
   EXPECT_EQ(Rows(), "1.0e+15 1; 0.5 1; 12345 1");
 }
 
-TEST_F(OneVariable, FreshResultLineStaysWhenDisplaySettingsChange) {
+TEST_F(OneVariableScreen, FreshResultLineStaysWhenDisplaySettingsChange) {
   Set("Display Type", 1);
   model_->TakeDisplaySettings();
   EXPECT_EQ(model_->ResultText(), u"0");
 }
 
-TEST_F(OneVariable, ResultsReadTheTextsOfTheCells) {
+TEST_F(OneVariableScreen, ResultsReadTheTextsOfTheCells) {
   ASSERT_FALSE(Load("1.5e+3\t2\r\n2-3\t1\r\n-\t9\r\n"));
   // "2-3" opens with 2, and "-" is no number.
   EXPECT_EQ(Result(u"\u03A3X"), u"3,002");
@@ -75,7 +75,7 @@ TEST_F(OneVariable, ResultsReadTheTextsOfTheCells) {
   EXPECT_EQ(model_->TotalText(), u"12");
 }
 
-TEST_F(OneVariable, SumOfSquaresThatIsTooSmallHasNoRoot) {
+TEST_F(OneVariableScreen, SumOfSquaresThatIsTooSmallHasNoRoot) {
   ASSERT_FALSE(Load("0\t1\r\n1\t-3\r\n"));
   EXPECT_EQ(Result(u"\u03A3X^2"), u"-3");
   EXPECT_EQ(Result(u"Arithmetic Mean of X"), u"1.5");
@@ -84,19 +84,19 @@ TEST_F(OneVariable, SumOfSquaresThatIsTooSmallHasNoRoot) {
   EXPECT_EQ(Result(u"\u03C3(n-1) of X"), u"Out of range(overflow or underflow)");
 }
 
-TEST_F(OneVariable, TotalOfZeroHasNoMean) {
+TEST_F(OneVariableScreen, TotalOfZeroHasNoMean) {
   ASSERT_FALSE(Load("1\t0\r\n2\t0\r\n"));
   EXPECT_EQ(Result(u"\u03A3X"), u"0");
   EXPECT_EQ(Result(u"Arithmetic Mean of X"), u"Out of range(overflow or underflow)");
 }
 
-TEST_F(OneVariable, SumBeyondTheRangeOfNumbersIsTold) {
+TEST_F(OneVariableScreen, SumBeyondTheRangeOfNumbersIsTold) {
   Add(u"1e308", u"2");
   Add(u"1", u"1");
   EXPECT_EQ(Result(u"\u03A3X"), u"Out of range(overflow or underflow)");
 }
 
-TEST_F(OneVariable, ResultsAreThoseOfTheRowsAsTheyAreNow) {
+TEST_F(OneVariableScreen, ResultsAreThoseOfTheRowsAsTheyAreNow) {
   Add(u"2", u"3");
   Add(u"4", u"1");
   EXPECT_EQ(Result(u"\u03A3X"), u"10");
@@ -107,16 +107,16 @@ TEST_F(OneVariable, ResultsAreThoseOfTheRowsAsTheyAreNow) {
 
 // Memory variables.
 
-TEST_F(OneVariable, MemoryMenuIsAsked) {
+TEST_F(OneVariableScreen, MemoryMenuIsAsked) {
   EXPECT_TRUE(std::holds_alternative<ShowVariablesMenu>(Press(u"MEM")));
 }
 
-TEST_F(OneVariable, FreshScreenOffersToStoreItsZero) {
+TEST_F(OneVariableScreen, FreshScreenOffersToStoreItsZero) {
   EXPECT_EQ(model_->MenuOfVariables(), (Menu{{1, u"Store MemVar"}, {2, u"ReCall MemVar"}}));
   EXPECT_EQ(Stored(), u"0");
 }
 
-TEST_F(OneVariable, StoredResultIsInFloatingPoint) {
+TEST_F(OneVariableScreen, StoredResultIsInFloatingPoint) {
   Add(u"1000000", u"1");
   Add(u"234567.5", u"1");
   EXPECT_EQ(Result(u"\u03A3X"), u"1,234,567.5");
@@ -124,7 +124,7 @@ TEST_F(OneVariable, StoredResultIsInFloatingPoint) {
   EXPECT_EQ(model_->ResultText(), u"1,234,567.5");
 }
 
-TEST_F(OneVariable, ResultThatCannotBeShownCannotBeStored) {
+TEST_F(OneVariableScreen, ResultThatCannotBeShownCannotBeStored) {
   Add(u"1e308", u"2");
   Add(u"1", u"1");
   Result(u"\u03A3X");
@@ -139,13 +139,13 @@ TEST_F(OneVariable, ResultThatCannotBeShownCannotBeStored) {
   EXPECT_EQ(Stored(), u"3");
 }
 
-TEST_F(OneVariable, ItemsThatAreNotOfferedDoNothing) {
+TEST_F(OneVariableScreen, ItemsThatAreNotOfferedDoNothing) {
   for (const int id : {-1, 0, 3}) {
     EXPECT_TRUE(std::holds_alternative<Nothing>(model_->ChooseVariables(id))) << id;
   }
 }
 
-TEST_F(OneVariable, RecalledValueReplacesTheFieldThatHadTheFocus) {
+TEST_F(OneVariableScreen, RecalledValueReplacesTheFieldThatHadTheFocus) {
   Type(u"old", u"7");
   model_->SetFocusedField(DataField::X);
   EXPECT_TRUE(std::holds_alternative<RecallMemoryVariable>(model_->ChooseVariables(2)));
@@ -155,7 +155,7 @@ TEST_F(OneVariable, RecalledValueReplacesTheFieldThatHadTheFocus) {
   EXPECT_EQ(model_->Fields(), (TypedRow{u"1234567.5", u"", u"7"}));
 }
 
-TEST_F(OneVariable, ValueCanBeRecalledIntoTheCount) {
+TEST_F(OneVariableScreen, ValueCanBeRecalledIntoTheCount) {
   Type(u"1", u"7");
   model_->SetFocusedField(DataField::Count);
   const auto request = model_->TakeVariable(u"12 and more");
@@ -163,7 +163,7 @@ TEST_F(OneVariable, ValueCanBeRecalledIntoTheCount) {
   EXPECT_EQ(model_->Fields(), (TypedRow{u"1", u"", u"12"}));
 }
 
-TEST_F(OneVariable, EditedRowCanTakeARecalledValue) {
+TEST_F(OneVariableScreen, EditedRowCanTakeARecalledValue) {
   Add(u"2", u"3");
   model_->Select(0);
   Press(u"Edit");
@@ -174,7 +174,7 @@ TEST_F(OneVariable, EditedRowCanTakeARecalledValue) {
 
 // Whatever the counts: the mean lies between the least and the largest value, and values that are
 // moved by a number move the mean by it and leave the deviations.
-TEST_F(OneVariable, DeviationsDoNotDependOnWhereTheValuesLie) {
+TEST_F(OneVariableScreen, DeviationsDoNotDependOnWhereTheValuesLie) {
   test::Random random(41);
   for (int i = 0; i < test::Tries(500); ++i) {
     const std::size_t rows = 2 + random.Below(20);

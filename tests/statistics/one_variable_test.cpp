@@ -20,7 +20,7 @@ DataList ListOf(const std::vector<DataRow>& rows, DataShape shape = DataShape::O
   return list;
 }
 
-TEST(OneVariable, TwoAndFourWithCountsThreeAndOne) {
+TEST(OneVariableSums, TwoAndFourWithCountsThreeAndOne) {
   const DataList list = ListOf({{{"4", {}}, 1}, {{"2", {}}, 3}});
   EXPECT_EQ(MomentOf(list, 0, Moment::Sum), 10);
   EXPECT_EQ(MomentOf(list, 0, Moment::SumOfSquares), 28);
@@ -29,7 +29,7 @@ TEST(OneVariable, TwoAndFourWithCountsThreeAndOne) {
   EXPECT_EQ(MomentOf(list, 0, Moment::SampleDeviation), 1);
 }
 
-TEST(OneVariable, TheMomentsOfAVariableAreThoseOfItsColumn) {
+TEST(OneVariableSums, TheMomentsOfAVariableAreThoseOfItsColumn) {
   const DataList list = ListOf({{{"1", "10"}, 1}, {{"3", "30"}, 1}}, DataShape::TwoVariables);
   EXPECT_EQ(MomentOf(list, 0, Moment::Sum), 4);
   EXPECT_EQ(MomentOf(list, 1, Moment::Sum), 40);
@@ -37,14 +37,14 @@ TEST(OneVariable, TheMomentsOfAVariableAreThoseOfItsColumn) {
   EXPECT_EQ(MomentOf(list, 1, Moment::Mean), 20);
 }
 
-TEST(OneVariable, TextsThatAreNoNumbersReadAs0AndRowsWithoutACountCountNothing) {
+TEST(OneVariableSums, TextsThatAreNoNumbersReadAs0AndRowsWithoutACountCountNothing) {
   const DataList list = ListOf({{{"abc", {}}, 5}, {{"7", {}}, 2}, {{"1000", {}}, {}}});
   EXPECT_EQ(MomentOf(list, 0, Moment::Sum), 14);
   EXPECT_EQ(MomentOf(list, 0, Moment::SumOfSquares), 98);
   EXPECT_EQ(MomentOf(list, 0, Moment::Mean), 2);
 }
 
-TEST(OneVariable, SumsAreAddedFromTheTop) {
+TEST(OneVariableSums, SumsAreAddedFromTheTop) {
   // 1e16 swallows a 1 that is added to it, and not a 2.
   const DataList down = ListOf({{{"1e16", {}}, 1}, {{"1", {}}, 1}, {{"1", {}}, 1}});
   const DataList up = ListOf({{{"1", {}}, 1}, {{"1", {}}, 1}, {{"1e16", {}}, 1}});
@@ -52,14 +52,14 @@ TEST(OneVariable, SumsAreAddedFromTheTop) {
   EXPECT_EQ(MomentOf(up, 0, Moment::Sum), 10'000'000'000'000'002.0);
 }
 
-TEST(OneVariable, SquaresAreMultipliedBeforeTheyAreWeighted) {
+TEST(OneVariableSums, SquaresAreMultipliedBeforeTheyAreWeighted) {
   const double x = 0.3;
   ASSERT_NE((x * x) * 3, x * (x * 3));
   const DataList list = ListOf({{{"0.3", {}}, 3}});
   EXPECT_EQ(MomentOf(list, 0, Moment::SumOfSquares), (x * x) * 3);
 }
 
-TEST(OneVariable, DeviationsMultiplyTheTotalByTheMeanTwiceFromTheLeft) {
+TEST(OneVariableSums, DeviationsMultiplyTheTotalByTheMeanTwiceFromTheLeft) {
   // With this sum of squares nothing would be left if the mean were squared first.
   WeightedSums sums;
   sums.sum = 0.9;
@@ -71,7 +71,7 @@ TEST(OneVariable, DeviationsMultiplyTheTotalByTheMeanTwiceFromTheLeft) {
   EXPECT_EQ(MomentOf(sums, 3, Moment::SampleDeviation), std::pow(residue / 2, 0.5));
 }
 
-TEST(OneVariable, ANegativeResidueIsNotGuarded) {
+TEST(OneVariableSums, ANegativeResidueIsNotGuarded) {
   WeightedSums sums;
   sums.sum = 2;
   sums.squares = 1;
@@ -79,7 +79,7 @@ TEST(OneVariable, ANegativeResidueIsNotGuarded) {
   EXPECT_TRUE(std::isnan(MomentOf(sums, 2, Moment::SampleDeviation)));
 }
 
-TEST(OneVariable, ATotalOf0Or1HasWhatTheDivisionMakesOfIt) {
+TEST(OneVariableSums, ATotalOf0Or1HasWhatTheDivisionMakesOfIt) {
   const DataList none(DataShape::OneVariable);
   EXPECT_EQ(MomentOf(none, 0, Moment::Sum), 0);
   EXPECT_TRUE(std::isnan(MomentOf(none, 0, Moment::Mean)));
@@ -90,7 +90,7 @@ TEST(OneVariable, ATotalOf0Or1HasWhatTheDivisionMakesOfIt) {
   EXPECT_EQ(MomentOf(lost, 0, Moment::Mean), -std::numeric_limits<double>::infinity());
 }
 
-TEST(OneVariable, ValuesBeyondAllRangesComeOutAsSuch) {
+TEST(OneVariableSums, ValuesBeyondAllRangesComeOutAsSuch) {
   const DataList list = ListOf({{{"1e400", {}}, 1}, {{"2", {}}, 1}});
   EXPECT_EQ(MomentOf(list, 0, Moment::Sum), std::numeric_limits<double>::infinity());
   EXPECT_TRUE(std::isnan(MomentOf(list, 0, Moment::SampleDeviation)));
@@ -98,7 +98,7 @@ TEST(OneVariable, ValuesBeyondAllRangesComeOutAsSuch) {
   EXPECT_TRUE(std::isnan(MomentOf(ListOf({{{"1e400", {}}, 0}}), 0, Moment::Sum)));
 }
 
-TEST(OneVariable, SumsOfRandomDataAreNearThoseOfMoreDigits) {
+TEST(OneVariableSums, SumsOfRandomDataAreNearThoseOfMoreDigits) {
   test::Random random(8);
   for (int round = 0; round < test::Tries(100); ++round) {
     DataList list(DataShape::OneVariable);

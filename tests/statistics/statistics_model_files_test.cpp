@@ -37,12 +37,12 @@ class Files : public test::StatisticsFixture<Model> {
   }
 };
 
-using OneVariable = Files<OneVariableModel>;
-using TwoVariables = Files<TwoVariableModel>;
+using OneVariableFiles = Files<OneVariableModel>;
+using TwoVariableFiles = Files<TwoVariableModel>;
 
 // Save.
 
-TEST_F(OneVariable, RowsAreSavedFromTheTop) {
+TEST_F(OneVariableFiles, RowsAreSavedFromTheTop) {
   Add(u"2", u"3");
   Add(u"-4.5", u"1");
   EXPECT_TRUE(std::holds_alternative<AskSaveDataFile>(Press(u"Save")));
@@ -50,13 +50,13 @@ TEST_F(OneVariable, RowsAreSavedFromTheTop) {
   EXPECT_FALSE(model_->IsModified());
 }
 
-TEST_F(TwoVariables, RowsAreSavedInThreeColumns) {
+TEST_F(TwoVariableFiles, RowsAreSavedInThreeColumns) {
   Add(u"1", u"2", u"3");
   Add(u"4", u"5", u"6");
   EXPECT_EQ(Saved(), "4\t5\t6\r\n1\t2\t3\r\n");
 }
 
-TEST_F(OneVariable, FailedSaveIsToldAndTheListStaysModified) {
+TEST_F(OneVariableFiles, FailedSaveIsToldAndTheListStaysModified) {
   Add(u"2", u"3");
   const auto told = model_->SaveTo(folder_.File("missing/save.txt"), {});
   ASSERT_TRUE(told);
@@ -64,7 +64,7 @@ TEST_F(OneVariable, FailedSaveIsToldAndTheListStaysModified) {
   EXPECT_TRUE(model_->IsModified());
 }
 
-TEST_F(OneVariable, CancelledSaveTellsNothingAndTheListStaysModified) {
+TEST_F(OneVariableFiles, CancelledSaveTellsNothingAndTheListStaysModified) {
   PutFile(folder_.File("save.txt"), "kept");
   Add(u"2", u"3");
   EXPECT_FALSE(model_->SaveTo(folder_.File("save.txt"), GiveUp));
@@ -72,7 +72,7 @@ TEST_F(OneVariable, CancelledSaveTellsNothingAndTheListStaysModified) {
   EXPECT_TRUE(model_->IsModified());
 }
 
-TEST_F(OneVariable, WhatIsSavedLoadsAgain) {
+TEST_F(OneVariableFiles, WhatIsSavedLoadsAgain) {
   Add(u"0.1", u"3");
   Add(u"-1e300", u"10000");
   Add(u"123456789.123", u"1");
@@ -85,7 +85,7 @@ TEST_F(OneVariable, WhatIsSavedLoadsAgain) {
   EXPECT_EQ(Saved(), saved);
 }
 
-TEST_F(OneVariable, EditedRowCanBeSavedOnLeaving) {
+TEST_F(OneVariableFiles, EditedRowCanBeSavedOnLeaving) {
   Add(u"2", u"3");
   model_->Select(0);
   Press(u"Edit");
@@ -96,7 +96,7 @@ TEST_F(OneVariable, EditedRowCanBeSavedOnLeaving) {
 
 // Load.
 
-TEST_F(OneVariable, LoadedRowsReplaceTheListInTheirOrder) {
+TEST_F(OneVariableFiles, LoadedRowsReplaceTheListInTheirOrder) {
   Add(u"9", u"9");
   ASSERT_FALSE(Load("1\t2\r\n3\t4\r\n"));
   EXPECT_EQ(Rows(), "1 2; 3 4");
@@ -104,32 +104,32 @@ TEST_F(OneVariable, LoadedRowsReplaceTheListInTheirOrder) {
   EXPECT_FALSE(model_->IsModified());
 }
 
-TEST_F(TwoVariables, LoadedRowsHaveThreeColumns) {
+TEST_F(TwoVariableFiles, LoadedRowsHaveThreeColumns) {
   ASSERT_FALSE(Load("1\t2\t3\r\n4\t5\t6\r\n7\t8\r\n"));
   EXPECT_EQ(Rows(), "1 2 3; 4 5 6");
   EXPECT_EQ(model_->TotalText(), u"9");
 }
 
-TEST_F(OneVariable, ValuesStayAsTheFileHasThem) {
+TEST_F(OneVariableFiles, ValuesStayAsTheFileHasThem) {
   ASSERT_FALSE(Load("1.5e+3\t2\r\n007.50\t2.9\r\n"));
   EXPECT_EQ(Rows(), "1.5e+3 2; 007.50 2");
   EXPECT_EQ(Result(u"\u03A3X"), u"3,015");
   EXPECT_EQ(Saved(), "1.5e+3\t2\r\n007.50\t2\r\n");
 }
 
-TEST_F(OneVariable, UpperCaseExponentSeparates) {
+TEST_F(OneVariableFiles, UpperCaseExponentSeparates) {
   ASSERT_FALSE(Load("1.5E3\r\n"));
   EXPECT_EQ(Rows(), "1.5 3");
 }
 
-TEST_F(OneVariable, LastRowWithoutACountOrALineEndIsDropped) {
+TEST_F(OneVariableFiles, LastRowWithoutACountOrALineEndIsDropped) {
   ASSERT_FALSE(Load("1\t2\r\n3\r\n"));
   EXPECT_EQ(Rows(), "1 2");
   ASSERT_FALSE(Load("1\t2\r\n3\t4"));
   EXPECT_EQ(Rows(), "1 2");
 }
 
-TEST_F(OneVariable, CompleteRowsSayWhichButtonsAreEnabled) {
+TEST_F(OneVariableFiles, CompleteRowsSayWhichButtonsAreEnabled) {
   struct Row {
     const char* content;
     std::u16string_view enabled;
@@ -149,7 +149,7 @@ TEST_F(OneVariable, CompleteRowsSayWhichButtonsAreEnabled) {
   }
 }
 
-TEST_F(OneVariable, LoneValueStaysAsARowWithoutACount) {
+TEST_F(OneVariableFiles, LoneValueStaysAsARowWithoutACount) {
   ASSERT_FALSE(Load("5\r\n"));
   EXPECT_EQ(Rows(), "5 -");
   EXPECT_EQ(model_->TotalText(), u"0");
@@ -157,7 +157,7 @@ TEST_F(OneVariable, LoneValueStaysAsARowWithoutACount) {
 }
 
 // The second row enables the results and does not ask how the first came there.
-TEST_F(OneVariable, RowAddedToALoneValueEnablesResultsAlone) {
+TEST_F(OneVariableFiles, RowAddedToALoneValueEnablesResultsAlone) {
   ASSERT_FALSE(Load("5\r\n"));
   Add(u"7", u"2");
   EXPECT_EQ(Rows(), "7 2; 5 -");
@@ -167,7 +167,7 @@ TEST_F(OneVariable, RowAddedToALoneValueEnablesResultsAlone) {
   EXPECT_EQ(Result(u"Arithmetic Mean of X"), u"7");
 }
 
-TEST_F(OneVariable, LoneValueIsEditedWithTheCountZero) {
+TEST_F(OneVariableFiles, LoneValueIsEditedWithTheCountZero) {
   ASSERT_FALSE(Load("5\r\n"));
   model_->Select(0);
   Press(u"Edit");
@@ -180,7 +180,7 @@ TEST_F(OneVariable, LoneValueIsEditedWithTheCountZero) {
   EXPECT_EQ(Enabled(), u"Add|Edit|Delete|Clear|Save|Load|MEM");
 }
 
-TEST_F(OneVariable, CancelledEditOfALoneValueEnablesClearAndSave) {
+TEST_F(OneVariableFiles, CancelledEditOfALoneValueEnablesClearAndSave) {
   ASSERT_FALSE(Load("5\r\n"));
   model_->Select(0);
   Press(u"Edit");
@@ -189,7 +189,7 @@ TEST_F(OneVariable, CancelledEditOfALoneValueEnablesClearAndSave) {
   EXPECT_EQ(Enabled(), u"Add|Edit|Delete|Clear|Save|Load|MEM");
 }
 
-TEST_F(OneVariable, CountBeyondTheFieldsRangeHasToBeMendedWhenItsRowIsEdited) {
+TEST_F(OneVariableFiles, CountBeyondTheFieldsRangeHasToBeMendedWhenItsRowIsEdited) {
   ASSERT_FALSE(Load("5\t20000\r\n6\t1\r\n"));
   model_->Select(0);
   Press(u"Edit");
@@ -198,7 +198,7 @@ TEST_F(OneVariable, CountBeyondTheFieldsRangeHasToBeMendedWhenItsRowIsEdited) {
   EXPECT_TRUE(model_->IsEditing());
 }
 
-TEST_F(OneVariable, ResultLineStaysWhenAFileIsLoaded) {
+TEST_F(OneVariableFiles, ResultLineStaysWhenAFileIsLoaded) {
   Add(u"2", u"3");
   Add(u"4", u"1");
   EXPECT_EQ(Result(u"\u03A3X"), u"10");
@@ -206,7 +206,7 @@ TEST_F(OneVariable, ResultLineStaysWhenAFileIsLoaded) {
   EXPECT_EQ(model_->ResultText(), u"10");
 }
 
-TEST_F(OneVariable, FailedLoadIsToldAndTheOldListStays) {
+TEST_F(OneVariableFiles, FailedLoadIsToldAndTheOldListStays) {
   Add(u"2", u"3");
   Add(u"4", u"1");
   model_->Select(1);
@@ -228,7 +228,7 @@ TEST_F(OneVariable, FailedLoadIsToldAndTheOldListStays) {
   }
 }
 
-TEST_F(OneVariable, CancelledLoadTellsNothingAndTheOldListStays) {
+TEST_F(OneVariableFiles, CancelledLoadTellsNothingAndTheOldListStays) {
   Add(u"2", u"3");
   PutFile(folder_.File("load.txt"), "1\t1\r\n2\t2\r\n");
   EXPECT_FALSE(model_->LoadFrom(folder_.File("load.txt"), GiveUp));
@@ -240,7 +240,7 @@ TEST_F(OneVariable, CancelledLoadTellsNothingAndTheOldListStays) {
 
 // The question before data are lost.
 
-TEST_F(OneVariable, ChangesOfMoreThanOneAreAskedAbout) {
+TEST_F(OneVariableFiles, ChangesOfMoreThanOneAreAskedAbout) {
   EXPECT_EQ(QuestionOfLoad(), u"");
   Add(u"2", u"1");
   EXPECT_EQ(QuestionOfLoad(), u"");
@@ -250,12 +250,12 @@ TEST_F(OneVariable, ChangesOfMoreThanOneAreAskedAbout) {
   EXPECT_EQ(model_->QuestionBeforeLeaving(), kQuestion);
 }
 
-TEST_F(OneVariable, OneRowWithALargerCountIsAskedAbout) {
+TEST_F(OneVariableFiles, OneRowWithALargerCountIsAskedAbout) {
   Add(u"2", u"2");
   EXPECT_EQ(QuestionOfLoad(), kQuestion);
 }
 
-TEST_F(OneVariable, SavedDataAreNotAskedAbout) {
+TEST_F(OneVariableFiles, SavedDataAreNotAskedAbout) {
   Add(u"2", u"2");
   Saved();
   EXPECT_EQ(QuestionOfLoad(), u"");
@@ -263,7 +263,7 @@ TEST_F(OneVariable, SavedDataAreNotAskedAbout) {
   EXPECT_EQ(QuestionOfLoad(), kQuestion);
 }
 
-TEST_F(OneVariable, LoadedDataAreNotAskedAbout) {
+TEST_F(OneVariableFiles, LoadedDataAreNotAskedAbout) {
   Add(u"2", u"2");
   ASSERT_FALSE(Load("1\t1\r\n2\t2\r\n"));
   EXPECT_EQ(QuestionOfLoad(), u"");
@@ -272,7 +272,7 @@ TEST_F(OneVariable, LoadedDataAreNotAskedAbout) {
   EXPECT_EQ(QuestionOfLoad(), kQuestion);
 }
 
-TEST_F(OneVariable, ClearedDataAreNotAskedAbout) {
+TEST_F(OneVariableFiles, ClearedDataAreNotAskedAbout) {
   Add(u"2", u"2");
   Add(u"3", u"2");
   Clear();
@@ -280,7 +280,7 @@ TEST_F(OneVariable, ClearedDataAreNotAskedAbout) {
   EXPECT_FALSE(model_->QuestionBeforeLeaving());
 }
 
-TEST_F(OneVariable, DeletedDataThatLeaveATotalOfOneAreNotAskedAbout) {
+TEST_F(OneVariableFiles, DeletedDataThatLeaveATotalOfOneAreNotAskedAbout) {
   Add(u"2", u"1");
   Add(u"3", u"2");
   Delete(0);
@@ -290,19 +290,19 @@ TEST_F(OneVariable, DeletedDataThatLeaveATotalOfOneAreNotAskedAbout) {
 
 // Rows of spreadsheets.
 
-TEST_F(OneVariable, PastedRowsStandOnTopInTheirOrder) {
+TEST_F(OneVariableFiles, PastedRowsStandOnTopInTheirOrder) {
   Add(u"9", u"1");
   EXPECT_FALSE(model_->PasteRows(u"1\t2\r\n3\t4\r\n5\n", {}));
   EXPECT_EQ(Rows(), "1 2; 3 4; 5 1; 9 1");
   EXPECT_EQ(model_->TotalText(), u"8");
 }
 
-TEST_F(TwoVariables, PastedRowsHaveBothValues) {
+TEST_F(TwoVariableFiles, PastedRowsHaveBothValues) {
   EXPECT_FALSE(model_->PasteRows(u"1;2\n3;4;5\n", {}));
   EXPECT_EQ(Rows(), "1 2 1; 3 4 5");
 }
 
-TEST_F(OneVariable, PastedRowsEnableWhatAddingThemWould) {
+TEST_F(OneVariableFiles, PastedRowsEnableWhatAddingThemWould) {
   EXPECT_FALSE(model_->PasteRows(u"1", {}));
   EXPECT_EQ(Enabled(), kOneRow);
   EXPECT_TRUE(model_->IsModified());
@@ -313,21 +313,21 @@ TEST_F(OneVariable, PastedRowsEnableWhatAddingThemWould) {
   EXPECT_EQ(Enabled(), kTwoRows);
 }
 
-TEST_F(OneVariable, SelectedRowStaysSelectedUnderPastedRows) {
+TEST_F(OneVariableFiles, SelectedRowStaysSelectedUnderPastedRows) {
   Add(u"9", u"1");
   model_->Select(0);
   EXPECT_FALSE(model_->PasteRows(u"1\n2\n3", {}));
   EXPECT_EQ(model_->Selected(), 3U);
 }
 
-TEST_F(OneVariable, LinesThatAreNoRowsAreToldAndTheOthersTaken) {
+TEST_F(OneVariableFiles, LinesThatAreNoRowsAreToldAndTheOthersTaken) {
   const auto told = model_->PasteRows(u"1\t2\nabc\t1\n3\t4\n", {});
   ASSERT_TRUE(told);
   EXPECT_NE(told->find(u"1 of 3 lines was not taken"), std::u16string::npos);
   EXPECT_EQ(Rows(), "1 2; 3 4");
 }
 
-TEST_F(OneVariable, PastingNoRowsIsNoModification) {
+TEST_F(OneVariableFiles, PastingNoRowsIsNoModification) {
   EXPECT_TRUE(model_->PasteRows(u"abc", {}));
   EXPECT_FALSE(model_->PasteRows(u"", {}));
   EXPECT_EQ(Rows(), "");
@@ -336,7 +336,7 @@ TEST_F(OneVariable, PastingNoRowsIsNoModification) {
   EXPECT_EQ(model_->Revision(), 0U);
 }
 
-TEST_F(OneVariable, CancelledPasteTellsNothingAndTheListStays) {
+TEST_F(OneVariableFiles, CancelledPasteTellsNothingAndTheListStays) {
   Add(u"9", u"1");
   const unsigned revision = model_->Revision();
   EXPECT_FALSE(model_->PasteRows(u"1\n2\n", GiveUp));
@@ -344,7 +344,7 @@ TEST_F(OneVariable, CancelledPasteTellsNothingAndTheListStays) {
   EXPECT_EQ(model_->Revision(), revision);
 }
 
-TEST_F(OneVariable, PastedTotalBeyondThirtyTwoBitsIsRefused) {
+TEST_F(OneVariableFiles, PastedTotalBeyondThirtyTwoBitsIsRefused) {
   ASSERT_FALSE(Load("1\t2147483647\r\n"));
   EXPECT_EQ(model_->PasteRows(u"2", {}),
             u"The total of all counts must be from -2147483648 to 2147483647. The list was not "
@@ -354,7 +354,7 @@ TEST_F(OneVariable, PastedTotalBeyondThirtyTwoBitsIsRefused) {
   EXPECT_EQ(Enabled(), kOneRow);
 }
 
-TEST_F(OneVariable, CopiedRowsPasteAgain) {
+TEST_F(OneVariableFiles, CopiedRowsPasteAgain) {
   Add(u"1", u"2");
   Add(u"3", u"4");
   Add(u"5", u"6");

@@ -10,8 +10,8 @@
 namespace kav {
 namespace {
 
-using OneVariable = test::StatisticsFixture<OneVariableModel>;
-using TwoVariables = test::StatisticsFixture<TwoVariableModel>;
+using OneVariableRows = test::StatisticsFixture<OneVariableModel>;
+using TwoVariableRows = test::StatisticsFixture<TwoVariableModel>;
 
 constexpr std::u16string_view kFresh = u"Add|Load|MEM";
 constexpr std::u16string_view kOneRow = u"Add|Clear|Save|Load|MEM";
@@ -25,7 +25,7 @@ bool IsNothing(const StatisticsRequest& request) {
 
 // Edit, Ok and Cancel.
 
-TEST_F(OneVariable, EditingTakesTheRowIntoTheFields) {
+TEST_F(OneVariableRows, EditingTakesTheRowIntoTheFields) {
   Add(u"2", u"3");
   Add(u"4", u"1");
   model_->Select(1);
@@ -41,7 +41,7 @@ TEST_F(OneVariable, EditingTakesTheRowIntoTheFields) {
   EXPECT_FALSE(model_->IsVisible(StatisticsKey::Add));
 }
 
-TEST_F(TwoVariables, EditingTakesBothValuesIntoTheFields) {
+TEST_F(TwoVariableRows, EditingTakesBothValuesIntoTheFields) {
   Add(u"2", u"-7", u"3");
   model_->Select(0);
   Type(u"", u"", u"");
@@ -52,7 +52,7 @@ TEST_F(TwoVariables, EditingTakesBothValuesIntoTheFields) {
   EXPECT_EQ(Rows(), "2 8 3");
 }
 
-TEST_F(OneVariable, OkRewritesTheRowAndTheTotal) {
+TEST_F(OneVariableRows, OkRewritesTheRowAndTheTotal) {
   Add(u"2", u"3");
   Add(u"4", u"1");
   model_->Select(1);
@@ -66,7 +66,7 @@ TEST_F(OneVariable, OkRewritesTheRowAndTheTotal) {
   EXPECT_EQ(model_->Selected(), 1U);
 }
 
-TEST_F(OneVariable, OkMarksTheListAsModified) {
+TEST_F(OneVariableRows, OkMarksTheListAsModified) {
   Add(u"2", u"3");
   ASSERT_FALSE(model_->SaveTo(folder_.File("data.txt"), {}));
   ASSERT_FALSE(model_->IsModified());
@@ -77,7 +77,7 @@ TEST_F(OneVariable, OkMarksTheListAsModified) {
   EXPECT_TRUE(model_->IsModified());
 }
 
-TEST_F(OneVariable, EditWithoutAnotherCountLeavesCountAndTotal) {
+TEST_F(OneVariableRows, EditWithoutAnotherCountLeavesCountAndTotal) {
   Add(u"2", u"3");
   Add(u"4", u"1");
   model_->Select(1);
@@ -88,7 +88,7 @@ TEST_F(OneVariable, EditWithoutAnotherCountLeavesCountAndTotal) {
   EXPECT_EQ(model_->TotalText(), u"4");
 }
 
-TEST_F(OneVariable, RefusedEditGoesOn) {
+TEST_F(OneVariableRows, RefusedEditGoesOn) {
   Add(u"2", u"3");
   model_->Select(0);
   Press(u"Edit");
@@ -101,7 +101,7 @@ TEST_F(OneVariable, RefusedEditGoesOn) {
   EXPECT_EQ(Rows(), "2 3");
 }
 
-TEST_F(OneVariable, CancelLeavesTheRow) {
+TEST_F(OneVariableRows, CancelLeavesTheRow) {
   Add(u"2", u"3");
   Add(u"4", u"1");
   model_->Select(1);
@@ -116,7 +116,7 @@ TEST_F(OneVariable, CancelLeavesTheRow) {
   EXPECT_EQ(Enabled(), kSelectedOfTwo);
 }
 
-TEST_F(OneVariable, NothingElseChangesTheListWhileARowIsEdited) {
+TEST_F(OneVariableRows, NothingElseChangesTheListWhileARowIsEdited) {
   PutFile(folder_.File("data.txt"), "8\t8\r\n");
   Add(u"2", u"3");
   Add(u"4", u"1");
@@ -135,7 +135,7 @@ TEST_F(OneVariable, NothingElseChangesTheListWhileARowIsEdited) {
   EXPECT_EQ(Rows(), "4 1; 5 5");
 }
 
-TEST_F(OneVariable, ResultsCanBeHadWhileARowIsEdited) {
+TEST_F(OneVariableRows, ResultsCanBeHadWhileARowIsEdited) {
   Add(u"2", u"3");
   Add(u"4", u"1");
   model_->Select(1);
@@ -145,7 +145,7 @@ TEST_F(OneVariable, ResultsCanBeHadWhileARowIsEdited) {
 
 // Delete.
 
-TEST_F(OneVariable, DeletingDownToOneRowAndToNone) {
+TEST_F(OneVariableRows, DeletingDownToOneRowAndToNone) {
   Add(u"1", u"5");
   Add(u"2", u"1");
   Add(u"3", u"2");
@@ -169,7 +169,7 @@ TEST_F(OneVariable, DeletingDownToOneRowAndToNone) {
   EXPECT_TRUE(model_->IsEnabled(StatisticsKey::SumX));
 }
 
-TEST_F(OneVariable, DeletingAsksFirst) {
+TEST_F(OneVariableRows, DeletingAsksFirst) {
   Add(u"1", u"1");
   model_->Select(0);
   const auto request = Press(u"Delete");
@@ -179,7 +179,7 @@ TEST_F(OneVariable, DeletingAsksFirst) {
   EXPECT_EQ(Rows(), "1 1");
 }
 
-TEST_F(OneVariable, DeletingMarksTheListAsModified) {
+TEST_F(OneVariableRows, DeletingMarksTheListAsModified) {
   ASSERT_FALSE(Load("1\t2\r\n3\t4\r\n"));
   Delete(0);
   EXPECT_TRUE(model_->IsModified());
@@ -187,7 +187,7 @@ TEST_F(OneVariable, DeletingMarksTheListAsModified) {
 
 // Deleting a row names the buttons that it disables, and Edit and Delete are not among them: they
 // wait for the next choice of a row.
-TEST_F(OneVariable, DeletingOnceMoreTellsThatNothingIsSelected) {
+TEST_F(OneVariableRows, DeletingOnceMoreTellsThatNothingIsSelected) {
   Add(u"1", u"1");
   Add(u"2", u"1");
   Delete(0);
@@ -204,7 +204,7 @@ TEST_F(OneVariable, DeletingOnceMoreTellsThatNothingIsSelected) {
 
 // Clear.
 
-TEST_F(OneVariable, ClearingAsksAndMakesACleanList) {
+TEST_F(OneVariableRows, ClearingAsksAndMakesACleanList) {
   Add(u"2", u"3");
   Add(u"4", u"1");
   EXPECT_EQ(Result(u"\u03A3X"), u"10");
@@ -224,7 +224,7 @@ TEST_F(OneVariable, ClearingAsksAndMakesACleanList) {
 
 // Sorting.
 
-TEST_F(OneVariable, EachSortGoesTheOtherWayWhicheverColumnItIs) {
+TEST_F(OneVariableRows, EachSortGoesTheOtherWayWhicheverColumnItIs) {
   Add(u"10", u"2");
   Add(u"9", u"30");
   Add(u"-1e3", u"4");
@@ -238,7 +238,7 @@ TEST_F(OneVariable, EachSortGoesTheOtherWayWhicheverColumnItIs) {
   EXPECT_EQ(Rows(), "10 2; 9 30; -1000 4");
 }
 
-TEST_F(TwoVariables, EveryColumnSorts) {
+TEST_F(TwoVariableRows, EveryColumnSorts) {
   Add(u"1", u"20", u"300");
   Add(u"2", u"30", u"100");
   Add(u"3", u"10", u"200");
@@ -250,7 +250,7 @@ TEST_F(TwoVariables, EveryColumnSorts) {
   EXPECT_EQ(Rows(), "2 30 100; 3 10 200; 1 20 300");
 }
 
-TEST_F(OneVariable, ColumnThatIsNotThereDoesNotSort) {
+TEST_F(OneVariableRows, ColumnThatIsNotThereDoesNotSort) {
   Add(u"1", u"1");
   Add(u"2", u"1");
   model_->SortBy(2);
@@ -259,7 +259,7 @@ TEST_F(OneVariable, ColumnThatIsNotThereDoesNotSort) {
   EXPECT_EQ(Rows(), "1 1; 2 1");
 }
 
-TEST_F(OneVariable, SortingIsNoModification) {
+TEST_F(OneVariableRows, SortingIsNoModification) {
   ASSERT_FALSE(Load("3\t4\r\n1\t2\r\n"));
   const unsigned revision = model_->Revision();
   model_->SortBy(0);
@@ -269,7 +269,7 @@ TEST_F(OneVariable, SortingIsNoModification) {
   EXPECT_NE(model_->Revision(), revision);
 }
 
-TEST_F(OneVariable, SortingNoRowsTurnsTheDirectionToo) {
+TEST_F(OneVariableRows, SortingNoRowsTurnsTheDirectionToo) {
   model_->SortBy(0);
   Add(u"1", u"1");
   Add(u"2", u"1");

@@ -10,7 +10,7 @@
 namespace kav {
 namespace {
 
-class TwoVariables : public test::StatisticsFixture<TwoVariableModel> {
+class TwoVariableFit : public test::StatisticsFixture<TwoVariableModel> {
  protected:
   /// The buttons of the current model that are visible and enabled, of those that depend on it.
   std::u16string ModelButtons() const {
@@ -27,7 +27,7 @@ class TwoVariables : public test::StatisticsFixture<TwoVariableModel> {
 
 // The button of the model.
 
-TEST_F(TwoVariables, ModelButtonOpensItsMenu) {
+TEST_F(TwoVariableFit, ModelButtonOpensItsMenu) {
   EXPECT_FALSE(model_->IsEnabled(StatisticsKey::Model));
   Fill({{u"1", u"2"}, {u"2", u"4"}});
   EXPECT_TRUE(std::holds_alternative<ShowModelMenu>(Press(u"Lin")));
@@ -39,7 +39,7 @@ TEST_F(TwoVariables, ModelButtonOpensItsMenu) {
                                           {6, u"Quadratic : A*X^2+B*X+C"}}));
 }
 
-TEST_F(TwoVariables, ModelsHaveTheirButtons) {
+TEST_F(TwoVariableFit, ModelsHaveTheirButtons) {
   Fill({{u"1", u"2"}, {u"2", u"4"}});
   struct Row {
     int id;
@@ -56,7 +56,7 @@ TEST_F(TwoVariables, ModelsHaveTheirButtons) {
   }
 }
 
-TEST_F(TwoVariables, CorrelationStaysDisabledForOtherModelsWhenRowsComeAndGo) {
+TEST_F(TwoVariableFit, CorrelationStaysDisabledForOtherModelsWhenRowsComeAndGo) {
   Fill({{u"1", u"2"}, {u"2", u"4"}});
   model_->ChooseModel(2);
   Delete(0);
@@ -68,7 +68,7 @@ TEST_F(TwoVariables, CorrelationStaysDisabledForOtherModelsWhenRowsComeAndGo) {
   EXPECT_EQ(model_->Model(), RegressionModel::Power);
 }
 
-TEST_F(TwoVariables, HiddenButtonsDoNothing) {
+TEST_F(TwoVariableFit, HiddenButtonsDoNothing) {
   Fill({{u"1", u"2"}, {u"2", u"4"}});
   Type(u"1", u"1", u"1");
   EXPECT_EQ(Result(u"A"), u"2");
@@ -84,7 +84,7 @@ TEST_F(TwoVariables, HiddenButtonsDoNothing) {
   }
 }
 
-TEST_F(TwoVariables, ItemsThatAreNotOfferedChangeNothing) {
+TEST_F(TwoVariableFit, ItemsThatAreNotOfferedChangeNothing) {
   for (const int id : {-1, 0, 7}) {
     model_->ChooseModel(id);
     EXPECT_EQ(model_->Model(), RegressionModel::Linear) << id;
@@ -94,7 +94,7 @@ TEST_F(TwoVariables, ItemsThatAreNotOfferedChangeNothing) {
 // Coefficients are kept until the data or the model change. Rows whose sums depend on their order
 // tell: from the top, the sums of y and of x*y are 2 and 6, so that A is (6 - 2*8/4) / 2; sorted by
 // y, the large values take the small ones along, and all is 0.
-class KeptCoefficients : public TwoVariables {
+class KeptCoefficients : public TwoVariableFit {
  protected:
   void SetUp() override {
     Fill({{u"2", u"1e17"}, {u"1", u"1"}, {u"2", u"-1e17"}, {u"3", u"2"}});
@@ -157,7 +157,7 @@ TEST_F(KeptCoefficients, FailedLoadKeepsThem) {
 
 // Plot.
 
-TEST_F(TwoVariables, PlotOpensTheGraphOfPointsAndCurve) {
+TEST_F(TwoVariableFit, PlotOpensTheGraphOfPointsAndCurve) {
   Fill({{u"1", u"2"}, {u"2", u"4"}, {u"3", u"6"}});
   const auto request = Press(u"Plot");
   ASSERT_TRUE(std::holds_alternative<OpenGraph>(request));
@@ -170,7 +170,7 @@ TEST_F(TwoVariables, PlotOpensTheGraphOfPointsAndCurve) {
   EXPECT_EQ(model_->ResultText(), u"0");
 }
 
-TEST_F(TwoVariables, PlotTakesTheAngleUnitOfTheSettings) {
+TEST_F(TwoVariableFit, PlotTakesTheAngleUnitOfTheSettings) {
   Set("Angle Type", 2);
   Fill({{u"1", u"2"}, {u"2", u"4"}});
   const auto request = Press(u"Plot");
@@ -178,13 +178,13 @@ TEST_F(TwoVariables, PlotTakesTheAngleUnitOfTheSettings) {
   EXPECT_EQ(std::get<OpenGraph>(request).input.angle, AngleUnit::Radians);
 }
 
-TEST_F(TwoVariables, PlotNeedsNoFields) {
+TEST_F(TwoVariableFit, PlotNeedsNoFields) {
   Fill({{u"1", u"2"}, {u"2", u"4"}});
   Type(u"", u"", u"");
   EXPECT_TRUE(std::holds_alternative<OpenGraph>(Press(u"Plot")));
 }
 
-TEST_F(TwoVariables, PlotTellsWhenDataDoNotSpread) {
+TEST_F(TwoVariableFit, PlotTellsWhenDataDoNotSpread) {
   Fill({{u"1", u"2"}, {u"1", u"4"}});
   EXPECT_EQ(Told(Press(u"Plot")),
             u"The maximum value of X should be bigger than the minimum value of X.");
@@ -194,14 +194,14 @@ TEST_F(TwoVariables, PlotTellsWhenDataDoNotSpread) {
             u"The maximum value of Y should be bigger than the minimum value of Y.");
 }
 
-TEST_F(TwoVariables, PlotTellsWhenTheCurveHasNoEquation) {
+TEST_F(TwoVariableFit, PlotTellsWhenTheCurveHasNoEquation) {
   Fill({{u"0", u"1"}, {u"1", u"2"}});
   model_->ChooseModel(2);
   const std::u16string told = Told(Press(u"Plot"));
   EXPECT_EQ(told.substr(0, told.find(u'\n')), u"out is not supported.");
 }
 
-TEST_F(TwoVariables, PlotIsThatOfTheChosenModel) {
+TEST_F(TwoVariableFit, PlotIsThatOfTheChosenModel) {
   Fill({{u"1", u"1"}, {u"2", u"4"}, {u"3", u"9"}});
   model_->ChooseModel(6);
   const auto request = Press(u"Plot");

@@ -15,14 +15,14 @@ namespace {
 
 constexpr std::u16string_view kOutOfRange = u"Out of range(overflow or underflow)";
 
-class TwoVariables : public test::StatisticsFixture<TwoVariableModel> {
+class TwoVariableScreen : public test::StatisticsFixture<TwoVariableModel> {
  protected:
   double Number(std::u16string_view caption) { return ReadLeadingNumber(Narrow(Result(caption))); }
 };
 
 // Sums, means, deviations.
 
-TEST_F(TwoVariables, SumsMeansAndDeviationsOfBothVariables) {
+TEST_F(TwoVariableScreen, SumsMeansAndDeviationsOfBothVariables) {
   Add(u"2", u"20", u"3");
   Add(u"4", u"40", u"1");
   EXPECT_EQ(Result(u"\u03A3X"), u"10");
@@ -38,7 +38,7 @@ TEST_F(TwoVariables, SumsMeansAndDeviationsOfBothVariables) {
   EXPECT_EQ(Result(u"\u03A3XY"), u"280");
 }
 
-TEST_F(TwoVariables, SumsDoNotDependOnTheModel) {
+TEST_F(TwoVariableScreen, SumsDoNotDependOnTheModel) {
   Add(u"2", u"20", u"3");
   Add(u"4", u"40", u"1");
   for (int id = 1; id <= 6; ++id) {
@@ -50,7 +50,7 @@ TEST_F(TwoVariables, SumsDoNotDependOnTheModel) {
 
 // The models.
 
-TEST_F(TwoVariables, LinearModel) {
+TEST_F(TwoVariableScreen, LinearModel) {
   Fill({{u"1", u"2"}, {u"2", u"4"}, {u"3", u"6"}});
   EXPECT_EQ(Result(u"A"), u"2");
   EXPECT_EQ(Result(u"B"), u"0");
@@ -60,7 +60,7 @@ TEST_F(TwoVariables, LinearModel) {
   EXPECT_EQ(Result(u"X'"), u"2.5");
 }
 
-TEST_F(TwoVariables, CountsWeighPoints) {
+TEST_F(TwoVariableScreen, CountsWeighPoints) {
   Add(u"0", u"0", u"1");
   Add(u"0", u"3", u"2");
   Add(u"4", u"6", u"1");
@@ -70,14 +70,14 @@ TEST_F(TwoVariables, CountsWeighPoints) {
   EXPECT_NEAR(Number(u"r"), 12 / std::sqrt(12.0 * 18.0), 1e-11);
 }
 
-TEST_F(TwoVariables, FallingLineHasACorrelationOfMinusOne) {
+TEST_F(TwoVariableScreen, FallingLineHasACorrelationOfMinusOne) {
   Fill({{u"1", u"3"}, {u"2", u"1"}, {u"3", u"-1"}});
   EXPECT_EQ(Result(u"A"), u"-2");
   EXPECT_EQ(Result(u"B"), u"5");
   EXPECT_EQ(Result(u"r"), u"-1");
 }
 
-TEST_F(TwoVariables, PowerModel) {
+TEST_F(TwoVariableScreen, PowerModel) {
   Fill({{u"1", u"3"}, {u"2", u"12"}, {u"4", u"48"}});
   model_->ChooseModel(2);
   EXPECT_NEAR(Number(u"A"), 3, 1e-9);
@@ -88,7 +88,7 @@ TEST_F(TwoVariables, PowerModel) {
 }
 
 // The logarithms are fitted, not 1/x.
-TEST_F(TwoVariables, InverseModel) {
+TEST_F(TwoVariableScreen, InverseModel) {
   Fill({{u"1", u"3"}, {u"2", u"2"}});
   model_->ChooseModel(3);
   const double slope = (std::log(2.0) - std::log(3.0)) / std::log(2.0);
@@ -101,7 +101,7 @@ TEST_F(TwoVariables, InverseModel) {
   EXPECT_NEAR(Number(u"X'"), a / (5 - b), 1e-9);
 }
 
-TEST_F(TwoVariables, LogarithmicModel) {
+TEST_F(TwoVariableScreen, LogarithmicModel) {
   ASSERT_FALSE(Load("1 5 1 2.718281828459045 7 1 7.38905609893065 9 1 "));
   model_->ChooseModel(4);
   EXPECT_NEAR(Number(u"A"), 2, 1e-9);
@@ -111,7 +111,7 @@ TEST_F(TwoVariables, LogarithmicModel) {
   EXPECT_NEAR(Number(u"X'"), std::exp(2.0), 1e-8);
 }
 
-TEST_F(TwoVariables, ExponentialModel) {
+TEST_F(TwoVariableScreen, ExponentialModel) {
   ASSERT_FALSE(Load("1 2.718281828459045 1 2 7.38905609893065 1 "));
   model_->ChooseModel(5);
   EXPECT_NEAR(Number(u"A"), 1, 1e-9);
@@ -121,7 +121,7 @@ TEST_F(TwoVariables, ExponentialModel) {
   EXPECT_NEAR(Number(u"X'"), 3, 1e-9);
 }
 
-TEST_F(TwoVariables, QuadraticModel) {
+TEST_F(TwoVariableScreen, QuadraticModel) {
   Fill({{u"1", u"1"}, {u"2", u"4"}, {u"3", u"9"}});
   model_->ChooseModel(6);
   EXPECT_EQ(Result(u"A"), u"1");
@@ -133,7 +133,7 @@ TEST_F(TwoVariables, QuadraticModel) {
   EXPECT_EQ(Result(u"Y'"), u"25");
 }
 
-TEST_F(TwoVariables, ParabolaThatIsNotReachedHasNoX) {
+TEST_F(TwoVariableScreen, ParabolaThatIsNotReachedHasNoX) {
   Fill({{u"1", u"1"}, {u"2", u"4"}, {u"3", u"9"}});
   model_->ChooseModel(6);
   Type(u"0", u"-1", u"1");
@@ -141,7 +141,7 @@ TEST_F(TwoVariables, ParabolaThatIsNotReachedHasNoX) {
   EXPECT_EQ(Result(u"X2'"), kOutOfRange);
 }
 
-TEST_F(TwoVariables, LogarithmsOfWhatIsNotPositiveAreTold) {
+TEST_F(TwoVariableScreen, LogarithmsOfWhatIsNotPositiveAreTold) {
   Fill({{u"0", u"1"}, {u"1", u"2"}, {u"2", u"3"}});
   for (const int id : {2, 3, 4}) {
     model_->ChooseModel(id);
@@ -158,13 +158,13 @@ TEST_F(TwoVariables, LogarithmsOfWhatIsNotPositiveAreTold) {
   EXPECT_EQ(model_->MenuOfVariables(), (Menu{{2, u"ReCall MemVar"}}));
 }
 
-TEST_F(TwoVariables, PointsAboveEachOtherHaveNoLine) {
+TEST_F(TwoVariableScreen, PointsAboveEachOtherHaveNoLine) {
   Fill({{u"1", u"1"}, {u"1", u"2"}});
   EXPECT_EQ(Result(u"A"), kOutOfRange);
   EXPECT_EQ(Result(u"r"), kOutOfRange);
 }
 
-TEST_F(TwoVariables, LevelLineHasNoXAndNoCorrelation) {
+TEST_F(TwoVariableScreen, LevelLineHasNoXAndNoCorrelation) {
   Fill({{u"1", u"2"}, {u"3", u"2"}});
   EXPECT_EQ(Result(u"A"), u"0");
   EXPECT_EQ(Result(u"B"), u"2");
@@ -175,7 +175,7 @@ TEST_F(TwoVariables, LevelLineHasNoXAndNoCorrelation) {
 }
 
 // Lines that are exact in binary come out exactly, forwards and backwards.
-TEST_F(TwoVariables, RandomLinesAreFound) {
+TEST_F(TwoVariableScreen, RandomLinesAreFound) {
   test::Random random(42);
   for (int i = 0; i < test::Tries(500); ++i) {
     const int slope = 1 + static_cast<int>(random.Below(50));
@@ -198,7 +198,7 @@ TEST_F(TwoVariables, RandomLinesAreFound) {
 
 // Estimates read the fields as adding a row does.
 
-TEST_F(TwoVariables, EstimatesRefuseFieldsThatHoldNoRow) {
+TEST_F(TwoVariableScreen, EstimatesRefuseFieldsThatHoldNoRow) {
   Fill({{u"1", u"2"}, {u"2", u"4"}});
   struct Row {
     std::array<std::u16string_view, 3> typed;
@@ -227,7 +227,7 @@ TEST_F(TwoVariables, EstimatesRefuseFieldsThatHoldNoRow) {
 
 // Memory variables.
 
-TEST_F(TwoVariables, ValueCanBeRecalledIntoY) {
+TEST_F(TwoVariableScreen, ValueCanBeRecalledIntoY) {
   Type(u"1", u"2", u"3");
   model_->SetFocusedField(DataField::Y);
   const auto request = model_->TakeVariable(u"-4.50");

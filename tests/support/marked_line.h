@@ -7,7 +7,7 @@
 #include <string_view>
 #include <utility>
 
-#include "scientific/expression_line.h"
+#include "line/expression_line.h"
 
 namespace kav::test {
 

@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include "display/number_format.h"
 #include "engine/calc_modes.h"
-#include "engine/number_format.h"
 
 namespace kav::test {
 

@@ -14,8 +14,8 @@
 
 #include "common/number_text.h"
 #include "settings/settings_store.h"
-#include "settings/temporary_folder.h"
 #include "statistics/statistics_model.h"
+#include "support/temporary_folder.h"
 
 namespace kav::test {
 

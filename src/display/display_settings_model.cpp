@@ -1,0 +1,109 @@
+#include "display/display_settings_model.h"
+
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <system_error>
+
+#include "common/number_text.h"
+#include "display/display_settings_texts.h"
+
+namespace kav {
+namespace {
+
+using DisplayRefusal = Refusal<DisplayField>;
+
+// Large enough to be grouped and small enough to need zeros; neither of a few decimals only.
+constexpr std::array kSamples{1234567.891, 0.000123456789};
+
+std::u16string PrintBox(int value) {
+  return Widen(PrintInteger(value));
+}
+
+std::optional<int> ReadBox(std::u16string_view box, const IntegerRange& range) {
+  const std::string digits = Narrow(TrimBlanks(box));
+  const char* end = digits.data() + digits.size();
+  std::uint16_t value = 0;  // read without a sign
+  const auto read = std::from_chars(digits.data(), end, value);
+  const bool isNumber = read.ec == std::errc{} && read.ptr == end;
+  return isNumber && range.Contains(value) ? std::optional<int>(value) : std::nullopt;
+}
+
+std::u16string MustBe(std::u16string_view entry, const IntegerRange& range) {
+  return NotInRange(entry, range.least, range.most);
+}
+
+std::u16string Samples(const DisplayFormat& format) {
+  std::u16string text;
+  for (const double sample : kSamples) {
+    if (!text.empty()) text += u'\n';
+    if (const auto shown = FormatNumber(sample, format)) text += Widen(*shown);
+  }
+  return text;
+}
+
+}  // namespace
+
+DisplaySettingsModel::DisplaySettingsModel(const SettingsStore& store, DisplayPage first)
+    : kept_(LoadDisplaySettings(store)), page_(first), type_(KeptFormat().type) {
+  FillBoxes();
+}
+
+std::u16string_view DisplaySettingsModel::GroupCaption() const {
+  return page_ == DisplayPage::Normal ? kNormalGroup : kMatrixGroup;
+}
+
+std::u16string DisplaySettingsModel::Example() const {
+  const auto format = TypedFormat();
+  return format ? Samples(*format) : MustBe(kPrecisionEntry, kPrecisionRange);
+}
+
+std::optional<DisplayRefusal> DisplaySettingsModel::TurnTo(DisplayPage page) {
+  if (auto refusal = TakeOver()) return refusal;
+  page_ = page;
+  type_ = KeptFormat().type;
+  FillBoxes();
+  return std::nullopt;
+}
+
+std::optional<DisplayRefusal> DisplaySettingsModel::Accept(SettingsStore& store) {
+  if (auto refusal = TakeOver()) return refusal;
+  StoreDisplaySettings(kept_, store);
+  return std::nullopt;
+}
+
+DisplayFormat DisplaySettings::*DisplaySettingsModel::PageFormat() const {
+  return page_ == DisplayPage::Normal ? &DisplaySettings::normal : &DisplaySettings::matrix;
+}
+
+std::optional<DisplayFormat> DisplaySettingsModel::TypedFormat() const {
+  const auto precision = ReadBox(precision_, kPrecisionRange);
+  if (precision) return DisplayFormat{type_, *precision};
+  // What the samples look like doesn't depend on a precision that is not asked for.
+  if (!TakesPrecision()) return DisplayFormat{type_, KeptFormat().precision};
+  return std::nullopt;
+}
+
+std::optional<DisplayRefusal> DisplaySettingsModel::TakeOver() {
+  // A disabled precision box is checked as well: what it shows would be stored.
+  const auto precision = ReadBox(precision_, kPrecisionRange);
+  const auto columnWidth = ReadBox(columnWidth_, kColumnWidthRange);
+  std::optional<DisplayRefusal> refusal;
+  if (!precision) {
+    refusal = {MustBe(kPrecisionEntry, kPrecisionRange), DisplayField::Precision};
+  } else if (!columnWidth) {
+    refusal = {MustBe(kColumnWidthEntry, kColumnWidthRange), DisplayField::ColumnWidth};
+  } else {
+    kept_.*PageFormat() = {type_, *precision};
+    kept_.columnWidth = *columnWidth;
+  }
+  FillBoxes();
+  return refusal;
+}
+
+void DisplaySettingsModel::FillBoxes() {
+  precision_ = PrintBox(KeptFormat().precision);
+  columnWidth_ = PrintBox(kept_.columnWidth);
+}
+
+}  // namespace kav

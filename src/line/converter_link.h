@@ -1,0 +1,31 @@
+// What a screen keeps for the unit converter from one opening of it to the next.
+#pragma once
+
+#include <string>
+
+#include "line/expression_line.h"
+#include "line/key_request.h"
+#include "settings/settings_store.h"
+
+namespace kav {
+
+/// The positions in the converter's lists, which outlive a run, and the memory register M, which
+/// does not: the converter may change both.
+struct ConverterLink {
+  /// With the stored positions.
+  explicit ConverterLink(const SettingsStore& store);
+  void Save(SettingsStore& store) const;
+
+  /// Asks for the converter with `value` to convert.
+  OpenConverter Request(std::u16string value) const;
+  /// Takes what the converter left; a result goes into `line` in place of the selection.
+  void Take(const ConverterOutcome& outcome, ExpressionLine& line);
+
+  ConverterPositions positions;
+  double memory = 0;
+};
+
+/// What is converted before there is a number to convert, or where the last answer is 0.
+inline constexpr std::u16string_view kValueToConvert = u"1";
+
+}  // namespace kav

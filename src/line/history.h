@@ -1,0 +1,59 @@
+// The lines that were evaluated, and their answers.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "display/number_format.h"
+#include "engine/calc_modes.h"
+#include "settings/keys.h"
+#include "settings/settings_store.h"
+
+namespace kav {
+
+/// Where a history is stored: a count, and the entries under keys that are numbered from `first`
+/// on.
+struct HistoryKeys {
+  IntegerKey count;
+  NumberedKey (*entry)(int number);
+  int first;
+};
+
+inline constexpr HistoryKeys kCalculatorHistory{kCalHistoryCount, CalHistoryEntry, 1};
+inline constexpr HistoryKeys kMatrixHistory{kCalMHistoryCount, CalMHistoryEntry, 0};
+inline constexpr HistoryKeys kPlotterHistory{kGrapHistoryCount, GrapHistoryEntry, 1};
+
+/// Up to 20 texts, the newest last. An expression is kept as typed; an answer is "=", a base tag
+/// such as "[D]", and the number as it was shown.
+class History {
+ public:
+  static constexpr std::size_t kCapacity = 20;
+
+  /// The stored entries; a count out of range is the nearest one in range.
+  static History Load(const SettingsStore& store, const HistoryKeys& keys);
+  void Save(SettingsStore& store, const HistoryKeys& keys) const;
+
+  bool IsEmpty() const { return entries_.empty(); }
+  /// Oldest first.
+  const std::vector<std::u16string>& Entries() const { return entries_; }
+  bool NewestIs(std::u16string_view text) const;
+
+  /// Adds `text` unless it equals the newest entry; the oldest makes room for it.
+  void Add(std::u16string text);
+
+ private:
+  std::vector<std::u16string> entries_;
+};
+
+/// The history's line for an answer that was shown as `shown` in `base`.
+std::u16string AnswerEntry(std::u16string_view shown, BaseMode base);
+
+/// What choosing `entry` inserts: an expression as it stands, an answer as the number it records,
+/// read in the base of its tag and written as InsertedNumber does it.
+std::u16string EntryInsertion(std::u16string_view entry, DisplayFormat format, BaseMode base);
+
+/// `entry` as a menu shows it: at most 20 characters.
+std::u16string EntryLabel(std::u16string_view entry);
+
+}  // namespace kav

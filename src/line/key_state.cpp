@@ -1,0 +1,79 @@
+#include "line/key_state.h"
+
+namespace kav {
+namespace {
+
+constexpr bool IsHexDigit(Key key) {
+  return key >= Key::A && key <= Key::F;
+}
+
+/// The six functions that the digits A to F lie over.
+constexpr bool IsUnderHexDigit(Key key) {
+  switch (key) {
+    case Key::Sin:
+    case Key::Cos:
+    case Key::Sinh:
+    case Key::Cosh:
+    case Key::Sqrt:
+    case Key::Square:
+      return true;
+    default:
+      return false;
+  }
+}
+
+constexpr bool IsDecimalOnly(Key key) {
+  switch (key) {
+    case Key::Macro:
+    case Key::Converter:
+    case Key::Abs:
+    case Key::Tan:
+    case Key::Shift:
+      return true;
+    default:
+      return IsUnderHexDigit(key);
+  }
+}
+
+/// Whether the digit on `key`, where there is one from 2 to 9, is one of `base`.
+constexpr bool IsDigitAllowed(Key key, BaseMode base) {
+  switch (key) {
+    case Key::Two:
+    case Key::Three:
+    case Key::Four:
+    case Key::Five:
+    case Key::Six:
+    case Key::Seven:
+      return base != BaseMode::Binary;
+    case Key::Eight:
+    case Key::Nine:
+      return base != BaseMode::Binary && base != BaseMode::Octal;
+    default:
+      return true;
+  }
+}
+
+}  // namespace
+
+const KeyFace& FaceShown(Key key, BaseMode base, ShiftState shift) {
+  if (base != BaseMode::Decimal) {
+    const KeyFace& face = FaceOf(key, Face::Base);
+    if (face.face == Face::Base) return face;
+  }
+  return FaceOf(key, shift == ShiftState::On ? Face::Shifted : Face::Plain);
+}
+
+bool IsKeyVisible(Key key, BaseMode base, ShiftState shift) {
+  if (key == Key::Shift) return shift == ShiftState::Off;
+  if (key == Key::ShiftActive) return shift == ShiftState::On;
+  if (IsHexDigit(key)) return base == BaseMode::Hexadecimal;
+  return base != BaseMode::Hexadecimal || !IsUnderHexDigit(key);
+}
+
+bool IsKeyEnabled(Key key, BaseMode base, ShiftState shift) {
+  if (!IsKeyVisible(key, base, shift)) return false;
+  if (base != BaseMode::Decimal && IsDecimalOnly(key)) return false;
+  return IsDigitAllowed(key, base);
+}
+
+}  // namespace kav

@@ -1,0 +1,262 @@
+#include "line/keypad.h"
+
+#include <array>
+
+#include "line/line_texts.h"
+
+namespace kav {
+namespace {
+
+constexpr std::u16string_view kOpen = u"(";
+constexpr std::u16string_view kClose = u")";
+
+// clang-format off
+constexpr std::array kPlaces{
+    KeyPlace{Key::Deg,           3,  34, 20, KeyColour::Mode},
+    KeyPlace{Key::Dec,          26,  34, 19, KeyColour::Mode},
+    KeyPlace{Key::Backspace,    47,  34, 19, KeyColour::Editing},
+    KeyPlace{Key::Delete,       68,  34, 20, KeyColour::Editing},
+    KeyPlace{Key::PlayBack,     90,  34, 19, KeyColour::Editing},
+    KeyPlace{Key::Clear,       111,  34, 22, KeyColour::Editing},
+
+    KeyPlace{Key::Shift,         3,  61, 24, KeyColour::Orange},
+    KeyPlace{Key::ShiftActive,   3,  61, 24, KeyColour::ActiveShift},
+    KeyPlace{Key::Macro,        29,  61, 24, KeyColour::Orange},
+    KeyPlace{Key::Converter,    55,  61, 25, KeyColour::Orange},
+    KeyPlace{Key::Abs,          82,  61, 24, KeyColour::Function},
+    KeyPlace{Key::MemoryMenu,  108,  61, 24, KeyColour::Orange},
+
+    KeyPlace{Key::Sin,           3,  72, 24, KeyColour::Function},
+    KeyPlace{Key::Cos,          29,  72, 24, KeyColour::Function},
+    KeyPlace{Key::Tan,          55,  72, 25, KeyColour::Function},
+    KeyPlace{Key::Pi,           82,  72, 24, KeyColour::Function},
+    KeyPlace{Key::Ncr,         108,  72, 24, KeyColour::Function},
+
+    KeyPlace{Key::Sinh,          3,  83, 24, KeyColour::Function},
+    KeyPlace{Key::Cosh,         29,  83, 24, KeyColour::Function},
+    KeyPlace{Key::Tanh,         55,  83, 25, KeyColour::Function},
+    KeyPlace{Key::Log,          82,  83, 24, KeyColour::Function},
+    KeyPlace{Key::Ln,          108,  83, 24, KeyColour::Function},
+
+    KeyPlace{Key::Sqrt,          3,  94, 24, KeyColour::Function},
+    KeyPlace{Key::Square,       29,  94, 24, KeyColour::Function},
+    KeyPlace{Key::Power,        55,  94, 25, KeyColour::Function},
+    KeyPlace{Key::Percent,      82,  94, 24, KeyColour::Function},
+    KeyPlace{Key::Parentheses, 108,  94, 24, KeyColour::Function},
+
+    KeyPlace{Key::Seven,         3, 107, 24, KeyColour::Digit},
+    KeyPlace{Key::Eight,        29, 107, 24, KeyColour::Digit},
+    KeyPlace{Key::Nine,         55, 107, 25, KeyColour::Digit},
+    KeyPlace{Key::Open,         82, 107, 24, KeyColour::Function},
+    KeyPlace{Key::Close,       108, 107, 24, KeyColour::Function},
+
+    KeyPlace{Key::Four,          3, 118, 24, KeyColour::Digit},
+    KeyPlace{Key::Five,         29, 118, 24, KeyColour::Digit},
+    KeyPlace{Key::Six,          55, 118, 25, KeyColour::Digit},
+    KeyPlace{Key::Multiply,     82, 118, 24, KeyColour::Function},
+    KeyPlace{Key::Divide,      108, 118, 24, KeyColour::Function},
+
+    KeyPlace{Key::One,           3, 129, 24, KeyColour::Digit},
+    KeyPlace{Key::Two,          29, 129, 24, KeyColour::Digit},
+    KeyPlace{Key::Three,        55, 129, 25, KeyColour::Digit},
+    KeyPlace{Key::Add,          82, 129, 24, KeyColour::Function},
+    KeyPlace{Key::Subtract,    108, 129, 24, KeyColour::Function},
+
+    KeyPlace{Key::Zero,          3, 140, 24, KeyColour::Digit},
+    KeyPlace{Key::DoubleZero,   29, 140, 24, KeyColour::Digit},
+    KeyPlace{Key::Point,        55, 140, 25, KeyColour::Digit},
+    KeyPlace{Key::Exp,          82, 140, 24, KeyColour::Digit},
+    KeyPlace{Key::Equals,      108, 140, 24, KeyColour::Equals},
+
+    // Each over the function key of that place.
+    KeyPlace{Key::A,             3,  94, 24, KeyColour::Digit},
+    KeyPlace{Key::B,            29,  94, 24, KeyColour::Digit},
+    KeyPlace{Key::C,             3,  83, 24, KeyColour::Digit},
+    KeyPlace{Key::D,            29,  83, 24, KeyColour::Digit},
+    KeyPlace{Key::E,             3,  72, 24, KeyColour::Digit},
+    KeyPlace{Key::F,            29,  72, 24, KeyColour::Digit},
+};
+// clang-format on
+
+constexpr KeyEdit Insert(std::u16string_view text) {
+  return {KeyEdit::Kind::Insert, text, {}, 0};
+}
+
+constexpr KeyEdit Wrap(std::u16string_view prefix, std::u16string_view suffix) {
+  // An empty prefix moves nothing, yet its shift is that of a prefix of one character.
+  return {KeyEdit::Kind::Wrap, prefix, suffix, prefix.empty() ? 0 : prefix.size() - 1};
+}
+
+/// A key that acts on more than the line.
+constexpr KeyFace Command(Key key, std::u16string_view caption) {
+  return {key, Face::Plain, caption, {}, {}};
+}
+
+/// Writes `text`, in place of a selection.
+constexpr KeyFace Typed(Key key, Face face, std::u16string_view caption, std::u16string_view text) {
+  return {key, face, caption, Insert(text), Insert(text)};
+}
+
+/// Writes a function's name and parentheses around the selection.
+constexpr KeyFace Function(Key key, Face face, std::u16string_view caption,
+                           std::u16string_view prefix) {
+  return {key, face, caption, Wrap(prefix, kClose), Wrap(prefix, kClose)};
+}
+
+/// Writes an operator; a selection becomes its left operand in parentheses. `closing` is ")" and
+/// the operator.
+constexpr KeyFace Operator(Key key, Face face, std::u16string_view caption,
+                           std::u16string_view closing) {
+  return {key, face, caption, Insert(closing.substr(kClose.size())), Wrap(kOpen, closing)};
+}
+
+/// Writes `text`; a selection becomes its operand within `prefix` and ")".
+constexpr KeyFace Prefix(Key key, Face face, std::u16string_view caption, std::u16string_view text,
+                         std::u16string_view prefix) {
+  return {key, face, caption, Insert(text), Wrap(prefix, kClose)};
+}
+
+/// A sign. Without the parentheses of an operator, it is written one character behind the end of
+/// the selection.
+constexpr KeyFace Sign(Key key, std::u16string_view sign) {
+  return {key, Face::Plain, sign, Insert(sign), Wrap({}, sign)};
+}
+
+constexpr KeyEdit RootEdit(KeyEdit::Kind kind) {
+  return {kind, u"^(1/", kClose, 3};
+}
+
+// clang-format off
+constexpr std::array kFaces{
+    Command(Key::Deg, kDegreesCaption),
+    Command(Key::Dec, kDecimalCaption),
+    Command(Key::Backspace, u"BS"),
+    Command(Key::Delete, u"DEL"),
+    Command(Key::PlayBack, u"PB"),
+    Command(Key::Clear, u"CLR"),
+
+    Command(Key::Shift, u"Shift"),
+    Command(Key::ShiftActive, u"Shift"),
+    Command(Key::Macro, u"Mac"),
+    Command(Key::Converter, u"Cnv"),
+    Function(Key::Abs, Face::Plain,   u"ABS()", u"abs("),
+    Function(Key::Abs, Face::Shifted, u"INT()", u"int("),
+    Command(Key::MemoryMenu, u"M/C"),
+
+    Function(Key::Sin, Face::Plain,   u"SIN",  u"sin("),
+    Function(Key::Sin, Face::Shifted, u"ASIN", u"asin("),
+    Function(Key::Cos, Face::Plain,   u"COS",  u"cos("),
+    Function(Key::Cos, Face::Shifted, u"ACOS", u"acos("),
+    Function(Key::Tan, Face::Plain,   u"TAN",  u"tan("),
+    Function(Key::Tan, Face::Shifted, u"ATAN", u"atan("),
+    Typed   (Key::Pi,  Face::Plain,   u"Pi",   u"Pi"),
+    Operator(Key::Pi,  Face::Shifted, u"X!",   u")!"),
+    Operator(Key::Pi,  Face::Base,    u"AND",  u") AND "),
+    Operator(Key::Ncr, Face::Plain,   u"nCr",  u")C"),
+    Operator(Key::Ncr, Face::Shifted, u"nPr",  u")P"),
+    Operator(Key::Ncr, Face::Base,    u"OR",   u") OR "),
+
+    Function(Key::Sinh, Face::Plain,   u"SINH", u"sinh("),
+    Function(Key::Cosh, Face::Plain,   u"COSH", u"cosh("),
+    Function(Key::Tanh, Face::Plain,   u"TANH", u"tanh("),
+    Operator(Key::Tanh, Face::Shifted, u"<<",   u")<<"),
+    Operator(Key::Tanh, Face::Base,    u"<<",   u")<<"),
+    Function(Key::Log,  Face::Plain,   u"LOG",  u"log("),
+    Prefix  (Key::Log,  Face::Shifted, u"10^X", u"10^", u"10^("),
+    Operator(Key::Log,  Face::Base,    u"XOR",  u") XOR "),
+    Function(Key::Ln,   Face::Plain,   u"LN",   u"ln("),
+    Function(Key::Ln,   Face::Shifted, u"EXP",  u"exp("),
+    Operator(Key::Ln,   Face::Base,    u"XNOR", u") XNOR "),
+
+    Function(Key::Sqrt,    Face::Plain,   u"SQRT", u"sqrt("),
+    KeyFace {Key::Sqrt,    Face::Shifted, u"XthR", RootEdit(KeyEdit::Kind::Wrap), RootEdit(KeyEdit::Kind::WrapTwice)},
+    Operator(Key::Square,  Face::Plain,   u"X^2",  u")^2"),
+    Prefix  (Key::Square,  Face::Shifted, u"1/X",  u"1/", u"1/("),
+    Operator(Key::Power,   Face::Plain,   u"Y^X",  u")^"),
+    Operator(Key::Power,   Face::Shifted, u">>",   u")>>"),
+    Operator(Key::Percent, Face::Plain,   u"%",    u")%"),
+    Function(Key::Percent, Face::Shifted, u"FRAC", u"frac("),
+    Prefix  (Key::Percent, Face::Base,    u"NOT",  u" NOT ", u"NOT("),
+    Function(Key::Parentheses, Face::Plain, u"(...)", kOpen),
+
+    Typed   (Key::Seven,    Face::Plain, u"7", u"7"),
+    Typed   (Key::Eight,    Face::Plain, u"8", u"8"),
+    Typed   (Key::Nine,     Face::Plain, u"9", u"9"),
+    Typed   (Key::Open,     Face::Plain, u"(", u"("),
+    Typed   (Key::Close,    Face::Plain, u")", u")"),
+    Typed   (Key::Four,     Face::Plain, u"4", u"4"),
+    Typed   (Key::Five,     Face::Plain, u"5", u"5"),
+    Typed   (Key::Six,      Face::Plain, u"6", u"6"),
+    Operator(Key::Multiply, Face::Plain, u"*", u")*"),
+    Operator(Key::Divide,   Face::Plain, u"/", u")/"),
+    Typed   (Key::One,      Face::Plain, u"1", u"1"),
+    Typed   (Key::Two,      Face::Plain, u"2", u"2"),
+    Typed   (Key::Three,    Face::Plain, u"3", u"3"),
+    Sign    (Key::Add,      u"+"),
+    Sign    (Key::Subtract, u"-"),
+    Typed   (Key::Zero,       Face::Plain, u"0",   u"0"),
+    Typed   (Key::DoubleZero, Face::Plain, u"00",  u"00"),
+    Typed   (Key::Point,      Face::Plain, u".",   u"."),
+    Typed   (Key::Exp,        Face::Plain, u"Exp", u"E"),
+    Command (Key::Equals, u"="),
+
+    Typed(Key::A, Face::Plain, u"A", u"A"),
+    Typed(Key::B, Face::Plain, u"B", u"B"),
+    Typed(Key::C, Face::Plain, u"C", u"C"),
+    Typed(Key::D, Face::Plain, u"D", u"D"),
+    Typed(Key::E, Face::Plain, u"E", u"E"),
+    Typed(Key::F, Face::Plain, u"F", u"F"),
+};
+// clang-format on
+
+/// Whether there is a place for each key and one plain face, both in the order of the keys.
+constexpr bool TablesHoldEveryKey() {
+  std::size_t places = 0;
+  for (const KeyPlace& place : kPlaces) {
+    if (static_cast<std::size_t>(place.key) != places++) return false;
+  }
+  std::size_t faces = 0;
+  for (const KeyFace& row : kFaces) {
+    if (row.face != Face::Plain) continue;
+    if (static_cast<std::size_t>(row.key) != faces++) return false;
+  }
+  return faces == places;
+}
+static_assert(kPlaces.size() == static_cast<std::size_t>(Key::F) + 1);
+static_assert(TablesHoldEveryKey());
+
+}  // namespace
+
+std::span<const KeyPlace> KeyPlaces() {
+  return kPlaces;
+}
+
+const KeyFace& FaceOf(Key key, Face face) {
+  const KeyFace* plain = kFaces.data();  // Until the plain row of the key comes: every key has one.
+  for (const KeyFace& row : kFaces) {
+    if (row.key != key) continue;
+    if (row.face == face) return row;
+    if (row.face == Face::Plain) plain = &row;
+  }
+  return *plain;
+}
+
+void ApplyEdit(const KeyEdit& edit, ExpressionLine& line) {
+  switch (edit.kind) {
+    case KeyEdit::Kind::Insert:
+      line.InsertText(edit.prefix);
+      return;
+    case KeyEdit::Kind::WrapTwice:
+      line.WrapSelection(kOpen, kClose, 0);
+      [[fallthrough]];
+    case KeyEdit::Kind::Wrap:
+      line.WrapSelection(edit.prefix, edit.suffix, edit.shift);
+  }
+}
+
+void ApplyFace(const KeyFace& face, ExpressionLine& line) {
+  const auto& edit = line.Selected().IsEmpty() ? face.bare : face.selected;
+  if (edit) ApplyEdit(*edit, line);
+}
+
+}  // namespace kav

@@ -1,0 +1,53 @@
+// The pop-up menus of the scientific screen.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/calc_modes.h"
+#include "line/history.h"
+
+namespace kav {
+
+/// One line of a pop-up menu; a separator has no text and no id. Ids are positive.
+struct MenuItem {
+  int id = 0;
+  std::u16string text;
+
+  bool IsSeparator() const { return id == 0; }
+  bool operator==(const MenuItem&) const = default;
+};
+using Menu = std::vector<MenuItem>;
+
+/// The ids of the memory menu.
+namespace memory_item {
+inline constexpr int kConstants = 1;
+inline constexpr int kStoreVariable = 3;
+inline constexpr int kRecallVariable = 4;
+inline constexpr int kClear = 6;
+inline constexpr int kRecall = 7;
+inline constexpr int kSubtract = 8;
+inline constexpr int kAdd = 9;
+}  // namespace memory_item
+
+/// The entries of `history`, the newest on top, each with its number (from 1) as its id.
+Menu BuildHistoryMenu(const History& history);
+
+Menu BuildBaseMenu();
+/// The base that an item of the base menu stands for; nullopt for an id it does not have.
+std::optional<BaseMode> BaseOfItem(int id);
+/// The short name of `base`, as the base key shows it.
+std::u16string_view BaseCaption(BaseMode base);
+
+/// The short name of `unit`, as the angle key shows it.
+std::u16string_view AngleCaption(AngleUnit unit);
+
+/// The memory menu. What works on the answer is offered only where `errorText` is empty.
+Menu BuildMemoryMenu(std::u16string_view errorText);
+
+/// Whether `menu` has an item of that id.
+bool Offers(const Menu& menu, int id);
+
+}  // namespace kav

@@ -1,0 +1,192 @@
+#include "screens/converter/converter_dlg.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include "converter/converter_model.h"
+#include "converter/converter_texts.h"
+#include "screens/converter/choice_view.h"
+#include "screens/converter/user_conversion_dlg.h"
+#include "screens/memory/memory_variables_dlg.h"
+#include "screens/widgets/dialog.h"
+#include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/fitting_text.h"
+#include "screens/widgets/message_box.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+void SetBase(QWidget& field, const QColor& colour) {
+  QPalette colours = field.palette();
+  colours.setColor(QPalette::Base, colour);
+  field.setPalette(colours);
+}
+
+class CConverterDlg final : public Dialog {
+ public:
+  CConverterDlg(QWidget* parent, SettingsStore& store, const ConverterInput& input);
+
+  /// What is left of `input` once the dialog was closed.
+  ConverterOutcome Outcome(const ConverterInput& input, bool isAccepted) const;
+
+ private:
+  void LayOut();
+  void Connect();
+  void Refresh();
+  void RefreshChoices();
+  void RefreshValue();
+  void OnCategory(int category);
+  void OnMemory();
+  void OnAccept();
+  void SetTextHeight(int text) override;
+
+  SettingsStore& store_;
+  ConverterModel model_;
+  ChoiceView* category_ = new ChoiceView(kCategoryName);
+  QLineEdit* value_ = new QLineEdit;
+  ChoiceView* input_ = new ChoiceView(kInputUnitName);
+  ChoiceView* output_ = new ChoiceView(kOutputUnitName);
+  /// A number, or what is said in its place.
+  FittingText<QLineEdit>* result_ = new FittingText<QLineEdit>(1);
+  DialogButton* swap_ = new DialogButton(kSwapCaption);
+  DialogButton* memory_ = new DialogButton(kMemoryCaption);
+  DialogButton* ok_ = new DialogButton(kOkCaption);
+  DialogButton* cancel_ = new DialogButton(kCancelCaption);
+};
+
+CConverterDlg::CConverterDlg(QWidget* parent, SettingsStore& store, const ConverterInput& input)
+    : Dialog(parent, kConverterTitle),
+      store_(store),
+      model_(store, input.value,
+             {input.positions.category, input.positions.input, input.positions.output}) {
+  value_->setAccessibleName(ToQt(kInputValueName));
+  result_->setReadOnly(true);
+  result_->setAccessibleName(ToQt(kConverterResultName));
+  SetBase(*result_, QColor(255, 255, 192));
+  swap_->setAccessibleName(ToQt(kSwapName));
+  LayOut();
+  Connect();
+  Refresh();
+  value_->setFocus();
+  value_->selectAll();
+}
+
+void CConverterDlg::LayOut() {
+  // Without a second list nothing else moves.
+  QSizePolicy policy = output_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  output_->setSizePolicy(policy);
+  auto* buttons = new QHBoxLayout;
+  for (DialogButton* button : {memory_, ok_, cancel_}) buttons->addWidget(button, 1);
+  auto* all = new QVBoxLayout(this);
+  all->addWidget(category_);
+  all->addStretch(1);
+  all->addWidget(new QLabel(ToQt(kInputCaption)));
+  all->addWidget(value_);
+  all->addWidget(input_);
+  all->addWidget(swap_);
+  all->addWidget(new QLabel(ToQt(kOutputCaption)));
+  all->addWidget(result_);
+  all->addWidget(output_);
+  all->addStretch(2);
+  all->addLayout(buttons);
+  ok_->setDefault(true);
+}
+
+void CConverterDlg::Connect() {
+  connect(category_, &QComboBox::currentIndexChanged, this, &CConverterDlg::OnCategory);
+  // Also the one that is chosen already.
+  connect(category_, &QComboBox::activated, this, &CConverterDlg::OnCategory);
+  connect(input_, &QComboBox::currentIndexChanged, this, [this](int unit) {
+    model_.ChooseInput(unit);
+    Refresh();
+  });
+  connect(output_, &QComboBox::currentIndexChanged, this, [this](int unit) {
+    model_.ChooseOutput(unit);
+    Refresh();
+  });
+  connect(value_, &QLineEdit::textEdited, this, [this](const QString& text) {
+    model_.SetText(text.toStdU16String());
+    Refresh();
+  });
+  connect(swap_, &QPushButton::clicked, this, [this] {
+    model_.Swap();
+    Refresh();
+  });
+  connect(memory_, &QPushButton::clicked, this, &CConverterDlg::OnMemory);
+  connect(ok_, &QPushButton::clicked, this, &CConverterDlg::OnAccept);
+  connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void CConverterDlg::Refresh() {
+  RefreshChoices();
+  RefreshValue();
+  result_->Write(ToQt(model_.ShownResult()));
+  result_->home(false);
+  memory_->setEnabled(model_.Result().has_value());
+}
+
+void CConverterDlg::SetTextHeight(int text) {
+  Dialog::SetTextHeight(text);
+  result_->Fit(text);
+}
+
+void CConverterDlg::RefreshChoices() {
+  const UnitPositions& chosen = model_.Positions();
+  category_->Write(ConverterModel::Categories(), chosen.category);
+  input_->Write(model_.Inputs(), chosen.input);
+  output_->Write(model_.Outputs(), chosen.output);
+  const bool hasUnits = !model_.ListsConversions();
+  input_->setAccessibleName(ToQt(hasUnits ? kInputUnitName : kConversionName));
+  output_->setVisible(hasUnits);
+  swap_->setEnabled(model_.CanSwap());
+}
+
+void CConverterDlg::RefreshValue() {
+  // Not while it is typed in: that would move the caret.
+  const QString text = ToQt(model_.Text());
+  if (value_->text() != text) value_->setText(text);
+  const bool isNumber = model_.TextIsNumber();
+  SetBase(*value_, isNumber ? QColor(Qt::white) : QColor(255, 208, 208));
+  value_->setAccessibleDescription(isNumber ? QString() : ToQt(kValueIsNoNumber));
+}
+
+void CConverterDlg::OnCategory(int category) {
+  const auto missing = model_.ChooseCategory(category);
+  Refresh();
+  if (!missing) return;
+  ShowStop(this, *missing);
+  RunUserConversions(this, store_);
+  model_.RereadUserConversions();
+  Refresh();
+}
+
+void CConverterDlg::OnMemory() {
+  if (const auto result = model_.Result()) RunStoreVariable(this, store_, *result);
+}
+
+void CConverterDlg::OnAccept() {
+  const auto refusal = model_.OkRefusal();
+  if (!refusal) return accept();
+  ShowStop(this, *refusal);
+  value_->setFocus();
+}
+
+ConverterOutcome CConverterDlg::Outcome(const ConverterInput& input, bool isAccepted) const {
+  const UnitPositions& left = model_.Positions();
+  return {isAccepted ? model_.Result() : std::nullopt,
+          {left.category, left.input, left.output},
+          input.memory};
+}
+
+}  // namespace
+
+ConverterOutcome RunConverter(QWidget* parent, SettingsStore& store, const ConverterInput& input) {
+  CConverterDlg dlg(parent, store, input);
+  const bool isAccepted = dlg.RunModal();
+  return dlg.Outcome(input, isAccepted);
+}
+
+}  // namespace kav

@@ -1,0 +1,49 @@
+#include "screens/display/display_type_view.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QLabel>
+#include <QRadioButton>
+
+#include "display/display_settings_texts.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// Takes taps all over its row, and not on its text alone.
+class RowButton final : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+
+ private:
+  bool hitButton(const QPoint& place) const override { return rect().contains(place); }
+};
+
+}  // namespace
+
+DisplayTypeView::DisplayTypeView()
+    : buttons_(new QButtonGroup(this)), mark_(new QLabel(ToQt(kRecommendedMark))) {
+  QPalette colours;
+  colours.setColor(QPalette::Window, QColor(192, 255, 192));
+  setPalette(colours);
+  setAutoFillBackground(true);
+  auto* rows = new QGridLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setColumnStretch(1, 1);
+  for (const std::u16string_view caption : kDisplayTypeCaptions) {
+    const int type = static_cast<int>(buttons_->buttons().size());
+    auto* button = new RowButton(ToQt(caption));
+    buttons_->addButton(button, type);
+    // The mark stands right behind its button; the others may be as wide as they like.
+    const bool isMarked = type == static_cast<int>(DisplayType::FloatingPoint);
+    rows->addWidget(button, type, 0, 1, isMarked ? 1 : 2);
+    if (isMarked) rows->addWidget(mark_, type, 1);
+  }
+}
+
+void DisplayTypeView::Show(DisplayType chosen) {
+  buttons_->button(static_cast<int>(chosen))->setChecked(true);
+}
+
+}  // namespace kav

@@ -1,0 +1,474 @@
+#include "screens/matrix/matrix_dlg.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QTabBar>
+#include <QToolTip>
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <variant>
+
+#include "line/line_texts.h"
+#include "matrix/matrix_menus.h"
+#include "matrix/matrix_texts.h"
+#include "screens/matrix/matrix_size_dlg.h"
+#include "screens/widgets/file_choice.h"
+#include "screens/widgets/message_box.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// Of the heights of line and tabs.
+constexpr double kLineTextHeight = 0.62;
+constexpr double kTabTextHeight = 0.55;
+/// What the text of a tab leaves free of it at least, in pixels.
+constexpr int kTabMargins = 4;
+/// Of the pixels of a screen that is 240 wide, which the widths of columns are counted in.
+constexpr double kScreenPixels = 240;
+constexpr double kCellText = 11.5;
+
+constexpr FileKind kMatrixFiles{u"TXT(*.txt)", u"txt"};
+
+/// The grid's header row and column stand before the cells of the matrix.
+constexpr int kHeaders = 1;
+
+struct KeyShortcut {
+  MatrixKey key;
+  const char* keys;
+};
+
+// For the keys whose work cannot be typed. The letters are none of those of the menus.
+constexpr std::array kShortcuts{
+    KeyShortcut{MatrixKey::Deg, "Alt+D"},         KeyShortcut{MatrixKey::Functions, "Alt+X"},
+    KeyShortcut{MatrixKey::Tools, "Alt+T"},       KeyShortcut{MatrixKey::ClearCells, "Alt+C"},
+    KeyShortcut{MatrixKey::PlayBack, "Alt+P"},    KeyShortcut{MatrixKey::Operations, "Alt+O"},
+    KeyShortcut{MatrixKey::MatrixTools, "Alt+L"}, KeyShortcut{MatrixKey::Variables, "Alt+V"},
+    KeyShortcut{MatrixKey::Size, "Alt+S"},
+};
+
+struct MenuKey {
+  MatrixMenu menu;
+  MatrixKey key;
+};
+constexpr std::array kMenuKeys{
+    MenuKey{MatrixMenu::Functions, MatrixKey::Functions},
+    MenuKey{MatrixMenu::Tools, MatrixKey::Tools},
+    MenuKey{MatrixMenu::Operations, MatrixKey::Operations},
+    MenuKey{MatrixMenu::MatrixTools, MatrixKey::MatrixTools},
+    MenuKey{MatrixMenu::Variables, MatrixKey::Variables},
+    MenuKey{MatrixMenu::History, MatrixKey::PlayBack},
+};
+
+const char* ShortcutOf(MatrixKey key) {
+  const auto* row = std::find_if(kShortcuts.begin(), kShortcuts.end(),
+                                 [key](const KeyShortcut& s) { return s.key == key; });
+  return row != kShortcuts.end() ? row->keys : nullptr;
+}
+
+std::vector<KeySpot> KeySpots() {
+  std::vector<KeySpot> spots;
+  for (const MatrixKeyRow& row : MatrixKeyRows()) {
+    std::vector<std::u16string_view> captions{row.caption};
+    if (row.key == MatrixKey::Deg) captions = {kDegreesCaption, kRadiansCaption};
+    spots.push_back({static_cast<int>(row.key), QRect(row.x, row.y, row.width, kKeyHeight),
+                     row.colour, std::move(captions), ShortcutOf(row.key)});
+  }
+  return spots;
+}
+
+/// Tabs that fill the strip: what their texts leave of its width they share alike.
+class FillingTabs final : public QTabBar {
+ public:
+  using QTabBar::QTabBar;
+
+ private:
+  void resizeEvent(QResizeEvent* event) override {
+    const int most = qRound(height() * kTabTextHeight);
+    setFont(ScreenFont(most));
+    int needed = count() * kTabMargins;
+    for (int i = 0; i < count(); ++i) needed += TextWidth(i);
+    if (needed > width()) setFont(ScreenFont(most * width() / needed));
+    QTabBar::resizeEvent(event);
+  }
+  int TextWidth(int index) const { return fontMetrics().horizontalAdvance(tabText(index)); }
+  QSize tabSizeHint(int index) const override {
+    int rest = width();
+    for (int i = 0; i < count(); ++i) rest -= TextWidth(i);
+    return {TextWidth(index) + std::max(rest, 0) / count(), height()};
+  }
+  QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
+};
+
+}  // namespace
+
+CMatrixDlg::CMatrixDlg(Frame& frame)
+    : LineScreen(frame, QSize(kScreenWidth, kScreenHeight), KeySpots(),
+                 {static_cast<int>(MatrixKey::Equals), static_cast<int>(MatrixKey::Clear)}),
+      model_(frame.Store()),
+      tabs_(new FillingTabs(this)),
+      grid_(new CGridCtrl(this)) {
+  tabs_->setStyle(ScreenStyle());
+  tabs_->setExpanding(true);
+  tabs_->setUsesScrollButtons(false);
+  for (const auto name : kMatrixNames) tabs_->addTab(ToQt(name));
+  connect(tabs_, &QTabBar::currentChanged, this, &CMatrixDlg::OnTab);
+  MakeGrid();
+  setTabOrder(&Result(), tabs_);
+  setTabOrder(tabs_, grid_);
+  AddMenus(ScreenMode::Matrix, DisplayPage::Matrix, [this] { model_.TakeDisplaySettings(); });
+  CMatrixDlg::Refresh();
+}
+
+CMatrixDlg::~CMatrixDlg() {
+  // The grid outlives the model: an edit that only its end would finish finds nobody to tell.
+  grid_->FinishEdit();
+  grid_->SetHooks({});
+  model_.Save();
+}
+
+void CMatrixDlg::MakeGrid() {
+  grid_->setStyle(ScreenStyle());
+  grid_->setAccessibleName(ToQt(kMatrixGridName));
+  grid_->installEventFilter(this);
+  grid_->viewport()->installEventFilter(this);
+  GridHooks hooks;
+  hooks.beginEdit = [this](int row, int column) {
+    TakeLine();
+    model_.BeginCellEdit(row - kHeaders, column - kHeaders);
+    WriteLine(Line(), model_.Line());
+  };
+  hooks.endEdit = [this](int row, int column, const QString& text) {
+    model_.SetCell(row - kHeaders, column - kHeaders, text.toStdU16String());
+    ShowMatrix();
+  };
+  hooks.columnResized = [this](int, int) { TakeWidths(); };
+  grid_->SetHooks(std::move(hooks));
+}
+
+void CMatrixDlg::OnKey(int key) {
+  grid_->FinishEdit();
+  TakeLine();
+  CarryOut(model_.Press(static_cast<MatrixKey>(key)));
+  Refresh();
+  if (static_cast<MatrixKey>(key) == MatrixKey::Equals)
+    SaveAfterPainting([this] { model_.Save(); });
+}
+
+void CMatrixDlg::OnTab(int index) {
+  grid_->FinishEdit();
+  TakeLine();
+  model_.Show(index);
+  Refresh();
+}
+
+void CMatrixDlg::TakeLine() {
+  model_.SetLine(TextOf(Line()), SelectionOf(Line()));
+}
+
+void CMatrixDlg::Refresh() {
+  WriteLine(Line(), model_.Line());
+  ShowMatrix();
+  Line().setFocus();
+}
+
+void CMatrixDlg::ShowMatrix() {
+  Result().Show(model_.ResultText());
+  Keys().Refresh([this](int id) {
+    const auto key = static_cast<MatrixKey>(id);
+    return KeyState{model_.Caption(key), model_.IsEnabled(key), true};
+  });
+  {
+    const QSignalBlocker quiet(tabs_);
+    tabs_->setCurrentIndex(model_.Shown());
+  }
+  const MatrixValue& matrix = model_.ShownMatrix();
+  const GridModel& shown = grid_->Model();
+  if (inGrid_ != model_.Shown() || shown.RowCount() != matrix.rows + kHeaders ||
+      shown.ColumnCount() != matrix.columns + kHeaders) {
+    RebuildGrid();
+  }
+  WriteCells();
+  WriteWidths();
+}
+
+void CMatrixDlg::RebuildGrid() {
+  const MatrixValue& matrix = model_.ShownMatrix();
+  inGrid_.reset();
+  grid_->ResetSelectedRange();
+  // Where there is no memory for it, the old grid stays, and the next time tries again.
+  if (!grid_->SetFixedRowCount(0) || !grid_->SetFixedColumnCount(0) ||
+      !grid_->SetRowCount(matrix.rows + kHeaders) ||
+      !grid_->SetColumnCount(matrix.columns + kHeaders) || !grid_->SetFixedRowCount(kHeaders) ||
+      !grid_->SetFixedColumnCount(kHeaders)) {
+    return;
+  }
+  inGrid_ = model_.Shown();
+}
+
+void CMatrixDlg::WriteCells() {
+  const MatrixValue& matrix = model_.ShownMatrix();
+  const auto header = [this](int row, int column, int number) {
+    const std::u16string text = QString::number(number).toStdU16String();
+    grid_->SetItem(
+        {row, column, GridItem::kText | GridItem::kFormat, text, {GridAlignment::Centre, false}});
+  };
+  for (int row = 0; row < matrix.rows; ++row) header(row + kHeaders, 0, row + 1);
+  for (int column = 0; column < matrix.columns; ++column) header(0, column + kHeaders, column + 1);
+  const GridAlignment alignment =
+      model_.Alignment() == CellAlignment::Left ? GridAlignment::Left : GridAlignment::Right;
+  for (int row = 0; row < matrix.rows; ++row) {
+    for (int column = 0; column < matrix.columns; ++column) {
+      grid_->SetItem({row + kHeaders,
+                      column + kHeaders,
+                      GridItem::kText | GridItem::kFormat,
+                      matrix.At(row, column),
+                      {alignment, model_.IsMarked(row, column)}});
+    }
+  }
+}
+
+void CMatrixDlg::WriteWidths() {
+  for (int column = 0; column < grid_->Model().ColumnCount(); ++column) {
+    grid_->SetColumnWidth(column, model_.Widths()[static_cast<std::size_t>(column)]);
+  }
+}
+
+void CMatrixDlg::TakeWidths() {
+  ColumnWidths widths = model_.Widths();
+  for (int column = 0; column < grid_->Model().ColumnCount(); ++column) {
+    widths[static_cast<std::size_t>(column)] = grid_->GetColumnWidth(column);
+  }
+  model_.SetColumnWidths(widths);
+}
+
+std::optional<CellRange> CMatrixDlg::SelectedCells() const {
+  const GridRange range = grid_->Model().Selection();
+  if (range.IsNone()) return std::nullopt;
+  return CellRange{range.top - kHeaders, range.left - kHeaders, range.bottom - kHeaders,
+                   range.right - kHeaders};
+}
+
+void CMatrixDlg::LayOut(const DialogUnits& units) {
+  Keys().setGeometry(rect());
+  Keys().LayOut(units);
+  Line().setGeometry(units.Pixels(UnitsOf(kMatrixLinePlace)));
+  Line().SetTextHeight(qRound(Line().height() * kLineTextHeight));
+  Result().LayOut(units.Pixels(UnitsOf(kMatrixResultPlace)));
+  tabs_->setGeometry(units.Pixels(UnitsOf(kMatrixTabsPlace)));
+  grid_->setGeometry(units.Pixels(UnitsOf(kGridPlace)));
+  const double scale =
+      units.Pixels(QRect(0, 0, kScreenWidth, kScreenHeight)).width() / kScreenPixels;
+  grid_->SetScale(scale, qRound(kCellText * scale));
+}
+
+void CMatrixDlg::CarryOut(const MatrixRequest& request) {
+  std::visit([this](const auto& what) { Do(what); }, request);
+}
+
+void CMatrixDlg::Do(const ShowMatrixMenu& request) {
+  const auto* row = std::find_if(kMenuKeys.begin(), kMenuKeys.end(), [&](const MenuKey& candidate) {
+    return candidate.menu == request.menu;
+  });
+  PopUp(OfferedMenu(request.menu), static_cast<int>(row->key),
+        [this, menu = request.menu](int id) { CarryOut(model_.Choose(menu, id)); });
+}
+
+void CMatrixDlg::Do(const AskClearCells& request) {
+  const bool clears = AskYesNo(this, request.question);
+  if (clears) ClearCells();
+}
+
+void CMatrixDlg::Do(const AskMatrixSize& request) {
+  const auto size = RunMatrixSize(this, {request.rows, request.columns});
+  if (size) model_.Resize(size->rows, size->columns);
+}
+
+void CMatrixDlg::Do(const TellStop& request) {
+  Refresh();  // The box may stand in front of the answer's tab.
+  ShowStop(this, request.text);
+}
+
+void CMatrixDlg::Do(const AskSaveFile&) {
+  if (const auto path = AskFileToSave(this, kMatrixFiles)) Tell(model_.SaveTo(*path));
+}
+
+void CMatrixDlg::Do(const AskLoadFile&) {
+  if (const auto path = AskFileToOpen(this, kMatrixFiles)) Tell(model_.LoadFrom(*path));
+}
+
+void CMatrixDlg::Do(const AutofitColumns&) {
+  grid_->AutoSizeColumns();
+  TakeWidths();
+}
+
+void CMatrixDlg::Do(const OpenMacroEditor& request) {
+  Open(request);
+}
+
+void CMatrixDlg::Do(const OpenMacroList& request) {
+  if (const std::optional<int> index = Open(request)) model_.TakeMacro(*index);
+}
+
+void CMatrixDlg::Do(const OpenConverter& request) {
+  model_.TakeConverter(Open(request));
+}
+
+void CMatrixDlg::Do(const RecallMemoryVariable& request) {
+  if (const auto value = Open(request)) model_.TakeVariable(*value);
+}
+
+void CMatrixDlg::Do(const OpenConstants& request) {
+  if (const auto value = Open(request)) model_.TakeConstant(*value);
+}
+
+void CMatrixDlg::Tell(const std::optional<std::u16string>& failure) {
+  if (failure) ShowStop(this, *failure);
+}
+
+Menu CMatrixDlg::OfferedMenu(MatrixMenu menu) const {
+  Menu items = model_.MenuOf(menu);
+  if (menu != MatrixMenu::Tools) return items;
+  return OfferedOf(items, [&rooms = TheRooms()](int id) {
+    switch (id) {
+      case tools_item::kConstants:
+        return static_cast<bool>(rooms.constants);
+      case tools_item::kRecallVariable:
+        return static_cast<bool>(rooms.recallVariable);
+      case tools_item::kConverter:
+        return static_cast<bool>(rooms.converter);
+      case tools_item::kMacro:
+        return rooms.macroList && rooms.macroEditor;
+      default:
+        return true;
+    }
+  });
+}
+
+bool CMatrixDlg::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == &Line() && event->type() == QEvent::FocusIn) editsGrid_ = false;
+  if (watched == grid_) {
+    if (event->type() == QEvent::FocusIn) {
+      editsGrid_ = true;
+      Result().deselect();
+    }
+    return event->type() == QEvent::KeyPress && OnGridKey(*static_cast<QKeyEvent*>(event));
+  }
+  if (watched == grid_->viewport()) {
+    return event->type() == QEvent::ToolTip && ShowHint(*static_cast<QHelpEvent*>(event));
+  }
+  return LineScreen::eventFilter(watched, event);
+}
+
+bool CMatrixDlg::OnGridKey(const QKeyEvent& event) {
+  struct EditKey {
+    QKeySequence::StandardKey keys;
+    EditCommand command;
+  };
+  constexpr std::array kEditKeys{
+      EditKey{QKeySequence::Undo, EditCommand::Undo},
+      EditKey{QKeySequence::Redo, EditCommand::Redo},
+      EditKey{QKeySequence::Cut, EditCommand::Cut},
+      EditKey{QKeySequence::Copy, EditCommand::Copy},
+      EditKey{QKeySequence::Paste, EditCommand::Paste},
+  };
+  // Ahead of the grid, which would take it for the beginning of a cell.
+  if (event.text() == u"=") {
+    OnKey(static_cast<int>(MatrixKey::Equals));
+    return true;
+  }
+  for (const EditKey& row : kEditKeys) {
+    if (!event.matches(row.keys)) continue;
+    Edit(row.command);
+    return true;
+  }
+  if (event.key() != Qt::Key_Delete && event.key() != Qt::Key_Backspace) return false;
+  ClearCells();
+  ShowMatrix();
+  return true;
+}
+
+bool CMatrixDlg::ShowHint(const QHelpEvent& event) {
+  const GridCell cell = grid_->CellAt(event.pos());
+  if (cell.IsNone() || grid_->Model().IsFixed(cell)) return false;
+  const std::u16string hint = model_.CellHint(cell.row - kHeaders, cell.column - kHeaders);
+  QToolTip::showText(event.globalPos(), QString::fromStdU16String(hint), grid_->viewport(),
+                     grid_->CellArea(cell));
+  return true;
+}
+
+bool CMatrixDlg::EditsGrid() const {
+  return editsGrid_ && !Result().hasSelectedText();
+}
+
+void CMatrixDlg::Edit(EditCommand command) {
+  if (!EditsGrid()) return LineScreen::Edit(command);
+  grid_->FinishEdit();
+  switch (command) {
+    case EditCommand::Undo:
+      model_.Undo();
+      break;
+    case EditCommand::Redo:
+      model_.Redo();
+      break;
+    case EditCommand::Cut:
+      CopyCells();
+      ClearCells();
+      break;
+    case EditCommand::Copy:
+      CopyCells();
+      break;
+    case EditCommand::Paste:
+      PasteCells();
+      break;
+    case EditCommand::SelectAll:
+      grid_->SetFocusCell({kHeaders, kHeaders});
+      grid_->SelectTo({grid_->Model().RowCount() - 1, grid_->Model().ColumnCount() - 1});
+      break;
+  }
+  ShowMatrix();
+}
+
+bool CMatrixDlg::CanEdit(EditCommand command) const {
+  if (!EditsGrid()) return LineScreen::CanEdit(command);
+  switch (command) {
+    case EditCommand::Undo:
+      return model_.CanUndo();
+    case EditCommand::Redo:
+      return model_.CanRedo();
+    case EditCommand::Cut:
+    case EditCommand::Copy:
+      return SelectedCells().has_value();
+    case EditCommand::Paste:
+    case EditCommand::SelectAll:
+      break;
+  }
+  return true;
+}
+
+void CMatrixDlg::CopyCells() const {
+  const auto cells = SelectedCells();
+  if (!cells) return;
+  QApplication::clipboard()->setText(QString::fromStdU16String(model_.CopyCells(*cells)));
+}
+
+void CMatrixDlg::PasteCells() {
+  const CellRange cells = SelectedCells().value_or(CellRange{});
+  const std::u16string text = QApplication::clipboard()->text().toStdU16String();
+  const auto told = model_.PasteCells(cells.top, cells.left, text);
+  ShowMatrix();
+  if (told) ShowNotice(this, *told);
+}
+
+void CMatrixDlg::ClearCells() {
+  if (const auto cells = SelectedCells()) model_.ClearCells(*cells);
+}
+
+std::unique_ptr<QWidget> MakeMatrixScreen(Frame& frame) {
+  return std::make_unique<CMatrixDlg>(frame);
+}
+
+}  // namespace kav

@@ -1,0 +1,80 @@
+// The matrix screen: its model's picture.
+#pragma once
+
+#include <QHelpEvent>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "matrix/matrix_model.h"
+#include "screens/grid/grid_ctrl.h"
+#include "screens/widgets/line_screen.h"
+
+class QTabBar;
+
+namespace kav {
+
+/// Loads the settings when it is made and writes them into the frame's store when it is destroyed;
+/// after each "=" it also has them saved to disk.
+class CMatrixDlg final : public LineScreen {
+ public:
+  explicit CMatrixDlg(Frame& frame);
+  ~CMatrixDlg() override;
+
+ private:
+  void OnKey(int key) override;
+  void OnTab(int index);
+  void TakeLine() override;
+  void Refresh() override;
+  void LayOut(const DialogUnits& units) override;
+
+  // What a key asks for.
+  void CarryOut(const MatrixRequest& request);
+  void Do(const Nothing&) {}
+  void Do(const ShowMatrixMenu& request);
+  void Do(const AskClearCells& request);
+  void Do(const AskMatrixSize& request);
+  void Do(const TellStop& request);
+  void Do(const AskSaveFile& request);
+  void Do(const AskLoadFile& request);
+  void Do(const AutofitColumns& request);
+  void Do(const OpenMacroEditor& request);
+  void Do(const OpenMacroList& request);
+  void Do(const OpenConverter& request);
+  void Do(const RecallMemoryVariable& request);
+  void Do(const OpenConstants& request);
+  void Tell(const std::optional<std::u16string>& failure);
+  Menu OfferedMenu(MatrixMenu menu) const;
+
+  // The grid.
+  void MakeGrid();
+  void ShowMatrix();
+  void RebuildGrid();
+  void WriteCells();
+  void WriteWidths();
+  void TakeWidths();
+  std::optional<CellRange> SelectedCells() const;
+  bool ShowHint(const QHelpEvent& event);
+
+  // The Edit menu and its keys work on the grid while that has the focus.
+  bool EditsGrid() const;
+  void Edit(EditCommand command) override;
+  bool CanEdit(EditCommand command) const override;
+  bool OnGridKey(const QKeyEvent& event);
+  void CopyCells() const;
+  void PasteCells();
+  void ClearCells();
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  MatrixModel model_;
+  QTabBar* tabs_;
+  CGridCtrl* grid_;
+  bool editsGrid_ = false;     ///< the grid had the focus later than the line
+  std::optional<int> inGrid_;  ///< the matrix that the grid was built for
+};
+
+/// The matrix screen as the frame's table of screens has it.
+std::unique_ptr<QWidget> MakeMatrixScreen(Frame& frame);
+
+}  // namespace kav

@@ -1,0 +1,150 @@
+#include "screens/memory/memory_variables_dlg.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "memory/memory_texts.h"
+#include "memory/memory_variables_model.h"
+#include "screens/widgets/dialog.h"
+#include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/message_box.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// A list that has the keyboard has a current line, but none selected; the first key that would
+/// move to a line selects that one, so that the first can be reached like all others.
+class VariableList final : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+
+  /// Any number has room, so that the letters keep their size when another one is stored.
+  QSize minimumSizeHint() const override {
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    const int line = fontMetrics().horizontalAdvance(ToQt(kLongestVariableLine)) + 2 * margin;
+    const int around = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    return {line + around, QListWidget::minimumSizeHint().height()};
+  }
+
+ private:
+  void keyPressEvent(QKeyEvent* event) override {
+    const int key = event->key();
+    const bool moves = key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Home;
+    if (moves && selectedItems().isEmpty() && currentItem() != nullptr) {
+      setCurrentItem(currentItem(), QItemSelectionModel::ClearAndSelect);
+    } else {
+      QListWidget::keyPressEvent(event);
+    }
+  }
+};
+
+class CMemoryVariablesDlg final : public Dialog {
+ public:
+  CMemoryVariablesDlg(QWidget* parent, VariablesMode mode, SettingsStore& store);
+
+  /// What was recalled; nullopt where nothing was.
+  std::optional<std::u16string> Recalled() && { return std::move(recalled_); }
+
+ private:
+  void Connect();
+  void LayOut();
+  void Refresh();
+  void OnSelect();
+  void OnAction();
+  void OnClear();
+  void OnClearAll();
+
+  MemoryVariablesModel model_;
+  std::optional<std::u16string> recalled_;
+  VariableList* list_ = new VariableList;
+  DialogButton* action_;
+  DialogButton* clear_ = new DialogButton(kClearCaption);
+  DialogButton* clearAll_ = new DialogButton(kClearAllCaption);
+  DialogButton* close_ = new DialogButton(kCloseCaption);
+};
+
+CMemoryVariablesDlg::CMemoryVariablesDlg(QWidget* parent, VariablesMode mode, SettingsStore& store)
+    : Dialog(parent, kVariablesTitle),
+      model_(std::move(mode), store),
+      action_(new DialogButton(model_.ActionCaption())) {
+  list_->setAccessibleName(ToQt(kVariableListName));
+  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  for (int i = 0; i < MemoryVariables::kCount; ++i) list_->addItem(QString());
+  LayOut();
+  Connect();
+  Refresh();
+}
+
+void CMemoryVariablesDlg::LayOut() {
+  auto* buttons = new QGridLayout;
+  buttons->addWidget(clearAll_, 0, 0);
+  buttons->addWidget(clear_, 0, 1);
+  buttons->addWidget(action_, 1, 0);
+  buttons->addWidget(close_, 1, 1);
+  auto* all = new QVBoxLayout(this);
+  all->addWidget(list_, 1);
+  all->addLayout(buttons);
+  action_->setDefault(true);
+}
+
+void CMemoryVariablesDlg::Connect() {
+  connect(list_, &QListWidget::itemSelectionChanged, this, &CMemoryVariablesDlg::OnSelect);
+  connect(list_, &QListWidget::itemDoubleClicked, this, &CMemoryVariablesDlg::OnAction);
+  connect(action_, &QPushButton::clicked, this, &CMemoryVariablesDlg::OnAction);
+  connect(clear_, &QPushButton::clicked, this, &CMemoryVariablesDlg::OnClear);
+  connect(clearAll_, &QPushButton::clicked, this, &CMemoryVariablesDlg::OnClearAll);
+  connect(close_, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void CMemoryVariablesDlg::Refresh() {
+  int row = 0;
+  for (const std::u16string& line : model_.Lines()) list_->item(row++)->setText(OneLine(line));
+}
+
+void CMemoryVariablesDlg::OnSelect() {
+  const auto selected = list_->selectionModel()->selectedRows();
+  model_.Select(selected.isEmpty() ? std::nullopt : std::optional(selected.front().row()));
+}
+
+void CMemoryVariablesDlg::OnAction() {
+  VariableOutcome outcome = model_.Act();
+  if (const auto* missing = std::get_if<VariableMissing>(&outcome)) {
+    ShowStop(this, missing->text);
+  } else if (auto* recalled = std::get_if<VariableRecalled>(&outcome)) {
+    recalled_ = std::move(recalled->value);
+    accept();
+  }
+  Refresh();
+}
+
+void CMemoryVariablesDlg::OnClear() {
+  const auto question = model_.ClearQuestion();
+  if (!question || !AskYesNo(this, *question)) return;
+  model_.Clear();
+  Refresh();
+}
+
+void CMemoryVariablesDlg::OnClearAll() {
+  if (!AskYesNo(this, model_.ClearAllQuestion())) return;
+  model_.ClearAll();
+  Refresh();
+}
+
+}  // namespace
+
+void RunStoreVariable(QWidget* parent, SettingsStore& store, const std::u16string& value) {
+  CMemoryVariablesDlg(parent, StoreMode{value}, store).RunModal();
+}
+
+std::optional<std::u16string> RunRecallVariable(QWidget* parent, SettingsStore& store) {
+  CMemoryVariablesDlg dlg(parent, RecallMode{}, store);
+  dlg.RunModal();
+  return std::move(dlg).Recalled();
+}
+
+}  // namespace kav

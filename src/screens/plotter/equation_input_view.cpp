@@ -1,0 +1,93 @@
+#include "screens/plotter/equation_input_view.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFrame>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <algorithm>
+
+#include "plotter/plotter_texts.h"
+#include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+constexpr int kLines = 2;
+/// Of the height of the whole.
+constexpr double kTextHeight = 0.31;
+
+}  // namespace
+
+EquationInputView::EquationInputView(QWidget* parent)
+    : QWidget(parent), formula_(new FormulaView(kLines)) {
+  formula_->setParent(this);
+  formula_->setFrameShape(QFrame::NoFrame);
+  formula_->setAccessibleName(ToQt(kEquationInputName));
+  // Each by itself: a style is not handed on to those within.
+  formula_->setStyle(ScreenStyle());
+  for (auto* part : formula_->findChildren<QWidget*>()) part->setStyle(ScreenStyle());
+  formula_->installEventFilter(this);
+  setFocusProxy(formula_);
+}
+
+void EquationInputView::Edit(EditCommand command) {
+  switch (command) {
+    case EditCommand::Undo:
+      return formula_->undo();
+    case EditCommand::Redo:
+      return formula_->redo();
+    case EditCommand::Cut:
+      return formula_->cut();
+    case EditCommand::Copy:
+      return formula_->copy();
+    case EditCommand::Paste:
+      return formula_->paste();
+    case EditCommand::SelectAll:
+      return formula_->selectAll();
+  }
+}
+
+bool EquationInputView::CanEdit(EditCommand command) const {
+  switch (command) {
+    case EditCommand::Undo:
+      return formula_->document()->isUndoAvailable();
+    case EditCommand::Redo:
+      return formula_->document()->isRedoAvailable();
+    case EditCommand::Cut:
+    case EditCommand::Copy:
+      return formula_->textCursor().hasSelection();
+    case EditCommand::Paste:
+    case EditCommand::SelectAll:
+      break;
+  }
+  return true;
+}
+
+bool EquationInputView::eventFilter(QObject* watched, QEvent* event) {
+  // The outline shows where the focus is.
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
+  return QWidget::eventFilter(watched, event);
+}
+
+void EquationInputView::paintEvent(QPaintEvent*) {
+  QStyleOptionFrame box;
+  box.initFrom(this);
+  box.fontMetrics = formula_->fontMetrics();
+  box.state.setFlag(QStyle::State_HasFocus, formula_->hasFocus());
+  QPainter painter(this);
+  ScreenStyle()->drawPrimitive(QStyle::PE_PanelLineEdit, &box, &painter, this);
+}
+
+void EquationInputView::resizeEvent(QResizeEvent*) {
+  const int most = qRound(height() * kTextHeight);
+  const int outline = std::max(2, most / 6);
+  // Each line has its part of what outline and margins leave of the height.
+  const int text = PixelsForLine(most, (height() - 2 * outline - most / 4.0) / kLines);
+  formula_->setFont(ScreenFont(text));
+  formula_->document()->setDocumentMargin(text / 8.0);
+  formula_->setGeometry(rect().adjusted(outline, outline, -outline, -outline));
+}
+
+}  // namespace kav

@@ -1,0 +1,171 @@
+#include "screens/plotter/graph_painter_view.h"
+
+#include <QPainter>
+#include <QVarLengthArray>
+#include <algorithm>
+#include <cmath>
+
+#include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+// In pixels of a plot 230 pixels wide.
+constexpr double kSideMargin = 2;
+constexpr double kTopMargin = 3;
+constexpr double kPictureWidth = kSampleCount + 2 * kSideMargin;
+constexpr double kTextHeight = 11;
+constexpr double kDescent = 2.75;
+
+// Lines grow more slowly than the plot: as wide in proportion, they would look coarse.
+constexpr double kStrokeGrowth = 0.65;
+constexpr double kRuleGrowth = 0.5;
+// The narrowest stroke that covers pixels in its middle wholly, whatever its slope is (the square
+// root of 2 and a little), so that they have its very colour.
+constexpr double kNarrowestStroke = 1.5;
+// To paint a path takes time that grows faster than the path.
+constexpr qsizetype kSegmentsAtOnce = 8;
+
+QColor ColourOf(GraphColour colour) {
+  return QColor::fromRgb(QRgb(colour));
+}
+
+QRect RectOf(const PlotArea& area) {
+  return {QPoint(area.left, area.top), QPoint(area.right, area.bottom)};
+}
+
+/// The middle of the pixel at `place`.
+QPointF MiddleOf(GraphPlace place) {
+  return {place.column + 0.5, place.row + 0.5};
+}
+
+int Pixels(double length) {
+  return std::max(static_cast<int>(std::lround(length)), 1);
+}
+
+/// Paints one shape after the other.
+class ShapePainter {
+ public:
+  ShapePainter(QPainter& painter, const PlotArea& area)
+      : painter_(painter), area_(area), scale_(area.Scale()) {
+    QFont font = ScreenFont(Pixels(kTextHeight * scale_));
+    // Coloured fringes belong to one screen: the picture may be shown on any.
+    font.setStyleStrategy(QFont::NoSubpixelAntialias);
+    painter_.setFont(font);
+  }
+
+  void operator()(const GraphFrame& frame) {
+    const QRect area = RectOf(frame.area);
+    const QRect within = area.adjusted(Line(), Line(), -Line(), -Line());
+    const QColor ink = ColourOf(graph_colour::kInk);
+    for (const QRect& side : {QRect(area.topLeft(), QSize(area.width(), Line())),
+                              QRect(area.left(), within.bottom() + 1, area.width(), Line()),
+                              QRect(area.topLeft(), QSize(Line(), area.height())),
+                              QRect(within.right() + 1, area.top(), Line(), area.height())}) {
+      painter_.fillRect(side, ink);
+    }
+  }
+
+  void operator()(const GraphRule& rule) {
+    const QRect line = QRect(PixelAt(rule.from), PixelAt(rule.to)).normalized();
+    const int before = Line() / 2;
+    const int after = Line() - 1 - before;
+    // The frame stays whole.
+    const QRect wide = line.width() > line.height()
+                           ? line.adjusted(Line(), -before, -Line(), after)
+                           : line.adjusted(-before, Line(), after, -Line());
+    painter_.fillRect(wide, ColourOf(rule.colour));
+  }
+
+  void operator()(const GraphStroke& stroke) {
+    QVarLengthArray<QPointF, kSampleCount> places;
+    for (const GraphPlace place : stroke.places) places.append(MiddleOf(place));
+    Clip();
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setPen(QPen(ColourOf(stroke.colour),
+                         std::max(kNarrowestStroke, kStrokeGrowth * scale_), Qt::SolidLine,
+                         Qt::SquareCap, Qt::RoundJoin));
+    for (qsizetype i = 0; i + 1 < places.size(); i += kSegmentsAtOnce) {
+      // One segment more, so that no seam is seen.
+      const qsizetype count = std::min(kSegmentsAtOnce + 2, places.size() - i);
+      painter_.drawPolyline(places.data() + i, static_cast<int>(count));
+    }
+    Restore();
+  }
+
+  void operator()(const GraphDot& dot) {
+    const int side = Pixels(scale_);
+    Clip();
+    painter_.fillRect(QRect(PixelAt(dot.place) - QPoint(side / 2, side / 2), QSize(side, side)),
+                      ColourOf(dot.colour));
+    Restore();
+  }
+
+  void operator()(const GraphDisc& disc) {
+    const double radius = disc.radius * scale_;
+    Clip();
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(ColourOf(disc.colour));
+    painter_.drawEllipse(MiddleOf(disc.place), radius, radius);
+    Restore();
+  }
+
+  void operator()(const GraphText& text) {
+    painter_.setPen(ColourOf(graph_colour::kInk));
+    // Not what some faces keep free below: the text would leave the plot at its other end.
+    const int descent = std::min(painter_.fontMetrics().descent(), Pixels(kDescent * scale_));
+    painter_.drawText(PixelAt(text.place) - QPoint(0, descent), ToQt(text.text));
+  }
+
+ private:
+  int Line() const { return std::max(static_cast<int>(kRuleGrowth * scale_), 1); }
+  static QPoint PixelAt(GraphPlace place) {
+    return {static_cast<int>(std::lround(place.column)), static_cast<int>(std::lround(place.row))};
+  }
+  void Clip() {
+    painter_.save();
+    painter_.setClipRect(RectOf(area_));
+  }
+  void Restore() { painter_.restore(); }
+
+  QPainter& painter_;
+  PlotArea area_;
+  double scale_;
+};
+
+}  // namespace
+
+PlotArea AreaWithin(QSize size) {
+  const double scale = size.width() / kPictureWidth;
+  const int side = Pixels(kSideMargin * scale);
+  const int top = Pixels(kTopMargin * scale);
+  // A range has a width and a height, and so has the area that shows it.
+  return {side, top, std::max(size.width() - 1 - side, side + 1),
+          std::max(size.height() - 1 - top, top + 1)};
+}
+
+QSize SizeAround(const PlotArea& area) {
+  return {area.left + area.right + 1, area.top + area.bottom + 1};
+}
+
+void PaintShapes(QPainter& painter, const GraphPicture& shapes, const PlotArea& area) {
+  ShapePainter shapePainter(painter, area);
+  for (const GraphShape& shape : shapes) std::visit(shapePainter, shape);
+}
+
+void PaintGraph(QPainter& painter, const GraphModel& model) {
+  const PlotArea& area = model.Area();
+  painter.fillRect(QRect(QPoint(0, 0), SizeAround(area)), ColourOf(graph_colour::kPaper));
+  PaintShapes(painter, BuildPicture(model), area);
+}
+
+void DrawGraph(const GraphModel& model, QImage& image) {
+  const QSize size = SizeAround(model.Area());
+  if (image.size() != size) image = QImage(size, QImage::Format_RGB32);
+  QPainter painter(&image);
+  PaintGraph(painter, model);
+}
+
+}  // namespace kav

@@ -1,0 +1,237 @@
+#include "screens/plotter/graph_view.h"
+
+#include <QCheckBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QVBoxLayout>
+#include <array>
+#include <utility>
+
+#include "plotter/graph_model.h"
+#include "plotter/plotter_texts.h"
+#include "screens/plotter/graph_area_view.h"
+#include "screens/plotter/graph_saving_view.h"
+#include "screens/plotter/plotter_options_dlg.h"
+#include "screens/widgets/bottom_menu_bar.h"
+#include "screens/widgets/choice_box.h"
+#include "screens/widgets/dialog.h"
+#include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/label_list.h"
+#include "screens/widgets/look.h"
+#include "screens/widgets/message_box.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// An entry of the menu that changes the range, and its keys, the one that is shown first.
+struct ChangeRow {
+  RangeChange change;
+  std::u16string_view text;
+  std::array<const char*, 3> keys;
+};
+
+// On most keyboards '=' is the key of '+'.
+constexpr std::array kChangeRows{
+    ChangeRow{RangeChange::MoveLeft, kMoveLeftEntry, {"Ctrl+Left"}},
+    ChangeRow{RangeChange::MoveRight, kMoveRightEntry, {"Ctrl+Right"}},
+    ChangeRow{RangeChange::MoveUp, kMoveUpEntry, {"Ctrl+Up"}},
+    ChangeRow{RangeChange::MoveDown, kMoveDownEntry, {"Ctrl+Down"}},
+    ChangeRow{RangeChange::ZoomIn, kZoomInEntry, {"+", "Ctrl++", "="}},
+    ChangeRow{RangeChange::ZoomOut, kZoomOutEntry, {"-", "Ctrl+-"}},
+    ChangeRow{RangeChange::Reset, kResetEntry, {"Ctrl+0"}},
+    ChangeRow{RangeChange::Undo, kUndoRangeEntry, {"Ctrl+Z"}},
+};
+constexpr const char* kOptionsKey = "Ctrl+G";
+
+constexpr int kLinesOfResults = 3;
+
+/// Of the height of the whole, what the plot is to take at least.
+constexpr double kPlotShare = 0.585;
+
+QList<QKeySequence> Shortcuts(const ChangeRow& row) {
+  QList<QKeySequence> keys;
+  for (const char* key : row.keys) {
+    if (key != nullptr) keys.append(QKeySequence(QLatin1String(key)));
+  }
+  return keys;
+}
+
+class CGraphView final : public Dialog {
+ public:
+  CGraphView(QWidget* parent, GraphInput input);
+
+ private:
+  void MakeMenu();
+  void LayOut();
+  void Connect();
+
+  GraphAreaHooks Hooks();
+  void OnCalculate();
+  void OnOptions();
+  void GoToCurve(int curves);
+  void Select(int curve);
+  void Tell(RangeOutcome outcome);
+  void Take(const std::optional<GraphReading>& reading);
+  void Refresh();
+
+  void SetTextHeight(int text) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+  GraphModel model_;
+  GraphReading reading_;
+  GraphAreaView* area_;
+  ChoiceBox* curves_ = new ChoiceBox(kCurveSelectorName);
+  QLineEdit* x_ = new QLineEdit;
+  DialogButton* calculate_ = new DialogButton(kCalculateCaption);
+  LabelList* results_ = new LabelList(kGraphResultsName);
+  QCheckBox* trace_ = new QCheckBox(ToQt(kTraceCaption));
+  DialogButton* save_ = new DialogButton(kSaveGraphCaption);
+  DialogButton* close_ = new DialogButton(kCloseCaption);
+  QVBoxLayout* body_ = new QVBoxLayout;
+  BottomMenuBar* menuBar_ = new BottomMenuBar(this);
+  QAction* undo_ = nullptr;
+};
+
+CGraphView::CGraphView(QWidget* parent, GraphInput input)
+    : Dialog(parent, kGraphTitle),
+      model_(std::move(input)),
+      area_(new GraphAreaView(model_, Hooks())) {
+  for (const GraphCurve& curve : model_.Input().curves) curves_->addItem(OneLine(curve.label));
+  // As wide as there is room, however long an equation is.
+  curves_->KeepRoomFor({kShortCurveNames.begin(), kShortCurveNames.end()});
+  x_->setAccessibleName(ToQt(kTracedXName));
+  MakeMenu();
+  LayOut();
+  Connect();
+  Refresh();
+  area_->setFocus();
+}
+
+void CGraphView::MakeMenu() {
+  QMenu* menu = menuBar_->addMenu(ToQt(kGraphMenu));
+  for (const ChangeRow& row : kChangeRows) {
+    QAction* action = menu->addAction(ToQt(row.text));
+    action->setShortcuts(Shortcuts(row));
+    connect(action, &QAction::triggered, this,
+            [this, change = row.change] { Tell(model_.Change(change)); });
+    if (row.change == RangeChange::Undo) undo_ = action;
+  }
+  menu->addSeparator();
+  QAction* options = menu->addAction(ToQt(kGraphOptionsEntry), this, &CGraphView::OnOptions);
+  options->setShortcut(QKeySequence(QLatin1String(kOptionsKey)));
+  connect(menu, &QMenu::aboutToShow, menu, [this, menu] { menu->setFont(font()); });
+}
+
+void CGraphView::LayOut() {
+  auto* at = new QHBoxLayout;
+  at->addWidget(curves_, 1);
+  at->addWidget(new QLabel(ToQt(kTracedXCaption)));
+  at->addWidget(x_, 1);
+  at->addWidget(calculate_);
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(trace_);
+  buttons->addStretch();
+  for (DialogButton* button : {save_, close_}) buttons->addWidget(button);
+  body_->addWidget(area_, 1);
+  body_->addLayout(at);
+  body_->addWidget(results_);
+  body_->addLayout(buttons);
+  auto* all = new QVBoxLayout(this);
+  all->addLayout(body_, 1);
+  all->addWidget(menuBar_);
+  calculate_->setDefault(true);
+}
+
+void CGraphView::Connect() {
+  connect(curves_, &QComboBox::currentIndexChanged, this, &CGraphView::Select);
+  connect(calculate_, &QPushButton::clicked, this, &CGraphView::OnCalculate);
+  connect(trace_, &QCheckBox::toggled, this, [this](bool isOn) {
+    model_.SetTraces(isOn);
+    area_->MoveMarker();
+  });
+  connect(save_, &QPushButton::clicked, this, [this] { SaveGraph(this, model_); });
+  connect(close_, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+GraphAreaHooks CGraphView::Hooks() {
+  return {[this](GraphPlace place) { Take(model_.Tap(place)); },
+          [this](GraphPlace from, GraphPlace to) { Tell(model_.ZoomToBox(from, to)); },
+          [this](RangeChange change) { Tell(model_.Change(change)); },
+          [this](int columns) { Take(model_.Step(columns)); },
+          [this](int curves) { GoToCurve(curves); }};
+}
+
+void CGraphView::OnCalculate() {
+  const auto reading = model_.Calculate(x_->text().toStdU16String());
+  if (reading) return Take(*reading);
+  ShowStop(this, reading.error());
+  x_->setFocus();
+  x_->selectAll();
+}
+
+void CGraphView::OnOptions() {
+  const auto chosen = RunPlotterOptions(this, {model_.Range(), model_.Options()});
+  if (chosen) Tell(model_.Apply(chosen->range, chosen->options));
+}
+
+void CGraphView::GoToCurve(int curves) {
+  const int wanted = curves_->currentIndex() + curves;
+  if (wanted >= 0 && wanted < curves_->count()) curves_->setCurrentIndex(wanted);
+}
+
+void CGraphView::Select(int curve) {
+  model_.SelectCurve(curve);
+  if (reading_.selected) {
+    reading_.selected = curve;
+    results_->Write(reading_.lines, reading_.selected);
+  }
+  area_->MoveMarker();
+}
+
+void CGraphView::Tell(RangeOutcome outcome) {
+  Refresh();
+  if (outcome) ShowStop(this, *outcome);
+}
+
+void CGraphView::Take(const std::optional<GraphReading>& reading) {
+  if (!reading) return;
+  reading_ = *reading;
+  x_->setText(ToQt(reading_.x));
+  x_->home(false);  // where the digits are that matter most
+  results_->Write(reading_.lines, reading_.selected);
+  area_->MoveMarker();
+}
+
+void CGraphView::Refresh() {
+  undo_->setEnabled(model_.CanUndo());
+  area_->Redraw();
+}
+
+void CGraphView::SetTextHeight(int text) {
+  Dialog::SetTextHeight(text);
+  // The plot is as wide as can be, and the menu bar, as on every screen, all of the width.
+  layout()->setContentsMargins(0, 0, 0, 0);
+  layout()->setSpacing(0);
+  area_->KeepHeight(qRound(height() * kPlotShare));
+  // As wide as in any other face, however small this one's letters have to be.
+  const int margin = TextPixels(height()) / 4;
+  body_->setContentsMargins(margin, margin, margin, margin);
+  const int line = results_->fontMetrics().height() + text / 6;
+  results_->setFixedHeight(kLinesOfResults * line + 2 * results_->frameWidth());
+}
+
+void CGraphView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) return menuBar_->Enter();
+  Dialog::keyPressEvent(event);
+}
+
+}  // namespace
+
+void RunGraphView(QWidget* parent, GraphInput input) {
+  CGraphView(parent, std::move(input)).RunModal();
+}
+
+}  // namespace kav

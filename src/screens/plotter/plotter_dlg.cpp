@@ -1,0 +1,273 @@
+#include "screens/plotter/plotter_dlg.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "common/number_text.h"
+#include "line/line_texts.h"
+#include "macros/macro_store.h"
+#include "macros/macros_texts.h"
+#include "plotter/plotter_texts.h"
+#include "screens/plotter/equation_input_view.h"
+#include "screens/plotter/graph_view.h"
+#include "screens/widgets/dialog.h"
+#include "screens/widgets/message_box.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+struct KeyFacts {
+  PlotterKey key;
+  const char* shortcut;
+  std::u16string_view description;
+};
+
+// For the keys whose work cannot be typed, or whose caption does not say what it is. The letters
+// are none of those of the menus.
+constexpr std::array kKeyFacts{
+    KeyFacts{PlotterKey::Add, nullptr, kAddName},
+    KeyFacts{PlotterKey::DeleteEquation, "Alt+R", kDeleteEquationName},
+    KeyFacts{PlotterKey::Deg, "Alt+D", {}},
+    KeyFacts{PlotterKey::Macro, "Alt+A", {}},
+    KeyFacts{PlotterKey::PlayBack, "Alt+P", {}},
+    KeyFacts{PlotterKey::Shift, "Alt+S", {}},
+    KeyFacts{PlotterKey::ShiftActive, "Alt+S", kShiftIsOn},
+};
+
+KeySpot SpotOf(const PlotterKeyRow& row) {
+  std::vector<std::u16string_view> captions{row.plain.caption, row.shifted.caption};
+  if (row.key == PlotterKey::Deg) captions = {kDegreesCaption, kRadiansCaption};
+  KeySpot spot{static_cast<int>(row.key), QRect(row.x, row.y, row.width, kKeyHeight), row.colour,
+               std::move(captions)};
+  const auto* facts = std::find_if(kKeyFacts.begin(), kKeyFacts.end(),
+                                   [&row](const KeyFacts& f) { return f.key == row.key; });
+  if (facts == kKeyFacts.end()) return spot;
+  spot.shortcut = facts->shortcut;
+  spot.description = facts->description;
+  return spot;
+}
+
+std::vector<KeySpot> KeySpots() {
+  std::vector<KeySpot> spots;
+  for (const PlotterKeyRow& row : PlotterKeyRows()) spots.push_back(SpotOf(row));
+  return spots;
+}
+
+}  // namespace
+
+CPlotterDlg::CPlotterDlg(Frame& frame)
+    : KeyScreen(frame, QSize(kScreenWidth, kScreenHeight)),
+      model_(frame.Store()),
+      input_(new EquationInputView(this)),
+      list_(new QComboBox(this)),
+      // What nobody types into keeps what was stored, however much of that a field shows.
+      range_(this, [this](RangeField field,
+                          std::u16string text) { model_.SetRangeText(field, std::move(text)); }),
+      grid_(NewOptionBox(kGridCaption, PlotterOption::Grid)),
+      line_(NewOptionBox(kLineCaption, PlotterOption::Line)) {
+  MakeList();
+  AddKeys(KeySpots());
+  OrderTabs();
+  AddMenus(ScreenMode::Plotter, DisplayPage::Normal, [] {});
+  CPlotterDlg::Refresh();
+}
+
+CPlotterDlg::~CPlotterDlg() {
+  model_.Save();
+}
+
+QCheckBox* CPlotterDlg::NewOptionBox(std::u16string_view caption, PlotterOption option) {
+  auto* box = new QCheckBox(ToQt(caption), this);
+  box->setStyle(ScreenStyle());
+  // As a key does, it leaves the caret where it is when it is tapped.
+  box->setFocusPolicy(Qt::TabFocus);
+  connect(box, &QCheckBox::clicked, this, [this, option] {
+    TakeLine();
+    model_.Toggle(option);
+    Refresh();
+  });
+  return box;
+}
+
+void CPlotterDlg::MakeList() {
+  list_->setAccessibleName(ToQt(kEquationListName));
+  list_->setStyle(ScreenStyle());
+  list_->view();  // made now, it gets the look of the screen
+  for (auto* part : list_->findChildren<QWidget*>()) part->setStyle(ScreenStyle());
+  connect(list_, &QComboBox::activated, this, [this](int place) {
+    model_.ChooseEquation(static_cast<std::size_t>(place));
+    Refresh();
+  });
+}
+
+void CPlotterDlg::OrderTabs() {
+  input_->Formula().installEventFilter(this);
+  for (const RangeField field : kRangeFields) range_.Of(field).installEventFilter(this);
+  const std::array<QWidget*, 8> round{
+      &input_->Formula(),           list_, &range_.Of(RangeField::XMin),
+      &range_.Of(RangeField::XMax), grid_, &range_.Of(RangeField::YMin),
+      &range_.Of(RangeField::YMax), line_};
+  for (std::size_t i = 1; i < round.size(); ++i) setTabOrder(round[i - 1], round[i]);
+}
+
+void CPlotterDlg::OnKey(int key) {
+  TakeLine();
+  const PlotterRequest request = model_.Press(static_cast<PlotterKey>(key));
+  Refresh();
+  // Before a graph is opened, which may stay for long.
+  if (static_cast<PlotterKey>(key) == PlotterKey::Add ||
+      static_cast<PlotterKey>(key) == PlotterKey::Plot) {
+    Save();
+  }
+  CarryOut(request);
+}
+
+void CPlotterDlg::OnEnter() {
+  TakeLine();
+  const std::optional<PlotterRefusal> refusal = model_.Add();
+  Refresh();
+  Save();
+  if (refusal) Do(*refusal);
+}
+
+void CPlotterDlg::Save() {
+  model_.Save();
+  TheFrame().SaveStore();
+}
+
+void CPlotterDlg::TakeLine() {
+  model_.SetInput(input_->Formula().Line());
+}
+
+void CPlotterDlg::Refresh() {
+  input_->Formula().Write(model_.Input());
+  ShowEquations();
+  range_.Show(model_.Range());
+  grid_->setChecked(model_.Options().hasGrid);
+  line_->setChecked(model_.Options().hasLines);
+  Keys().Refresh([this](int id) {
+    const auto key = static_cast<PlotterKey>(id);
+    const bool isOffered = key != PlotterKey::Macro || TheRooms().macroList;
+    return KeyState{model_.Caption(key), model_.IsEnabled(key) && isOffered, model_.IsVisible(key)};
+  });
+  input_->setFocus();
+}
+
+void CPlotterDlg::ShowEquations() {
+  const EquationList& equations = model_.Equations();
+  list_->clear();
+  for (const std::u16string& equation : equations.All()) list_->addItem(OneLine(equation));
+  list_->setCurrentIndex(equations.Selected() ? static_cast<int>(*equations.Selected()) : -1);
+  list_->setEnabled(!equations.IsEmpty());
+}
+
+void CPlotterDlg::LayOut(const DialogUnits& units) {
+  Keys().setGeometry(rect());
+  Keys().LayOut(units);
+  input_->setGeometry(units.Pixels(UnitsOf(kEquationInputPlace)));
+  list_->setGeometry(units.Pixels(UnitsOf(kEquationListPlace)));
+  range_.LayOut(units);
+  grid_->setGeometry(units.Pixels(UnitsOf(kGridBoxPlace)));
+  line_->setGeometry(units.Pixels(UnitsOf(kLineBoxPlace)));
+  const QFont font = ScreenFont(range_.FittingText(Keys().TextHeight()));
+  range_.SetFont(font);
+  list_->setFont(font);
+  for (QCheckBox* box : {grid_, line_}) box->setFont(font);
+}
+
+void CPlotterDlg::CarryOut(const PlotterRequest& request) {
+  std::visit([this](const auto& what) { Do(what); }, request);
+}
+
+void CPlotterDlg::Do(const PlotterRefusal& request) {
+  ShowStop(this, request.text);
+  if (!request.focus) return input_->setFocus();
+  range_.Enter(*request.focus);
+}
+
+void CPlotterDlg::Do(const ShowHistoryMenu&) {
+  PopUp(model_.HistoryMenu(), static_cast<int>(PlotterKey::PlayBack),
+        [this](int id) { model_.ChooseHistory(id); });
+}
+
+void CPlotterDlg::Do(const AskDeleteEquation& request) {
+  if (AskYesNo(this, request.question)) {
+    model_.DeleteEquation();
+    Save();
+  }
+  Refresh();
+}
+
+void CPlotterDlg::Do(const TellNoMacro&) {
+  ShowStop(this, kNoMacroStored);
+}
+
+void CPlotterDlg::Do(const OpenMacroList& request) {
+  const std::optional<int> index = Open(request);
+  const MacroStore macros(TheFrame().Store());
+  if (index && *index >= 0 && *index < macros.Count()) {
+    model_.TakeMacro(Widen(macros.At(*index).formula));
+  }
+  Refresh();
+}
+
+void CPlotterDlg::Do(const PlotCurves& request) {
+  RunGraphView(this, request.graph);
+  Refresh();
+}
+
+void CPlotterDlg::Edit(EditCommand command) {
+  if (edited_ != nullptr) return EditLine(*edited_, command);
+  input_->Edit(command);
+}
+
+bool CPlotterDlg::CanEdit(EditCommand command) const {
+  return edited_ != nullptr ? CanEditLine(*edited_, command) : input_->CanEdit(command);
+}
+
+bool CPlotterDlg::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) edited_ = qobject_cast<QLineEdit*>(watched);
+  // The letter of a key that is disabled, and so does not answer to Alt, would be written.
+  if (event->type() == QEvent::KeyPress) {
+    return static_cast<QKeyEvent*>(event)->modifiers() == Qt::AltModifier;
+  }
+  return KeyScreen::eventFilter(watched, event);
+}
+
+void CPlotterDlg::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: {
+      const bool plots =
+          range_.Has(focusWidget()) || (event->modifiers() & Qt::ControlModifier) != 0;
+      return plots ? OnKey(static_cast<int>(PlotterKey::Plot)) : OnEnter();
+    }
+    case Qt::Key_Escape:
+      // Out of a field one only goes back.
+      return range_.Has(focusWidget()) ? input_->setFocus()
+                                       : OnKey(static_cast<int>(PlotterKey::Clear));
+    default:
+      break;
+  }
+  if (focusWidget() == &input_->Formula() || range_.Has(focusWidget()) || !IsTyping(*event)) {
+    return KeyScreen::keyPressEvent(event);
+  }
+  input_->setFocus();
+  QCoreApplication::sendEvent(&input_->Formula(), event);
+}
+
+std::unique_ptr<QWidget> MakePlotterScreen(Frame& frame) {
+  return std::make_unique<CPlotterDlg>(frame);
+}
+
+}  // namespace kav

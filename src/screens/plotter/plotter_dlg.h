@@ -1,0 +1,70 @@
+// The function plotter's screen: its model's picture.
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "plotter/plotter_model.h"
+#include "screens/plotter/range_fields_view.h"
+#include "screens/widgets/key_screen.h"
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+
+namespace kav {
+
+class EquationInputView;
+
+/// Loads the settings when it is made and writes them into the frame's store when it is destroyed;
+/// what changes the equations also has them saved to disk. Enter adds the input, with Ctrl it
+/// plots, as it does in a field of the range; what is typed goes to the input, unless a field has
+/// the focus.
+class CPlotterDlg final : public KeyScreen {
+ public:
+  explicit CPlotterDlg(Frame& frame);
+  ~CPlotterDlg() override;
+
+ private:
+  void MakeList();
+  void OrderTabs();
+  QCheckBox* NewOptionBox(std::u16string_view caption, PlotterOption option);
+
+  void OnKey(int key) override;
+  void OnEnter();
+  void TakeLine() override;
+  void Refresh() override;
+  void ShowEquations();
+  void LayOut(const DialogUnits& units) override;
+  void Save();
+
+  // What a key asks for.
+  void CarryOut(const PlotterRequest& request);
+  void Do(const Nothing&) {}
+  void Do(const PlotterRefusal& request);
+  void Do(const ShowHistoryMenu& request);
+  void Do(const AskDeleteEquation& request);
+  void Do(const TellNoMacro& request);
+  void Do(const OpenMacroList& request);
+  void Do(const PlotCurves& request);
+
+  // The Edit menu works on the field that had the focus last, or else on the input.
+  void Edit(EditCommand command) override;
+  bool CanEdit(EditCommand command) const override;
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+  PlotterModel model_;
+  EquationInputView* input_;
+  QComboBox* list_;
+  RangeFieldsView range_;
+  QCheckBox* grid_;
+  QCheckBox* line_;
+  QLineEdit* edited_ = nullptr;  ///< null: the input
+};
+
+/// The function plotter's screen as the frame's table of screens has it.
+std::unique_ptr<QWidget> MakePlotterScreen(Frame& frame);
+
+}  // namespace kav

@@ -1,0 +1,90 @@
+#include "screens/plotter/range_fields_view.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionFrame>
+#include <algorithm>
+#include <vector>
+
+#include "plotter/plotter_keypad.h"
+#include "screens/widgets/dialog.h"
+#include "screens/widgets/key_screen.h"
+#include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// Of a field's height, and of a caption's width.
+constexpr double kTextHeight = 0.55;
+constexpr double kTextWidth = 0.97;
+/// What a field keeps free beside its text, in pixels.
+constexpr int kBesideText = 3;
+
+}  // namespace
+
+RangeFieldsView::RangeFieldsView(QWidget* screen,
+                                 const std::function<void(RangeField, std::u16string)>& onEdited) {
+  for (const RangeField field : kRangeFields) {
+    const QString caption = ToQt(CaptionOf(field));
+    auto* edit = new QLineEdit(screen);
+    edit->setStyle(ScreenStyle());
+    edit->setAccessibleName(caption);
+    edit->setInputMethodHints(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText);
+    QObject::connect(edit, &QLineEdit::textEdited, edit, [onEdited, field](const QString& text) {
+      onEdited(field, text.toStdU16String());
+    });
+    captions_[IndexOf(field)] = new QLabel(caption, screen);
+    fields_[IndexOf(field)] = edit;
+  }
+}
+
+void RangeFieldsView::Show(const RangeTexts& texts) {
+  for (const RangeField field : kRangeFields) {
+    const QString text = OneLine(texts[IndexOf(field)]);
+    // Not while it is typed in: that would move the caret.
+    if (Of(field).text() == text) continue;
+    Of(field).setText(text);
+    Of(field).home(false);
+  }
+}
+
+void RangeFieldsView::LayOut(const DialogUnits& units) {
+  for (const RangeField field : kRangeFields) {
+    captions_[IndexOf(field)]->setGeometry(units.Pixels(UnitsOf(PlaceOf(field).caption)));
+    Of(field).setGeometry(units.Pixels(UnitsOf(PlaceOf(field).field)));
+  }
+}
+
+int RangeFieldsView::FittingText(int most) const {
+  std::vector<SpacedText> texts;
+  for (const QLabel* caption : captions_) {
+    texts.push_back({caption->text(), static_cast<int>(caption->width() * kTextWidth)});
+  }
+  const QLineEdit& field = *fields_.front();
+  const int highest = std::min(most, qRound(field.height() * kTextHeight));
+  // A number with its sign and six digits is seen whole.
+  QStyleOptionFrame frame;
+  frame.initFrom(&field);
+  frame.fontMetrics = QFontMetrics(ScreenFont(highest));
+  const QRect room = field.style()->subElementRect(QStyle::SE_LineEditContents, &frame, &field);
+  texts.push_back({"-123.456", room.width() - kBesideText});
+  return FittingPixels(texts, highest, 1);
+}
+
+void RangeFieldsView::SetFont(const QFont& font) {
+  for (QLabel* caption : captions_) caption->setFont(font);
+  for (QLineEdit* field : fields_) field->setFont(font);
+}
+
+bool RangeFieldsView::Has(const QWidget* widget) const {
+  return std::find(fields_.begin(), fields_.end(), widget) != fields_.end();
+}
+
+void RangeFieldsView::Enter(RangeField field) const {
+  Of(field).setFocus();
+  Of(field).selectAll();
+}
+
+}  // namespace kav

@@ -1,0 +1,40 @@
+// The four fields of the plot range as widgets.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "plotter/range_fields.h"
+#include "screens/widgets/look.h"
+
+class QLabel;
+class QLineEdit;
+class QWidget;
+
+namespace kav {
+
+/// The fields and their captions, each a child of the screen, at the places of the table.
+class RangeFieldsView {
+ public:
+  /// `onEdited` is called when the user has changed the text of a field.
+  RangeFieldsView(QWidget* screen, const std::function<void(RangeField, std::u16string)>& onEdited);
+
+  void Show(const RangeTexts& texts);
+  void LayOut(const DialogUnits& units);
+  /// The size at which no caption is cut, at most `most` pixels.
+  int FittingText(int most) const;
+  void SetFont(const QFont& font);
+
+  QLineEdit& Of(RangeField field) const { return *fields_[IndexOf(field)]; }
+  /// Whether `widget` is one of the fields.
+  bool Has(const QWidget* widget) const;
+  /// Gives a field the focus, all of its text selected.
+  void Enter(RangeField field) const;
+
+ private:
+  std::array<QLabel*, kRangeFields.size()> captions_{};
+  std::array<QLineEdit*, kRangeFields.size()> fields_{};
+};
+
+}  // namespace kav

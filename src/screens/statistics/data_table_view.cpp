@@ -1,0 +1,275 @@
+#include "screens/statistics/data_table_view.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <algorithm>
+#include <limits>
+#include <numeric>
+#include <utility>
+
+#include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
+#include "statistics/statistics_texts.h"
+
+namespace kav {
+namespace {
+
+/// Of the height of a line of text.
+constexpr double kRowHeight = 1.25;
+
+/// More characters than a column of any screen has room for: to measure a long text takes time.
+constexpr std::size_t kLongestShown = 400;
+
+}  // namespace
+
+/// The cells as the toolkit asks for them: made when they are to be seen.
+class DataTableView::Cells final : public QAbstractTableModel {
+ public:
+  Cells(QObject* parent, const DataList& list, std::span<const DataColumn> columns)
+      : QAbstractTableModel(parent), list_(list), columns_(columns.begin(), columns.end()) {
+    Reload();
+  }
+
+  void Reload() {
+    beginResetModel();
+    rows_ = list_.RowCount();
+    endResetModel();
+  }
+
+ private:
+  int rowCount(const QModelIndex& parent) const override {
+    return parent.isValid() ? 0 : static_cast<int>(rows_);
+  }
+  int columnCount(const QModelIndex& parent) const override {
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+  }
+
+  QVariant data(const QModelIndex& index, int role) const override {
+    const auto row = static_cast<std::size_t>(index.row());
+    // The list may be ahead of what is shown of it.
+    if (!index.isValid() || row >= list_.RowCount()) return {};
+    if (role == Qt::TextAlignmentRole) return AlignmentOf(index.column());
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return TextOf(row, index.column());
+    return {};
+  }
+
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+    if (orientation != Qt::Horizontal) return {};
+    if (role == Qt::DisplayRole) return ToQt(columns_[static_cast<std::size_t>(section)].heading);
+    if (role == Qt::TextAlignmentRole) return AlignmentOf(section);
+    if (role == Qt::ToolTipRole) return ToQt(SortHint(section + 1));
+    return {};
+  }
+
+  bool IsCount(int column) const { return column + 1 == static_cast<int>(columns_.size()); }
+
+  QVariant AlignmentOf(int column) const {
+    return QVariant::fromValue(Qt::AlignVCenter |
+                               (IsCount(column) ? Qt::AlignRight : Qt::AlignLeft));
+  }
+
+  QString TextOf(std::size_t row, int column) const {
+    if (IsCount(column)) return QString::fromStdString(list_.CountText(row));
+    const std::string_view text = list_.ValueText(row, static_cast<std::size_t>(column));
+    return QLatin1String(text.substr(0, kLongestShown));
+  }
+
+  const DataList& list_;
+  std::vector<DataColumn> columns_;
+  std::size_t rows_ = 0;
+};
+
+DataTableView::DataTableView(QWidget* parent, const DataList& list,
+                             std::span<const DataColumn> columns)
+    : QTableView(parent),
+      list_(list),
+      columns_(columns.begin(), columns.end()),
+      cells_(new Cells(this, list, columns)) {
+  for (QWidget* part : findChildren<QWidget*>()) part->setStyle(ScreenStyle());
+  setStyle(ScreenStyle());
+  setAccessibleName(ToQt(kDataListName));
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(ExtendedSelection);
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  QHeaderView& headings = *horizontalHeader();
+  headings.setSectionResizeMode(QHeaderView::Fixed);
+  headings.setSectionsClickable(true);
+  headings.setHighlightSections(false);
+  headings.setMinimumSectionSize(1);
+  const auto press = [this](int column) {
+    if (hooks_.headingPressed) hooks_.headingPressed(static_cast<std::size_t>(column));
+  };
+  connect(&headings, &QHeaderView::sectionClicked, this, press);
+  for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
+    auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_1 + column)), this);
+    connect(shortcut, &QShortcut::activated, this, [press, column] { press(column); });
+  }
+  DataTableView::setModel(cells_);
+}
+
+void DataTableView::setModel(QAbstractItemModel* model) {
+  QTableView::setModel(model);
+  // A heading that shares the selection looks at each selected row whenever it is painted.
+  horizontalHeader()->setSelectionModel(new QItemSelectionModel(model, this));
+}
+
+void DataTableView::Reload() {
+  const int top = verticalScrollBar()->value();
+  const int current = currentIndex().row();
+  const int before = model()->rowCount();
+  SetRowHeight();
+  cells_->Reload();
+  updateGeometries();
+  // What is new stands at the top.
+  const int rows = model()->rowCount();
+  const int added = std::max(rows - before, 0);
+  verticalScrollBar()->setValue(added > 0 ? 0 : top);
+  if (current < 0 || rows == 0) return;
+  const int row = std::min(current + added, rows - 1);
+  WithoutScrolling([&] {
+    selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::NoUpdate);
+  });
+}
+
+void DataTableView::WithoutScrolling(const std::function<void()>& select) {
+  setAutoScroll(false);
+  select();
+  setAutoScroll(true);
+}
+
+void DataTableView::Select(std::optional<std::size_t> row) {
+  if (row == FirstSelected()) return;
+  const DataTableHooks kept = std::exchange(hooks_, {});
+  if (row && static_cast<int>(*row) < model()->rowCount()) {
+    WithoutScrolling([&] { selectRow(static_cast<int>(*row)); });
+  } else {
+    clearSelection();
+  }
+  hooks_ = kept;
+}
+
+std::optional<std::size_t> DataTableView::FirstSelected() const {
+  std::optional<std::size_t> first;
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    const auto top = static_cast<std::size_t>(range.top());
+    first = std::min(first.value_or(top), top);
+  }
+  return first;
+}
+
+std::vector<std::size_t> DataTableView::SelectedRows() const {
+  std::vector<std::size_t> rows;
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) {
+      rows.push_back(static_cast<std::size_t>(row));
+    }
+  }
+  std::sort(rows.begin(), rows.end());
+  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+  return rows;
+}
+
+void DataTableView::SetTextHeight(int pixels) {
+  setFont(ScreenFont(pixels));
+  FitHeadings();
+  SetRowHeight();
+}
+
+void DataTableView::FitHeadings() {
+  QHeaderView& header = *horizontalHeader();
+  // At most: they shrink with the letters.
+  const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+  std::vector<SpacedText> headings;
+  headings.reserve(columns_.size());
+  for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
+    headings.push_back(
+        {ToQt(columns_[static_cast<std::size_t>(column)].heading), columnWidth(column) - margins});
+  }
+  header.setFont(ScreenFont(FittingPixels(headings, font().pixelSize(), 1)));
+}
+
+void DataTableView::SetRowHeight() {
+  // All rows together are as high as a number of pixels can be.
+  const auto rows = std::max<std::size_t>(list_.RowCount(), 1);
+  const auto most = static_cast<int>(std::numeric_limits<int>::max() / rows);
+  const int height = std::min(qRound(fontMetrics().height() * kRowHeight), most);
+  if (verticalHeader()->defaultSectionSize() == height) return;
+  // Else each row would be told of.
+  const QSignalBlocker quiet(verticalHeader());
+  verticalHeader()->setMinimumSectionSize(1);
+  verticalHeader()->setDefaultSectionSize(height);
+  updateGeometries();
+  viewport()->update();
+}
+
+void DataTableView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  const int whole = std::accumulate(columns_.begin(), columns_.end(), 0,
+                                    [](int sum, const DataColumn& c) { return sum + c.width; });
+  int left = 0;
+  int before = 0;
+  for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
+    before += columns_[static_cast<std::size_t>(column)].width;
+    const int right = viewport()->width() * before / std::max(whole, 1);
+    setColumnWidth(column, right - left);
+    left = right;
+  }
+  FitHeadings();
+}
+
+void DataTableView::selectionChanged(const QItemSelection& now, const QItemSelection& before) {
+  QTableView::selectionChanged(now, before);
+  if (hooks_.selectionChanged) hooks_.selectionChanged();
+}
+
+void DataTableView::mouseDoubleClickEvent(QMouseEvent* event) {
+  QTableView::mouseDoubleClickEvent(event);
+  const bool isOnRow = indexAt(event->position().toPoint()).isValid();
+  if (isOnRow && event->button() == Qt::LeftButton && hooks_.edit) hooks_.edit();
+}
+
+bool DataTableView::DoCommand(const QKeyEvent& event) {
+  const auto call = [](const std::function<void()>& hook) {
+    if (hook) hook();
+    return true;
+  };
+  if (event.matches(QKeySequence::Copy)) return call(hooks_.copy);
+  if (event.matches(QKeySequence::Paste)) return call(hooks_.paste);
+  switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return call(hooks_.edit);
+    case Qt::Key_Delete:
+      return call(hooks_.remove);
+    default:
+      return false;
+  }
+}
+
+void DataTableView::keyPressEvent(QKeyEvent* event) {
+  if (DoCommand(*event)) return;
+  // Whoever types does not search the rows for it.
+  const bool isTyped =
+      !event->text().isEmpty() && event->text().front().isPrint() && event->key() != Qt::Key_Space;
+  if (isTyped && !event->matches(QKeySequence::SelectAll)) return event->ignore();
+  QTableView::keyPressEvent(event);
+}
+
+QModelIndex DataTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  // Rows are whole here: Home and End are those of the list, not of a row.
+  if (action == MoveHome) return model()->index(0, 0);
+  if (action == MoveEnd) return model()->index(model()->rowCount() - 1, 0);
+  return QTableView::moveCursor(action, modifiers);
+}
+
+}  // namespace kav

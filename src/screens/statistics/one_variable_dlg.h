@@ -1,0 +1,20 @@
+// The screen of one-variable statistics.
+#pragma once
+
+#include <chrono>
+#include <memory>
+
+#include "screens/statistics/statistics_screen_view.h"
+
+namespace kav {
+
+class COneVariableDlg final : public StatisticsScreen {
+ public:
+  /// A work on the list that takes longer than `patience` shows its progress.
+  explicit COneVariableDlg(Frame& frame, std::chrono::milliseconds patience = kProgressPatience);
+};
+
+/// The screen as the frame's table of screens has it.
+std::unique_ptr<QWidget> MakeOneVariableScreen(Frame& frame);
+
+}  // namespace kav

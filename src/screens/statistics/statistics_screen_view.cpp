@@ -1,0 +1,338 @@
+#include "screens/statistics/statistics_screen_view.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethod>
+#include <QKeyEvent>
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "line/line_texts.h"
+#include "screens/widgets/file_choice.h"
+#include "screens/widgets/look.h"
+#include "screens/widgets/message_box.h"
+#include "screens/widgets/qt_text.h"
+#include "statistics/statistics_keypad.h"
+#include "statistics/statistics_menus.h"
+#include "statistics/statistics_texts.h"
+
+namespace kav {
+namespace {
+
+/// Of the letters, so that a few rows are in sight in faces with high lines, too.
+constexpr double kHighestLine = 1.3;
+
+constexpr FileKind kDataFiles{u"TXT(*.txt)", u"txt"};
+
+struct KeyShortcut {
+  StatisticsKey key;
+  const char* keys;
+};
+
+// For the keys that open something; the letters are none of those of the menus.
+constexpr std::array kShortcuts{
+    KeyShortcut{StatisticsKey::Save, "Ctrl+S"},      KeyShortcut{StatisticsKey::Load, "Ctrl+O"},
+    KeyShortcut{StatisticsKey::Clear, "Alt+C"},      KeyShortcut{StatisticsKey::Plot, "Alt+P"},
+    KeyShortcut{StatisticsKey::MemoryMenu, "Alt+V"}, KeyShortcut{StatisticsKey::Model, "Alt+R"},
+};
+
+const char* ShortcutOf(StatisticsKey key) {
+  const auto* row = std::find_if(kShortcuts.begin(), kShortcuts.end(),
+                                 [key](const KeyShortcut& s) { return s.key == key; });
+  return row != kShortcuts.end() ? row->keys : nullptr;
+}
+
+/// Every caption that a key can show.
+std::vector<std::u16string_view> CaptionsOf(const StatisticsKeyRow& row) {
+  if (row.key != StatisticsKey::Model) return {row.caption};
+  std::vector<std::u16string_view> captions;
+  for (const MenuItem& item : BuildModelMenu()) {
+    captions.push_back(ModelCaption(*ModelOfItem(item.id)));
+  }
+  return captions;
+}
+
+std::vector<KeySpot> KeySpots(DataShape shape) {
+  std::vector<KeySpot> spots;
+  for (const StatisticsKeyRow& row : StatisticsKeyRows(shape)) {
+    spots.push_back({static_cast<int>(row.key), UnitsOf(row.place), row.colour, CaptionsOf(row),
+                     ShortcutOf(row.key), row.description});
+  }
+  return spots;
+}
+
+bool IsByTab(const QFocusEvent& event) {
+  return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
+}
+
+bool IsEnter(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+/// Whether a key that the focused widget has no use for is typing.
+bool IsForField(const QKeyEvent& event) {
+  if ((event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
+  return !event.text().isEmpty() && !IsEnter(event) && event.key() != Qt::Key_Escape;
+}
+
+}  // namespace
+
+StatisticsScreen::StatisticsScreen(Frame& frame, ScreenMode mode,
+                                   std::unique_ptr<StatisticsModel> model,
+                                   std::span<const DataColumn> columns,
+                                   std::chrono::milliseconds patience)
+    : KeyScreen(frame, QSize(kScreenWidth, kScreenHeight)),
+      model_(std::move(model)),
+      patience_(patience),
+      fields_(this, model_->Shape()),
+      table_(new DataTableView(this, model_->List(), columns)),
+      result_(new ResultView(this)),
+      shown_(model_->Revision()) {
+  for (const DataField field : fields_.All()) fields_.Line(field).installEventFilter(this);
+  table_->installEventFilter(this);
+  SetTableHooks();
+  result_->setAccessibleName(ToQt(kResultName));
+  AddKeys(KeySpots(model_->Shape()));
+  AddMenus(mode, DisplayPage::Normal, [this] { model_->TakeDisplaySettings(); });
+  StatisticsScreen::Refresh();
+}
+
+void StatisticsScreen::SetTableHooks() {
+  DataTableHooks hooks;
+  hooks.selectionChanged = [this] { OnSelection(); };
+  hooks.headingPressed = [this](std::size_t column) { OnHeading(column); };
+  hooks.edit = [this] { Press(StatisticsKey::Edit); };
+  hooks.remove = [this] { Press(StatisticsKey::Delete); };
+  hooks.copy = [this] { CopyRows(); };
+  hooks.paste = [this] { PasteRows(); };
+  table_->SetHooks(std::move(hooks));
+}
+
+void StatisticsScreen::OnKey(int key) {
+  TakeLine();
+  const StatisticsRequest request = model_->Press(static_cast<StatisticsKey>(key));
+  const bool goesToField =
+      std::holds_alternative<FocusField>(request) || std::holds_alternative<RefuseField>(request);
+  if (!goesToField) QGuiApplication::inputMethod()->hide();
+  Follow(request);
+}
+
+void StatisticsScreen::OnHeading(std::size_t column) {
+  TakeLine();
+  model_->SortBy(column);
+  Refresh();
+}
+
+void StatisticsScreen::OnSelection() {
+  model_->Select(table_->FirstSelected());
+  ShowKeys();
+  QGuiApplication::inputMethod()->hide();
+}
+
+void StatisticsScreen::TakeLine() {
+  model_->SetFields(fields_.Typed());
+}
+
+void StatisticsScreen::Refresh() {
+  fields_.Show(model_->Fields());
+  fields_.ShowTotal(model_->IsEditing() ? std::nullopt : std::optional(model_->TotalText()));
+  result_->Show(model_->ResultText());
+  table_->setEnabled(!model_->IsEditing());
+  if (std::exchange(shown_, model_->Revision()) != model_->Revision()) table_->Reload();
+  table_->Select(model_->Selected());
+  ShowKeys();
+  if (focusWidget() != table_) FocusLine(model_->FocusedField());
+}
+
+void StatisticsScreen::ShowKeys() {
+  Keys().Refresh([this](int id) {
+    const auto key = static_cast<StatisticsKey>(id);
+    return KeyState{model_->Caption(key), model_->IsEnabled(key), model_->IsVisible(key)};
+  });
+}
+
+void StatisticsScreen::LayOut(const DialogUnits& units) {
+  const StatisticsPlaces& places = StatisticsPlacesOf(model_->Shape());
+  Keys().setGeometry(rect());
+  Keys().LayOut(units);
+  fields_.LayOut(units, places);
+  table_->setGeometry(units.Pixels(UnitsOf(places.list)));
+  const int text = qRound(fields_.Line(DataField::X).height() * kFieldText);
+  table_->SetTextHeight(PixelsForLine(text, text * kHighestLine));
+  result_->LayOut(units.Pixels(UnitsOf(places.result)));
+}
+
+void StatisticsScreen::FocusLine(DataField field) {
+  model_->SetFocusedField(field);
+  fields_.Line(field).setFocus();
+}
+
+void StatisticsScreen::Follow(const StatisticsRequest& request) {
+  Refresh();
+  std::visit([this](const auto& what) { Do(what); }, request);
+}
+
+void StatisticsScreen::Do(const RefuseField& request) {
+  ShowStop(this, request.refusal.text);
+  Do(FocusField{request.refusal.focus});
+}
+
+void StatisticsScreen::Do(const FocusField& request) {
+  FocusLine(request.field);
+  fields_.Line(request.field).selectAll();
+}
+
+void StatisticsScreen::Do(const AskDeleteRow& request) {
+  if (AskYesNo(this, request.question)) model_->DeleteRow();
+  Refresh();
+}
+
+void StatisticsScreen::Do(const AskClearRows& request) {
+  if (AskYesNo(this, request.question)) model_->ClearRows();
+  Refresh();
+}
+
+void StatisticsScreen::Do(const AskSaveDataFile&) {
+  const auto path = AskFileToSave(this, kDataFiles);
+  if (!path) return;
+  Tell(Run(kSavingData,
+           [&](const WorkProgress& progress) { return model_->SaveTo(*path, progress); }));
+}
+
+void StatisticsScreen::Do(const AskLoadDataFile& request) {
+  if (!request.question.empty() && AskYesNo(this, request.question)) Do(AskSaveDataFile{});
+  const auto path = AskFileToOpen(this, kDataFiles);
+  if (!path) return;
+  Tell(Run(kLoadingData,
+           [&](const WorkProgress& progress) { return model_->LoadFrom(*path, progress); }));
+  table_->scrollToTop();
+}
+
+void StatisticsScreen::Do(const ShowVariablesMenu&) {
+  const Menu items = OfferedOf(model_->MenuOfVariables(), [&rooms = TheRooms()](int id) {
+    return id == variables_item::kStore ? static_cast<bool>(rooms.storeVariable)
+                                        : static_cast<bool>(rooms.recallVariable);
+  });
+  if (items.empty()) return;
+  PopUp(items, static_cast<int>(StatisticsKey::MemoryMenu),
+        [this](int id) { Follow(model_->ChooseVariables(id)); });
+}
+
+void StatisticsScreen::Do(const TellData& request) {
+  ShowStop(this, request.text);
+}
+
+void StatisticsScreen::Do(const StoreMemoryVariable& request) {
+  TheRooms().storeVariable(this, request.value);
+  TheFrame().SaveStore();
+}
+
+void StatisticsScreen::Do(const RecallMemoryVariable& request) {
+  if (const auto value = Open(request)) Follow(model_->TakeVariable(*value));
+}
+
+void StatisticsScreen::Tell(const std::optional<std::u16string>& text) {
+  Refresh();
+  if (text) ShowStop(this, *text);
+}
+
+std::optional<std::u16string> StatisticsScreen::Run(std::u16string_view title, const Work& work) {
+  WorkProgressView progress(this, title, patience_);
+  return work([&progress](double done) { return progress.Update(done); });
+}
+
+void StatisticsScreen::Leaving() {
+  const auto question = model_->QuestionBeforeLeaving();
+  if (!question || !AskYesNo(this, *question)) return;
+  TakeLine();
+  Do(AskSaveDataFile{});
+}
+
+QLineEdit& StatisticsScreen::Edited() const {
+  if (result_->hasSelectedText()) return *result_;
+  return fields_.Line(model_->FocusedField());
+}
+
+void StatisticsScreen::Edit(EditCommand command) {
+  if (!EditsList()) return EditLine(Edited(), command);
+  if (command == EditCommand::Copy) CopyRows();
+  if (command == EditCommand::Paste) PasteRows();
+  if (command == EditCommand::SelectAll) table_->selectAll();
+}
+
+bool StatisticsScreen::CanEdit(EditCommand command) const {
+  if (!EditsList()) return CanEditLine(Edited(), command);
+  if (command == EditCommand::Copy) return table_->FirstSelected().has_value();
+  return command == EditCommand::Paste || command == EditCommand::SelectAll;
+}
+
+void StatisticsScreen::CopyRows() const {
+  const std::vector<std::size_t> rows = table_->SelectedRows();
+  if (rows.empty()) return;
+  QApplication::clipboard()->setText(QString::fromStdU16String(model_->CopyRows(rows)));
+}
+
+void StatisticsScreen::PasteRows() {
+  TakeLine();
+  const std::u16string text = QApplication::clipboard()->text().toStdU16String();
+  Tell(Run(kPastingData,
+           [&](const WorkProgress& progress) { return model_->PasteRows(text, progress); }));
+}
+
+bool StatisticsScreen::eventFilter(QObject* watched, QEvent* event) {
+  const std::optional<DataField> field = fields_.FieldOf(watched);
+  if (event->type() == QEvent::FocusIn) {
+    editsList_ = !field;
+    if (field) model_->SetFocusedField(*field);
+    // Whoever comes by the Tab key writes over what is there.
+    if (field && IsByTab(*static_cast<QFocusEvent*>(event))) fields_.Line(*field).selectAll();
+    result_->deselect();
+  }
+  if (field && event->type() == QEvent::KeyPress) {
+    return OnFieldKey(*static_cast<QKeyEvent*>(event));
+  }
+  return KeyScreen::eventFilter(watched, event);
+}
+
+bool StatisticsScreen::OnFieldKey(const QKeyEvent& event) {
+  if (IsEnter(event)) {
+    Press(model_->IsEditing() ? StatisticsKey::Ok : StatisticsKey::Add);
+    return true;
+  }
+  // A field would write the letter of a key that is disabled and so does not answer to Alt.
+  return event.modifiers() == Qt::AltModifier;
+}
+
+void StatisticsScreen::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && model_->IsEditing()) return Press(StatisticsKey::Cancel);
+  if (MoveFocus(event->key())) return;
+  if (fields_.FieldOf(focusWidget()) || !IsForField(*event)) {
+    return KeyScreen::keyPressEvent(event);
+  }
+  LineView& line = fields_.Line(model_->FocusedField());
+  line.setFocus();
+  QCoreApplication::sendEvent(&line, event);
+}
+
+bool StatisticsScreen::MoveFocus(int key) {
+  if (key != Qt::Key_Up && key != Qt::Key_Down) return false;
+  const std::vector<DataField>& all = fields_.All();
+  const auto field = fields_.FieldOf(focusWidget());
+  const auto from = field ? std::find(all.begin(), all.end(), *field) : all.end();
+  // Above the keys stand the fields.
+  if (from == all.end() && key == Qt::Key_Down) return false;
+  if (from == all.begin() && key == Qt::Key_Up) return false;
+  if (key == Qt::Key_Up) {
+    FocusLine(*(from - 1));
+  } else if (from + 1 != all.end()) {
+    FocusLine(*(from + 1));
+  } else {
+    Keys().Enter();
+  }
+  return true;
+}
+
+}  // namespace kav

@@ -1,0 +1,96 @@
+// What the two statistics screens have in common: the picture of a StatisticsModel.
+#pragma once
+
+#include <QLineEdit>
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "screens/statistics/data_fields_view.h"
+#include "screens/statistics/data_table_view.h"
+#include "screens/statistics/work_progress_view.h"
+#include "screens/widgets/key_screen.h"
+#include "screens/widgets/line_view.h"
+#include "statistics/statistics_model.h"
+
+namespace kav {
+
+/// Enter in a field presses "Add", or "Ok" while a row is edited, which Esc gives up. What is typed
+/// goes to the field that had the focus last, unless the focused widget has a use for it. The Edit
+/// menu works on that field, on the list while that has the focus, or on what is selected of the
+/// result.
+class StatisticsScreen : public KeyScreen {
+ public:
+  /// A work on the list that takes longer than `patience` shows its progress.
+  StatisticsScreen(Frame& frame, ScreenMode mode, std::unique_ptr<StatisticsModel> model,
+                   std::span<const DataColumn> columns, std::chrono::milliseconds patience);
+
+  void Leaving() override;
+
+ protected:
+  /// The one that was handed over.
+  StatisticsModel& Model() const { return *model_; }
+
+  /// Opens what a key of one kind of screen alone asks for.
+  virtual void Open(const ShowModelMenu&) {}
+  virtual void Open(const OpenGraph&) {}
+  using KeyScreen::Open;
+
+  void Refresh() override;
+
+ private:
+  void SetTableHooks();
+  void OnKey(int key) override;
+  void Press(StatisticsKey key) { OnKey(static_cast<int>(key)); }
+  void OnHeading(std::size_t column);
+  void OnSelection();
+  void TakeLine() override;
+  void ShowKeys();
+  void LayOut(const DialogUnits& units) override;
+  void FocusLine(DataField field);
+
+  // What a key asks for, once the screen shows what it did.
+  void Follow(const StatisticsRequest& request);
+  void Do(const Nothing&) {}
+  void Do(const RefuseField& request);
+  void Do(const FocusField& request);
+  void Do(const AskDeleteRow& request);
+  void Do(const AskClearRows& request);
+  void Do(const AskSaveDataFile& request);
+  void Do(const AskLoadDataFile& request);
+  void Do(const ShowVariablesMenu& request);
+  void Do(const ShowModelMenu& request) { Open(request); }
+  void Do(const OpenGraph& request) { Open(request); }
+  void Do(const TellData& request);
+  void Do(const StoreMemoryVariable& request);
+  void Do(const RecallMemoryVariable& request);
+  using Work = std::function<std::optional<std::u16string>(const WorkProgress&)>;
+  void Tell(const std::optional<std::u16string>& text);
+  std::optional<std::u16string> Run(std::u16string_view title, const Work& work);
+
+  // The Edit menu and the keyboard.
+  bool EditsList() const { return editsList_ && !result_->hasSelectedText(); }
+  QLineEdit& Edited() const;
+  void Edit(EditCommand command) override;
+  bool CanEdit(EditCommand command) const override;
+  void CopyRows() const;
+  void PasteRows();
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  bool OnFieldKey(const QKeyEvent& event);
+  void keyPressEvent(QKeyEvent* event) override;
+  bool MoveFocus(int key);
+
+  const std::unique_ptr<StatisticsModel> model_;
+  const std::chrono::milliseconds patience_;
+  DataFieldsView fields_;
+  DataTableView* table_;
+  ResultView* result_;
+  unsigned shown_;          ///< the revision of the list that the table shows
+  bool editsList_ = false;  ///< the list had the focus later than the fields
+};
+
+}  // namespace kav

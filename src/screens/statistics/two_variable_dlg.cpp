@@ -1,0 +1,34 @@
+#include "screens/statistics/two_variable_dlg.h"
+
+#include <array>
+
+#include "screens/plotter/graph_view.h"
+#include "statistics/statistics_texts.h"
+
+namespace kav {
+namespace {
+
+constexpr std::array kColumns{DataColumn{kXHeading, 85}, DataColumn{kYHeading, 85},
+                              DataColumn{kShortCountHeading, 40}};
+
+}  // namespace
+
+CTwoVariableDlg::CTwoVariableDlg(Frame& frame, std::chrono::milliseconds patience)
+    : StatisticsScreen(frame, ScreenMode::TwoVariable,
+                       std::make_unique<TwoVariableModel>(frame.Store()), kColumns, patience),
+      model_(static_cast<TwoVariableModel&>(Model())) {}
+
+void CTwoVariableDlg::Open(const ShowModelMenu&) {
+  PopUp(model_.MenuOfModels(), static_cast<int>(StatisticsKey::Model),
+        [this](int id) { model_.ChooseModel(id); });
+}
+
+void CTwoVariableDlg::Open(const OpenGraph& request) {
+  RunGraphView(this, request.input);
+}
+
+std::unique_ptr<QWidget> MakeTwoVariableScreen(Frame& frame) {
+  return std::make_unique<CTwoVariableDlg>(frame);
+}
+
+}  // namespace kav

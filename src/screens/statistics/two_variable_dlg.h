@@ -1,0 +1,28 @@
+// The screen of two-variable statistics.
+#pragma once
+
+#include <chrono>
+#include <memory>
+
+#include "screens/statistics/statistics_screen_view.h"
+#include "statistics/two_variable_model.h"
+
+namespace kav {
+
+/// Beside what both screens of statistics have, a menu of models, and the graph.
+class CTwoVariableDlg final : public StatisticsScreen {
+ public:
+  /// A work on the list that takes longer than `patience` shows its progress.
+  explicit CTwoVariableDlg(Frame& frame, std::chrono::milliseconds patience = kProgressPatience);
+
+ private:
+  void Open(const ShowModelMenu& request) override;
+  void Open(const OpenGraph& request) override;
+
+  TwoVariableModel& model_;
+};
+
+/// The screen as the frame's table of screens has it.
+std::unique_ptr<QWidget> MakeTwoVariableScreen(Frame& frame);
+
+}  // namespace kav

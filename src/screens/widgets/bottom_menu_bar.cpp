@@ -1,0 +1,41 @@
+#include "screens/widgets/bottom_menu_bar.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "screens/widgets/look.h"
+
+namespace kav {
+BottomMenuBar::BottomMenuBar(QWidget* parent) : QMenuBar(parent) {
+  setNativeMenuBar(false);  // the desktop's own would not stand at the bottom
+  setStyle(ScreenStyle());
+}
+
+void BottomMenuBar::Enter() {
+  // There is no other door to that state. (An event of a modifier key counts that key's own bit
+  // anew.)
+  QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier);
+  QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::AltModifier);
+  QCoreApplication::sendEvent(window(), &press);
+  QCoreApplication::sendEvent(window(), &release);
+}
+
+void BottomMenuBar::keyPressEvent(QKeyEvent* event) {
+  const bool next = event->key() == Qt::Key_Tab;
+  if (!next && event->key() != Qt::Key_Backtab) return QMenuBar::keyPressEvent(event);
+  focusNextPrevChild(next);
+}
+
+void BottomMenuBar::paintEvent(QPaintEvent* event) {
+  QMenuBar::paintEvent(event);
+  QPainter painter(this);
+  // The line that sets a menu bar off from what is below it belongs above this one.
+  painter.fillRect(0, height() - 1, width(), 1, palette().color(QPalette::Window));
+  painter.fillRect(0, 0, width(), 1, palette().color(QPalette::Mid).lighter(120));
+  if (!hasFocus() || activeAction() == nullptr) return;
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(actionGeometry(activeAction()).adjusted(0, 2, -1, -2));
+}
+
+}  // namespace kav

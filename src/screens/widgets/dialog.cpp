@@ -1,0 +1,124 @@
+#include "screens/widgets/dialog.h"
+
+#include <QGroupBox>
+#include <QLayout>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <algorithm>
+
+#include "common/number_text.h"
+#include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+constexpr QSize kSmallest(180, 240);
+constexpr std::size_t kLongestLine = 400;
+
+/// The part of the desktop that a dialog opened by `opener` covers.
+QRect AreaOver(const QWidget& opener) {
+  const QWidget* window = opener.window();
+  const QRect area = PortraitArea(window->size());
+  return {window->mapToGlobal(area.topLeft()), area.size()};
+}
+
+void SetMargins(QLayout* layout, int pixels) {
+  if (layout != nullptr) layout->setContentsMargins(pixels, pixels, pixels, pixels);
+}
+
+}  // namespace
+
+Dialog::Dialog(QWidget* parent, std::u16string_view title) : QDialog(parent) {
+  setWindowTitle(ToQt(title));
+  setPalette(ScreenPalette());
+  setMinimumSize(kSmallest);
+  setModal(true);
+}
+
+bool Dialog::RunModal() {
+  if (parentWidget() != nullptr) setGeometry(AreaOver(*parentWidget()));
+  return exec() == Accepted;
+}
+
+QMenu* Dialog::MakePopUp() {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->setStyle(ScreenStyle());
+  menu->setFont(font());
+  return menu;
+}
+
+bool Dialog::event(QEvent* event) {
+  const bool isKnown = QDialog::event(event);
+  // Something was shown, or has another text now.
+  if (event->type() == QEvent::LayoutRequest && isVisible()) ScaleDown();
+  return isKnown;
+}
+
+void Dialog::showEvent(QShowEvent* event) {
+  for (QWidget* widget : findChildren<QWidget*>()) widget->setStyle(ScreenStyle());
+  Scale();
+  // At once: else the first picture would be of widgets laid out for the font before.
+  if (layout() != nullptr) layout()->activate();
+  QDialog::showEvent(event);
+}
+
+void Dialog::resizeEvent(QResizeEvent* event) {
+  // Before it is shown, its parts have not got their style.
+  if (isVisible()) Scale();
+  QDialog::resizeEvent(event);
+}
+
+void Dialog::SetTextHeight(int text) {
+  if (font().pixelSize() == text) return;
+  setFont(ScreenFont(text));
+  for (auto* edit : findChildren<QPlainTextEdit*>())
+    edit->document()->setDocumentMargin(text / 4.0);
+  for (QLayout* layout : findChildren<QLayout*>()) layout->setSpacing(text / 3);
+  for (const auto* box : findChildren<QGroupBox*>()) SetMargins(box->layout(), text / 4);
+  SetMargins(layout(), text / 2);
+}
+
+void Dialog::Scale() {
+  SetTextHeight(std::max(TextPixels(height()), 1));
+  ScaleDown();
+}
+
+void Dialog::ScaleDown() {
+  double excess = Excess();
+  while (excess > 1 && font().pixelSize() > 1) {
+    const int text = font().pixelSize();
+    // All that has to have room shrinks nearly as the text does: the guess is right, or too large
+    // by a pixel or two.
+    SetTextHeight(std::clamp(static_cast<int>(text / excess), 1, text - 1));
+    excess = Excess();
+  }
+}
+
+/// What the parts need at least of the dialog's width or height, by what there is.
+double Dialog::Excess() const {
+  if (layout() == nullptr) return 0;
+  layout()->activate();
+  const QSize needed = layout()->totalMinimumSize();
+  const int high = layout()->hasHeightForWidth() ? layout()->totalMinimumHeightForWidth(width())
+                                                 : needed.height();
+  // Of their heights the parts can give so much of what they keep free above and below their texts.
+  constexpr double kGive = 1.03;
+  return std::max(static_cast<double>(needed.width()) / width(), high / (kGive * height()));
+}
+
+DialogButton::DialogButton(std::u16string_view caption) : QPushButton(ToQt(caption)) {
+  setAttribute(Qt::WA_Hover);
+}
+
+QSize DialogButton::minimumSizeHint() const {
+  const int gap = std::max(fontMetrics().height() / 4, 2);
+  return fontMetrics().size(Qt::TextShowMnemonic, text()) + QSize(2 * gap, gap);
+}
+
+QString OneLine(std::u16string_view text) {
+  return QString::fromStdU16String(Shortened(text, kLongestLine));
+}
+
+}  // namespace kav

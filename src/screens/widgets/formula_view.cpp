@@ -1,0 +1,93 @@
+#include "screens/widgets/formula_view.h"
+
+#include <QKeyEvent>
+#include <QMimeData>
+#include <algorithm>
+
+#include "line/expression_line.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+std::u16string InOneLine(const QString& text) {
+  std::u16string line = text.toStdU16String();
+  std::replace_if(
+      line.begin(), line.end(),
+      [](char16_t c) {
+        return c < u' ' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+      },
+      u' ');
+  return line;
+}
+
+}  // namespace
+
+FormulaView::FormulaView(int lines) : lines_(lines) {
+  setTabChangesFocus(true);
+  setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
+}
+
+ExpressionLine FormulaView::Line() const {
+  const QTextCursor cursor = textCursor();
+  ExpressionLine line;
+  line.Set(InOneLine(toPlainText()), {static_cast<std::size_t>(cursor.selectionStart()),
+                                      static_cast<std::size_t>(cursor.selectionEnd())});
+  return line;
+}
+
+void FormulaView::Write(const ExpressionLine& line) {
+  if (isEnabled()) {
+    Change(ChangeBetween(toPlainText().toStdU16String(), line.Text()));
+  } else {
+    setPlainText(QString::fromStdU16String(line.Text()));
+  }
+  Select(line.Selected());
+}
+
+void FormulaView::Change(const TextChange& change) {
+  if (change.length == 0 && change.text.empty()) return;
+  Select({change.start, change.start + change.length});
+  // A block of edits is a step of its own for undo.
+  QTextCursor cursor = textCursor();
+  cursor.beginEditBlock();
+  cursor.insertText(ToQt(change.text));
+  cursor.endEditBlock();
+}
+
+void FormulaView::Select(Selection selection) {
+  // Characters that mean something to documents may have been left out of the text.
+  const auto place = [end = document()->characterCount() - 1](std::size_t position) {
+    return std::min(static_cast<int>(position), end);
+  };
+  QTextCursor cursor = textCursor();
+  cursor.setPosition(place(selection.start));
+  cursor.setPosition(place(selection.end), QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+}
+
+QSize FormulaView::sizeHint() const {
+  const int line = fontMetrics().lineSpacing();
+  const int around = 2 * (qRound(document()->documentMargin()) + frameWidth());
+  // Lines are laid out in fractions of pixels, and the last must not miss one.
+  return {10 * line, lines_ * line + around + line / 4};
+}
+
+void FormulaView::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  if (key == Qt::Key_Return || key == Qt::Key_Enter) return event->ignore();
+  QPlainTextEdit::keyPressEvent(event);
+}
+
+void FormulaView::insertFromMimeData(const QMimeData* source) {
+  textCursor().insertText(QString::fromStdU16String(ShownText(InOneLine(source->text()))));
+  ensureCursorVisible();
+}
+
+void FormulaView::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange) updateGeometry();
+  QPlainTextEdit::changeEvent(event);
+}
+
+}  // namespace kav

@@ -1,0 +1,38 @@
+// A formula as a widget of several lines, in which it is wrapped.
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "line/expression_line.h"
+
+namespace kav {
+
+/// A formula is one line however it is wrapped: Enter belongs to the dialog, Tab moves on, and line
+/// breaks and tabs of what is pasted become blanks.
+class FormulaView final : public QPlainTextEdit {
+ public:
+  /// As high as `lines` lines of text; more of them scroll.
+  explicit FormulaView(int lines);
+
+  /// The text, and the ends of its selection from left to right, whichever way it was made.
+  ExpressionLine Line() const;
+
+  /// Makes the widget show `line`. What changes is one step for undo; while the widget is disabled,
+  /// it is a new beginning instead, with nothing to be undone.
+  void Write(const ExpressionLine& line);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ private:
+  void keyPressEvent(QKeyEvent* event) override;
+  void insertFromMimeData(const QMimeData* source) override;
+  void changeEvent(QEvent* event) override;
+
+  void Change(const TextChange& change);
+  void Select(Selection selection);
+
+  int lines_;
+};
+
+}  // namespace kav

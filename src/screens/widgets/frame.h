@@ -1,0 +1,61 @@
+// What a screen may ask of the frame around it.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "display/display_settings_model.h"
+#include "line/key_request.h"
+#include "settings/settings_store.h"
+
+class QWidget;
+
+namespace kav {
+
+/// The calculating screens, by the numbers of the settings.
+enum class ScreenMode { Scientific = 1, Plotter = 2, OneVariable = 3, TwoVariable = 4, Matrix = 5 };
+
+/// The dialogs that screens open, each a function that returns once its dialog is closed; empty
+/// where this build has no such dialog, and then nothing that needs it is offered.
+struct Rooms {
+  /// Opens with `first`; whether it was closed with OK.
+  std::function<bool(QWidget* parent, DisplayPage first)> displaySettings;
+  std::function<void(QWidget* parent)> unitEditor;
+  std::function<void(QWidget* parent)> macroEditor;
+  std::function<std::optional<int>(QWidget* parent)> macroList;  ///< the macro chosen
+  std::function<ConverterOutcome(QWidget* parent, const ConverterInput& input)> converter;
+  std::function<void(QWidget* parent, const std::u16string& value)> storeVariable;
+  std::function<std::optional<std::u16string>(QWidget* parent)> recallVariable;
+  std::function<std::optional<std::u16string>(QWidget* parent)> constants;
+};
+
+/// A screen as the Mode menu offers it.
+struct ScreenChoice {
+  ScreenMode mode;
+  std::u16string_view caption;
+};
+
+/// The frame as a screen knows it. It outlives its screens.
+class Frame {
+ public:
+  Frame() = default;
+  Frame(const Frame&) = delete;
+  Frame& operator=(const Frame&) = delete;
+  virtual ~Frame() = default;
+
+  virtual SettingsStore& Store() = 0;
+  virtual const Rooms& OpenRooms() const = 0;
+  virtual std::vector<ScreenChoice> ScreensBeside(ScreenMode own) const = 0;
+
+  /// Writes the store to disk before it returns; tells the user, once, where that cannot be.
+  virtual void SaveStore() = 0;
+
+  // Both end the calling screen, and so wait until the event that is being handled is done with.
+  virtual void ChangeMode(ScreenMode mode) = 0;
+  virtual void Exit() = 0;
+};
+
+}  // namespace kav

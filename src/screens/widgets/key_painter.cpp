@@ -1,0 +1,50 @@
+#include "screens/widgets/key_painter.h"
+
+#include <QAbstractButton>
+#include <QPainter>
+#include <QPalette>
+
+namespace kav {
+namespace {
+
+/// `share` (0 to 1) of `colour`, the rest of `other`.
+QColor Mixed(QColor colour, QColor other, double share) {
+  const auto mix = [share](int a, int b) { return qRound(a * share + b * (1 - share)); };
+  return {mix(colour.red(), other.red()), mix(colour.green(), other.green()),
+          mix(colour.blue(), other.blue())};
+}
+
+}  // namespace
+
+KeyColours ColoursNow(const QAbstractButton& key, const KeyColours& colours) {
+  const auto& [background, text] = colours;
+  if (!key.isEnabled()) {
+    const QColor body = key.palette().color(QPalette::Window);
+    return {Mixed(background, body, 0.35), Mixed(text, body, 0.35)};
+  }
+  if (key.isDown()) return {Mixed(background, text, 0.75), text};
+  if (key.underMouse()) return {Mixed(background, text, 0.93), text};
+  return colours;
+}
+
+void PaintKey(QPainter& painter, const QAbstractButton& key, const KeyColours& colours,
+              const QFont& font) {
+  const auto [background, text] = ColoursNow(key, colours);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  // Two fills, one within the other, cost much less than a fill and a stroke.
+  const double line = qMax(1.0, key.height() / 36.0) * (key.hasFocus() ? 2 : 1);
+  const double radius = key.height() * 0.18;
+  const QRectF outline(key.rect());
+  painter.setBrush(key.hasFocus() ? key.palette().color(QPalette::Highlight)
+                                  : Mixed(background, QColor(70, 80, 90), 0.6));
+  painter.drawRoundedRect(outline, radius, radius);
+  painter.setBrush(background);
+  painter.drawRoundedRect(outline.adjusted(line, line, -line, -line), radius - line, radius - line);
+  painter.setPen(text);
+  painter.setFont(font);
+  // Behind "&" stands the letter of a shortcut, which the caption does not show.
+  painter.drawText(key.rect(), Qt::AlignCenter | Qt::TextHideMnemonic, key.text());
+}
+
+}  // namespace kav

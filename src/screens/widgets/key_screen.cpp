@@ -1,0 +1,120 @@
+#include "screens/widgets/key_screen.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QMenu>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "screens/widgets/message_box.h"
+
+namespace kav {
+namespace {
+
+/// `text` as the label of a menu entry, where '&' and a tab have meanings of their own.
+QString LabelOf(const std::u16string& text) {
+  return QString::fromStdU16String(text)
+      .replace(QChar(u'&'), QString("&&"))
+      .replace(QChar(u'\t'), QChar(u' '));
+}
+
+}  // namespace
+
+void KeyScreen::AddKeys(std::vector<KeySpot> keys) {
+  keys_ = new KeySheet(this, std::move(keys), [this](int key) { OnKey(key); });
+  keys_->lower();
+}
+
+void KeyScreen::PopUp(const Menu& items, int key, const std::function<void(int)>& choose) {
+  QMenu* menu = MakePopUp();
+  for (const MenuItem& item : items) {
+    if (item.IsSeparator()) {
+      menu->addSeparator();
+      continue;
+    }
+    connect(menu->addAction(LabelOf(item.text)), &QAction::triggered, this,
+            [this, choose, id = item.id] {
+              choose(id);
+              Refresh();
+            });
+  }
+  const QRect below = keys_->KeyArea(key);
+  menu->popup(mapToGlobal(QPoint(below.left(), below.bottom() + 1)));
+  // How wide it is, is known from now on.
+  const int beyond = menu->geometry().right() - mapToGlobal(rect().bottomRight()).x();
+  if (beyond > 0) menu->move(menu->x() - beyond, menu->y());
+}
+
+void KeyScreen::AddMenus(ScreenMode mode, DisplayPage page,
+                         const std::function<void()>& takeDisplaySettings) {
+  const Rooms& rooms = TheRooms();
+  std::function<void(QWidget*)> config;
+  if (rooms.displaySettings) {
+    config = [this, page, takeDisplaySettings](QWidget* parent) {
+      if (TheRooms().displaySettings(parent, page)) takeDisplaySettings();
+    };
+  }
+  AddFileMenu({Opening(config), Opening(rooms.unitEditor), Opening(rooms.macroEditor)});
+  AddEditMenu({[this](EditCommand command) { Edit(command); },
+               [this](EditCommand command) { return CanEdit(command); }});
+  AddModeMenu(mode);
+}
+
+std::function<void()> KeyScreen::Opening(const std::function<void(QWidget*)>& open) {
+  if (!open) return nullptr;
+  return [this, open] {
+    TakeLine();
+    open(this);
+    Refresh();
+    TheFrame().SaveStore();
+  };
+}
+
+void KeyScreen::Open(const OpenMacroEditor& request) {
+  if (!request.message.empty()) ShowStop(this, request.message);
+  TheRooms().macroEditor(this);
+  TheFrame().SaveStore();
+}
+
+std::optional<int> KeyScreen::Open(const OpenMacroList&) {
+  return TheRooms().macroList(this);
+}
+
+ConverterOutcome KeyScreen::Open(const OpenConverter& request) {
+  ConverterOutcome outcome = TheRooms().converter(this, request.input);
+  TheFrame().SaveStore();
+  return outcome;
+}
+
+std::optional<std::u16string> KeyScreen::Open(const RecallMemoryVariable&) {
+  auto value = TheRooms().recallVariable(this);
+  // Variables may have been cleared in it as well.
+  TheFrame().SaveStore();
+  return value;
+}
+
+std::optional<std::u16string> KeyScreen::Open(const OpenConstants&) {
+  return TheRooms().constants(this);
+}
+
+Menu OfferedOf(const Menu& items, const std::function<bool(int)>& offered) {
+  Menu rest;
+  for (const MenuItem& item : items) {
+    if (!item.IsSeparator() && !offered(item.id)) continue;
+    if (item.IsSeparator() && (rest.empty() || rest.back().IsSeparator())) continue;
+    rest.push_back(item);
+  }
+  if (!rest.empty() && rest.back().IsSeparator()) rest.pop_back();
+  return rest;
+}
+
+bool IsTyping(const QKeyEvent& event) {
+  if ((event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
+  constexpr std::array kEditing{Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Home, Qt::Key_End,
+                                Qt::Key_Up};
+  return !event.text().isEmpty() ||
+         std::find(kEditing.begin(), kEditing.end(), event.key()) != kEditing.end();
+}
+
+}  // namespace kav

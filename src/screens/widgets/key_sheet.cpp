@@ -1,0 +1,117 @@
+#include "screens/widgets/key_sheet.h"
+
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <utility>
+
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// Captions take at most this much of a key's height.
+constexpr double kTextHeight = 0.6;
+
+QPoint DirectionOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return {-1, 0};
+    case Qt::Key_Right:
+      return {1, 0};
+    case Qt::Key_Up:
+      return {0, -1};
+    case Qt::Key_Down:
+      return {0, 1};
+    default:
+      return {0, 0};
+  }
+}
+
+}  // namespace
+
+KeySheet::KeySheet(QWidget* parent, std::vector<KeySpot> spots,
+                   const std::function<void(int)>& onKey)
+    : QWidget(parent) {
+  for (KeySpot& spot : spots) {
+    const int id = spot.id;
+    auto* view = new KeyView(std::move(spot), this);
+    connect(view, &QAbstractButton::clicked, this, [onKey, id] { onKey(id); });
+    view->setAccessibleDescription(ToQt(view->Spot().description));
+    keys_.push_back(view);
+  }
+}
+
+void KeySheet::Refresh(const std::function<KeyState(int)>& stateOf) {
+  for (KeyView* view : keys_) {
+    const KeyState state = stateOf(view->Spot().id);
+    const QString caption = ToQt(state.caption);
+    if (view->text() != caption) {
+      view->setText(caption);
+      // A new text takes the old one's shortcut away.
+      view->setShortcut(QKeySequence(QLatin1String(view->Spot().shortcut)));
+      view->setToolTip(view->shortcut().toString(QKeySequence::NativeText));
+    }
+    view->setEnabled(state.isEnabled);
+    view->setVisible(state.isVisible);
+  }
+}
+
+void KeySheet::LayOut(const DialogUnits& units) {
+  std::vector<SpacedText> captions;
+  for (KeyView* view : keys_) {
+    view->setGeometry(units.Pixels(view->Spot().place));
+    for (const std::u16string_view caption : view->Spot().captions) {
+      captions.push_back({ToQt(caption), view->TextWidth()});
+    }
+  }
+  // One size for all, whatever they show: captions of many sizes would make a restless picture.
+  const int most = static_cast<int>(keys_.front()->height() * kTextHeight);
+  textHeight_ = FittingPixels(captions, most, 1);
+  for (KeyView* view : keys_) view->SetTextHeight(textHeight_);
+}
+
+void KeySheet::Enter() {
+  const auto first = std::find_if(keys_.begin(), keys_.end(), [](const KeyView* view) {
+    return view->isVisible() && view->isEnabled();
+  });
+  if (first != keys_.end()) (*first)->setFocus(Qt::TabFocusReason);
+}
+
+QRect KeySheet::KeyArea(int id) const {
+  const auto view = std::find_if(keys_.begin(), keys_.end(),
+                                 [id](const KeyView* v) { return v->Spot().id == id; });
+  return (*view)->geometry();
+}
+
+void KeySheet::keyPressEvent(QKeyEvent* event) {
+  const QPoint direction = DirectionOf(event->key());
+  const auto* focus = dynamic_cast<KeyView*>(QWidget::focusWidget());
+  if (direction.isNull() || focus == nullptr) return event->ignore();
+  KeyView* neighbour = Neighbour(*focus, direction);
+  if (neighbour != nullptr) return neighbour->setFocus(Qt::TabFocusReason);
+  // Above the keys stands the line, and the screen leads there.
+  if (direction.y() < 0) event->ignore();
+}
+
+KeyView* KeySheet::Neighbour(const KeyView& from, QPoint direction) const {
+  KeyView* nearest = nullptr;
+  int least = std::numeric_limits<int>::max();
+  for (KeyView* view : keys_) {
+    if (!view->isVisible() || !view->isEnabled()) continue;
+    const QPoint way = view->Spot().place.center() - from.Spot().place.center();
+    const int along = QPoint::dotProduct(way, direction);
+    const int across = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
+    // What lies more to the side than ahead is not meant, and a key of the same row or column comes
+    // before one that is beside it.
+    constexpr int kDetour = 8;
+    if (along <= across || along + kDetour * across >= least) continue;
+    least = along + kDetour * across;
+    nearest = view;
+  }
+  return nearest;
+}
+
+}  // namespace kav

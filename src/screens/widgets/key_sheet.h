@@ -1,0 +1,51 @@
+// The keys of a screen as widgets.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "screens/widgets/key_view.h"
+#include "screens/widgets/look.h"
+
+namespace kav {
+
+/// How a key is at the moment.
+struct KeyState {
+  std::u16string_view caption;
+  bool isEnabled = true;
+  bool isVisible = true;
+};
+
+/// Keys, each at its spot: a sheet that lies over the whole body of a screen, under what else
+/// stands there. The arrows move the focus from key to key.
+class KeySheet final : public QWidget {
+ public:
+  /// `onKey` is called with a key's id when it is tapped, or pressed by the Space key or its
+  /// shortcut.
+  KeySheet(QWidget* parent, std::vector<KeySpot> spots, const std::function<void(int)>& onKey);
+
+  /// Shows the keys as `stateOf` says of each id.
+  void Refresh(const std::function<KeyState(int)>& stateOf);
+
+  void LayOut(const DialogUnits& units);
+
+  /// Gives the focus to the first key.
+  void Enter();
+
+  /// Where a key is, in the coordinates of this widget.
+  QRect KeyArea(int id) const;
+
+  /// The text height that all keys share, in pixels.
+  int TextHeight() const { return textHeight_; }
+
+ private:
+  void keyPressEvent(QKeyEvent* event) override;
+  KeyView* Neighbour(const KeyView& from, QPoint direction) const;
+
+  std::vector<KeyView*> keys_;
+  int textHeight_ = 1;
+};
+
+}  // namespace kav

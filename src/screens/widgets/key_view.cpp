@@ -1,0 +1,79 @@
+#include "screens/widgets/key_view.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <utility>
+
+#include "screens/widgets/key_painter.h"
+#include "screens/widgets/look.h"
+
+namespace kav {
+namespace {
+
+struct KeyRgb {
+  QRgb background;
+  QRgb text;
+};
+
+KeyRgb RgbOf(KeyColour colour) {
+  constexpr QRgb kBlack = qRgb(0, 0, 0);
+  constexpr QRgb kOrange = qRgb(255, 192, 126);
+  switch (colour) {
+    case KeyColour::Digit:
+      return {qRgb(255, 255, 255), qRgb(255, 0, 0)};
+    case KeyColour::Orange:
+      return {kOrange, kBlack};
+    case KeyColour::ActiveShift:
+      return {kBlack, kOrange};
+    case KeyColour::Mode:
+      return {qRgb(189, 192, 255), kBlack};
+    case KeyColour::Editing:
+      return {qRgb(254, 192, 190), kBlack};
+    case KeyColour::Equals:
+      return {qRgb(0, 150, 222), qRgb(255, 255, 0)};
+    case KeyColour::Function:
+      break;
+  }
+  return {qRgb(192, 255, 192), kBlack};
+}
+
+KeyColours ColoursOf(KeyColour colour) {
+  const auto [background, text] = RgbOf(colour);
+  return {QColor(background), QColor(text)};
+}
+
+}  // namespace
+
+KeyView::KeyView(KeySpot spot, QWidget* parent) : QAbstractButton(parent), spot_(std::move(spot)) {
+  setFocusPolicy(Qt::TabFocus);
+  setAttribute(Qt::WA_Hover);
+}
+
+void KeyView::SetTextHeight(int pixels) {
+  textHeight_ = pixels;
+  update();
+}
+
+int KeyView::TextWidth() const {
+  return width() - 2 * qMax(2, height() / 10);
+}
+
+QFont KeyView::TextFont() const {
+  return ScreenFont(textHeight_);
+}
+
+void KeyView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  PaintKey(painter, *this, ColoursOf(spot_.colour), TextFont());
+}
+
+void KeyView::keyPressEvent(QKeyEvent* event) {
+  // Space presses the key. All else, arrows and Enter included, is for the sheet or the screen.
+  if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Select) {
+    QAbstractButton::keyPressEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace kav

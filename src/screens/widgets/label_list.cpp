@@ -1,0 +1,51 @@
+#include "screens/widgets/label_list.h"
+
+#include <QSignalBlocker>
+#include <QStyledItemDelegate>
+
+#include "screens/widgets/dialog.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// Labels are as wide as the list, however long they are, and so cut visibly.
+class FittingDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ private:
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+  }
+};
+
+}  // namespace
+
+LabelList::LabelList(std::u16string_view name) {
+  setAccessibleName(ToQt(name));
+  setItemDelegate(new FittingDelegate(this));
+  setTextElideMode(Qt::ElideMiddle);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+std::optional<int> LabelList::Selected() const {
+  const QList<QListWidgetItem*> items = selectedItems();
+  return items.isEmpty() ? std::nullopt : std::optional(row(items.front()));
+}
+
+void LabelList::Write(const std::vector<std::u16string>& labels, std::optional<int> selected) {
+  const QSignalBlocker blocker(this);
+  const int wanted = static_cast<int>(labels.size());
+  while (count() > wanted) delete takeItem(count() - 1);
+  while (count() < wanted) addItem(QString());
+  for (int i = 0; i < wanted; ++i) item(i)->setText(OneLine(labels[static_cast<std::size_t>(i)]));
+  if (selected == Selected()) return;
+  if (selected) {
+    setCurrentRow(*selected, QItemSelectionModel::ClearAndSelect);
+  } else {
+    clearSelection();
+  }
+}
+
+}  // namespace kav

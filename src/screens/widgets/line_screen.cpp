@@ -1,0 +1,102 @@
+#include "screens/widgets/line_screen.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QTimer>
+#include <utility>
+
+#include "line/line_texts.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// Whether the focus only returns from a menu or another window.
+bool IsReturn(const QFocusEvent& event) {
+  return event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason ||
+         event.reason() == Qt::ActiveWindowFocusReason;
+}
+
+}  // namespace
+
+LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, KeyboardKeys keyboard)
+    : KeyScreen(frame, size),
+      keyboard_(keyboard),
+      line_(new LineView(this)),
+      result_(new ResultView(this)) {
+  line_->setAccessibleName(ToQt(kExpressionName));
+  line_->setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
+  line_->installEventFilter(this);
+  result_->setAccessibleName(ToQt(kResultName));
+  AddKeys(std::move(keys));
+}
+
+std::optional<int> LineScreen::KeyOf(const QKeyEvent& event) const {
+  if (event.text() == u"=") return keyboard_.equals;
+  switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return keyboard_.equals;
+    case Qt::Key_Escape:
+      return keyboard_.clear;
+    default:
+      return std::nullopt;
+  }
+}
+
+bool LineScreen::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    // Ahead of the line, which would write the "=" and knows Enter and Esc in its own way. It would
+    // also write the letter of a key that is disabled and so does not answer to Alt.
+    const auto& pressed = *static_cast<QKeyEvent*>(event);
+    const std::optional<int> key = KeyOf(pressed);
+    if (key) OnKey(*key);
+    return key.has_value() || pressed.modifiers() == Qt::AltModifier;
+  }
+  if (event->type() == QEvent::InputMethod &&
+      static_cast<QInputMethodEvent*>(event)->commitString() == u"=") {
+    OnKey(keyboard_.equals);
+    return true;
+  }
+  // Whoever comes back to the line has done with the result. (From a menu one only returns.)
+  if (event->type() == QEvent::FocusIn && !IsReturn(*static_cast<QFocusEvent*>(event))) {
+    result_->deselect();
+  }
+  return KeyScreen::eventFilter(watched, event);
+}
+
+void LineScreen::keyPressEvent(QKeyEvent* event) {
+  if (const std::optional<int> key = KeyOf(*event)) return OnKey(*key);
+  if (focusWidget() == line_) {
+    if (event->key() == Qt::Key_Down) return Keys().Enter();
+    return KeyScreen::keyPressEvent(event);
+  }
+  if (!IsTyping(*event)) return KeyScreen::keyPressEvent(event);
+  line_->setFocus();
+  QCoreApplication::sendEvent(line_, event);
+}
+
+QLineEdit& LineScreen::Edited() const {
+  if (result_->hasSelectedText()) return *result_;
+  return *line_;
+}
+
+void LineScreen::Edit(EditCommand command) {
+  EditLine(Edited(), command);
+}
+
+bool LineScreen::CanEdit(EditCommand command) const {
+  return CanEditLine(Edited(), command);
+}
+
+void LineScreen::SaveAfterPainting(const std::function<void()>& save) {
+  // The disk may be slow: whoever waits for an answer sees it first.
+  line_->repaint();
+  result_->repaint();
+  QTimer::singleShot(0, this, [this, save] {
+    save();
+    TheFrame().SaveStore();
+  });
+}
+
+}  // namespace kav

@@ -1,0 +1,49 @@
+// A screen with a line for expressions, a line for results, and keys.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "screens/widgets/key_screen.h"
+#include "screens/widgets/line_view.h"
+
+namespace kav {
+
+/// Enter, Esc and "=" of the keyboard press keys of the screen wherever the focus is; what else is
+/// typed goes to the expression line, unless the focused widget has a use for it. The Edit menu
+/// works on the result where some of it is selected, else on the line.
+class LineScreen : public KeyScreen {
+ public:
+  /// The ids of the keys that the keyboard presses.
+  struct KeyboardKeys {
+    int equals;
+    int clear;
+  };
+
+  LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, KeyboardKeys keyboard);
+
+ protected:
+  LineView& Line() const { return *line_; }
+  ResultView& Result() const { return *result_; }
+
+  void Edit(EditCommand command) override;
+  bool CanEdit(EditCommand command) const override;
+
+  /// Paints both lines, and only then has `save` write the model into the store, and the store to
+  /// disk.
+  void SaveAfterPainting(const std::function<void()>& save);
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  std::optional<int> KeyOf(const QKeyEvent& event) const;
+  QLineEdit& Edited() const;
+
+  KeyboardKeys keyboard_;
+  LineView* line_;
+  ResultView* result_;
+};
+
+}  // namespace kav

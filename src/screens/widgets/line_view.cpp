@@ -1,0 +1,147 @@
+#include "screens/widgets/line_view.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+
+#include "common/number_text.h"
+#include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// The share of a result line's height that its text takes, at most and at least.
+constexpr double kLargestText = 0.68;
+constexpr double kSmallestText = 0.3;
+
+/// As long as a line can be; beyond, widths in pixels leave the range that Qt lays text out in.
+constexpr int kLongestLine = 1 << 20;
+
+/// Keeps the selection of a line, and its direction, over what the line does with it meanwhile.
+class SelectionKeeper {
+ public:
+  explicit SelectionKeeper(QLineEdit& line)
+      : line_(line),
+        caret_(line.cursorPosition()),
+        start_(line.selectionStart()),
+        length_(line.selectionLength()) {}
+  SelectionKeeper(const SelectionKeeper&) = delete;
+  SelectionKeeper& operator=(const SelectionKeeper&) = delete;
+  ~SelectionKeeper() {
+    if (length_ == 0) {
+      line_.deselect();
+      line_.setCursorPosition(caret_);
+    } else if (caret_ == start_) {
+      line_.setSelection(start_ + length_, -length_);
+    } else {
+      line_.setSelection(start_, length_);
+    }
+  }
+
+ private:
+  QLineEdit& line_;
+  int caret_;
+  int start_;
+  int length_;
+};
+
+}  // namespace
+
+LineView::LineView(QWidget* parent) : QLineEdit(parent) {
+  setStyle(ScreenStyle());
+  setFrame(false);
+  setMaxLength(kLongestLine);
+}
+
+void LineView::SetTextHeight(int pixels) {
+  setFont(ScreenFont(PixelsForLine(pixels, height())));
+  const int margin = std::max(3, pixels / 4);
+  setTextMargins(margin, 0, margin, 0);
+}
+
+void LineView::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double line = std::max(1.0, height() / 60.0) * (hasFocus() ? 2 : 1);
+  const double radius = width() * 0.014;  // that of the keys
+  const QRectF outline = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
+  QPainterPath corners;
+  corners.addRect(rect());
+  corners.addRoundedRect(outline, radius, radius);
+  painter.fillPath(corners, palette().color(QPalette::Window));
+  painter.setPen(QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), line));
+  painter.drawRoundedRect(outline, radius, radius);
+}
+
+void LineView::focusInEvent(QFocusEvent* event) {
+  const SelectionKeeper keeper(*this);
+  QLineEdit::focusInEvent(event);
+}
+
+void LineView::focusOutEvent(QFocusEvent* event) {
+  const SelectionKeeper keeper(*this);
+  QLineEdit::focusOutEvent(event);
+}
+
+std::u16string TextOf(const QLineEdit& line) {
+  return OnOneLine(line.text().toStdU16String());
+}
+
+Selection SelectionOf(const QLineEdit& line) {
+  if (!line.hasSelectedText()) {
+    const auto caret = static_cast<std::size_t>(line.cursorPosition());
+    return {caret, caret};
+  }
+  return {static_cast<std::size_t>(line.selectionStart()),
+          static_cast<std::size_t>(line.selectionEnd())};
+}
+
+void WriteLine(QLineEdit& widget, const ExpressionLine& line) {
+  const std::u16string old = widget.text().toStdU16String();
+  if (line.Text() != old) {
+    const TextChange change = ChangeBetween(old, line.Text());
+    // Undo joins insertions that follow one another as long as the caret does not move between.
+    widget.home(false);
+    widget.setSelection(static_cast<int>(change.start), static_cast<int>(change.length));
+    widget.insert(ToQt(change.text));
+  }
+  const auto start = static_cast<int>(line.Selected().start);
+  const auto end = static_cast<int>(line.Selected().end);
+  if (start == end) return widget.setCursorPosition(start);
+  widget.setSelection(start, end - start);
+}
+
+ResultView::ResultView(QWidget* parent) : LineView(parent) {
+  setReadOnly(true);
+  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, QColor(255, 255, 192));
+  setPalette(colours);
+}
+
+void ResultView::Show(const std::u16string& text) {
+  const QString shown = QString::fromStdU16String(text);
+  deselect();
+  if (shown == this->text()) return;
+  setText(shown);
+  setAccessibleDescription(shown);
+  setToolTip(shown);
+  // Before the first layout, fonts would be loaded for a size that is never seen.
+  if (isVisible()) FitText();
+}
+
+void ResultView::LayOut(const QRect& place) {
+  setGeometry(place);
+  FitText();
+}
+
+void ResultView::FitText() {
+  const int most = static_cast<int>(height() * kLargestText);
+  const int least = static_cast<int>(height() * kSmallestText);
+  SetTextHeight(FittingPixels({{text(), width() - most}}, most, least));
+  setCursorPosition(0);
+}
+
+}  // namespace kav

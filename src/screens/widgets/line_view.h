@@ -1,0 +1,48 @@
+// The lines of a screen as widgets: what was typed into them, and what a model writes there.
+#pragma once
+
+#include <QLineEdit>
+#include <string>
+
+#include "line/expression_line.h"
+
+namespace kav {
+
+/// A line in a plain box. It keeps its selection while the focus is elsewhere: what is selected is
+/// what the keys of the screen work on. Line breaks and tabs become blanks: what is pasted often
+/// ends with one, and no key could have written it.
+class LineView : public QLineEdit {
+ public:
+  explicit LineView(QWidget* parent);
+
+  /// Letters are `pixels` high, lower where a line of them would be higher than the widget is now.
+  void SetTextHeight(int pixels);
+
+ private:
+  void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+};
+
+/// The text of the line, and the ends of its selection from left to right, whichever way it was
+/// made. Line breaks and tabs read as blanks: what is pasted often ends with one.
+std::u16string TextOf(const QLineEdit& line);
+Selection SelectionOf(const QLineEdit& line);
+
+/// Makes the widget show `line`. What changes is one step for the line's undo.
+void WriteLine(QLineEdit& widget, const ExpressionLine& line);
+
+/// A line that is only read and copied from: right-aligned, as large as its height allows, smaller
+/// where the text is long; a text too long for that shows its beginning and scrolls.
+class ResultView final : public LineView {
+ public:
+  explicit ResultView(QWidget* parent);
+
+  void Show(const std::u16string& text);
+  void LayOut(const QRect& place);
+
+ private:
+  void FitText();
+};
+
+}  // namespace kav

@@ -1,0 +1,107 @@
+#include "screens/widgets/look.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <algorithm>
+
+namespace kav {
+
+namespace {
+
+/// The face that the keys are made for, where it is installed, else the one that comes closest to
+/// it in shape and width.
+QString FaceName() {
+  const QStringList installed = QFontDatabase::families();
+  for (const char* face : {"Tahoma", "DejaVu Sans Condensed", "DejaVu Sans", "Verdana"}) {
+    if (installed.contains(QLatin1String(face))) return face;
+  }
+  return "Tahoma";  // with the hint below, the system finds a stand-in
+}
+
+}  // namespace
+
+QFont ScreenFont(int pixels) {
+  static const QString kFace = FaceName();
+  QFont font(kFace);
+  font.setStyleHint(QFont::SansSerif);
+  font.setPixelSize(std::max(pixels, 1));
+  return font;
+}
+
+int FittingPixels(const std::vector<SpacedText>& texts, int most, int least) {
+  int pixels = std::max(most, least);
+  while (pixels > least) {
+    const QFontMetricsF metrics(ScreenFont(pixels));
+    double excess = 0;  // the width of the text that is furthest out of its room, by that room
+    for (const SpacedText& text : texts) {
+      excess = std::max(excess, metrics.horizontalAdvance(text.text) / std::max(text.width, 1));
+    }
+    if (excess <= 1) break;
+    // Widths grow nearly as sizes do: the guess is right, or too large by a pixel or two.
+    pixels = std::clamp(static_cast<int>(pixels / excess), least, pixels - 1);
+  }
+  return pixels;
+}
+
+QStringList LongOnes(const QStringList& texts) {
+  qsizetype longest = 0;
+  for (const QString& text : texts) longest = std::max(longest, text.size());
+  QStringList longOnes;
+  for (const QString& text : texts) {
+    if (3 * text.size() >= 2 * longest) longOnes.append(text);
+  }
+  return longOnes;
+}
+
+int PixelsForLine(int pixels, double height) {
+  while (pixels > 1) {
+    const double line = QFontMetricsF(ScreenFont(pixels)).lineSpacing();
+    if (line <= height) break;
+    pixels = std::clamp(static_cast<int>(pixels * height / line), 1, pixels - 1);
+  }
+  return std::max(pixels, 1);
+}
+
+QPalette ScreenPalette() {
+  // The same for the window in front and for those behind it, which so need no new painting.
+  QPalette palette(QColor(233, 236, 240), QColor(241, 243, 246));
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::Disabled, QPalette::Base, palette.color(QPalette::Window));
+  palette.setColor(QPalette::Mid, QColor(173, 181, 189));
+  palette.setColor(QPalette::Highlight, QColor(0, 110, 190));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  return palette;
+}
+
+QColor BackdropColour() {
+  return {214, 219, 225};
+}
+
+QRect PortraitArea(QSize window) {
+  constexpr double kWidest = 3.0 / 4;  // width by height, that of the screens' own display
+  constexpr double kTallest = 2;       // height by width: beyond it, keys would be mere strips
+  const int width = std::min(window.width(), qRound(window.height() * kWidest));
+  const int height = std::min(window.height(), qRound(width * kTallest));
+  return {(window.width() - width) / 2, (window.height() - height) / 2, width, height};
+}
+
+int TextPixels(int height) {
+  return qRound(height * 0.036);
+}
+
+QRect DialogUnits::Pixels(const QRect& units) const {
+  const QPoint topLeft(X(units.x()), Y(units.y()));
+  const QPoint end(X(units.x() + units.width()), Y(units.y() + units.height()));
+  return {topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
+}
+
+int DialogUnits::X(int units) const {
+  return area_.x() + units * area_.width() / size_.width();
+}
+
+int DialogUnits::Y(int units) const {
+  return area_.y() + units * area_.height() / size_.height();
+}
+
+}  // namespace kav

@@ -1,0 +1,137 @@
+#include "screens/widgets/message_box.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QLayout>
+#include <QMessageBox>
+#include <algorithm>
+#include <vector>
+
+#include "screens/widgets/app_texts.h"
+#include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+// Heights of letters that the sign and all margins take across.
+constexpr int kBesideText = 8;
+
+/// Letters are made smaller by this part of their height, until they are small enough.
+constexpr int kSteps = 16;
+
+/// A box with letters as large as those of the screen that it speaks for. By itself a message box
+/// breaks its text at a width that knows nothing of their size.
+class ScaledBox final : public QMessageBox {
+ public:
+  ScaledBox(Icon icon, const QString& text, const QString& more, StandardButtons buttons,
+            QWidget* parent)
+      : QMessageBox(icon, ToQt(kApplicationName), text, buttons, parent) {
+    // What is said may hold a file name or a line of the user's, which is not to be read as markup.
+    setTextFormat(Qt::PlainText);
+    if (!more.isEmpty()) setInformativeText(more);
+    setPalette(ScreenPalette());
+    if (parent != nullptr) area_ = PortraitArea(parent->window()->size()).size();
+    setFont(ScreenFont(TextPixels(area_.height())));
+    least_ = std::max(font().pixelSize() / 2, 1);
+    setStyle(ScreenStyle());
+    for (QWidget* widget : findChildren<QWidget*>()) widget->setStyle(ScreenStyle());
+    setIcon(icon);  // drawn anew, at the size that the style has by now
+  }
+
+ private:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::LayoutRequest) return QMessageBox::event(event);
+    Fit();
+    return true;
+  }
+  void showEvent(QShowEvent* event) override {
+    QMessageBox::showEvent(event);
+    Fit();
+    if (parentWidget() == nullptr) return;
+    const QWidget* window = parentWidget()->window();
+    move(window->mapToGlobal(window->rect().center()) - rect().center());
+  }
+
+  /// Letters become lower where a word or all lines together have no room otherwise; but not by
+  /// more than half for the longest of names.
+  void Fit() {
+    for (LayOut(); font().pixelSize() > least_ && !HasRoom(); LayOut()) {
+      const int pixels = font().pixelSize();
+      setFont(ScreenFont(std::max(pixels - std::max(pixels / kSteps, 1), least_)));
+    }
+  }
+
+  void LayOut() {
+    const int pixels = font().pixelSize();
+    layout()->setContentsMargins(pixels, pixels, pixels, pixels);
+    const int most = area_.width() - kBesideText * pixels;
+    SetLabelWidth(most);
+    layout()->activate();
+    // On the smallest screens the sign is larger than the letters ask for.
+    const int beyond = layout()->totalSizeHint().width() - area_.width();
+    if (beyond > 0) SetLabelWidth(most - beyond);
+    layout()->activate();
+    const int width = layout()->totalSizeHint().width();
+    setFixedSize(width, layout()->totalHeightForWidth(width));
+  }
+
+  std::vector<QLabel*> Labels() const {
+    std::vector<QLabel*> labels;
+    for (const char* name : {"qt_msgbox_label", "qt_msgbox_informativelabel"}) {
+      if (auto* label = findChild<QLabel*>(name)) labels.push_back(label);
+    }
+    return labels;
+  }
+
+  void SetLabelWidth(int most) {
+    for (QLabel* label : Labels()) {
+      const QRect lines = fontMetrics().boundingRect(QRect(), 0, label->text());
+      if (!label->wordWrap()) label->setWordWrap(true);
+      label->setFixedWidth(std::min(lines.width() + font().pixelSize() / 2, most));
+    }
+  }
+
+  bool HasRoom() const {
+    if (height() > area_.height()) return false;
+    const std::vector<QLabel*> labels = Labels();
+    return std::all_of(labels.begin(), labels.end(), [](const QLabel* label) {
+      const QMargins margins = label->contentsMargins();
+      const int room =
+          label->maximumWidth() - margins.left() - margins.right() - std::max(label->indent(), 0);
+      constexpr int kAnyHeight = 1 << 20;
+      const QRect lines = label->fontMetrics().boundingRect(QRect(0, 0, room, kAnyHeight),
+                                                            Qt::TextWordWrap, label->text());
+      return lines.width() <= room;
+    });
+  }
+
+  QSize area_{480, 640};
+  int least_ = 1;  ///< height of letters in pixels
+};
+
+int Show(QWidget* parent, QMessageBox::Icon icon, std::u16string_view text,
+         QMessageBox::StandardButtons buttons, std::u16string_view more = {}) {
+  return ScaledBox(icon, ToQt(text), ToQt(more), buttons, parent).exec();
+}
+
+}  // namespace
+
+void ShowStop(QWidget* parent, std::u16string_view text) {
+  Show(parent, QMessageBox::Critical, text, QMessageBox::Ok);
+}
+
+void ShowNotice(QWidget* parent, std::u16string_view text) {
+  Show(parent, QMessageBox::Warning, text, QMessageBox::Ok);
+}
+
+bool AskYesNo(QWidget* parent, std::u16string_view question, std::u16string_view more) {
+  return Show(parent, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No, more) ==
+         QMessageBox::Yes;
+}
+
+void ShowAbout(QWidget* parent) {
+  Show(parent, QMessageBox::Information, kAbout, QMessageBox::Ok);
+}
+
+}  // namespace kav

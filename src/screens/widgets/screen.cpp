@@ -1,0 +1,184 @@
+#include "screens/widgets/screen.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPainter>
+#include <array>
+#include <utility>
+
+#include "screens/widgets/app_texts.h"
+#include "screens/widgets/bottom_menu_bar.h"
+#include "screens/widgets/message_box.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+constexpr QSize kSmallest(180, 240);
+
+void AddAction(QMenu* menu, const MenuEntry& entry) {
+  QAction* action = menu->addAction(ToQt(entry.text));
+  action->setShortcut(entry.shortcut);
+  action->setShortcutContext(Qt::WidgetShortcut);
+  QObject::connect(action, &QAction::triggered, action, entry.action);
+  if (!entry.isEnabled) return;
+  QObject::connect(menu, &QMenu::aboutToShow, action,
+                   [action, isEnabled = entry.isEnabled] { action->setEnabled(isEnabled()); });
+}
+
+/// An entry of the Edit menu.
+struct EditRow {
+  EditCommand command;
+  std::u16string_view text;
+  QKeySequence::StandardKey shortcut;
+};
+
+constexpr std::array kEditRows{
+    EditRow{EditCommand::Undo, kUndoEntry, QKeySequence::Undo},
+    EditRow{EditCommand::Redo, kRedoEntry, QKeySequence::Redo},
+    EditRow{EditCommand::Cut, kCutEntry, QKeySequence::Cut},
+    EditRow{EditCommand::Copy, kCopyEntry, QKeySequence::Copy},
+    EditRow{EditCommand::Paste, kPasteEntry, QKeySequence::Paste},
+    EditRow{EditCommand::SelectAll, kSelectAllEntry, QKeySequence::SelectAll},
+};
+
+}  // namespace
+
+void EditLine(QLineEdit& line, EditCommand command) {
+  switch (command) {
+    case EditCommand::Undo:
+      return line.undo();
+    case EditCommand::Redo:
+      return line.redo();
+    case EditCommand::Cut:
+      return line.cut();
+    case EditCommand::Copy:
+      return line.copy();
+    case EditCommand::Paste:
+      return line.paste();
+    case EditCommand::SelectAll:
+      return line.selectAll();
+  }
+}
+
+bool CanEditLine(const QLineEdit& line, EditCommand command) {
+  switch (command) {
+    case EditCommand::Undo:
+      return line.isUndoAvailable();
+    case EditCommand::Redo:
+      return line.isRedoAvailable();
+    case EditCommand::Cut:
+      return !line.isReadOnly() && line.hasSelectedText();
+    case EditCommand::Copy:
+      return line.hasSelectedText();
+    case EditCommand::Paste:
+      return !line.isReadOnly();
+    case EditCommand::SelectAll:
+      break;
+  }
+  return true;
+}
+
+Screen::Screen(Frame& frame, QSize size)
+    : frame_(frame), size_(size), menuBar_(new BottomMenuBar(this)) {
+  setWindowTitle(ToQt(kApplicationName));
+  setPalette(ScreenPalette());
+  setMinimumSize(kSmallest);
+}
+
+void Screen::AddMenu(std::u16string_view title, const std::vector<MenuEntry>& entries) {
+  QMenu* menu = nullptr;
+  for (const MenuEntry& entry : entries) {
+    if (!entry.action) continue;
+    if (menu == nullptr) menu = menuBar_->addMenu(ToQt(title));
+    AddAction(menu, entry);
+  }
+  if (menu == nullptr) return;
+  connect(menu, &QMenu::aboutToShow, menu, [this, menu] { Dress(menu); });
+}
+
+void Screen::AddFileMenu(const FileCommands& commands) {
+  AddMenu(kFileMenu, {{kAboutEntry, [this] { ShowAbout(this); }},
+                      {kConfigEntry, commands.config},
+                      {kEditUnitsEntry, commands.editUnits},
+                      {kEditMacroEntry, commands.editMacros},
+                      {kExitEntry, [this] {
+                         Leaving();
+                         frame_.Exit();
+                       }}});
+}
+
+void Screen::AddEditMenu(const EditHooks& hooks) {
+  std::vector<MenuEntry> entries;
+  entries.reserve(kEditRows.size());
+  for (const EditRow& row : kEditRows) {
+    entries.push_back({row.text, [edit = hooks.edit, command = row.command] { edit(command); },
+                       row.shortcut,
+                       [can = hooks.canEdit, command = row.command] { return can(command); }});
+  }
+  AddMenu(kEditMenu, entries);
+}
+
+void Screen::AddModeMenu(ScreenMode own) {
+  std::vector<MenuEntry> entries;
+  for (const ScreenChoice& choice : frame_.ScreensBeside(own)) {
+    entries.push_back({choice.caption, [this, mode = choice.mode] {
+                         Leaving();
+                         frame_.ChangeMode(mode);
+                       }});
+  }
+  AddMenu(kModeMenu, entries);
+}
+
+QMenu* Screen::MakePopUp() {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  Dress(menu);
+  return menu;
+}
+
+void Screen::Dress(QMenu* menu) {
+  menu->setStyle(ScreenStyle());
+  menu->setFont(menuBar_->font());
+}
+
+void Screen::resizeEvent(QResizeEvent*) {
+  const QRect area = PortraitArea(size());
+  menuBar_->setFont(ScreenFont(TextPixels(area.height())));
+  const int menuHeight = menuBar_->sizeHint().height();
+  menuBar_->setGeometry(area.x(), area.bottom() + 1 - menuHeight, area.width(), menuHeight);
+  LayOut(DialogUnits(area.adjusted(0, 0, 0, -menuHeight), size_));
+}
+
+void Screen::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), BackdropColour());
+  painter.fillRect(PortraitArea(size()), palette().color(QPalette::Window));
+}
+
+void Screen::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) return menuBar_->Enter();
+  QWidget::keyPressEvent(event);
+}
+
+bool Screen::focusNextPrevChild(bool next) {
+  // The menu bar takes its turn with the Tab key between the last widget of the body and the first.
+  const QWidget* first = FirstInRound();
+  const QWidget* before = focusWidget();
+  const bool moved = QWidget::focusNextPrevChild(next);
+  const bool passedTheEnd = (next ? focusWidget() : before) == first;
+  if (passedTheEnd && before != menuBar_) menuBar_->Enter();
+  return moved;
+}
+
+const QWidget* Screen::FirstInRound() const {
+  const QWidget* widget = nextInFocusChain();
+  while (widget != this && !(widget->isVisible() && widget->isEnabled() &&
+                             (widget->focusPolicy() & Qt::TabFocus) != 0)) {
+    widget = widget->nextInFocusChain();
+  }
+  return widget;
+}
+
+}  // namespace kav

@@ -1,0 +1,85 @@
+// What every screen has in common: a body in portrait above a menu bar.
+#pragma once
+
+#include <QKeySequence>
+#include <QWidget>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "screens/widgets/frame.h"
+#include "screens/widgets/look.h"
+
+class QLineEdit;
+class QMenu;
+
+namespace kav {
+
+class BottomMenuBar;
+
+/// An entry of a menu; one without an action is not offered.
+struct MenuEntry {
+  std::u16string_view text;
+  std::function<void()> action;
+  QKeySequence shortcut = {};            ///< only shown: the line that has the focus obeys it
+  std::function<bool()> isEnabled = {};  ///< asked each time the menu opens; empty: always
+};
+
+/// What the File menu of a screen offers besides "About..." and "Exit": actions, empty for none.
+struct FileCommands {
+  std::function<void()> config;
+  std::function<void()> editUnits;
+  std::function<void()> editMacros;
+};
+
+/// What the entries of the Edit menu do.
+enum class EditCommand { Undo, Redo, Cut, Copy, Paste, SelectAll };
+
+struct EditHooks {
+  std::function<void(EditCommand)> edit;
+  std::function<bool(EditCommand)> canEdit;  ///< asked each time the menu opens
+};
+
+/// Does it to a line, and tells whether there is something to do.
+void EditLine(QLineEdit& line, EditCommand command);
+bool CanEditLine(const QLineEdit& line, EditCommand command);
+
+/// A calculating screen, a window of its own.
+class Screen : public QWidget {
+ public:
+  /// `size` is that of the body in dialog units; the frame must outlive the screen.
+  Screen(Frame& frame, QSize size);
+
+  /// The user leaves the screen, for another or for good: the time to ask what must not be lost.
+  virtual void Leaving() {}
+
+ protected:
+  /// Called whenever the body has a new size: places everything on it.
+  virtual void LayOut(const DialogUnits& units) = 0;
+
+  /// A menu of those entries that have an action; no menu where none has.
+  void AddMenu(std::u16string_view title, const std::vector<MenuEntry>& entries);
+  void AddFileMenu(const FileCommands& commands);
+  void AddEditMenu(const EditHooks& hooks);
+  /// The menu of all screens but `own`.
+  void AddModeMenu(ScreenMode own);
+  /// An empty pop-up menu of the screen's look, deleted once it is closed.
+  QMenu* MakePopUp();
+
+  Frame& TheFrame() const { return frame_; }
+
+  void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  void Dress(QMenu* menu);
+  const QWidget* FirstInRound() const;
+
+  Frame& frame_;
+  QSize size_;
+  BottomMenuBar* menuBar_;
+};
+
+}  // namespace kav

@@ -1,0 +1,251 @@
+// The style of everything that the desktop's style would draw with a fixed number of pixels.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QIcon>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+#include <QPointer>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <algorithm>
+#include <optional>
+
+#include "screens/widgets/key_painter.h"
+#include "screens/widgets/look.h"
+
+namespace kav {
+namespace {
+
+/// The height of the text in what is drawn; 0 where nothing tells it.
+int TextHeight(const QStyleOption* option, const QWidget* widget) {
+  if (option != nullptr) return option->fontMetrics.height();
+  return widget != nullptr ? widget->fontMetrics().height() : 0;
+}
+
+/// How much of the text's height a measure takes at least; 0 for those that the desktop decides.
+double TextShare(QStyle::PixelMetric metric) {
+  switch (metric) {
+    case QStyle::PM_IndicatorWidth:
+    case QStyle::PM_IndicatorHeight:
+    case QStyle::PM_ExclusiveIndicatorWidth:
+    case QStyle::PM_ExclusiveIndicatorHeight:
+      return 0.75;
+    case QStyle::PM_RadioButtonLabelSpacing:
+    case QStyle::PM_CheckBoxLabelSpacing:
+    case QStyle::PM_HeaderMargin:
+      return 0.3;
+    case QStyle::PM_TabBarTabHSpace:
+      return 1.4;
+    case QStyle::PM_TabBarTabVSpace:
+      return 0.4;
+    case QStyle::PM_ScrollBarExtent:
+      return 0.8;
+    case QStyle::PM_FocusFrameHMargin:
+      return 0.25;
+    case QStyle::PM_FocusFrameVMargin:
+      return 0.12;
+    case QStyle::PM_MessageBoxIconSize:
+      return 2;
+    case QStyle::PM_TextCursorWidth:
+      return 1.0 / 30;
+    default:
+      return 0;
+  }
+}
+
+/// What stands before a message: a character on a disc.
+struct Sign {
+  char16_t character;
+  QRgb colour;
+};
+
+std::optional<Sign> SignOf(QStyle::StandardPixmap icon) {
+  switch (icon) {
+    case QStyle::SP_MessageBoxCritical:
+      return Sign{u'×', qRgb(200, 30, 30)};
+    case QStyle::SP_MessageBoxWarning:
+      return Sign{u'!', qRgb(215, 130, 0)};
+    case QStyle::SP_MessageBoxQuestion:
+      return Sign{u'?', qRgb(0, 110, 190)};
+    case QStyle::SP_MessageBoxInformation:
+      return Sign{u'i', qRgb(0, 110, 190)};
+    default:
+      return std::nullopt;
+  }
+}
+
+QIcon DrawSign(const Sign& sign, int size) {
+  QPixmap picture(size, size);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(sign.colour));
+  painter.drawEllipse(picture.rect());
+  QFont font = ScreenFont(size * 7 / 10);
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(Qt::white);
+  painter.drawText(picture.rect(), Qt::AlignCenter, QString(QChar(sign.character)));
+  painter.end();
+  return picture;
+}
+
+class TextMeasuredStyle final : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+ private:
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override {
+    const int text = option->fontMetrics.height();
+    if (type == CT_MenuBarItem) return size + QSize(text, text / 2);
+    if (type == CT_ComboBox) return size + QSize(2 * text, text / 2);
+    if (type == CT_LineEdit) return size + QSize(text / 2, text / 2);
+    if (type == CT_PushButton) return size + QSize(text, text / 2);
+    const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+    // The column for ticks is drawn as wide as an entry is high, but counted with fewer pixels.
+    return type == CT_MenuItem ? usual + QSize(text, text / 4) : usual;
+  }
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    if (metric == PM_MenuBarItemSpacing) return 0;
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    return std::max(usual, qRound(TextHeight(option, widget) * TextShare(metric)));
+  }
+
+  QRect subElementRect(SubElement element, const QStyleOption* option,
+                       const QWidget* widget) const override {
+    const QRect usual = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_TabBarTabText) return WithRoomForText(usual, option);
+    if (element != SE_LineEditContents) return usual;
+    const int margin = option->fontMetrics.height() / 6;
+    return usual.adjusted(margin, 0, -margin, 0);
+  }
+
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                     const QWidget* widget) const override {
+    const std::optional<Sign> sign = SignOf(icon);
+    if (!sign) return QProxyStyle::standardIcon(icon, option, widget);
+    return DrawSign(*sign, pixelMetric(PM_MessageBoxIconSize, option, widget));
+  }
+
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                       const QWidget* widget) const override {
+    if (control != CC_ComboBox) {
+      return QProxyStyle::subControlRect(control, option, part, widget);
+    }
+    const int text = option->fontMetrics.height();
+    const int arrow = text * 3 / 2;
+    switch (part) {
+      case SC_ComboBoxEditField:
+        return option->rect.adjusted(text / 3, 0, -arrow, 0);
+      case SC_ComboBoxArrow:
+        return option->rect.adjusted(option->rect.width() - arrow, 0, 0, 0);
+      default:
+        return option->rect;
+    }
+  }
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    if (element != PE_PanelLineEdit) {
+      return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+    DrawField(*option, *painter);
+  }
+
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    if (element == CE_ComboBoxLabel) return DrawChoice(option, painter, widget);
+    const auto* button = dynamic_cast<const QAbstractButton*>(widget);
+    if (element != CE_PushButton || button == nullptr) {
+      return QProxyStyle::drawControl(element, option, painter, widget);
+    }
+    PaintKey(*painter, *button, {QColor(192, 255, 192), Qt::black}, button->font());
+  }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* result) const override {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    // With a bar to scroll it by: the arrows of a menu are too small for fingers.
+    if (hint == SH_ComboBox_Popup) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, result);
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    if (control != CC_ComboBox) {
+      return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+    DrawField(*option, *painter);
+    DrawArrow(subControlRect(control, option, SC_ComboBoxArrow, widget), *option, *painter);
+  }
+
+  /// `usual`, or where the text of a tab needs what is kept free around it, all of the tab.
+  static QRect WithRoomForText(const QRect& usual, const QStyleOption* option) {
+    const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+    if (tab == nullptr) return usual;
+    const int text = tab->fontMetrics.size(Qt::TextShowMnemonic, tab->text).width();
+    return text <= usual.width() ? usual : tab->rect.adjusted(1, 0, -1, 0);
+  }
+
+  /// A text that is too long for its field is seen to be.
+  void DrawChoice(const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
+    const auto* chosen = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (chosen == nullptr)
+      return QProxyStyle::drawControl(CE_ComboBoxLabel, option, painter, widget);
+    QStyleOptionComboBox shown = *chosen;
+    const int room =
+        subControlRect(CC_ComboBox, chosen, SC_ComboBoxEditField, widget).width() - kChoiceMargin;
+    shown.currentText = shown.fontMetrics.elidedText(shown.currentText, Qt::ElideRight, room);
+    QProxyStyle::drawControl(CE_ComboBoxLabel, &shown, painter, widget);
+  }
+
+  /// The box of what is typed or chosen.
+  static void DrawField(const QStyleOption& option, QPainter& painter) {
+    const int text = option.fontMetrics.height();
+    const bool hasFocus = option.state.testFlag(State_HasFocus);
+    const double line = std::max(1.0, text / 20.0) * (hasFocus ? 2 : 1);
+    const QRectF outline = QRectF(option.rect).adjusted(line / 2, line / 2, -line / 2, -line / 2);
+    const auto role = option.state.testFlag(State_Enabled) ? QPalette::Base : QPalette::Window;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(option.palette.color(role));
+    painter.setPen(
+        QPen(option.palette.color(hasFocus ? QPalette::Highlight : QPalette::Mid), line));
+    painter.drawRoundedRect(outline, text * 0.2, text * 0.2);
+    painter.restore();
+  }
+
+  static void DrawArrow(const QRect& area, const QStyleOption& option, QPainter& painter) {
+    const double size = option.fontMetrics.height() * 0.25;
+    const QPointF centre = QRectF(area).center();
+    QPainterPath arrow(centre + QPointF(-size, -size / 2));
+    arrow.lineTo(centre + QPointF(0, size / 2));
+    arrow.lineTo(centre + QPointF(size, -size / 2));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(option.palette.color(QPalette::Text), std::max(1.0, size / 3)));
+    painter.drawPath(arrow);
+    painter.restore();
+  }
+};
+
+}  // namespace
+
+QStyle* ScreenStyle() {
+  static QPointer<QStyle> style;
+  if (!style) {
+    style = new TextMeasuredStyle(QStyleFactory::create(QApplication::style()->name()));
+    style->setParent(QCoreApplication::instance());
+  }
+  return style;
+}
+
+}  // namespace kav

@@ -1,0 +1,643 @@
+#include "grid/grid_model.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <climits>
+#include <memory_resource>
+#include <new>
+#include <string>
+#include <string_view>
+
+#include "grid/plain_grid.h"
+#include "support/effort.h"
+#include "support/random.h"
+
+namespace kav {
+namespace {
+
+using test::Fill;
+using test::LongText;
+using test::PlainGrid;
+using test::PlainOf;
+using test::Random;
+using test::Shape;
+using test::Tries;
+
+/// Counts the bytes that are out, and can have an end.
+class LimitedMemory final : public std::pmr::memory_resource {
+ public:
+  /// From here on, `count` allocations succeed and all others fail.
+  void AllowOnly(int count) { allowed_ = count; }
+  void AllowAll() { allowed_ = INT_MAX; }
+  std::size_t Held() const { return held_; }
+
+ private:
+  void* do_allocate(std::size_t bytes, std::size_t alignment) override {
+    if (allowed_ == 0) throw std::bad_alloc();
+    if (allowed_ != INT_MAX) --allowed_;
+    held_ += bytes;
+    return std::pmr::new_delete_resource()->allocate(bytes, alignment);
+  }
+  void do_deallocate(void* place, std::size_t bytes, std::size_t alignment) override {
+    held_ -= bytes;
+    std::pmr::new_delete_resource()->deallocate(place, bytes, alignment);
+  }
+  bool do_is_equal(const memory_resource& other) const noexcept override { return this == &other; }
+
+  int allowed_ = INT_MAX;
+  std::size_t held_ = 0;
+};
+
+void SetText(GridModel& model, int row, int column, std::u16string_view text) {
+  ASSERT_TRUE(model.SetItem({row, column, GridItem::kText, text, {}}));
+}
+
+/// Four rows and five columns, of which one row and two columns are fixed.
+class Grid : public testing::Test {
+ protected:
+  void SetUp() override {
+    Shape(model_, 4, 5, 1, 2);
+    Fill(model_);
+  }
+
+  GridModel model_;
+};
+
+constexpr GridCell kNone{-1, -1};
+
+// Cells that the grid of the fixture does not have.
+constexpr GridCell kNotThere[]{{-1, 0},      {0, -1},      {-1, -1},     {4, 0},
+                               {0, 5},       {4, 5},       {INT_MAX, 0}, {0, INT_MAX},
+                               {INT_MIN, 0}, {0, INT_MIN}, {INT_MAX, 1}, {INT_MAX, INT_MAX}};
+
+TEST(GridCell, OneWithoutARowIsNone) {
+  EXPECT_TRUE(GridCell().IsNone());
+  EXPECT_TRUE((GridCell{-1, 3}).IsNone());
+  EXPECT_FALSE((GridCell{0, 0}).IsNone());
+}
+
+TEST(GridRange, HasBothItsCornersAndWhatIsBetween) {
+  const GridRange range{1, 2, 2, 4};
+  for (int row = 0; row < 4; ++row) {
+    for (int column = 0; column < 6; ++column) {
+      const bool isIn = (row == 1 || row == 2) && (column == 2 || column == 3 || column == 4);
+      EXPECT_EQ(range.Contains({row, column}), isIn) << row << ' ' << column;
+    }
+  }
+  EXPECT_FALSE(range.IsNone());
+  EXPECT_FALSE(range.IsOneCell());
+}
+
+TEST(GridRange, NoneHasNoCell) {
+  EXPECT_TRUE(GridRange().IsNone());
+  EXPECT_FALSE(GridRange().IsOneCell());
+  EXPECT_FALSE(GridRange().Contains({0, 0}));
+  EXPECT_FALSE(GridRange().Contains(kNone));
+}
+
+TEST(GridRange, OneCellIsNeitherARowNorAColumnOfThem) {
+  EXPECT_TRUE((GridRange{0, 0, 0, 0}).IsOneCell());
+  EXPECT_TRUE((GridRange{2, 3, 2, 3}).IsOneCell());
+  EXPECT_FALSE((GridRange{2, 3, 2, 4}).IsOneCell());
+  EXPECT_FALSE((GridRange{2, 3, 3, 3}).IsOneCell());
+}
+
+TEST(GridShape, AtFirstThereIsNothing) {
+  const GridModel model;
+  EXPECT_EQ(PlainOf(model), PlainGrid());
+  EXPECT_TRUE(model.Selection().IsNone());
+  EXPECT_EQ(model.Nearest({0, 0}), kNone);
+}
+
+TEST(GridShape, WhatIsNewIsEmptyAndOfTheDefaultSize) {
+  GridModel model;
+  Shape(model, 2, 3, 1, 1);
+  EXPECT_EQ(model.RowCount(), 2);
+  EXPECT_EQ(model.ColumnCount(), 3);
+  EXPECT_EQ(model.FixedRowCount(), 1);
+  EXPECT_EQ(model.FixedColumnCount(), 1);
+  for (int row = 0; row < 2; ++row) EXPECT_EQ(model.GetRowHeight(row), GridModel::kDefaultHeight);
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(model.GetColumnWidth(i), GridModel::kDefaultWidth);
+  for (int row = 0; row < 2; ++row) {
+    for (int column = 0; column < 3; ++column) {
+      EXPECT_EQ(model.GetItemText(row, column), u"");
+      EXPECT_EQ(model.GetItemFormat(row, column), (GridFormat{GridAlignment::Left, false}));
+    }
+  }
+}
+
+TEST_F(Grid, CountsThatMakeNoSenseAreRefusedAndChangeNothing) {
+  struct Row {
+    bool (GridModel::*set)(int);
+    int count;
+  };
+  model_.SetFocus({2, 3});
+  const PlainGrid before = PlainOf(model_);
+  for (const Row& row : {
+           Row{&GridModel::SetRowCount, 0},  // one is fixed
+           Row{&GridModel::SetRowCount, -1},
+           Row{&GridModel::SetRowCount, INT_MIN},
+           Row{&GridModel::SetRowCount, 1001},
+           Row{&GridModel::SetRowCount, INT_MAX},
+           Row{&GridModel::SetColumnCount, 1},  // two are fixed
+           Row{&GridModel::SetColumnCount, -1},
+           Row{&GridModel::SetColumnCount, INT_MIN},
+           Row{&GridModel::SetColumnCount, 1001},
+           Row{&GridModel::SetColumnCount, INT_MAX},
+           Row{&GridModel::SetFixedRowCount, 5},
+           Row{&GridModel::SetFixedRowCount, -1},
+           Row{&GridModel::SetFixedRowCount, INT_MIN},
+           Row{&GridModel::SetFixedRowCount, INT_MAX},
+           Row{&GridModel::SetFixedColumnCount, 6},
+           Row{&GridModel::SetFixedColumnCount, -1},
+           Row{&GridModel::SetFixedColumnCount, INT_MIN},
+           Row{&GridModel::SetFixedColumnCount, INT_MAX},
+       }) {
+    EXPECT_FALSE((model_.*row.set)(row.count)) << row.count;
+    EXPECT_EQ(PlainOf(model_), before) << row.count;
+  }
+}
+
+TEST_F(Grid, AllCellsMayBeFixedAndNoneMayBe) {
+  EXPECT_TRUE(model_.SetFixedRowCount(4));
+  EXPECT_TRUE(model_.SetFixedColumnCount(5));
+  EXPECT_FALSE(model_.SetRowCount(3));
+  EXPECT_FALSE(model_.SetColumnCount(4));
+  EXPECT_TRUE(model_.SetFixedRowCount(0));
+  EXPECT_TRUE(model_.SetFixedColumnCount(0));
+  EXPECT_TRUE(model_.SetRowCount(0));
+  EXPECT_TRUE(model_.SetColumnCount(0));
+  EXPECT_EQ(PlainOf(model_), PlainGrid());
+}
+
+TEST(GridShape, AThousandRowsAndColumnsAreTheMost) {
+  GridModel model;
+  Shape(model, 1000, 1000, 1000, 0);
+  EXPECT_FALSE(model.SetRowCount(1001));
+  EXPECT_FALSE(model.SetColumnCount(1001));
+  SetText(model, 999, 999, u"last");
+  SetText(model, 999, 0, u"first of the last row");
+  EXPECT_EQ(model.GetItemText(999, 999), u"last");
+  EXPECT_EQ(model.GetItemText(999, 0), u"first of the last row");
+  EXPECT_EQ(model.GetItemText(998, 999), u"");
+}
+
+TEST(GridShape, WhatStaysKeepsItsTextFormatAndSize) {
+  for (int rows = 1; rows <= 6; ++rows) {
+    for (int columns = 2; columns <= 7; ++columns) {
+      GridModel model;
+      Shape(model, 4, 5, 1, 2);
+      Fill(model);
+      PlainGrid expected = PlainOf(model);
+      expected.Resize(rows, columns);
+      ASSERT_TRUE(model.SetRowCount(rows));
+      ASSERT_TRUE(model.SetColumnCount(columns));
+      EXPECT_EQ(PlainOf(model), expected) << rows << " by " << columns;
+    }
+  }
+}
+
+TEST_F(Grid, WhatWasCutAwayDoesNotComeBack) {
+  ASSERT_TRUE(model_.SetColumnCount(4));
+  ASSERT_TRUE(model_.SetRowCount(3));
+  ASSERT_TRUE(model_.SetColumnCount(5));
+  ASSERT_TRUE(model_.SetRowCount(4));
+  EXPECT_EQ(model_.GetItemText(2, 3), LongText(2, 3));
+  EXPECT_EQ(model_.GetItemText(2, 4), u"");
+  EXPECT_EQ(model_.GetItemText(3, 3), u"");
+  EXPECT_EQ(model_.GetItemFormat(1, 4), GridFormat());
+  EXPECT_EQ(model_.GetColumnWidth(3), 23);
+  EXPECT_EQ(model_.GetColumnWidth(4), 60);
+}
+
+TEST_F(Grid, OnlyWhatTheMaskHasIsSet) {
+  struct Row {
+    unsigned mask;
+    bool setsText;
+    bool setsFormat;
+  };
+  const GridFormat format{GridAlignment::Centre, false};
+  const PlainGrid before = PlainOf(model_);
+  for (const Row& row :
+       {Row{0, false, false}, Row{GridItem::kText, true, false},
+        Row{GridItem::kFormat, false, true}, Row{GridItem::kText | GridItem::kFormat, true, true},
+        Row{~(GridItem::kText | GridItem::kFormat), false, false}}) {
+    GridModel model;
+    Shape(model, 4, 5, 1, 2);
+    Fill(model);
+    EXPECT_TRUE(model.SetItem({2, 3, row.mask, u"new", format}));
+    PlainGrid expected = before;
+    if (row.setsText) expected.At(2, 3).text = u"new";
+    if (row.setsFormat) expected.At(2, 3).format = format;
+    EXPECT_EQ(PlainOf(model), expected) << row.mask;
+  }
+}
+
+TEST_F(Grid, TextsAreKeptAsTheyAre) {
+  using std::string_literals::operator""s;
+  for (const std::u16string& text :
+       {u""s, u" 1 "s, u"a\tb\r\nc"s, u"n\0l"s, u"\xD83D\xDE00"s, std::u16string(100000, u'9')}) {
+    SetText(model_, 1, 2, text);
+    EXPECT_EQ(model_.GetItemText(1, 2), text);
+  }
+}
+
+TEST_F(Grid, HeadersTakeTextsToo) {
+  SetText(model_, 0, 0, u"corner");
+  EXPECT_EQ(model_.GetItemText(0, 0), u"corner");
+}
+
+TEST_F(Grid, CellTakesATextFromTheGridItself) {
+  const std::u16string_view own = model_.GetItemText(2, 3);
+  SetText(model_, 2, 3, own.substr(1));
+  EXPECT_EQ(model_.GetItemText(2, 3), LongText(2, 3).substr(1));
+  SetText(model_, 2, 3, model_.GetItemText(1, 4));
+  EXPECT_EQ(model_.GetItemText(2, 3), LongText(1, 4));
+}
+
+TEST_F(Grid, CellThatIsNotThereIsEmptyAndStaysSo) {
+  const PlainGrid before = PlainOf(model_);
+  for (const GridCell& cell : kNotThere) {
+    EXPECT_EQ(model_.GetItemText(cell.row, cell.column), u"");
+    EXPECT_EQ(model_.GetItemFormat(cell.row, cell.column), GridFormat());
+    EXPECT_FALSE(model_.IsFixed(cell));
+    EXPECT_FALSE(model_.SetItem({cell.row, cell.column, 0, u"", {}}));
+    EXPECT_FALSE(model_.SetItem({cell.row,
+                                 cell.column,
+                                 GridItem::kText | GridItem::kFormat,
+                                 u"x",
+                                 {GridAlignment::Right}}));
+  }
+  EXPECT_EQ(PlainOf(model_), before);
+}
+
+TEST_F(Grid, RowsAndColumnsThatAreNotThereHaveNoSize) {
+  const PlainGrid before = PlainOf(model_);
+  for (const int place : {-1, 5, INT_MAX, INT_MIN}) {
+    EXPECT_EQ(model_.GetColumnWidth(place), 0);
+    EXPECT_EQ(model_.GetRowHeight(place), 0);
+    EXPECT_FALSE(model_.SetColumnWidth(place, 50));
+  }
+  EXPECT_EQ(model_.GetRowHeight(4), 0);
+  EXPECT_EQ(PlainOf(model_), before);
+}
+
+TEST_F(Grid, WidthsAreBroughtIntoTheirRange) {
+  struct Row {
+    int asked;
+    int set;
+  };
+  for (const Row& row :
+       {Row{INT_MIN, 4}, Row{-1, 4}, Row{0, 4}, Row{3, 4}, Row{4, 4}, Row{5, 5}, Row{9999, 9999},
+        Row{10000, 10000}, Row{10001, 10000}, Row{INT_MAX, 10000}}) {
+    EXPECT_TRUE(model_.SetColumnWidth(4, row.asked));
+    EXPECT_EQ(model_.GetColumnWidth(4), row.set);
+    EXPECT_EQ(model_.GetColumnWidth(3), 23);
+  }
+}
+
+TEST_F(Grid, FirstRowsAndColumnsAreFixed) {
+  for (int row = 0; row < 4; ++row) {
+    for (int column = 0; column < 5; ++column) {
+      EXPECT_EQ(model_.IsFixed({row, column}), row == 0 || column <= 1) << row << ' ' << column;
+    }
+  }
+}
+
+TEST_F(Grid, FocusGoesToTheNearestCellThatIsNotFixed) {
+  struct Row {
+    GridCell asked;
+    GridCell focus;
+  };
+  for (const Row& row :
+       {Row{{1, 2}, {1, 2}}, Row{{3, 4}, {3, 4}}, Row{{2, 3}, {2, 3}}, Row{{0, 3}, {1, 3}},
+        Row{{2, 0}, {2, 2}}, Row{{0, 0}, {1, 2}}, Row{{-1, -1}, {1, 2}}, Row{{4, 5}, {3, 4}},
+        Row{{2, 99}, {2, 4}}, Row{{INT_MAX, INT_MIN}, {3, 2}}, Row{{INT_MIN, INT_MAX}, {1, 4}}}) {
+    EXPECT_EQ(model_.Nearest(row.asked), row.focus);
+    model_.SetFocus(row.asked);
+    EXPECT_EQ(model_.Focus(), row.focus);
+    EXPECT_EQ(model_.SelectionEnd(), row.focus);
+    EXPECT_EQ(model_.Selection(),
+              (GridRange{row.focus.row, row.focus.column, row.focus.row, row.focus.column}));
+  }
+}
+
+TEST_F(Grid, SelectionIsWhatIsBetweenFocusAndItsOtherEnd) {
+  struct Row {
+    GridCell to;
+    GridCell end;
+    GridRange selection;
+  };
+  model_.SetFocus({2, 3});
+  for (const Row& row : {Row{{3, 4}, {3, 4}, {2, 3, 3, 4}}, Row{{1, 2}, {1, 2}, {1, 2, 2, 3}},
+                         Row{{3, 2}, {3, 2}, {2, 2, 3, 3}}, Row{{1, 4}, {1, 4}, {1, 3, 2, 4}},
+                         Row{{2, 3}, {2, 3}, {2, 3, 2, 3}}, Row{{0, 0}, {1, 2}, {1, 2, 2, 3}},
+                         Row{{99, 99}, {3, 4}, {2, 3, 3, 4}}}) {
+    model_.SelectTo(row.to);
+    EXPECT_EQ(model_.Focus(), (GridCell{2, 3}));
+    EXPECT_EQ(model_.SelectionEnd(), row.end);
+    EXPECT_EQ(model_.Selection(), row.selection);
+  }
+}
+
+TEST_F(Grid, SelectionWithoutAFocusBeginsWhereItEnds) {
+  model_.SelectTo({3, 3});
+  EXPECT_EQ(model_.Focus(), (GridCell{3, 3}));
+  EXPECT_EQ(model_.Selection(), (GridRange{3, 3, 3, 3}));
+}
+
+TEST_F(Grid, AllThatCanBeSelectedIsWhatIsNotFixed) {
+  model_.SetFocus({3, 3});
+  model_.SelectAll();
+  EXPECT_EQ(model_.Focus(), (GridCell{1, 2}));
+  EXPECT_EQ(model_.SelectionEnd(), (GridCell{3, 4}));
+  EXPECT_EQ(model_.Selection(), (GridRange{1, 2, 3, 4}));
+}
+
+TEST_F(Grid, ResetTakesSelectionAndFocusAway) {
+  model_.SelectAll();
+  model_.ResetSelectedRange();
+  EXPECT_EQ(model_.Focus(), kNone);
+  EXPECT_EQ(model_.SelectionEnd(), kNone);
+  EXPECT_TRUE(model_.Selection().IsNone());
+}
+
+TEST(GridSelection, WhereAllIsFixedNothingIsSelected) {
+  struct Row {
+    int rows, columns, fixedRows, fixedColumns;
+  };
+  for (const Row& row :
+       {Row{0, 0, 0, 0}, Row{3, 0, 1, 0}, Row{0, 3, 0, 1}, Row{2, 3, 2, 1}, Row{2, 3, 1, 3}}) {
+    GridModel model;
+    Shape(model, row.rows, row.columns, row.fixedRows, row.fixedColumns);
+    EXPECT_EQ(model.Nearest({1, 1}), kNone);
+    model.SetFocus({1, 1});
+    EXPECT_EQ(model.Focus(), kNone);
+    model.SelectTo({1, 1});
+    model.SelectAll();
+    EXPECT_EQ(model.Focus(), kNone);
+    EXPECT_EQ(model.SelectionEnd(), kNone);
+    EXPECT_TRUE(model.Selection().IsNone());
+    model.ClearSelectedCells();
+  }
+}
+
+TEST(GridSelection, StaysWhereItCanAndElseGoesToTheNearestCell) {
+  struct Row {
+    bool (GridModel::*set)(int);
+    int count;
+    GridCell focus;
+    GridCell end;
+  };
+  for (const Row& row : {
+           Row{&GridModel::SetRowCount, 9, {2, 4}, {3, 2}},
+           Row{&GridModel::SetRowCount, 3, {2, 4}, {2, 2}},
+           Row{&GridModel::SetRowCount, 2, {1, 4}, {1, 2}},
+           Row{&GridModel::SetRowCount, 1, kNone, kNone},
+           Row{&GridModel::SetColumnCount, 9, {2, 4}, {3, 2}},
+           Row{&GridModel::SetColumnCount, 4, {2, 3}, {3, 2}},
+           Row{&GridModel::SetColumnCount, 2, kNone, kNone},
+           Row{&GridModel::SetFixedRowCount, 0, {2, 4}, {3, 2}},
+           Row{&GridModel::SetFixedRowCount, 3, {3, 4}, {3, 2}},
+           Row{&GridModel::SetFixedRowCount, 4, kNone, kNone},
+           Row{&GridModel::SetFixedColumnCount, 0, {2, 4}, {3, 2}},
+           Row{&GridModel::SetFixedColumnCount, 3, {2, 4}, {3, 3}},
+           Row{&GridModel::SetFixedColumnCount, 5, kNone, kNone},
+       }) {
+    GridModel model;
+    Shape(model, 4, 5, 1, 2);
+    model.SetFocus({2, 4});
+    model.SelectTo({3, 2});
+    ASSERT_TRUE((model.*row.set)(row.count));
+    EXPECT_EQ(model.Focus(), row.focus) << row.count;
+    EXPECT_EQ(model.SelectionEnd(), row.end) << row.count;
+  }
+}
+
+TEST_F(Grid, SelectionThatLostAllItsCellsDoesNotComeBackWithThem) {
+  model_.SelectAll();
+  ASSERT_TRUE(model_.SetRowCount(1));
+  ASSERT_TRUE(model_.SetRowCount(4));
+  EXPECT_EQ(model_.Focus(), kNone);
+  EXPECT_TRUE(model_.Selection().IsNone());
+}
+
+TEST_F(Grid, ShapeAloneSelectsNothing) {
+  ASSERT_TRUE(model_.SetRowCount(6));
+  ASSERT_TRUE(model_.SetFixedColumnCount(1));
+  EXPECT_EQ(model_.Focus(), kNone);
+}
+
+TEST_F(Grid, ClearEmptiesTheSelectedTextsAndNothingElse) {
+  model_.SetFocus({2, 4});
+  model_.SelectTo({0, 3});
+  PlainGrid expected = PlainOf(model_);
+  for (const GridCell& cell : {GridCell{1, 3}, GridCell{1, 4}, GridCell{2, 3}, GridCell{2, 4}}) {
+    expected.At(cell.row, cell.column).text.clear();
+  }
+  model_.ClearSelectedCells();
+  EXPECT_EQ(PlainOf(model_), expected);
+}
+
+TEST_F(Grid, ClearOfAllLeavesTheHeaders) {
+  model_.SelectAll();
+  model_.ClearSelectedCells();
+  for (int row = 0; row < 4; ++row) {
+    for (int column = 0; column < 5; ++column) {
+      const bool isHeader = row == 0 || column <= 1;
+      EXPECT_EQ(model_.GetItemText(row, column), isHeader ? LongText(row, column) : u"");
+    }
+  }
+}
+
+TEST_F(Grid, ClearWithoutASelectionDoesNothing) {
+  const PlainGrid before = PlainOf(model_);
+  model_.ClearSelectedCells();
+  EXPECT_EQ(PlainOf(model_), before);
+}
+
+/// Something that may ask for memory.
+struct Change {
+  const char* name;
+  bool needsMemory;
+  bool (*make)(GridModel& model);
+};
+constexpr Change kChanges[]{
+    {"more rows", true, [](GridModel& model) { return model.SetRowCount(9); }},
+    {"fewer rows", true, [](GridModel& model) { return model.SetRowCount(2); }},
+    {"more columns", true, [](GridModel& model) { return model.SetColumnCount(9); }},
+    {"fewer columns", true, [](GridModel& model) { return model.SetColumnCount(3); }},
+    {"fixed rows", false, [](GridModel& model) { return model.SetFixedRowCount(3); }},
+    {"fixed columns", false, [](GridModel& model) { return model.SetFixedColumnCount(4); }},
+    {"long text", true,
+     [](GridModel& model) {
+       const std::u16string text(500, u'7');
+       return model.SetItem({2, 3, GridItem::kText | GridItem::kFormat, text, {}});
+     }},
+    {"format", false,
+     [](GridModel& model) {
+       return model.SetItem({2, 3, GridItem::kFormat, {}, {GridAlignment::Centre, true}});
+     }},
+};
+
+void MakeSelectedGrid(GridModel& model) {
+  Shape(model, 4, 5, 1, 2);
+  Fill(model);
+  model.SetFocus({3, 4});
+  model.SelectTo({1, 3});
+}
+
+TEST(GridMemory, ChangeThatFindsNoneFailsAndLeavesAllAsItWas) {
+  for (const Change& change : kChanges) {
+    SCOPED_TRACE(change.name);
+    LimitedMemory memory;
+    {
+      GridModel model(&memory);
+      MakeSelectedGrid(model);
+      const PlainGrid before = PlainOf(model);
+      const std::size_t held = memory.Held();
+      int allowed = 0;
+      for (memory.AllowOnly(0); !change.make(model); memory.AllowOnly(++allowed)) {
+        ASSERT_LT(allowed, 100);
+        EXPECT_EQ(PlainOf(model), before) << allowed;
+        EXPECT_EQ(memory.Held(), held) << allowed;
+      }
+      EXPECT_EQ(allowed > 0, change.needsMemory);
+
+      // The failures before have left no trace.
+      GridModel untroubled;
+      MakeSelectedGrid(untroubled);
+      ASSERT_TRUE(change.make(untroubled));
+      EXPECT_EQ(PlainOf(model), PlainOf(untroubled));
+      EXPECT_NE(PlainOf(model), before);
+    }
+    EXPECT_EQ(memory.Held(), 0U);
+  }
+}
+
+TEST(GridMemory, FirstShapeThatFindsNoneLeavesNothing) {
+  LimitedMemory memory;
+  memory.AllowOnly(0);
+  GridModel model(&memory);
+  EXPECT_FALSE(model.SetRowCount(3));
+  EXPECT_FALSE(model.SetColumnCount(3));
+  EXPECT_EQ(PlainOf(model), PlainGrid());
+  memory.AllowAll();
+  EXPECT_TRUE(model.SetRowCount(3));
+  EXPECT_TRUE(model.SetColumnCount(3));
+}
+
+TEST(GridMemory, AllOfItComesFromWhereTheGridWasTold) {
+  std::pmr::memory_resource* usual =
+      std::pmr::set_default_resource(std::pmr::null_memory_resource());
+  LimitedMemory memory;
+  {
+    GridModel model(&memory);
+    Shape(model, 3, 3, 1, 1);
+    Fill(model);
+    Shape(model, 5, 6, 1, 1);
+    model.SelectAll();
+    model.ClearSelectedCells();
+    EXPECT_EQ(model.GetItemText(0, 2), LongText(0, 2));
+    EXPECT_GT(memory.Held(), 0U);
+  }
+  std::pmr::set_default_resource(usual);
+  EXPECT_EQ(memory.Held(), 0U);
+}
+
+/// A call with all that any call takes.
+struct Step {
+  std::size_t call;
+  int number;
+  int width;
+  GridItem item;
+};
+
+/// Whether `grid`, a model or a plain one, could do it.
+template <class AnyGrid>
+bool Take(const Step& step, AnyGrid& grid) {
+  const GridCell cell{step.item.row, step.item.column};
+  switch (step.call) {
+    case 0:
+      return grid.SetRowCount(step.number);
+    case 1:
+      return grid.SetColumnCount(step.number);
+    case 2:
+      return grid.SetFixedRowCount(step.number);
+    case 3:
+      return grid.SetFixedColumnCount(step.number);
+    case 4:
+      return grid.SetColumnWidth(step.number, step.width);
+    case 5:
+      return grid.SetFocus(cell), true;
+    case 6:
+      return grid.SelectTo(cell), true;
+    case 7:
+      return grid.SelectAll(), true;
+    case 8:
+      return grid.ResetSelectedRange(), true;
+    case 9:
+      return grid.ClearSelectedCells(), true;
+    default:
+      return grid.SetItem(step.item);
+  }
+}
+
+/// Mostly in or just beside a small grid. What is large is no count that it could take.
+int AnyPlace(Random& random) {
+  constexpr std::array kFar{INT_MIN, -1000, 1001, 100000, INT_MAX};
+  return random.Below(30) == 0 ? random.Of(kFar) : static_cast<int>(random.Below(12)) - 2;
+}
+
+Step AnyStep(Random& random, std::u16string& text) {
+  constexpr std::array kAlignments{GridAlignment::Left, GridAlignment::Centre,
+                                   GridAlignment::Right};
+  text.assign(random.Below(30), static_cast<char16_t>(u'a' + random.Below(26)));
+  Step step{random.Below(20), AnyPlace(random), static_cast<int>(random.Below(20000)) - 5000, {}};
+  step.item.row = AnyPlace(random);
+  step.item.column = AnyPlace(random);
+  step.item.mask = static_cast<unsigned>(random.Below(4));
+  step.item.text = text;
+  step.item.format = {random.Of(kAlignments), random.Below(2) == 0};
+  return step;
+}
+
+void ExpectSameSelection(const GridModel& model, const PlainGrid& plain) {
+  for (int row = -1; row <= plain.Rows(); ++row) {
+    for (int column = -1; column <= plain.Columns(); ++column) {
+      const bool isSelected = model.Selection().Contains({row, column});
+      ASSERT_EQ(isSelected, plain.IsSelected({row, column}));
+      ASSERT_FALSE(isSelected && model.IsFixed({row, column}));
+    }
+  }
+}
+
+TEST(GridRandom, EveryStepIsDoneWhollyOrNotAtAll) {
+  LimitedMemory memory;
+  int failures = 0;
+  for (std::uint64_t seed = 1; seed <= 20; ++seed) {
+    Random random(seed);
+    GridModel model(&memory);
+    PlainGrid plain;
+    for (int i = 0; i < Tries(2000); ++i) {
+      std::u16string text;
+      const Step step = AnyStep(random, text);
+      PlainGrid after = plain;
+      const bool canBe = Take(step, after);
+      if (random.Below(4) == 0) memory.AllowOnly(static_cast<int>(random.Below(6)));
+      const bool isDone = Take(step, model);
+      memory.AllowAll();
+      ASSERT_TRUE(canBe || !isDone) << seed << ' ' << i;
+      if (canBe && !isDone) ++failures;
+      if (isDone) plain = after;
+      ASSERT_EQ(PlainOf(model), plain) << seed << ' ' << i;
+      ASSERT_NO_FATAL_FAILURE(ExpectSameSelection(model, plain)) << seed << ' ' << i;
+    }
+  }
+  EXPECT_GT(failures, 0);
+  EXPECT_EQ(memory.Held(), 0U);
+}
+
+}  // namespace
+}  // namespace kav

@@ -1,0 +1,456 @@
+#include "store/user_settings_store.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "settings/setting_key.h"
+#include "support/temporary_folder.h"
+
+namespace kav {
+namespace {
+
+using std::string_literals::operator""s;
+using Names = std::vector<std::string>;
+
+constexpr SettingKey<std::int32_t> kNumber{"Config", "Angle Type", 42};
+constexpr SettingKey<std::string_view> kText{"History", "CalHistory1", "as ever"};
+
+/// The settings of a test, in a folder that is not there yet.
+class UserSettingsStoreTest : public testing::Test {
+ protected:
+  std::string ReadText() const { return UserSettingsStore(path).Get(kText); }
+  std::int32_t ReadNumber() const { return UserSettingsStore(path).Get(kNumber); }
+
+  /// The settings as `toml`, as if written by hand.
+  void PutByHand(const std::string& toml) {
+    mkdir(folder.File("sub").c_str(), 0755);
+    PutFile(path, toml);
+  }
+
+  const TemporaryFolder folder;
+  const std::string path = folder.File("sub/settings.toml");
+};
+
+TEST_F(UserSettingsStoreTest, WhatIsNotStoredHasItsDefaultAndMakesNoFile) {
+  UserSettingsStore store(path);
+  EXPECT_EQ(store.Get(kNumber), 42);
+  EXPECT_EQ(store.Get(kText), "as ever");
+  EXPECT_TRUE(store.Save());
+  EXPECT_EQ(store.TakeNotice(), std::nullopt);
+  EXPECT_TRUE(folder.Names().empty());
+}
+
+TEST_F(UserSettingsStoreTest, WhatWasSetHoldsAtOnceAndOutlivesTheStoreOnceSaved) {
+  {
+    UserSettingsStore store(path);
+    store.Set(kNumber, 2);
+    store.Set(kText, "sin(30)");
+    EXPECT_EQ(store.Get(kNumber), 2);
+    EXPECT_EQ(store.Get(kText), "sin(30)");
+    EXPECT_FALSE(Exists(path));
+    EXPECT_TRUE(store.Save());
+    EXPECT_EQ(store.Get(kNumber), 2);
+    EXPECT_EQ(store.TakeNotice(), std::nullopt);
+  }
+  EXPECT_EQ(ReadNumber(), 2);
+  EXPECT_EQ(ReadText(), "sin(30)");
+}
+
+TEST_F(UserSettingsStoreTest, WhatWasNotSavedIsGone) {
+  { UserSettingsStore(path).Set(kNumber, 2); }
+  EXPECT_FALSE(Exists(path));
+}
+
+TEST_F(UserSettingsStoreTest, TheFileIsForPeople) {
+  UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  store.Set(kText, "sin(30)");
+  ASSERT_TRUE(store.Save());
+  EXPECT_EQ(
+      FileContent(path),
+      "# Settings of Kav Calculator. They can be edited here; comments and the order of lines "
+      "are not kept.\n"
+      "\n[Config]\n\"Angle Type\" = 2\n"
+      "\n[History]\nCalHistory1 = \"sin(30)\"\n");
+}
+
+TEST_F(UserSettingsStoreTest, WhatIsWrittenByHandIsRead) {
+  PutByHand(
+      "# mine\n[Config]\n\"Angle Type\" = 2 # radians\n[History]\nCalHistory1 = '''\n1+\n1'''");
+  EXPECT_EQ(ReadNumber(), 2);
+  EXPECT_EQ(ReadText(), "1+\n1");
+}
+
+TEST_F(UserSettingsStoreTest, AValueOfTheWrongTypeReadsAsTheDefaultAndCanBeSet) {
+  PutByHand("[Config]\n\"Angle Type\" = '2'\n[History]\nCalHistory1 = 7");
+  UserSettingsStore store(path);
+  EXPECT_EQ(store.Get(kNumber), 42);
+  EXPECT_EQ(store.Get(kText), "as ever");
+  EXPECT_EQ(store.TakeNotice(), std::nullopt);
+  store.Set(kNumber, 3);
+  ASSERT_TRUE(store.Save());
+  EXPECT_EQ(ReadNumber(), 3);
+}
+
+TEST_F(UserSettingsStoreTest, IntegersBeyond32BitsReadAsTheNearestOnes) {
+  PutByHand("[Config]\n\"Angle Type\" = 99999999999");
+  EXPECT_EQ(ReadNumber(), std::numeric_limits<std::int32_t>::max());
+  PutByHand("[Config]\n\"Angle Type\" = -99999999999");
+  EXPECT_EQ(ReadNumber(), std::numeric_limits<std::int32_t>::min());
+}
+
+TEST_F(UserSettingsStoreTest, AnyTextComesBackExactly) {
+  const std::vector<std::string> texts{
+      "",
+      " ",
+      "  leading and trailing  ",
+      "one\ntwo\n",
+      "one\r\ntwo\r",
+      "\r",
+      "\0"s,
+      "nul\0in\0it\0"s,
+      "\x01\x02\x03\x1B\x1F\x7F",
+      "a=b;c#d",
+      "# no comment",
+      "[no section]",
+      "\"quoted\" 'and' \"\"\"so\"\"\" '''on'''",
+      R"(back\slash \n \u0041 \)",
+      "\tTab\t",
+      "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80 \xEF\xBB\xBF\xEF\xBF\xBF\xF4\x8F\xBF\xBF",
+      "\xC2\x85\xE2\x80\xA8\xE2\x80\xA9",
+      std::string(1 << 20, 'x'),
+      std::string(1 << 20, '\n'),
+      std::string(100'000, '.') + std::string(100'000, '[') + std::string(100'000, '='),
+  };
+  for (const auto& text : texts) {
+    UserSettingsStore store(path);
+    store.Set(kText, text);
+    EXPECT_TRUE(store.Get(kText) == text);
+    ASSERT_TRUE(store.Save());
+    EXPECT_TRUE(store.Get(kText) == text);
+    EXPECT_TRUE(ReadText() == text) << text.substr(0, 50);
+  }
+}
+
+TEST_F(UserSettingsStoreTest, BytesThatAreNotUtf8BecomeReplacementCharacters) {
+  UserSettingsStore store(path);
+  store.Set(kText, "a\xFF\xC3z\xED\xA0\x80");
+  const std::string stored = "a\xEF\xBF\xBD\xEF\xBF\xBDz\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD";
+  EXPECT_EQ(store.Get(kText), stored);
+  ASSERT_TRUE(store.Save());
+  EXPECT_EQ(ReadText(), stored);
+}
+
+TEST_F(UserSettingsStoreTest, RandomSettingsComeBack) {
+  std::mt19937 random(20240607);
+  const auto upTo = [&](unsigned most) { return static_cast<unsigned>(random()) % (most + 1); };
+  const std::vector<std::string> pieces{
+      " ",   "\n",   "\r", "=", "#", ";", "\"", "'", "\\", "[", "]",        ".",
+      "\0"s, "\x7F", "{",  "}", ",", "u", "\t", "0", "-",  "A", "\xC3\xA4", "\xF0\x9F\x98\x80"};
+  const auto text = [&] {
+    std::string made;
+    for (unsigned length = upTo(12); length > 0; --length) {
+      made += pieces[upTo(static_cast<unsigned>(pieces.size()) - 1)];
+    }
+    return made;
+  };
+  std::map<std::pair<std::string, std::string>, StoredSetting> expected;
+  for (int round = 0; round < 20; ++round) {
+    UserSettingsStore store(path);
+    for (int i = 0; i < 40; ++i) {
+      const std::string section = text();
+      const std::string name = text();
+      if (upTo(1) == 0) {
+        const auto value = static_cast<std::int32_t>(random());
+        store.Set(SettingKey<std::int32_t>{section, name, 0}, value);
+        expected[{section, name}] = value;
+      } else {
+        const std::string value = text();
+        store.Set(NumberedKey{section, name, ""}, value);
+        expected[{section, name}] = value;
+      }
+    }
+    ASSERT_TRUE(store.Save());
+    const UserSettingsStore reader(path);
+    for (const auto& [address, value] : expected) {
+      const auto& [section, name] = address;
+      if (const auto* number = std::get_if<std::int32_t>(&value)) {
+        EXPECT_EQ(reader.Get(SettingKey<std::int32_t>{section, name, ~*number}), *number);
+      } else {
+        EXPECT_EQ(reader.Get(NumberedKey{section, name, "none"}), std::get<std::string>(value));
+      }
+    }
+  }
+}
+
+TEST_F(UserSettingsStoreTest, TheDiskIsTouchedWhenTheFirstSettingIsAskedForAndOnlyThen) {
+  UserSettingsStore store(path);
+  PutByHand("[Config]\n\"Angle Type\" = 2");
+  EXPECT_EQ(store.Get(kNumber), 2);
+  PutByHand("[Config]\n\"Angle Type\" = 3");
+  EXPECT_EQ(store.Get(kNumber), 2);
+}
+
+TEST_F(UserSettingsStoreTest, FileAndFolderAreForTheUserOnly) {
+  UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  ASSERT_TRUE(store.Save());
+  EXPECT_EQ(PermissionsOf(folder.File("sub")), 0700U);
+  EXPECT_EQ(PermissionsOf(path), 0600U);
+  EXPECT_EQ(PermissionsOf(path + ".lock"), 0600U);
+}
+
+TEST_F(UserSettingsStoreTest, PermissionsThatTheUserGaveAreKept) {
+  PutByHand("");
+  chmod(path.c_str(), 0640);
+  UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  ASSERT_TRUE(store.Save());
+  EXPECT_EQ(PermissionsOf(path), 0640U);
+}
+
+TEST_F(UserSettingsStoreTest, WithoutAChangeNothingIsWritten) {
+  constexpr const char* kMine = "Config.'Angle Type' = 2 # mine";
+  PutByHand(kMine);
+  UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  EXPECT_TRUE(store.Save());
+  store.Set(kNumber, 3);
+  store.Set(kNumber, 2);
+  EXPECT_TRUE(store.Save());
+  EXPECT_EQ(FileContent(path), kMine);
+  EXPECT_FALSE(Exists(path + ".lock"));
+}
+
+TEST_F(UserSettingsStoreTest, WhatIsSavedAlreadyIsNotWrittenAgain) {
+  UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  ASSERT_TRUE(store.Save());
+  const auto file = StatusOf(path).st_ino;
+  EXPECT_TRUE(store.Save());
+  store.Set(kNumber, 2);
+  EXPECT_TRUE(store.Save());
+  EXPECT_EQ(StatusOf(path).st_ino, file);
+}
+
+TEST_F(UserSettingsStoreTest, WhatAnotherStoreWroteToTheSameEffectIsNotWrittenAgain) {
+  UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  PutByHand("Config.'Angle Type' = 2 # by hand");
+  const auto file = StatusOf(path).st_ino;
+  EXPECT_TRUE(store.Save());
+  EXPECT_EQ(FileContent(path), "Config.'Angle Type' = 2 # by hand");
+  EXPECT_EQ(StatusOf(path).st_ino, file);
+}
+
+TEST_F(UserSettingsStoreTest, TwoStoresOnOneFileLoseNothing) {
+  UserSettingsStore first(path);
+  UserSettingsStore second(path);
+  for (int i = 0; i < 20; ++i) {
+    const std::string number = std::to_string(i);
+    first.Set(NumberedKey{"First", "Entry" + number, ""}, "1." + number);
+    second.Set(NumberedKey{"Second", "Entry" + number, ""}, "2." + number);
+    second.Set(NumberedKey{"First", "Other" + number, ""}, "3." + number);
+    ASSERT_TRUE(first.Save());
+    ASSERT_TRUE(second.Save());
+  }
+  const UserSettingsStore reader(path);
+  for (int i = 0; i < 20; ++i) {
+    const std::string number = std::to_string(i);
+    EXPECT_EQ(reader.Get(NumberedKey{"First", "Entry" + number, ""}), "1." + number);
+    EXPECT_EQ(reader.Get(NumberedKey{"Second", "Entry" + number, ""}), "2." + number);
+    EXPECT_EQ(reader.Get(NumberedKey{"First", "Other" + number, ""}), "3." + number);
+  }
+}
+
+TEST_F(UserSettingsStoreTest, OnlyWhatThisStoreChangedGoesOverWhatOthersWrote) {
+  PutByHand("[Config]\n\"Angle Type\" = 1\nPrecision = 7\nVersion = 'old'");
+  constexpr SettingKey<std::int32_t> kDigits{"Config", "Precision", 0};
+  constexpr SettingKey<std::string_view> kVersionText{"Config", "Version", ""};
+  UserSettingsStore store(path);
+  store.Set(kNumber, 1);  // as it is stored: no change
+  store.Set(kDigits, 9);  // there
+  store.Set(kDigits, 7);  // and back: no change
+  store.Set(kVersionText, "new");
+  PutByHand("[Config]\n\"Angle Type\" = 2\nPrecision = 3\nVersion = 'other'");
+  ASSERT_TRUE(store.Save());
+  EXPECT_EQ(store.Get(kNumber), 2) << "after a save the others' settings hold here too";
+  EXPECT_EQ(store.Get(kDigits), 3);
+  EXPECT_EQ(store.Get(kVersionText), "new");
+  const UserSettingsStore reader(path);
+  EXPECT_EQ(reader.Get(kNumber), 2);
+  EXPECT_EQ(reader.Get(kDigits), 3);
+  EXPECT_EQ(reader.Get(kVersionText), "new");
+}
+
+TEST_F(UserSettingsStoreTest, WhatWasSavedOnceIsNoChangeAnyMore) {
+  UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  ASSERT_TRUE(store.Save());
+  PutByHand("[Config]\n\"Angle Type\" = 3");
+  store.Set(kText, "new");
+  ASSERT_TRUE(store.Save());
+  EXPECT_EQ(store.Get(kNumber), 3);
+  EXPECT_EQ(ReadNumber(), 3);
+}
+
+TEST_F(UserSettingsStoreTest, WhatIsWrittenByHandSurvivesWhateverItIs) {
+  PutByHand("mine = [1, 2.5]\n[Config]\nextra = 1979-05-27\n[Own.Table]\nx = true\n");
+  UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  ASSERT_TRUE(store.Save());
+  EXPECT_EQ(
+      FileContent(path),
+      "# Settings of Kav Calculator. They can be edited here; comments and the order of lines "
+      "are not kept.\n"
+      "mine = [1, 2.5]\n"
+      "\n[Config]\n\"Angle Type\" = 2\nextra = 1979-05-27\n"
+      "\n[Own.Table]\nx = true\n");
+}
+
+TEST_F(UserSettingsStoreTest, RefreshShowsWhatOthersSavedAndKeepsWhatIsNotSavedYet) {
+  UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  PutByHand("[Config]\n\"Angle Type\" = 5\n[History]\nCalHistory1 = 'theirs'");
+  EXPECT_EQ(store.Get(kText), "as ever");
+  store.Refresh();
+  EXPECT_EQ(store.Get(kText), "theirs");
+  EXPECT_EQ(store.Get(kNumber), 2);
+  ASSERT_TRUE(store.Save());
+  EXPECT_EQ(ReadNumber(), 2);
+}
+
+TEST_F(UserSettingsStoreTest, RefreshFromWhatCannotBeReadChangesNothing) {
+  PutByHand("[Config]\n\"Angle Type\" = 5");
+  UserSettingsStore store(path);
+  EXPECT_EQ(store.Get(kNumber), 5);
+  PutByHand("?");
+  store.Refresh();
+  EXPECT_EQ(store.Get(kNumber), 5);
+  ASSERT_EQ(truncate(path.c_str(), (64 << 20) + 1), 0);
+  store.Refresh();
+  EXPECT_EQ(store.Get(kNumber), 5);
+  unlink(path.c_str());
+  mkdir(path.c_str(), 0700);
+  store.Refresh();
+  EXPECT_EQ(store.Get(kNumber), 5);
+  EXPECT_EQ(store.TakeNotice(), std::nullopt);
+}
+
+TEST_F(UserSettingsStoreTest, AChangeFindsWhatOthersStoredAndIsOnTheDiskAtOnce) {
+  UserSettingsStore store(path);
+  EXPECT_EQ(store.Get(kNumber), 42);
+  PutByHand("[Config]\n\"Angle Type\" = 7");
+  EXPECT_TRUE(store.Change([&] { store.Set(kNumber, store.Get(kNumber) + 1); }));
+  EXPECT_EQ(store.Get(kNumber), 8);
+  EXPECT_EQ(UserSettingsStore(path).Get(kNumber), 8);
+}
+
+TEST_F(UserSettingsStoreTest, AChangeTakesAlongWhatWasNotSavedYet) {
+  UserSettingsStore store(path);
+  constexpr SettingKey<std::string_view> kVersionText{"Config", "Version", ""};
+  store.Set(kVersionText, "unsaved");
+  EXPECT_TRUE(store.Change([&] { store.Set(kNumber, 3); }));
+  const UserSettingsStore reader(path);
+  EXPECT_EQ(reader.Get(kVersionText), "unsaved");
+  EXPECT_EQ(reader.Get(kNumber), 3);
+}
+
+TEST_F(UserSettingsStoreTest, AChangeThatChangesNothingWritesNothing) {
+  UserSettingsStore store(path);
+  EXPECT_TRUE(store.Change([] {}));
+  EXPECT_FALSE(Exists(path));
+}
+
+TEST_F(UserSettingsStoreTest, TheRevisionTellsOfWhatOthersStored) {
+  UserSettingsStore store(path);
+  EXPECT_EQ(store.Get(kNumber), 42);
+  const auto before = store.Revision();
+  PutByHand("[Config]\n\"Angle Type\" = 7");
+  store.Refresh();
+  EXPECT_NE(store.Revision(), before);
+  const auto refreshed = store.Revision();
+  PutByHand("[Config]\n\"Angle Type\" = 8");
+  EXPECT_TRUE(store.Change([] {}));
+  EXPECT_NE(store.Revision(), refreshed);
+}
+
+TEST_F(UserSettingsStoreTest, RefreshBeforeTheFirstSettingTouchesNothing) {
+  PutByHand("?");
+  UserSettingsStore store(path);
+  store.Refresh();
+  PutByHand("[Config]\n\"Angle Type\" = 5");
+  EXPECT_EQ(store.Get(kNumber), 5);
+  EXPECT_EQ(store.TakeNotice(), std::nullopt);
+}
+
+TEST_F(UserSettingsStoreTest, AFileThatSomebodyDeletedIsMadeAgainFromWhatChangedSince) {
+  PutByHand("[Config]\n\"Angle Type\" = 5\n[History]\nCalHistory1 = 'old'");
+  UserSettingsStore store(path);
+  store.Set(kText, "new");
+  unlink(path.c_str());
+  ASSERT_TRUE(store.Save());
+  EXPECT_EQ(ReadText(), "new");
+  EXPECT_EQ(ReadNumber(), 42);
+}
+
+TEST_F(UserSettingsStoreTest, ALinkStaysALinkAndItsTargetIsWritten) {
+  mkdir(folder.File("dotfiles").c_str(), 0755);
+  mkdir(folder.File("sub").c_str(), 0755);
+  PutFile(folder.File("dotfiles/kav.toml"), "[Config]\n\"Angle Type\" = 5");
+  ASSERT_EQ(symlink("../dotfiles/kav.toml", path.c_str()), 0);
+  UserSettingsStore store(path);
+  EXPECT_EQ(store.Get(kNumber), 5);
+  store.Set(kNumber, 6);
+  ASSERT_TRUE(store.Save());
+  EXPECT_TRUE(S_ISLNK(StatusOf(path).st_mode));
+  EXPECT_TRUE(S_ISREG(StatusOf(folder.File("dotfiles/kav.toml")).st_mode));
+  EXPECT_EQ(ReadNumber(), 6);
+  EXPECT_TRUE(Exists(folder.File("dotfiles/kav.toml.lock"))) << "one lock for all links to a file";
+}
+
+TEST_F(UserSettingsStoreTest, ALinkToAFileThatIsNotThereMakesTheFile) {
+  mkdir(folder.File("sub").c_str(), 0755);
+  ASSERT_EQ(symlink("../dotfiles/kav.toml", path.c_str()), 0);
+  UserSettingsStore store(path);
+  store.Set(kNumber, 6);
+  ASSERT_TRUE(store.Save());
+  EXPECT_TRUE(S_ISLNK(StatusOf(path).st_mode));
+  EXPECT_TRUE(Exists(folder.File("dotfiles/kav.toml")));
+  EXPECT_EQ(ReadNumber(), 6);
+}
+
+TEST_F(UserSettingsStoreTest, WhatAKilledSaveLeftIsCleanedByTheNext) {
+  PutByHand("");
+  PutFile(path + ".new-AbC123", "half");
+  PutFile(path + ".new", "mine");
+  UserSettingsStore store(path);
+  store.Set(kNumber, 2);
+  ASSERT_TRUE(store.Save());
+  EXPECT_FALSE(Exists(path + ".new-AbC123"));
+  EXPECT_TRUE(Exists(path + ".new"));
+}
+
+TEST_F(UserSettingsStoreTest, ANameAloneIsAFileInTheWorkingFolder) {
+  EXPECT_EQ(InAnotherProcess([&] {
+              if (chdir(folder.Path().c_str()) != 0) return 2;
+              UserSettingsStore store("mine.toml");
+              store.Set(kNumber, 2);
+              return store.Save() ? 0 : 1;
+            }),
+            0);
+  EXPECT_EQ(UserSettingsStore(folder.File("mine.toml")).Get(kNumber), 2);
+}
+
+}  // namespace
+}  // namespace kav
