@@ -8,7 +8,7 @@ cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 declare -A sets=(
   # To build and run the two programs. Line editing is linked from archives, and so is what it stands
   # on; the fonts are those that look best, for the screens have room for the texts in any.
-  [run]="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libcli11-dev libtomlplusplus-dev libedit-dev
+  [run]="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libtomlplusplus-dev libedit-dev
     libncurses-dev libbsd-dev libmd-dev fonts-dejavu-extra"
   # The window on a desktop that has no X server beside its Wayland one.
   [wayland]="qt6-wayland"

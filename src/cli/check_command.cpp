@@ -1,4 +1,4 @@
-#include "cli/check_command.h"
+#include "cli/commands.h"
 
 #include "cli/cli_texts.h"
 #include "cli/items.h"

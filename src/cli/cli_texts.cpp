@@ -27,6 +27,10 @@ std::string SeeList(int number) {
 
 }  // namespace
 
+std::string VersionLine() {
+  return Joined(kProgramName, " ", KAV_VERSION "\n");
+}
+
 std::string Quoted(std::string_view text) {
   constexpr std::size_t kLongest = 40;
   if (text.size() <= kLongest) return Joined("\"", text, "\"");
@@ -109,6 +113,17 @@ std::string HasNoVerb(std::string_view command, std::string_view given) {
 
 std::string VerbTakes(std::string_view command, std::string_view verb, std::string_view arguments) {
   return Joined(command, " ", verb).append(" takes ").append(arguments);
+}
+
+std::string NotExpected(const std::vector<std::string_view>& arguments) {
+  std::string text = arguments.size() == 1 ? "The following argument was not expected:"
+                                           : "The following arguments were not expected:";
+  for (const std::string_view argument : arguments) text.append(" ").append(argument);
+  return text;
+}
+
+std::string CannotConvert(std::string_view option, std::string_view given) {
+  return Joined("Could not convert: ", option, " = ").append(given);
 }
 
 std::string OptionLacksValue(std::string_view option) {

@@ -3,12 +3,16 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kav {
 
 inline constexpr std::string_view kProgramName = "kavcalc";
 inline constexpr std::string_view kFailureMark = "error: ";
 inline constexpr std::string_view kPrompt = "> ";
+
+/// The name and version of the program, with a line end.
+std::string VersionLine();
 
 /// `text` in quotes, as messages name it; one of more than 40 bytes is cut.
 std::string Quoted(std::string_view text);
@@ -47,6 +51,9 @@ std::string IsSeveralUnits(std::string_view category, std::string_view given);
 std::string LacksVerb(std::string_view command);
 std::string HasNoVerb(std::string_view command, std::string_view given);
 std::string VerbTakes(std::string_view command, std::string_view verb, std::string_view arguments);
+/// `arguments` must not be empty.
+std::string NotExpected(const std::vector<std::string_view>& arguments);
+std::string CannotConvert(std::string_view option, std::string_view given);
 std::string OptionLacksValue(std::string_view option);
 std::string OptionTakes(std::string_view option, std::string_view values, std::string_view given);
 

@@ -2,18 +2,7 @@
 
 #include <array>
 
-#include "cli/check_command.h"
-#include "cli/constants_command.h"
-#include "cli/convert_command.h"
-#include "cli/eval_command.h"
-#include "cli/format_command.h"
 #include "cli/help_texts.h"
-#include "cli/keys_command.h"
-#include "cli/macro_command.h"
-#include "cli/matrix_command.h"
-#include "cli/memory_command.h"
-#include "cli/plot_command.h"
-#include "cli/stats_command.h"
 
 namespace kav {
 namespace {

@@ -2,23 +2,27 @@
 #pragma once
 
 #include <span>
-#include <string_view>
 
-#include "cli/options.h"
+#include "cli/command.h"
 
 namespace kav {
 
-/// One command: its name, the line and the text that explain it, and what carries it out, which
-/// answers the exit status: 0 all items were answered, 1 one at least was not.
-struct Command {
-  std::string_view name;
-  std::string_view usage;    ///< what follows "kavcalc" and stands for items in the usage line
-  std::string_view summary;  ///< a few words for the list of commands
-  std::string_view details;  ///< paragraphs for its own help
-  int (*run)(const CommandLine& line);
-};
-
-/// All commands; the first one is meant where none is named.
+/// All commands. The first one is meant if none is named.
 std::span<const Command> Commands();
+
+// What carries them out, each in a file of its own. See Command::run for what they return.
+int RunCheck(const CommandLine& line);
+int RunConstants(const CommandLine& line);
+int RunConvert(const CommandLine& line);
+int RunEval(const CommandLine& line);
+int RunFormat(const CommandLine& line);
+int RunKeys(const CommandLine& line);
+int RunMacro(const CommandLine& line);
+int RunMatrix(const CommandLine& line);
+int RunMemory(const CommandLine& line);
+int RunPlot(const CommandLine& line);
+int RunStats(const CommandLine& line);
+/// `line` is that of the command convert, without the item "user".
+int RunUserConversions(CommandLine line);
 
 }  // namespace kav

@@ -1,4 +1,4 @@
-#include "cli/constants_command.h"
+#include "cli/commands.h"
 
 #include <string>
 

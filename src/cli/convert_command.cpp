@@ -1,4 +1,4 @@
-#include "cli/convert_command.h"
+#include "cli/commands.h"
 
 #include <cmath>
 #include <functional>
@@ -12,8 +12,6 @@
 #include "cli/items.h"
 #include "cli/stored_settings.h"
 #include "cli/unit_rows.h"
-#include "cli/usage.h"
-#include "cli/user_conversions_command.h"
 #include "common/number_text.h"
 #include "converter/conversion.h"
 #include "converter/converter_texts.h"

@@ -1,4 +1,4 @@
-#include "cli/eval_command.h"
+#include "cli/commands.h"
 
 #include "cli/evaluation.h"
 #include "cli/items.h"

@@ -1,4 +1,4 @@
-#include "cli/keys_command.h"
+#include "cli/commands.h"
 
 #include "cli/items.h"
 #include "cli/key_sequence.h"

@@ -1,4 +1,4 @@
-#include "cli/macro_command.h"
+#include "cli/commands.h"
 
 #include <array>
 #include <cstddef>

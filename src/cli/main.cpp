@@ -1,8 +1,8 @@
 // kavcalc: the calculator without its screens.
 #include "cli/answer_writer.h"
+#include "cli/command_line.h"
 #include "cli/commands.h"
 #include "cli/descriptor.h"
-#include "cli/options.h"
 
 namespace {
 
@@ -21,7 +21,7 @@ int Say(const kav::EarlyEnd& end) {
 
 int main(int argc, char** argv) {
   kav::ReserveStandardFiles();
-  const auto line = kav::ReadCommandLine({argv + (argc > 0 ? 1 : 0), argv + argc});
+  const auto line = kav::ReadCommandLine({argv + (argc > 0 ? 1 : 0), argv + argc}, kav::Commands());
   if (!line) return Say(line.error());
   return line->command->run(*line);
 }

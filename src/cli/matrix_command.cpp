@@ -1,4 +1,4 @@
-#include "cli/matrix_command.h"
+#include "cli/commands.h"
 
 #include <string>
 #include <string_view>
@@ -6,7 +6,6 @@
 
 #include "cli/evaluation.h"
 #include "cli/items.h"
-#include "cli/usage.h"
 #include "common/expected.h"
 #include "common/number_text.h"
 #include "matrix/matrix_evaluator.h"

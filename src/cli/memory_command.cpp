@@ -1,4 +1,4 @@
-#include "cli/memory_command.h"
+#include "cli/commands.h"
 
 #include <array>
 #include <charconv>
@@ -10,7 +10,6 @@
 #include "cli/evaluation.h"
 #include "cli/items.h"
 #include "cli/stored_settings.h"
-#include "cli/usage.h"
 #include "cli/verbs.h"
 #include "common/number_text.h"
 #include "display/number_format.h"

@@ -1,12 +1,16 @@
 #include "cli/option_rows.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <string>
 #include <system_error>
 
+#include "common/number_text.h"
 #include "display/number_input.h"
+#include "engine/expression_engine.h"
 
 namespace kav {
 namespace {
@@ -62,14 +66,29 @@ bool TakeSettings(std::string_view, std::string_view given, Options& options) {
   return !given.empty();
 }
 
-bool TakeRaw(std::string_view, std::string_view, Options& options) {
-  return options.isRaw = true;
+bool TakeHelp(std::string_view, std::string_view, Options& options) {
+  return options.asksHelp = true;
 }
-bool TakeSteps(std::string_view, std::string_view, Options& options) {
-  return options.showsSteps = true;
+
+/// A switch stands alone, or is told to be on or off as in "--raw=off".
+bool TakeSwitch(std::string_view given, bool& isOn) {
+  constexpr std::string_view kOn = "|true|on|yes|enable|t|y|+";
+  constexpr std::string_view kOff = "false|off|no|disable|n|f|-";
+  const std::string folded = FoldCase(given, BaseMode::Decimal);
+  isOn = IndexIn(kOn, folded) || ReadLeadingNumber(given) > 0;
+  return isOn || IndexIn(kOff, folded) || given.find_first_of("0123456789") != given.npos;
 }
-bool TakeList(std::string_view, std::string_view, Options& options) {
-  return options.listsUnits = true;
+bool TakeVersion(std::string_view, std::string_view given, Options& options) {
+  return TakeSwitch(given, options.asksVersion);
+}
+bool TakeRaw(std::string_view, std::string_view given, Options& options) {
+  return TakeSwitch(given, options.isRaw);
+}
+bool TakeSteps(std::string_view, std::string_view given, Options& options) {
+  return TakeSwitch(given, options.showsSteps);
+}
+bool TakeList(std::string_view, std::string_view given, Options& options) {
+  return TakeSwitch(given, options.listsUnits);
 }
 
 /// For the file of the matrix kSlot.
@@ -98,8 +117,10 @@ bool TakeArea(std::string_view values, std::string_view given, Options& options)
          TakeInteger(words[1], options.area.bottom);
 }
 
-bool TakeTwo(std::string_view, std::string_view, Options& options) {
-  options.shape = DataShape::TwoVariables;
+bool TakeTwo(std::string_view, std::string_view given, Options& options) {
+  bool isOn = false;
+  if (!TakeSwitch(given, isOn)) return false;
+  options.shape = isOn ? DataShape::TwoVariables : DataShape::OneVariable;
   return true;
 }
 bool TakeModel(std::string_view choices, std::string_view given, Options& options) {
@@ -122,6 +143,8 @@ bool TakeEstimateAtY(std::string_view, std::string_view given, Options& options)
 
 static_assert(DisplayFormat::kMaxPrecision == 99, "the help names the limit");
 constexpr std::array kOptions{
+    OptionRow{"-h,--help", "", "print this help and end", "", TakeHelp},
+    OptionRow{"--version", "", "print the version and end", "", TakeVersion},
     OptionRow{"--angle", "deg|rad", R"(angle unit [the stored "Angle Type"])", "", TakeAngle},
     OptionRow{"--base", "dec|hex|bin|oct", "number base [dec]", "", TakeBase},
     OptionRow{"--display", "floating|fixed|scientific|thousands|engineering",
@@ -177,6 +200,14 @@ std::optional<VariableType> VariablesCalled(std::string_view names) {
 
 std::span<const OptionRow> OptionRows() {
   return kOptions;
+}
+
+const OptionRow* FindOption(std::string_view name) {
+  // Letters behind -h would be switches of one letter, and there is no other.
+  if (name == "--help" || name.substr(0, 2) == "-h") return kOptions.data();
+  const auto found = std::find_if(kOptions.begin(), kOptions.end(),
+                                  [name](const OptionRow& row) { return row.name == name; });
+  return found == kOptions.end() ? nullptr : &*found;
 }
 
 }  // namespace kav

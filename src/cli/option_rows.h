@@ -10,31 +10,37 @@
 
 namespace kav {
 
-/// What counts where an option is given several times.
+/// What counts if an option is given several times.
 enum class Repeated { LastCounts, EachCounts };
 
-/// One option. `values` is what its value may be, as the help shows it and `take` reads it; empty
-/// for a switch, and of several Words where the option has as many values. `take` puts the value,
-/// all of them with blanks between, into the options, or answers false where it is none.
+/// One option. `take` puts what was given into the options; false if it is none of `values`.
 struct OptionRow {
-  const char* name;
-  std::string_view values;
-  const char* help;
+  std::string_view name;
+  std::string_view
+      values;  ///< what it takes, as in the help: a word for each value; empty: a switch
+  std::string_view help;
   std::string_view commands;  ///< those that have it, separated by '|'; empty: all have it
+  /// `given` are all values, with blanks between them. For a switch it is what follows '='.
   bool (*take)(std::string_view values, std::string_view given, Options& options);
   Repeated repeated = Repeated::LastCounts;
+
+  bool TakesValue() const { return !values.empty(); }
 };
 
-/// The parts of `text` between blanks.
+/// The parts of `text` between blanks. They view it.
 std::vector<std::string_view> Words(std::string_view text);
 
 /// Whether `command` has the option.
 bool IsFor(const OptionRow& row, std::string_view command);
 
-/// What `names`, spelled as the option for variables takes it, stands for; nullopt for nothing.
+/// The variables that `names` stands for, spelled as the option --variables takes it; nullopt if it
+/// is spelled otherwise.
 std::optional<VariableType> VariablesCalled(std::string_view names);
 
-/// All options but help and version, in the order of the help.
+/// All options, in the order of the help.
 std::span<const OptionRow> OptionRows();
+
+/// The option called `name` on the command line; nullptr if there is none.
+const OptionRow* FindOption(std::string_view name);
 
 }  // namespace kav

@@ -1,14 +1,11 @@
-// What kavcalc is asked to do: the command, its options and its items.
+// The options of kavcalc's commands.
 #pragma once
 
 #include <array>
 #include <optional>
-#include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "common/expected.h"
 #include "display/number_format.h"
 #include "engine/calc_modes.h"
 #include "engine/tokenizer.h"
@@ -20,11 +17,11 @@
 
 namespace kav {
 
-struct Command;
-
 /// The options of all commands, with their defaults.
 struct Options {
-  std::optional<AngleUnit> angle;  ///< none: the stored one
+  bool asksHelp = false;
+  bool asksVersion = false;
+  std::optional<AngleUnit> angle;  ///< nullopt: the stored one
   BaseMode base = BaseMode::Decimal;
   DisplayFormat display{.type = DisplayType::FloatingPoint};
   bool isRaw = false;        ///< 17 significant digits instead of `display` and `base`
@@ -32,32 +29,13 @@ struct Options {
   VariableType variables = VariableType::X;
   bool showsSteps = false;
   bool listsUnits = false;
-  std::array<std::string, kMatrixCount> matrixFiles;  ///< empty where there is none
+  std::array<std::string, kMatrixCount> matrixFiles;  ///< paths; empty: no file
   DataShape shape = DataShape::OneVariable;
   RegressionModel model = RegressionModel::Linear;
-  std::vector<double> estimatesAtX;  ///< where Y is asked for
-  std::vector<double> estimatesAtY;  ///< where X is
-  PlotRange range;                   ///< as given: perhaps one to refuse
-  PlotRows area;                     ///< as given, even if bottom is above
+  std::vector<double> estimatesAtX;  ///< finite; each asks for an estimate of Y
+  std::vector<double> estimatesAtY;  ///< finite; each asks for an estimate of X
+  PlotRange range;                   ///< not checked: may be one that the plotter refuses
+  PlotRows area;                     ///< not checked: `bottom` may be above `top`
 };
-
-/// A command line that can be carried out. `items` are what the command works on, in order; with
-/// none it works on standard input. They view the arguments, which must outlive them.
-struct CommandLine {
-  const Command* command;
-  Options options;
-  std::vector<std::string_view> items;
-};
-
-/// Why nothing is to be carried out: help or version was asked for (status 0, `text` is the answer)
-/// or the arguments are unusable (status 2, `text` is the reason and a usage line).
-struct EarlyEnd {
-  int status;
-  std::string text;
-};
-
-/// Reads the arguments behind the program's name. The first of them that is no option tells the
-/// command by its name, or else is an expression for the command eval.
-Expected<CommandLine, EarlyEnd> ReadCommandLine(std::span<const char* const> arguments);
 
 }  // namespace kav

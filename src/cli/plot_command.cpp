@@ -1,4 +1,4 @@
-#include "cli/plot_command.h"
+#include "cli/commands.h"
 
 #include <algorithm>
 #include <array>
@@ -10,7 +10,6 @@
 #include "cli/cli_texts.h"
 #include "cli/items.h"
 #include "cli/stored_settings.h"
-#include "cli/usage.h"
 #include "common/number_text.h"
 #include "engine/formula_checker.h"
 #include "plotter/curve_sampling.h"

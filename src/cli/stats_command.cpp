@@ -1,4 +1,4 @@
-#include "cli/stats_command.h"
+#include "cli/commands.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -14,7 +14,6 @@
 #include "cli/cli_texts.h"
 #include "cli/descriptor.h"
 #include "cli/items.h"
-#include "cli/usage.h"
 #include "common/number_text.h"
 #include "settings/file_descriptor.h"
 #include "settings/file_error.h"

@@ -1,4 +1,4 @@
-#include "cli/user_conversions_command.h"
+#include "cli/commands.h"
 
 #include <algorithm>
 #include <array>
@@ -8,8 +8,6 @@
 #include <vector>
 
 #include "cli/cli_texts.h"
-#include "cli/commands.h"
-#include "cli/convert_command.h"
 #include "cli/help_texts.h"
 #include "cli/items.h"
 #include "cli/stored_settings.h"

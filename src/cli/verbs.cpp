@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "cli/cli_texts.h"
-#include "cli/usage.h"
 
 namespace kav {
 namespace {

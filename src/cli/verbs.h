@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "cli/options.h"
+#include "cli/command.h"
 
 namespace kav {
 

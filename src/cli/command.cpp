@@ -1,4 +1,4 @@
-#include "cli/usage.h"
+#include "cli/command.h"
 
 #include <unistd.h>
 

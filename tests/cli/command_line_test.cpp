@@ -1,4 +1,4 @@
-#include "cli/options.h"
+#include "cli/command_line.h"
 
 #include <gtest/gtest.h>
 
@@ -13,12 +13,12 @@ using Items = std::vector<std::string_view>;
 
 /// What a command line that can be carried out says, as one value.
 CommandLine Read(const Arguments& arguments) {
-  const auto line = ReadCommandLine(arguments);
+  const auto line = ReadCommandLine(arguments, Commands());
   EXPECT_TRUE(line) << line.error().text;
   return line ? *line : CommandLine{&Commands().front(), {}, {}};
 }
 
-TEST(Options, WithoutArgumentsAllIsAsTheHelpSays) {
+TEST(CommandLine, WithoutArgumentsAllIsAsTheHelpSays) {
   const CommandLine line = Read({});
   EXPECT_EQ(line.command->name, "eval");
   EXPECT_EQ(line.items, Items{});
@@ -35,7 +35,7 @@ TEST(Options, WithoutArgumentsAllIsAsTheHelpSays) {
   EXPECT_EQ(line.options.area.bottom, 229);
 }
 
-TEST(Options, EachChoiceStandsForItsValue) {
+TEST(CommandLine, EachChoiceStandsForItsValue) {
   EXPECT_EQ(Read({"--angle", "deg"}).options.angle, AngleUnit::Degrees);
   EXPECT_EQ(Read({"--angle", "rad"}).options.angle, AngleUnit::Radians);
   EXPECT_EQ(Read({"--base", "dec"}).options.base, BaseMode::Decimal);
@@ -59,7 +59,7 @@ TEST(Options, EachChoiceStandsForItsValue) {
   EXPECT_EQ(Read({"macro", "--variables", "xy"}).options.variables, VariableType::XY);
 }
 
-TEST(Options, VariablesAreCalledAsTheirOptionTakesThem) {
+TEST(CommandLine, VariablesAreCalledAsTheirOptionTakesThem) {
   EXPECT_EQ(VariablesCalled("x"), VariableType::X);
   EXPECT_EQ(VariablesCalled("xy"), VariableType::XY);
   EXPECT_EQ(VariablesCalled("xyz"), VariableType::XYZ);
@@ -68,7 +68,7 @@ TEST(Options, VariablesAreCalledAsTheirOptionTakesThem) {
   }
 }
 
-TEST(Options, SwitchesTextsAndNumbers) {
+TEST(CommandLine, SwitchesTextsAndNumbers) {
   const CommandLine line =
       Read({"check", "--raw", "--steps", "--settings", "a=b", "--precision", "12"});
   EXPECT_TRUE(line.options.isRaw);
@@ -80,7 +80,18 @@ TEST(Options, SwitchesTextsAndNumbers) {
   EXPECT_EQ(Read({"--settings", "--raw"}).options.settingsFile, "--raw");
 }
 
-TEST(Options, OptionsOfSeveralValuesTakeThemAsOneArgumentOrSeveral) {
+TEST(CommandLine, ASwitchMayBeToldToBeOnOrOff) {
+  for (const char* on : {"--raw", "--raw=", "--raw=true", "--raw=ON", "--raw=yes", "--raw=1"}) {
+    EXPECT_TRUE(Read({on}).options.isRaw) << on;
+  }
+  for (const char* off : {"--raw=false", "--raw=Off", "--raw=no", "--raw=0", "--raw=-1"}) {
+    EXPECT_FALSE(Read({"--raw", off}).options.isRaw) << off;
+  }
+  EXPECT_EQ(Read({"stats", "--two", "--two=no"}).options.shape, DataShape::OneVariable);
+  EXPECT_FALSE(Read({"--version=no"}).options.asksVersion);
+}
+
+TEST(CommandLine, OptionsOfSeveralValuesTakeThemAsOneArgumentOrSeveral) {
   const Arguments rows[] = {{"plot", "--range", "-1", "2", "-3e2", ".5", "x"},
                             {"plot", "--range", "-1 2 -3e2 .5", "x"},
                             {"plot", "--range=-1", "2", "-3e2 .5", "x"},
@@ -97,14 +108,14 @@ TEST(Options, OptionsOfSeveralValuesTakeThemAsOneArgumentOrSeveral) {
   EXPECT_EQ(line.items, Items{"-1"});
 }
 
-TEST(Options, WordsAreWhatIsBetweenBlanks) {
+TEST(CommandLine, WordsAreWhatIsBetweenBlanks) {
   EXPECT_EQ(Words(""), Items{});
   EXPECT_EQ(Words("  "), Items{});
   EXPECT_EQ(Words("a"), Items{"a"});
   EXPECT_EQ(Words(" a  bc d "), (Items{"a", "bc", "d"}));
 }
 
-TEST(Options, TheFirstArgumentThatIsNoOptionMayNameACommand) {
+TEST(CommandLine, TheFirstArgumentThatIsNoOptionMayNameACommand) {
   struct Row {
     Arguments arguments;
     std::string_view command;
@@ -142,7 +153,7 @@ TEST(Options, TheFirstArgumentThatIsNoOptionMayNameACommand) {
   }
 }
 
-TEST(Options, UnusableArgumentsEndWithStatus2) {
+TEST(CommandLine, UnusableArgumentsEndWithStatus2) {
   const std::vector<Arguments> rows{
       {"--bogus"},
       {"-pi"},
@@ -167,7 +178,7 @@ TEST(Options, UnusableArgumentsEndWithStatus2) {
       {"--range", "0", "1", "0", "1"},
   };
   for (const Arguments& arguments : rows) {
-    const auto line = ReadCommandLine(arguments);
+    const auto line = ReadCommandLine(arguments, Commands());
     ASSERT_FALSE(line) << arguments.front();
     EXPECT_EQ(line.error().status, 2) << arguments.front();
     EXPECT_EQ(line.error().text.substr(0, 9), "kavcalc: ") << arguments.front();
@@ -175,9 +186,17 @@ TEST(Options, UnusableArgumentsEndWithStatus2) {
   }
 }
 
-TEST(Options, HelpAndVersionEndWithStatus0) {
+TEST(CommandLine, OptionsThatTheCommandLacksAreNamedTheLastFirst) {
+  const auto line = ReadCommandLine(Arguments{"--bogus=3", "1", "--x", "2", "--two"}, Commands());
+  ASSERT_FALSE(line);
+  EXPECT_EQ(line.error().text,
+            "kavcalc: The following arguments were not expected: --two 2 --x --bogus=3\n"
+            "Usage: kavcalc [eval] [OPTION]... [--] [EXPRESSION]...\n");
+}
+
+TEST(CommandLine, HelpAndVersionEndWithStatus0) {
   for (const char* argument : {"--help", "-h", "--version"}) {
-    const auto line = ReadCommandLine(Arguments{argument});
+    const auto line = ReadCommandLine(Arguments{argument}, Commands());
     ASSERT_FALSE(line) << argument;
     EXPECT_EQ(line.error().status, 0) << argument;
     EXPECT_EQ(line.error().text.back(), '\n') << argument;
