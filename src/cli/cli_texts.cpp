@@ -1,6 +1,7 @@
 #include "cli/cli_texts.h"
 
 #include "common/number_text.h"
+#include "common/version.h"
 
 namespace kav {
 namespace {

@@ -3,15 +3,17 @@
 
 #include <string_view>
 
+#include "common/version.h"
+
 namespace kav {
 
 inline constexpr std::u16string_view kApplicationName = u"Kav Calculator";
 inline constexpr std::u16string_view kLoading = u"Loading...";
 
 // The version that the settings and the about box name.
-inline constexpr std::string_view kVersionNumber = "2.5";
+inline constexpr std::string_view kVersionNumber = KAV_VERSION;
 inline constexpr std::u16string_view kAbout =
-    u"Kav Calculator 2.5\n\n"
+    u"Kav Calculator " KAV_VERSION "\n\n"
     u"A scientific calculator with an expression line,\n"
     u"number bases, a history and macros.\n\n"
     u"kavcalc is the same for the command line.";
