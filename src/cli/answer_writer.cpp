@@ -21,33 +21,32 @@ bool IsControl(char c) {
 
 }  // namespace
 
+std::string Line(std::string_view text) {
+  std::string line(text);
+  std::replace(line.begin(), line.end(), '\n', ' ');
+  return line += '\n';
+}
+
+std::string Row(std::initializer_list<std::string_view> columns) {
+  std::string row;
+  for (const std::string_view column : columns) {
+    std::replace_copy_if(column.begin(), column.end(), std::back_inserter(row), IsControl, ' ');
+    row += '\t';
+  }
+  row.back() = '\n';
+  return row;
+}
+
 AnswerWriter::AnswerWriter() : flushAt_(isatty(STDOUT_FILENO) != 0 ? 1 : kBlock) {}
 
-void AnswerWriter::Answer(std::string_view text) {
-  AppendOnOneLine(text);
-  End();
-}
-
-void AnswerWriter::AnswerRow(std::initializer_list<std::string_view> columns) {
-  for (const std::string_view column : columns) {
-    std::replace_copy_if(column.begin(), column.end(), std::back_inserter(text_), IsControl, ' ');
-    text_ += '\t';
+void AnswerWriter::Write(const Answer& answer) {
+  if (answer) {
+    text_ += *answer;
+  } else {
+    isComplete_ = false;
+    text_.append(kFailureMark).append(Line(answer.error().message));
   }
-  text_.pop_back();
-  End();
-}
-
-void AnswerWriter::Fail(std::string_view message) {
-  isComplete_ = false;
-  text_ += kFailureMark;
-  Answer(message);
-}
-
-// A message may name a character, and an argument may hold line breaks.
-void AnswerWriter::AppendOnOneLine(std::string_view text) {
-  const std::size_t start = text_.size();
-  text_ += text;
-  std::replace(text_.begin() + static_cast<std::ptrdiff_t>(start), text_.end(), '\n', ' ');
+  if (text_.size() >= flushAt_) Flush();
 }
 
 void AnswerWriter::Flush() {
@@ -59,6 +58,12 @@ int AnswerWriter::Finish() {
   Flush();
   if (IsBroken() && error_ != EPIPE) Tell(CannotWrite(SystemReason(error_)));
   return isComplete_ && !IsBroken() ? 0 : 1;
+}
+
+int AnswerOnce(const Answer& answer) {
+  AnswerWriter answers;
+  answers.Write(answer);
+  return answers.Finish();
 }
 
 void Tell(std::string_view text) {

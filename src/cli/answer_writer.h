@@ -1,54 +1,63 @@
-// Standard output, one line for each item.
+// The answers to items, and standard output, which they are written to.
 #pragma once
 
 #include <initializer_list>
 #include <string>
 #include <string_view>
 
+#include "common/expected.h"
+
 namespace kav {
 
-/// Collects answers and writes them in blocks, at a terminal each at once. Remembers whether every
-/// item was answered. Once a write has failed, nothing more is written or kept.
+/// Why an item has no answer. The message may hold line breaks.
+struct Failure {
+  std::string message;
+};
+
+/// What an item is answered with: lines, each with its end, or a failure.
+using Answer = Expected<std::string, Failure>;
+
+/// `text` as one line, with its end. Line breaks within it become blanks: a message may name a
+/// character, and an argument may hold line breaks.
+std::string Line(std::string_view text);
+
+/// `columns` as one line, with a tab between two of them and its end. Tabs, line breaks and other
+/// control characters within them become blanks.
+std::string Row(std::initializer_list<std::string_view> columns);
+
+/// Writes answers to standard output in blocks, or each at once if it is a terminal. Remembers
+/// whether every item was answered. Once a write has failed, nothing more is written or kept.
 class AnswerWriter {
  public:
   AnswerWriter();
 
-  /// The answer being made: append its text, then call End. What was there before must stay.
-  std::string& Text() { return text_; }
-  void End() {
-    text_ += '\n';
-    if (text_.size() >= flushAt_) Flush();
-  }
-  void Answer(std::string_view text);
-  /// Answers with columns, a tab between them. Tabs, line breaks and the like within them become
-  /// blanks, so that a row stays one.
-  void AnswerRow(std::initializer_list<std::string_view> columns);
-  /// Answers that the item failed, and why.
-  void Fail(std::string_view message);
+  /// A failure becomes one line behind the failure mark.
+  void Write(const Answer& answer);
   /// Remembers that an item stays without an answer.
   void MarkIncomplete() { isComplete_ = false; }
 
   void Flush();
-  /// Whether writing on makes no sense any more.
+  /// Whether a write has failed, so that there is no use in going on.
   bool IsBroken() const { return error_ != 0; }
 
-  /// Writes what is left and tells standard error of a failure to write, unless it was that nobody
-  /// reads any more. Answers the exit status: 0 where every item was answered, else 1.
+  /// Writes what is left. Tells standard error if writing failed, unless the reader has gone.
+  /// Returns the exit status: 0 if every item was answered, else 1.
   int Finish();
 
  private:
-  void AppendOnOneLine(std::string_view text);
-
   std::string text_;
   std::size_t flushAt_;
   bool isComplete_ = true;
-  int error_ = 0;  ///< the system's number of the failure to write
+  int error_ = 0;  ///< errno of the write that failed, or 0
 };
 
-/// Writes `text` to standard error behind the program's name.
+/// Writes `answer` to standard output. Returns the exit status as AnswerWriter::Finish does.
+int AnswerOnce(const Answer& answer);
+
+/// Writes `text` to standard error, on a line behind the program's name.
 void Tell(std::string_view text);
 
-/// The system's words for its error `number`.
+/// The system's text for the errno `number`.
 std::string SystemReason(int number);
 
 }  // namespace kav

@@ -1,5 +1,8 @@
 #include "cli/commands.h"
 
+#include <string>
+#include <utility>
+
 #include "cli/cli_texts.h"
 #include "cli/items.h"
 #include "engine/formula_checker.h"
@@ -7,24 +10,21 @@
 namespace kav {
 namespace {
 
-void AnswerSteps(const StepList& steps, AnswerWriter& answers) {
-  for (int i = 0; i < steps.Count(); ++i) answers.Answer("  " + DescribeStep(steps[i]));
-}
-
-void AnswerFormula(std::string_view formula, const Options& options, AnswerWriter& answers) {
-  const auto checked = CheckFormula(formula, options.variables);
-  if (!checked) return answers.Fail(checked.error().message);
-  answers.Answer(kDone);
-  if (options.showsSteps) AnswerSteps(checked->Steps(), answers);
+Answer AnswerFormula(std::string_view formula, const Options& options) {
+  auto checked = CheckFormula(formula, options.variables);
+  if (!checked) return Failure{std::move(checked).error().message};
+  std::string lines = Line(kDone);
+  if (!options.showsSteps) return lines;
+  const StepList& steps = checked->Steps();
+  for (int i = 0; i < steps.Count(); ++i) lines += Line("  " + DescribeStep(steps[i]));
+  return lines;
 }
 
 }  // namespace
 
 int RunCheck(const CommandLine& line) {
-  AnswerWriter answers;
-  ForEachItem(line.items, kLongestExpression, answers,
-              [&](std::string_view item) { AnswerFormula(item, line.options, answers); });
-  return answers.Finish();
+  return AnswerItems(line.items, kLongestExpression,
+                     [&](std::string_view item) { return AnswerFormula(item, line.options); });
 }
 
 }  // namespace kav

@@ -18,18 +18,14 @@ std::u16string FilterOf(const std::vector<std::string_view>& words) {
 }  // namespace
 
 int RunConstants(const CommandLine& line) {
-  AnswerWriter answers;
   const auto constants = LoadConstants(ConstantsFolders());
-  if (!constants) {
-    answers.Fail(Narrow(constants.error()));
-    return answers.Finish();
-  }
+  if (!constants) return AnswerOnce(Failure{Narrow(constants.error())});
   const std::u16string filter = FilterOf(line.items);
+  std::string rows;
   for (const Constant& constant : *constants) {
-    if (!Matches(constant, filter)) continue;
-    answers.AnswerRow({Narrow(constant.name), Narrow(constant.value)});
+    if (Matches(constant, filter)) rows += Row({Narrow(constant.name), Narrow(constant.value)});
   }
-  return answers.Finish();
+  return AnswerOnce(rows);
 }
 
 }  // namespace kav

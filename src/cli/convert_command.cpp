@@ -74,14 +74,13 @@ Expected<Asked, std::string> Ask(const std::vector<std::string_view>& items,
   return Asked{ConversionOf(*category, rows, places), names + 1};
 }
 
-void AnswerConverted(std::string_view text, const Asked& asked, const Options& options,
-                     AnswerWriter& answers) {
+Answer AnswerConverted(std::string_view text, const Asked& asked, const Options& options) {
   const auto value = ReadShownNumber(text);
-  if (!value) return answers.Fail(NotANumber(text));
+  if (!value) return Failure{NotANumber(text)};
   const double converted = asked.convert(*value);
   // With 17 digits an infinity could be printed, but it is no answer.
-  if (!std::isfinite(converted)) return answers.Fail(MakeError(CalcErrorCode::OutOfRange).message);
-  AnswerNumber(converted, options, answers);
+  if (!std::isfinite(converted)) return Failure{MakeError(CalcErrorCode::OutOfRange).message};
+  return NumberAnswer(converted, options);
 }
 
 int Convert(CommandLine line) {
@@ -91,10 +90,9 @@ int Convert(CommandLine line) {
   if (!asked) return Complain(asked.error(), *line.command);
   line.items.erase(line.items.begin(),
                    line.items.begin() + static_cast<std::ptrdiff_t>(asked->names));
-  AnswerWriter answers;
-  ForEachItem(line.items, LineReader::kAnyLength, answers,
-              [&](std::string_view item) { AnswerConverted(item, *asked, line.options, answers); });
-  return answers.Finish();
+  return AnswerItems(line.items, LineReader::kAnyLength, [&](std::string_view item) {
+    return AnswerConverted(item, *asked, line.options);
+  });
 }
 
 int ListUnits(const CommandLine& line) {
@@ -104,14 +102,14 @@ int ListUnits(const CommandLine& line) {
     return Complain(NoCategoryIs(line.items.front()), *line.command);
   }
   StoredSettings settings(line.options);
-  AnswerWriter answers;
+  std::string rows;
   for (const UnitCategory& category : UnitCategories()) {
     if (only != nullptr && only != &category) continue;
     for (const auto& [name, rate] : UnitRows(category, settings.Store())) {
-      answers.AnswerRow({Narrow(category.caption), name, rate});
+      rows += Row({Narrow(category.caption), name, rate});
     }
   }
-  return answers.Finish();
+  return AnswerOnce(rows);
 }
 
 }  // namespace

@@ -8,11 +8,9 @@ namespace kav {
 
 int RunEval(const CommandLine& line) {
   if (line.items.empty() && CanPrompt()) return RunPrompt(line.options);
-  AnswerWriter answers;
   Evaluation evaluation(line.options);
-  ForEachItem(line.items, kLongestExpression, answers,
-              [&](std::string_view item) { evaluation.Answer(item, answers); });
-  return answers.Finish();
+  return AnswerItems(line.items, kLongestExpression,
+                     [&](std::string_view item) { return evaluation.AnswerTo(item); });
 }
 
 }  // namespace kav

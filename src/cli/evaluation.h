@@ -1,42 +1,43 @@
 // Expressions as the commands evaluate them.
 #pragma once
 
-#include <optional>
+#include <string>
 #include <string_view>
 
 #include "cli/answer_writer.h"
 #include "cli/options.h"
 #include "cli/stored_settings.h"
-#include "common/expected.h"
+#include "engine/calc_error.h"
 #include "macros/line_evaluator.h"
 #include "macros/macro_store.h"
 
 namespace kav {
 
-/// Evaluates lines with the user's macros and, unless the options name one, in the user's angle
-/// unit. The options must outlive it.
+/// Evaluates lines with the user's macros, in the base and the angle unit of the options, which
+/// must outlive it. Without an angle unit there, the stored one counts.
 class Evaluation {
  public:
   explicit Evaluation(const Options& options);
 
   /// The value of `line`, or why it has none.
   Expected<double, LineFailure> Value(std::string_view line);
-  /// Answers `line` with the text of the result line.
-  void Answer(std::string_view line, AnswerWriter& answers);
+  /// The NumberAnswer of its value, or why it has none.
+  Answer AnswerTo(std::string_view line);
 
   const MacroStore& Macros() const { return macros_; }
   StoredSettings& Settings() { return settings_; }
 
  private:
-  CalcModes ModesFor(std::string_view line);
-
   const Options& options_;
   StoredSettings settings_;
   MacroStore macros_;
-  std::optional<AngleUnit> angle_;
 };
 
-/// Answers with `value` as the options want it shown.
-void AnswerNumber(double value, const Options& options, AnswerWriter& answers);
+/// The text of `value` in the display, precision and base of the options, or with 17 significant
+/// digits if they ask for raw numbers. Fails if it cannot be shown so.
+CalcResult<std::string> ShownNumber(double value, const Options& options);
+
+/// The ShownNumber as a line.
+Answer NumberAnswer(double value, const Options& options);
 
 }  // namespace kav

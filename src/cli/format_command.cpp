@@ -8,19 +8,17 @@
 namespace kav {
 namespace {
 
-void AnswerText(std::string_view text, const Options& options, AnswerWriter& answers) {
+Answer AnswerText(std::string_view text, const Options& options) {
   const auto value = ReadWholeNumber(text);
-  if (!value) return answers.Fail(NotANumber(text));
-  AnswerNumber(*value, options, answers);
+  if (!value) return Failure{NotANumber(text)};
+  return NumberAnswer(*value, options);
 }
 
 }  // namespace
 
 int RunFormat(const CommandLine& line) {
-  AnswerWriter answers;
-  ForEachItem(line.items, LineReader::kAnyLength, answers,
-              [&](std::string_view item) { AnswerText(item, line.options, answers); });
-  return answers.Finish();
+  return AnswerItems(line.items, LineReader::kAnyLength,
+                     [&](std::string_view item) { return AnswerText(item, line.options); });
 }
 
 }  // namespace kav

@@ -5,25 +5,54 @@
 #include "cli/cli_texts.h"
 
 namespace kav {
+namespace {
 
-std::vector<std::string_view> Columns(std::string_view line, std::size_t most) {
-  std::vector<std::string_view> columns;
-  for (std::size_t tab = line.find('\t'); tab != line.npos && columns.size() + 1 < most;
+Items PartsOf(std::string_view line, std::size_t most) {
+  Items parts;
+  parts.reserve(most);
+  for (std::size_t tab = line.find('\t'); tab != line.npos && parts.size() + 1 < most;
        tab = line.find('\t')) {
-    columns.push_back(line.substr(0, tab));
+    parts.push_back(line.substr(0, tab));
     line.remove_prefix(tab + 1);
   }
-  columns.push_back(line);
-  return columns;
+  parts.push_back(line);
+  return parts;
 }
 
-InputLines::InputLines(std::size_t longest, AnswerWriter& answers)
-    : answers_(answers), reader_(STDIN_FILENO, longest, [&answers] { answers.Flush(); }) {}
+}  // namespace
 
-InputLines::~InputLines() {
-  if (reader_.Error() == 0) return;
-  answers_.MarkIncomplete();
-  Tell(CannotRead(SystemReason(reader_.Error())));
+void ForEachItem(const Items& items, std::size_t longest, AnswerWriter& answers,
+                 const std::function<void(std::string_view item)>& take) {
+  for (const std::string_view item : items) take(item);
+  if (!items.empty()) return;
+  LineReader lines(STDIN_FILENO, longest, [&answers] { answers.Flush(); });
+  while (!answers.IsBroken()) {
+    const auto line = lines.Next();
+    if (!line) break;
+    take(*line);
+  }
+  if (lines.Error() == 0) return;
+  answers.MarkIncomplete();
+  Tell(CannotRead(SystemReason(lines.Error())));
+}
+
+int AnswerItems(const Items& items, std::size_t longest,
+                const std::function<Answer(std::string_view item)>& answerTo) {
+  AnswerWriter answers;
+  ForEachItem(items, longest, answers,
+              [&](std::string_view item) { answers.Write(answerTo(item)); });
+  return answers.Finish();
+}
+
+int AnswerParts(const Items& items, std::size_t most, std::size_t longest,
+                const std::function<Answer(const Items& parts)>& answerTo) {
+  if (!items.empty()) return AnswerOnce(answerTo(items));
+  return AnswerItems(
+      {}, longest, [&](std::string_view line) { return answerTo(PartsOf(line, most)); });
+}
+
+std::string_view PartAt(const Items& parts, std::size_t index) {
+  return index < parts.size() ? parts[index] : std::string_view();
 }
 
 }  // namespace kav

@@ -25,8 +25,7 @@ void CopyMacros(const SettingsStore& from, SettingsStore& to) {
 void SetUp(SettingsStore& screen, const Options& options) {
   StoredSettings stored(options);
   CopyMacros(stored.Store(), screen);
-  const AngleUnit angle = options.angle ? *options.angle : stored.Angle();
-  screen.Set(kAngleType, static_cast<std::int32_t>(angle));
+  screen.Set(kAngleType, static_cast<std::int32_t>(stored.Angle()));
   screen.Set(kBaseType, static_cast<std::int32_t>(options.base));
   screen.Set(kDisplayType, static_cast<std::int32_t>(options.display.type));
   screen.Set(kPrecision, options.display.precision);
@@ -51,9 +50,9 @@ int RunKeys(const CommandLine& line) {
     if (!complaint) complaint = sequence.Take(item);
   });
   if (complaint) {
-    answers.Fail(*complaint);
+    answers.Write(Failure{*complaint});
   } else {
-    answers.Answer(MarkedLine(screen.Line()) + "\t" + ResultShown(screen, line.options));
+    answers.Write(Line(MarkedLine(screen.Line()) + "\t" + ResultShown(screen, line.options)));
   }
   return answers.Finish();
 }

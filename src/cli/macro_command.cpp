@@ -20,43 +20,36 @@ namespace {
 int ListMacros(const CommandLine& line) {
   StoredSettings settings(line.options);
   const MacroStore macros(settings.Store());
-  AnswerWriter answers;
+  std::string rows;
   for (int i = 0; i < macros.Count(); ++i) {
-    answers.AnswerRow({Narrow(MacroLabel(macros.At(i))), macros.At(i).formula});
+    rows += Row({Narrow(MacroLabel(macros.At(i))), macros.At(i).formula});
   }
-  return answers.Finish();
+  return AnswerOnce(rows);
 }
 
-// The columns of an item to add. Those behind the name may be missing.
+// The parts of an item to add. Those behind the name may be missing.
 constexpr std::size_t kName = 0;
 constexpr std::size_t kFormula = 1;
 constexpr std::size_t kVariables = 2;
-constexpr std::size_t kColumns = 3;
+constexpr std::size_t kParts = 3;
 
-/// Adds what `columns` say, with the variables `usual` unless they name others.
-void AddMacro(const std::vector<std::string_view>& columns, VariableType usual,
-              StoredSettings& settings, AnswerWriter& answers) {
-  const auto column = [&columns](std::size_t i) {
-    return i < columns.size() ? columns[i] : std::string_view();
-  };
-  TypedMacro macro{Widen(column(kName)), usual, Widen(column(kFormula))};
-  if (columns.size() == kColumns) macro.type = VariablesCalled(column(kVariables));
-  if (!macro.type && !column(kVariables).empty()) {
-    return answers.Fail(NotVariables(column(kVariables)));
-  }
+/// Adds what `parts` say, with the variables `usual` unless they name others.
+Answer AddMacro(const Items& parts, VariableType usual, StoredSettings& settings) {
+  TypedMacro macro{Widen(PartAt(parts, kName)), usual, Widen(PartAt(parts, kFormula))};
+  const std::string_view variables = PartAt(parts, kVariables);
+  if (parts.size() == kParts) macro.type = VariablesCalled(variables);
+  if (!macro.type && !variables.empty()) return Failure{NotVariables(variables)};
   const auto saved = SaveMacro(macro, std::nullopt, settings.Store());
-  if (const auto failure = settings.TakeFailure()) return answers.Fail(*failure);
-  if (!saved) return answers.Fail(Narrow(saved.error().text));
-  answers.Answer(Narrow(MacroLabel(MacroStore(settings.Store()).At(*saved))));
+  if (auto failure = settings.TakeFailure()) return *std::move(failure);
+  if (!saved) return Failure{Narrow(saved.error().text)};
+  return Line(Narrow(MacroLabel(MacroStore(settings.Store()).At(*saved))));
 }
 
 int AddMacros(const CommandLine& line) {
   StoredSettings settings(line.options);
-  AnswerWriter answers;
-  ForEachRow(line.items, kColumns, LineReader::kAnyLength, answers, [&](const auto& columns) {
-    AddMacro(columns, line.options.variables, settings, answers);
+  return AnswerParts(line.items, kParts, LineReader::kAnyLength, [&](const Items& parts) {
+    return AddMacro(parts, line.options.variables, settings);
   });
-  return answers.Finish();
 }
 
 /// The user may mean a name that somebody stored with blanks around it, or may have typed them.
@@ -69,19 +62,17 @@ bool RemoveCalled(std::string_view name, SettingsStore& settings) {
   return remove(name) || (trimmed != name && remove(trimmed));
 }
 
-void AnswerRemoval(std::string_view name, StoredSettings& settings, AnswerWriter& answers) {
+Answer AnswerRemoval(std::string_view name, StoredSettings& settings) {
   const bool isRemoved = RemoveCalled(name, settings.Store());
-  if (const auto failure = settings.TakeFailure()) return answers.Fail(*failure);
-  if (!isRemoved) return answers.Fail(kMacroNameUnknown);
-  answers.Answer(kDone);
+  if (auto failure = settings.TakeFailure()) return *std::move(failure);
+  if (!isRemoved) return Failure{std::string(kMacroNameUnknown)};
+  return Line(kDone);
 }
 
 int RemoveMacros(const CommandLine& line) {
   StoredSettings settings(line.options);
-  AnswerWriter answers;
-  ForEachItem(line.items, LineReader::kAnyLength, answers,
-              [&](std::string_view name) { AnswerRemoval(name, settings, answers); });
-  return answers.Finish();
+  return AnswerItems(line.items, LineReader::kAnyLength,
+                     [&](std::string_view name) { return AnswerRemoval(name, settings); });
 }
 
 }  // namespace

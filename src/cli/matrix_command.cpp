@@ -6,7 +6,6 @@
 
 #include "cli/evaluation.h"
 #include "cli/items.h"
-#include "common/expected.h"
 #include "common/number_text.h"
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_file.h"
@@ -39,33 +38,26 @@ Expected<Matrices, std::string> LoadMatrices(const Options& options) {
   return matrices;
 }
 
-/// Answers items, each over the matrices that the ones before have left.
+/// Answers items, each over the matrices as the earlier items left them.
 class MatrixSession {
  public:
-  MatrixSession(const Options& options, Matrices matrices, AnswerWriter& answers)
-      : matrices_(std::move(matrices)), answers_(answers), evaluation_(options) {}
+  MatrixSession(const Options& options, Matrices matrices)
+      : matrices_(std::move(matrices)), evaluation_(options) {}
 
-  void Answer(std::string_view item) {
+  Answer AnswerTo(std::string_view item) {
     const std::u16string line = Widen(item);
-    if (!IsMatrixExpression(line)) return evaluation_.Answer(item, answers_);
+    if (!IsMatrixExpression(line)) return evaluation_.AnswerTo(item);
     if (const auto invalid = FirstInvalidMatrix(line, matrices_)) {
-      return answers_.Fail(Narrow(MatrixIsInvalid(*invalid)));
+      return Failure{Narrow(MatrixIsInvalid(*invalid))};
     }
     auto result = MatrixEvaluator(matrices_, files_).Evaluate(item);
-    if (!result) return answers_.Fail(result.error().message);
-    AnswerMatrix(*result);
+    if (!result) return Failure{std::move(result).error().message};
     matrices_[kAnswerMatrix] = *std::move(result);
+    return PrintMatrix(matrices_[kAnswerMatrix]);
   }
 
  private:
-  void AnswerMatrix(const MatrixValue& matrix) {
-    answers_.Text() += PrintMatrix(matrix);
-    answers_.Text().pop_back();  // The end of an answer brings it back.
-    answers_.End();
-  }
-
   Matrices matrices_;
-  AnswerWriter& answers_;
   Evaluation evaluation_;
   TemporaryMatrices files_;
 };
@@ -75,11 +67,9 @@ class MatrixSession {
 int RunMatrix(const CommandLine& line) {
   auto matrices = LoadMatrices(line.options);
   if (!matrices) return Complain(matrices.error(), *line.command);
-  AnswerWriter answers;
-  MatrixSession session(line.options, *std::move(matrices), answers);
-  ForEachItem(line.items, kLongestExpression, answers,
-              [&](std::string_view item) { session.Answer(item); });
-  return answers.Finish();
+  MatrixSession session(line.options, *std::move(matrices));
+  return AnswerItems(line.items, kLongestExpression,
+                     [&](std::string_view item) { return session.AnswerTo(item); });
 }
 
 }  // namespace kav

@@ -32,68 +32,57 @@ std::optional<int> VariableCalled(std::string_view text) {
   return isOne ? std::optional(number - 1) : std::nullopt;
 }
 
-void AnswerAll(const MemoryVariables& variables, AnswerWriter& answers) {
-  for (int i = 0; i < MemoryVariables::kCount; ++i) answers.Answer(Narrow(variables.Line(i)));
+Answer AnswerAll(const MemoryVariables& variables) {
+  std::string lines;
+  for (int i = 0; i < MemoryVariables::kCount; ++i) lines += Line(Narrow(variables.Line(i)));
+  return lines;
 }
 
 int ListMemory(const CommandLine& line) {
   StoredSettings settings(line.options);
-  AnswerWriter answers;
-  AnswerAll(MemoryVariables(settings.Store()), answers);
-  return answers.Finish();
+  return AnswerOnce(AnswerAll(MemoryVariables(settings.Store())));
 }
 
-void StoreValue(const std::vector<std::string_view>& columns, Evaluation& evaluation,
-                AnswerWriter& answers) {
-  const auto index = VariableCalled(columns[0]);
-  if (!index) return answers.Fail(NotAMemoryVariable(columns[0], MemoryVariables::kCount));
-  const auto value = evaluation.Value(columns.size() > 1 ? columns[1] : std::string_view());
-  if (!value) return answers.Fail(value.error().message);
+Answer StoreValue(const Items& parts, Evaluation& evaluation) {
+  const auto index = VariableCalled(parts[0]);
+  if (!index) return Failure{NotAMemoryVariable(parts[0], MemoryVariables::kCount)};
+  auto value = evaluation.Value(PartAt(parts, 1));
+  if (!value) return Failure{std::move(value).error().message};
   SettingsStore& store = evaluation.Settings().Store();
   // As the scientific screen hands it to the dialog that stores it.
   const auto text = InsertedNumber(*value, LoadDisplayFormat(store), BaseMode::Decimal);
   MemoryVariables variables(store);
   variables.Set(*index, Narrow(text));
-  if (const auto failure = evaluation.Settings().TakeFailure()) return answers.Fail(*failure);
-  answers.Answer(Narrow(variables.Line(*index)));
+  if (auto failure = evaluation.Settings().TakeFailure()) return *std::move(failure);
+  return Line(Narrow(variables.Line(*index)));
 }
 
 int StoreMemory(const CommandLine& line) {
-  constexpr std::size_t kColumns = 2;
+  constexpr std::size_t kParts = 2;
   Evaluation evaluation(line.options);
-  AnswerWriter answers;
-  ForEachRow(line.items, kColumns, kLongestExpression, answers,
-             [&](const auto& columns) { StoreValue(columns, evaluation, answers); });
-  return answers.Finish();
+  return AnswerParts(line.items, kParts, kLongestExpression,
+                     [&](const Items& parts) { return StoreValue(parts, evaluation); });
 }
 
-void ClearAll(StoredSettings& settings, AnswerWriter& answers) {
+Answer ClearItem(std::string_view item, StoredSettings& settings) {
   MemoryVariables variables(settings.Store());
-  variables.ClearAll();
-  if (const auto failure = settings.TakeFailure()) return answers.Fail(*failure);
-  AnswerAll(variables, answers);
-}
-
-void ClearItem(std::string_view item, StoredSettings& settings, AnswerWriter& answers) {
-  if (TrimBlanks(item) == kAll) return ClearAll(settings, answers);
+  const bool isAll = TrimBlanks(item) == kAll;
   const auto index = VariableCalled(item);
-  if (!index) return answers.Fail(NotAMemoryVariable(item, MemoryVariables::kCount));
-  MemoryVariables variables(settings.Store());
-  variables.Clear(*index);
-  if (const auto failure = settings.TakeFailure()) return answers.Fail(*failure);
-  answers.Answer(Narrow(variables.Line(*index)));
+  if (!isAll && !index) return Failure{NotAMemoryVariable(item, MemoryVariables::kCount)};
+  isAll ? variables.ClearAll() : variables.Clear(*index);
+  if (auto failure = settings.TakeFailure()) return *std::move(failure);
+  if (isAll) return AnswerAll(variables);
+  return Line(Narrow(variables.Line(*index)));
 }
 
 int ClearMemory(const CommandLine& line) {
   StoredSettings settings(line.options);
-  AnswerWriter answers;
   bool isAnyNamed = false;
-  ForEachItem(line.items, kLongestExpression, answers, [&](std::string_view item) {
+  const int status = AnswerItems(line.items, kLongestExpression, [&](std::string_view item) {
     isAnyNamed = true;
-    ClearItem(item, settings, answers);
+    return ClearItem(item, settings);
   });
-  const int status = answers.Finish();
-  // Whoever names none may have meant all, or have lost them on the way: better not to guess.
+  // Without any, all may be meant, or the items were lost on the way: better not to guess.
   return isAnyNamed || status != 0 ? status : Complain(kNothingToClear, *line.command);
 }
 

@@ -66,7 +66,7 @@ int RunPrompt(const Options& options) {
     if (outcome == LineEditor::Outcome::End || answers.IsBroken()) return answers.Finish();
     if (outcome == LineEditor::Outcome::GivenUp || TrimBlanks(line).empty()) continue;
     pastLines.Add(line);
-    evaluation.Answer(line, answers);
+    answers.Write(evaluation.AnswerTo(line));
   }
 }
 

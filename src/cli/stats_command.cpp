@@ -75,113 +75,90 @@ class Summary {
   RegressionSums sums_;
 };
 
-/// Writes the lines of an answer.
-class SummaryPrinter {
- public:
-  SummaryPrinter(const Options& options, AnswerWriter& answers)
-      : options_(options), answers_(answers) {}
+/// What is not a number has no sign here.
+std::string Printed(double value) {
+  return PrintRoundTrip(std::isnan(value) ? std::numeric_limits<double>::quiet_NaN() : value);
+}
 
-  void Print(const Summary& summary) {
-    AnswerInteger("rows", summary.Rows());
-    AnswerInteger("total", summary.Total());
-    PrintMoments("x", summary.X(), summary.Total());
-    if (options_.shape == DataShape::TwoVariables) PrintTwo(summary);
+std::string ValueRow(std::string_view name, double value) {
+  return Row({name, Printed(value)});
+}
+
+std::string EstimateRow(std::string_view name, double at, double value) {
+  return Row({name, Printed(at), Printed(value)});
+}
+
+std::string MomentRows(std::string_view variable, const WeightedSums& sums, std::int32_t total) {
+  std::string rows;
+  for (const MomentRow& row : kMoments) {
+    std::string name = std::string(row.name).append(variable);
+    if (row.moment == Moment::SumOfSquares) name += kSquaresMark;
+    rows += ValueRow(name, MomentOf(sums, total, row.moment));
   }
+  return rows;
+}
 
- private:
-  void PrintMoments(std::string_view variable, const WeightedSums& sums, std::int32_t total) {
-    for (const MomentRow& row : kMoments) {
-      std::string name = std::string(row.name).append(variable);
-      if (row.moment == Moment::SumOfSquares) name += kSquaresMark;
-      AnswerValue(name, MomentOf(sums, total, row.moment));
-    }
+std::string EstimateRowsOfX(RegressionModel model, const Coefficients& fitted, double y) {
+  if (model != RegressionModel::Quadratic) {
+    return EstimateRow("x'", y, EstimateX(model, fitted, y));
   }
+  const TwoEstimates estimates = EstimateQuadraticX(fitted, y);
+  return EstimateRow("x1'", y, estimates.first) + EstimateRow("x2'", y, estimates.second);
+}
 
-  void PrintTwo(const Summary& summary) {
-    const RegressionModel model = options_.model;
-    PrintMoments("y", summary.Sums().Y(), summary.Total());
-    AnswerValue("sum_xy", summary.Sums().Products());
-    const Coefficients fitted = summary.Sums().Fit(summary.Total());
-    AnswerValue("A", fitted.a);
-    AnswerValue("B", fitted.b);
-    if (model == RegressionModel::Quadratic) AnswerValue("C", fitted.c);
-    if (model == RegressionModel::Linear) {
-      AnswerValue("r", summary.Sums().Correlation(summary.Total()));
-    }
-    for (const double x : options_.estimatesAtX) {
-      AnswerEstimate("y'", x, EstimateY(model, fitted, x));
-    }
-    for (const double y : options_.estimatesAtY) PrintEstimatesOfX(fitted, y);
+std::string RegressionRows(const Summary& summary, const Options& options) {
+  const RegressionModel model = options.model;
+  const RegressionSums& sums = summary.Sums();
+  const Coefficients fitted = sums.Fit(summary.Total());
+  std::string rows = MomentRows("y", sums.Y(), summary.Total());
+  rows += ValueRow("sum_xy", sums.Products());
+  rows += ValueRow("A", fitted.a);
+  rows += ValueRow("B", fitted.b);
+  if (model == RegressionModel::Quadratic) rows += ValueRow("C", fitted.c);
+  if (model == RegressionModel::Linear) rows += ValueRow("r", sums.Correlation(summary.Total()));
+  for (const double x : options.estimatesAtX) {
+    rows += EstimateRow("y'", x, EstimateY(model, fitted, x));
   }
+  for (const double y : options.estimatesAtY) rows += EstimateRowsOfX(model, fitted, y);
+  return rows;
+}
 
-  void PrintEstimatesOfX(const Coefficients& fitted, double y) {
-    if (options_.model != RegressionModel::Quadratic) {
-      return AnswerEstimate("x'", y, EstimateX(options_.model, fitted, y));
-    }
-    const TwoEstimates estimates = EstimateQuadraticX(fitted, y);
-    AnswerEstimate("x1'", y, estimates.first);
-    AnswerEstimate("x2'", y, estimates.second);
+std::string SummaryRows(const Summary& summary, const Options& options) {
+  std::string rows = Row({"rows", PrintInteger(summary.Rows())});
+  rows += Row({"total", PrintInteger(summary.Total())});
+  rows += MomentRows("x", summary.X(), summary.Total());
+  if (options.shape == DataShape::TwoVariables) rows += RegressionRows(summary, options);
+  return rows;
+}
+
+Failure CannotLoad(std::string_view name, std::u16string_view reason) {
+  return {Narrow(DataCannotBeLoaded(Widen(name), reason))};
+}
+
+Failure CannotRead(std::string_view name, int error) {
+  return CannotLoad(name, ReasonOfReading(FileErrorFromErrno(error)));
+}
+
+/// Sums up the file `name`, open as `descriptor`, block by block.
+Answer AnswerData(int descriptor, std::string_view name, const Options& options) {
+  std::array<char, std::size_t{1} << 16U> block;
+  Summary summary(options.shape, options.model);
+  DataReader reader(options.shape, [&](const DataRow& row) { return summary.Add(row); });
+  while (true) {
+    const ReadBlock read = ReadSome(descriptor, block.data(), block.size());
+    if (read.error != 0) return CannotRead(name, read.error);
+    const auto fault =
+        read.size == 0 ? reader.Finish() : reader.Read({block.data(), read.size});
+    if (fault) return CannotLoad(name, ReasonOf(fault->refusal, fault->line));
+    if (read.size == 0) return SummaryRows(summary, options);
   }
+}
 
-  void AnswerInteger(std::string_view name, std::int64_t value) {
-    answers_.AnswerRow({name, PrintInteger(value)});
-  }
-  void AnswerValue(std::string_view name, double value) {
-    answers_.AnswerRow({name, Printed(value)});
-  }
-  void AnswerEstimate(std::string_view name, double at, double value) {
-    answers_.AnswerRow({name, Printed(at), Printed(value)});
-  }
-
-  /// What is not a number has no sign here.
-  static std::string Printed(double value) {
-    return PrintRoundTrip(std::isnan(value) ? std::numeric_limits<double>::quiet_NaN() : value);
-  }
-
-  const Options& options_;
-  AnswerWriter& answers_;
-};
-
-/// Answers files one after the other, each read block by block.
-class StatsSession {
- public:
-  StatsSession(const Options& options, AnswerWriter& answers)
-      : options_(options), answers_(answers) {}
-
-  void AnswerFile(const std::string& path) {
-    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
-    const int error = errno;
-    if (!file.IsOpen()) return Fail(path, ReasonOfReading(FileErrorFromErrno(error)));
-    Answer(file.Number(), path);
-  }
-
-  void AnswerStandardInput() { Answer(STDIN_FILENO, kStandardInputName); }
-
- private:
-  static constexpr std::string_view kStandardInputName = "standard input";
-
-  void Answer(int descriptor, std::string_view name) {
-    Summary summary(options_.shape, options_.model);
-    DataReader reader(options_.shape, [&](const DataRow& row) { return summary.Add(row); });
-    while (true) {
-      const ReadBlock read = ReadSome(descriptor, block_.data(), block_.size());
-      if (read.error != 0) return Fail(name, ReasonOfReading(FileErrorFromErrno(read.error)));
-      const auto fault = read.size == 0
-                             ? reader.Finish()
-                             : reader.Read(std::string_view(block_).substr(0, read.size));
-      if (fault) return Fail(name, ReasonOf(fault->refusal, fault->line));
-      if (read.size == 0) return SummaryPrinter(options_, answers_).Print(summary);
-    }
-  }
-
-  void Fail(std::string_view name, std::u16string_view reason) {
-    answers_.Fail(Narrow(DataCannotBeLoaded(Widen(name), reason)));
-  }
-
-  const Options& options_;
-  AnswerWriter& answers_;
-  std::string block_ = std::string(std::size_t{1} << 16U, '\0');
-};
+Answer AnswerFile(const std::string& path, const Options& options) {
+  const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
+  if (!file.IsOpen()) return CannotRead(path, errno);
+  return AnswerData(file.Number(), path, options);
+}
 
 bool LacksTwo(const Options& options) {
   if (options.shape == DataShape::TwoVariables) return false;
@@ -193,19 +170,13 @@ bool LacksTwo(const Options& options) {
 
 int RunStats(const CommandLine& line) {
   if (LacksTwo(line.options)) return Complain(kNeedsTwo, *line.command);
-  AnswerWriter answers;
-  StatsSession session(line.options, answers);
-  for (const std::string_view item : line.items) {
-    if (item == kStandardInput) {
-      session.AnswerStandardInput();
-    } else {
-      session.AnswerFile(std::string(item));
+  return AnswerItems(line.items, kLongestPath, [&](std::string_view item) {
+    // On a line of standard input, "-" is a file of this name.
+    if (item == kStandardInput && !line.items.empty()) {
+      return AnswerData(STDIN_FILENO, "standard input", line.options);
     }
-  }
-  if (!line.items.empty()) return answers.Finish();
-  ForEachItem({}, kLongestPath, answers,
-              [&](std::string_view path) { session.AnswerFile(std::string(path)); });
-  return answers.Finish();
+    return AnswerFile(std::string(item), line.options);
+  });
 }
 
 }  // namespace kav

@@ -20,33 +20,26 @@ namespace {
 
 int ListConversions(const CommandLine& line) {
   StoredSettings settings(line.options);
-  AnswerWriter answers;
+  std::string rows;
   for (const auto& [text, rateText] : LoadUserConversions(settings.Store())) {
-    answers.AnswerRow({text, rateText});
+    rows += Row({text, rateText});
   }
-  return answers.Finish();
+  return AnswerOnce(rows);
 }
 
-/// The columns of an item to add; the missing ones are empty.
-void AddConversion(const std::vector<std::string_view>& columns, StoredSettings& settings,
-                   AnswerWriter& answers) {
-  const auto column = [&columns](std::size_t i) {
-    return i < columns.size() ? Widen(columns[i]) : std::u16string();
-  };
-  const auto saved =
-      SaveConversion({column(0), column(1), column(2)}, std::nullopt, settings.Store());
-  if (const auto failure = settings.TakeFailure()) return answers.Fail(*failure);
-  if (!saved) return answers.Fail(Narrow(saved.error().text));
-  answers.Answer(LoadUserConversions(settings.Store())[static_cast<std::size_t>(*saved)].text);
+Answer AddConversion(const Items& parts, StoredSettings& settings) {
+  const auto part = [&parts](std::size_t i) { return Widen(PartAt(parts, i)); };
+  const auto saved = SaveConversion({part(0), part(1), part(2)}, std::nullopt, settings.Store());
+  if (auto failure = settings.TakeFailure()) return *std::move(failure);
+  if (!saved) return Failure{Narrow(saved.error().text)};
+  return Line(LoadUserConversions(settings.Store())[static_cast<std::size_t>(*saved)].text);
 }
 
 int AddConversions(const CommandLine& line) {
-  constexpr std::size_t kColumns = 3;
+  constexpr std::size_t kParts = 3;
   StoredSettings settings(line.options);
-  AnswerWriter answers;
-  ForEachRow(line.items, kColumns, LineReader::kAnyLength, answers,
-             [&](const auto& columns) { AddConversion(columns, settings, answers); });
-  return answers.Finish();
+  return AnswerParts(line.items, kParts, LineReader::kAnyLength,
+                     [&](const Items& parts) { return AddConversion(parts, settings); });
 }
 
 /// Where the conversion `text` stands: as it is, or else without the blanks around it, since the
@@ -68,26 +61,24 @@ void TellLosing(const std::vector<UserConversion>& losing) {
   Tell(RatesLostDigits(texts));
 }
 
-void AnswerRemoval(std::string_view text, StoredSettings& settings, AnswerWriter& answers) {
+Answer AnswerRemoval(std::string_view text, StoredSettings& settings) {
   SettingsStore& store = settings.Store();
   store.Refresh();
   const auto stored = LoadUserConversions(store);
   const auto place = PlaceCalled(text, stored);
-  if (!place) return answers.Fail(NotAUserConversion(text));
+  if (!place) return Failure{NotAUserConversion(text)};
   const bool isRemoved =
       RemoveConversion({*place, stored[static_cast<std::size_t>(*place)].text}, store);
-  if (const auto failure = settings.TakeFailure()) return answers.Fail(*failure);
-  if (!isRemoved) return answers.Fail(NotAUserConversion(text));
+  if (auto failure = settings.TakeFailure()) return *std::move(failure);
+  if (!isRemoved) return Failure{NotAUserConversion(text)};
   TellLosing(LosingDigits(stored, *place));
-  answers.Answer(kDone);
+  return Line(kDone);
 }
 
 int RemoveConversions(const CommandLine& line) {
   StoredSettings settings(line.options);
-  AnswerWriter answers;
-  ForEachItem(line.items, LineReader::kAnyLength, answers,
-              [&](std::string_view text) { AnswerRemoval(text, settings, answers); });
-  return answers.Finish();
+  return AnswerItems(line.items, LineReader::kAnyLength,
+                     [&](std::string_view text) { return AnswerRemoval(text, settings); });
 }
 
 }  // namespace
