@@ -6,9 +6,12 @@
 #include <cerrno>
 #include <cstring>
 #include <iterator>
+#include <utility>
 
 #include "cli/cli_texts.h"
 #include "cli/descriptor.h"
+#include "common/number_text.h"
+#include "display/number_format.h"
 
 namespace kav {
 namespace {
@@ -37,16 +40,35 @@ std::string Row(std::initializer_list<std::string_view> columns) {
   return row;
 }
 
-AnswerWriter::AnswerWriter() : flushAt_(isatty(STDOUT_FILENO) != 0 ? 1 : kBlock) {}
+std::optional<CalcError> AppendShown(std::string& out, double value, const Options& options) {
+  if (options.isRaw) {
+    AppendRoundTrip(out, value);
+    return std::nullopt;
+  }
+  auto shown = FormatNumber(value, options.display, options.base);
+  if (!shown) return std::move(shown).error();
+  out += *shown;
+  return std::nullopt;
+}
+
+AnswerWriter::AnswerWriter(const Options& options)
+    : options_(options), flushAt_(isatty(STDOUT_FILENO) != 0 ? 1 : kBlock) {}
 
 void AnswerWriter::Write(const Answer& answer) {
-  if (answer) {
-    text_ += *answer;
+  if (const auto* number = std::get_if<double>(&answer)) {
+    auto error = AppendShown(text_, *number, options_);
+    error ? WriteFailure(error->message) : text_.push_back('\n');
+  } else if (const auto* lines = std::get_if<std::string>(&answer)) {
+    text_ += *lines;
   } else {
-    isComplete_ = false;
-    text_.append(kFailureMark).append(Line(answer.error().message));
+    WriteFailure(std::get_if<Failure>(&answer)->message);
   }
   if (text_.size() >= flushAt_) Flush();
+}
+
+void AnswerWriter::WriteFailure(std::string_view message) {
+  isComplete_ = false;
+  text_.append(kFailureMark).append(Line(message));
 }
 
 void AnswerWriter::Flush() {
@@ -60,8 +82,8 @@ int AnswerWriter::Finish() {
   return isComplete_ && !IsBroken() ? 0 : 1;
 }
 
-int AnswerOnce(const Answer& answer) {
-  AnswerWriter answers;
+int AnswerOnce(const Answer& answer, const Options& options) {
+  AnswerWriter answers(options);
   answers.Write(answer);
   return answers.Finish();
 }

@@ -2,10 +2,13 @@
 #pragma once
 
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
 
-#include "common/expected.h"
+#include "cli/options.h"
+#include "engine/calc_error.h"
 
 namespace kav {
 
@@ -14,8 +17,8 @@ struct Failure {
   std::string message;
 };
 
-/// What an item is answered with: lines, each with its end, or a failure.
-using Answer = Expected<std::string, Failure>;
+/// What an item is answered with: a number, lines of text, each with its end, or a failure.
+using Answer = std::variant<double, std::string, Failure>;
 
 /// `text` as one line, with its end. Line breaks within it become blanks: a message may name a
 /// character, and an argument may hold line breaks.
@@ -25,13 +28,19 @@ std::string Line(std::string_view text);
 /// control characters within them become blanks.
 std::string Row(std::initializer_list<std::string_view> columns);
 
+/// Appends `value` to `out` in the display, precision and base of the options, or with 17
+/// significant digits if they ask for raw numbers. Returns why it cannot be shown so; `out` is
+/// unchanged then.
+std::optional<CalcError> AppendShown(std::string& out, double value, const Options& options);
+
 /// Writes answers to standard output in blocks, or each at once if it is a terminal. Remembers
 /// whether every item was answered. Once a write has failed, nothing more is written or kept.
 class AnswerWriter {
  public:
-  AnswerWriter();
+  /// Numbers are shown as `options`, which must outlive the writer, want it.
+  explicit AnswerWriter(const Options& options);
 
-  /// A failure becomes one line behind the failure mark.
+  /// Numbers and failures become one line each, a failure with its mark.
   void Write(const Answer& answer);
   /// Remembers that an item stays without an answer.
   void MarkIncomplete() { isComplete_ = false; }
@@ -45,14 +54,18 @@ class AnswerWriter {
   int Finish();
 
  private:
+  void WriteFailure(std::string_view message);
+
+  const Options& options_;
   std::string text_;
   std::size_t flushAt_;
   bool isComplete_ = true;
   int error_ = 0;  ///< errno of the write that failed, or 0
 };
 
-/// Writes `answer` to standard output. Returns the exit status as AnswerWriter::Finish does.
-int AnswerOnce(const Answer& answer);
+/// Writes `answer` as an AnswerWriter with `options` does. Returns the exit status as its Finish
+/// does.
+int AnswerOnce(const Answer& answer, const Options& options);
 
 /// Writes `text` to standard error, on a line behind the program's name.
 void Tell(std::string_view text);

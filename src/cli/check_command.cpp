@@ -23,7 +23,7 @@ Answer AnswerFormula(std::string_view formula, const Options& options) {
 }  // namespace
 
 int RunCheck(const CommandLine& line) {
-  return AnswerItems(line.items, kLongestExpression,
+  return AnswerItems(line, kLongestExpression,
                      [&](std::string_view item) { return AnswerFormula(item, line.options); });
 }
 

@@ -19,13 +19,13 @@ std::u16string FilterOf(const std::vector<std::string_view>& words) {
 
 int RunConstants(const CommandLine& line) {
   const auto constants = LoadConstants(ConstantsFolders());
-  if (!constants) return AnswerOnce(Failure{Narrow(constants.error())});
+  if (!constants) return AnswerOnce(Failure{Narrow(constants.error())}, line.options);
   const std::u16string filter = FilterOf(line.items);
   std::string rows;
   for (const Constant& constant : *constants) {
     if (Matches(constant, filter)) rows += Row({Narrow(constant.name), Narrow(constant.value)});
   }
-  return AnswerOnce(rows);
+  return AnswerOnce(rows, line.options);
 }
 
 }  // namespace kav

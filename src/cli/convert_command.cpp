@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "cli/cli_texts.h"
-#include "cli/evaluation.h"
 #include "cli/items.h"
 #include "cli/stored_settings.h"
 #include "cli/unit_rows.h"
@@ -74,13 +73,13 @@ Expected<Asked, std::string> Ask(const std::vector<std::string_view>& items,
   return Asked{ConversionOf(*category, rows, places), names + 1};
 }
 
-Answer AnswerConverted(std::string_view text, const Asked& asked, const Options& options) {
+Answer AnswerConverted(std::string_view text, const Asked& asked) {
   const auto value = ReadShownNumber(text);
   if (!value) return Failure{NotANumber(text)};
   const double converted = asked.convert(*value);
   // With 17 digits an infinity could be printed, but it is no answer.
   if (!std::isfinite(converted)) return Failure{MakeError(CalcErrorCode::OutOfRange).message};
-  return NumberAnswer(converted, options);
+  return converted;
 }
 
 int Convert(CommandLine line) {
@@ -90,9 +89,8 @@ int Convert(CommandLine line) {
   if (!asked) return Complain(asked.error(), *line.command);
   line.items.erase(line.items.begin(),
                    line.items.begin() + static_cast<std::ptrdiff_t>(asked->names));
-  return AnswerItems(line.items, LineReader::kAnyLength, [&](std::string_view item) {
-    return AnswerConverted(item, *asked, line.options);
-  });
+  return AnswerItems(line, LineReader::kAnyLength,
+                     [&](std::string_view item) { return AnswerConverted(item, *asked); });
 }
 
 int ListUnits(const CommandLine& line) {
@@ -109,7 +107,7 @@ int ListUnits(const CommandLine& line) {
       rows += Row({Narrow(category.caption), name, rate});
     }
   }
-  return AnswerOnce(rows);
+  return AnswerOnce(rows, line.options);
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace kav {
 int RunEval(const CommandLine& line) {
   if (line.items.empty() && CanPrompt()) return RunPrompt(line.options);
   Evaluation evaluation(line.options);
-  return AnswerItems(line.items, kLongestExpression,
+  return AnswerItems(line, kLongestExpression,
                      [&](std::string_view item) { return evaluation.AnswerTo(item); });
 }
 

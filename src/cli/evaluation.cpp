@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "common/number_text.h"
-
 namespace kav {
 
 Evaluation::Evaluation(const Options& options)
@@ -16,18 +14,7 @@ Expected<double, LineFailure> Evaluation::Value(std::string_view line) {
 Answer Evaluation::AnswerTo(std::string_view line) {
   auto value = Value(line);
   if (!value) return Failure{std::move(value).error().message};
-  return NumberAnswer(*value, options_);
-}
-
-CalcResult<std::string> ShownNumber(double value, const Options& options) {
-  if (options.isRaw) return PrintRoundTrip(value);
-  return FormatNumber(value, options.display, options.base);
-}
-
-Answer NumberAnswer(double value, const Options& options) {
-  auto shown = ShownNumber(value, options);
-  if (!shown) return Failure{std::move(shown).error().message};
-  return *std::move(shown) + '\n';
+  return *value;
 }
 
 }  // namespace kav

@@ -1,13 +1,12 @@
 // Expressions as the commands evaluate them.
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "cli/answer_writer.h"
 #include "cli/options.h"
 #include "cli/stored_settings.h"
-#include "engine/calc_error.h"
+#include "common/expected.h"
 #include "macros/line_evaluator.h"
 #include "macros/macro_store.h"
 
@@ -21,7 +20,7 @@ class Evaluation {
 
   /// The value of `line`, or why it has none.
   Expected<double, LineFailure> Value(std::string_view line);
-  /// The NumberAnswer of its value, or why it has none.
+  /// The same as the answer to an item.
   Answer AnswerTo(std::string_view line);
 
   const MacroStore& Macros() const { return macros_; }
@@ -32,12 +31,5 @@ class Evaluation {
   StoredSettings settings_;
   MacroStore macros_;
 };
-
-/// The text of `value` in the display, precision and base of the options, or with 17 significant
-/// digits if they ask for raw numbers. Fails if it cannot be shown so.
-CalcResult<std::string> ShownNumber(double value, const Options& options);
-
-/// The ShownNumber as a line.
-Answer NumberAnswer(double value, const Options& options);
 
 }  // namespace kav

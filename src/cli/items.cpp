@@ -7,8 +7,8 @@
 namespace kav {
 namespace {
 
-Items PartsOf(std::string_view line, std::size_t most) {
-  Items parts;
+Parts PartsOf(std::string_view line, std::size_t most) {
+  Parts parts;
   parts.reserve(most);
   for (std::size_t tab = line.find('\t'); tab != line.npos && parts.size() + 1 < most;
        tab = line.find('\t')) {
@@ -21,37 +21,37 @@ Items PartsOf(std::string_view line, std::size_t most) {
 
 }  // namespace
 
-void ForEachItem(const Items& items, std::size_t longest, AnswerWriter& answers,
+void ForEachItem(const CommandLine& line, std::size_t longest, AnswerWriter& answers,
                  const std::function<void(std::string_view item)>& take) {
-  for (const std::string_view item : items) take(item);
-  if (!items.empty()) return;
+  for (const std::string_view item : line.items) take(item);
+  if (!line.items.empty()) return;
   LineReader lines(STDIN_FILENO, longest, [&answers] { answers.Flush(); });
   while (!answers.IsBroken()) {
-    const auto line = lines.Next();
-    if (!line) break;
-    take(*line);
+    const auto item = lines.Next();
+    if (!item) break;
+    take(*item);
   }
   if (lines.Error() == 0) return;
   answers.MarkIncomplete();
   Tell(CannotRead(SystemReason(lines.Error())));
 }
 
-int AnswerItems(const Items& items, std::size_t longest,
+int AnswerItems(const CommandLine& line, std::size_t longest,
                 const std::function<Answer(std::string_view item)>& answerTo) {
-  AnswerWriter answers;
-  ForEachItem(items, longest, answers,
+  AnswerWriter answers(line.options);
+  ForEachItem(line, longest, answers,
               [&](std::string_view item) { answers.Write(answerTo(item)); });
   return answers.Finish();
 }
 
-int AnswerParts(const Items& items, std::size_t most, std::size_t longest,
-                const std::function<Answer(const Items& parts)>& answerTo) {
-  if (!items.empty()) return AnswerOnce(answerTo(items));
-  return AnswerItems(
-      {}, longest, [&](std::string_view line) { return answerTo(PartsOf(line, most)); });
+int AnswerParts(const CommandLine& line, std::size_t most, std::size_t longest,
+                const std::function<Answer(const Parts& parts)>& answerTo) {
+  if (!line.items.empty()) return AnswerOnce(answerTo(line.items), line.options);
+  return AnswerItems(line, longest,
+                     [&](std::string_view item) { return answerTo(PartsOf(item, most)); });
 }
 
-std::string_view PartAt(const Items& parts, std::size_t index) {
+std::string_view PartAt(const Parts& parts, std::size_t index) {
   return index < parts.size() ? parts[index] : std::string_view();
 }
 

@@ -6,35 +6,36 @@
 #include <vector>
 
 #include "cli/answer_writer.h"
+#include "cli/command.h"
 #include "cli/line_reader.h"
 
 namespace kav {
 
-/// The items among the arguments, or the parts of one item. They view the arguments or the line.
-using Items = std::vector<std::string_view>;
+/// The parts of an item, which they view.
+using Parts = std::vector<std::string_view>;
 
 /// Longer than any expression that has a value, blanks aside: 151 tokens, each perhaps a call of a
 /// macro with 151 more in each of its arguments, none longer than a number of 30 digits.
 inline constexpr std::size_t kLongestExpression = std::size_t{1} << 20U;
 
-/// Calls `take` for each of `items` or, without any, for each line of standard input (see
+/// Calls `take` for each item of `line` or, without any, for each line of standard input (see
 /// LineReader for `longest`) until `answers` is broken. Flushes `answers` before each wait for
 /// input, for a program that waits for an answer before it asks on. Tells standard error if the
 /// input cannot be read, and marks `answers` as incomplete.
-void ForEachItem(const Items& items, std::size_t longest, AnswerWriter& answers,
+void ForEachItem(const CommandLine& line, std::size_t longest, AnswerWriter& answers,
                  const std::function<void(std::string_view item)>& take);
 
 /// Writes what `answerTo` returns for each item of ForEachItem. Returns the exit status.
-int AnswerItems(const Items& items, std::size_t longest,
+int AnswerItems(const CommandLine& line, std::size_t longest,
                 const std::function<Answer(std::string_view item)>& answerTo);
 
-/// The same for items that consist of parts. `items`, if there are any, are the parts of one item.
-/// Otherwise tabs separate the parts on a line of standard input; the last of the `most` parts may
-/// hold tabs.
-int AnswerParts(const Items& items, std::size_t most, std::size_t longest,
-                const std::function<Answer(const Items& parts)>& answerTo);
+/// The same for items that consist of parts. What stands in `line` are the parts of one item.
+/// Without any, tabs separate the parts on each line of standard input; the last of the `most`
+/// parts may hold tabs.
+int AnswerParts(const CommandLine& line, std::size_t most, std::size_t longest,
+                const std::function<Answer(const Parts& parts)>& answerTo);
 
 /// The part at `index`, empty if it is missing.
-std::string_view PartAt(const Items& parts, std::size_t index);
+std::string_view PartAt(const Parts& parts, std::size_t index);
 
 }  // namespace kav

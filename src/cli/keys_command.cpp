@@ -44,9 +44,9 @@ int RunKeys(const CommandLine& line) {
   SetUp(settings, line.options);
   ScientificModel screen(settings);
   KeySequence sequence(screen);
-  AnswerWriter answers;
+  AnswerWriter answers(line.options);
   std::optional<std::string> complaint;
-  ForEachItem(line.items, LineReader::kAnyLength, answers, [&](std::string_view item) {
+  ForEachItem(line, LineReader::kAnyLength, answers, [&](std::string_view item) {
     if (!complaint) complaint = sequence.Take(item);
   });
   if (complaint) {

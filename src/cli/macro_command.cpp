@@ -24,7 +24,7 @@ int ListMacros(const CommandLine& line) {
   for (int i = 0; i < macros.Count(); ++i) {
     rows += Row({Narrow(MacroLabel(macros.At(i))), macros.At(i).formula});
   }
-  return AnswerOnce(rows);
+  return AnswerOnce(rows, line.options);
 }
 
 // The parts of an item to add. Those behind the name may be missing.
@@ -34,7 +34,7 @@ constexpr std::size_t kVariables = 2;
 constexpr std::size_t kParts = 3;
 
 /// Adds what `parts` say, with the variables `usual` unless they name others.
-Answer AddMacro(const Items& parts, VariableType usual, StoredSettings& settings) {
+Answer AddMacro(const Parts& parts, VariableType usual, StoredSettings& settings) {
   TypedMacro macro{Widen(PartAt(parts, kName)), usual, Widen(PartAt(parts, kFormula))};
   const std::string_view variables = PartAt(parts, kVariables);
   if (parts.size() == kParts) macro.type = VariablesCalled(variables);
@@ -47,7 +47,7 @@ Answer AddMacro(const Items& parts, VariableType usual, StoredSettings& settings
 
 int AddMacros(const CommandLine& line) {
   StoredSettings settings(line.options);
-  return AnswerParts(line.items, kParts, LineReader::kAnyLength, [&](const Items& parts) {
+  return AnswerParts(line, kParts, LineReader::kAnyLength, [&](const Parts& parts) {
     return AddMacro(parts, line.options.variables, settings);
   });
 }
@@ -71,7 +71,7 @@ Answer AnswerRemoval(std::string_view name, StoredSettings& settings) {
 
 int RemoveMacros(const CommandLine& line) {
   StoredSettings settings(line.options);
-  return AnswerItems(line.items, LineReader::kAnyLength,
+  return AnswerItems(line, LineReader::kAnyLength,
                      [&](std::string_view name) { return AnswerRemoval(name, settings); });
 }
 

@@ -8,11 +8,10 @@
 
 int main(int argc, char** argv) {
   kav::ReserveStandardFiles();
-  const auto line =
-      kav::ReadCommandLine({argv + (argc > 0 ? 1 : 0), argv + argc}, kav::Commands());
+  const auto line = kav::ReadCommandLine({argv + (argc > 0 ? 1 : 0), argv + argc}, kav::Commands());
   if (line) return line->command->run(*line);
   const kav::EarlyEnd& end = line.error();
-  if (end.status == 0) return kav::AnswerOnce(end.text);
+  if (end.status == 0) return kav::AnswerOnce(end.text, {});
   kav::WriteAll(STDERR_FILENO, end.text);
   return end.status;
 }

@@ -68,7 +68,7 @@ int RunMatrix(const CommandLine& line) {
   auto matrices = LoadMatrices(line.options);
   if (!matrices) return Complain(matrices.error(), *line.command);
   MatrixSession session(line.options, *std::move(matrices));
-  return AnswerItems(line.items, kLongestExpression,
+  return AnswerItems(line, kLongestExpression,
                      [&](std::string_view item) { return session.AnswerTo(item); });
 }
 

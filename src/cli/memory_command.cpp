@@ -40,10 +40,10 @@ Answer AnswerAll(const MemoryVariables& variables) {
 
 int ListMemory(const CommandLine& line) {
   StoredSettings settings(line.options);
-  return AnswerOnce(AnswerAll(MemoryVariables(settings.Store())));
+  return AnswerOnce(AnswerAll(MemoryVariables(settings.Store())), line.options);
 }
 
-Answer StoreValue(const Items& parts, Evaluation& evaluation) {
+Answer StoreValue(const Parts& parts, Evaluation& evaluation) {
   const auto index = VariableCalled(parts[0]);
   if (!index) return Failure{NotAMemoryVariable(parts[0], MemoryVariables::kCount)};
   auto value = evaluation.Value(PartAt(parts, 1));
@@ -60,8 +60,8 @@ Answer StoreValue(const Items& parts, Evaluation& evaluation) {
 int StoreMemory(const CommandLine& line) {
   constexpr std::size_t kParts = 2;
   Evaluation evaluation(line.options);
-  return AnswerParts(line.items, kParts, kLongestExpression,
-                     [&](const Items& parts) { return StoreValue(parts, evaluation); });
+  return AnswerParts(line, kParts, kLongestExpression,
+                     [&](const Parts& parts) { return StoreValue(parts, evaluation); });
 }
 
 Answer ClearItem(std::string_view item, StoredSettings& settings) {
@@ -78,7 +78,7 @@ Answer ClearItem(std::string_view item, StoredSettings& settings) {
 int ClearMemory(const CommandLine& line) {
   StoredSettings settings(line.options);
   bool isAnyNamed = false;
-  const int status = AnswerItems(line.items, kLongestExpression, [&](std::string_view item) {
+  const int status = AnswerItems(line, kLongestExpression, [&](std::string_view item) {
     isAnyNamed = true;
     return ClearItem(item, settings);
   });

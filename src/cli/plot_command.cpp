@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "cli/cli_texts.h"
-#include "cli/evaluation.h"
 #include "cli/items.h"
 #include "cli/stored_settings.h"
 #include "common/number_text.h"
@@ -23,8 +22,9 @@ class PlotSession {
   explicit PlotSession(const Options& options) : options_(options), settings_(options) {
     for (std::size_t i = 0; i < starts_.size(); ++i) {
       const int sample = static_cast<int>(i);
-      const auto x = ShownNumber(SampleX(options.range, sample), options);
-      starts_[i] = PrintInteger(sample) + '\t' + (x ? *x : x.error().message) + '\t';
+      starts_[i] = PrintInteger(sample) + '\t';
+      const auto error = AppendShown(starts_[i], SampleX(options.range, sample), options);
+      starts_[i].append(error ? error->message : "") += '\t';
     }
   }
 
@@ -56,10 +56,10 @@ int RunPlot(const CommandLine& line) {
     return Complain(Narrow(*refusal), *line.command);
   }
   if (options.area.top >= options.area.bottom) return Complain(kAreaIsEmpty, *line.command);
-  AnswerWriter answers;
+  AnswerWriter answers(options);
   PlotSession session(options);
   std::string_view separator;
-  ForEachItem(line.items, kLongestExpression, answers, [&](std::string_view item) {
+  ForEachItem(line, kLongestExpression, answers, [&](std::string_view item) {
     answers.Write(std::string(std::exchange(separator, "\n")));
     answers.Write(session.AnswerTo(item));
   });

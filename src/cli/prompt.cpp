@@ -54,7 +54,7 @@ bool CanPrompt() {
 }
 
 int RunPrompt(const Options& options) {
-  AnswerWriter answers;
+  AnswerWriter answers(options);
   Evaluation evaluation(options);
   LineEditor editor([&](std::string_view before) {
     return Complete(before, KnownNames(options.base, evaluation.Macros()));

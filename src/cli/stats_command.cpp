@@ -147,8 +147,7 @@ Answer AnswerData(int descriptor, std::string_view name, const Options& options)
   while (true) {
     const ReadBlock read = ReadSome(descriptor, block.data(), block.size());
     if (read.error != 0) return CannotRead(name, read.error);
-    const auto fault =
-        read.size == 0 ? reader.Finish() : reader.Read({block.data(), read.size});
+    const auto fault = read.size == 0 ? reader.Finish() : reader.Read({block.data(), read.size});
     if (fault) return CannotLoad(name, ReasonOf(fault->refusal, fault->line));
     if (read.size == 0) return SummaryRows(summary, options);
   }
@@ -170,7 +169,7 @@ bool LacksTwo(const Options& options) {
 
 int RunStats(const CommandLine& line) {
   if (LacksTwo(line.options)) return Complain(kNeedsTwo, *line.command);
-  return AnswerItems(line.items, kLongestPath, [&](std::string_view item) {
+  return AnswerItems(line, kLongestPath, [&](std::string_view item) {
     // On a line of standard input, "-" is a file of this name.
     if (item == kStandardInput && !line.items.empty()) {
       return AnswerData(STDIN_FILENO, "standard input", line.options);

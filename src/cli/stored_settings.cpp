@@ -25,10 +25,9 @@ AngleUnit StoredSettings::Angle() {
 }
 
 AngleUnit StoredSettings::AngleFor(std::string_view line, std::string_view variables) {
-  const bool mayMatter = std::any_of(line.begin(), line.end(), [&](char c) {
-    return IsLetter(c) && variables.find(c) == variables.npos;
-  });
-  return angle_ || mayMatter ? Angle() : AngleUnit::Degrees;
+  const auto mayMatter = [&](char c) { return IsLetter(c) && variables.find(c) == variables.npos; };
+  if (angle_ || std::any_of(line.begin(), line.end(), mayMatter)) return Angle();
+  return AngleUnit::Degrees;
 }
 
 std::optional<Failure> StoredSettings::TakeFailure() {

@@ -24,10 +24,10 @@ int ListConversions(const CommandLine& line) {
   for (const auto& [text, rateText] : LoadUserConversions(settings.Store())) {
     rows += Row({text, rateText});
   }
-  return AnswerOnce(rows);
+  return AnswerOnce(rows, line.options);
 }
 
-Answer AddConversion(const Items& parts, StoredSettings& settings) {
+Answer AddConversion(const Parts& parts, StoredSettings& settings) {
   const auto part = [&parts](std::size_t i) { return Widen(PartAt(parts, i)); };
   const auto saved = SaveConversion({part(0), part(1), part(2)}, std::nullopt, settings.Store());
   if (auto failure = settings.TakeFailure()) return *std::move(failure);
@@ -38,8 +38,8 @@ Answer AddConversion(const Items& parts, StoredSettings& settings) {
 int AddConversions(const CommandLine& line) {
   constexpr std::size_t kParts = 3;
   StoredSettings settings(line.options);
-  return AnswerParts(line.items, kParts, LineReader::kAnyLength,
-                     [&](const Items& parts) { return AddConversion(parts, settings); });
+  return AnswerParts(line, kParts, LineReader::kAnyLength,
+                     [&](const Parts& parts) { return AddConversion(parts, settings); });
 }
 
 /// Where the conversion `text` stands: as it is, or else without the blanks around it, since the
@@ -77,7 +77,7 @@ Answer AnswerRemoval(std::string_view text, StoredSettings& settings) {
 
 int RemoveConversions(const CommandLine& line) {
   StoredSettings settings(line.options);
-  return AnswerItems(line.items, LineReader::kAnyLength,
+  return AnswerItems(line, LineReader::kAnyLength,
                      [&](std::string_view text) { return AnswerRemoval(text, settings); });
 }
 
