@@ -1,5 +1,5 @@
-// What a start costs at the least: a dialog of the toolkit with as many buttons and lines as the
-// scientific screen has, and nothing else.
+// The least that a start can cost: a dialog of the toolkit with as many buttons and lines as the
+// scientific screen, and nothing else.
 #include <QApplication>
 #include <QDialog>
 #include <QGridLayout>

@@ -1,4 +1,4 @@
-// What a program needs at the least to read a file of values and counts: the bound for ours.
+// The least that a program can do to read a file of values and counts: the bound for ours.
 #pragma once
 
 #include <fcntl.h>
@@ -11,9 +11,9 @@
 
 namespace kav {
 
-/// Calls `use` with the value and the count of each line "value TAB count CR LF" of the file
-/// `path`: blocks of 64 KiB, every value taken as a double and every count as an integer by
-/// std::from_chars, nothing kept, no fault looked for.
+/// Calls `use` with the value and the count of each line "value TAB count CR LF" of the file at
+/// `path`. Reads blocks of 64 KiB, and the numbers by std::from_chars. Keeps nothing and looks for
+/// no faults.
 template <class Use>
 void ForEachCountedValue(const char* path, Use use) {
   const int file = open(path, O_RDONLY);

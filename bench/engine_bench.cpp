@@ -1,6 +1,6 @@
 // One formula evaluated for many x, beside the same arithmetic compiled by the C++ compiler: bare
-// ("native") and with the calculator's rules ("rules": finite operands, exact zeros of the angle
-// functions, pow's bits). And short texts, each evaluated once.
+// ("native"), and with the calculator's rules ("rules": finite operands, exact zeros of the angle
+// functions, the bits of pow). Also short texts, each evaluated once.
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -26,7 +26,7 @@ std::array<double, kSamples> MakeSamples() {
   return samples;
 }
 
-/// Poisons the answer where an operand is not finite, as the engine refuses it.
+/// Makes the answer NaN if an operand is not finite, which the engine refuses.
 struct Checked {
   bool ok = true;
   double operator()(double value) {
@@ -89,7 +89,7 @@ double LogarithmRules(double x) {
 
 void RunCompiled(benchmark::State& state, double (*function)(double)) {
   const auto samples = MakeSamples();
-  // The function is called through a pointer that the compiler cannot see through.
+  // The compiler must not know which function it is, or it would inline it.
   benchmark::DoNotOptimize(function);
   std::size_t next = 0;
   for (auto _ : state) {

@@ -1,4 +1,4 @@
-// Showing numbers: each display type beside the 17 significant digits of the C++ library alone.
+// Numbers shown in each display type, beside the C++ library printing 17 significant digits.
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kSamples = 1024;
 
-/// Half of them as typed (few digits), half as calculated (all digits).
+/// Half of them have few digits, as if typed; half have all digits, as if calculated.
 std::array<double, kSamples> MakeValues() {
   std::mt19937_64 random(20260101);
   std::array<double, kSamples> values{};

@@ -1,5 +1,5 @@
-// A graph of three curves on the screen: drawn anew, sampling included, when its range has changed,
-// and copied when it has not.
+// A graph of three curves on the screen: sampled and drawn after its range has changed, and copied
+// if it has not.
 #include <benchmark/benchmark.h>
 
 #include <QGuiApplication>
@@ -14,7 +14,7 @@
 namespace kav {
 namespace {
 
-/// A graph in a plot of so many pixels each way, margins included.
+/// A graph in a plot of `size` in pixels, margins included.
 GraphModel MakeGraph(QSize size) {
   GraphInput input;
   input.angle = AngleUnit::Radians;
@@ -65,7 +65,7 @@ BENCHMARK(CopyGraph)->Apply(PlotSizes);
 }  // namespace kav
 
 int main(int argc, char** argv) {
-  // Fonts need an application, which needs no display.
+  // Fonts need an application; it needs no display.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);
   benchmark::Initialize(&argc, argv);

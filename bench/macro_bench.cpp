@@ -1,5 +1,5 @@
-// A line that calls a macro, beside the same line with the macro's formula typed in place. The
-// macro is the last of sixty: the one that is found last.
+// A line that calls a macro, beside the same line with the formula of the macro in its place. The
+// macro is the last of sixty, which is found last.
 #include <benchmark/benchmark.h>
 
 #include <string>

@@ -1,5 +1,5 @@
-// The inverse and the determinant of ten rows and columns, each cell of which is rounded to its
-// text with every step, beside the same eliminations that make these texts by the C++ library.
+// The inverse and the determinant of a matrix of ten rows and columns. Each step rounds each cell
+// to its text. Beside them, the same eliminations with texts made by the C++ library.
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -16,8 +16,8 @@ namespace {
 constexpr std::size_t kSize = kLargestMatrix;
 using Numbers = std::array<std::array<double, kSize>, kSize>;
 
-/// Numbers as typed, with up to three decimals; large enough on the diagonal for an inverse without
-/// exchanges.
+/// Numbers with up to three decimals, as if typed. Those on the diagonal are so large that the
+/// elimination exchanges no rows.
 Numbers MakeNumbers() {
   std::mt19937_64 random(20260101);
   Numbers numbers{};
@@ -37,7 +37,7 @@ MatrixValue MakeTexts() {
   return texts;
 }
 
-/// `value` with twelve decimals, printed and read.
+/// `value` printed with twelve decimals, and read back.
 double ThroughText(double value) {
   std::array<char, 64> text;
   char* const last = text.data() + text.size();

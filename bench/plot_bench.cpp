@@ -1,6 +1,6 @@
-// Sampling three curves, each formula made ready anew, beside the same arithmetic compiled by the
-// C++ compiler: bare ("native") and with the calculator's rules ("rules"). And the picture that is
-// made of the samples, and the bytes of its file.
+// Three curves sampled, the preparation of the formulas included, beside the same arithmetic
+// compiled by the C++ compiler: bare ("native"), and with the calculator's rules ("rules"). Also
+// the picture made of the samples, and the bytes of its file.
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -20,7 +20,7 @@ namespace {
 
 using Value = std::optional<double>;
 
-/// A value, or none where an operand was not finite.
+/// A value, or none if an operand is not finite.
 struct Checked {
   bool ok = true;
   double operator()(double value) {
@@ -72,7 +72,7 @@ constexpr std::array kFormulas{
     Formula{"sin(x)*exp(-x/10)+sqrt(abs(x))", DampedNative, DampedRules},
 };
 
-/// The rows of samples without points on the borders: the least that a plot needs.
+/// The rows of samples, without points on the borders: the least that a plot needs.
 template <class Evaluate>
 int SumOfRows(Evaluate evaluate) {
   const PlotRange range;
@@ -124,7 +124,7 @@ void Samples(benchmark::State& state) {
 }
 BENCHMARK(Samples);
 
-/// The same from the texts of the formulas on.
+/// The same, starting from the texts of the formulas.
 void CheckedSamples(benchmark::State& state) {
   for (auto _ : state) {
     for (const Formula& formula : kFormulas) {
@@ -144,7 +144,7 @@ BENCHMARK(Picture)->Arg(kSampleCount)->Arg(1080);
 void PictureOfAMillionPoints(benchmark::State& state) {
   std::vector<DataPoint> points;
   for (int i = 0; i < 1'000'000; ++i) {
-    // Both run through their range evenly, and out of step.
+    // Both coordinates cover their ranges evenly, and independently.
     points.push_back({20 * std::fmod(i * 0.6180339887498949, 1) - 10,
                       20 * std::fmod(i * 0.7548776662466927, 1) - 10});
   }

@@ -1,10 +1,10 @@
 // plot_lines KAVCALC [ROUNDS]: how fast kavcalc samples 400 equations from standard input, beside a
-// program into which the C++ compiler has compiled them: this one itself, evaluating each with the
-// same checks and printing the same lines by the C++ library. Both run in turn, round by round; the
-// figures are medians. Status 1 where kavcalc takes more than 1.25 times as long, or prints other
-// lines.
+// program that has them compiled by the C++ compiler. That is this program itself: it evaluates
+// them with the same checks, and prints the same lines by the C++ library. Both run in turn, round
+// by round; the figures are medians. Status 1 if kavcalc takes more than 1.25 times as long, or
+// prints other lines.
 //
-// plot_lines --bound: the compiled equations. plot_lines --write: their texts.
+// plot_lines --bound: samples the compiled equations. plot_lines --write: prints their texts.
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -28,7 +28,7 @@ constexpr int kSamples = 230;
 constexpr int kBottom = kSamples - 1;
 constexpr double kStep = 20 * 0.004366812227074236;
 
-/// An equation: its text with A and B in it, and what the compiler makes of it.
+/// An equation: its text, in which A and B stand for numbers, and the same compiled.
 struct Shape {
   const char* text;
   double (*at)(double x, double a, double b);
@@ -45,7 +45,7 @@ constexpr Shape kShapes[] = {
 const Shape& ShapeOf(int equation) {
   return kShapes[equation % std::size(kShapes)];
 }
-// Quarters, which both read as the very same numbers.
+// Quarters, which are exact in decimal and in binary.
 double A(int equation) {
   return 0.25 + equation % 37 * 0.25;
 }
@@ -72,7 +72,7 @@ std::string TextOf(int equation) {
   return text;
 }
 
-/// Writes what was printed, in blocks.
+/// Prints lines, and writes them in blocks.
 class Output {
  public:
   ~Output() { Flush(); }
@@ -100,7 +100,7 @@ class Output {
   char* to_ = text_;
 };
 
-/// The rows from -10 to 10, -1 for none; as kavcalc has them.
+/// The rows of the samples from -10 to 10, as kavcalc calculates them; -1: none.
 void Sample(int equation, int* rows) {
   constexpr int kFailed = -2;
   int last = kFailed;  // -1: outside without a point, 0: on the border, 1: inside
@@ -134,7 +134,7 @@ void RunBound() {
   }
 }
 
-/// Runs `command` once; answers how many seconds it takes.
+/// Runs `command` once. Returns how many seconds it takes.
 double Run(std::vector<std::string> command, const std::string& input, const std::string& output) {
   std::vector<char*> arguments;
   for (std::string& text : command) arguments.push_back(text.data());

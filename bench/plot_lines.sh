@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # plot_lines.sh [ROUNDS]: how fast kavcalc samples 400 equations from standard input, beside a program
-# that has them compiled.
+# that has them compiled in.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 

@@ -1,8 +1,8 @@
-// start_up ROUNDS PROGRAM...: starts the programs in turn on the display, and prints for each the
-// medians of the time from its start until its window is mapped and until it is painted, of its
-// processor time and of its memory; and the medians of each round's ratios to the first
-// program. A window counts as painted once its lower right quarter shows more than a plain ground,
-// which no loading frame's does.
+// start_up ROUNDS PROGRAM...: starts the programs in turn on the display. For each it prints the
+// medians of four figures: the time from its start until its window is mapped, the time until it is
+// painted, its processor time and its memory. It also prints the medians of the ratios to the first
+// program in each round. A window counts as painted when its lower right quarter is no longer of
+// one colour, as it is while a frame loads its screen.
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -37,7 +37,7 @@ double MsSince(Clock::time_point start) {
   return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-/// What the display's library allocated.
+/// Memory that the library of the display allocated.
 struct Freed {
   void operator()(void* memory) const { std::free(memory); }  // NOLINT: its owner
 };
@@ -68,7 +68,7 @@ bool IsPainted(xcb_connection_t* display, xcb_window_t window) {
          ShowsColours(display, window, width, height * 4 / 5);
 }
 
-/// Waits for a painted window and returns when it was mapped and when it was seen painted.
+/// Waits for a painted window. Returns when it was mapped, and when it was first seen painted.
 Figures WatchForWindow(xcb_connection_t* display, Clock::time_point start) {
   constexpr double kPatienceMs = 20000;
   std::map<xcb_window_t, double> mapped;
@@ -155,7 +155,7 @@ int main(int argc, char** argv) {
   xcb_flush(display);
 
   std::vector<std::vector<Figures>> all(programs.size());
-  for (const char* program : programs) Measure(display, program);  // files into memory
+  for (const char* program : programs) Measure(display, program);  // loads the files into memory
   for (int round = 0; round < rounds; ++round) {
     for (std::size_t i = 0; i < programs.size(); ++i) {
       all[i].push_back(Measure(display, programs[i]));

@@ -1,5 +1,5 @@
-// Loading a million rows of data and computing a result, beside the bare loop over the same file
-// that reads the same numbers by the C++ library; and sorting them.
+// A million rows of data, loaded and summed up to a result, beside a bare loop over the same file
+// that reads the same numbers by the C++ library. Also the same rows, sorted.
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <unistd.h>
@@ -22,13 +22,13 @@
 
 namespace {
 
-// What this program takes by new, for the memory of a list.
+// The bytes that this program has from new, to tell the memory of a list.
 std::size_t taken = 0;
 std::size_t mostTaken = 0;
 
 }  // namespace
 
-// Inlined, they would look mismatched to the compiler.
+// Not inlined: the compiler would take them for mismatched.
 [[gnu::noinline]] void* operator new(std::size_t size) {
   void* const block = std::malloc(size);
   if (block == nullptr) throw std::bad_alloc();
@@ -49,7 +49,7 @@ namespace {
 
 constexpr int kRows = 1'000'000;
 
-/// Of the processor, so that other programs on the machine count less.
+/// Processor time, on which other programs of the machine have less influence.
 double Seconds() {
   return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
@@ -60,7 +60,7 @@ double Median(std::vector<double>& values) {
   return *middle;
 }
 
-/// A file of a value with three decimals, a tab and a count in each line.
+/// A file whose lines are a value with three decimals, a tab and a count.
 class DataFile {
  public:
   DataFile() {
@@ -105,7 +105,7 @@ double MeanByList(const std::string& path) {
   return MomentOf(std::get<DataList>(loaded), 0, Moment::Mean);
 }
 
-/// Both in turn, round by round: `ratio` is the median of those of the rounds.
+/// Measures both in turn, round by round. `ratio` is the median of the ratios of the rounds.
 void LoadAndMeanBesideLibrary(benchmark::State& state) {
   const DataFile file;
   std::vector<double> library;
@@ -126,7 +126,7 @@ void LoadAndMeanBesideLibrary(benchmark::State& state) {
   state.counters["library_ms"] = 1000 * Median(library);
   state.counters["list_ms"] = 1000 * Median(list);
   state.counters["ratio"] = Median(ratio);
-  // Without the few figures above, which are taken as well.
+  // Includes the few figures above, which hardly count.
   state.counters["memory_of_file"] =
       static_cast<double>(mostTaken - before) / static_cast<double>(file.Size());
 }

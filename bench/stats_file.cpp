@@ -1,9 +1,9 @@
-// stats_file KAVCALC [LINES [ROUNDS]]: how fast `kavcalc stats` sums a file of data up, beside a
-// bound: this program itself, taking both numbers of each line by the C++ library. They run in
-// turn, round by round; the figures are medians. Status 1 where kavcalc takes half as long again or
-// more than 6 MiB.
+// stats_file KAVCALC [LINES [ROUNDS]]: how fast `kavcalc stats` sums up a file of data, beside a
+// bound. The bound is this program itself, which reads both numbers of each line by the C++
+// library. They run in turn, round by round; the figures are medians. Status 1 if kavcalc takes
+// more than 1.5 times as long, or more than 6 MiB.
 //
-// stats_file --bound FILE: the bound.
+// stats_file --bound FILE: reads the file as the bound does.
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/resource.h>

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# stats_file.sh [LINES [ROUNDS]]: how fast kavcalc sums a file of a million rows up, beside a bare loop.
+# stats_file.sh [LINES [ROUNDS]]: how fast kavcalc sums up a file of a million rows, beside a bare loop.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 

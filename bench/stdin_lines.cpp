@@ -1,10 +1,11 @@
 // stdin_lines KAVCALC [LINES [ROUNDS]]: how fast kavcalc answers short expressions from standard
-// input, beside bc and, where they are installed, mawk and gawk on the same expressions, and beside
-// a bound: this program itself, reading lines, taking the number that opens each and writing it
-// with 17 digits. All run in turn, round by round; the figures are medians. Status 1 where kavcalc
-// is not twenty times as fast as bc.
+// input, beside bc on the same expressions and, if they are installed, mawk and gawk. Beside them
+// runs a bound: this program itself, which reads the number at the start of each line and writes it
+// with 17 digits. All run in turn, round by round; the figures are medians. Status 1 if kavcalc is
+// not twenty times as fast as bc.
 //
-// stdin_lines --bound: the bound. stdin_lines --write DIALECT LINES: the expressions alone.
+// stdin_lines --bound: does what the bound does. stdin_lines --write DIALECT LINES: prints the
+// expressions.
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/resource.h>
@@ -28,7 +29,7 @@ namespace {
 /// How a program spells the functions of one number, in the order of kFunctions.
 struct Dialect {
   const char* name;
-  const char* before;  ///< each expression
+  const char* before;  ///< what stands before each expression
   const char* functions[6];
 };
 constexpr Dialect kDialects[] = {
@@ -42,7 +43,7 @@ const Dialect& DialectOf(std::string_view name) {
                        [&](const Dialect& dialect) { return dialect.name == name; });
 }
 
-/// The same expressions each time: sums and products of numbers, functions, powers and groups.
+/// Makes sums and products of numbers, functions, powers and groups; the same ones each time.
 class Expressions {
  public:
   explicit Expressions(const Dialect& dialect) : dialect_(dialect) {}
@@ -89,7 +90,7 @@ void WriteExpressions(const Dialect& dialect, long lines, std::FILE* file) {
   for (; lines > 0; --lines) std::fputs(expressions.Next().c_str(), file);
 }
 
-/// What no calculator can be faster than: 64 KiB in, the number that opens each line out.
+/// No calculator can be faster: reads blocks of 64 KiB, writes the number that opens each line.
 int RunBound() {
   static char in[2 * 65536];
   static char out[65536 + 64];
@@ -131,7 +132,7 @@ struct Contender {
   }
 };
 
-/// Runs it once from its input into nothing; false where it cannot be run.
+/// Runs it once, and drops its output; false if it cannot be run.
 bool Run(Contender& contender) {
   std::vector<char*> arguments;
   for (std::string& text : contender.command) arguments.push_back(text.data());
@@ -171,7 +172,7 @@ int Compare(const std::string& kavcalc, const std::string& self, long lines, int
   const std::string own = InputFile(folder, "kavcalc", lines);
   const std::string bc = InputFile(folder, "bc", fewer);
   const std::string awk = InputFile(folder, "awk", some);
-  // The words BEGIN { ... } make a program of it that reads no input.
+  // A program of BEGIN { ... } alone reads no input.
   if (std::system(("sed -i '1s/^/BEGIN {/; $s/$/}/' " + awk).c_str()) != 0) return 2;
   std::vector<Contender> contenders{
       {"bound", {self, "--bound"}, own, lines},

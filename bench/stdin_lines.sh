@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # stdin_lines.sh [LINES [ROUNDS]]: how fast kavcalc answers a million short expressions from standard
-# input, beside bc -l, and how many instructions it takes for one where valgrind is installed.
+# input, beside bc -l; and, if valgrind is installed, how many instructions it takes for one.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 

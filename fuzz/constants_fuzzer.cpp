@@ -1,6 +1,5 @@
-// Tables of constants of any content: they are read as a reader of one byte after the other
-// understands them, what was read is written so that it reads the same, and a row is found by its
-// own texts.
+// Tables of constants of any content. They are read as a second reader, byte by byte, reads them;
+// rows that are written read back the same; and each row is found by its own texts.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -18,7 +17,7 @@ void Check(bool holds) {
   if (!holds) std::abort();
 }
 
-/// A record as it comes in, byte by byte.
+/// A record, collected byte by byte.
 struct Record {
   bool hasBracket = false;
   bool hasEquals = false;

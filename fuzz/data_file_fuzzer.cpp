@@ -1,5 +1,5 @@
-// Data files of any content: blocks cut anywhere give the same rows, rows as lines of a file are
-// read as they were, and so are rows as pasted text, as far as their counts may be pasted.
+// Data files of any content. Blocks cut at any place give the same rows. Rows written to a file
+// read back the same, and so do rows copied as text and pasted, if their counts may be pasted.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -30,14 +30,14 @@ struct Read {
   std::optional<DataFault> fault;
 };
 
-/// Reads `text` in blocks of 1 to 8 bytes as `cuts` has them, or whole without any.
+/// Reads `text` in blocks of 1 to 8 bytes, whose sizes `cuts` tells; without any, in one block.
 Read ReadIn(std::string_view text, DataShape shape, std::string_view cuts) {
   Read read{DataList(shape), {}};
   DataReader reader(shape, [&](const kav::DataRow& row) { return read.list.Append(row); });
   for (std::size_t i = 0; !text.empty() && !read.fault; ++i) {
     const std::size_t size =
         cuts.empty() ? text.size() : 1 + static_cast<unsigned char>(cuts[i % cuts.size()]) % 8U;
-    // A block of its own, so that a view into one that is gone shows.
+    // In memory of its own, so that the sanitizer finds a view into a block that is gone.
     const std::string block(text.substr(0, size));
     read.fault = reader.Read(block);
     text.remove_prefix(block.size());
@@ -63,7 +63,7 @@ void CheckTotal(const DataList& list) {
   Check(total == list.Total());
 }
 
-/// `list` as the file that holds it.
+/// The file that holds `list`.
 std::string Print(const DataList& list) {
   std::string text;
   for (std::size_t row = 0; row < list.RowCount(); ++row) {

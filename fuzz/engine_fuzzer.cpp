@@ -1,6 +1,6 @@
-// Texts of any content in every base and angle unit: they are answered as the plain rules answer
-// them, the same the next time, and the answer can be shown. The first byte is the modes; as a
-// digit, 0 is decimal, 1 hexadecimal, 2 binary, 3 octal, and 4 to 7 are these in radians.
+// Texts of any content in every base and angle unit. The answer is that of the plain rules, is the
+// same the next time, and can be shown. The first byte chooses the modes. As a digit, 0 is decimal,
+// 1 hexadecimal, 2 binary and 3 octal; 4 to 7 are the same in radians.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -34,7 +34,7 @@ void CheckAnswer(std::string_view text, kav::CalcModes modes) {
   if (answer) Check(kav::test::BitsOf(*answer) == kav::test::BitsOf(plain.value));
 }
 
-/// What the answer shows as, in the format that `choice` stands for.
+/// The text of the answer in the format that `choice` stands for.
 void CheckShown(double answer, std::uint8_t choice, kav::BaseMode base) {
   const kav::DisplayFormat format{static_cast<kav::DisplayType>(choice % 5), choice / 5 % 17};
   const auto shown = kav::FormatNumber(answer, format, base);

@@ -1,7 +1,7 @@
-// Formulas of any content: those that pass the checker have the same value at the same arguments
-// every time, whether they are evaluated once or by a runner. The first byte is the type and the
-// unit; as a digit, 0 is F(X), 1 F(X,Y), 2 F(X,Y,Z), and 3 to 5 are these in radians. The second
-// byte chooses the arguments.
+// Formulas of any content. Those that pass the checker have the same value for the same arguments
+// every time, whether they are evaluated once or by a runner. The first byte chooses the variables
+// and the angle unit. As a digit, 0 is F(X), 1 F(X,Y) and 2 F(X,Y,Z); 3 to 5 are the same in
+// radians. The second byte chooses the arguments.
 #include <array>
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,5 @@
-// Feeds arbitrary presses, texts and selections to the scientific screen: each byte is a key, a
-// choice from a menu, a selection or a piece of text.
+// The scientific screen, used at random. Each byte is a key, a choice from a menu, a selection or a
+// piece of text.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -14,7 +14,7 @@ using kav::ScientificModel;
 
 constexpr std::uint8_t kKeyCount = static_cast<std::uint8_t>(Key::F) + 1;
 
-/// One macro to call, so that calls get further than their names.
+/// With one macro, so that calls get further than their names.
 void StoreMacro(kav::SettingsStore& store) {
   store.Set(kav::kMacroCount, 1);
   store.Set(kav::MacroName(0), "f");

@@ -1,4 +1,4 @@
-// Matrix files of any content: what is read as a matrix is written so that it reads the same.
+// Matrix files of any content. A matrix that was read, written and read again is the same.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

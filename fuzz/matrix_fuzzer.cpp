@@ -1,5 +1,5 @@
-// Matrix expressions of any text, over [M1] of any content where it comes before a byte of 0: they
-// end, with a matrix or a message, every time with the same, and leave no file behind.
+// Matrix expressions of any text. What comes before a byte of 0 is [M1]. The evaluation ends with a
+// matrix or a message, with the same one every time, and leaves no file behind.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -21,7 +21,7 @@ void Check(bool holds) {
   if (!holds) std::abort();
 }
 
-/// A folder of this run's own, as the parent of the intermediate results.
+/// A folder of this run alone, for the files of intermediate results.
 class Folder {
  public:
   Folder() {

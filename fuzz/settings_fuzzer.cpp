@@ -1,4 +1,4 @@
-// Settings files of any content: reading one ends, and saving over it loses nothing that could be
+// Settings files of any content. They can be read, and saving over one loses nothing that could be
 // read.
 #include <unistd.h>
 
@@ -24,7 +24,7 @@ constexpr kav::SettingKey<std::int32_t> kNumber{"Config", "Angle Type", 1};
 constexpr kav::SettingKey<std::string_view> kText{"History", "CalHistory1", ""};
 constexpr std::string_view kLine = "2*sin(30) \"#\\\n";
 
-/// The folder of the run, in memory where the system offers one there; gone at the end.
+/// The folder of this run, in memory if the system offers that. Removed at the end.
 class Folder {
  public:
   Folder() {
@@ -54,8 +54,8 @@ std::string FileContent(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// What is read is written so that it reads the same. (A table with "not a number" in it is not
-/// even equal to itself.)
+/// Settings that were read, written and read again are the same. (A table with "not a number" in it
+/// is not even equal to itself.)
 void CheckWriting(std::string_view input) {
   const auto parsed = toml::parse(input);
   if (!parsed || !(parsed.table() == parsed.table())) return;

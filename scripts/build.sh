@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# build.sh [--quiet] PRESET [TARGET...]: configures the preset where that is due and builds the targets,
-# or everything, in build/PRESET. It speaks on stderr only: of failures and, unless quiet, of the
-# progress where there is a terminal to show it on.
+# build.sh [--quiet] PRESET [TARGET...]: configures the preset if that is due, and builds the targets, or
+# everything, in build/PRESET. It writes to stderr only: failures and, unless quiet, the progress if
+# stderr is a terminal.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
@@ -13,14 +13,14 @@ shift
 folder=build/$preset
 mkdir -p "$folder"
 
-# Two starts in the same instant must not build into one folder at the same time.
+# Two builds must not work in one folder at the same time.
 exec {lock}>"$folder/.lock"
 flock "$lock"
 
 configure() {
   cmake --preset "$preset" "$@" </dev/null >/dev/null
 }
-# A folder that was moved or copied with the sources still names the place it comes from.
+# A build folder that was moved or copied with the sources still names its old place.
 if ! grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$folder/CMakeCache.txt"; then
   configure --fresh
 elif [[ ! $folder/build.ninja -nt CMakePresets.json || build/.packages -nt $folder/build.ninja ]]; then
@@ -31,7 +31,7 @@ build() {
   cmake --build "$folder" -- "$@" </dev/null 2>&1
 }
 if [[ $quiet ]]; then
-  # Even a quiet ninja remarks that there was nothing to do.
+  # Even a quiet ninja says that there is no work to do.
   said=$(build --quiet "$@") || { printf '%s\n' "$said" >&2 && exit 1; }
 else
   build "$@" >&2

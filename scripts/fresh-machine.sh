@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# fresh-machine.sh [FOLDER]: tries what the README promises where nothing is installed. It makes an empty
-# Debian 12 in FOLDER (default: a temporary one), clones the project into it as it was last committed,
-# and there lets root, and then on another empty tree an ordinary user who has sudo, run `./run` and look
-# at its answer, start the window and take a picture of each screen, and run `./test`. It says how long
-# each took. What they printed and the pictures stay in build/fresh-machine; the trees are removed.
+# fresh-machine.sh [FOLDER]: tries what the README promises on a machine with nothing installed. It makes
+# an empty Debian 12 in FOLDER (default: a temporary one) and clones the last commit of the project into
+# it. There root runs `./run`, whose answer is checked, starts the window, takes a picture of each screen,
+# and runs `./test`. On another empty tree an ordinary user who has sudo does the same. It prints how long
+# each step took. Output and pictures stay in build/fresh-machine; the trees are removed.
 #
-# It must be root itself, since it makes a system of its own. The display that the windows are shown on
-# is this machine's, so that no package comes into the tree which a user would not have.
-# shellcheck disable=SC2016  # what stands in single quotes is for the shells in the trees
+# It has to run as root, since it makes a system of its own. The windows are shown on a display of this
+# machine, so that the tree has no package that a user would not have.
+# shellcheck disable=SC2016  # single quotes hold texts for the shells in the trees
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
@@ -25,8 +25,8 @@ folder=${1-}
 trees=$(mktemp -d ${folder:+-p "$folder"})
 trap 'kill -- $(jobs -p) 2>/dev/null || true; wait; rm -rf -- "$trees"' EXIT
 
-# become TREE USER TEXT: the shell goes on as one of that user, on a machine of which TREE is all, and
-# runs TEXT. What is mounted for it goes with its processes.
+# become TREE USER TEXT: replaces this shell by one of USER that sees nothing but TREE, and runs TEXT.
+# Its mounts end with its processes.
 become() {
   exec unshare --mount --pid --fork --kill-child bash -euc '
     tree=$1 user=$2
@@ -45,11 +45,11 @@ in_tree() (
   become "$@"
 )
 
-# step NAME COMMAND...: runs it; what it prints goes to files of that name, its last line is shown.
+# step NAME COMMAND...: runs the command. Its output goes to files of that name; the last line is shown.
 step() {
   local name=$1 start=$SECONDS status=0
   shift
-  # By itself, so that the first failure in it ends it.
+  # In the background: in a condition it would go on after its first failure.
   "$@" >"$kept/$name.out" 2>"$kept/$name.err" &
   wait $! || status=$?
   if ((status)); then
@@ -65,7 +65,7 @@ make_empty() {
   du -sh "$trees/empty" | cut -f 1
 }
 
-# The user's machine, with the clone in ~/calculator.
+# The machine of the ordinary user, with the clone in ~/calculator.
 make_tree() {
   local user=$1 tree=$trees/$1 home
   cp -a -- "$trees/empty" "$tree"
@@ -88,7 +88,7 @@ calculate() {
   [[ $answer == 7 ]]
 }
 
-# A picture of each screen, which comes up as the one that the settings name.
+# Takes a picture of each screen. The settings name the one that comes up.
 take_pictures() {
   local user=$1 tree=$trees/$1 mode window started
   local -A modes=([1]=scientific [2]=plotter [3]=one-variable [4]=two-variable [5]=matrix)
@@ -98,10 +98,10 @@ take_pictures() {
         >.config/kav-calculator/settings.toml'
     SHOWN_ON=$display become "$tree" "$user" 'cd calculator; exec ./run' &
     started=$!
-    sleep 3  # by then the window of that name is the screen, and no longer the frame that loads it
+    sleep 3  # until then the window of that name may be the frame that loads the screen
     window=$(DISPLAY=$display timeout 30 xdotool search --onlyvisible --sync --name '^Kav Calculator$')
     DISPLAY=$display import -window "$window" +repage "$kept/$user-${modes[$mode]}.png"
-    # The first process of that machine, with which all of it ends.
+    # The first process of that machine: everything on it ends with it.
     pkill -KILL --parent "$started"
     wait "$started" || true
   done
@@ -113,7 +113,7 @@ run_tests() {
   grep -E '^[0-9]+% tests passed' "$kept/$1-ctest.log"
 }
 
-# The server finds a free display itself and says which on this pipe.
+# The server chooses a free display, and writes its number to this pipe.
 coproc server { exec Xvfb -displayfd 1 -noreset -screen 0 1280x1024x24 -dpi 96 -nolisten tcp 2>/dev/null; }
 read -r number <&"${server[0]}"
 display=:$number

@@ -1,32 +1,31 @@
 #!/usr/bin/env bash
-# packages.sh SET...: sees to it that the Debian packages of these sets are installed. Where they all
-# are, nothing is fetched and nothing is asked; otherwise apt-get installs those that are missing, as
-# root or through sudo. Everything is said on stderr. Status 1: something is missing and stays so.
+# packages.sh SET...: installs the Debian packages of these sets. If all are installed, it fetches and
+# asks nothing; otherwise apt-get installs the missing ones, as root or through sudo. It writes to stderr
+# only. Status 1: packages are missing and could not be installed.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
 declare -A sets=(
-  # To build and run the two programs. Line editing is linked from archives, and so is what it stands
-  # on; the fonts are those that look best, for the screens have room for the texts in any.
+  # To build and run the two programs. The library for line editing is linked from archives, as are those
+  # that it needs. The screens have room for their texts in any font; these fonts look best.
   [run]="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libtomlplusplus-dev libedit-dev
     libncurses-dev libbsd-dev libmd-dev fonts-dejavu-extra"
-  # The window on a desktop that has no X server beside its Wayland one.
+  # The window on a desktop that has Wayland and no X server.
   [wayland]="qt6-wayland"
-  # The tests and, so that they keep compiling, the benchmarks; locales brings the sources from which
-  # the build makes the foreign locales that the tests run in, and the fonts are those that the screens
-  # are measured in.
+  # The tests, and the benchmarks, so that they keep compiling. The build makes the foreign locales of
+  # the tests from the sources in locales. The screens are measured in these fonts.
   [test]="libgtest-dev libgmock-dev libbenchmark-dev locales fonts-dejavu-core fonts-dejavu-extra
     fonts-liberation fonts-noto-core fonts-opendyslexic"
-  # The checks beyond the tests. llvm makes the sanitizers' reports name lines instead of addresses;
-  # lld links what they have made large in a third of the time.
+  # The checks beyond the tests. With llvm the reports of the sanitizers name lines instead of addresses;
+  # lld links their large programs in a third of the time.
   [check]="clang clang-format clang-tidy libclang-rt-14-dev lld llvm shellcheck"
-  # What the benchmarks are measured against, and a display for those that open windows.
+  # Programs to compare with in benchmarks, and a display for those that open windows.
   [bench]="bc libxcb1-dev xvfb xauth"
-  # To take the pictures of the screen in docs/images anew.
+  # To take the pictures in docs/images again.
   [pictures]="xvfb xdotool imagemagick"
-  # An empty system to try the project on, and a display to see its windows on.
+  # An empty system to try the project on, and a display for its windows.
   [fresh]="debootstrap git procps xvfb xdotool imagemagick"
-  # To draw packaging/icons anew.
+  # To draw the pictures in packaging/icons again.
   [icons]="librsvg2-bin"
 )
 
@@ -41,7 +40,7 @@ command -v apt-get >/dev/null || {
   exit 1
 }
 
-# A package that dpkg has never heard of makes dpkg-query fail, but it lists the others all the same.
+# dpkg-query fails if it does not know one of the packages, but it lists the others.
 installed=" $(dpkg-query --show --showformat='${Package}:${db:Status-Status} ' "${wanted[@]}" \
   2>/dev/null || true)"
 missing=()
@@ -50,7 +49,7 @@ for package in "${wanted[@]}"; do
 done
 ((${#missing[@]})) || exit 0
 
-# At a terminal sudo may ask for the password; elsewhere there is nobody to answer.
+# sudo may ask for the password only at a terminal.
 if [[ $(id -u) == 0 ]]; then
   as_root=()
 elif command -v sudo >/dev/null &&
@@ -69,8 +68,8 @@ apt() {
 }
 
 echo "Installing (first time only): ${missing[*]}" >&2
-# The lists of packages may be absent, or so old that they name files which are gone: then the first
-# attempt fails, and the second has fresh ones.
+# The lists of packages may be missing, or so old that they name files which are gone. The first attempt
+# fails then; the second has new lists.
 apt install --no-install-recommends "${missing[@]}" ||
   { apt update && apt install --no-install-recommends "${missing[@]}"; } || {
   cat -- "$log" >&2
@@ -78,5 +77,5 @@ apt install --no-install-recommends "${missing[@]}" ||
   exit 1
 }
 
-# What was configured before may have gone without them.
+# Presets that were configured before may have done without these packages.
 mkdir -p build && touch build/.packages

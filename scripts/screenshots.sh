@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# screenshots.sh: takes the pictures of the screen in docs/images anew, from the program itself on a
-# display of its own: in decimal, in hexadecimal and with Shift on, its dialogs, and the other screens,
+# screenshots.sh: takes the pictures in docs/images again, of the program on a display of its own: the
+# scientific screen in decimal, in hexadecimal and with Shift on, its dialogs, and the other screens,
 # each at three sizes. Nothing in them depends on the user's settings.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
@@ -16,12 +16,12 @@ export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 unset WAYLAND_DISPLAY QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME XDG_CURRENT_DESKTOP QT_SCALE_FACTOR \
   QT_FONT_DPI
 
-# The server finds a free display itself and says which on this pipe.
+# The server chooses a free display, and writes its number to this pipe.
 coproc server { exec Xvfb -displayfd 1 -noreset -screen 0 1280x1600x24 -dpi 96 -nolisten tcp 2>/dev/null; }
 read -r number <&"${server[0]}"
 export DISPLAY=:$number
 
-# What there is to be seen in the dialogs.
+# The entries that the dialogs show.
 stored='
 [MacroInfo]
 TotalNumber = 3
@@ -59,15 +59,15 @@ Var0 = "299792.458"
 Var3 = "-2.5e-12"
 '
 
-# The picture is of this window, whose title is "$1", and keys go to it.
+# Chooses the window with the title "$1" for the keys and the picture.
 focus() {
   window=$(timeout 30 xdotool search --onlyvisible --sync --name "^$1\$")
   xdotool windowfocus --sync "$window"
 }
 
-# take NAME WIDTHxHEIGHT BASE DEED...: one picture, of the base numbered BASE, after these texts were
-# typed, or the keys pressed that a deed such as press:alt+s names, or the dialog came to the front
-# that one such as focus:Constants names. $config may have further settings of the first section.
+# take NAME WIDTHxHEIGHT BASE DEED...: takes one picture, in the base numbered BASE, after the deeds. A
+# deed is a text to type, keys to press as in press:alt+s, or a dialog to choose as in focus:Constants.
+# $config may have further settings of the first section.
 take() {
   local name=$1 size=$2 base=$3 window
   shift 3
@@ -77,7 +77,7 @@ take() {
   build/release/src/app/kav-calculator &
   local calculator=$!
   xdotool mousemove 1279 1599
-  sleep 1  # by then the window of that name is the screen, and no longer the frame that loads it
+  sleep 1  # until then the window of that name may be the frame that loads the screen
   focus 'Kav Calculator'
   for deed in "$@"; do
     case $deed in
@@ -87,7 +87,7 @@ take() {
     esac
     sleep 0.4
   done
-  [[ $* == *focus:* ]] || xdotool key End  # after a key the caret is to be seen for half a second
+  [[ $* == *focus:* ]] || xdotool key End  # after a key the caret shows for half a second
   sleep 0.2
   import -window "$window" +repage -define png:exclude-chunks=date,time \
     "docs/images/$name-$size.png"
@@ -95,7 +95,7 @@ take() {
   wait "$calculator" || true
 }
 
-# What is typed for each row of data: its values, and Enter behind the last.
+# The keys for each row of data: its values, and Enter after the last one.
 rows_of_data() {
   local row
   for row in "$@"; do

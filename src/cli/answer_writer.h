@@ -1,4 +1,4 @@
-// The answers to items, and standard output, which they are written to.
+// Answers to items, and their way to standard output.
 #pragma once
 
 #include <initializer_list>

@@ -6,7 +6,7 @@
 namespace kav {
 namespace {
 
-/// The longest start of `text` that ends between two characters and fits.
+/// As many whole characters of `text` as fit into `longest` bytes.
 std::string_view StartOf(std::string_view text, std::size_t longest) {
   std::size_t length = 0;
   while (length < text.size()) {
@@ -21,7 +21,7 @@ std::string Joined(std::string_view start, std::string_view middle, std::string_
   return std::string(start).append(middle).append(end);
 }
 
-/// Where to find what the category numbered `number` offers.
+/// A hint at the units of the category numbered `number`.
 std::string SeeList(int number) {
   return "; kavcalc convert --list " + PrintInteger(number) + " shows all";
 }

@@ -1,4 +1,4 @@
-// What the user reads from kavcalc beside the answers of the calculator itself and the help.
+// The texts of kavcalc, except its help and those of the calculator itself.
 #pragma once
 
 #include <string>
@@ -14,10 +14,10 @@ inline constexpr std::string_view kPrompt = "> ";
 /// The name and version of the program, with a line end.
 std::string VersionLine();
 
-/// `text` in quotes, as messages name it; one of more than 40 bytes is cut.
+/// `text` in quotes, as messages name it. A text of more than 40 bytes is cut.
 std::string Quoted(std::string_view text);
 
-// Answers, and what stands behind the failure mark.
+// Answers, and messages that follow the failure mark.
 inline constexpr std::string_view kDone = "ok";
 std::string NotANumber(std::string_view text);
 std::string NoKeyShows(std::string_view caption);
@@ -28,7 +28,7 @@ std::string NotVariables(std::string_view text);
 std::string NotAMemoryVariable(std::string_view text, int count);
 std::string NotAUserConversion(std::string_view text);
 
-// On standard error, behind the program's name. `reason` is the system's.
+// Messages on standard error, which follow the program's name. `reason` is a text of the system.
 std::string CannotRead(std::string_view reason);
 std::string CannotWrite(std::string_view reason);
 std::string CannotKeepHistory(std::string_view path, std::string_view reason);

@@ -10,7 +10,7 @@ namespace kav {
 /// All commands. The first one is meant if none is named.
 std::span<const Command> Commands();
 
-// What carries them out, each in a file of its own. See Command::run for what they return.
+// The functions that carry them out, each in a file of its own; see Command::run.
 int RunCheck(const CommandLine& line);
 int RunConstants(const CommandLine& line);
 int RunConvert(const CommandLine& line);
@@ -22,7 +22,7 @@ int RunMatrix(const CommandLine& line);
 int RunMemory(const CommandLine& line);
 int RunPlot(const CommandLine& line);
 int RunStats(const CommandLine& line);
-/// `line` is that of the command convert, without the item "user".
+/// For `convert user`. `line` is that of convert, without the item "user".
 int RunUserConversions(CommandLine line);
 
 }  // namespace kav

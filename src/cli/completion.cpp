@@ -13,8 +13,8 @@ bool IsLetter(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-/// The begun name at the end of `before`. That of a macro may hold anything but "(", and begins
-/// with its mark.
+/// The unfinished name at the end of `before`. The name of a macro begins with its mark and may
+/// hold anything but "(".
 std::string_view BegunName(std::string_view before) {
   const std::size_t mark = before.rfind(kMacroMark);
   if (mark != before.npos && before.find('(', mark) == before.npos) return before.substr(mark);
@@ -27,7 +27,7 @@ bool GoesOnAs(std::string_view begun, std::string_view name) {
   return name.substr(0, begun.size()) == begun;
 }
 
-/// How much all of `names` (at least one) have in common at their start.
+/// The longest common start of `names`, which must not be empty.
 std::string_view CommonStart(const std::vector<std::string>& names) {
   std::string_view common = names.front();
   for (const std::string& name : names) {

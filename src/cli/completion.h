@@ -1,4 +1,4 @@
-// The names that a line being typed can go on with.
+// Completion of the names of functions and macros while a line is typed.
 #pragma once
 
 #include <span>
@@ -8,15 +8,16 @@
 
 namespace kav {
 
-/// What the Tab key makes of a line: the text to insert at the caret, and the names to list where
-/// there are several and none can be told apart further.
+/// What the Tab key does to a line: it inserts a text at the caret or, if there is nothing to
+/// insert, lists the names that are possible.
 struct Completion {
   std::string insertion;
   std::vector<std::string> choices;
 };
 
-/// Completes the name that ends at the caret: `before` is the line up to it. `names` are written
-/// with what follows them, as "sin(" and "M:area("; capitals count in those that hold any.
+/// Completes the name that ends at the caret; `before` is the line up to there. Each of `names`
+/// includes the text that follows it in a line, as in "sin(" and "M:area(". What is typed matches a
+/// name as it is or in small letters.
 Completion Complete(std::string_view before, std::span<const std::string> names);
 
 }  // namespace kav

@@ -27,13 +27,13 @@ std::string WhyNot(NameFailure failure, std::string_view name, const UnitCategor
                                            : HasNoUnit(caption, NumberOf(category), name);
 }
 
-/// What the arguments ask for: a conversion, and how many of them it took to name it.
-struct Asked {
+/// A conversion, and how many items name it.
+struct NamedConversion {
   std::function<double(double)> convert;
   std::size_t names;
 };
 
-/// The conversion of `category` that the rows at `places` mean.
+/// The conversion that the rows at `places` name: a unit and another one, or one conversion.
 std::function<double(double)> ConversionOf(const UnitCategory& category,
                                            const std::vector<UnitRow>& rows,
                                            const std::vector<std::size_t>& places) {
@@ -52,9 +52,9 @@ std::function<double(double)> ConversionOf(const UnitCategory& category,
   return [rate](double value) { return ConvertByRate(value, rate); };
 }
 
-/// What `items` (not empty) ask for, or why they ask for nothing.
-Expected<Asked, std::string> Ask(const std::vector<std::string_view>& items,
-                                 const SettingsStore& settings) {
+/// The conversion that the first of `items` (not empty) name, or why they name none.
+Expected<NamedConversion, std::string> FindConversion(const std::vector<std::string_view>& items,
+                                                      const SettingsStore& settings) {
   const UnitCategory* category = FindCategory(items.front());
   if (category == nullptr) return NoCategoryIs(items.front());
   const auto rows = UnitRows(*category, settings);
@@ -70,27 +70,27 @@ Expected<Asked, std::string> Ask(const std::vector<std::string_view>& items,
     if (!place) return WhyNot(place.error(), items[i], *category);
     places.push_back(*place);
   }
-  return Asked{ConversionOf(*category, rows, places), names + 1};
+  return NamedConversion{ConversionOf(*category, rows, places), names + 1};
 }
 
-Answer AnswerConverted(std::string_view text, const Asked& asked) {
+Answer AnswerConverted(std::string_view text, const NamedConversion& named) {
   const auto value = ReadShownNumber(text);
   if (!value) return Failure{NotANumber(text)};
-  const double converted = asked.convert(*value);
-  // With 17 digits an infinity could be printed, but it is no answer.
+  const double converted = named.convert(*value);
+  // Raw numbers include infinity, but it is no answer here.
   if (!std::isfinite(converted)) return Failure{MakeError(CalcErrorCode::OutOfRange).message};
   return converted;
 }
 
 int Convert(CommandLine line) {
   StoredSettings settings(line.options);
-  const auto asked = Ask(line.items, settings.Store());
+  const auto named = FindConversion(line.items, settings.Store());
   settings.TellNotices();
-  if (!asked) return Complain(asked.error(), *line.command);
+  if (!named) return Complain(named.error(), *line.command);
   line.items.erase(line.items.begin(),
-                   line.items.begin() + static_cast<std::ptrdiff_t>(asked->names));
+                   line.items.begin() + static_cast<std::ptrdiff_t>(named->names));
   return AnswerItems(line, LineReader::kAnyLength,
-                     [&](std::string_view item) { return AnswerConverted(item, *asked); });
+                     [&](std::string_view item) { return AnswerConverted(item, *named); });
 }
 
 int ListUnits(const CommandLine& line) {

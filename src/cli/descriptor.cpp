@@ -11,8 +11,8 @@ namespace {
 
 constexpr int kForever = -1;
 
-/// Whether the call that left `error` should be made again: at once after a signal, after a wait
-/// for `event` where the file was set not to wait by itself.
+/// Whether to repeat the call that failed with `error`: after a signal, at once; if the file was
+/// set not to wait by itself, after a wait for `event`.
 bool ShouldRetry(int error, int descriptor, short event) {
   if (error == EAGAIN || error == EWOULDBLOCK) {
     pollfd wait{descriptor, event, 0};
@@ -50,7 +50,7 @@ bool WouldWait(int descriptor) {
 }
 
 void ReserveStandardFiles() {
-  // Opened the wrong way round, so that reading and writing fail as on a closed file.
+  // For writing if it is to be read and the other way round: using it fails as on a closed file.
   for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
     const int way = descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY;
     if (fcntl(descriptor, F_GETFD) < 0) static_cast<void>(open("/dev/null", way));

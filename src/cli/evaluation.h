@@ -12,8 +12,8 @@
 
 namespace kav {
 
-/// Evaluates lines with the user's macros, in the base and the angle unit of the options, which
-/// must outlive it. Without an angle unit there, the stored one counts.
+/// Evaluates lines (UTF-8) with the user's macros, in the base and the angle unit of the options.
+/// If these name no angle unit, the stored one counts. The options must outlive it.
 class Evaluation {
  public:
   explicit Evaluation(const Options& options);

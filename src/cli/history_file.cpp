@@ -14,7 +14,7 @@ namespace kav {
 namespace {
 
 constexpr std::size_t kLongestLine = 4096;
-// More than lines can fill between two starts.
+// More than the prompt can add before it is started the next time.
 constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
 
 std::vector<std::string> LinesOf(std::string_view text) {
@@ -41,7 +41,7 @@ std::vector<std::string> HistoryFile::Load() {
   std::vector<std::string> lines = LinesOf(*text);
   if (lines.size() <= kCapacity) return lines;
   lines.erase(lines.begin(), lines.end() - static_cast<std::ptrdiff_t>(kCapacity));
-  // Where this fails, so will adding a line, and that is told.
+  // If this fails, so will adding a line, and that is told.
   static_cast<void>(ReplaceFile(path_, TextOf(lines)));
   return lines;
 }

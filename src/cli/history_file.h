@@ -1,4 +1,4 @@
-// The lines that were typed at the prompt, kept from one run to the next.
+// The lines typed at the prompt, kept from one run to the next.
 #pragma once
 
 #include <string>
@@ -7,18 +7,19 @@
 
 namespace kav {
 
-/// A text file, a line each, the newest last. Several prompts may use one at the same time. Where
-/// it cannot be used, standard error is told once and the lines last as long as the prompt.
+/// A text file of lines, the newest last. Several prompts may use one file at the same time. If it
+/// cannot be written, standard error is told once, and nothing is kept from then on.
 class HistoryFile {
  public:
   static constexpr std::size_t kCapacity = 1000;
 
-  /// The file `path`, made when it is first needed; an empty path keeps nothing.
+  /// The file at `path`, which is made when it is first needed. With an empty path nothing is kept.
   explicit HistoryFile(std::string path) : path_(std::move(path)) {}
 
-  /// The newest kCapacity lines, oldest first. Older ones are removed from the file.
+  /// The newest kCapacity lines, the oldest first; none if the file cannot be read. Removes older
+  /// lines from the file.
   std::vector<std::string> Load();
-  /// Adds `line`, which is kept at once; one of more than 4096 bytes is not worth it.
+  /// Adds `line` to the file at once, unless it is longer than 4096 bytes.
   void Append(std::string_view line);
 
  private:

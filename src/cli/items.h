@@ -14,8 +14,8 @@ namespace kav {
 /// The parts of an item, which they view.
 using Parts = std::vector<std::string_view>;
 
-/// Longer than any expression that has a value, blanks aside: 151 tokens, each perhaps a call of a
-/// macro with 151 more in each of its arguments, none longer than a number of 30 digits.
+/// More bytes than any expression with a value has, blanks aside: 151 tokens, each of which may be
+/// a call of a macro with 151 tokens in each argument, none longer than a number of 30 digits.
 inline constexpr std::size_t kLongestExpression = std::size_t{1} << 20U;
 
 /// Calls `take` for each item of `line` or, without any, for each line of standard input (see

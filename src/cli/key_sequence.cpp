@@ -15,7 +15,8 @@ bool IsQuoted(std::string_view step) {
   return step.size() >= 2 && step.front() == '"' && step.back() == '"';
 }
 
-/// Takes a position off the front of `text`; one that no line reaches counts as its end.
+/// Removes a position from the front of `text`; nullopt if there is none. A number beyond all
+/// positions stands for the end of the line.
 std::optional<std::size_t> TakePosition(std::string_view& text) {
   std::size_t position = 0;
   const auto read = std::from_chars(text.data(), text.data() + text.size(), position);
@@ -25,7 +26,7 @@ std::optional<std::size_t> TakePosition(std::string_view& text) {
   return position;
 }
 
-/// What "[A:B]" or "[A]" selects.
+/// The selection that "[A:B]" or "[A]" stands for; nullopt if `step` is neither.
 std::optional<Selection> ReadSelection(std::string_view step) {
   if (step.size() < 2 || step.front() != '[' || step.back() != ']') return std::nullopt;
   step = step.substr(1, step.size() - 2);
@@ -73,8 +74,8 @@ std::optional<std::string> KeySequence::TakeItem(std::string_view text) {
   return std::nullopt;
 }
 
-/// The menu shows a long entry cut, and cut entries may look alike; the whole text tells them
-/// apart.
+/// The menu cuts long entries, and cut entries may look alike. So an entry with this whole text
+/// comes first.
 std::optional<std::string> KeySequence::ChooseHistory(std::u16string_view text) {
   const Menu menu = screen_.HistoryMenu();
   const auto& entries = screen_.PastLines().Entries();

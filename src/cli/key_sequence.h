@@ -1,4 +1,4 @@
-// Keys of the scientific screen by what they show, pressed one after the other.
+// Keys of the scientific screen, named by their captions and pressed one after the other.
 #pragma once
 
 #include <optional>
@@ -14,9 +14,10 @@ class KeySequence {
  public:
   explicit KeySequence(ScientificModel& screen) : screen_(screen) {}
 
-  /// Takes the next of the sequence (UTF-8): the caption of a key as shown now, a quoted text to
-  /// type, "[A:B]" or "[A]" to select, or after a key that opens a menu the text of one of its
-  /// items. Answers why it cannot be done; nullopt where it was.
+  /// Carries out the next step (UTF-8): the caption of a key as shown now, a quoted text to type,
+  /// or
+  /// "[A:B]" or "[A]" to select. After a key that opens a menu, the step is the text of one of its
+  /// items. Returns why the step cannot be carried out; nullopt if it was.
   std::optional<std::string> Take(std::string_view step);
 
  private:

@@ -20,8 +20,8 @@ void CopyMacros(const SettingsStore& from, SettingsStore& to) {
   }
 }
 
-/// The settings of a screen that was never used: the macros are the user's, everything else is as
-/// the options say, and there is no history.
+/// Fills the settings of a screen that was never used: the macros are the user's, there is no
+/// history, and the rest is as the options say.
 void SetUp(SettingsStore& screen, const Options& options) {
   StoredSettings stored(options);
   CopyMacros(stored.Store(), screen);

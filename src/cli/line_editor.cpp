@@ -23,7 +23,7 @@ char* PromptText(EditLine*) {
   return text.data();
 }
 
-/// `names` below the line being typed.
+/// Lists `names`, which must not be empty, below the line being typed.
 void List(const std::vector<std::string>& names) {
   std::string text = "\n";
   for (const std::string& name : names) text.append(name).append("  ");
@@ -41,7 +41,7 @@ void LineEditor::Closer::operator()(struct history* lines) const {
 }
 
 LineEditor::LineEditor(Completer completer) : completer_(std::move(completer)) {
-  // The library decodes what is typed by the locale.
+  // The library decodes typed characters by the locale.
   std::setlocale(LC_CTYPE, "C.UTF-8");
   history_.reset(history_init());
   editor_.reset(el_init(kProgramName.data(), stdin, stdout, stderr));
@@ -57,7 +57,7 @@ LineEditor::LineEditor(Completer completer) : completer_(std::move(completer)) {
   el_set(editor, EL_HIST, ::history, history_.get());
   el_set(editor, EL_ADDFN, kTabFunction, "complete the name at the caret", OnTab);
   el_set(editor, EL_BIND, "^I", kTabFunction, nullptr);
-  // Keys and not signals: a signal that comes just before the next key is waited for is forgotten.
+  // As keys, not as signals: a signal just before the wait for the next key would be lost.
   el_set(editor, EL_SETTY, "-d", "-isig", nullptr);
   el_set(editor, EL_ADDFN, kGiveUpFunction, "give up the line", OnGiveUp);
   el_set(editor, EL_BIND, "^C", kGiveUpFunction, nullptr);
@@ -71,8 +71,8 @@ LineEditor::~LineEditor() = default;
 LineEditor::Outcome LineEditor::Read(std::string& line) {
   if (!history_ || !editor_) return Outcome::End;
   isGivenUp_ = false;
-  // Before the prompt invites to type: what is typed earlier would be taken as a cooked line, and a
-  // Ctrl-D among it be lost.
+  // Before the prompt appears: until then the terminal collects whole lines, and would lose a
+  // Ctrl-D among them.
   el_set(editor_.get(), EL_PREP_TERM, 1);
   int count = 0;
   const char* text = el_gets(editor_.get(), &count);
@@ -106,7 +106,7 @@ unsigned char LineEditor::OnGiveUp(editline* editor, int) {
 }
 
 unsigned char LineEditor::OnStop(editline*, int) {
-  // The editor sees to the terminal on the way out and back in.
+  // The library resets the terminal for the stop, and sets it up again afterwards.
   kill(0, SIGTSTP);
   return CC_REDISPLAY;
 }

@@ -1,4 +1,4 @@
-// A line typed at a terminal, with editing, history and completion.
+// Lines typed at a terminal, with editing, history and completion.
 #pragma once
 
 #include <functional>
@@ -8,16 +8,16 @@
 
 #include "cli/completion.h"
 
-// The library's own types, which its header declares for who includes it.
+// Types of the library for line editing, whose header only the source includes.
 struct editline;
 struct history;
 
 namespace kav {
 
-/// Reads lines from the terminal at standard input and output. Texts are UTF-8 whatever the locale.
+/// Reads lines from the terminal at standard input and output. Texts are UTF-8 in every locale.
 class LineEditor {
  public:
-  /// Called with the line up to the caret when the Tab key is pressed.
+  /// Called when the Tab key is pressed. `before` is the line up to the caret.
   using Completer = std::function<Completion(std::string_view before)>;
 
   explicit LineEditor(Completer completer);
@@ -26,11 +26,11 @@ class LineEditor {
   ~LineEditor();
 
   enum class Outcome { Line, GivenUp, End };
-  /// Prompts for a line and puts it, without its end, into `line`. GivenUp: Ctrl-C gave the
-  /// line up. End: Ctrl-D, or the terminal is gone.
+  /// Prompts for a line and puts it, without its end, into `line`. GivenUp: Ctrl-C was pressed.
+  /// End: Ctrl-D was pressed, or the terminal is gone or cannot be set up.
   Outcome Read(std::string& line);
 
-  /// Makes `line` the newest of those the arrows go back to.
+  /// Adds `line` to those that the arrows go back to.
   void Remember(const std::string& line);
 
  private:

@@ -40,7 +40,8 @@ std::string_view LineReader::Take(std::size_t end, std::size_t next) {
   return {&data_[start], end - start};
 }
 
-/// Reads on; false at the end of the input, which at a terminal may be followed by more.
+/// Reads on; false at the end of the file. Never reads again after it, since a terminal may have
+/// more.
 bool LineReader::Fill() {
   if (isAtEnd_) return false;
   MakeRoom();
@@ -55,7 +56,7 @@ bool LineReader::Fill() {
 void LineReader::MakeRoom() {
   std::copy(&data_[begin_], &data_[end_], data_.get());
   end_ -= std::exchange(begin_, 0);
-  // Half a block is worth a read, and more of the line than that is worth twice the room.
+  // Reads of less than half a block are not worth a call; a line that leaves no more gets room.
   if (capacity_ - end_ < kBlock / 2) capacity_ / 2 >= longest_ ? Shorten() : Grow();
   scanned_ = end_;
 }
@@ -67,7 +68,7 @@ void LineReader::Grow() {
   capacity_ *= 2;
 }
 
-/// Makes an overlong line shorter. Its end goes only where more than blanks is too long.
+/// Shortens an overlong line by its repeated blanks and, if that is not enough, by its end.
 void LineReader::Shorten() {
   char* const end =
       std::unique(data_.get(), &data_[end_], [](char a, char b) { return a == ' ' && b == ' '; });

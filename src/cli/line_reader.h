@@ -1,4 +1,4 @@
-// Standard input, or another open file, line by line.
+// An open file, read line by line.
 #pragma once
 
 #include <cstddef>
@@ -10,21 +10,21 @@
 
 namespace kav {
 
-/// Hands out the lines of an open file, without their "\n" or "\r\n"; the last one needs none. The
-/// memory taken is a block, or twice the longest line where that is more.
+/// Reads the lines of an open file, without their "\n" or "\r\n". The last line needs no end. Takes
+/// the memory of a block of 64 KiB, or of twice the longest line if that is more.
 class LineReader {
  public:
   static constexpr std::size_t kAnyLength = std::numeric_limits<std::size_t>::max();
 
-  /// Reads `descriptor`, which must stay open. `beforeWaiting` is called before each read that has
-  /// to wait for the other side. A line longer than `longest` bytes (at least a block) may lose
-  /// repeated blanks and what follows its first `longest` bytes.
+  /// Reads `descriptor`, which must stay open and is not closed. Calls `beforeWaiting` before each
+  /// read that has to wait. A line of more than `longest` bytes (at least a block) may lose
+  /// repeated blanks, and whatever follows its first `longest` bytes.
   LineReader(int descriptor, std::size_t longest, std::function<void()> beforeWaiting);
 
-  /// The next line, valid until the next call; nullopt at the end and after a failure.
+  /// The next line, valid until the next call; nullopt at the end of the file and after a failure.
   std::optional<std::string_view> Next();
 
-  /// The system's error that ended the reading, 0 where none did.
+  /// The errno of the failure that ended the reading, or 0.
   int Error() const { return error_; }
 
  private:
@@ -39,8 +39,8 @@ class LineReader {
   std::function<void()> beforeWaiting_;
   std::unique_ptr<char[]> data_;
   std::size_t capacity_;
-  std::size_t begin_ = 0;    ///< of the bytes that were not handed out
-  std::size_t scanned_ = 0;  ///< up to here they hold no line end
+  std::size_t begin_ = 0;    ///< of the bytes that no line has had yet
+  std::size_t scanned_ = 0;  ///< there is no line end before it
   std::size_t end_ = 0;
   bool isAtEnd_ = false;
   int error_ = 0;

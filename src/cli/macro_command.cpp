@@ -27,13 +27,13 @@ int ListMacros(const CommandLine& line) {
   return AnswerOnce(rows, line.options);
 }
 
-// The parts of an item to add. Those behind the name may be missing.
+// The parts of an item to add. Those after the name may be missing.
 constexpr std::size_t kName = 0;
 constexpr std::size_t kFormula = 1;
 constexpr std::size_t kVariables = 2;
 constexpr std::size_t kParts = 3;
 
-/// Adds what `parts` say, with the variables `usual` unless they name others.
+/// Adds the macro of `parts`. Its variables are `usual` unless the parts name others.
 Answer AddMacro(const Parts& parts, VariableType usual, StoredSettings& settings) {
   TypedMacro macro{Widen(PartAt(parts, kName)), usual, Widen(PartAt(parts, kFormula))};
   const std::string_view variables = PartAt(parts, kVariables);
@@ -52,7 +52,8 @@ int AddMacros(const CommandLine& line) {
   });
 }
 
-/// The user may mean a name that somebody stored with blanks around it, or may have typed them.
+/// Removes the macro called `name` or, if there is none, the one called so without the blanks
+/// around it: the name may be stored with blanks, or they may be typed by mistake.
 bool RemoveCalled(std::string_view name, SettingsStore& settings) {
   constexpr int kAnywhere = -1;
   const auto remove = [&settings](std::string_view called) {

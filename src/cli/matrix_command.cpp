@@ -17,8 +17,7 @@
 namespace kav {
 namespace {
 
-/// No expression may name a matrix with an empty cell, so that the size of this one never shows and
-/// the settings need not be asked for theirs.
+/// Of any size: expressions that name a matrix with an empty cell fail, so its size never shows.
 MatrixValue EmptyMatrix() {
   MatrixValue matrix;
   matrix.rows = kMatrixRows.fallback;
@@ -26,7 +25,8 @@ MatrixValue EmptyMatrix() {
   return matrix;
 }
 
-/// The matrices that the options name files for, or why there are none.
+/// The matrices in the files of the options; those without a file are empty. Or why one cannot be
+/// loaded.
 Expected<Matrices, std::string> LoadMatrices(const Options& options) {
   Matrices matrices;
   for (std::size_t i = 0; i < matrices.size(); ++i) {

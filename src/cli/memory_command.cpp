@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::string_view kAll = "all";
 
-/// The variable, from 0, that the user calls `text`.
+/// The index (from 0) of the variable whose number (from 1) is `text`; nullopt if there is none.
 std::optional<int> VariableCalled(std::string_view text) {
   text = TrimBlanks(text);
   const char* end = text.data() + text.size();
@@ -49,7 +49,7 @@ Answer StoreValue(const Parts& parts, Evaluation& evaluation) {
   auto value = evaluation.Value(PartAt(parts, 1));
   if (!value) return Failure{std::move(value).error().message};
   SettingsStore& store = evaluation.Settings().Store();
-  // As the scientific screen hands it to the dialog that stores it.
+  // The same text that the scientific screen passes to the dialog of the memory variables.
   const auto text = InsertedNumber(*value, LoadDisplayFormat(store), BaseMode::Decimal);
   MemoryVariables variables(store);
   variables.Set(*index, Narrow(text));
@@ -82,7 +82,7 @@ int ClearMemory(const CommandLine& line) {
     isAnyNamed = true;
     return ClearItem(item, settings);
   });
-  // Without any, all may be meant, or the items were lost on the way: better not to guess.
+  // No item at all may mean all of them, or be a mistake: better not to guess.
   return isAnyNamed || status != 0 ? status : Complain(kNothingToClear, *line.command);
 }
 

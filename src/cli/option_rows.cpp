@@ -15,7 +15,8 @@
 namespace kav {
 namespace {
 
-/// Which of the words of `choices` (separated by '|') `word` is, from 0.
+/// The index (from 0) of `word` among the words of `choices`, which '|' separates; nullopt if it is
+/// none of them.
 std::optional<int> IndexIn(std::string_view choices, std::string_view word) {
   for (int index = 0;; ++index) {
     const std::size_t end = choices.find('|');
@@ -25,7 +26,8 @@ std::optional<int> IndexIn(std::string_view choices, std::string_view word) {
   }
 }
 
-/// For choices in the order of the enumeration, whose first number is kFirst.
+/// Takes one of `choices`, which are in the order of the enumeration Target. Its first number is
+/// kFirst.
 template <class Target, int kFirst>
 bool TakeChoice(std::string_view choices, std::string_view given, Target& target) {
   const auto index = IndexIn(choices, given);
@@ -48,7 +50,7 @@ bool TakeVariables(std::string_view choices, std::string_view given, Options& op
   return TakeChoice<VariableType, 0>(choices, given, options.variables);
 }
 
-/// The whole of `text` as an integer.
+/// Takes the integer that the whole of `text` is.
 bool TakeInteger(std::string_view text, int& integer) {
   const char* end = text.data() + text.size();
   const auto read = std::from_chars(text.data(), end, integer);
@@ -70,7 +72,7 @@ bool TakeHelp(std::string_view, std::string_view, Options& options) {
   return options.asksHelp = true;
 }
 
-/// A switch stands alone, or is told to be on or off as in "--raw=off".
+/// Takes what follows '=' after a switch, as in "--raw=off": a word or a number; nothing means on.
 bool TakeSwitch(std::string_view given, bool& isOn) {
   constexpr std::string_view kOn = "|true|on|yes|enable|t|y|+";
   constexpr std::string_view kOff = "false|off|no|disable|n|f|-";
@@ -91,7 +93,7 @@ bool TakeList(std::string_view, std::string_view given, Options& options) {
   return TakeSwitch(given, options.listsUnits);
 }
 
-/// For the file of the matrix kSlot.
+/// Takes the path of the file for the matrix kSlot.
 template <std::size_t kSlot>
 bool TakeMatrixFile(std::string_view, std::string_view given, Options& options) {
   options.matrixFiles[kSlot] = given;
@@ -127,7 +129,7 @@ bool TakeModel(std::string_view choices, std::string_view given, Options& option
   return TakeChoice<RegressionModel, 1>(choices, given, options.model);
 }
 
-/// For a number that a field of the screen would take.
+/// Takes a number as the field of the screen does.
 bool TakeEstimate(std::string_view given, std::vector<double>& estimates) {
   const auto number = ReadShownNumber(given);
   if (!number || !std::isfinite(*number)) return false;
@@ -203,7 +205,7 @@ std::span<const OptionRow> OptionRows() {
 }
 
 const OptionRow* FindOption(std::string_view name) {
-  // Letters behind -h would be switches of one letter, and there is no other.
+  // What follows -h would be more switches of one letter, and it is the only one.
   if (name == "--help" || name.substr(0, 2) == "-h") return kOptions.data();
   const auto found = std::find_if(kOptions.begin(), kOptions.end(),
                                   [name](const OptionRow& row) { return row.name == name; });

@@ -1,4 +1,4 @@
-// The options of kavcalc, a row each.
+// The table of options.
 #pragma once
 
 #include <optional>
@@ -13,14 +13,14 @@ namespace kav {
 /// What counts if an option is given several times.
 enum class Repeated { LastCounts, EachCounts };
 
-/// One option. `take` puts what was given into the options; false if it is none of `values`.
+/// One option.
 struct OptionRow {
   std::string_view name;
-  std::string_view
-      values;  ///< what it takes, as in the help: a word for each value; empty: a switch
+  std::string_view values;  ///< as in the help, a word for each value it takes; empty: a switch
   std::string_view help;
   std::string_view commands;  ///< those that have it, separated by '|'; empty: all have it
-  /// `given` are all values, with blanks between them. For a switch it is what follows '='.
+  /// Stores `given` in the options; false if it is none of `values`. Several values have blanks
+  /// between them. Of a switch, `given` is what follows '='.
   bool (*take)(std::string_view values, std::string_view given, Options& options);
   Repeated repeated = Repeated::LastCounts;
 

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view kHistoryName = "kavcalc_history";
 
-/// What can be called in `base`, with what follows each name in a line.
+/// The names that expressions in `base` can use, each with the text that follows it in a line.
 std::vector<std::string> KnownNames(BaseMode base, const MacroStore& macros) {
   std::vector<std::string> names;
   if (base == BaseMode::Decimal) {
@@ -28,7 +28,7 @@ std::vector<std::string> KnownNames(BaseMode base, const MacroStore& macros) {
   return names;
 }
 
-/// The lines that were typed, in the editor and in the file.
+/// The lines typed so far, in the editor and in the file.
 class PastLines {
  public:
   explicit PastLines(LineEditor& editor) : editor_(editor), file_(StatePath(kHistoryName)) {

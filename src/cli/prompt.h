@@ -5,11 +5,11 @@
 
 namespace kav {
 
-/// Whether somebody sits at both ends: standard input and output are a terminal.
+/// Whether standard input and output are both a terminal.
 bool CanPrompt();
 
-/// Prompts for expressions and answers each, until the end of the input; the exit status. Lines can
-/// be edited, recalled from earlier and completed. The options must outlive the call.
+/// Prompts for expressions and answers each, until the end of the input. Lines can be edited,
+/// completed and recalled. Returns the exit status.
 int RunPrompt(const Options& options);
 
 }  // namespace kav

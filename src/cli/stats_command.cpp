@@ -25,10 +25,10 @@ namespace kav {
 namespace {
 
 constexpr std::string_view kStandardInput = "-";
-/// Longer than any path that can be opened.
+// Longer than any path that can be opened.
 constexpr std::size_t kLongestPath = std::size_t{1} << 16U;
 
-/// A moment and the start of its name; the name of the variable follows.
+/// A moment and its name, which the name of the variable follows.
 struct MomentRow {
   std::string_view name;
   Moment moment;
@@ -42,7 +42,7 @@ constexpr std::array kMoments{
     MomentRow{"sd_population_", Moment::PopulationDeviation},
 };
 
-/// What is kept of the rows of a file: they themselves may be any number.
+/// The sums over the rows of a file. The rows themselves are not kept: there may be any number.
 class Summary {
  public:
   Summary(DataShape shape, RegressionModel model) : shape_(shape), sums_(model) {}
@@ -71,11 +71,11 @@ class Summary {
   DataShape shape_;
   std::int64_t rows_ = 0;
   std::int32_t total_ = 0;
-  WeightedSums x_;  ///< of the shape that has no other
+  WeightedSums x_;  ///< of one variable; two have theirs in sums_
   RegressionSums sums_;
 };
 
-/// What is not a number has no sign here.
+/// With 17 significant digits, and "nan" without a sign.
 std::string Printed(double value) {
   return PrintRoundTrip(std::isnan(value) ? std::numeric_limits<double>::quiet_NaN() : value);
 }
@@ -170,7 +170,7 @@ bool LacksTwo(const Options& options) {
 int RunStats(const CommandLine& line) {
   if (LacksTwo(line.options)) return Complain(kNeedsTwo, *line.command);
   return AnswerItems(line, kLongestPath, [&](std::string_view item) {
-    // On a line of standard input, "-" is a file of this name.
+    // Among the lines of standard input, "-" is a file of this name.
     if (item == kStandardInput && !line.items.empty()) {
       return AnswerData(STDIN_FILENO, "standard input", line.options);
     }

@@ -23,15 +23,15 @@ class StoredSettings {
 
   SettingsStore& Store() { return store_; }
 
-  /// To be asked after each change. Why it could not be saved; it is taken back then, so that no
-  /// later change saves it. nullopt if it is on the disk.
+  /// Why the last change could not be saved; nullopt if it is on the disk. To be asked after each
+  /// change: one that could not be saved is taken back, so that no later one saves it as well.
   std::optional<Failure> TakeFailure();
 
   /// The angle unit of the options, or else the stored one.
   AngleUnit Angle();
-  /// The same for `line`. Only functions and macros depend on it, and both are written with
-  /// letters: if `line` has none but `variables`, the settings stay unread, which would take longer
-  /// than the calculation.
+  /// The same for `line`, or any unit if it does not matter. It matters to functions and macros,
+  /// which are written with letters. If `line` has none but `variables`, the settings are not read,
+  /// since that takes longer than the calculation.
   AngleUnit AngleFor(std::string_view line, std::string_view variables);
 
   /// Tells the notices that wait.

@@ -22,7 +22,7 @@ bool IsSameInAnyCase(std::string_view a, std::string_view b) {
                     [](char x, char y) { return Lower(x) == Lower(y); });
 }
 
-/// What follows the number in a caption.
+/// The caption without the number at its start.
 std::string_view WithoutNumber(std::string_view caption) {
   constexpr std::string_view kBehindNumber = ". ";
   return caption.substr(caption.find(kBehindNumber) + kBehindNumber.size());
@@ -33,7 +33,7 @@ const UnitCategory* CategoryNumbered(std::size_t number) {
   return number == 0 || number > categories.size() ? nullptr : &categories[number - 1];
 }
 
-/// The fewest digits that read back as `rate`, with an exponent where it is very large or small.
+/// The fewest digits that read back as `rate`, with an exponent if it is very large or small.
 std::string RateText(double rate) {
   constexpr double kLeastPlain = 1e-4;
   constexpr double kLeastTooLarge = 1e16;

@@ -1,4 +1,4 @@
-// The units of the converter as the command line lists and names them.
+// The units of the converter, as the command line lists and finds them.
 #pragma once
 
 #include <cstddef>
@@ -12,8 +12,8 @@
 
 namespace kav {
 
-/// The category with the number (from 1) or the caption `name`, in any case, also without the
-/// number that opens the caption; nullptr where there is none.
+/// The category whose number (from 1) or caption is `name`, in any case. The number at the start of
+/// the caption may be left out. nullptr if there is none.
 const UnitCategory* FindCategory(std::string_view name);
 
 /// The number (from 1) of `category`, which is one of UnitCategories.
@@ -22,19 +22,20 @@ int NumberOf(const UnitCategory& category);
 /// What a category offers: a unit, or a conversion from one unit to another.
 struct UnitRow {
   std::string name;
-  std::string rate;  ///< a number that reads back as the rate; empty where a formula converts
+  std::string rate;  ///< reads back as the very same number; empty: a formula converts
 };
 
-/// The rows of `category` in their order; `settings` hold those that the user defined.
+/// The rows of `category` in the order of the converter. Reads `settings` only for the conversions
+/// that the user defined.
 std::vector<UnitRow> UnitRows(const UnitCategory& category, const SettingsStore& settings);
 
 enum class NameFailure {
   Unknown,
-  Ambiguous,  ///< it is several names, but for the case of letters
+  Ambiguous,  ///< it is several names if the case of letters does not count
 };
 
-/// The place in `rows` of the name that is `name`, or else of the only one that is but for the case
-/// of letters.
+/// The index of the row called `name` or, if there is none, of the only one called so in another
+/// case of letters.
 Expected<std::size_t, NameFailure> FindRow(const std::vector<UnitRow>& rows, std::string_view name);
 
 }  // namespace kav

@@ -42,8 +42,8 @@ int AddConversions(const CommandLine& line) {
                      [&](const Parts& parts) { return AddConversion(parts, settings); });
 }
 
-/// Where the conversion `text` stands: as it is, or else without the blanks around it, since the
-/// user may mean one that somebody stored with blanks, or may have typed them.
+/// The index of the conversion called `text` or, if there is none, of the one called so without the
+/// blanks around it: it may be stored with blanks, or they may be typed by mistake.
 std::optional<int> PlaceCalled(std::string_view text, const std::vector<UserConversion>& stored) {
   for (const std::string_view called : {text, TrimBlanks(text)}) {
     const auto found =

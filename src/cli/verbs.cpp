@@ -8,17 +8,8 @@ namespace kav {
 namespace {
 
 bool Takes(const Verb& verb, std::size_t given) {
-  switch (verb.count) {
-    case Arguments::None:
-      return given == 0;
-    case Arguments::TwoOrNone:
-      return given == 0 || given == 2;
-    case Arguments::ThreeOrNone:
-      return given == 0 || given == 3;
-    case Arguments::Any:
-      break;
-  }
-  return true;
+  return given == 0 || verb.count == Arguments::Any ||
+         given == static_cast<std::size_t>(verb.count);
 }
 
 }  // namespace

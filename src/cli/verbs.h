@@ -1,4 +1,4 @@
-// Commands that can do several things, each named by the first argument behind the command.
+// Commands with verbs: the first item names what to do.
 #pragma once
 
 #include <span>
@@ -8,20 +8,20 @@
 
 namespace kav {
 
-/// What may stand behind a verb: nothing, the two or three parts of an item or nothing, any number
-/// of items.
-enum class Arguments { None, TwoOrNone, ThreeOrNone, Any };
+/// How many items may follow a verb. Two and three are the parts of one item; without any, items
+/// come from standard input.
+enum class Arguments { None = 0, TwoOrNone = 2, ThreeOrNone = 3, Any };
 
-/// One of the things that a command can do.
+/// A verb, and the function that carries it out as Command::run does.
 struct Verb {
   std::string_view name;
   Arguments count;
-  std::string_view arguments;  ///< what it takes, in words
+  std::string_view arguments;  ///< the same in words, for the complaint
   int (*run)(const CommandLine& line);
 };
 
-/// Carries out the verb that is the first item of `line`, with what follows it as items; answers
-/// the exit status. Complains where there is no such verb or it is given what it does not take.
+/// Carries out the verb that is the first item of `line`; the other items are its own. Complains if
+/// there is no such verb, or not that number of items. Returns the exit status.
 int RunVerb(const CommandLine& line, std::span<const Verb> verbs);
 
 }  // namespace kav

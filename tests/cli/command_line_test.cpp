@@ -11,7 +11,7 @@ namespace {
 using Arguments = std::vector<const char*>;
 using Items = std::vector<std::string_view>;
 
-/// What a command line that can be carried out says, as one value.
+/// The command line that `arguments` are, which must be usable.
 CommandLine Read(const Arguments& arguments) {
   const auto line = ReadCommandLine(arguments, Commands());
   EXPECT_TRUE(line) << line.error().text;

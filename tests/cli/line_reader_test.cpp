@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t kBlock = 65536;
 
-/// A pipe that another thread fills with `parts`, each in a write of its own.
+/// A pipe that another thread fills with `parts`, one write for each.
 class Source {
  public:
   explicit Source(std::vector<std::string> parts) {

@@ -1,5 +1,5 @@
-// The prompt, at a terminal. Keys are typed only after the prompt came, as the terminal is set up
-// anew for each line and what was typed before may be lost.
+// The prompt, at a terminal. Keys are typed only when the prompt is there: the terminal is set up
+// for each line, and what was typed before may be lost.
 #include <gtest/gtest.h>
 
 #include "cli/terminal.h"
@@ -18,7 +18,7 @@ class Prompt : public testing::Test {
     return {{"HOME", home_.Path()},
             {"TERM", "xterm"},
             {"LC_ALL", "tr_TR.UTF-8"},
-            // The line editor never frees the names of the functions that it was given.
+            // The library for line editing never frees the names of the functions it was given.
             {"ASAN_OPTIONS", "detect_leaks=0"}};
   }
   std::string HistoryPath() const {

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # run_case.sh KAVCALC CASE.sh LOCALE...: runs the commands in CASE.sh with KAVCALC as "kavcalc" in each
-# locale, and compares what comes of it with the files beside: standard output with CASE.out; each line of
-# standard error with its line in CASE.err, which need only be a part of it (no file: nothing may
-# come); the exit status with CASE.status (no file: 0). Standard input is CASE.in or empty. The home
-# folder is new and empty each time, and so is the folder that the commands run in, but for what
-# $FILES holds.
+# locale, and compares the outcome with the files beside it. Standard output has to be CASE.out. Each
+# line of standard error has to contain its line of CASE.err; without that file it has to be empty. The
+# exit status has to be the one in CASE.status, or 0 without that file. Standard input is CASE.in, or
+# empty. The commands run with a new, empty home folder, in a new, empty folder. $FILES is the folder of
+# files that cases share.
 set -euo pipefail
 
 kavcalc=$(readlink -f -- "$1")

@@ -1,4 +1,4 @@
-// kavcalc at a terminal of its own, typed at and read from as a user does it.
+// kavcalc at a terminal of its own, used as by somebody who types and reads.
 #pragma once
 
 #include <pty.h>
@@ -17,7 +17,8 @@
 
 namespace kav::test {
 
-/// One run of the program at a new terminal of 80 by 24, killed where it does not end by itself.
+/// One run of the program at a new terminal of 80 columns and 24 lines. It is killed if it has not
+/// ended when the object goes.
 class Terminal {
  public:
   using Environment = std::map<std::string, std::string>;
@@ -40,8 +41,8 @@ class Terminal {
     }
   }
 
-  /// Reads until `text` came (true) or nothing more does, for ten seconds at the most. What was
-  /// read up to and with it is not looked at again.
+  /// Reads until `text` has come, for ten seconds at most; false if it has not. The text and what
+  /// came before it are not looked at again.
   bool Shows(const std::string& text) {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
     for (;;) {
@@ -54,10 +55,10 @@ class Terminal {
     }
   }
 
-  /// What came since the last text that was waited for, as far as it is there.
+  /// What has been read after the last text that was waited for.
   const std::string& Unread() const { return unread_; }
 
-  /// Takes the terminal away.
+  /// Closes the terminal.
   void Close() {
     if (master_ >= 0) close(master_);
     master_ = -1;
@@ -81,7 +82,7 @@ class Terminal {
     return false;
   }
 
-  /// The exit status; -1 where the program does not end, or by a signal.
+  /// The exit status; -1 if the program does not end within ten seconds, or ends by a signal.
   int Status() { return Ends() && WIFEXITED(status_) ? WEXITSTATUS(status_) : -1; }
 
  private:

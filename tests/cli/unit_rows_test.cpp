@@ -117,7 +117,7 @@ TEST(UnitRows, ConversionsOfTheUserStandAsTheyAreStored) {
   EXPECT_EQ(rows[1].rate, "1e-7");
 }
 
-// Two names that differ in case only could not both be meant in any case.
+// Of two names that differ only in case, neither could be named in another case.
 TEST(UnitRows, NoNameComesTwiceInACategory) {
   const MemorySettingsStore settings;
   for (const UnitCategory& category : UnitCategories()) {

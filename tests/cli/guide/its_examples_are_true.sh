@@ -1,4 +1,4 @@
-# The sessions of the guide, but for the one at the prompt, typed again.
+# All sessions of the guide except the one at the prompt.
 awk '/^```/ { inside = !inside; next } inside' "$FILES/../../../docs/command-line.md" |
   sed '/^\$ kavcalc$/,/^>$/d' >guide
 while IFS= read -r line; do

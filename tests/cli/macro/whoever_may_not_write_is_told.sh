@@ -3,7 +3,7 @@ trap 'chmod 755 "$place"; rm -rf -- "$place"' EXIT
 cp "$FILES/macros.toml" "$place/mine.toml"
 cp -- "$(readlink -f -- "$(command -v kavcalc)")" "$place"
 chmod 555 "$place"
-# Root may write everywhere.
+# root may write everywhere.
 nobody=()
 [[ $EUID != 0 ]] || nobody=(setpriv --reuid=65534 --regid=65534 --clear-groups)
 "${nobody[@]}" "$place/kavcalc" macro add --settings "$place/mine.toml" sq 'x^2' | sed "s|$place|PLACE|"

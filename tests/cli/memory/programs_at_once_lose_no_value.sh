@@ -1,4 +1,4 @@
-# Five at a time: whoever waits for the others longer than two seconds gives up, and says so.
+# Five at a time: a program that waits for the others longer than two seconds gives up.
 for i in {1..20}; do
   kavcalc memory store "$i" "$i*$i" >"answer$i" &
   ((i % 5)) || wait

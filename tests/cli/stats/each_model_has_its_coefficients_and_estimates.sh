@@ -1,4 +1,4 @@
-# The last digits depend on the machine's logarithms.
+# The last digits depend on the logarithms of the C library.
 fit() { kavcalc stats --two "$@" | sed '1,/sum_xy/d' | cut -c -11; }
 printf '1 1 1\n2 4 1\n3 9 1\n' >squares
 printf '1 3 1\n2 2 1\n' >pair
