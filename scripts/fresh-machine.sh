@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# fresh-machine.sh [FOLDER]: tries what the README promises on a machine with nothing installed. It makes
-# an empty Debian 12 in FOLDER (default: a temporary one) and clones the last commit of the project into
-# it. There root runs `./run`, whose answer is checked, starts the window, takes a picture of each screen,
-# and runs `./test`. On another empty tree an ordinary user who has sudo does the same. It prints how long
-# each step took. Output and pictures stay in build/fresh-machine; the trees are removed.
+# fresh-machine.sh [FOLDER]: tries what the README promises on a machine with nothing installed. It
+# makes an empty Debian 12 in FOLDER (default: a temporary one) and clones the last commit of the project
+# into it. There root runs `./run`, whose answer is checked, starts the window, takes a picture of each
+# screen, and runs `./test`. On another empty tree an ordinary user who has sudo does the same. It prints
+# how long each step took. Output and pictures stay in build/fresh-machine; the trees are removed.
 #
 # It has to run as root, since it makes a system of its own. The windows are shown on a display of this
 # machine, so that the tree has no package that a user would not have.

@@ -91,15 +91,16 @@ class ArgumentSorter {
 std::vector<std::string_view> ArgumentsOf(std::span<const GivenOption> options) {
   std::vector<std::string_view> arguments;
   arguments.reserve(2 * options.size());
-  for (auto one = options.rbegin(); one != options.rend(); ++one) {
-    if (one->TakesValue() && one->value) arguments.push_back(*one->value);
-    arguments.push_back(one->argument);
+  for (const GivenOption& one : options) {
+    arguments.push_back(one.argument);
+    if (one.TakesValue() && one.value) arguments.push_back(*one.value);
   }
+  std::reverse(arguments.begin(), arguments.end());
   return arguments;
 }
 
-/// Why `given` cannot be taken; nullopt if it was.
-std::optional<std::string> TakeOption(const GivenOption& given, Options& options) {
+/// Stores the value of `given` in `options`. Returns why it cannot be stored; nullopt if it was.
+std::optional<std::string> StoreOption(const GivenOption& given, Options& options) {
   const OptionRow& row = *given.row;
   const std::string value = given.value.value_or("");
   if (row.take(row.values, value, options)) return std::nullopt;
@@ -107,20 +108,20 @@ std::optional<std::string> TakeOption(const GivenOption& given, Options& options
                           : CannotConvert(row.name, value);
 }
 
-/// Takes `given`, all of them options of one command, into `options`. Returns why one of them
-/// cannot be taken; nullopt if all are, or if the version is asked for, which outweighs what
-/// follows it in the help.
-std::optional<std::string> TakeOptions(std::span<const GivenOption> given, Options& options) {
+/// Stores the values of `given`, all of them options of one command, in the order of the table.
+/// Returns why one of them cannot be stored; nullopt if all are, or if the version is asked for,
+/// which makes the rest irrelevant.
+std::optional<std::string> StoreOptions(std::span<const GivenOption> given, Options& options) {
   for (const GivenOption& one : given) {
     if (one.LacksValue()) return OptionLacksValue(one.row->name);
     if (one.row->repeated != Repeated::EachCounts) continue;
-    if (auto fault = TakeOption(one, options)) return fault;
+    if (auto fault = StoreOption(one, options)) return fault;
   }
   for (const OptionRow& row : OptionRows()) {
     const auto last = std::find_if(given.rbegin(), given.rend(),
                                    [&](const GivenOption& one) { return one.row == &row; });
     if (last == given.rend() || row.repeated == Repeated::EachCounts) continue;
-    if (auto fault = TakeOption(*last, options)) return fault;
+    if (auto fault = StoreOption(*last, options)) return fault;
     if (options.asksVersion) return std::nullopt;
   }
   return std::nullopt;
@@ -159,7 +160,7 @@ std::optional<EarlyEnd> ReadOptions(std::vector<GivenOption> given,
   const auto unexpected = std::stable_partition(
       given.begin(), given.end(),
       [&](const GivenOption& one) { return one.row != nullptr && IsFor(*one.row, command.name); });
-  const auto fault = TakeOptions({given.begin(), unexpected}, line.options);
+  const auto fault = StoreOptions({given.begin(), unexpected}, line.options);
   if (fault) return EarlyEnd{kUnusable, Complaint(*fault, command)};
   if (line.options.asksVersion) return EarlyEnd{0, VersionLine()};
   if (line.options.asksHelp) return EarlyEnd{0, Help(command, commands)};
