@@ -26,45 +26,49 @@ std::optional<int> IndexIn(std::string_view choices, std::string_view word) {
   }
 }
 
-/// Takes one of `choices`, which are in the order of the enumeration Target. Its first number is
-/// kFirst.
-template <class Target, int kFirst>
-bool TakeChoice(std::string_view choices, std::string_view given, Target& target) {
+/// Reads one of `choices`, which are in the order of the enumeration Target. Its first number is
+/// `first`.
+template <class Target>
+bool ReadChoice(std::string_view choices, std::string_view given, int first, Target& target) {
   const auto index = IndexIn(choices, given);
-  if (index) target = static_cast<Target>(*index + kFirst);
+  if (index) target = static_cast<Target>(*index + first);
   return index.has_value();
 }
 
-constexpr std::string_view kVariables = "x|xy|xyz";
-
-bool TakeAngle(std::string_view choices, std::string_view given, Options& options) {
-  return TakeChoice<AngleUnit, 1>(choices, given, options.angle.emplace());
-}
-bool TakeBase(std::string_view choices, std::string_view given, Options& options) {
-  return TakeChoice<BaseMode, 1>(choices, given, options.base);
-}
-bool TakeDisplay(std::string_view choices, std::string_view given, Options& options) {
-  return TakeChoice<DisplayType, 0>(choices, given, options.display.type);
-}
-bool TakeVariables(std::string_view choices, std::string_view given, Options& options) {
-  return TakeChoice<VariableType, 0>(choices, given, options.variables);
+/// Reads what follows '=' after a switch, as in "--raw=off": a word or a number; nothing means on.
+bool ReadSwitch(std::string_view given, bool& isOn) {
+  constexpr std::string_view kOn = "|true|on|yes|enable|t|y|+";
+  constexpr std::string_view kOff = "false|off|no|disable|n|f|-";
+  const std::string folded = FoldCase(given, BaseMode::Decimal);
+  isOn = IndexIn(kOn, folded) || ReadLeadingNumber(given) > 0;
+  return isOn || IndexIn(kOff, folded) || given.find_first_of("0123456789") != given.npos;
 }
 
-/// Takes the integer that the whole of `text` is.
-bool TakeInteger(std::string_view text, int& integer) {
-  const char* end = text.data() + text.size();
-  const auto read = std::from_chars(text.data(), end, integer);
-  return read.ec == std::errc{} && read.ptr == end;
+// The functions of the table. Those for several options name the member that they store into.
+
+template <bool Options::*kMember>
+bool TakeSwitch(std::string_view, std::string_view given, Options& options) {
+  return ReadSwitch(given, options.*kMember);
 }
 
-bool TakePrecision(std::string_view, std::string_view given, Options& options) {
-  int& precision = options.display.precision;
-  return TakeInteger(given, precision) && precision >= 0 &&
-         precision <= DisplayFormat::kMaxPrecision;
+template <auto kMember, int kFirst>
+bool TakeChoice(std::string_view choices, std::string_view given, Options& options) {
+  return ReadChoice(choices, given, kFirst, options.*kMember);
 }
 
-bool TakeSettings(std::string_view, std::string_view given, Options& options) {
-  options.settingsFile = given;
+/// Takes a number as the field of the screen does.
+template <std::vector<double> Options::*kMember>
+bool TakeEstimate(std::string_view, std::string_view given, Options& options) {
+  const auto number = ReadShownNumber(given);
+  if (!number || !std::isfinite(*number)) return false;
+  (options.*kMember).push_back(*number);
+  return true;
+}
+
+/// Takes the path of the file for the matrix kSlot.
+template <std::size_t kSlot>
+bool TakeMatrixFile(std::string_view, std::string_view given, Options& options) {
+  options.matrixFiles[kSlot] = given;
   return !given.empty();
 }
 
@@ -72,31 +76,36 @@ bool TakeHelp(std::string_view, std::string_view, Options& options) {
   return options.asksHelp = true;
 }
 
-/// Takes what follows '=' after a switch, as in "--raw=off": a word or a number; nothing means on.
-bool TakeSwitch(std::string_view given, bool& isOn) {
-  constexpr std::string_view kOn = "|true|on|yes|enable|t|y|+";
-  constexpr std::string_view kOff = "false|off|no|disable|n|f|-";
-  const std::string folded = FoldCase(given, BaseMode::Decimal);
-  isOn = IndexIn(kOn, folded) || ReadLeadingNumber(given) > 0;
-  return isOn || IndexIn(kOff, folded) || given.find_first_of("0123456789") != given.npos;
-}
-bool TakeVersion(std::string_view, std::string_view given, Options& options) {
-  return TakeSwitch(given, options.asksVersion);
-}
-bool TakeRaw(std::string_view, std::string_view given, Options& options) {
-  return TakeSwitch(given, options.isRaw);
-}
-bool TakeSteps(std::string_view, std::string_view given, Options& options) {
-  return TakeSwitch(given, options.showsSteps);
-}
-bool TakeList(std::string_view, std::string_view given, Options& options) {
-  return TakeSwitch(given, options.listsUnits);
+bool TakeTwo(std::string_view, std::string_view given, Options& options) {
+  bool isOn = false;
+  if (!ReadSwitch(given, isOn)) return false;
+  options.shape = isOn ? DataShape::TwoVariables : DataShape::OneVariable;
+  return true;
 }
 
-/// Takes the path of the file for the matrix kSlot.
-template <std::size_t kSlot>
-bool TakeMatrixFile(std::string_view, std::string_view given, Options& options) {
-  options.matrixFiles[kSlot] = given;
+bool TakeAngle(std::string_view choices, std::string_view given, Options& options) {
+  return ReadChoice(choices, given, 1, options.angle.emplace());
+}
+
+bool TakeDisplay(std::string_view choices, std::string_view given, Options& options) {
+  return ReadChoice(choices, given, 0, options.display.type);
+}
+
+/// Reads the integer that the whole of `text` is.
+bool ReadInteger(std::string_view text, int& integer) {
+  const char* end = text.data() + text.size();
+  const auto read = std::from_chars(text.data(), end, integer);
+  return read.ec == std::errc{} && read.ptr == end;
+}
+
+bool TakePrecision(std::string_view, std::string_view given, Options& options) {
+  int& precision = options.display.precision;
+  return ReadInteger(given, precision) && precision >= 0 &&
+         precision <= DisplayFormat::kMaxPrecision;
+}
+
+bool TakeSettings(std::string_view, std::string_view given, Options& options) {
+  options.settingsFile = given;
   return !given.empty();
 }
 
@@ -115,51 +124,30 @@ bool TakeRange(std::string_view values, std::string_view given, Options& options
 
 bool TakeArea(std::string_view values, std::string_view given, Options& options) {
   const auto words = Words(given);
-  return words.size() == Words(values).size() && TakeInteger(words[0], options.area.top) &&
-         TakeInteger(words[1], options.area.bottom);
+  return words.size() == Words(values).size() && ReadInteger(words[0], options.area.top) &&
+         ReadInteger(words[1], options.area.bottom);
 }
 
-bool TakeTwo(std::string_view, std::string_view given, Options& options) {
-  bool isOn = false;
-  if (!TakeSwitch(given, isOn)) return false;
-  options.shape = isOn ? DataShape::TwoVariables : DataShape::OneVariable;
-  return true;
-}
-bool TakeModel(std::string_view choices, std::string_view given, Options& options) {
-  return TakeChoice<RegressionModel, 1>(choices, given, options.model);
-}
-
-/// Takes a number as the field of the screen does.
-bool TakeEstimate(std::string_view given, std::vector<double>& estimates) {
-  const auto number = ReadShownNumber(given);
-  if (!number || !std::isfinite(*number)) return false;
-  estimates.push_back(*number);
-  return true;
-}
-bool TakeEstimateAtX(std::string_view, std::string_view given, Options& options) {
-  return TakeEstimate(given, options.estimatesAtX);
-}
-bool TakeEstimateAtY(std::string_view, std::string_view given, Options& options) {
-  return TakeEstimate(given, options.estimatesAtY);
-}
-
+constexpr std::string_view kVariables = "x|xy|xyz";
 static_assert(DisplayFormat::kMaxPrecision == 99, "the help names the limit");
 constexpr std::array kOptions{
     OptionRow{"-h,--help", "", "print this help and end", "", TakeHelp},
-    OptionRow{"--version", "", "print the version and end", "", TakeVersion},
+    OptionRow{"--version", "", "print the version and end", "", TakeSwitch<&Options::asksVersion>},
     OptionRow{"--angle", "deg|rad", R"(angle unit [the stored "Angle Type"])", "", TakeAngle},
-    OptionRow{"--base", "dec|hex|bin|oct", "number base [dec]", "", TakeBase},
+    OptionRow{"--base", "dec|hex|bin|oct", "number base [dec]", "", TakeChoice<&Options::base, 1>},
     OptionRow{"--display", "floating|fixed|scientific|thousands|engineering",
               "how numbers are shown [floating]", "", TakeDisplay},
     OptionRow{"--precision", "0..99", "digits after the point [7]", "", TakePrecision},
     OptionRow{"--raw", "", "17 significant digits, in decimal, instead of the display", "",
-              TakeRaw},
+              TakeSwitch<&Options::isRaw>},
     OptionRow{"--settings", "FILE", "the settings file to use instead of the user's", "",
               TakeSettings},
     OptionRow{"--variables", kVariables, "the variables of the formulas [x]", "check|macro",
-              TakeVariables},
-    OptionRow{"--steps", "", "show the order of the calculation", "check", TakeSteps},
-    OptionRow{"--list", "", "list the units of the category, or of all", "convert", TakeList},
+              TakeChoice<&Options::variables, 0>},
+    OptionRow{"--steps", "", "show the order of the calculation", "check",
+              TakeSwitch<&Options::showsSteps>},
+    OptionRow{"--list", "", "list the units of the category, or of all", "convert",
+              TakeSwitch<&Options::listsUnits>},
     OptionRow{"--m1", "FILE", "the matrix file that [M1] is loaded from", "matrix",
               TakeMatrixFile<0>},
     OptionRow{"--m2", "FILE", "the same for [M2]", "matrix", TakeMatrixFile<1>},
@@ -167,11 +155,11 @@ constexpr std::array kOptions{
     OptionRow{"--ans", "FILE", "the same for [M Ans]", "matrix", TakeMatrixFile<kAnswerMatrix>},
     OptionRow{"--two", "", "files of two variables, and a curve through them", "stats", TakeTwo},
     OptionRow{"--model", "linear|power|inverse|logarithmic|exponential|quadratic",
-              "the curve [linear]", "stats", TakeModel},
-    OptionRow{"--x", "NUMBER", "also estimate Y there; may be repeated", "stats", TakeEstimateAtX,
-              Repeated::EachCounts},
-    OptionRow{"--y", "NUMBER", "also estimate X there; may be repeated", "stats", TakeEstimateAtY,
-              Repeated::EachCounts},
+              "the curve [linear]", "stats", TakeChoice<&Options::model, 1>},
+    OptionRow{"--x", "NUMBER", "also estimate Y there; may be repeated", "stats",
+              TakeEstimate<&Options::estimatesAtX>, Repeated::EachCounts},
+    OptionRow{"--y", "NUMBER", "also estimate X there; may be repeated", "stats",
+              TakeEstimate<&Options::estimatesAtY>, Repeated::EachCounts},
     OptionRow{"--range", "XMIN XMAX YMIN YMAX", "the range of the plot [-10 10 -10 10]", "plot",
               TakeRange},
     OptionRow{"--area", "TOP BOTTOM", "the pixel rows of the plot [0 229]", "plot", TakeArea},
@@ -196,7 +184,7 @@ bool IsFor(const OptionRow& row, std::string_view command) {
 
 std::optional<VariableType> VariablesCalled(std::string_view names) {
   VariableType type{};
-  if (!TakeChoice<VariableType, 0>(kVariables, names, type)) return std::nullopt;
+  if (!ReadChoice(kVariables, names, 0, type)) return std::nullopt;
   return type;
 }
 

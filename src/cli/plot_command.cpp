@@ -34,6 +34,8 @@ class PlotSession {
     const AngleUnit unit = settings_.AngleFor(equation, "xX");
     const CurveRows rows = SampleCurve(*formula, options_.range, unit, options_.area);
     std::string lines;
+    constexpr std::size_t kRoomInALine = 32;
+    lines.reserve(rows.size() * kRoomInALine);
     for (std::size_t i = 0; i < rows.size(); ++i) {
       lines += starts_[i];
       if (rows[i]) lines += PrintInteger(*rows[i]);
