@@ -1,4 +1,4 @@
-// Answers to items, and their way to standard output.
+// Answers to items, and how they are written to standard output.
 #pragma once
 
 #include <initializer_list>
@@ -37,7 +37,7 @@ std::optional<CalcError> AppendShown(std::string& out, double value, const Optio
 /// whether every item was answered. Once a write has failed, nothing more is written or kept.
 class AnswerWriter {
  public:
-  /// Numbers are shown as `options`, which must outlive the writer, want it.
+  /// `options` decide how numbers are shown. They must outlive the writer.
   explicit AnswerWriter(const Options& options);
 
   /// Numbers and failures become one line each, a failure with its mark.
@@ -67,7 +67,7 @@ class AnswerWriter {
 /// does.
 int AnswerOnce(const Answer& answer, const Options& options);
 
-/// Writes `text` to standard error, on a line behind the program's name.
+/// Writes the program's name and `text` to standard error, as one line.
 void Tell(std::string_view text);
 
 /// The system's text for the errno `number`.

@@ -1,4 +1,4 @@
-// Items: the arguments behind the options or, without any, the lines of standard input.
+// Items: the arguments after the options or, without any, the lines of standard input.
 #pragma once
 
 #include <functional>
@@ -29,9 +29,9 @@ void ForEachItem(const CommandLine& line, std::size_t longest, AnswerWriter& ans
 int AnswerItems(const CommandLine& line, std::size_t longest,
                 const std::function<Answer(std::string_view item)>& answerTo);
 
-/// The same for items that consist of parts. What stands in `line` are the parts of one item.
-/// Without any, tabs separate the parts on each line of standard input; the last of the `most`
-/// parts may hold tabs.
+/// The same for items that consist of up to `most` parts. The arguments are the parts of one item.
+/// Without any, tabs separate the parts on each line of standard input; the last part may hold
+/// tabs.
 int AnswerParts(const CommandLine& line, std::size_t most, std::size_t longest,
                 const std::function<Answer(const Parts& parts)>& answerTo);
 

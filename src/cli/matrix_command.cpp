@@ -38,7 +38,7 @@ Expected<Matrices, std::string> LoadMatrices(const Options& options) {
   return matrices;
 }
 
-/// Answers items, each over the matrices as the earlier items left them.
+/// Answers items. The matrix that answers one is [M Ans] for the next.
 class MatrixSession {
  public:
   MatrixSession(const Options& options, Matrices matrices)

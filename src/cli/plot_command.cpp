@@ -16,7 +16,7 @@
 namespace kav {
 namespace {
 
-/// Answers equations with their samples, which have the same places for all of them.
+/// Answers equations with their samples, which have the same x for all of them.
 class PlotSession {
  public:
   explicit PlotSession(const Options& options) : options_(options), settings_(options) {

@@ -25,9 +25,11 @@ AngleUnit StoredSettings::Angle() {
 }
 
 AngleUnit StoredSettings::AngleFor(std::string_view line, std::string_view variables) {
-  const auto mayMatter = [&](char c) { return IsLetter(c) && variables.find(c) == variables.npos; };
-  if (angle_ || std::any_of(line.begin(), line.end(), mayMatter)) return Angle();
-  return AngleUnit::Degrees;
+  if (angle_) return *angle_;
+  const bool isNeeded = std::any_of(line.begin(), line.end(), [&](char c) {
+    return IsLetter(c) && variables.find(c) == variables.npos;
+  });
+  return isNeeded ? Angle() : AngleUnit::Degrees;
 }
 
 std::optional<Failure> StoredSettings::TakeFailure() {

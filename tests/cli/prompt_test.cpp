@@ -106,7 +106,7 @@ TEST_F(Prompt, TheArrowGoesBackToTheLineBefore) {
   EXPECT_TRUE(terminal.Shows("\r\n26\r\n> "));
 }
 
-TEST_F(Prompt, LinesOutliveTheirRunEvenWhereItWasKilled) {
+TEST_F(Prompt, LinesOutliveTheirRunEvenIfItWasKilled) {
   {
     Terminal terminal({}, Environment());
     ASSERT_TRUE(terminal.Shows("> "));
@@ -192,7 +192,7 @@ TEST_F(Prompt, InABaseNoFunctionIsOffered) {
   EXPECT_TRUE(terminal.Shows("error: Expression error.\r\n"));
 }
 
-TEST_F(Prompt, ThereIsNoneWhereTheAnswersGoToAFile) {
+TEST_F(Prompt, ThereIsNoneIfTheAnswersGoToAFile) {
   const std::string answers = home_.File("answers");
   {
     Terminal terminal({}, Environment(), answers);
@@ -212,7 +212,7 @@ TEST_F(Prompt, OtherCommandsReadATerminalLineByLine) {
   EXPECT_EQ(terminal.Unread().find("> "), std::string::npos);
 }
 
-TEST_F(Prompt, ATerminalThatNobodyKnowsWillDo) {
+TEST_F(Prompt, AnUnknownTerminalWillDo) {
   auto environment = Environment();
   environment["TERM"] = "unheard-of";
   Terminal terminal({}, environment);

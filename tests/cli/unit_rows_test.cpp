@@ -63,7 +63,7 @@ TEST(UnitRows, RatesReadBackToTheLastBit) {
   }
 }
 
-TEST(UnitRows, RatesAreShortAndHaveAnExponentWhereTheyAreFarFromOne) {
+TEST(UnitRows, RatesAreShortAndHaveAnExponentIfTheyAreFarFromOne) {
   const std::vector<std::pair<std::string_view, std::vector<UnitRow>>> rows{
       {"Length",
        {{"Meters", "1"},
