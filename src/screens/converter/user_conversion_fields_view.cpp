@@ -8,24 +8,10 @@
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
-namespace {
-
-/// As many characters as a field holds and stays fluent.
-constexpr int kLongestText = 1 << 16;
-
-void WriteField(QLineEdit& field, const std::u16string& text) {
-  const QString shown = ToQt(text);
-  if (field.text() != shown) field.setText(shown);
-  if (!field.isEnabled()) field.home(false);
-}
-
-}  // namespace
-
-UserConversionFieldsView::UserConversionFieldsView() {
-  source_->setAccessibleName(ToQt(kSourceUnitName));
-  target_->setAccessibleName(ToQt(kTargetUnitName));
-  rate_->setAccessibleName(ToQt(kConvertRateCaption));
-  for (QLineEdit* field : {source_, target_, rate_}) field->setMaxLength(kLongestText);
+UserConversionFieldsView::UserConversionFieldsView()
+    : source_(new TextField(kSourceUnitName)),
+      target_(new TextField(kTargetUnitName)),
+      rate_(new TextField(kConvertRateCaption)) {
   LayOut();
 }
 
@@ -44,33 +30,27 @@ void UserConversionFieldsView::LayOut() {
 }
 
 TypedConversion UserConversionFieldsView::Typed() const {
-  return {source_->text().toStdU16String(), target_->text().toStdU16String(),
-          rate_->text().toStdU16String()};
+  return {source_->Text(), target_->Text(), rate_->Text()};
 }
 
 void UserConversionFieldsView::Write(const TypedConversion& fields) {
-  WriteField(*source_, fields.source);
-  WriteField(*target_, fields.target);
-  WriteField(*rate_, fields.rate);
+  source_->Write(fields.source);
+  target_->Write(fields.target);
+  rate_->Write(fields.rate);
 }
 
 void UserConversionFieldsView::SetEditable(bool isEditable) {
-  for (QLineEdit* field : {source_, target_, rate_}) field->setEnabled(isEditable);
+  for (QWidget* field : {source_, target_, rate_}) field->setEnabled(isEditable);
 }
 
 void UserConversionFieldsView::Focus(ConversionField field) {
-  const auto focus = [](QLineEdit& edit) {
-    edit.setFocus();
-    // Else all of it might be selected, and lost with the next key.
-    edit.end(false);
-  };
   switch (field) {
     case ConversionField::Source:
-      return focus(*source_);
+      return source_->Focus();
     case ConversionField::Target:
-      return focus(*target_);
+      return target_->Focus();
     case ConversionField::Rate:
-      return focus(*rate_);
+      return rate_->Focus();
     case ConversionField::None:
       return;
   }

@@ -1,10 +1,10 @@
 // The three fields of a conversion that the user defines, with their captions.
 #pragma once
 
-#include <QLineEdit>
 #include <QWidget>
 
 #include "converter/user_conversions.h"
+#include "screens/widgets/text_field.h"
 
 namespace kav {
 
@@ -25,9 +25,9 @@ class UserConversionFieldsView final : public QWidget {
  private:
   void LayOut();
 
-  QLineEdit* source_ = new QLineEdit;
-  QLineEdit* target_ = new QLineEdit;
-  QLineEdit* rate_ = new QLineEdit;
+  TextField* source_;
+  TextField* target_;
+  TextField* rate_;
 };
 
 }  // namespace kav

@@ -14,17 +14,13 @@ namespace {
 
 constexpr int kFormulaLines = 4;
 
-/// As many characters as the field holds and stays fluent.
-constexpr int kLongestName = 1 << 16;
-
 constexpr std::array kTypes{VariableType::X, VariableType::XY, VariableType::XYZ};
 
 }  // namespace
 
-MacroFieldsView::MacroFieldsView() : formula_(new FormulaView(kFormulaLines)) {
-  name_->setMaxLength(kLongestName);
+MacroFieldsView::MacroFieldsView()
+    : name_(new TextField(kMacroNameCaption)), formula_(new FormulaView(kFormulaLines)) {
   for (const VariableType type : kTypes) type_->addItem(ToQt(Widen(MacroTypeText(type))));
-  name_->setAccessibleName(ToQt(kMacroNameCaption));
   type_->setAccessibleName(ToQt(kMacroTypeCaption));
   formula_->setAccessibleName(ToQt(kFormulaName));
   LayOut();
@@ -44,15 +40,13 @@ void MacroFieldsView::LayOut() {
 
 MacroFields MacroFieldsView::Typed() const {
   const int type = type_->currentIndex();
-  return {name_->text().toStdU16String(),
+  return {name_->Text(),
           type < 0 ? std::nullopt : std::optional(kTypes[static_cast<std::size_t>(type)]),
           formula_->Line()};
 }
 
 void MacroFieldsView::Write(const MacroFields& fields) {
-  const QString name = ToQt(fields.name);
-  if (name_->text() != name) name_->setText(name);
-  if (!name_->isEnabled()) name_->home(false);
+  name_->Write(fields.name);
   type_->setCurrentIndex(fields.type ? static_cast<int>(*fields.type) : -1);
   formula_->Write(fields.formula);
 }
@@ -66,9 +60,7 @@ void MacroFieldsView::SetEditable(bool isEditable) {
 void MacroFieldsView::Focus(MacroField field) {
   switch (field) {
     case MacroField::Name:
-      name_->setFocus();
-      // Else all of it might be selected, and lost with the next key.
-      return name_->end(false);
+      return name_->Focus();
     case MacroField::Type:
       return type_->setFocus();
     case MacroField::Formula:

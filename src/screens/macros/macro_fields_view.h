@@ -2,11 +2,11 @@
 #pragma once
 
 #include <QComboBox>
-#include <QLineEdit>
 #include <QWidget>
 
 #include "macros/macro_editor_model.h"
 #include "screens/widgets/formula_view.h"
+#include "screens/widgets/text_field.h"
 
 namespace kav {
 
@@ -27,7 +27,7 @@ class MacroFieldsView final : public QWidget {
  private:
   void LayOut();
 
-  QLineEdit* name_ = new QLineEdit;
+  TextField* name_;
   QComboBox* type_ = new QComboBox;
   FormulaView* formula_;
 };
