@@ -10,7 +10,7 @@
 
 namespace kav {
 
-// How the text of a conversion that the user defined is made of the names of its units.
+// The text of a conversion, made of the names of its units.
 inline constexpr std::u16string_view kConversionArrow = u"->";
 
 inline std::u16string ConversionText(std::u16string_view source, std::u16string_view target) {
@@ -23,14 +23,10 @@ inline constexpr std::u16string_view kConvertRateCaption = u"Rate";
 inline constexpr std::u16string_view kDeleteConversionQuestion =
     u"Are you sure you want to delete the selected unit convert?";
 
-// What the fields and the list are called, where no caption says so.
+// Accessible names of the fields and the list, which have no captions.
 inline constexpr std::u16string_view kSourceUnitName = u"Source unit";
 inline constexpr std::u16string_view kTargetUnitName = u"Target unit";
 inline constexpr std::u16string_view kUserConversionsName = u"Unit converts";
-
-inline std::u16string UserConversionsCaption(int count, int most) {
-  return u"List(" + Widen(PrintInteger(count)) + u"/" + Widen(PrintInteger(most)) + u")";
-}
 
 // Why a conversion is not saved.
 inline constexpr std::u16string_view kUnitNameIsEmpty = u"Please, Input a unit name";
@@ -41,13 +37,7 @@ inline std::u16string MaximumOfUserConversions(int most) {
   return u"Maximum of user-define unit convert is " + Widen(PrintInteger(most));
 }
 
-inline std::u16string ConversionExistsAlready(std::u16string_view text) {
-  // Texts may be of any length, boxes may not.
-  constexpr std::size_t kMostShown = 200;
-  return Shortened(text, kMostShown) + u" exists already.";
-}
-
-// What deleting does to the rates of others.
+// What a deletion does to the rates of the other conversions.
 inline constexpr std::u16string_view kRatesWillLoseDigits =
     u"All rates will be stored with six decimals. These will lose digits:";
 
@@ -55,13 +45,13 @@ inline std::u16string AndMoreConversions(std::size_t more) {
   return u"and " + Widen(PrintInteger(static_cast<std::int64_t>(more))) + u" more";
 }
 
-// The captions of the converter; the arrow points from the one unit to the other and back.
+// The captions of the converter. The arrow swaps the units.
 inline constexpr std::u16string_view kConverterTitle = u"Unit Converter";
 inline constexpr std::u16string_view kInputCaption = u"Input";
 inline constexpr std::u16string_view kOutputCaption = u"Output";
 inline constexpr std::u16string_view kSwapCaption = u"↕";
 
-// What its parts are called, where no caption says so.
+// Accessible names of its parts, which have no captions.
 inline constexpr std::u16string_view kCategoryName = u"Category";
 inline constexpr std::u16string_view kInputValueName = u"Input value";
 inline constexpr std::u16string_view kInputUnitName = u"Input unit";

@@ -1,88 +1,42 @@
-// The editor of the user's own conversions: a list of all, and the fields of the one that is looked
-// at or edited.
+// The editor of the user's own conversions: the list of all, and the fields of the one that is
+// looked at or edited.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "common/refusal.h"
+#include "converter/converter_texts.h"
 #include "converter/user_conversions.h"
-#include "settings/settings_store.h"
+#include "settings/stored_list_editor.h"
 
 namespace kav {
 
-enum class ConversionButton { New, Edit, Delete, Close, Save, Cancel, Memory };
+/// The conversions as an editor's list, see settings/stored_list_editor.h.
+struct UserConversionEditorTraits : UserConversionTraits {
+  using Fields = TypedConversion;
 
-/// Browses until something is edited, and again once that is saved or given up. Other programs may
-/// store conversions at the same time: LookAgain, New, Edit, Cancel, Save and Delete find what they
-/// stored.
-class UserConversionModel {
+  static constexpr ConversionField kFirstOfNew = ConversionField::Source;
+  static constexpr ConversionField kFirstOfEdited = ConversionField::Rate;
+  static constexpr std::u16string_view kDeleteQuestion = kDeleteConversionQuestion;
+  static constexpr bool kKeepsListButtons = false;
+  /// Texts too long for any field are cut, with an ellipsis at the end.
+  static TypedConversion FieldsOf(const UserConversion& conversion);
+  static TypedConversion FieldsToEdit(const UserConversion& conversion) {
+    return FieldsOf(conversion);
+  }
+  static TypedConversion TypedOf(TypedConversion fields,
+                                 const std::optional<StoredIdentity>& edited);
+};
+
+class UserConversionModel : public StoredListEditor<UserConversionEditorTraits> {
  public:
-  /// The first conversion, if any, is selected. `settings` must outlive the model.
-  explicit UserConversionModel(SettingsStore& settings);
+  using StoredListEditor::StoredListEditor;
 
-  std::vector<std::u16string> Labels() const;
-  /// A place in the list, from 0.
-  std::optional<int> Selected() const { return selected_; }
-  std::u16string CountText() const;
-  bool IsEditing() const { return isEditing_; }
-  /// What stands in the fields; names too long for any field are cut, with an ellipsis behind them.
-  const TypedConversion& Fields() const { return fields_; }
-
-  bool Shows(ConversionButton button) const;
-  bool Enables(ConversionButton button) const;
-  /// The one that Enter presses.
-  ConversionButton DefaultButton() const;
-
-  /// The fields show the conversion of that place, or nothing. No effect while editing.
-  void Select(std::optional<int> place);
-  /// Takes over what other programs stored. The same conversion stays selected, if it is still
-  /// there. No effect while editing.
-  void LookAgain();
-  /// The names are emptied, to be filled in; the rate is 0.
-  void New();
-  /// The fields of the selected conversion; goes on browsing where another program removed it.
-  void Edit();
-  /// Where the user begins after New and after Edit.
-  ConversionField FirstField() const;
-
-  /// To be asked before Delete.
-  static std::u16string_view DeleteQuestion();
-  /// Which rates will lose digits by it, to be told with the question; empty where none will.
+  /// Which rates will lose digits by Delete, to be told with its question; empty if none will.
   std::u16string DeleteWarning() const;
-  /// Removes the selected conversion. The one behind it is selected then, or else the last.
-  void Delete();
-
-  // The rest has an effect only while editing.
-
-  /// What the user typed. To be told before any of those that follow.
-  void Take(TypedConversion typed);
-  /// Replaces the rate.
+  /// Replaces the rate. No effect unless editing.
   void TakeRate(std::u16string_view text);
-  /// Why the fields cannot be saved, and then they stay as typed; nullopt where they are, and then
-  /// what was saved is selected.
-  std::optional<Refusal<ConversionField>> Save();
-  /// The fields show the selected conversion again.
-  void Cancel();
-
- private:
-  int Count() const { return static_cast<int>(conversions_.size()); }
-  /// Null where none is selected.
-  const UserConversion* SelectedConversion() const;
-  std::optional<ConversionIdentity> SelectedIdentity() const;
-  void Put(std::optional<int> place);
-  void Reload();
-  void BrowseAnew();
-
-  SettingsStore& settings_;
-  std::vector<UserConversion> conversions_;
-  std::optional<int> selected_;
-  bool isEditing_ = false;
-  // Whose fields are edited; nullopt for a new conversion.
-  std::optional<ConversionIdentity> edited_;
-  TypedConversion fields_;
 };
 
 }  // namespace kav

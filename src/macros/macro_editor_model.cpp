@@ -1,17 +1,15 @@
 #include "macros/macro_editor_model.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "common/number_text.h"
 #include "line/keypad.h"
-#include "macros/macros_texts.h"
 
 namespace kav {
 namespace {
 
-/// A function of the pop-up and the key that writes it. A separator is a key that writes nothing.
+/// A function of the pop-up menu and the key that writes it. The key of a separator writes nothing.
 struct FunctionItem {
   std::u16string_view text;
   Key key = Key::Clear;
@@ -60,122 +58,48 @@ std::u16string ShownStored(std::string_view stored) {
   return ShownText(Widen(stored.substr(0, kMostBytes * (kLongestShownText + 1))));
 }
 
-MacroFields FieldsOf(const Macro& macro) {
+}  // namespace
+
+MacroFields MacroEditorTraits::FieldsOf(const Macro& macro) {
   MacroFields fields{ShownStored(macro.name), macro.type, {}};
   fields.formula.Set(ShownStored(macro.formula), {});
   return fields;
 }
 
-}  // namespace
-
-MacroEditorModel::MacroEditorModel(SettingsStore& settings) : settings_(settings), list_(settings) {
-  Browse();
+MacroFields MacroEditorTraits::FieldsToEdit(const Macro& macro) {
+  MacroFields fields = FieldsOf(macro);
+  const std::size_t end = fields.formula.Text().size();
+  fields.formula.Select({end, end});
+  return fields;
 }
 
-std::u16string MacroEditorModel::CountText() const {
-  return MacroListCaption(static_cast<std::size_t>(list_.Count()), MacroStore::kCapacity);
-}
-
-bool MacroEditorModel::Shows(EditorButton button) const {
-  switch (button) {
-    case EditorButton::New:
-      return list_.Count() < MacroStore::kCapacity;
-    case EditorButton::Edit:
-    case EditorButton::Delete:
-      return list_.Count() > 0;
-    case EditorButton::Close:
-      return !isEditing_;
-    default:
-      return isEditing_;
-  }
-}
-
-bool MacroEditorModel::Enables(EditorButton button) const {
-  switch (button) {
-    case EditorButton::New:
-      return !isEditing_;
-    case EditorButton::Edit:
-    case EditorButton::Delete:
-      return !isEditing_ && Selected().has_value();
-    default:
-      return true;
-  }
-}
-
-EditorButton MacroEditorModel::DefaultButton() const {
-  if (isEditing_) return EditorButton::Save;
-  return Selected() ? EditorButton::Edit : EditorButton::New;
-}
-
-void MacroEditorModel::Select(std::optional<int> place) {
-  if (isEditing_) return;
-  list_.Select(place);
-  Browse();
-}
-
-void MacroEditorModel::New() {
-  BrowseAnew();
-  fields_ = {};
-  isEditing_ = true;
-}
-
-void MacroEditorModel::Edit() {
-  BrowseAnew();
-  edited_ = list_.SelectedIdentity();
-  isEditing_ = edited_.has_value();
-  const std::size_t end = fields_.formula.Text().size();
-  fields_.formula.Select({end, end});
-}
-
-std::u16string_view MacroEditorModel::DeleteQuestion() {
-  return kDeleteMacroQuestion;
-}
-
-void MacroEditorModel::Delete() {
-  const auto macro = list_.SelectedIdentity();
-  if (isEditing_ || !macro) return;
-  RemoveMacro(*macro, settings_);
-  list_.Reread();
-  list_.Select(std::min(macro->index, list_.Count() - 1));
-  Browse();
-}
-
-void MacroEditorModel::Take(MacroFields typed) {
-  if (isEditing_) fields_ = std::move(typed);
-}
-
-std::optional<Refusal<MacroField>> MacroEditorModel::Save() {
-  if (!isEditing_) return std::nullopt;
-  TypedMacro typed{fields_.name, fields_.type, fields_.formula.Text()};
-  // A name that nobody touched stays what it is, however much of it was shown.
-  if (edited_ && typed.name == ShownStored(edited_->name)) typed.name = Widen(edited_->name);
-  const auto saved = SaveMacro(typed, edited_, settings_);
-  if (!saved) return saved.error();
-  list_.Reread();
-  list_.Select(*saved);
-  Browse();
-  return std::nullopt;
-}
-
-void MacroEditorModel::Cancel() {
-  if (isEditing_) BrowseAnew();
+TypedMacro MacroEditorTraits::TypedOf(const MacroFields& fields,
+                                      const std::optional<StoredIdentity>& edited) {
+  TypedMacro typed{fields.name, fields.type, fields.formula.Text()};
+  // A name that nobody touched stays what it is, even if it was cut in its field.
+  if (edited && typed.name == ShownStored(edited->name)) typed.name = Widen(edited->name);
+  return typed;
 }
 
 PopUpTexts MacroEditorModel::FunctionItems() {
   PopUpTexts texts;
+  texts.reserve(kFunctionItems.size());
   for (const FunctionItem& item : kFunctionItems) texts.push_back(item.text);
   return texts;
 }
 
 void MacroEditorModel::ChooseFunction(std::size_t item) {
-  if (!isEditing_ || item >= kFunctionItems.size()) return;
+  if (item >= kFunctionItems.size()) return;
   const FunctionItem& function = kFunctionItems[item];
-  ApplyFace(FaceOf(function.key, function.face), fields_.formula);
+  MacroFields fields = Fields();
+  ApplyFace(FaceOf(function.key, function.face), fields.formula);
+  Take(std::move(fields));
 }
 
 PopUpTexts MacroEditorModel::VariableItems() const {
-  const auto last = static_cast<std::size_t>(fields_.type.value_or(VariableType::XYZ));
+  const auto last = static_cast<std::size_t>(Fields().type.value_or(VariableType::XYZ));
   PopUpTexts texts;
+  texts.reserve(last + 1);
   for (std::size_t i = 0; i <= last; ++i) texts.push_back(kVariableItems[i].text);
   return texts;
 }
@@ -185,21 +109,9 @@ void MacroEditorModel::ChooseVariable(std::size_t item) {
 }
 
 void MacroEditorModel::InsertIntoFormula(std::u16string_view text) {
-  if (isEditing_) fields_.formula.InsertText(ShownText(text));
-}
-
-/// Browses the list as all programs have stored it by now.
-void MacroEditorModel::BrowseAnew() {
-  settings_.Refresh();
-  list_.Reread();
-  Browse();
-}
-
-void MacroEditorModel::Browse() {
-  isEditing_ = false;
-  edited_ = std::nullopt;
-  const Macro* macro = list_.SelectedMacro();
-  fields_ = macro != nullptr ? FieldsOf(*macro) : MacroFields{};
+  MacroFields fields = Fields();
+  fields.formula.InsertText(ShownText(text));
+  Take(std::move(fields));
 }
 
 }  // namespace kav

@@ -1,4 +1,4 @@
-// The macro editor: a list of all macros, and the fields of the one that is looked at or edited.
+// The macro editor: the list of all macros, and the fields of the one that is looked at or edited.
 #pragma once
 
 #include <cstddef>
@@ -7,11 +7,10 @@
 #include <string_view>
 #include <vector>
 
-#include "common/refusal.h"
 #include "line/expression_line.h"
-#include "macros/macro_list_model.h"
 #include "macros/macro_saving.h"
-#include "settings/settings_store.h"
+#include "macros/macros_texts.h"
+#include "settings/stored_list_editor.h"
 
 namespace kav {
 
@@ -22,70 +21,39 @@ struct MacroFields {
   ExpressionLine formula;
 };
 
-enum class EditorButton { New, Edit, Delete, Close, Save, Cancel, Memory, Functions, Variables };
+/// The macros as an editor's list, see settings/stored_list_editor.h.
+struct MacroEditorTraits : MacroTraits {
+  using Fields = MacroFields;
 
-/// The lines of a pop-up menu; an empty one is a separator.
+  static constexpr MacroField kFirstOfNew = MacroField::Name;
+  static constexpr MacroField kFirstOfEdited = MacroField::Name;
+  static constexpr std::u16string_view kDeleteQuestion = kDeleteMacroQuestion;
+  static constexpr bool kKeepsListButtons = true;
+  /// Long texts are cut, as ShownText cuts them.
+  static MacroFields FieldsOf(const Macro& macro);
+  /// The caret stands at the end of the formula.
+  static MacroFields FieldsToEdit(const Macro& macro);
+  static TypedMacro TypedOf(const MacroFields& fields, const std::optional<StoredIdentity>& edited);
+};
+
+/// The items of a pop-up menu in their order. An empty one is a separator.
 using PopUpTexts = std::vector<std::u16string_view>;
 
-/// Browses until something is edited, and again once that is saved or given up. Other programs may
-/// store macros at the same time: New, Edit, Cancel, Save and Delete find what they stored.
-class MacroEditorModel {
+/// The editor, and what helps to type a formula. That has an effect only while editing.
+class MacroEditorModel : public StoredListEditor<MacroEditorTraits> {
  public:
-  /// The first macro, if any, is selected. `settings` must outlive the model.
-  explicit MacroEditorModel(SettingsStore& settings);
-
-  std::vector<std::u16string> Labels() const { return list_.Labels(); }
-  /// A place in the list, from 0.
-  std::optional<int> Selected() const { return list_.Selected(); }
-  std::u16string CountText() const;
-  bool IsEditing() const { return isEditing_; }
-  const MacroFields& Fields() const { return fields_; }
-
-  bool Shows(EditorButton button) const;
-  bool Enables(EditorButton button) const;
-  /// The one that Enter presses.
-  EditorButton DefaultButton() const;
-
-  /// The fields show the macro of that place, or nothing. No effect while editing.
-  void Select(std::optional<int> place);
-  /// The fields are cleared, to be filled in.
-  void New();
-  /// The fields of the selected macro; goes on browsing where another program removed it.
-  void Edit();
-  /// To be asked before Delete.
-  static std::u16string_view DeleteQuestion();
-  /// Removes the selected macro. The one behind it is selected then, or else the last.
-  void Delete();
-
-  // The rest has an effect only while editing.
-
-  /// What the user typed. To be told before any of those that follow.
-  void Take(MacroFields typed);
-  /// Why the fields cannot be saved, and then they stay as typed; nullopt where they are, and then
-  /// what was saved is selected.
-  std::optional<Refusal<MacroField>> Save();
-  /// The fields show the selected macro again.
-  void Cancel();
+  using StoredListEditor::StoredListEditor;
 
   static PopUpTexts FunctionItems();
-  /// Edits the formula as the key of that function does.
+  /// Edits the formula as the key of that function does. `item` counts FunctionItems from 0;
+  /// nothing happens if it is a separator or beyond the last.
   void ChooseFunction(std::size_t item);
-  /// The variables of a macro of the chosen type.
+  /// The variables that a macro of the chosen type has; all three if no type is chosen.
   PopUpTexts VariableItems() const;
+  /// Inserts that one of VariableItems in lower case; nothing if `item` is beyond the last.
   void ChooseVariable(std::size_t item);
   /// Puts `text`, as it is shown, in place of what is selected in the formula.
   void InsertIntoFormula(std::u16string_view text);
-
- private:
-  void BrowseAnew();
-  void Browse();
-
-  SettingsStore& settings_;
-  MacroListModel list_;
-  bool isEditing_ = false;
-  // Whose fields are edited; nullopt for a new macro.
-  std::optional<MacroIdentity> edited_;
-  MacroFields fields_;
 };
 
 }  // namespace kav

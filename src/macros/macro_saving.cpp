@@ -1,17 +1,18 @@
 #include "macros/macro_saving.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "common/number_text.h"
 #include "engine/formula_checker.h"
 #include "macros/macros_texts.h"
-#include "settings/keys.h"
+#include "settings/stored_list_texts.h"
 
 namespace kav {
 namespace {
 
-using SaveRefusal = Refusal<MacroField>;
+using MacroRefusal = Refusal<MacroField>;
 
 /// A macro's three texts as they stand in the settings.
 struct Record {
@@ -31,35 +32,26 @@ void WriteRecord(const Record& record, int index, SettingsStore& settings) {
   settings.Set(MacroFormula(index), record.formula);
 }
 
-/// `typed` without blanks around it. What is pasted brings line breaks and tabs along, which mean
-/// no more than blanks do.
-std::u16string Cleaned(std::u16string text) {
-  return std::u16string(TrimBlanks(OnOneLine(std::move(text))));
-}
-
-bool IsUsedByAnother(std::string_view name, std::optional<int> own, const MacroStore& macros) {
-  for (int i = 0; i < macros.Count(); ++i) {
-    if (i != own && macros.At(i).name == name) return true;
-  }
-  return false;
-}
-
-std::optional<SaveRefusal> CheckName(const std::u16string& name, std::optional<int> own,
-                                     const MacroStore& macros) {
-  if (name.empty()) return SaveRefusal{std::u16string(kMacroNameIsNull), MacroField::Name};
+std::optional<MacroRefusal> CheckName(const std::u16string& name,
+                                      const std::vector<Macro>& others) {
+  const auto refuse = [](std::u16string text) {
+    return MacroRefusal{std::move(text), MacroField::Name};
+  };
+  if (name.empty()) return refuse(std::u16string(kMacroNameIsNull));
   // They would end the name in a call.
   if (name.find_first_of(u"():") != std::u16string::npos) {
-    return SaveRefusal{std::u16string(kMacroNameHasMarks), MacroField::Name};
+    return refuse(std::u16string(kMacroNameHasMarks));
   }
-  if (IsUsedByAnother(Narrow(name), own, macros)) {
-    return SaveRefusal{MacroExistsAlready(name), MacroField::Name};
-  }
+  const bool isTaken =
+      std::any_of(others.begin(), others.end(),
+                  [own = Narrow(name)](const Macro& macro) { return macro.name == own; });
+  if (isTaken) return refuse(ExistsAlready(name));
   return std::nullopt;
 }
 
-std::optional<SaveRefusal> CheckText(const std::u16string& formula, VariableType type) {
+std::optional<MacroRefusal> CheckText(const std::u16string& formula, VariableType type) {
   const auto refuse = [](std::u16string text) {
-    return SaveRefusal{std::move(text), MacroField::Formula};
+    return MacroRefusal{std::move(text), MacroField::Formula};
   };
   if (formula.empty()) return refuse(std::u16string(kMacroFormulaIsNull));
   if (formula.size() > kLongestFormula) {
@@ -70,59 +62,50 @@ std::optional<SaveRefusal> CheckText(const std::u16string& formula, VariableType
   return std::nullopt;
 }
 
-/// SaveMacro, within a change of `settings`.
-Expected<int, SaveRefusal> Save(const TypedMacro& typed, const std::optional<MacroIdentity>& edited,
-                                SettingsStore& settings) {
-  const MacroStore macros(settings);
-  if (macros.Count() >= MacroStore::kCapacity) {
-    return SaveRefusal{MaximumOfMacros(MacroStore::kCapacity), MacroField::None};
-  }
-  const auto place = edited ? PlaceOf(*edited, macros) : std::nullopt;
-  const std::u16string name = Cleaned(typed.name);
-  if (auto refusal = CheckName(name, place, macros)) return *std::move(refusal);
-  if (!typed.type) return SaveRefusal{std::u16string(kMacroTypeIsNull), MacroField::Type};
-  const std::u16string formula = Cleaned(typed.formula);
-  if (auto refusal = CheckText(formula, *typed.type)) return *std::move(refusal);
-
-  const int count = macros.Count();
-  const int index = place.value_or(count);
-  WriteRecord({Narrow(name), std::string(MacroTypeText(*typed.type)), Narrow(formula)}, index,
-              settings);
-  settings.Set(kMacroCount, std::max(count, index + 1));
-  return index;
-}
-
-bool Remove(const MacroIdentity& macro, SettingsStore& settings) {
-  const MacroStore macros(settings);
-  const auto place = PlaceOf(macro, macros);
-  if (!place) return false;
-  const int last = macros.Count() - 1;
-  for (int i = *place; i < last; ++i) WriteRecord(ReadRecord(settings, i + 1), i, settings);
-  WriteRecord({}, last, settings);
-  settings.Set(kMacroCount, last);
-  return true;
-}
-
 }  // namespace
 
-std::optional<int> PlaceOf(const MacroIdentity& macro, const MacroStore& macros) {
-  const bool isInside = macro.index >= 0 && macro.index < macros.Count();
-  if (isInside && macros.At(macro.index).name == macro.name) return macro.index;
-  return macros.Find(macro.name);
+std::u16string MacroTraits::FullText() {
+  return MaximumOfMacros(kCapacity);
 }
 
-Expected<int, Refusal<MacroField>> SaveMacro(const TypedMacro& typed,
-                                             const std::optional<MacroIdentity>& edited,
-                                             SettingsStore& settings) {
-  std::optional<Expected<int, SaveRefusal>> saved;
-  settings.Change([&] { saved.emplace(Save(typed, edited, settings)); });
-  return *std::move(saved);
+std::vector<Macro> MacroTraits::Load(const SettingsStore& settings) {
+  const MacroStore stored(settings);
+  const int count = stored.Count();
+  std::vector<Macro> macros;
+  macros.reserve(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) macros.push_back(stored.At(i));
+  return macros;
 }
 
-bool RemoveMacro(const MacroIdentity& macro, SettingsStore& settings) {
-  bool isRemoved = false;
-  settings.Change([&] { isRemoved = Remove(macro, settings); });
-  return isRemoved;
+Expected<Macro, MacroRefusal> MacroTraits::Check(const TypedMacro& typed,
+                                                 const std::vector<Macro>& others) {
+  const std::u16string name = Cleaned(typed.name);
+  if (auto refusal = CheckName(name, others)) return *std::move(refusal);
+  if (!typed.type) return MacroRefusal{std::u16string(kMacroTypeIsNull), MacroField::Type};
+  const std::u16string formula = Cleaned(typed.formula);
+  if (auto refusal = CheckText(formula, *typed.type)) return *std::move(refusal);
+  return Macro{Narrow(name), *typed.type, Narrow(formula)};
+}
+
+void MacroTraits::Write(const Macro& macro, int index, SettingsStore& settings) {
+  WriteRecord({macro.name, std::string(MacroTypeText(macro.type)), macro.formula}, index, settings);
+}
+
+void MacroTraits::CloseGap(const std::vector<Macro>& stored, int removed, SettingsStore& settings) {
+  // The texts as they stand there, not as they are read: no type may become another text.
+  const int last = static_cast<int>(stored.size()) - 1;
+  for (int i = removed; i < last; ++i) WriteRecord(ReadRecord(settings, i + 1), i, settings);
+  WriteRecord({}, last, settings);
+}
+
+Expected<int, MacroRefusal> SaveMacro(const TypedMacro& typed,
+                                      const std::optional<StoredIdentity>& edited,
+                                      SettingsStore& settings) {
+  return SaveEntry<MacroTraits>(typed, edited, settings);
+}
+
+bool RemoveMacro(const StoredIdentity& macro, SettingsStore& settings) {
+  return RemoveEntry<MacroTraits>(macro, settings);
 }
 
 }  // namespace kav

@@ -4,12 +4,15 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "common/expected.h"
 #include "common/refusal.h"
 #include "engine/tokenizer.h"
 #include "macros/macro_store.h"
+#include "settings/keys.h"
 #include "settings/settings_store.h"
+#include "settings/stored_list.h"
 
 namespace kav {
 
@@ -23,28 +26,35 @@ struct TypedMacro {
 /// Where the focus goes after a refusal.
 enum class MacroField { None, Name, Type, Formula };
 
-/// A stored macro as it was seen last: another program may have moved or removed it since.
-struct MacroIdentity {
-  int index;
-  std::string name;
-
-  bool operator==(const MacroIdentity&) const = default;
-};
-
-/// Where `macro` stands by now, nullopt where it is gone.
-std::optional<int> PlaceOf(const MacroIdentity& macro, const MacroStore& macros);
-
-/// Formulas are at most this many UTF-16 units long, blanks around them aside.
+/// Formulas are at most this many UTF-16 units long, not counting blanks at their ends.
 inline constexpr std::size_t kLongestFormula = 150;
 
-/// Stores `typed` in the place of `edited`, or behind the others where there is none or it is gone
-/// by now; blanks around name and formula are taken off. Answers its index, or the first reason
-/// why it cannot be stored, and then nothing was.
+/// The macros as a stored list, see settings/stored_list.h.
+struct MacroTraits {
+  using Entry = Macro;
+  using Typed = TypedMacro;
+  using Field = MacroField;
+
+  static constexpr int kCapacity = MacroStore::kCapacity;
+  static constexpr IntegerKey kCount = kMacroCount;
+  static std::u16string FullText();
+  static std::vector<Macro> Load(const SettingsStore& settings);
+  static const std::string& NameOf(const Macro& macro) { return macro.name; }
+  static std::u16string LabelOf(const Macro& macro) { return MacroLabel(macro); }
+  static Expected<Macro, Refusal<MacroField>> Check(const TypedMacro& typed,
+                                                    const std::vector<Macro>& others);
+  static void Write(const Macro& macro, int index, SettingsStore& settings);
+  static void CloseGap(const std::vector<Macro>& stored, int removed, SettingsStore& settings);
+};
+
+/// Stores `typed` in the place of `edited`, or behind the others if there is no such macro (any
+/// more). Blanks at the ends of name and formula are dropped. Returns the macro's index, or the
+/// first reason why it cannot be stored; then nothing is.
 Expected<int, Refusal<MacroField>> SaveMacro(const TypedMacro& typed,
-                                             const std::optional<MacroIdentity>& edited,
+                                             const std::optional<StoredIdentity>& edited,
                                              SettingsStore& settings);
 
-/// Removes `macro` and moves those behind it up. False where it is gone already.
-bool RemoveMacro(const MacroIdentity& macro, SettingsStore& settings);
+/// Removes `macro` and moves those behind it up. False if it was gone already.
+bool RemoveMacro(const StoredIdentity& macro, SettingsStore& settings);
 
 }  // namespace kav

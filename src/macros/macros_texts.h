@@ -16,7 +16,7 @@ inline constexpr std::string_view kMacroArgumentsWrong = "Macro argument error";
 inline constexpr std::string_view kMacroFormulaInvalid = "Macro formula is invalid";
 inline constexpr std::string_view kLineIsEmpty = "Expression is null.";
 
-// The types of macros as they are stored and chosen; every text but the first two stands for three
+// The types of macros as they are stored and chosen. Any text but the first two stands for three
 // arguments.
 inline constexpr std::string_view kMacroTypeX = "TYPE1 : F(X)";
 inline constexpr std::string_view kMacroTypeXY = "TYPE2 : F(X,Y)";
@@ -39,7 +39,7 @@ inline constexpr std::u16string_view kVariablesButton = u"Variables";
 inline constexpr std::u16string_view kDeleteMacroQuestion =
     u"Are you sure you want to delete the selected macro?";
 
-// What a list of macros and a formula that is only shown are called, where no caption says so.
+// Accessible names of a list of macros and of a formula, which have no caption.
 inline constexpr std::u16string_view kMacroListName = u"Macros";
 inline constexpr std::u16string_view kFormulaName = u"Formula";
 
@@ -51,10 +51,6 @@ inline std::u16string MacroFormulaCaption(std::size_t most) {
   return u"Macro Expression(Max Len:" + DecimalText(most) + u")";
 }
 
-inline std::u16string MacroListCaption(std::size_t count, std::size_t most) {
-  return u"List(" + DecimalText(count) + u"/" + DecimalText(most) + u")";
-}
-
 // Why a macro is not saved.
 inline constexpr std::u16string_view kMacroNameIsNull = u"Macro Name is NULL";
 inline constexpr std::u16string_view kMacroNameHasMarks = u"Can not use '(',')',':' in Macro Name.";
@@ -63,12 +59,6 @@ inline constexpr std::u16string_view kMacroFormulaIsNull = u"Macro Expression is
 
 inline std::u16string MaximumOfMacros(std::size_t most) {
   return u"Maximum of macro is " + DecimalText(most);
-}
-
-inline std::u16string MacroExistsAlready(std::u16string_view name) {
-  // Names may be of any length, boxes may not.
-  constexpr std::size_t kMostShown = 200;
-  return Shortened(name, kMostShown) + u" exists already.";
 }
 
 inline std::u16string MacroFormulaIsTooLong(std::size_t length, std::size_t most) {

@@ -21,8 +21,8 @@ using test::NumberedConversions;
 using test::StoreConversions;
 using test::StoredConversion;
 using test::StoredConversions;
-using Button = ConversionButton;
-using Buttons = std::set<ConversionButton>;
+using Button = EditorButton;
+using Buttons = std::set<EditorButton>;
 using Conversions = std::vector<UserConversion>;
 using Labels = std::vector<std::u16string>;
 
@@ -166,7 +166,7 @@ TEST_F(UserConversionEditorOfThree, WhileEditingNothingIsSelectedOrDeleted) {
   model.Take({u"a", u"b", u"1"});
   model.Select(2);
   model.Delete();
-  model.LookAgain();
+  model.Reload();
   EXPECT_EQ(model.Selected(), 0);
   EXPECT_TRUE(model.IsEditing());
   EXPECT_EQ(Fields(model), u"a|b|1");
@@ -352,7 +352,7 @@ TEST_F(UserConversionEditorOfTwo, WhatTheOtherStoredIsFound) {
   model.Select(2);
   ASSERT_TRUE(RemoveConversion({0, "inch -> cm"}, other_));
   ASSERT_TRUE(SaveConversion({u"tiny", u"x", u"1e-9"}, std::nullopt, other_));
-  model.LookAgain();
+  model.Reload();
   EXPECT_EQ(model.Labels(), (Labels{u"mile -> km", u"h -> s", u"tiny -> x"}));
   EXPECT_EQ(model.Selected(), 1);
   EXPECT_TRUE(model.DeleteWarning().ends_with(u"tiny -> x"));

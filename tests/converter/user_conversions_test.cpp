@@ -333,7 +333,7 @@ TEST_F(UserConversions, AMessageDoesNotCutACharacterInTwo) {
 
 TEST_F(ThreeUserConversions, AnEditedOneKeepsItsPlace) {
   const auto saved =
-      SaveConversion({u"yard", u"m", u"0.9144"}, ConversionIdentity{1, "mile -> km"}, store_);
+      SaveConversion({u"yard", u"m", u"0.9144"}, StoredIdentity{1, "mile -> km"}, store_);
   ASSERT_TRUE(saved);
   EXPECT_EQ(*saved, 1);
   Conversions edited = kThree;
@@ -342,7 +342,7 @@ TEST_F(ThreeUserConversions, AnEditedOneKeepsItsPlace) {
 }
 
 TEST_F(ThreeUserConversions, AnEditedOneMayKeepItsTextButNotTakeAnothers) {
-  const ConversionIdentity inch{0, "inch -> cm"};
+  const StoredIdentity inch{0, "inch -> cm"};
   EXPECT_EQ(TextOf(SaveConversion({u"inch", u"cm", u"2.5"}, inch, store_)), u"");
   EXPECT_EQ(StoredConversion(store_, 0).rateText, "2.5");
   EXPECT_EQ(TextOf(SaveConversion({u"h", u"s", u"2.5"}, inch, store_)), u"h -> s exists already.");
@@ -351,7 +351,7 @@ TEST_F(ThreeUserConversions, AnEditedOneMayKeepItsTextButNotTakeAnothers) {
 TEST_F(ThreeUserConversions, AnEditedOneThatMovedIsFoundByItsText) {
   ASSERT_TRUE(RemoveConversion({0, "inch -> cm"}, store_));
   const auto saved =
-      SaveConversion({u"yard", u"m", u"0.9144"}, ConversionIdentity{1, "mile -> km"}, store_);
+      SaveConversion({u"yard", u"m", u"0.9144"}, StoredIdentity{1, "mile -> km"}, store_);
   ASSERT_TRUE(saved);
   EXPECT_EQ(*saved, 0);
   EXPECT_EQ(StoredConversions(store_),
@@ -361,7 +361,7 @@ TEST_F(ThreeUserConversions, AnEditedOneThatMovedIsFoundByItsText) {
 TEST_F(ThreeUserConversions, AnEditedOneThatIsGoneIsAddedAnew) {
   ASSERT_TRUE(RemoveConversion({1, "mile -> km"}, store_));
   const auto saved =
-      SaveConversion({u"mile", u"km", u"1.6"}, ConversionIdentity{1, "mile -> km"}, store_);
+      SaveConversion({u"mile", u"km", u"1.6"}, StoredIdentity{1, "mile -> km"}, store_);
   ASSERT_TRUE(saved);
   EXPECT_EQ(*saved, 2);
   EXPECT_EQ(StoredConversion(store_, 2), (UserConversion{"mile -> km", "1.6"}));
@@ -371,7 +371,7 @@ TEST_F(ThreeUserConversions, AnEditedOneThatIsGoneIsAddedAnew) {
 TEST_F(ThreeUserConversions, AnIdentityWithAWrongPlaceIsFoundByItsText) {
   for (const int place : {-1, -2147483647 - 1, 3, 2147483647}) {
     const auto saved =
-        SaveConversion({u"inch", u"cm", u"3"}, ConversionIdentity{place, "inch -> cm"}, store_);
+        SaveConversion({u"inch", u"cm", u"3"}, StoredIdentity{place, "inch -> cm"}, store_);
     ASSERT_TRUE(saved);
     EXPECT_EQ(*saved, 0) << place;
   }
@@ -392,7 +392,7 @@ TEST_F(SixtyUserConversions, The61stIsRefusedBeforeAnythingElseIsLookedAt) {
 }
 
 TEST_F(SixtyUserConversions, AnEditIsRefusedToo) {
-  const ConversionIdentity seventh{7, "a7 -> b7"};
+  const StoredIdentity seventh{7, "a7 -> b7"};
   EXPECT_EQ(TextOf(SaveConversion({u"a7", u"b7", u"5"}, seventh, store_)),
             u"Maximum of user-define unit convert is 60");
   EXPECT_EQ(StoredConversions(store_), NumberedConversions(60));

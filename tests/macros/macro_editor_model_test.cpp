@@ -493,7 +493,7 @@ TEST_F(MacroEditorOfTwo, AnEditFollowsItsMacroWhereverTheOtherMovedIt) {
 TEST_F(MacroEditorOfTwo, EditBeginsWithWhatTheOtherStoredLast) {
   MacroEditorModel model(own_);
   model.Select(1);
-  ASSERT_TRUE(SaveMacro({u"m1", VariableType::X, u"7*x"}, MacroIdentity{1, "m1"}, other_));
+  ASSERT_TRUE(SaveMacro({u"m1", VariableType::X, u"7*x"}, StoredIdentity{1, "m1"}, other_));
   model.Edit();
   EXPECT_EQ(Spelled(model.Fields()), u"m1|0|7*x");
 }

@@ -20,7 +20,7 @@ class MacroList : public testing::Test {
   MacroList() { StoreMacros(store_, kThree); }
 
   static std::string Formula(const MacroListModel& model) {
-    return model.SelectedMacro() != nullptr ? model.SelectedMacro()->formula : "none";
+    return model.SelectedEntry() != nullptr ? model.SelectedEntry()->formula : "none";
   }
 
   MemorySettingsStore store_;
@@ -45,7 +45,7 @@ TEST_F(MacroList, EachSelectionHasItsFormula) {
   EXPECT_EQ(Formula(model), "x+y");
   model.Select(std::nullopt);
   EXPECT_EQ(model.Selected(), std::nullopt);
-  EXPECT_EQ(model.SelectedMacro(), nullptr);
+  EXPECT_EQ(model.SelectedEntry(), nullptr);
 }
 
 TEST_F(MacroList, APlaceThatThereIsNotSelectsNone) {
@@ -72,7 +72,7 @@ TEST_F(MacroList, TheListStaysAsItWasReadUntilItIsReadAgain) {
   ASSERT_TRUE(RemoveMacro({0, "sq"}, store_));
   EXPECT_EQ(model.Labels(), (Labels{u"sq(X)", u"add(X,Y)", u"vol(X,Y,Z)"}));
   EXPECT_EQ(Formula(model), "x*y*z");
-  model.Reread();
+  model.Reload();
   EXPECT_EQ(model.Labels(), (Labels{u"add(X,Y)", u"vol(X,Y,Z)"}));
 }
 
@@ -80,7 +80,7 @@ TEST_F(MacroList, TheSameMacroStaysSelectedWhereverItMoved) {
   MacroListModel model(store_);
   model.Select(2);
   ASSERT_TRUE(RemoveMacro({0, "sq"}, store_));
-  model.Reread();
+  model.Reload();
   EXPECT_EQ(model.Selected(), 1);
   EXPECT_EQ(Formula(model), "x*y*z");
 }
@@ -89,7 +89,7 @@ TEST_F(MacroList, NothingIsSelectedOnceTheSelectedMacroIsGone) {
   MacroListModel model(store_);
   model.Select(1);
   ASSERT_TRUE(RemoveMacro({1, "add"}, store_));
-  model.Reread();
+  model.Reload();
   EXPECT_EQ(model.Selected(), std::nullopt);
 }
 

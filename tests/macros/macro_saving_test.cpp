@@ -191,7 +191,7 @@ TEST_F(MacroSaving, ALongerFormulaIsRefusedNotCut) {
 TEST_F(MacroSaving, AnEditedMacroKeepsItsPlace) {
   StoreMacros(store_, kThree);
   const auto saved =
-      SaveMacro(Typed(u"plus", u"x+y+1", VariableType::XY), MacroIdentity{1, "add"}, store_);
+      SaveMacro(Typed(u"plus", u"x+y+1", VariableType::XY), StoredIdentity{1, "add"}, store_);
   ASSERT_TRUE(saved);
   EXPECT_EQ(*saved, 1);
   EXPECT_EQ(MacroNames(store_), (Names{"sq", "plus", "vol"}));
@@ -201,7 +201,7 @@ TEST_F(MacroSaving, AnEditedMacroKeepsItsPlace) {
 
 TEST_F(MacroSaving, AnEditedMacroMayKeepItsNameButNotTakeAnothers) {
   StoreMacros(store_, kThree);
-  const MacroIdentity sq{0, "sq"};
+  const StoredIdentity sq{0, "sq"};
   EXPECT_EQ(TextOf(SaveMacro(Typed(u"sq", u"x*x"), sq, store_)), u"");
   EXPECT_EQ(TextsOf(store_, 0).formula, "x*x");
   EXPECT_EQ(TextOf(SaveMacro(Typed(u"vol", u"x*x"), sq, store_)), u"vol exists already.");
@@ -211,7 +211,7 @@ TEST_F(MacroSaving, AnEditedMacroThatMovedIsFoundByItsName) {
   StoreMacros(store_, kThree);
   ASSERT_TRUE(RemoveMacro({0, "sq"}, store_));
   const auto saved =
-      SaveMacro(Typed(u"plus", u"x+y", VariableType::XY), MacroIdentity{1, "add"}, store_);
+      SaveMacro(Typed(u"plus", u"x+y", VariableType::XY), StoredIdentity{1, "add"}, store_);
   ASSERT_TRUE(saved);
   EXPECT_EQ(*saved, 0);
   EXPECT_EQ(MacroNames(store_), (Names{"plus", "vol"}));
@@ -221,7 +221,7 @@ TEST_F(MacroSaving, AnEditedMacroThatIsGoneIsAddedAnew) {
   StoreMacros(store_, kThree);
   ASSERT_TRUE(RemoveMacro({1, "add"}, store_));
   const auto saved =
-      SaveMacro(Typed(u"add", u"x+y", VariableType::XY), MacroIdentity{1, "add"}, store_);
+      SaveMacro(Typed(u"add", u"x+y", VariableType::XY), StoredIdentity{1, "add"}, store_);
   ASSERT_TRUE(saved);
   EXPECT_EQ(*saved, 2);
   EXPECT_EQ(MacroNames(store_), (Names{"sq", "vol", "add"}));
@@ -230,7 +230,7 @@ TEST_F(MacroSaving, AnEditedMacroThatIsGoneIsAddedAnew) {
 TEST_F(MacroSaving, AnIdentityWithAWrongPlaceIsFoundByItsName) {
   StoreMacros(store_, kThree);
   for (const int place : {-1, -2147483647 - 1, 3, 2147483647}) {
-    const auto saved = SaveMacro(Typed(u"sq", u"x"), MacroIdentity{place, "sq"}, store_);
+    const auto saved = SaveMacro(Typed(u"sq", u"x"), StoredIdentity{place, "sq"}, store_);
     ASSERT_TRUE(saved);
     EXPECT_EQ(*saved, 0) << place;
   }
@@ -257,7 +257,7 @@ TEST_F(FullMacroSaving, The61stIsRefusedBeforeAnythingElseIsLookedAt) {
 }
 
 TEST_F(FullMacroSaving, AnEditIsRefusedTooWhileThereAreSixty) {
-  const auto saved = SaveMacro(Typed(u"m7", u"x*2"), MacroIdentity{7, "m7"}, store_);
+  const auto saved = SaveMacro(Typed(u"m7", u"x*2"), StoredIdentity{7, "m7"}, store_);
   EXPECT_EQ(TextOf(saved), u"Maximum of macro is 60");
   EXPECT_EQ(TextsOf(store_, 7).formula, "x");
 }
@@ -353,7 +353,7 @@ TEST_F(MacroSavingOfTwo, AnEditFindsItsMacroAfterTheOtherRemovedOneBeforeIt) {
   ASSERT_TRUE(SaveMacro(Typed(u"a", u"x"), std::nullopt, one_));
   ASSERT_TRUE(SaveMacro(Typed(u"b", u"x"), std::nullopt, one_));
   ASSERT_TRUE(RemoveMacro({0, "a"}, other_));
-  const auto saved = SaveMacro(Typed(u"c", u"x"), MacroIdentity{1, "b"}, one_);
+  const auto saved = SaveMacro(Typed(u"c", u"x"), StoredIdentity{1, "b"}, one_);
   ASSERT_TRUE(saved);
   EXPECT_EQ(*saved, 0);
   EXPECT_EQ(MacroNames(UserSettingsStore(path_)), (Names{"c"}));

@@ -75,7 +75,7 @@ void CMacroListDlg::Connect() {
 
 void CMacroListDlg::Refresh() {
   list_->Write(model_.Labels(), model_.Selected());
-  const Macro* macro = model_.SelectedMacro();
+  const Macro* macro = model_.SelectedEntry();
   formula_->setPlainText(OneLine(macro != nullptr ? Widen(macro->formula) : std::u16string()));
   ok_->setEnabled(macro != nullptr);
   FitFormula();
