@@ -3,9 +3,8 @@
 namespace kav {
 namespace {
 
-// Between Celsius and Fahrenheit every way leads over -40, where both scales read the same: add 40,
-// scale, subtract 40. The offset of 32 would round differently, and so would any other order of
-// these operations.
+// Celsius and Fahrenheit read the same at -40. So these formulas add 40, scale, and subtract 40.
+// With the offset of 32, or in another order, results would be rounded differently.
 
 double CelsiusToFahrenheit(double value) {
   return (value + 40) * 1.8 - 40;
@@ -40,7 +39,7 @@ constexpr TemperatureConversion kTemperatureConversions[] = {
 }  // namespace
 
 double ConvertUnits(double value, const Unit& from, const Unit& to) {
-  // The quotient times the same rate can be one bit off, and beyond the range of double.
+  // Calculated, the result could differ in its last bit, or leave the range of double on the way.
   if (from.name == to.name) return value;
   return value / to.rate * from.rate;
 }

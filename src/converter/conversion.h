@@ -8,20 +8,21 @@
 
 namespace kav {
 
-/// `value`, counted in `from`, counted in `to`, both of one category. The division comes first. A
-/// unit converted to itself gives `value` to the last bit, whatever the rounding would do.
+/// `value` units `from` in units `to`: value / to.rate * from.rate, in this order. Both units are
+/// of one category. A unit converted to itself gives exactly `value`. Infinite or 0 beyond the
+/// range of double.
 double ConvertUnits(double value, const Unit& from, const Unit& to);
 
-/// One directed conversion between scales of temperature.
+/// A conversion from one scale of temperature to another.
 struct TemperatureConversion {
   std::u16string_view caption;  ///< "Celsius -> Fahrenheit"
   double (*convert)(double value);
 };
 
-/// All six, by their positions.
+/// All six, in the order in which they are offered.
 std::span<const TemperatureConversion> TemperatureConversions();
 
-/// `rate` times `value`: what a conversion that the user defined does.
+/// `rate` times `value`, as conversions that the user defined calculate.
 double ConvertByRate(double value, double rate);
 
 }  // namespace kav

@@ -1,4 +1,4 @@
-// The unit converter: a value, a category, the units in it, and what the value is in the other one.
+// The unit converter: a value, a category, an input and an output unit, and the converted value.
 #pragma once
 
 #include <optional>
@@ -14,68 +14,68 @@
 
 namespace kav {
 
-/// What is selected in the lists; -1 for nothing.
+/// What is selected in the lists, from 0; -1 for nothing.
 struct UnitPositions {
   int category = -1;
-  int input = -1;   ///< of the units, or of the conversions where a category lists those
-  int output = -1;  ///< of the units; nothing where a category lists conversions
+  int input = -1;   ///< a unit, or a conversion if the category lists conversions
+  int output = -1;  ///< a unit; nothing if the category lists conversions
 
   bool operator==(const UnitPositions&) const = default;
 };
 
-/// Every answer is of what is chosen and typed at that moment. The user's own conversions are those
-/// that were stored when it was made, or when they were reread.
+/// Everything follows what is chosen and typed at that moment. The user's own conversions are read
+/// when the model is made, and by RereadUserConversions.
 class ConverterModel {
  public:
-  /// Begins with `text` as the value to convert and with `remembered`, as far as there still is
-  /// such a category and such units in it. `settings` must outlive the model.
+  /// Begins with the value `text` and with `remembered`, as far as that category and those units
+  /// still exist. `settings` must outlive the model.
   ConverterModel(SettingsStore& settings, std::u16string text, UnitPositions remembered);
 
-  /// What there is to choose from. Where the category lists conversions from one unit to another,
-  /// they stand in the first list and the second is empty.
+  // What there is to choose from. If the category lists conversions, these are the inputs and there
+  // are no outputs.
+
   static std::vector<std::u16string> Categories();
   const std::vector<std::u16string>& Inputs() const { return inputs_; }
   const std::vector<std::u16string>& Outputs() const { return outputs_; }
   const UnitPositions& Positions() const { return positions_; }
   bool ListsConversions() const;
 
-  /// Loads both lists and selects the first of each; the category that is chosen already stays as
-  /// it is. Answers what to tell the user where there are none of his own conversions yet: he may
-  /// then write some, and RereadUserConversions is to be called.
+  /// Loads both lists and selects the first of each. The category that is chosen already stays as
+  /// it is. If it is that of the user's own conversions and there are none, returns what to tell
+  /// the user; he may then write some, after which RereadUserConversions is to be called.
   [[nodiscard]] std::optional<std::u16string_view> ChooseCategory(int category);
-  /// Loads the lists of the category again; of the first one where there still are none.
+  /// Loads the category again; the first one instead if the user still has no conversions.
   void RereadUserConversions();
 
-  // A position that there is not selects nothing.
+  // A position that does not exist selects nothing.
   void ChooseInput(int position);
   void ChooseOutput(int position);
 
-  /// Whether there is the way back from what is selected.
+  /// Whether both units are selected, or there is a conversion back from the selected one.
   bool CanSwap() const;
-  /// Makes the output unit the input unit and the other way round.
+  /// Exchanges the input and the output unit.
   void Swap();
 
   const std::u16string& Text() const { return text_; }
   void SetText(std::u16string text) { text_ = std::move(text); }
   bool TextIsNumber() const;
 
-  /// The result line: the converted value in the user's display format, the reason why it cannot be
-  /// shown, or nothing where there is no value or nothing to convert it to.
+  /// The result line: the converted value in the user's display format, or the reason why it cannot
+  /// be shown. Empty if the text is no number or too little is selected.
   std::u16string ShownResult() const;
-  /// The converted value for a line, a dialog or a memory variable, without separators; nullopt
-  /// where there is none or it cannot be shown.
+  /// The converted value without separators, to be inserted elsewhere; nullopt if there is none or
+  /// it cannot be shown.
   std::optional<std::u16string> Result() const;
-  /// Why the converter cannot be closed with OK; nullopt where it can.
+  /// Why the converter cannot be closed with OK; nullopt if it can.
   std::optional<std::u16string_view> OkRefusal() const;
 
  private:
   const UnitCategory* Category() const;
   void LoadLists();
-  /// nullopt where the text is no number or too little is selected.
+  /// nullopt if the text is no number or too little is selected.
   std::optional<double> Converted() const;
   std::optional<double> Convert(double value) const;
-  /// The place in the first list of the conversion back from the one at `position`; -1 where there
-  /// is none.
+  /// The position of the conversion back from the one at `position`; -1 if there is none.
   int ReverseOf(int position) const;
 
   const SettingsStore& settings_;

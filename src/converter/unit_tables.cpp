@@ -1,8 +1,8 @@
 #include "converter/unit_tables.h"
 
-// The captions are those by which users of this calculator know the units, spellings included, and
-// the rates those it has always calculated with, so that a result stays what it was. Some are older
-// or rounded sizes; docs/units.md names them.
+// Captions (with their spellings) and rates never change, so that users find their units and get
+// the results that they always got. Some rates are older or rounded sizes of their units;
+// docs/units.md names them. The comment of each table tells its base unit.
 
 namespace kav {
 namespace {
@@ -91,7 +91,7 @@ constexpr Unit kEnergy[] = {
     {u"Watt Hours", 3600},
 };
 
-// Cubic metres per second.
+// Cubic meters per second.
 constexpr Unit kFlowRate[] = {
     {u"Barrels/Day", 1.840130728333333e-06},
     {u"Barrels/Hour", 4.416313748e-05},
@@ -242,7 +242,7 @@ constexpr Unit kSpeed[] = {
     {u"Yards/Second", 0.9144},
 };
 
-// Newton metres.
+// Newton meters.
 constexpr Unit kTorque[] = {
     {u"Gramf Cm", 9.80665e-05},
     {u"Kgf Cm", 0.0980665},

@@ -1,5 +1,4 @@
-// The categories of the unit converter and the units of each, in the order in which they are
-// offered.
+// The categories of the unit converter and their units, in the order in which they are offered.
 #pragma once
 
 #include <span>
@@ -7,17 +6,16 @@
 
 namespace kav {
 
-/// A unit and its size in the base unit of its category, the one whose rate is 1.
 struct Unit {
   std::u16string_view name;
-  double rate;
+  double rate;  ///< its size in the base unit of its category
 };
 
-/// How the conversions of a category are calculated and listed.
+/// How a category lists and calculates its conversions.
 enum class CategoryKind {
   Rates,        ///< from any of its units to any other
-  Temperature,  ///< directed conversions, a formula each
-  UserDefined,  ///< directed conversions, a rate each, that the user defined
+  Temperature,  ///< from one scale to another, each with a formula
+  UserDefined,  ///< from one unit to another, each with a rate that the user typed
 };
 
 struct UnitCategory {
@@ -26,7 +24,7 @@ struct UnitCategory {
   std::span<const Unit> units;  ///< empty unless the kind is Rates
 };
 
-/// All categories, by their positions.
+/// All categories.
 std::span<const UnitCategory> UnitCategories();
 
 }  // namespace kav

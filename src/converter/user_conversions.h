@@ -1,5 +1,5 @@
-// The conversions that the user defines: their place in the settings, and the checks that every way
-// of changing them has in common.
+// The user's own conversions: loading, adding, changing and removing them, with the checks that
+// every way of doing so has in common.
 #pragma once
 
 #include <optional>

@@ -10,7 +10,7 @@
 namespace kav {
 namespace {
 
-/// Entries are high enough for a finger, and as wide as their list, however long they are.
+/// Entries are high enough for a finger. However long their texts, they are as wide as their list.
 class EntryDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;

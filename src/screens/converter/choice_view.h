@@ -1,4 +1,4 @@
-// A list that drops down, from which the converter's user chooses.
+// A drop-down list of the converter.
 #pragma once
 
 #include <string>
@@ -9,14 +9,14 @@
 
 namespace kav {
 
-/// Takes taps and, where a text begins with what is typed, keys. It keeps room for whatever is
-/// built in, so that nothing moves from one category to the next; names that the user gave may be
-/// of any length.
+/// The user taps an entry, or types how it begins. The list has room for every category and unit
+/// that is built in, so that nothing moves when the category changes. Longer texts are cut.
 class ChoiceView final : public ChoiceBox {
  public:
+  /// A list with the accessible name `name`.
   explicit ChoiceView(std::u16string_view name);
 
-  /// Offers `texts`, of which the one at `chosen` is chosen; none for -1. Tells nobody.
+  /// Offers `texts` and chooses the one at `chosen`, none for -1. Emits no signal.
   void Write(const std::vector<std::u16string>& texts, int chosen);
 };
 

@@ -28,8 +28,8 @@ class CConverterDlg final : public Dialog {
  public:
   CConverterDlg(QWidget* parent, SettingsStore& store, const ConverterInput& input);
 
-  /// What is left of `input` once the dialog was closed.
-  ConverterOutcome Outcome(const ConverterInput& input, bool isAccepted) const;
+  /// What the user made of `input`, once the dialog is closed.
+  ConverterOutcome Outcome(const ConverterInput& input) const;
 
  private:
   void LayOut();
@@ -48,7 +48,7 @@ class CConverterDlg final : public Dialog {
   QLineEdit* value_ = new QLineEdit;
   ChoiceView* input_ = new ChoiceView(kInputUnitName);
   ChoiceView* output_ = new ChoiceView(kOutputUnitName);
-  /// A number, or what is said in its place.
+  /// A number, or why there is none.
   FittingText<QLineEdit>* result_ = new FittingText<QLineEdit>(1);
   DialogButton* swap_ = new DialogButton(kSwapCaption);
   DialogButton* memory_ = new DialogButton(kMemoryCaption);
@@ -74,7 +74,7 @@ CConverterDlg::CConverterDlg(QWidget* parent, SettingsStore& store, const Conver
 }
 
 void CConverterDlg::LayOut() {
-  // Without a second list nothing else moves.
+  // So that nothing else moves when the second list is hidden.
   QSizePolicy policy = output_->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   output_->setSizePolicy(policy);
@@ -97,7 +97,7 @@ void CConverterDlg::LayOut() {
 
 void CConverterDlg::Connect() {
   connect(category_, &QComboBox::currentIndexChanged, this, &CConverterDlg::OnCategory);
-  // Also the one that is chosen already.
+  // To choose the chosen category again counts, too.
   connect(category_, &QComboBox::activated, this, &CConverterDlg::OnCategory);
   connect(input_, &QComboBox::currentIndexChanged, this, [this](int unit) {
     model_.ChooseInput(unit);
@@ -145,7 +145,7 @@ void CConverterDlg::RefreshChoices() {
 }
 
 void CConverterDlg::RefreshValue() {
-  // Not while it is typed in: that would move the caret.
+  // Not the same text again: that would move the caret.
   const QString text = ToQt(model_.Text());
   if (value_->text() != text) value_->setText(text);
   const bool isNumber = model_.TextIsNumber();
@@ -174,9 +174,9 @@ void CConverterDlg::OnAccept() {
   value_->setFocus();
 }
 
-ConverterOutcome CConverterDlg::Outcome(const ConverterInput& input, bool isAccepted) const {
+ConverterOutcome CConverterDlg::Outcome(const ConverterInput& input) const {
   const UnitPositions& left = model_.Positions();
-  return {isAccepted ? model_.Result() : std::nullopt,
+  return {result() == Accepted ? model_.Result() : std::nullopt,
           {left.category, left.input, left.output},
           input.memory};
 }
@@ -185,8 +185,8 @@ ConverterOutcome CConverterDlg::Outcome(const ConverterInput& input, bool isAcce
 
 ConverterOutcome RunConverter(QWidget* parent, SettingsStore& store, const ConverterInput& input) {
   CConverterDlg dlg(parent, store, input);
-  const bool isAccepted = dlg.RunModal();
-  return dlg.Outcome(input, isAccepted);
+  dlg.RunModal();
+  return dlg.Outcome(input);
 }
 
 }  // namespace kav

@@ -8,9 +8,10 @@ class QWidget;
 
 namespace kav {
 
-/// Lets the user convert `input.value` until the dialog is closed. The positions come back as they
-/// were left, the register as it was handed in; what the user stores in memory variables and as
-/// conversions of his own is in `store`, and on the disk, at once.
+/// Lets the user convert `input.value` until the dialog over `parent` is closed. Returns the result
+/// only if that was with OK, the positions as the user left them, and the register as it was handed
+/// in. Memory variables and conversions that the user stores are in `store`, and on the disk, at
+/// once.
 ConverterOutcome RunConverter(QWidget* parent, SettingsStore& store, const ConverterInput& input);
 
 }  // namespace kav

@@ -39,10 +39,6 @@ void UserConversionFieldsView::Write(const TypedConversion& fields) {
   rate_->Write(fields.rate);
 }
 
-void UserConversionFieldsView::SetEditable(bool isEditable) {
-  for (QWidget* field : {source_, target_, rate_}) field->setEnabled(isEditable);
-}
-
 void UserConversionFieldsView::Focus(ConversionField field) {
   switch (field) {
     case ConversionField::Source:

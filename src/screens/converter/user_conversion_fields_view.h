@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <array>
 
 #include "converter/user_conversions.h"
 #include "screens/widgets/text_field.h"
@@ -13,12 +14,11 @@ class UserConversionFieldsView final : public QWidget {
   UserConversionFieldsView();
 
   TypedConversion Typed() const;
-  /// What is written into the disabled fields is shown from its beginning on, and cannot be undone
-  /// once they are enabled.
+  /// While the fields are disabled, they show the beginning of what is written, and it cannot be
+  /// undone later.
   void Write(const TypedConversion& fields);
-  /// Enables or disables the fields; their captions stay as they are.
-  void SetEditable(bool isEditable);
-
+  /// To be enabled and disabled; the captions always stay enabled.
+  std::array<QWidget*, 3> Inputs() const { return {source_, target_, rate_}; }
   /// None leaves the focus where it is.
   void Focus(ConversionField field);
 

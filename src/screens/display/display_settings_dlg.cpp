@@ -21,7 +21,7 @@
 namespace kav {
 namespace {
 
-/// Hidden, it leaves its room free, so that nothing else moves.
+/// `widget`, whose room stays free while it is hidden, so that nothing else moves.
 template <class Widget>
 Widget* KeepingItsRoom(Widget* widget) {
   QSizePolicy policy = widget->sizePolicy();
@@ -74,7 +74,7 @@ QWidget* CDisplaySettingsDlg::NewGroup() {
   example_->setAccessibleName(ToQt(kExampleCaption));
   example_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* parts = new QGridLayout(group_);
-  // The margins of the dialog are enough, and alone in growing with it.
+  // The margins of the dialog suffice, and only they grow with it.
   parts->setContentsMargins(0, 0, 0, 0);
   parts->addWidget(types_, 0, 0, 1, 3);
   parts->addWidget(new QLabel(ToQt(kPrecisionCaption)), 1, 0);
@@ -88,7 +88,7 @@ QWidget* CDisplaySettingsDlg::NewGroup() {
 QLayout* CDisplaySettingsDlg::NewBottom() {
   pages_->setShape(QTabBar::RoundedSouth);
   pages_->setExpanding(false);
-  // Both are to be seen: without arrows to turn to them by, they need their room.
+  // Both tabs must be visible. Without scroll arrows, they get the room for that.
   pages_->setUsesScrollButtons(false);
   pages_->setElideMode(Qt::ElideNone);
   pages_->setDrawBase(false);
@@ -121,7 +121,7 @@ void CDisplaySettingsDlg::Refresh() {
   pages_->setCurrentIndex(static_cast<int>(model_.Page()));
   group_->setTitle(ToQt(model_.GroupCaption()));
   types_->Show(model_.Type());
-  // Not while it is typed in: that would move the caret.
+  // Not the same text again: that would move the caret.
   const QString precision = ToQt(model_.Precision());
   if (precision_->text() != precision) precision_->setText(precision);
   precision_->setEnabled(model_.TakesPrecision());

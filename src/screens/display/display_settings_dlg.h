@@ -1,4 +1,4 @@
-// The display settings on the screen: how numbers are shown, and what a new matrix is like.
+// The dialog of the display settings: how numbers are shown, and what a new matrix is like.
 #pragma once
 
 #include "display/display_settings_model.h"
@@ -8,8 +8,8 @@ class QWidget;
 
 namespace kav {
 
-/// Lets the user change the settings in `store`, `first` being the page to begin with. Whether it
-/// was closed with OK; only then was anything stored.
+/// Lets the user change the settings in `store` in a dialog over `parent`, which begins with the
+/// page `first`. Returns whether it was closed with OK; only then anything was stored.
 bool RunDisplaySettings(QWidget* parent, SettingsStore& store, DisplayPage first);
 
 }  // namespace kav

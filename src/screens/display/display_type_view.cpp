@@ -11,7 +11,7 @@
 namespace kav {
 namespace {
 
-/// Takes taps all over its row, and not on its text alone.
+/// Takes taps all over its row, not only on its text.
 class RowButton final : public QRadioButton {
  public:
   using QRadioButton::QRadioButton;
@@ -35,7 +35,7 @@ DisplayTypeView::DisplayTypeView()
     const int type = static_cast<int>(buttons_->buttons().size());
     auto* button = new RowButton(ToQt(caption));
     buttons_->addButton(button, type);
-    // The mark stands right behind its button; the others may be as wide as they like.
+    // The mark stands right behind its button; other buttons may take the whole width.
     const bool isMarked = type == static_cast<int>(DisplayType::FloatingPoint);
     rows->addWidget(button, type, 0, 1, isMarked ? 1 : 2);
     if (isMarked) rows->addWidget(mark_, type, 1);

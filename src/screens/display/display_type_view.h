@@ -15,10 +15,11 @@ class DisplayTypeView final : public QWidget {
  public:
   DisplayTypeView();
 
+  /// Checks the button of `chosen`.
   void Show(DisplayType chosen);
-  /// What stands beside "Floating Point".
+  /// The label beside "Floating Point".
   QLabel& RecommendedMark() const { return *mark_; }
-  /// The numbers of its buttons are those of the types.
+  /// The ids of its buttons are the values of DisplayType.
   QButtonGroup& Buttons() const { return *buttons_; }
 
  private:

@@ -18,7 +18,7 @@ template <class Texts>
 QComboBox* NewChoice(std::u16string_view name, const Texts& texts) {
   auto* choice = new ChoiceBox(name);
   for (const auto& text : texts) choice->addItem(ToQt(text));
-  choice->view();  // made now, it gets the look of the dialog
+  choice->view();  // is made now, and so gets the look of the dialog
   return choice;
 }
 

@@ -1,4 +1,4 @@
-// What a new matrix is like: the part of the display settings that only matrices have.
+// The part of the display settings that tells what a new matrix is like.
 #pragma once
 
 #include <QWidget>
@@ -10,9 +10,10 @@ class QLineEdit;
 
 namespace kav {
 
-/// Hands what is typed and chosen to `model`, which must outlive it.
+/// Hands what the user types and chooses to a model.
 class MatrixDefaultsView final : public QWidget {
  public:
+  /// `model` must outlive the view.
   explicit MatrixDefaultsView(DisplaySettingsModel& model);
 
   /// Shows what the model has.

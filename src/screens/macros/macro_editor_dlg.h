@@ -7,8 +7,8 @@ class QWidget;
 
 namespace kav {
 
-/// Lets the user write, change and remove macros until the dialog is closed. Each that is saved or
-/// removed is so in `store`, and on the disk, at once.
+/// Lets the user write, change and remove macros until the dialog over `parent` is closed. Each
+/// change is in `store`, and on the disk, at once.
 void RunMacroEditor(QWidget* parent, SettingsStore& store);
 
 }  // namespace kav

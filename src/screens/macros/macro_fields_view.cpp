@@ -51,12 +51,6 @@ void MacroFieldsView::Write(const MacroFields& fields) {
   formula_->Write(fields.formula);
 }
 
-void MacroFieldsView::SetEditable(bool isEditable) {
-  for (QWidget* field : std::initializer_list<QWidget*>{name_, type_, formula_}) {
-    field->setEnabled(isEditable);
-  }
-}
-
 void MacroFieldsView::Focus(MacroField field) {
   switch (field) {
     case MacroField::Name:

@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QWidget>
+#include <array>
 
 #include "macros/macro_editor_model.h"
 #include "screens/widgets/formula_view.h"
@@ -15,12 +16,11 @@ class MacroFieldsView final : public QWidget {
   MacroFieldsView();
 
   MacroFields Typed() const;
-  /// What is written into the disabled fields is shown from its beginning on, and cannot be undone
-  /// once they are enabled.
+  /// While the fields are disabled, they show the beginning of what is written, and it cannot be
+  /// undone later.
   void Write(const MacroFields& fields);
-  /// Enables or disables the fields; their captions stay as they are.
-  void SetEditable(bool isEditable);
-
+  /// To be enabled and disabled; the captions always stay enabled.
+  std::array<QWidget*, 3> Inputs() const { return {name_, type_, formula_}; }
   /// None leaves the focus where it is.
   void Focus(MacroField field);
 

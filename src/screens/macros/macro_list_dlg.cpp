@@ -19,7 +19,7 @@
 namespace kav {
 namespace {
 
-/// Enough for the longest formula.
+// Enough for the longest formula.
 constexpr int kFormulaLines = 6;
 
 class CMacroListDlg final : public Dialog {
@@ -84,13 +84,13 @@ void CMacroListDlg::Refresh() {
 void CMacroListDlg::SetTextHeight(int text) {
   Dialog::SetTextHeight(text);
   formula_->setFont(font());
-  // In whatever letters a formula is shown.
+  // The height is that of lines in full-size letters, even if the formula is shown in smaller ones.
   formula_->setFixedHeight(formula_->sizeHint().height());
   FitFormula();
 }
 
 void CMacroListDlg::FitFormula() {
-  // Nobody can scroll it: in wide letters a long formula has room only where they are smaller.
+  // It cannot be scrolled. In a wide typeface, a long formula has room only in smaller letters.
   const int most = font().pixelSize();
   for (int text = most; text >= most / 2; text -= std::max(text / 8, 1)) {
     formula_->setFont(ScreenFont(text));

@@ -9,7 +9,8 @@ class QWidget;
 
 namespace kav {
 
-/// The number of the macro that the user chose; nullopt where none was chosen.
+/// Lets the user choose one of the macros in `store`, in a dialog over `parent`. Returns its index;
+/// nullopt if none was chosen.
 std::optional<int> RunMacroList(QWidget* parent, SettingsStore& store);
 
 }  // namespace kav

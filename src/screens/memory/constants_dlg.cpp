@@ -22,8 +22,8 @@ namespace {
 
 constexpr int kLongestFilter = 100;
 
-/// A text with room for as many lines as the longest of all that it will show takes, two at least:
-/// nothing moves when another row is selected.
+/// The name of the selected constant. There is room for the longest name of all, so that nothing
+/// moves when another row is selected.
 class NameLabel final : public QLabel {
  public:
   explicit NameLabel(const ConstantsModel& model) {
@@ -35,7 +35,7 @@ class NameLabel final : public QLabel {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    // A label without a text does not say so itself.
+    // Without a text, a label would not ask for its height by its width.
     QSizePolicy policy = sizePolicy();
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -44,7 +44,7 @@ class NameLabel final : public QLabel {
   QSize sizeHint() const override { return {0, HeightOf(kFewestLines)}; }
   QSize minimumSizeHint() const override { return sizeHint(); }
   int heightForWidth(int width) const override {
-    // A layout asks many times before it is done.
+    // A layout asks many times.
     if (measured_ != std::pair(width, font().pixelSize())) {
       lines_ = LinesIn(width);
       measured_ = {width, font().pixelSize()};
@@ -54,12 +54,12 @@ class NameLabel final : public QLabel {
 
  private:
   static constexpr int kFewestLines = 2;
-  static constexpr int kMostLines = 4;  // a table of the user's own may have names of any length
+  static constexpr int kMostLines = 4;  // the user's own table may have names of any length
 
   int LinesIn(int width) const {
     int lines = kFewestLines;
     for (const QString& name : names_) {
-      // Two lines that follow one another hold more than the width of one.
+      // Wrapped, two adjacent lines hold more than the width of one: this name fits.
       if (fontMetrics().horizontalAdvance(name) <= (lines - 1) * width) continue;
       while (lines < kMostLines && HeightIn(width, name) > HeightOf(lines)) ++lines;
     }
@@ -75,8 +75,8 @@ class NameLabel final : public QLabel {
         .height();
   }
 
-  QStringList names_;                           // those that may take most lines
-  mutable std::pair<int, int> measured_{0, 0};  // the width and the size of letters for lines_
+  QStringList names_;                           // those that may need most lines
+  mutable std::pair<int, int> measured_{0, 0};  // the width and letter size that lines_ is for
   mutable int lines_ = kFewestLines;
 };
 
@@ -84,7 +84,7 @@ class CConstantsDlg final : public Dialog {
  public:
   CConstantsDlg(QWidget* parent, ConstantsModel& model);
 
-  /// The value that was chosen; nullopt where none was.
+  /// The value that was chosen; nullopt if none was.
   std::optional<std::u16string> Chosen() && { return std::move(chosen_); }
 
  private:
@@ -173,7 +173,7 @@ void CConstantsDlg::OnOk() {
   accept();
 }
 
-/// The keys that move between rows do so while the filter is typed.
+/// The keys that move between rows also work in the filter.
 bool CConstantsDlg::eventFilter(QObject* watched, QEvent* event) {
   if (watched != filter_ || event->type() != QEvent::KeyPress) return false;
   return list_->TakeKey(static_cast<QKeyEvent*>(event)->key());

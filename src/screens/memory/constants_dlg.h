@@ -1,4 +1,4 @@
-// The constants on the screen: a list to choose the value of one from.
+// The dialog of the constants: the user chooses the value of one.
 #pragma once
 
 #include <optional>
@@ -9,11 +9,11 @@ class QWidget;
 
 namespace kav {
 
-/// The value of the constant that the user chose, as it stands in the file; nullopt where none was
-/// chosen. Without the file, the user is told and finds the list empty.
+/// The value of the constant that the user chose, as it stands in the file; nullopt if none was
+/// chosen. If the file cannot be read, the user is told why and finds the list empty.
 std::optional<std::u16string> RunConstants(QWidget* parent);
 
-/// The same for a file that is in one of `folders`, see LoadConstants.
+/// The same with a file in one of `folders`, see LoadConstants.
 std::optional<std::u16string> RunConstants(QWidget* parent,
                                            const std::vector<std::string>& folders);
 

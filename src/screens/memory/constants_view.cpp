@@ -23,11 +23,11 @@ constexpr double kValueShare = 0.44;  // of the width
 
 constexpr std::ptrdiff_t kAllRows = std::numeric_limits<std::ptrdiff_t>::max();
 
-/// `number` in as many lines of `room` pixels as it takes, two at most, its exponent in one of
-/// them. A number too long for that loses digits in its middle, and so keeps the exponent.
+/// `number` in one or two lines of `room` pixels each, its exponent in one of them. A number that
+/// is too long loses digits in its middle, and so keeps the exponent.
 QString InTwoLines(const QString& number, const QFontMetrics& metrics, int room) {
-  // What a line leaves free where the next character, at most as wide as a mark of omission, begins
-  // the other.
+  // What the first line may leave free because the next character, at most as wide as an ellipsis,
+  // does not fit.
   const int slack = metrics.horizontalAdvance(QStringLiteral(u"\u20260"));
   QString text = metrics.elidedText(number, Qt::ElideMiddle, 2 * room - slack);
   auto fits = static_cast<int>(text.size());
@@ -59,7 +59,7 @@ class Cells final : public QStyledItemDelegate {
 
 }  // namespace
 
-/// The model as Qt's views read it.
+/// The model as item views read it.
 class ConstantsView::Rows final : public QAbstractTableModel {
  public:
   Rows(QObject* parent, const ConstantsModel& model) : QAbstractTableModel(parent), model_(model) {}

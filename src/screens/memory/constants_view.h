@@ -8,16 +8,16 @@
 
 namespace kav {
 
-/// The rows of a model that are shown, by name and value; who selects one here selects it there.
+/// Shows the filtered rows of a model by name and value, and selects in it what the user selects.
 class ConstantsView final : public QTreeView {
  public:
-  /// `model` must outlive it; `onSelect` is called after each change of the selection.
+  /// `model` must outlive the view. `onSelect` is called after each change of the selection.
   ConstantsView(ConstantsModel& model, std::function<void()> onSelect);
 
-  /// The model shows other rows.
+  /// To be called when the model has other rows.
   void Reload();
 
-  /// Moves the selection where `key` is one that moves between rows; whether it is.
+  /// Moves the selection if `key` (Qt::Key) moves between rows. Returns whether it does.
   bool TakeKey(int key);
 
  private:

@@ -17,13 +17,13 @@
 namespace kav {
 namespace {
 
-/// A list that has the keyboard has a current line, but none selected; the first key that would
-/// move to a line selects that one, so that the first can be reached like all others.
+/// When the list gets the focus, its first line is current, but not selected. The first key that
+/// moves selects the current line, so that the first can be reached like all others.
 class VariableList final : public QListWidget {
  public:
   using QListWidget::QListWidget;
 
-  /// Any number has room, so that the letters keep their size when another one is stored.
+  /// There is room for any number, so that letters keep their size when another one is stored.
   QSize minimumSizeHint() const override {
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
     const int line = fontMetrics().horizontalAdvance(ToQt(kLongestVariableLine)) + 2 * margin;
@@ -47,7 +47,7 @@ class CMemoryVariablesDlg final : public Dialog {
  public:
   CMemoryVariablesDlg(QWidget* parent, VariablesMode mode, SettingsStore& store);
 
-  /// What was recalled; nullopt where nothing was.
+  /// What was recalled; nullopt if nothing was.
   std::optional<std::u16string> Recalled() && { return std::move(recalled_); }
 
  private:

@@ -1,4 +1,4 @@
-// The memory variables on the screen: a list to store into or to recall from.
+// The dialog of the memory variables: the user stores into them or recalls one.
 #pragma once
 
 #include <optional>
@@ -10,11 +10,12 @@ class QWidget;
 
 namespace kav {
 
-/// Lets the user store `value` into any of the variables, and clear them, until the dialog is
-/// closed. All of it is in `store`, and on the disk, at once.
+/// Lets the user store `value` into variables, and clear them, until the dialog over `parent` is
+/// closed. Each change is in `store`, and on the disk, at once.
 void RunStoreVariable(QWidget* parent, SettingsStore& store, const std::u16string& value);
 
-/// The value of the variable that the user chose, as it was stored; nullopt where none was chosen.
+/// The value of the variable that the user chose, as it was stored; nullopt if none was chosen. The
+/// user can also clear variables, as above.
 std::optional<std::u16string> RunRecallVariable(QWidget* parent, SettingsStore& store);
 
 }  // namespace kav

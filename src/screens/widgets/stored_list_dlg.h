@@ -24,7 +24,7 @@ namespace kav {
 /// `Model` is the StoredListEditor. `FieldsView` is the widget of its fields, which has
 ///   Typed()             what stands in them
 ///   Write(fields)       makes them show that
-///   SetEditable(bool)   enables or disables them
+///   Inputs()            the widgets of them that are enabled while editing
 ///   Focus(field)        moves the focus there, or nowhere for None
 template <class Model, class FieldsView>
 class StoredListDlg : public Dialog {
@@ -96,9 +96,9 @@ class StoredListDlg : public Dialog {
     return layout;
   }
   void Refresh() {
-    // Before they are enabled: what was shown last is not to be undone.
+    // Before they are enabled, so that undo does not bring back what was shown last.
     fields_->Write(model_.Fields());
-    fields_->SetEditable(model_.IsEditing());
+    for (QWidget* input : fields_->Inputs()) input->setEnabled(model_.IsEditing());
     count_->setText(ToQt(model_.CountText()));
     list_->Write(model_.Labels(), model_.Selected());
     list_->setEnabled(!model_.IsEditing());
