@@ -102,7 +102,7 @@ TEST(ConvertUnits, EveryPairOfACategoryDividesBeforeItMultiplies) {
   }
 }
 
-/// The last bit tells the order: multiplied first, the other number would come out.
+/// The last bit tells the order: if the multiplication came first, it would be another number.
 TEST(ConvertUnits, DivisionComesFirst) {
   const struct {
     double value;
@@ -133,7 +133,7 @@ TEST(ConvertUnits, KilobytesInBits) {
   EXPECT_EQ(Converted(1, "02. Bit and Bytes", "Kilobytes", "Bits"), 8192);
 }
 
-/// 0.5 / 0.3048 * 0.3048 is 0.49999999999999994: the rounding of a unit to itself would be seen.
+/// 0.5 / 0.3048 * 0.3048 is 0.49999999999999994, so that rounding would be seen.
 TEST(ConvertUnits, UnitToItselfDoesNotRound) {
   const Unit& feet = UnitOf("07. Length", "Feet");
   ASSERT_NE(0.5 / feet.rate * feet.rate, 0.5);
@@ -162,8 +162,8 @@ TEST(ConvertUnits, EveryUnitToItselfGivesTheValueToTheLastBit) {
     }
 }
 
-/// Hectopascals and millibars are the same size, but not the same unit: between them the rule holds
-/// as between any two.
+/// Hectopascals and millibars have the same size, but are not the same unit: they are converted
+/// like any two units.
 TEST(ConvertUnits, UnitsOfTheSameSizeAreCalculatedToo) {
   EXPECT_EQ(Converted(0.23, "10. Pressure and Stress", "Hectopascals", "Millibars"),
             0.22999999999999998);

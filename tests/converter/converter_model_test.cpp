@@ -46,7 +46,7 @@ class ConverterModelTest : public testing::Test {
   MemorySettingsStore store_;
 };
 
-/// Chooses by what the lists say.
+/// Chooses the entries of those names.
 void Choose(ConverterModel& model, std::u16string_view category, std::u16string_view input,
             std::u16string_view output = {}) {
   EXPECT_EQ(model.ChooseCategory(PlaceOf(ConverterModel::Categories(), category)), std::nullopt);
@@ -312,7 +312,7 @@ TEST_F(UserDefinedCategory, ListsTheUsersConversions) {
   EXPECT_EQ(model.Result(), u"16.09344");
 }
 
-TEST_F(UserDefinedCategory, AConversionIsSwappedWhereThereIsOneBack) {
+TEST_F(UserDefinedCategory, AConversionIsSwappedIfThereIsOneBack) {
   const struct {
     int selected;
     bool canSwap;

@@ -54,7 +54,7 @@ std::u16string Fields(const UserConversionModel& model) {
   return model.Fields().source + u"|" + model.Fields().target + u"|" + model.Fields().rate;
 }
 
-/// The message of a save, empty where it went well.
+/// The message of a save, empty if it went well.
 std::u16string Save(UserConversionModel& model) {
   const auto refusal = model.Save();
   return refusal ? refusal->text : std::u16string();
@@ -270,7 +270,7 @@ TEST_F(UserConversionEditorOfThree, AfterDeletingTheNextOneIsSelectedOrTheNewLas
   EXPECT_EQ(store_.Get(kConversionCount), 0);
 }
 
-TEST_F(UserConversionEditorOfThree, WhereNoRateLosesDigitsTheQuestionStandsAlone) {
+TEST_F(UserConversionEditorOfThree, IfNoRateLosesDigitsTheQuestionStandsAlone) {
   UserConversionModel model(store_);
   EXPECT_EQ(model.DeleteQuestion(), u"Are you sure you want to delete the selected unit convert?");
   EXPECT_EQ(model.DeleteWarning(), u"");
@@ -321,7 +321,7 @@ TEST_F(UserConversionEditor, NamesOfTenThousandCharactersAreShownAndEditedInFull
   EXPECT_EQ(model.Fields().source, source + u"s");
 }
 
-TEST_F(UserConversionEditor, ANameTooLongForItsFieldIsKeptWhereNobodyTouchesIt) {
+TEST_F(UserConversionEditor, ANameTooLongForItsFieldIsKeptIfNobodyTouchesIt) {
   const std::string stored = std::string(1 << 20, 's') + " -> t";
   StoreConversions(store_, {{stored, "1"}});
   UserConversionModel model(store_);

@@ -2,28 +2,25 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <initializer_list>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "common/number_text.h"
-#include "line/keypad.h"
-#include "store/user_settings_store.h"
-#include "support/macro_function_rows.h"
-#include "support/marked_line.h"
+#include "support/macro_fields.h"
 #include "support/stored_macros.h"
-#include "support/temporary_folder.h"
 
 namespace kav {
 namespace {
 
+using test::Fields;
 using test::MacroNames;
 using test::MacroTexts;
-using test::Marked;
 using test::MarkedLine;
+using test::Spelled;
 using test::StoreMacros;
+using test::StoreNumbered;
 using test::TextsOf;
 using Names = std::vector<std::string>;
 using Labels = std::vector<std::u16string>;
@@ -54,28 +51,9 @@ Buttons Disabled(const MacroEditorModel& model) {
   return disabled;
 }
 
-/// The fields as one text: "sq|0|x^2", a type that is not chosen as "-".
-std::u16string Spelled(const MacroFields& fields) {
-  const std::u16string type =
-      fields.type ? Widen(PrintInteger(static_cast<int>(*fields.type))) : u"-";
-  return fields.name + u"|" + type + u"|" + fields.formula.Text();
-}
-
-MacroFields Fields(std::u16string_view name, std::optional<VariableType> type,
-                   std::u16string_view markedFormula) {
-  return {std::u16string(name), type, MarkedLine(markedFormula)};
-}
-
-void StoreNumbered(SettingsStore& store, int count) {
-  for (int i = 0; i < count; ++i) {
-    ASSERT_TRUE(
-        SaveMacro({Widen("m" + std::to_string(i)), VariableType::X, u"x"}, std::nullopt, store));
-  }
-}
-
 class MacroEditor : public testing::Test {
  protected:
-  /// The message of a save, empty where it went well.
+  /// The message of a save, empty if it went well.
   static std::u16string Save(MacroEditorModel& model) {
     const auto refusal = model.Save();
     return refusal ? refusal->text : std::u16string();
@@ -266,7 +244,7 @@ TEST_F(MacroEditorOfThree, CancelShowsTheSelectedMacroAgain) {
   EXPECT_EQ(MacroNames(store_), (Names{"sq", "add", "vol"}));
 }
 
-TEST_F(MacroEditor, CancelClearsTheFieldsWhereNothingIsSelected) {
+TEST_F(MacroEditor, CancelClearsTheFieldsIfNothingIsSelected) {
   MacroEditorModel model(store_);
   model.New();
   model.Take(Fields(u"f", VariableType::X, u"x"));
@@ -318,74 +296,6 @@ TEST_F(MacroEditorOfThree, WhileBrowsingWhatIsTypedOrChosenHasNoEffect) {
   EXPECT_EQ(Save(model), u"");
   EXPECT_EQ(Spelled(model.Fields()), u"sq|0|x^2");
   EXPECT_EQ(MacroNames(store_), (Names{"sq", "add", "vol"}));
-}
-
-TEST_F(MacroEditor, FunctionsAreOfferedInTheirOrder) {
-  EXPECT_EQ(MacroEditorModel::FunctionItems(),
-            (PopUpTexts{u"ABS(X)",  u"ACOS(X)", u"ASIN(X)", u"ATAN(X)", u"COS(X)",  u"COSH(X)",
-                        u"EXP(X)",  u"FRAC(X)", u"INT(X)",  u"LN(X)",   u"LOG(X)",  u"SIN(X)",
-                        u"SINH(X)", u"SQRT(X)", u"TAN(X)",  u"TANH(X)", u"XthR(X)", u"",
-                        u"%",       u"X!",      u"nPr",     u"nCr",     u"",        u"Pi"}));
-}
-
-TEST_F(MacroEditor, EachFunctionEditsTheFormulaAsItsKeyDoes) {
-  MacroEditorModel model(store_);
-  model.New();
-  const PopUpTexts items = MacroEditorModel::FunctionItems();
-  const auto after = [&model](std::u16string_view formula, std::size_t item) {
-    model.Take(Fields(u"f", VariableType::X, formula));
-    model.ChooseFunction(item);
-    EXPECT_EQ(model.Fields().name, u"f");
-    return Marked(model.Fields().formula);
-  };
-  for (const test::MacroFunctionRow& row : test::kMacroFunctionRows) {
-    const auto item =
-        static_cast<std::size_t>(std::find(items.begin(), items.end(), row.item) - items.begin());
-    ASSERT_LT(item, items.size());
-    EXPECT_EQ(after(u"1+|2", item), row.bare);
-    EXPECT_EQ(after(u"1+[x]2", item), row.selected);
-  }
-  for (std::size_t i = 0; i <= items.size(); ++i) {
-    // Neither a separator nor what is behind the last item writes anything.
-    if (i < items.size() && !items[i].empty()) continue;
-    EXPECT_EQ(after(u"1+[x]2", i), u"1+[x]2") << i;
-  }
-}
-
-TEST_F(MacroEditor, VariablesAreOfferedByTheChosenType) {
-  struct Row {
-    std::optional<VariableType> type;
-    PopUpTexts items;
-  };
-  MacroEditorModel model(store_);
-  model.New();
-  for (const Row& row :
-       {Row{VariableType::X, {u"X"}}, Row{VariableType::XY, {u"X", u"Y"}},
-        Row{VariableType::XYZ, {u"X", u"Y", u"Z"}}, Row{std::nullopt, {u"X", u"Y", u"Z"}}}) {
-    model.Take(Fields(u"f", row.type, u"|"));
-    EXPECT_EQ(model.VariableItems(), row.items);
-    model.ChooseVariable(row.items.size());
-    EXPECT_EQ(Marked(model.Fields().formula), u"|");
-  }
-}
-
-TEST_F(MacroEditor, VariablesReplaceTheSelectionInLowerCase) {
-  MacroEditorModel model(store_);
-  model.New();
-  const std::u16string_view letters[] = {u"x", u"y", u"z"};
-  for (std::size_t i = 0; i < 3; ++i) {
-    model.Take(Fields(u"f", VariableType::XYZ, u"1+[23]*2"));
-    model.ChooseVariable(i);
-    EXPECT_EQ(Marked(model.Fields().formula), u"1+" + std::u16string(letters[i]) + u"|*2");
-  }
-}
-
-TEST_F(MacroEditor, AValueReplacesTheSelectionAsItIs) {
-  MacroEditorModel model(store_);
-  model.New();
-  model.Take(Fields(u"f", VariableType::X, u"x*[2]"));
-  model.InsertIntoFormula(u"1.5e-7");
-  EXPECT_EQ(Marked(model.Fields().formula), u"x*1.5e-7|");
 }
 
 TEST_F(MacroEditor, ABrokenFormulaStoredByHandOpensAndCanBeMended) {
@@ -444,77 +354,6 @@ TEST_F(MacroEditorOfLongTexts, ANameThatNobodyTouchedStaysWhole) {
   model.Take({model.Fields().name, VariableType::X, MarkedLine(u"x+1|")});
   EXPECT_EQ(Save(model), u"");
   EXPECT_EQ(TextsOf(store_, 0), (MacroTexts{name_, "TYPE1 : F(X)", "x+1"}));
-}
-
-/// Two programs on the same settings: the editor of one, while the other changes them.
-class MacroEditorOfTwo : public testing::Test {
- protected:
-  MacroEditorOfTwo() { StoreNumbered(other_, 3); }
-
-  void Add(std::u16string name) {
-    ASSERT_TRUE(SaveMacro({std::move(name), VariableType::X, u"2*x"}, std::nullopt, other_));
-  }
-  Names Stored() const { return MacroNames(UserSettingsStore(path_)); }
-
-  const TemporaryFolder folder_;
-  const std::string path_ = folder_.File("settings.toml");
-  UserSettingsStore other_{path_};
-  UserSettingsStore own_{path_};
-};
-
-TEST_F(MacroEditorOfTwo, WhatTheOtherAddedBeforeItOpensIsInTheList) {
-  EXPECT_EQ(MacroNames(own_).size(), 3U);
-  Add(u"theirs");
-  EXPECT_EQ(MacroEditorModel(own_).Labels().back(), u"theirs(X)");
-}
-
-TEST_F(MacroEditorOfTwo, NeitherLosesWhatTheOtherAdds) {
-  MacroEditorModel model(own_);
-  model.New();
-  Add(u"theirs");
-  model.Take(Fields(u"mine", VariableType::X, u"x"));
-  EXPECT_EQ(model.Save(), std::nullopt);
-  EXPECT_EQ(Stored(), (Names{"m0", "m1", "m2", "theirs", "mine"}));
-  EXPECT_EQ(model.CountText(), u"List(5/60)");
-  EXPECT_EQ(model.Fields().name, u"mine");
-}
-
-TEST_F(MacroEditorOfTwo, AnEditFollowsItsMacroWhereverTheOtherMovedIt) {
-  MacroEditorModel model(own_);
-  model.Select(2);
-  model.Edit();
-  ASSERT_TRUE(RemoveMacro({0, "m0"}, other_));
-  model.Take(Fields(u"mine", VariableType::X, u"x"));
-  EXPECT_EQ(model.Save(), std::nullopt);
-  EXPECT_EQ(Stored(), (Names{"m1", "mine"}));
-  EXPECT_EQ(model.Selected(), 1);
-}
-
-TEST_F(MacroEditorOfTwo, EditBeginsWithWhatTheOtherStoredLast) {
-  MacroEditorModel model(own_);
-  model.Select(1);
-  ASSERT_TRUE(SaveMacro({u"m1", VariableType::X, u"7*x"}, StoredIdentity{1, "m1"}, other_));
-  model.Edit();
-  EXPECT_EQ(Spelled(model.Fields()), u"m1|0|7*x");
-}
-
-TEST_F(MacroEditorOfTwo, AMacroThatTheOtherRemovedIsNotEdited) {
-  MacroEditorModel model(own_);
-  model.Select(1);
-  ASSERT_TRUE(RemoveMacro({1, "m1"}, other_));
-  model.Edit();
-  EXPECT_FALSE(model.IsEditing());
-  EXPECT_EQ(model.Labels(), (Labels{u"m0(X)", u"m2(X)"}));
-  EXPECT_EQ(model.Selected(), std::nullopt);
-}
-
-TEST_F(MacroEditorOfTwo, DeletingTakesTheSelectedMacroNotTheOneThatMovedToItsPlace) {
-  MacroEditorModel model(own_);
-  model.Select(1);
-  ASSERT_TRUE(RemoveMacro({0, "m0"}, other_));
-  model.Delete();
-  EXPECT_EQ(Stored(), Names{"m2"});
-  EXPECT_EQ(model.Labels(), Labels{u"m2(X)"});
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ TypedMacro Typed(std::u16string name, std::u16string formula, VariableType type 
   return {std::move(name), type, std::move(formula)};
 }
 
-/// The refusal's text, empty where there was none.
+/// The refusal's text, empty if there was none.
 std::u16string TextOf(const Expected<int, Refusal<MacroField>>& saved) {
   return saved ? std::u16string() : saved.error().text;
 }

@@ -6,115 +6,18 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 #include <QTreeView>
 #include <QWidget>
-#include <functional>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "screens/box_watch.h"
-#include "support/temporary_folder.h"
+#include "screens/constants_driver.h"
 
 namespace kav::test {
 namespace {
 
-using Chosen = std::optional<std::u16string>;
-using Texts = std::vector<QString>;
-
-/// The open dialog, with what its user does to it.
-struct Constants {
-  explicit Constants(QDialog& open) : dialog(open) {}
-
-  QLineEdit& Filter() const { return Edit("Filter"); }
-  QLineEdit& Value() const { return Edit("Constant Value"); }
-  QLabel& Name() const {
-    for (QLabel* label : dialog.findChildren<QLabel*>()) {
-      if (label->accessibleName() == "Constant Name") return *label;
-    }
-    throw std::logic_error("there is no text for the name");
-  }
-  QTreeView& List() const { return *dialog.findChild<QTreeView*>(); }
-  QPushButton& Button(const QString& caption) const {
-    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
-      if (button->text() == caption) return *button;
-    }
-    throw std::logic_error("there is no button " + caption.toStdString());
-  }
-
-  void Press(const QString& caption) const { QTest::mouseClick(&Button(caption), Qt::LeftButton); }
-  void Type(const QString& keys) const { QTest::keyClicks(dialog.focusWidget(), keys); }
-  void Key(Qt::Key key) const { QTest::keyClick(dialog.focusWidget(), key); }
-  QPoint PlaceOf(int row) const {
-    return List().visualRect(List().model()->index(row, 0)).center();
-  }
-  void Tap(int row) const {
-    List().scrollTo(List().model()->index(row, 0));
-    QTest::mouseClick(List().viewport(), Qt::LeftButton, Qt::NoModifier, PlaceOf(row));
-  }
-  void DoubleTap(int row) const {
-    Tap(row);
-    QTest::mouseDClick(List().viewport(), Qt::LeftButton, Qt::NoModifier, PlaceOf(row));
-  }
-
-  /// A column of the list.
-  Texts Column(int column) const {
-    const QAbstractItemModel& model = *List().model();
-    Texts texts;
-    for (int row = 0; row < model.rowCount(); ++row) {
-      texts.push_back(model.index(row, column).data().toString());
-    }
-    return texts;
-  }
-  /// The name of the row that is marked.
-  QString Marked() const {
-    const auto rows = List().selectionModel()->selectedRows();
-    return rows.isEmpty() ? QString() : rows.front().data().toString();
-  }
-
-  QDialog& dialog;
-
- private:
-  QLineEdit& Edit(const QString& name) const {
-    for (QLineEdit* edit : dialog.findChildren<QLineEdit*>()) {
-      if (edit->accessibleName() == name) return *edit;
-    }
-    throw std::logic_error("there is no line " + name.toStdString());
-  }
-};
-
-class ConstantsDlgTest : public testing::Test {
- protected:
-  ConstantsDlgTest() {
-    Put("[length]inch=0.0254;[length]foot=0.3048;[mass]pound=0.45359237;[mass]ounce= 0.03 ;"
-        "[force]pound force=4.4;");
-    parent_.resize(240, 320);
-    parent_.show();
-  }
-  ~ConstantsDlgTest() override { EXPECT_TRUE(BoxWatch::Instance().TakeSeen().empty()); }
-
-  void Put(const std::string& content) { PutFile(folder_.File("constable.dat"), content); }
-
-  /// What comes of the dialog when its user does `use`, which must close it.
-  Chosen Run(const std::function<void(Constants)>& use) {
-    BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) { use(Constants(dialog)); });
-    return RunConstants(&parent_, {folder_.Path()});
-  }
-
-  void Expect(QMessageBox::StandardButton answer) { BoxWatch::Instance().Expect(answer); }
-  /// The one box that was answered.
-  SeenBox Seen() {
-    const auto seen = BoxWatch::Instance().TakeSeen();
-    EXPECT_EQ(seen.size(), 1U);
-    return seen.empty() ? SeenBox{} : seen.front();
-  }
-
-  TemporaryFolder folder_;
-  QWidget parent_;
-};
+using ConstantsDlgTest = ConstantsDriver;
 
 TEST_F(ConstantsDlgTest, ShowsTheTableInTwoColumns) {
   Run([](Constants c) {
@@ -123,8 +26,8 @@ TEST_F(ConstantsDlgTest, ShowsTheTableInTwoColumns) {
     EXPECT_EQ(model.columnCount(), 2);
     EXPECT_EQ(model.headerData(0, Qt::Horizontal).toString(), "Name");
     EXPECT_EQ(model.headerData(1, Qt::Horizontal).toString(), "Value");
-    EXPECT_EQ(c.Column(0), (Texts{"inch", "foot", "pound", "ounce", "pound force"}));
-    EXPECT_EQ(c.Column(1), (Texts{"0.0254", "0.3048", "0.45359237", " 0.03 ", "4.4"}));
+    EXPECT_EQ(c.Column(0), (ShownTexts{"inch", "foot", "pound", "ounce", "pound force"}));
+    EXPECT_EQ(c.Column(1), (ShownTexts{"0.0254", "0.3048", "0.45359237", " 0.03 ", "4.4"}));
     EXPECT_EQ(c.Marked(), "");
     EXPECT_EQ(c.Name().text(), "");
     EXPECT_EQ(c.Value().text(), "");
@@ -188,7 +91,7 @@ TEST_F(ConstantsDlgTest, WithoutTheFileTheUserIsToldAndTheListIsEmpty) {
   ASSERT_EQ(unlink(folder_.File("constable.dat").c_str()), 0);
   Expect(QMessageBox::Ok);
   EXPECT_EQ(Run([this](Constants c) {
-              EXPECT_EQ(c.Column(0), Texts());
+              EXPECT_EQ(c.Column(0), ShownTexts());
               c.Key(Qt::Key_Down);
               const SeenBox missing = Seen();
               const std::string path = folder_.File("constable.dat");
@@ -207,7 +110,7 @@ TEST_F(ConstantsDlgTest, AFileThatIsTooLargeIsNotRead) {
   Put(std::string((std::size_t{4} << 20U) + 1, ' '));
   Expect(QMessageBox::Ok);
   Run([this](Constants c) {
-    EXPECT_EQ(c.Column(0), Texts());
+    EXPECT_EQ(c.Column(0), ShownTexts());
     const std::string path = folder_.File("constable.dat");
     EXPECT_EQ(Seen().text, std::u16string(path.begin(), path.end()) +
                                u" file is larger than 4 MB: it is no table of constants.");
@@ -218,15 +121,15 @@ TEST_F(ConstantsDlgTest, AFileThatIsTooLargeIsNotRead) {
 TEST_F(ConstantsDlgTest, TheListFollowsTheFilterAsItIsTyped) {
   Run([](Constants c) {
     c.Type("p");
-    EXPECT_EQ(c.Column(0), (Texts{"pound", "pound force"}));
+    EXPECT_EQ(c.Column(0), (ShownTexts{"pound", "pound force"}));
     c.Type("ound f");
-    EXPECT_EQ(c.Column(0), (Texts{"pound force"}));
+    EXPECT_EQ(c.Column(0), (ShownTexts{"pound force"}));
     c.Type("x");
-    EXPECT_EQ(c.Column(0), Texts());
+    EXPECT_EQ(c.Column(0), ShownTexts());
     c.Filter().clear();
     EXPECT_EQ(c.Column(0).size(), 5U);
     c.Type("MASS");
-    EXPECT_EQ(c.Column(0), (Texts{"pound", "ounce"}));
+    EXPECT_EQ(c.Column(0), (ShownTexts{"pound", "ounce"}));
     c.Press("Cancel");
   });
 }

@@ -10,115 +10,23 @@
 #include <algorithm>
 #include <climits>
 #include <ctime>
-#include <functional>
 
 #include "screens/box_watch.h"
+#include "screens/converter_driver.h"
 #include "screens/dialog_layout.h"
-#include "screens/screen_driver.h"
 #include "settings/keys.h"
 #include "support/stored_conversions.h"
 
 namespace kav::test {
 namespace {
 
-constexpr ConverterPositions kMilesToKilometers{6, 18, 14};
 constexpr ConverterPositions kCelsiusToFahrenheit{11, 0, -1};
 
 double MillisecondsSince(std::clock_t start) {
   return 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
-/// The converter on a screen of its own. What a test does in it stands in the function that it
-/// hands to Run, since the converter is modal.
-class ConverterDlgTest : public testing::Test {
- protected:
-  ConverterDlgTest() {
-    Show(screen_);
-    // So long, a tap on a list counts as the end of the one that opened it.
-    QApplication::setDoubleClickInterval(1);
-  }
-
-  /// What the converter leaves once `use` has closed it.
-  ConverterOutcome Run(const ConverterInput& input, const std::function<void()>& use) {
-    BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) {
-      dlg_ = &dialog;
-      use();
-    });
-    const ConverterOutcome outcome = RunConverter(&screen_, store_, input);
-    EXPECT_TRUE(BoxWatch::Instance().TakeSeen().empty()) << "a box that no test looked at";
-    return outcome;
-  }
-  ConverterOutcome RunMiles(const std::function<void()>& use) {
-    return Run({u"1", kMilesToKilometers, 0}, use);
-  }
-  /// The same, closed with "Cancel".
-  void UseMiles(const std::function<void()>& use) {
-    RunMiles([&, this] {
-      use();
-      Tap(u"Cancel");
-    });
-  }
-
-  QComboBox& Choice(const char* name) {
-    for (auto* choice : dlg_->findChildren<QComboBox*>()) {
-      if (choice->accessibleName() == QLatin1String(name)) return *choice;
-    }
-    ADD_FAILURE() << "no list is called " << name;
-    return *dlg_->findChild<QComboBox*>();
-  }
-  QComboBox& Category() { return Choice("Category"); }
-  QComboBox& InputUnit() { return Choice("Input unit"); }
-  QComboBox& OutputUnit() { return Choice("Output unit"); }
-  QLineEdit& Value() { return LineNamed(*dlg_, "Input value"); }
-  QLineEdit& Result() { return LineNamed(*dlg_, "Result"); }
-  std::u16string ResultText() { return Result().text().toStdU16String(); }
-  QAbstractButton& SwapButton() {
-    for (auto* button : dlg_->findChildren<QAbstractButton*>()) {
-      if (button->accessibleName() == "Swap units") return *button;
-    }
-    ADD_FAILURE() << "no button swaps";
-    return *dlg_->findChild<QAbstractButton*>();
-  }
-
-  void Tap(std::u16string_view captions) { test::Tap(*dlg_, captions); }
-  // A list that was just closed gives the keyboard back only once the display says so.
-  void Press(Qt::Key key) { QTest::keyClick(dlg_->focusWidget(), key); }
-  void Type(const QString& text) { QTest::keyClicks(dlg_->focusWidget(), text); }
-  void Replace(const QString& text) {
-    Value().setFocus();
-    Value().selectAll();
-    if (text.isEmpty()) return Press(Qt::Key_Delete);
-    Type(text);
-  }
-  /// Opens the list and taps the entry `text`.
-  static void Choose(QComboBox& choice, const QString& text) {
-    Click(choice);
-    QAbstractItemView& list = *choice.view();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return list.isVisible(); }));
-    const QModelIndex entry = choice.model()->index(choice.findText(text), 0);
-    ASSERT_TRUE(entry.isValid()) << text.toStdString();
-    list.scrollTo(entry);
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-      QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(entry).center());
-      return !list.isVisible();
-    }));
-  }
-
-  std::u16string RefusedOk() {
-    BoxWatch::Instance().Expect(QMessageBox::Ok);
-    Tap(u"OK");
-    const auto seen = BoxWatch::Instance().TakeSeen();
-    if (seen.size() != 1) return u"no message";
-    EXPECT_EQ(seen[0].icon, QMessageBox::Critical);
-    EXPECT_TRUE(dlg_->isVisible());
-    EXPECT_EQ(dlg_->focusWidget(), &Value());
-    return seen[0].text;
-  }
-
-  MemorySettingsStore store_;
-  QWidget screen_;
-  QDialog* dlg_ = nullptr;
-};
+using ConverterDlgTest = ConverterDriver;
 
 TEST_F(ConverterDlgTest, OpensWithWhatItIsHanded) {
   UseMiles([this] {
@@ -225,22 +133,6 @@ TEST_F(ConverterDlgTest, TheSecondListComesBackWithACategoryOfUnits) {
     EXPECT_EQ(InputUnit().currentText(), "Acres");
     Tap(u"Cancel");
   });
-}
-
-TEST_F(ConverterDlgTest, ListsTheUsersConversions) {
-  StoreConversions(store_, {{"inch -> cm", "2.54"}, {"dozen -> piece", "12"}});
-  const auto outcome = Run({u"10", {}, 0}, [this] {
-    Choose(Category(), "15. User Define");
-    QComboBox& conversions = Choice("Conversion");
-    EXPECT_EQ(conversions.count(), 2);
-    EXPECT_EQ(ResultText(), u"25.4");
-    EXPECT_FALSE(SwapButton().isEnabled());
-    Choose(conversions, "dozen -> piece");
-    EXPECT_EQ(ResultText(), u"120");
-    Tap(u"OK");
-  });
-  EXPECT_EQ(outcome.positions, (ConverterPositions{14, 1, -1}));
-  EXPECT_EQ(outcome.result, u"120");
 }
 
 TEST_F(ConverterDlgTest, BeginsWithNothingSelectedAndThenHasNothingToGive) {
@@ -366,72 +258,6 @@ TEST_F(ConverterDlgTest, MemStoresTheResultInAVariable) {
   EXPECT_EQ(store_.Get(MemoryVariable(2)), "1609344");
 }
 
-class WithoutUserConversions : public ConverterDlgTest {
- protected:
-  /// Chooses the empty category; `inEditor` is run on the editor that opens then.
-  void ChooseUserDefined(std::function<void(QDialog&)> inEditor) {
-    BoxWatch::Instance().Expect(QMessageBox::Ok);
-    BoxWatch::Instance().ExpectDialog(std::move(inEditor));
-    Choose(Category(), "15. User Define");
-    const auto seen = BoxWatch::Instance().TakeSeen();
-    ASSERT_EQ(seen.size(), 1U);
-    EXPECT_EQ(seen[0].text, u"Not exist saved user-define unit convert");
-    EXPECT_EQ(seen[0].icon, QMessageBox::Critical);
-  }
-};
-
-TEST_F(WithoutUserConversions, TheEditorOpensAndWithoutAnyTheFirstCategoryFollows) {
-  const auto outcome = RunMiles([this] {
-    ChooseUserDefined([](QDialog& editor) {
-      EXPECT_EQ(editor.windowTitle(), "Edit Unit Convert");
-      editor.reject();
-    });
-    EXPECT_EQ(Category().currentText(), "01. Area");
-    EXPECT_EQ(InputUnit().currentText(), "Acres");
-    EXPECT_TRUE(OutputUnit().isVisible());
-    EXPECT_EQ(ResultText(), u"1");
-    Tap(u"Cancel");
-  });
-  EXPECT_EQ(outcome.positions, (ConverterPositions{0, 0, 0}));
-}
-
-TEST_F(WithoutUserConversions, TheKeyboardIsToldOnceToo) {
-  Run({u"1", {13, 0, 0}, 0}, [this] {
-    Category().setFocus();
-    BoxWatch::Instance().Expect(QMessageBox::Ok);
-    BoxWatch::Instance().ExpectDialog([](QDialog& editor) { editor.reject(); });
-    Press(Qt::Key_Down);
-    EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
-    EXPECT_EQ(Category().currentText(), "01. Area");
-    Tap(u"Cancel");
-  });
-}
-
-TEST_F(WithoutUserConversions, WhatIsWrittenInTheEditorIsListedAtOnce) {
-  const auto outcome = RunMiles([this] {
-    ChooseUserDefined([this](QDialog& editor) {
-      StoreConversions(store_, {{"dozen -> piece", "12"}});
-      editor.reject();
-    });
-    EXPECT_EQ(Category().currentText(), "15. User Define");
-    EXPECT_EQ(Choice("Conversion").currentText(), "dozen -> piece");
-    EXPECT_EQ(ResultText(), u"12");
-    Tap(u"OK");
-  });
-  EXPECT_EQ(outcome.positions, (ConverterPositions{14, 0, -1}));
-  EXPECT_EQ(outcome.result, u"12");
-}
-
-TEST_F(WithoutUserConversions, ARememberedCategoryThatIsEmptyOpensNothingUntilItIsChosen) {
-  Run({u"1", {14, 0, -1}, 0}, [this] {
-    EXPECT_EQ(Category().currentText(), "15. User Define");
-    EXPECT_EQ(ResultText(), u"");
-    ChooseUserDefined([](QDialog& editor) { editor.reject(); });
-    EXPECT_EQ(Category().currentText(), "01. Area");
-    Tap(u"Cancel");
-  });
-}
-
 TEST_F(ConverterDlgTest, TheKeyboardAloneConverts) {
   const auto outcome = Run({u"1", {}, 0}, [this] {
     Type("5");
@@ -475,19 +301,6 @@ TEST_F(ConverterDlgTest, TypingJumpsToTheUnitAlsoInTheOpenList) {
     QTest::keyClick(&list, Qt::Key_Return);
     EXPECT_EQ(InputUnit().currentText(), "Yards");
     EXPECT_EQ(ResultText(), u"0.0009144");
-  });
-}
-
-TEST_F(ConverterDlgTest, NamesOfAnyLengthAreShownCut) {
-  const std::string longest = std::string(10000, 'W') + "\n -> " + std::string(10000, 'x');
-  StoreConversions(store_, {{longest, "2"}, {"a -> b", "3"}});
-  Run({u"5", {14, 0, -1}, 0}, [this] {
-    EXPECT_LT(Choice("Conversion").currentText().size(), 500);
-    EXPECT_EQ(ResultText(), u"10");
-    EXPECT_EQ(dlg_->size(), screen_.size());
-    EXPECT_TRUE(dlg_->rect().contains(Choice("Conversion").geometry()));
-    EXPECT_TRUE(dlg_->rect().contains(Result().geometry()));
-    Tap(u"Cancel");
   });
 }
 

@@ -9,6 +9,7 @@
 #include "screens/dialog_layout.h"
 #include "screens/macro_editor_driver.h"
 #include "store/user_settings_store.h"
+#include "support/macro_fields.h"
 #include "support/temporary_folder.h"
 
 namespace kav::test {
@@ -23,22 +24,6 @@ const std::vector<StoredMacro> kThree{{"sq", "TYPE1 : F(X)", "x^2"},
 class MacroEditorDlgTest : public MacroEditorDriver {
  protected:
   void StoreThree() { StoreMacros(store_, kThree); }
-  void StoreNumbered(int count) {
-    Names names;
-    for (int i = 0; i < count; ++i) names.push_back("m" + std::to_string(i));
-    std::vector<StoredMacro> macros;
-    for (const auto& name : names) macros.push_back({name, "TYPE1 : F(X)", "x"});
-    StoreMacros(store_, macros);
-  }
-  /// Taps "Delete" and answers its question.
-  void Delete(QMessageBox::StandardButton answer) {
-    BoxWatch::Instance().Expect(answer);
-    Tap(u"Delete");
-    const auto seen = BoxWatch::Instance().TakeSeen();
-    ASSERT_EQ(seen.size(), 1U);
-    EXPECT_EQ(seen[0].text, u"Are you sure you want to delete the selected macro?");
-    EXPECT_EQ(seen[0].icon, QMessageBox::Question);
-  }
 };
 
 TEST_F(MacroEditorDlgTest, BrowsesWithTheFieldsDisabled) {
@@ -94,7 +79,7 @@ TEST_F(MacroEditorDlgTest, WithoutMacrosOnlyNewCanBeginOne) {
 }
 
 TEST_F(MacroEditorDlgTest, WithSixtyMacrosNewIsHidden) {
-  StoreNumbered(60);
+  StoreNumbered(store_, 60);
   Open([this] {
     EXPECT_EQ(Buttons(), (Texts{u"Edit", u"Delete", u"Close"}));
     EXPECT_TRUE(Shows(u"List(60/60)"));
@@ -204,7 +189,7 @@ TEST_F(MacroEditorDlgTest, EachRefusalHasItsMessageAndItsField) {
 }
 
 TEST_F(MacroEditorDlgTest, The61stMacroIsRefused) {
-  StoreNumbered(59);
+  StoreNumbered(store_, 59);
   Open([this] {
     Tap(u"New");
     ASSERT_TRUE(SaveMacro({u"theirs", VariableType::X, u"x"}, std::nullopt, store_));
@@ -235,7 +220,7 @@ TEST_F(MacroEditorDlgTest, DeletingFromTheMiddleMovesTheRestUpAndBlanksTheLast) 
 }
 
 TEST_F(MacroEditorDlgTest, AfterTheLastDeletionOneBeginsAnew) {
-  StoreNumbered(1);
+  StoreNumbered(store_, 1);
   Open([this] {
     Delete(QMessageBox::Yes);
     EXPECT_EQ(Fields(), "||");
@@ -389,7 +374,7 @@ TEST_F(MacroEditorDlgTest, ItSharesTheSettingsWithOtherPrograms) {
 }
 
 TEST_F(MacroEditorDlgTest, EverythingHasRoomAtEverySize) {
-  StoreNumbered(59);
+  StoreNumbered(store_, 59);
   const std::string wide(300, 'W');
   StoreMacros(store_, {{"sq", "TYPE1 : F(X)", "x^2"}, {wide, "TYPE3 : F(X,Y,Z)", wide}});
   for (const QSize size : {QSize(240, 320), QSize(480, 640), QSize(1080, 1440), QSize(180, 240)}) {

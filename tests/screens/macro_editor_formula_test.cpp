@@ -19,7 +19,7 @@ class MacroEditorFormulaTest : public MacroEditorDriver {
       use();
     });
   }
-  /// What is left of `marked` once `item` was chosen from the pop-up of `button`.
+  /// What `marked` becomes when `item` is chosen from the pop-up menu of `button`.
   std::u16string After(std::u16string_view marked, std::u16string_view button,
                        std::u16string_view item) {
     PutFormula(marked);
@@ -103,7 +103,7 @@ TEST_F(MacroEditorFormulaTest, AMemoryVariableIsInsertedAsItsText) {
   });
 }
 
-TEST_F(MacroEditorFormulaTest, NothingIsInsertedWhereNoVariableIsChosen) {
+TEST_F(MacroEditorFormulaTest, NothingIsInsertedIfNoVariableIsChosen) {
   OpenNew([this] {
     Name().setText("f");
     PutFormula(u"x*[2]+1");

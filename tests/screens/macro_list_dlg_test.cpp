@@ -28,7 +28,7 @@ class MacroListDlgTest : public testing::Test {
                          {"vol", "TYPE3 : F(X,Y,Z)", "x*y*z"}});
   }
 
-  /// What the list answers once `use` has closed it.
+  /// What the user chose once `use` has closed the list.
   std::optional<int> Run(SettingsStore& store, const std::function<void()>& use) {
     BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) {
       dlg_ = &dialog;

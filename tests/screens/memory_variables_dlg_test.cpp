@@ -24,7 +24,7 @@ class MemoryVariablesDlgTest : public testing::Test {
  protected:
   MemoryVariablesDlgTest() { Show(screen_); }
 
-  /// Opens the dialog, in which `use` is run.
+  /// Opens the dialog and runs `use` in it.
   void Store(const std::u16string& value, const std::function<void()>& use) {
     Expect(use);
     RunStoreVariable(&screen_, store_, value);

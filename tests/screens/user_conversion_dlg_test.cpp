@@ -15,16 +15,9 @@
 namespace kav::test {
 namespace {
 
-using Conversions = std::vector<UserConversion>;
-
-const Conversions kThree{{"inch -> cm", "2.54"}, {"mile -> km", "1.609344"}, {"h -> s", "3600"}};
-
 const std::u16string kMaximum = u"Maximum of user-define unit convert is 60";
 
-class UserConversionDlgTest : public UserConversionDriver {
- protected:
-  void StoreThree() { StoreConversions(store_, kThree); }
-};
+using UserConversionDlgTest = UserConversionDriver;
 
 TEST_F(UserConversionDlgTest, BrowsesWithTheFieldsDisabled) {
   StoreThree();
@@ -123,36 +116,6 @@ TEST_F(UserConversionDlgTest, TheListChoosesWhatIsShown) {
     EXPECT_EQ(Fields(), "||0");
     EXPECT_EQ(Buttons(), (Texts{u"New", u"(Edit)", u"(Delete)", u"Close"}));
   });
-}
-
-TEST_F(UserConversionDlgTest, ANewOneIsTypedAndSavedByKeysAlone) {
-  StoreThree();
-  Open([this] {
-    Press(Qt::Key_Tab);
-    EXPECT_TRUE(HasFocus(*FindKey(Dlg(), u"New")));
-    Press(Qt::Key_Space);
-    EXPECT_EQ(Fields(), "||0");
-    EXPECT_TRUE(HasFocus(Source()));
-    Type("  ft ");
-    Press(Qt::Key_Tab);
-    EXPECT_TRUE(HasFocus(Target()));
-    Type("m");
-    Press(Qt::Key_Tab);
-    EXPECT_TRUE(HasFocus(Rate()));
-    Press(Qt::Key_A, Qt::ControlModifier);
-    Type("3.048E-1");
-    Press(Qt::Key_Return);
-    EXPECT_FALSE(IsEditing());
-    EXPECT_EQ(Labels().back(), u"ft -> m");
-    EXPECT_EQ(List().currentRow(), 3);
-    EXPECT_TRUE(HasFocus(List()));
-    EXPECT_TRUE(Shows(u"List(4/60)"));
-    EXPECT_EQ(Fields(), "ft|m|3.048E-1");
-    Press(Qt::Key_Escape);
-    EXPECT_FALSE(Dlg().isVisible());
-  });
-  EXPECT_EQ(StoredConversion(store_, 3), (UserConversion{"ft -> m", "3.048E-1"}));
-  EXPECT_EQ(store_.Get(kConversionCount), 4);
 }
 
 TEST_F(UserConversionDlgTest, AnEditedOneIsReplaced) {
@@ -357,94 +320,6 @@ TEST_F(UserConversionDlgTest, AMemoryVariableReplacesTheRate) {
     Tap(u"Save");
   });
   EXPECT_EQ(StoredConversion(store_, 0), (UserConversion{"a -> b", "-1.50e3"}));
-}
-
-TEST_F(UserConversionDlgTest, CancelAndEscGiveUpWhatWasTyped) {
-  StoreThree();
-  for (const bool byKey : {false, true}) {
-    Open([&, this] {
-      Tap(u"Edit");
-      Fill("a", "b", "1");
-      byKey ? Press(Qt::Key_Escape) : Tap(u"Cancel");
-      EXPECT_TRUE(Dlg().isVisible());
-      EXPECT_FALSE(IsEditing());
-      EXPECT_EQ(Fields(), "inch|cm|2.54");
-      EXPECT_TRUE(HasFocus(List()));
-    });
-  }
-  EXPECT_EQ(StoredConversions(store_), kThree);
-}
-
-TEST_F(UserConversionDlgTest, CloseAndEscCloseWhileBrowsing) {
-  StoreThree();
-  for (const bool byKey : {false, true}) {
-    Open([&, this] {
-      byKey ? Press(Qt::Key_Escape) : Tap(u"Close");
-      EXPECT_FALSE(Dlg().isVisible());
-    });
-  }
-}
-
-TEST_F(UserConversionDlgTest, ADoubleClickOrEnterInTheListEdits) {
-  StoreThree();
-  Open([this] {
-    SelectInList(1);
-    QTest::mouseDClick(List().viewport(), Qt::LeftButton, {}, PlaceOf(1));
-    EXPECT_TRUE(IsEditing());
-    EXPECT_EQ(Fields(), "mile|km|1.609344");
-    Tap(u"Cancel");
-    Press(Qt::Key_Down);
-    Press(Qt::Key_Return);
-    EXPECT_TRUE(IsEditing());
-    EXPECT_EQ(Fields(), "h|s|3600");
-  });
-}
-
-TEST_F(UserConversionDlgTest, EnterSavesFromEachField) {
-  StoreThree();
-  Open([this] {
-    for (QLineEdit* field : {&Source(), &Target(), &Rate()}) {
-      for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-        Tap(u"Edit");
-        field->setFocus();
-        Press(key);
-        EXPECT_FALSE(IsEditing());
-      }
-    }
-  });
-  EXPECT_EQ(StoredConversions(store_), kThree);
-}
-
-TEST_F(UserConversionDlgTest, TabLeadsThroughTheFieldsAndButtons) {
-  StoreThree();
-  Open([this] {
-    Tap(u"Edit");
-    Source().setFocus();
-    Press(Qt::Key_Tab);
-    EXPECT_TRUE(HasFocus(Target()));
-    Press(Qt::Key_Tab);
-    EXPECT_TRUE(HasFocus(Rate()));
-    Texts captions;
-    for (int i = 0; i < 3; ++i) {
-      Press(Qt::Key_Tab);
-      captions.push_back(CaptionOf(*QApplication::focusWidget()).toStdU16String());
-    }
-    EXPECT_EQ(captions, (Texts{u"MEM", u"Save", u"Cancel"}));
-    Press(Qt::Key_Tab);
-    EXPECT_TRUE(HasFocus(Source()));
-  });
-}
-
-TEST_F(UserConversionDlgTest, WhatWasShownBeforeDoesNotComeBackByUndo) {
-  StoreThree();
-  Open([this] {
-    SelectInList(1);
-    Tap(u"Edit");
-    Type("9");
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(Fields(), "mile|km|1.609344");
-  });
 }
 
 TEST_F(UserConversionDlgTest, ItSharesTheSettingsWithOtherPrograms) {
