@@ -42,7 +42,7 @@ class ConverterModel {
 
   /// Loads both lists and selects the first of each. The category that is chosen already stays as
   /// it is. If it is that of the user's own conversions and there are none, returns what to tell
-  /// the user; he may then write some, after which RereadUserConversions is to be called.
+  /// the user, who may then write some; RereadUserConversions is to be called after that.
   [[nodiscard]] std::optional<std::u16string_view> ChooseCategory(int category);
   /// Loads the category again; the first one instead if the user still has no conversions.
   void RereadUserConversions();

@@ -13,7 +13,6 @@ namespace kav {
 namespace {
 
 using Conversions = std::vector<UserConversion>;
-using ConversionRefusal = Refusal<ConversionField>;
 
 /// How all rates are written after one conversion was removed.
 std::string RewrittenRate(const UserConversion& conversion) {

@@ -12,7 +12,7 @@
 #include "common/refusal.h"
 #include "settings/keys.h"
 #include "settings/settings_store.h"
-#include "settings/stored_list.h"
+#include "settings/stored_entries.h"
 
 namespace kav {
 
@@ -50,8 +50,9 @@ struct TypedConversion {
 
 /// Where the focus goes after a refusal.
 enum class ConversionField { None, Source, Target, Rate };
+using ConversionRefusal = Refusal<ConversionField>;
 
-/// The user's own conversions as a stored list, see settings/stored_list.h.
+/// The user's own conversions as a stored list, see settings/stored_entries.h.
 struct UserConversionTraits {
   using Entry = UserConversion;
   using Typed = TypedConversion;
@@ -65,7 +66,7 @@ struct UserConversionTraits {
   }
   static const std::string& NameOf(const UserConversion& conversion) { return conversion.text; }
   static std::u16string LabelOf(const UserConversion& conversion) { return Widen(conversion.text); }
-  static Expected<UserConversion, Refusal<ConversionField>> Check(
+  static Expected<UserConversion, ConversionRefusal> Check(
       const TypedConversion& typed, const std::vector<UserConversion>& others);
   static void Write(const UserConversion& conversion, int index, SettingsStore& settings);
   static void CloseGap(std::vector<UserConversion> stored, int removed, SettingsStore& settings);
@@ -79,9 +80,9 @@ std::optional<double> ReadRate(std::u16string_view text);
 /// Stores `typed` in the place of `edited`, or behind the others if there is no such conversion
 /// (any more). Blanks at the ends of each text are dropped. Returns the conversion's index, or the
 /// first reason why it cannot be stored; then nothing is.
-Expected<int, Refusal<ConversionField>> SaveConversion(const TypedConversion& typed,
-                                                       const std::optional<StoredIdentity>& edited,
-                                                       SettingsStore& settings);
+Expected<int, ConversionRefusal> SaveConversion(const TypedConversion& typed,
+                                                const std::optional<StoredIdentity>& edited,
+                                                SettingsStore& settings);
 
 /// Removes `conversion`, moves those behind it up, and writes the rates of all others anew, with
 /// six decimals. False if it was gone already.

@@ -12,8 +12,6 @@
 namespace kav {
 namespace {
 
-using MacroRefusal = Refusal<MacroField>;
-
 /// A macro's three texts as they stand in the settings.
 struct Record {
   std::string name;

@@ -1,6 +1,6 @@
 // The editor of a stored list: the list, and the fields of the entry that is looked at or edited.
 //
-// What it edits is described by `Traits`: those of the list (settings/stored_list.h), and
+// What it edits is described by `Traits`: those of settings/stored_entries.h, and
 //   Fields                        what stands in the fields; made without values, those of a new
 //   entry FieldsOf(entry)               the fields of an entry that is looked at
 //   FieldsToEdit(entry)           the same once its editing begins

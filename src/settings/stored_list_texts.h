@@ -1,4 +1,4 @@
-// What the user reads about every list that he edits, whatever it is a list of.
+// What the user reads about every list of stored entries.
 #pragma once
 
 #include <cstddef>

@@ -12,6 +12,7 @@ namespace kav {
 namespace {
 
 using test::AddNote;
+using test::kThree;
 using test::Note;
 using test::NoteField;
 using test::NotesIn;
@@ -52,7 +53,6 @@ struct KeepingTraits : HidingTraits {
 using Editor = StoredListEditor<HidingTraits>;
 using KeepingEditor = StoredListEditor<KeepingTraits>;
 
-const Notes kThree{{"tea", "2 cups"}, {"milk", "1 l"}, {"rice", "1 kg"}};
 const Buttons kListButtons{Button::New, Button::Edit, Button::Delete, Button::Close};
 const Buttons kFieldButtons{Button::Save, Button::Cancel, Button::Memory, Button::Functions,
                             Button::Variables};
@@ -94,12 +94,7 @@ class EmptyEditor : public testing::Test {
   MemorySettingsStore store_;
 };
 
-class EditorOfThree : public testing::Test {
- protected:
-  EditorOfThree() { StoreNotes(store_, kThree); }
-
-  MemorySettingsStore store_;
-};
+using EditorOfThree = test::ThreeNotes;
 
 TEST_F(EmptyEditor, OnlyNewIsOffered) {
   const Editor editor(store_);

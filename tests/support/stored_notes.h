@@ -12,7 +12,7 @@
 #include "common/number_text.h"
 #include "settings/setting_key.h"
 #include "settings/settings_store.h"
-#include "settings/stored_list.h"
+#include "settings/stored_entries.h"
 #include "settings/stored_list_texts.h"
 
 namespace kav::test {
@@ -42,7 +42,7 @@ inline NumberedKey NoteText(int index) {
   return {"Notes", "Text" + std::to_string(index), ""};
 }
 
-/// The notes as a stored list, see settings/stored_list.h.
+/// The notes as a stored list, see settings/stored_entries.h.
 struct NoteTraits {
   using Entry = Note;
   using Typed = TypedNote;
@@ -96,8 +96,19 @@ inline void AddNote(SettingsStore& settings, std::u16string name) {
   ASSERT_TRUE(SaveEntry<NoteTraits>({std::move(name), u"x"}, std::nullopt, settings));
 }
 
+/// The notes of the list, in their order.
 inline std::vector<Note> NotesIn(const SettingsStore& settings) {
   return NoteTraits::Load(settings);
 }
+
+inline const std::vector<Note> kThree{{"tea", "2 cups"}, {"milk", "1 l"}, {"rice", "1 kg"}};
+
+/// Settings that hold those three.
+class ThreeNotes : public testing::Test {
+ protected:
+  ThreeNotes() { StoreNotes(store_, kThree); }
+
+  MemorySettingsStore store_;
+};
 
 }  // namespace kav::test
