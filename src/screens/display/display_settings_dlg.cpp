@@ -23,7 +23,7 @@ namespace {
 
 /// `widget`, whose room stays free while it is hidden, so that nothing else moves.
 template <class Widget>
-Widget* KeepingItsRoom(Widget* widget) {
+Widget* RetainingSize(Widget* widget) {
   QSizePolicy policy = widget->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   widget->setSizePolicy(policy);
@@ -36,7 +36,7 @@ class CDisplaySettingsDlg final : public Dialog {
 
  private:
   QWidget* NewGroup();
-  QLayout* NewBottom();
+  QLayout* NewBottomRow();
   void Connect();
   void Refresh();
   void OnPage(int page);
@@ -49,9 +49,9 @@ class CDisplaySettingsDlg final : public Dialog {
   QGroupBox* group_ = new QGroupBox;
   DisplayTypeView* types_ = new DisplayTypeView;
   QLineEdit* precision_ = new QLineEdit;
-  QLabel* meaning_ = KeepingItsRoom(new QLabel(ToQt(kRecommendedMeaning)));
+  QLabel* meaning_ = RetainingSize(new QLabel(ToQt(kRecommendedMeaning)));
   FittingText<QLabel>* example_ = new FittingText<QLabel>(0);
-  MatrixDefaultsView* matrixParts_ = KeepingItsRoom(new MatrixDefaultsView(model_));
+  MatrixDefaultsView* matrixParts_ = RetainingSize(new MatrixDefaultsView(model_));
   QTabBar* pages_ = new QTabBar;
   DialogButton* accept_ = new DialogButton(kOkCaption);
   DialogButton* cancel_ = new DialogButton(kCancelCaption);
@@ -63,7 +63,7 @@ CDisplaySettingsDlg::CDisplaySettingsDlg(QWidget* parent, SettingsStore& store, 
   all->addWidget(NewGroup());
   all->addWidget(matrixParts_);
   all->addStretch(1);
-  all->addLayout(NewBottom());
+  all->addLayout(NewBottomRow());
   Connect();
   Refresh();
   types_->Buttons().checkedButton()->setFocus();
@@ -85,7 +85,7 @@ QWidget* CDisplaySettingsDlg::NewGroup() {
   return group_;
 }
 
-QLayout* CDisplaySettingsDlg::NewBottom() {
+QLayout* CDisplaySettingsDlg::NewBottomRow() {
   pages_->setShape(QTabBar::RoundedSouth);
   pages_->setExpanding(false);
   // Both tabs must be visible. Without scroll arrows, they get the room for that.

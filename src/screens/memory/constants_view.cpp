@@ -38,7 +38,7 @@ QString InTwoLines(const QString& number, const QFontMetrics& metrics, int room)
 }
 
 /// Every row has room for a name and a value in two lines.
-class Cells final : public QStyledItemDelegate {
+class CellDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
@@ -60,9 +60,10 @@ class Cells final : public QStyledItemDelegate {
 }  // namespace
 
 /// The model as item views read it.
-class ConstantsView::Rows final : public QAbstractTableModel {
+class ConstantsView::TableModel final : public QAbstractTableModel {
  public:
-  Rows(QObject* parent, const ConstantsModel& model) : QAbstractTableModel(parent), model_(model) {}
+  TableModel(QObject* parent, const ConstantsModel& model)
+      : QAbstractTableModel(parent), model_(model) {}
 
   void Reload() {
     beginResetModel();
@@ -92,13 +93,13 @@ class ConstantsView::Rows final : public QAbstractTableModel {
 };
 
 ConstantsView::ConstantsView(ConstantsModel& model, std::function<void()> onSelect)
-    : model_(model), onSelect_(std::move(onSelect)), rows_(new Rows(this, model)) {
+    : model_(model), onSelect_(std::move(onSelect)), table_(new TableModel(this, model)) {
   setAccessibleName(ToQt(kConstantsTitle));
-  setModel(rows_);
+  setModel(table_);
   setRootIsDecorated(false);
   setUniformRowHeights(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setItemDelegate(new Cells(this));
+  setItemDelegate(new CellDelegate(this));
   setWordWrap(true);
   setAlternatingRowColors(true);
   header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -112,7 +113,7 @@ ConstantsView::ConstantsView(ConstantsModel& model, std::function<void()> onSele
 }
 
 void ConstantsView::Reload() {
-  rows_->Reload();
+  table_->Reload();
   ShowSelection();
 }
 
@@ -156,7 +157,7 @@ void ConstantsView::OnSelection() {
 
 void ConstantsView::ShowSelection() {
   const auto row = model_.SelectedRow();
-  setCurrentIndex(row ? rows_->index(static_cast<int>(*row), kName) : QModelIndex());
+  setCurrentIndex(row ? table_->index(static_cast<int>(*row), kName) : QModelIndex());
   if (row) scrollTo(currentIndex());
 }
 

@@ -21,7 +21,7 @@ class ConstantsView final : public QTreeView {
   bool TakeKey(int key);
 
  private:
-  class Rows;
+  class TableModel;
 
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -32,7 +32,7 @@ class ConstantsView final : public QTreeView {
 
   ConstantsModel& model_;
   std::function<void()> onSelect_;
-  Rows* rows_;
+  TableModel* table_;
 };
 
 }  // namespace kav
