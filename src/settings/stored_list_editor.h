@@ -1,14 +1,13 @@
 // The editor of a stored list: the list, and the fields of the entry that is looked at or edited.
 //
 // What it edits is described by `Traits`: those of settings/stored_entries.h, and
-//   Fields                        what stands in the fields; made without values, those of a new
-//   entry FieldsOf(entry)               the fields of an entry that is looked at
-//   FieldsToEdit(entry)           the same once its editing begins
-//   TypedOf(fields, edited)       what the user typed by them
-//   kFirstOfNew, kFirstOfEdited   the Field in which the user begins
-//   kDeleteQuestion               what to ask before an entry is deleted
-//   kKeepsListButtons             while editing, whether New, Edit and Delete are disabled, not
-//   hidden
+//   Fields                       what stands in the fields; default: the fields of a new entry
+//   FieldsOf(entry)              the fields of an entry that is looked at
+//   FieldsToEdit(entry)          the same when its editing begins
+//   TypedOf(fields, edited)      what the user typed into them; `edited` as for SaveEntry
+//   kFirstOfNew, kFirstOfEdited  the Field in which the user begins
+//   kDeleteQuestion              what to ask before an entry is deleted
+//   kKeepsListButtons            whether New, Edit and Delete stay (disabled) while editing
 #pragma once
 
 #include <algorithm>

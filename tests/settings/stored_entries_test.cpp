@@ -23,14 +23,14 @@ Place PlaceIn(const Notes& notes, int index, const std::string& name) {
   return PlaceOf<NoteTraits>({index, name}, notes);
 }
 
-TEST(StoredPlace, IsTheOldOneWhereTheNameStillStands) {
+TEST(StoredPlace, IsTheOldOneIfTheNameIsStillThere) {
   const Notes twins{{"a", ""}, {"b", ""}, {"a", ""}};
   EXPECT_EQ(PlaceIn(twins, 0, "a"), 0);
   EXPECT_EQ(PlaceIn(twins, 1, "b"), 1);
   EXPECT_EQ(PlaceIn(twins, 2, "a"), 2);
 }
 
-TEST(StoredPlace, IsElseThatOfTheFirstOfTheName) {
+TEST(StoredPlace, IsOtherwiseThatOfTheFirstEntryOfTheName) {
   const Notes notes{{"a", ""}, {"b", ""}, {"b", ""}};
   for (const int index : {0, 3, -1, 2147483647, -2147483647 - 1}) {
     EXPECT_EQ(PlaceIn(notes, index, "b"), 1) << index;

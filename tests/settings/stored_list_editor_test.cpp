@@ -154,7 +154,7 @@ TEST_F(EditorOfThree, WhileEditingTheListsButtonsAreHidden) {
   }
 }
 
-TEST_F(EditorOfThree, OrTheyAreKeptAndDisabled) {
+TEST_F(EditorOfThree, OrTheyStayAndAreDisabled) {
   KeepingEditor editor(store_);
   EXPECT_EQ(Shown(editor), kListButtons);
   EXPECT_EQ(Disabled(editor), Buttons{});

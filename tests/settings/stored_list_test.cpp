@@ -30,7 +30,7 @@ TEST_F(StoredListOfThree, TheFirstIsSelectedAtTheStart) {
   EXPECT_EQ(list_.SelectedIdentity()->name, "tea");
 }
 
-TEST_F(StoredListOfThree, WhereThereIsNoEntryNothingIsSelected) {
+TEST_F(StoredListOfThree, NothingIsSelectedIfThereIsNoEntry) {
   for (const Place place : {Place(-1), Place(3), Place(2147483647), Place()}) {
     list_.Select(0);
     list_.Select(place);

@@ -51,12 +51,13 @@ class StoredListDlg : public Dialog {
     AddButton(EditorButton::Cancel, kCancelCaption, [this] { OnCancel(); });
   }
 
+  /// Each button of a row given to Start must have been added.
   void AddButton(EditorButton button, std::u16string_view caption, std::function<void()> onClick) {
     auto* added = new DialogButton(caption);
     connect(added, &QPushButton::clicked, this, std::move(onClick));
     buttons_[button] = added;
   }
-  /// Lays out and shows the list; `rows` of buttons stand below the fields.
+  /// Lays out all parts, with `rows` of buttons below the fields, and begins to browse.
   void Start(std::initializer_list<ButtonRow> rows) {
     LayOut(rows);
     connect(list_, &QListWidget::itemSelectionChanged, this, [this] { OnSelect(); });
@@ -65,7 +66,9 @@ class StoredListDlg : public Dialog {
   }
 
   Model& Editor() { return model_; }
+  /// A button that was added.
   DialogButton& ButtonOf(EditorButton button) const { return *buttons_.at(button); }
+  /// Hands what stands in the fields to the editor.
   void TakeFields() { model_.Take(fields_->Typed()); }
   void RefreshAndFocus(typename Model::Field field) {
     Refresh();
@@ -77,7 +80,7 @@ class StoredListDlg : public Dialog {
     if (model_.Labels().empty()) return ButtonOf(EditorButton::New).setFocus();
     list_->setFocus();
   }
-  /// Asks the user.
+  /// Whether the user wants the selected entry deleted.
   virtual bool ConfirmsDelete() { return AskYesNo(this, Model::DeleteQuestion()); }
 
  private:
