@@ -1,36 +1,66 @@
 #include "matrix/matrix_arithmetic.h"
 
-#include <algorithm>
 #include <cmath>
 #include <string_view>
 #include <utility>
 
 #include "engine/functions.h"
+#include "matrix/cell_number.h"
+#include "matrix/matrix_error.h"
 #include "matrix/matrix_operations.h"
 #include "matrix/matrix_texts.h"
 
 namespace kav {
 namespace {
 
-CalcResult<MatrixOrNumber> Either(CalcResult<MatrixValue> result) {
-  if (!result) return std::move(result).error();
-  return MatrixOrNumber(*std::move(result));
-}
-
-double Calculate(double left, char symbol, double right) {
+double Calculate(double left, MatrixOperator symbol, double right) {
   switch (symbol) {
-    case '^':
+    case MatrixOperator::Power:
       return Power(left, right);
-    case '*':
+    case MatrixOperator::Multiply:
       return left * right;
-    case '+':
+    case MatrixOperator::Add:
       return left + right;
-    default:
-      return left - right;
+    case MatrixOperator::Subtract:
+      break;
   }
+  return left - right;
 }
 
-CalcResult<MatrixOrNumber> CombineNumbers(double left, char symbol, double right) {
+/// The matrix of the size of `size` with `value(row, column)` in each cell.
+template <class Value>
+MatrixValue MakeMatrix(const MatrixValue& size, Value value) {
+  MatrixValue made = MatrixOfSize(size.rows, size.columns);
+  for (int row = 0; row < made.rows; ++row) {
+    for (int column = 0; column < made.columns; ++column) {
+      made.At(row, column) = CellText(value(row, column));
+    }
+  }
+  return made;
+}
+
+/// `change` of each cell. Unlike between two matrices, a cell out of range is a failure.
+template <class Change>
+CalcResult<MatrixValue> ChangeEachCell(const MatrixValue& a, Change change) {
+  bool isInRange = true;
+  MatrixValue changed = MakeMatrix(a, [&](int row, int column) {
+    const double value = change(ReadCell(a.At(row, column)));
+    isInRange = isInRange && std::isfinite(value);
+    return value;
+  });
+  if (!isInRange) return MakeError(CalcErrorCode::OutOfRange);
+  return changed;
+}
+
+CalcResult<MatrixValue> CombineCells(const MatrixValue& a, MatrixOperator symbol,
+                                     const MatrixValue& b, std::string_view operation) {
+  if (a.rows != b.rows || a.columns != b.columns) return MatrixSizeMismatch(operation);
+  return MakeMatrix(a, [&](int row, int column) {
+    return Calculate(ReadCell(a.At(row, column)), symbol, ReadCell(b.At(row, column)));
+  });
+}
+
+CalcResult<MatrixOrNumber> Combine(double left, MatrixOperator symbol, double right) {
   const double result = Calculate(left, symbol, right);
   if (!std::isfinite(left) || !std::isfinite(right) || !std::isfinite(result)) {
     return MakeError(CalcErrorCode::OutOfRange);
@@ -38,114 +68,63 @@ CalcResult<MatrixOrNumber> CombineNumbers(double left, char symbol, double right
   return MatrixOrNumber(result);
 }
 
-CalcResult<MatrixValue> CombineWithNumber(const MatrixValue& left, char symbol, double right) {
-  switch (symbol) {
-    case '^':
-      return RaiseMatrix(left, right);
-    case '*':
-      return MultiplyByNumber(left, right);
-    case '+':
-      return AddNumber(left, right);
-    default:
-      return SubtractNumber(left, right);
-  }
+CalcResult<MatrixValue> Combine(const MatrixValue& left, MatrixOperator symbol, double right) {
+  if (symbol == MatrixOperator::Power) return RaiseMatrix(left, right);
+  return ChangeEachCell(left, [&](double cell) { return Calculate(cell, symbol, right); });
 }
 
-CalcResult<MatrixValue> CombineWithMatrix(double left, char symbol, const MatrixValue& right) {
-  switch (symbol) {
-    case '^':
-      return MakeError(CalcErrorCode::Expression);
-    case '*':
-      return MultiplyByNumber(right, left);
-    case '+':
-      return AddNumber(right, left);
-    default:
-      return SubtractFromNumber(left, right);
-  }
+CalcResult<MatrixValue> Combine(double left, MatrixOperator symbol, const MatrixValue& right) {
+  if (symbol == MatrixOperator::Power) return MakeError(CalcErrorCode::Expression);
+  return ChangeEachCell(right, [&](double cell) { return Calculate(left, symbol, cell); });
 }
 
-CalcResult<MatrixValue> CombineMatrices(const MatrixValue& left, char symbol,
-                                        const MatrixValue& right) {
+CalcResult<MatrixValue> Combine(const MatrixValue& left, MatrixOperator symbol,
+                                const MatrixValue& right) {
   switch (symbol) {
-    case '^':
+    case MatrixOperator::Power:
       return MakeError(CalcErrorCode::Expression);
-    case '*':
+    case MatrixOperator::Multiply:
       return MultiplyMatrices(left, right);
-    case '+':
-      return AddMatrices(left, right);
-    default:
-      return SubtractMatrices(left, right);
-  }
-}
-
-/// The operation of a function, by the name of its messages.
-std::string_view NameOf(MatrixFunction function) {
-  switch (function) {
-    case MatrixFunction::Inverse:
-      return kMatrixInverse;
-    case MatrixFunction::Transpose:
-      return kMatrixTranspose;
-    case MatrixFunction::LinearEquation:
-      return kMatrixLinearEquation;
-    case MatrixFunction::Determinant:
-      return kMatrixDeterminant;
-    case MatrixFunction::Triangular:
-    case MatrixFunction::None:
+    case MatrixOperator::Add:
+      return CombineCells(left, symbol, right, kMatrixAddition);
+    case MatrixOperator::Subtract:
       break;
   }
-  return kMatrixTriangular;
+  return CombineCells(left, symbol, right, kMatrixSubtraction);
 }
 
-/// For as many arguments as the function takes, all of them matrices.
-CalcResult<MatrixValue> ApplyToMatrices(MatrixFunction function,
-                                        std::span<const MatrixOperand> arguments) {
-  const MatrixValue& first = *arguments.front().matrix;
-  switch (function) {
-    case MatrixFunction::Inverse:
-      return InvertMatrix(first);
-    case MatrixFunction::Transpose:
-      return TransposeMatrix(first);
-    case MatrixFunction::LinearEquation:
-      return SolveLinearEquation(first, *arguments.back().matrix);
-    case MatrixFunction::Determinant:
-      return MatrixDeterminant(first);
-    case MatrixFunction::Triangular:
-    case MatrixFunction::None:
-      break;
-  }
-  return TriangularMatrix(first);
+CalcResult<MatrixOrNumber> Either(CalcResult<MatrixValue> result) {
+  if (!result) return std::move(result).error();
+  return MatrixOrNumber(*std::move(result));
+}
+
+/// Of an operand that is no matrix.
+double NumberIn(const MatrixOperand& operand) {
+  return *std::get_if<double>(&operand);
 }
 
 }  // namespace
 
-CalcResult<MatrixOrNumber> CombineOperands(const MatrixOperand& left, char symbol,
+const MatrixValue* MatrixIn(const MatrixOperand& operand) {
+  if (const auto* own = std::get_if<MatrixValue>(&operand)) return own;
+  const auto* other = std::get_if<const MatrixValue*>(&operand);
+  return other == nullptr ? nullptr : *other;
+}
+
+CalcResult<MatrixOrNumber> CombineOperands(const MatrixOperand& left, MatrixOperator symbol,
                                            const MatrixOperand& right) {
-  if (left.matrix == nullptr && right.matrix == nullptr) {
-    return CombineNumbers(left.number, symbol, right.number);
-  }
-  if (right.matrix == nullptr) return Either(CombineWithNumber(*left.matrix, symbol, right.number));
-  if (left.matrix == nullptr) return Either(CombineWithMatrix(left.number, symbol, *right.matrix));
-  return Either(CombineMatrices(*left.matrix, symbol, *right.matrix));
+  const MatrixValue* a = MatrixIn(left);
+  const MatrixValue* b = MatrixIn(right);
+  if (a != nullptr && b != nullptr) return Either(Combine(*a, symbol, *b));
+  if (a != nullptr) return Either(Combine(*a, symbol, NumberIn(right)));
+  if (b != nullptr) return Either(Combine(NumberIn(left), symbol, *b));
+  return Combine(NumberIn(left), symbol, NumberIn(right));
 }
 
 CalcResult<MatrixOrNumber> Negate(const MatrixOperand& operand) {
-  if (operand.matrix == nullptr) return MatrixOrNumber(-operand.number);
-  return Either(MultiplyByNumber(*operand.matrix, -1));
-}
-
-std::size_t ArgumentCount(MatrixFunction function) {
-  return function == MatrixFunction::LinearEquation ? 2 : 1;
-}
-
-CalcResult<MatrixOrNumber> ApplyMatrixFunction(MatrixFunction function,
-                                               std::span<const MatrixOperand> arguments) {
-  const bool areMatrices =
-      std::none_of(arguments.begin(), arguments.end(),
-                   [](const MatrixOperand& argument) { return argument.matrix == nullptr; });
-  if (!areMatrices || arguments.size() != ArgumentCount(function)) {
-    return MakeError(CalcErrorCode::Free, MatrixArgumentError(NameOf(function)));
-  }
-  return Either(ApplyToMatrices(function, arguments));
+  const MatrixValue* matrix = MatrixIn(operand);
+  if (matrix == nullptr) return MatrixOrNumber(-NumberIn(operand));
+  return Either(Combine(*matrix, MatrixOperator::Multiply, -1));
 }
 
 }  // namespace kav

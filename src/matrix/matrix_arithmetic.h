@@ -1,9 +1,7 @@
-// What the operators and functions of matrix expressions do to their operands, which are numbers
-// as well as matrices.
+// What the operators of matrix expressions do to their operands, which are numbers as well as
+// matrices.
 #pragma once
 
-#include <cstddef>
-#include <span>
 #include <variant>
 
 #include "engine/calc_error.h"
@@ -12,30 +10,26 @@
 
 namespace kav {
 
-/// An operand: a matrix, which must outlive it, or without one a number.
-struct MatrixOperand {
-  double number = 0;
-  const MatrixValue* matrix = nullptr;
-};
+/// A number, a matrix that must outlive the operand, or a matrix of its own.
+using MatrixOperand = std::variant<double, const MatrixValue*, MatrixValue>;
+
+/// The matrix of `operand`, which must outlive it; null for a number.
+const MatrixValue* MatrixIn(const MatrixOperand& operand);
 
 using MatrixOrNumber = std::variant<double, MatrixValue>;
 
-/// `left` and `right` combined by '^', '*', '+' or '-'. Fails where the operation on matrices does,
-/// with CalcErrorCode::OutOfRange for numbers that are or become too large or none, and with
-/// CalcErrorCode::Expression for a matrix as exponent.
-CalcResult<MatrixOrNumber> CombineOperands(const MatrixOperand& left, char symbol,
+/// `left` and `right` combined by `symbol`. A sum, difference or product of a matrix and a number
+/// is one of each cell and the number. A cell out of range holds the message "Out of range(overflow
+/// or underflow)", which reads as 0, if both are matrices. Fails with
+/// - CalcErrorCode::OutOfRange if an operand or the result is a number that is not finite, or if a
+///   cell of a matrix and a number is out of range,
+/// - CalcErrorCode::Expression for a matrix as exponent,
+/// - MatrixSizeMismatch for matrices of different sizes in a sum or difference,
+/// and as MultiplyMatrices and RaiseMatrix do.
+CalcResult<MatrixOrNumber> CombineOperands(const MatrixOperand& left, MatrixOperator symbol,
                                            const MatrixOperand& right);
 
-/// `operand` with the other sign.
+/// `operand` with the other sign; a matrix cell by cell.
 CalcResult<MatrixOrNumber> Negate(const MatrixOperand& operand);
-
-/// How many arguments functions take at most, and how many `function` takes.
-inline constexpr std::size_t kMostMatrixArguments = 2;
-std::size_t ArgumentCount(MatrixFunction function);
-
-/// `function` of `arguments`, up to as many as it takes. Fails where the operation does, and where
-/// an argument is missing or a number.
-CalcResult<MatrixOrNumber> ApplyMatrixFunction(MatrixFunction function,
-                                               std::span<const MatrixOperand> arguments);
 
 }  // namespace kav

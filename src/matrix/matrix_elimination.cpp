@@ -1,20 +1,13 @@
 #include <array>
 #include <numeric>
 
+#include "matrix/matrix_error.h"
 #include "matrix/matrix_operations.h"
 #include "matrix/matrix_texts.h"
 #include "matrix/working_matrix.h"
 
 namespace kav {
 namespace {
-
-CalcError Failure(std::string_view message) {
-  return MakeError(CalcErrorCode::Free, message);
-}
-
-CalcError SizeMismatch(std::string_view operation) {
-  return Failure(MatrixSizeMismatch(operation));
-}
 
 bool IsSquare(const MatrixValue& a) {
   return a.rows == a.columns;
@@ -32,8 +25,8 @@ void ReduceRow(WorkingMatrix& m, int row, int pivot, int first, double factor) {
   }
 }
 
-/// Gauss-Jordan elimination of `a`, done to `right` as well. Exchanges no rows: false where a pivot
-/// is exactly 0, which ends it there.
+/// Gauss-Jordan elimination of `a`, done to `right` as well. Exchanges no rows: a pivot of exactly
+/// 0 ends it. Whether it came to its end.
 bool Eliminate(WorkingMatrix& a, WorkingMatrix& right) {
   for (int k = 0; k < a.Rows(); ++k) {
     const double pivot = a.At(k, k);
@@ -50,11 +43,11 @@ bool Eliminate(WorkingMatrix& a, WorkingMatrix& right) {
   return true;
 }
 
-/// Which row of a matrix stands where after exchanges.
+/// The original row that stands in each place after exchanges.
 using RowTable = std::array<int, kLargestMatrix>;
 
-/// Puts the row with the largest value of a column, the first of them, where that column's pivot
-/// is, column by column. Values and not magnitudes are compared.
+/// Column by column, exchanges the row of the pivot with the row that has the largest value in that
+/// column, the first of them. Values and not magnitudes are compared.
 RowTable RankRows(WorkingMatrix& a, WorkingMatrix& right) {
   RowTable table;
   std::iota(table.begin(), table.end(), 0);
@@ -70,7 +63,7 @@ RowTable RankRows(WorkingMatrix& a, WorkingMatrix& right) {
   return table;
 }
 
-/// The first row from `k` on that has a value other than 0 in column `k`; the number of rows where
+/// The first row from `k` on that has a value other than 0 in column `k`; the number of rows if
 /// there is none.
 int FindPivot(const WorkingMatrix& m, int k) {
   int row = k;
@@ -78,8 +71,7 @@ int FindPivot(const WorkingMatrix& m, int k) {
   return row;
 }
 
-/// Adds to the cells of `row` behind column `pivot` so much of row `pivot` as makes its cell in
-/// that column 0.
+/// Makes the cell of `row` in column `pivot` 0 by adding a multiple of row `pivot`.
 void ClearColumn(WorkingMatrix& m, int row, int pivot) {
   const double factor = -m.At(row, pivot) / m.At(pivot, pivot);
   m.Store(row, pivot, 0);
@@ -113,21 +105,21 @@ bool HasZeroInDiagonal(const WorkingMatrix& m) {
 }  // namespace
 
 CalcResult<MatrixValue> InvertMatrix(const MatrixValue& a) {
-  if (!IsSquare(a)) return SizeMismatch(kMatrixInverse);
+  if (!IsSquare(a)) return MatrixSizeMismatch(kMatrixInverse);
   WorkingMatrix rest(a);
   WorkingMatrix inverse = WorkingMatrix::Identity(a.rows);
-  if (!Eliminate(rest, inverse)) return Failure(MatrixIsNotInvertible());
+  if (!Eliminate(rest, inverse)) return MatrixIsNotInvertible();
   return inverse.Texts();
 }
 
 CalcResult<MatrixValue> SolveLinearEquation(const MatrixValue& a, const MatrixValue& b) {
   if (!IsSquare(a) || b.rows != a.rows || b.columns != 1) {
-    return SizeMismatch(kMatrixLinearEquation);
+    return MatrixSizeMismatch(kMatrixLinearEquation);
   }
   WorkingMatrix rest(a);
   WorkingMatrix right(b);
   const RowTable table = RankRows(rest, right);
-  // Where a pivot is 0, what has been reduced by then is the answer.
+  // If a pivot is 0, what has been reduced by then is the answer.
   Eliminate(rest, right);
   MatrixValue solution = MatrixOfSize(b.rows, 1);
   for (int i = 0; i < b.rows; ++i) {
@@ -137,16 +129,16 @@ CalcResult<MatrixValue> SolveLinearEquation(const MatrixValue& a, const MatrixVa
 }
 
 CalcResult<MatrixValue> MatrixDeterminant(const MatrixValue& a) {
-  if (!IsSquare(a)) return SizeMismatch(kMatrixDeterminant);
+  if (!IsSquare(a)) return MatrixSizeMismatch(kMatrixDeterminant);
   MatrixValue determinant = MatrixOfSize(1, 1);
   determinant.At(0, 0) = CellText(DeterminantOf(WorkingMatrix(a)));
   return determinant;
 }
 
 CalcResult<MatrixValue> TriangularMatrix(const MatrixValue& a) {
-  if (!IsSquare(a)) return SizeMismatch(kMatrixTriangular);
+  if (!IsSquare(a)) return MatrixSizeMismatch(kMatrixTriangular);
   WorkingMatrix m(a);
-  if (HasZeroInDiagonal(m)) return Failure(MatrixHasZeroInDiagonal());
+  if (HasZeroInDiagonal(m)) return MatrixHasZeroInDiagonal();
   for (int k = 0; k + 1 < m.Rows(); ++k) {
     for (int i = k + 1; i < m.Rows(); ++i) {
       if (m.At(i, k) != 0) ClearColumn(m, i, k);

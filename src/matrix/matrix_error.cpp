@@ -5,10 +5,37 @@
 #include "matrix/matrix_texts.h"
 
 namespace kav {
+namespace {
 
-CalcError MakeMatrixError(CalcErrorCode code, std::string_view subject) {
-  if (code != CalcErrorCode::NotInteger) return MakeError(code, subject);
-  return {code, std::string(subject).append(kNeitherFractionNorNegative)};
+CalcError AboutOperation(std::string_view operation, std::string_view what) {
+  return MakeError(CalcErrorCode::Free,
+                   std::string("[").append(operation).append("] ").append(what));
+}
+
+}  // namespace
+
+CalcError MatrixSizeMismatch(std::string_view operation) {
+  return AboutOperation(operation, kSizeMismatch);
+}
+
+CalcError MatrixArgumentError(std::string_view operation) {
+  return AboutOperation(operation, kArgumentError);
+}
+
+CalcError MatrixIsNotInvertible() {
+  return AboutOperation(kMatrixInverse, kNotInvertible);
+}
+
+CalcError MatrixHasZeroInDiagonal() {
+  return AboutOperation(kMatrixTriangular, kZeroInDiagonal);
+}
+
+CalcError MatrixExponentIsNotNatural() {
+  return {CalcErrorCode::NotInteger, std::string(kMatrixPower).append(kNeitherFractionNorNegative)};
+}
+
+CalcError NoRoomForMatrix() {
+  return MakeError(CalcErrorCode::Free, kNoRoomForMatrix);
 }
 
 }  // namespace kav

@@ -1,4 +1,4 @@
-// Why a matrix expression has no result.
+// Why an operation on matrices has no result. The engine's own errors are in calc_error.h.
 #pragma once
 
 #include <string_view>
@@ -7,8 +7,17 @@
 
 namespace kav {
 
-/// The error `code` of a matrix expression about `subject`: with the engine's own message, but for
-/// CalcErrorCode::NotInteger, which says here that the integer may not be negative either.
-CalcError MakeMatrixError(CalcErrorCode code, std::string_view subject = {});
+// `operation` is a name from matrix_texts.h.
+CalcError MatrixSizeMismatch(std::string_view operation);
+/// A function has a number, or nothing, in the place of a matrix.
+CalcError MatrixArgumentError(std::string_view operation);
+
+CalcError MatrixIsNotInvertible();
+CalcError MatrixHasZeroInDiagonal();
+/// The exponent is not a whole number from 0 on: CalcErrorCode::NotInteger with a message of its
+/// own.
+CalcError MatrixExponentIsNotNatural();
+/// The temporary file of an intermediate result cannot be written, or is gone.
+CalcError NoRoomForMatrix();
 
 }  // namespace kav

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "matrix/matrix_functions.h"
 #include "matrix/matrix_texts.h"
-#include "matrix/matrix_tokenizer.h"
 
 namespace kav {
 namespace {
@@ -21,8 +21,8 @@ bool IsLetter(char16_t c) {
 
 /// Whether `word` is one of the functions of matrices.
 bool IsFunction(std::u16string_view word) {
-  const auto names = MatrixFunctionNames();
-  return std::any_of(names.begin(), names.end(), [&](const MatrixFunctionName& row) {
+  const auto functions = MatrixFunctions();
+  return std::any_of(functions.begin(), functions.end(), [&](const MatrixFunctionRow& row) {
     return std::equal(word.begin(), word.end(), row.name.begin(), row.name.end(),
                       [](char16_t a, char b) { return LowerOf(a) == static_cast<char16_t>(b); });
   });

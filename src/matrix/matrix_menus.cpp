@@ -5,8 +5,8 @@
 
 #include "common/number_text.h"
 #include "engine/tokenizer.h"
+#include "matrix/matrix_functions.h"
 #include "matrix/matrix_texts.h"
-#include "matrix/matrix_tokenizer.h"
 #include "matrix/matrix_value.h"
 
 namespace kav {
@@ -24,7 +24,7 @@ constexpr std::array kToolChoices{
     ToolChoice{tools_item::kMacro, kMacroItem},
 };
 
-/// In the order of MatrixFunctionNames.
+/// In the order of MatrixFunctions.
 constexpr std::array<std::u16string_view, 5> kOperationItems{
     u"Inverse", u"Transpose", u"Linear Equation", u"Determinant", u"Triangular"};
 
@@ -85,7 +85,7 @@ Menu BuildOperationMenu() {
 }
 
 std::u16string OperationText(int id) {
-  return Widen(MatrixFunctionNames()[PlaceOf(id)].name) + u"(";
+  return Widen(MatrixFunctions()[PlaceOf(id)].name) + u"(";
 }
 
 Menu BuildMatrixToolsMenu(int index) {

@@ -1,6 +1,7 @@
-// The operations on matrices. Each value that an operation computes, those in the middle of an
-// elimination included, is rounded to the text that a cell would show it as: twelve digits in
-// exponent form, else its natural decimals. What follows reads that text.
+// The operations on whole matrices. Each value that an operation computes, those in the middle of
+// an elimination included, is rounded to the text that a cell would show it as: natural decimals,
+// or twelve digits in exponent form. What follows reads that text. A value out of range becomes the
+// message "Out of range(overflow or underflow)" as its cell's text, which reads as 0.
 #pragma once
 
 #include "engine/calc_error.h"
@@ -8,40 +9,37 @@
 
 namespace kav {
 
-// Element by element; sums of products over the shared index in its order. A value out of range
-// becomes the message "Out of range(overflow or underflow)" as its cell's text, which reads as 0.
-// Fail with the operation's "Matrix Size Mismatch".
-CalcResult<MatrixValue> AddMatrices(const MatrixValue& a, const MatrixValue& b);
-CalcResult<MatrixValue> SubtractMatrices(const MatrixValue& a, const MatrixValue& b);
+// An operation fails with its MatrixSizeMismatch if the sizes do not fit.
+
+/// `a` must have as many columns as `b` rows. Each cell is a sum of products over the shared index
+/// in its order, rounded once.
 CalcResult<MatrixValue> MultiplyMatrices(const MatrixValue& a, const MatrixValue& b);
 
-// A number and every cell. Fail with CalcErrorCode::OutOfRange where a cell is out of range.
-CalcResult<MatrixValue> AddNumber(const MatrixValue& a, double number);
-CalcResult<MatrixValue> SubtractNumber(const MatrixValue& a, double number);
-CalcResult<MatrixValue> SubtractFromNumber(double number, const MatrixValue& a);
-CalcResult<MatrixValue> MultiplyByNumber(const MatrixValue& a, double number);
-
-/// `a` times itself, `exponent` - 1 times in turn; its identity for 0, its very texts for 1. The
-/// time does not grow without bound with the exponent: once the powers come back, the rest is
-/// skipped. Fails for an exponent that is no integer from 0 on (checked first), for a matrix that
-/// is not square, and with CalcErrorCode::CalculationLimit after four million cells of powers that
-/// have not come back.
+/// The square matrix `a` times itself, `exponent` - 1 times in turn; the identity for 0, the very
+/// texts of `a` for 1. The time does not grow without bound with the exponent: once the powers come
+/// back, the rest is skipped. Fails, in this order, with MatrixExponentIsNotNatural, for the size,
+/// and with CalcErrorCode::CalculationLimit after four million cells of powers that have not come
+/// back.
 CalcResult<MatrixValue> RaiseMatrix(const MatrixValue& a, double exponent);
 
-/// By Gauss-Jordan elimination without exchanging rows: also a matrix that has an inverse fails
-/// where a pivot comes out as exactly 0.
+/// The inverse of the square matrix `a`, by Gauss-Jordan elimination without exchanging rows. Fails
+/// with MatrixIsNotInvertible if a pivot is exactly 0, even if there is an inverse.
 CalcResult<MatrixValue> InvertMatrix(const MatrixValue& a);
 
 MatrixValue TransposeMatrix(const MatrixValue& a);
 
-/// The x of a*x = b, `b` being one column. Rows are first ranked by their signed values, and the
-/// unknowns are written back through the exchanges; a pivot of 0 ends the elimination where it is.
+/// The x of a*x = b: `a` is square, `b` one column of as many rows. Gauss-Jordan elimination after
+/// the rows were ranked by their signed values; the unknowns are written back through these
+/// exchanges. A pivot of exactly 0 ends the elimination silently: the right side as it is by then
+/// is the answer.
 CalcResult<MatrixValue> SolveLinearEquation(const MatrixValue& a, const MatrixValue& b);
 
-/// As a matrix of one cell. Rows are exchanged only where a pivot is exactly 0.
+/// The determinant of the square matrix `a`, as a matrix of one cell. Rows are exchanged only if a
+/// pivot is exactly 0.
 CalcResult<MatrixValue> MatrixDeterminant(const MatrixValue& a);
 
-/// The upper triangular form, without exchanges. Fails where `a` has a 0 on its diagonal.
+/// The upper triangular form of the square matrix `a`, without exchanges. Fails with
+/// MatrixHasZeroInDiagonal if `a` has a 0 there.
 CalcResult<MatrixValue> TriangularMatrix(const MatrixValue& a);
 
 }  // namespace kav

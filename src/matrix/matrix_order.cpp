@@ -3,13 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <variant>
 
 namespace kav {
 namespace {
 
-// What a token is to its neighbours: its symbol, '0' for a value, '.' for nothing, beyond either
-// end.
+// What a token is to its neighbours: the character of an operator or of punctuation, '0' for a
+// value, 'F' for a function, '.' for nothing, before the first token and after the last.
 constexpr char kValue = '0';
+constexpr char kFunction = 'F';
 constexpr char kNothing = '.';
 
 /// What may stand before and after a token of one of these roles.
@@ -41,7 +43,9 @@ const OrderRow& RowOf(char role) {
 }
 
 char RoleOf(const MatrixToken& token) {
-  return token.IsValue() ? kValue : token.symbol;
+  if (const auto* symbol = std::get_if<MatrixOperator>(&token)) return static_cast<char>(*symbol);
+  if (const auto* mark = std::get_if<MatrixPunctuation>(&token)) return static_cast<char>(*mark);
+  return IsValue(token) ? kValue : kFunction;
 }
 
 bool MayFollow(char left, char right) {
@@ -58,9 +62,9 @@ bool NeighboursMatch(const MatrixTokens& tokens) {
   return MayFollow(before, kNothing);
 }
 
-std::ptrdiff_t CountOf(char symbol, const MatrixTokens& tokens) {
+std::ptrdiff_t CountOf(char role, const MatrixTokens& tokens) {
   return std::count_if(tokens.begin(), tokens.end(),
-                       [&](const MatrixToken& token) { return token.symbol == symbol; });
+                       [&](const MatrixToken& token) { return RoleOf(token) == role; });
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Whether the tokens of a matrix expression stand in an order that can be calculated.
+// Which tokens of a matrix expression may stand beside which.
 #pragma once
 
 #include <optional>
@@ -8,8 +8,9 @@
 
 namespace kav {
 
-/// Fails with CalcErrorCode::UnmatchedParentheses where there are not as many of both, and with
-/// CalcErrorCode::Expression where two neighbours cannot be. Values side by side pass.
+/// The first thing wrong with the order of `tokens`, none of which is used up: UnmatchedParentheses
+/// for unequal counts of "(" and ")", else Expression for two neighbours that cannot be. nullopt if
+/// the order is right. Two values side by side pass; the reduction refuses them.
 std::optional<CalcError> CheckMatrixOrder(const MatrixTokens& tokens);
 
 }  // namespace kav

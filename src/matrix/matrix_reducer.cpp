@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <span>
 #include <string>
 #include <variant>
 
-#include "matrix/matrix_texts.h"
+#include "matrix/matrix_error.h"
+#include "matrix/matrix_functions.h"
 
 namespace kav {
 namespace {
@@ -20,13 +20,18 @@ CalcError ExpressionError() {
   return MakeError(CalcErrorCode::Expression);
 }
 
-/// An intermediate result that cannot be written, or is not there any more.
-CalcError NoRoom() {
-  return MakeError(CalcErrorCode::Free, kNoRoomForMatrix);
+bool IsOneOf(std::string_view symbols, const MatrixToken& token) {
+  const auto* symbol = std::get_if<MatrixOperator>(&token);
+  return symbol != nullptr && symbols.find(static_cast<char>(*symbol)) != symbols.npos;
 }
 
-bool IsOneOf(std::string_view symbols, const MatrixToken& token) {
-  return token.IsOperator() && symbols.find(token.symbol) != symbols.npos;
+bool Is(MatrixPunctuation mark, const MatrixToken& token) {
+  const auto* held = std::get_if<MatrixPunctuation>(&token);
+  return held != nullptr && *held == mark;
+}
+
+bool IsUsedUp(const MatrixToken& token) {
+  return std::holds_alternative<UsedUp>(token);
 }
 
 }  // namespace
@@ -37,7 +42,7 @@ MatrixReducer::~MatrixReducer() {
 
 CalcResult<MatrixValue> MatrixReducer::Run() {
   for (std::size_t i = 0; i < tokens_.size(); ++i) {
-    if (tokens_[i].symbol != ')') continue;
+    if (!Is(MatrixPunctuation::Close, tokens_[i])) continue;
     if (auto failure = ReduceGroup(i)) return *std::move(failure);
   }
   if (auto failure = ReduceOperators({0, tokens_.size()})) return *std::move(failure);
@@ -46,15 +51,15 @@ CalcResult<MatrixValue> MatrixReducer::Run() {
 
 MatrixReducer::Failure MatrixReducer::ReduceGroup(std::size_t close) {
   std::size_t open = close;
-  while (tokens_[open].symbol != '(') {
+  while (!Is(MatrixPunctuation::Open, tokens_[open])) {
     if (open == 0) return ExpressionError();
     --open;
   }
   const Range inside{open + 1, close};
   if (auto failure = ReduceOperators(inside)) return failure;
-  const bool isCall = open > 0 && tokens_[open - 1].tokenClass == MatrixToken::Class::Function;
   UseUp(open);
   UseUp(close);
+  const bool isCall = open > 0 && std::holds_alternative<MatrixFunction>(tokens_[open - 1]);
   return isCall ? ReduceFunction(open - 1, inside) : std::nullopt;
 }
 
@@ -78,12 +83,11 @@ MatrixReducer::Failure MatrixReducer::ReduceSigns(Range range) {
 }
 
 MatrixReducer::Failure MatrixReducer::ReduceSign(std::size_t sign, std::size_t value) {
-  if (tokens_[sign].symbol == '+') {
+  if (*std::get_if<MatrixOperator>(&tokens_[sign]) == MatrixOperator::Add) {
     UseUp(sign);
     return std::nullopt;
   }
-  std::optional<MatrixValue> room;
-  const auto operand = Load(value, room);
+  const auto operand = Load(value);
   if (!operand) return operand.error();
   UseUp(value);
   return Replace(sign, Negate(*operand));
@@ -102,67 +106,66 @@ MatrixReducer::Failure MatrixReducer::ReduceLevel(Range range, std::string_view 
 
 MatrixReducer::Failure MatrixReducer::ReduceOperator(std::size_t left, std::size_t symbol,
                                                      std::size_t right) {
-  std::optional<MatrixValue> leftRoom;
-  std::optional<MatrixValue> rightRoom;
-  const auto leftOperand = Load(left, leftRoom);
-  if (!leftOperand) return leftOperand.error();
-  const auto rightOperand = Load(right, rightRoom);
-  if (!rightOperand) return rightOperand.error();
-  auto result = CombineOperands(*leftOperand, tokens_[symbol].symbol, *rightOperand);
+  const auto a = Load(left);
+  if (!a) return a.error();
+  const auto b = Load(right);
+  if (!b) return b.error();
+  auto result = CombineOperands(*a, *std::get_if<MatrixOperator>(&tokens_[symbol]), *b);
   UseUp(symbol);
   UseUp(right);
   return Replace(left, std::move(result));
 }
 
-MatrixReducer::Failure MatrixReducer::ReduceFunction(std::size_t function, Range arguments) {
-  const MatrixFunction code = tokens_[function].functionCode;
-  std::array<std::optional<MatrixValue>, kMostMatrixArguments> rooms;
+MatrixReducer::Failure MatrixReducer::ReduceFunction(std::size_t function, Range inside) {
+  const MatrixFunction code = *std::get_if<MatrixFunction>(&tokens_[function]);
   std::array<MatrixOperand, kMostMatrixArguments> operands;
-  std::size_t count = 0;
-  std::size_t end = arguments.first;
-  for (; count < ArgumentCount(code); ++count) {
-    const std::size_t value = ValueFrom(end, arguments);
-    if (value == arguments.end) break;
-    const auto loaded = Load(value, rooms[count]);
-    if (!loaded) return loaded.error();
-    operands[count] = *loaded;
+  MatrixArguments arguments{};
+  std::size_t end = inside.first;
+  for (std::size_t i = 0; i < RowOf(code).argumentCount; ++i) {
+    const std::size_t value = ValueFrom(end, inside);
+    if (value == inside.end) break;
+    auto operand = Load(value);
+    if (!operand) return std::move(operand).error();
+    operands[i] = *std::move(operand);
+    arguments[i] = MatrixIn(operands[i]);
     end = value + 1;
   }
-  for (std::size_t i = arguments.first; i < end; ++i) UseUp(i);
-  return Replace(function, ApplyMatrixFunction(code, std::span(operands).first(count)));
+  for (std::size_t i = inside.first; i < end; ++i) UseUp(i);
+  auto result = ApplyMatrixFunction(code, arguments);
+  if (!result) return std::move(result).error();
+  return Replace(function, MatrixOrNumber(*std::move(result)));
 }
 
 std::size_t MatrixReducer::LiveBefore(std::size_t index, Range range) const {
   while (index-- > range.first) {
-    if (!tokens_[index].IsUsedUp()) return index;
+    if (!IsUsedUp(tokens_[index])) return index;
   }
   return range.end;
 }
 
 std::size_t MatrixReducer::LiveFrom(std::size_t index, Range range) const {
-  while (index < range.end && tokens_[index].IsUsedUp()) ++index;
+  while (index < range.end && IsUsedUp(tokens_[index])) ++index;
   return index;
 }
 
 std::size_t MatrixReducer::ValueFrom(std::size_t index, Range range) const {
-  while (index < range.end && !tokens_[index].IsValue()) ++index;
+  while (index < range.end && !IsValue(tokens_[index])) ++index;
   return index;
 }
 
 bool MatrixReducer::IsValueAt(std::size_t index, Range range) const {
-  return index != range.end && tokens_[index].IsValue();
+  return index != range.end && IsValue(tokens_[index]);
 }
 
-CalcResult<MatrixOperand> MatrixReducer::Load(std::size_t index,
-                                              std::optional<MatrixValue>& room) const {
+CalcResult<MatrixOperand> MatrixReducer::Load(std::size_t index) const {
   const MatrixToken& token = tokens_[index];
-  if (token.kind == MatrixToken::Kind::Number) return MatrixOperand{token.value, nullptr};
-  if (token.fileName.empty()) {
-    return MatrixOperand{0, &matrices_[static_cast<std::size_t>(token.value)]};
+  if (const auto* number = std::get_if<double>(&token)) return MatrixOperand(*number);
+  if (const auto* slot = std::get_if<MatrixSlot>(&token)) {
+    return MatrixOperand(&matrices_[static_cast<std::size_t>(slot->index)]);
   }
-  room = files_.Read(token.fileName);
-  if (!room) return NoRoom();
-  return MatrixOperand{0, &*room};
+  auto matrix = files_.Read(std::get_if<MatrixFileName>(&token)->name);
+  if (!matrix) return NoRoomForMatrix();
+  return MatrixOperand(*std::move(matrix));
 }
 
 MatrixReducer::Failure MatrixReducer::Replace(std::size_t index,
@@ -170,29 +173,30 @@ MatrixReducer::Failure MatrixReducer::Replace(std::size_t index,
   UseUp(index);
   if (!result) return std::move(result).error();
   if (const double* number = std::get_if<double>(&*result)) {
-    tokens_[index] = MatrixToken::Number(*number);
+    tokens_[index] = *number;
     return std::nullopt;
   }
   auto& matrix = *std::get_if<MatrixValue>(&*result);
   if (!IsAnyOperationLeft()) {
-    tokens_[index] = MatrixToken::Matrix(kAnswerMatrix);
+    tokens_[index] = MatrixSlot{kAnswerMatrix};
     answer_ = std::move(matrix);
     return std::nullopt;
   }
-  std::string name = TemporaryMatrices::NameOf(static_cast<int>(index));
-  if (!files_.Write(name, matrix)) return NoRoom();
-  tokens_[index] = MatrixToken::Matrix(kAnswerMatrix, std::move(name));
+  MatrixFileName file{TemporaryMatrices::NameOf(static_cast<int>(index))};
+  if (!files_.Write(file.name, matrix)) return NoRoomForMatrix();
+  tokens_[index] = std::move(file);
   return std::nullopt;
 }
 
 void MatrixReducer::UseUp(std::size_t index) {
-  if (!tokens_[index].fileName.empty()) files_.Remove(tokens_[index].fileName);
-  tokens_[index] = {};
+  if (const auto* file = std::get_if<MatrixFileName>(&tokens_[index])) files_.Remove(file->name);
+  tokens_[index] = UsedUp{};
 }
 
 bool MatrixReducer::IsAnyOperationLeft() const {
   return std::any_of(tokens_.begin(), tokens_.end(), [](const MatrixToken& token) {
-    return token.IsOperator() || token.tokenClass == MatrixToken::Class::Function;
+    return std::holds_alternative<MatrixOperator>(token) ||
+           std::holds_alternative<MatrixFunction>(token);
   });
 }
 
@@ -200,13 +204,13 @@ CalcResult<MatrixValue> MatrixReducer::TakeAnswer() {
   const Range all{0, tokens_.size()};
   const std::size_t only = ValueFrom(0, all);
   if (only == all.end || ValueFrom(only + 1, all) != all.end) return ExpressionError();
-  if (tokens_[only].kind != MatrixToken::Kind::Matrix) return ExpressionError();
   if (answer_) return *std::move(answer_);
-  std::optional<MatrixValue> room;
-  const auto operand = Load(only, room);
-  if (!operand) return operand.error();
-  if (room) return *std::move(room);
-  return *operand->matrix;
+  auto operand = Load(only);
+  if (!operand) return std::move(operand).error();
+  if (auto* read = std::get_if<MatrixValue>(&*operand)) return std::move(*read);
+  const MatrixValue* matrix = MatrixIn(*operand);
+  if (matrix == nullptr) return ExpressionError();
+  return *matrix;
 }
 
 }  // namespace kav

@@ -14,10 +14,11 @@
 
 namespace kav {
 
-/// Reduces tokens (in checked order) in place, bracket by bracket, to the one matrix that is left.
-/// A result that a later operation reads goes through a file, named after the token that it
-/// replaces; the last operation's result is the answer and needs none. All files are gone with the
-/// object. The matrices and the files must outlive it.
+/// Reduces tokens, whose order CheckMatrixOrder accepts, in place: parentheses from the inside out,
+/// in each of them signs, then powers, products and sums from the left. A result that a later
+/// operation reads goes through a file, named after the place of the token that it replaces; the
+/// last operation's result is the answer and needs none. The destructor removes all files. The
+/// matrices and the files must outlive the object.
 class MatrixReducer {
  public:
   MatrixReducer(MatrixTokens tokens, const Matrices& matrices, TemporaryMatrices& files)
@@ -26,8 +27,9 @@ class MatrixReducer {
   MatrixReducer(const MatrixReducer&) = delete;
   MatrixReducer& operator=(const MatrixReducer&) = delete;
 
-  /// To be called once. Fails with the first operation that cannot be done, and with
-  /// CalcErrorCode::Expression where something else than one matrix is left.
+  /// To be called once. Fails with the first operation that cannot be done, with NoRoomForMatrix if
+  /// a file cannot be written or read, and with CalcErrorCode::Expression if anything but one
+  /// matrix is left.
   CalcResult<MatrixValue> Run();
 
  private:
@@ -44,16 +46,17 @@ class MatrixReducer {
   Failure ReduceSign(std::size_t sign, std::size_t value);
   Failure ReduceLevel(Range range, std::string_view symbols);
   Failure ReduceOperator(std::size_t left, std::size_t symbol, std::size_t right);
-  Failure ReduceFunction(std::size_t function, Range arguments);
+  Failure ReduceFunction(std::size_t function, Range inside);
 
-  // The nearest token that is not used up; none is `range.end`.
+  // The nearest token that is not used up, or `range.end`.
   std::size_t LiveBefore(std::size_t index, Range range) const;
   std::size_t LiveFrom(std::size_t index, Range range) const;
   std::size_t ValueFrom(std::size_t index, Range range) const;
   bool IsValueAt(std::size_t index, Range range) const;
 
-  /// The operand that the value token at `index` is. A matrix from a file is put into `room`.
-  CalcResult<MatrixOperand> Load(std::size_t index, std::optional<MatrixValue>& room) const;
+  /// What the value token at `index` stands for.
+  CalcResult<MatrixOperand> Load(std::size_t index) const;
+  /// Puts `result` into the token at `index`, a matrix into its file.
   Failure Replace(std::size_t index, CalcResult<MatrixOrNumber> result);
   void UseUp(std::size_t index);
   bool IsAnyOperationLeft() const;
@@ -62,7 +65,7 @@ class MatrixReducer {
   MatrixTokens tokens_;
   const Matrices& matrices_;
   TemporaryMatrices& files_;
-  std::optional<MatrixValue> answer_;  ///< of the last operation, in the place of its token's slot
+  std::optional<MatrixValue> answer_;  ///< the last operation's result
 };
 
 }  // namespace kav

@@ -23,22 +23,11 @@ inline constexpr std::string_view kMatrixLinearEquation = "Matrix Linear Equatio
 inline constexpr std::string_view kMatrixDeterminant = "Matrix Determinant";
 inline constexpr std::string_view kMatrixTriangular = "Matrix Triangular";
 
-// What goes wrong with an operation; each is the whole message.
-inline std::string AboutOperation(std::string_view operation, std::string_view what) {
-  return std::string("[").append(operation).append("] ").append(what);
-}
-inline std::string MatrixSizeMismatch(std::string_view operation) {
-  return AboutOperation(operation, "Matrix Size Mismatch");
-}
-inline std::string MatrixArgumentError(std::string_view operation) {
-  return AboutOperation(operation, "Matrix Argument Error");
-}
-inline std::string MatrixIsNotInvertible() {
-  return AboutOperation(kMatrixInverse, "Not Invertible(Determinant Equals 0)");
-}
-inline std::string MatrixHasZeroInDiagonal() {
-  return AboutOperation(kMatrixTriangular, "Error(0 in Diagonal).");
-}
+// What went wrong, behind the operation's name in "[" and "] ".
+inline constexpr std::string_view kSizeMismatch = "Matrix Size Mismatch";
+inline constexpr std::string_view kArgumentError = "Matrix Argument Error";
+inline constexpr std::string_view kNotInvertible = "Not Invertible(Determinant Equals 0)";
+inline constexpr std::string_view kZeroInDiagonal = "Error(0 in Diagonal).";
 
 /// Follows the name of an operation that takes whole numbers from 0 on.
 inline constexpr std::string_view kNeitherFractionNorNegative =

@@ -1,17 +1,29 @@
-// What a matrix expression is cut into, and what its reduction uses up in place.
+// What a matrix expression is cut into, and what its reduction replaces in place.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <utility>
+#include <variant>
 #include <vector>
 
 namespace kav {
 
-/// The functions by their codes; a token that is no function has code 0.
+/// One of the four matrices, by its index in Matrices.
+struct MatrixSlot {
+  int index;
+};
+
+/// An intermediate result, by the name of the temporary file that holds it.
+struct MatrixFileName {
+  std::string name;
+};
+
+/// The operators, by their characters.
+enum class MatrixOperator : char { Add = '+', Subtract = '-', Multiply = '*', Power = '^' };
+
+/// The functions, by their codes.
 enum class MatrixFunction : std::int32_t {
-  None = 0,
   Inverse = 41,
   Transpose,
   LinearEquation,
@@ -19,48 +31,20 @@ enum class MatrixFunction : std::int32_t {
   Triangular,
 };
 
-/// One piece of a matrix expression.
-struct MatrixToken {
-  enum class Kind : std::int32_t { None = 0, Number = 1, Matrix = 2 };
-  enum class Class : std::int32_t { None = 0, Operator = 10, Function = 40, Parenthesis = 50 };
+enum class MatrixPunctuation : char { Open = '(', Close = ')', Comma = ',' };
 
-  char symbol = 0;  ///< the character of an operator or of punctuation, 'F' for a function
-  Kind kind = Kind::None;
-  MatrixFunction functionCode = MatrixFunction::None;
-  Class tokenClass = Class::None;
-  double value = 0;      ///< of a number; for a matrix that is in no file its slot, 0 to 3
-  std::string fileName;  ///< of an intermediate result; empty for a slot
+/// What a token is once an operation has taken it.
+struct UsedUp {};
 
-  static MatrixToken Number(double value) {
-    MatrixToken token;
-    token.kind = Kind::Number;
-    token.value = value;
-    return token;
-  }
-  static MatrixToken Matrix(int slot, std::string fileName = {}) {
-    MatrixToken token;
-    token.kind = Kind::Matrix;
-    token.value = slot;
-    token.fileName = std::move(fileName);
-    return token;
-  }
-  static MatrixToken Symbol(char symbol, Class tokenClass) {
-    MatrixToken token;
-    token.symbol = symbol;
-    token.tokenClass = tokenClass;
-    return token;
-  }
-  static MatrixToken Function(MatrixFunction code) {
-    MatrixToken token = Symbol('F', Class::Function);
-    token.functionCode = code;
-    return token;
-  }
+/// One piece of a matrix expression. A number is a double.
+using MatrixToken = std::variant<UsedUp, double, MatrixSlot, MatrixFileName, MatrixOperator,
+                                 MatrixFunction, MatrixPunctuation>;
 
-  bool IsValue() const { return kind != Kind::None; }
-  bool IsOperator() const { return tokenClass == Class::Operator; }
-  /// Neither a value nor a symbol is left.
-  bool IsUsedUp() const { return symbol == 0 && !IsValue(); }
-};
+/// Whether `token` is a number or a matrix.
+inline bool IsValue(const MatrixToken& token) {
+  return std::holds_alternative<double>(token) || std::holds_alternative<MatrixSlot>(token) ||
+         std::holds_alternative<MatrixFileName>(token);
+}
 
 /// In the order of the text; at most kMostMatrixTokens.
 using MatrixTokens = std::vector<MatrixToken>;

@@ -7,18 +7,11 @@
 
 #include "common/number_text.h"
 #include "engine/token_reader.h"
+#include "matrix/matrix_functions.h"
 #include "matrix/matrix_value.h"
 
 namespace kav {
 namespace {
-
-constexpr std::array kFunctions{
-    MatrixFunctionName{"inverse", MatrixFunction::Inverse},
-    MatrixFunctionName{"transpose", MatrixFunction::Transpose},
-    MatrixFunctionName{"linearequation", MatrixFunction::LinearEquation},
-    MatrixFunctionName{"determinant", MatrixFunction::Determinant},
-    MatrixFunctionName{"triangular", MatrixFunction::Triangular},
-};
 
 /// kMatrixNames in lower case.
 constexpr std::array<std::string_view, kMatrixCount> kNames{"[m1]", "[m2]", "[m3]", "[m ans]"};
@@ -46,7 +39,7 @@ CalcResult<MatrixToken> ReadNumber(TokenReader& reader) {
     return MakeError(CalcErrorCode::Expression);
   }
   if (text.size() > kLongestNumber) return MakeError(CalcErrorCode::LengthLimit);
-  return MatrixToken::Number(ReadLeadingNumber(text));
+  return MatrixToken(ReadLeadingNumber(text));
 }
 
 CalcResult<MatrixToken> ReadMatrixName(TokenReader& reader) {
@@ -55,18 +48,18 @@ CalcResult<MatrixToken> ReadMatrixName(TokenReader& reader) {
       reader.TakeWhile([&](char c) { return std::exchange(before, c) != ']'; });
   const auto* const found = std::find(kNames.begin(), kNames.end(), name);
   if (found == kNames.end()) return MakeError(CalcErrorCode::NotSupported, name);
-  return MatrixToken::Matrix(static_cast<int>(found - kNames.begin()));
+  return MatrixToken(MatrixSlot{static_cast<int>(found - kNames.begin())});
 }
 
 CalcResult<MatrixToken> ReadFunction(TokenReader& reader) {
   const std::string_view word = reader.TakeWord();
-  const auto* const found =
-      std::find_if(kFunctions.begin(), kFunctions.end(),
-                   [&](const MatrixFunctionName& row) { return row.name == word; });
-  if (found == kFunctions.end()) return MakeError(CalcErrorCode::NotSupported, word);
+  const auto functions = MatrixFunctions();
+  const auto found = std::find_if(functions.begin(), functions.end(),
+                                  [&](const MatrixFunctionRow& row) { return row.name == word; });
+  if (found == functions.end()) return MakeError(CalcErrorCode::NotSupported, word);
   reader.SkipBlanks();
   if (reader.AtEnd()) return MakeError(CalcErrorCode::NeedsArgument, word);
-  return MatrixToken::Function(found->code);
+  return MatrixToken(found->code);
 }
 
 CalcResult<MatrixToken> ReadSymbol(TokenReader& reader) {
@@ -77,14 +70,12 @@ CalcResult<MatrixToken> ReadSymbol(TokenReader& reader) {
     case '-':
     case '*':
       reader.Skip();
-      return MatrixToken::Symbol(c, MatrixToken::Class::Operator);
+      return MatrixToken(static_cast<MatrixOperator>(c));
     case '(':
     case ')':
-      reader.Skip();
-      return MatrixToken::Symbol(c, MatrixToken::Class::Parenthesis);
     case ',':
       reader.Skip();
-      return MatrixToken::Symbol(c, MatrixToken::Class::None);
+      return MatrixToken(static_cast<MatrixPunctuation>(c));
     default:
       return UnsupportedCharacter(reader);
   }
@@ -99,10 +90,6 @@ CalcResult<MatrixToken> ReadToken(TokenReader& reader) {
 }
 
 }  // namespace
-
-std::span<const MatrixFunctionName> MatrixFunctionNames() {
-  return kFunctions;
-}
 
 CalcResult<MatrixTokens> TokenizeMatrixExpression(std::string_view text) {
   MatrixTokens tokens;

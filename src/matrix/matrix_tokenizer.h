@@ -1,7 +1,6 @@
 // Cuts matrix expressions into tokens.
 #pragma once
 
-#include <span>
 #include <string_view>
 
 #include "engine/calc_error.h"
@@ -9,15 +8,9 @@
 
 namespace kav {
 
-/// A function by the name that a text calls it by.
-struct MatrixFunctionName {
-  std::string_view name;
-  MatrixFunction code;
-};
-std::span<const MatrixFunctionName> MatrixFunctionNames();
-
-/// The tokens of `text` (UTF-8, lower case). Fails with the first number, name or character that
-/// cannot stand, or where there are more than kMostMatrixTokens.
+/// The tokens of `text` (UTF-8, lower case). Fails at the first number, name or character that is
+/// malformed or unknown, and with CalcErrorCode::LengthLimit if there are more than
+/// kMostMatrixTokens.
 CalcResult<MatrixTokens> TokenizeMatrixExpression(std::string_view text);
 
 }  // namespace kav

@@ -11,13 +11,12 @@ namespace {
 
 using test::ExpectMessage;
 using test::ExpectRows;
+using test::kColumn;
 using test::kOutOfRange;
+using test::kSquare;
+using test::kWide;
 using test::MatrixOf;
 using test::PlainRows;
-
-const MatrixValue kSquare = MatrixOf({{"1", "2"}, {"3", "4"}});
-const MatrixValue kWide = MatrixOf({{"1", "2", "3"}, {"4", "5", "6"}});
-const MatrixValue kColumn = MatrixOf({{"5"}, {"6"}});
 
 TEST(Elimination, NeedsASquare) {
   for (const MatrixValue& a : {kWide, kColumn, TransposeMatrix(kColumn)}) {

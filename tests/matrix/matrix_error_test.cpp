@@ -2,36 +2,40 @@
 
 #include <gtest/gtest.h>
 
+#include "matrix/matrix_texts.h"
+
 namespace kav {
 namespace {
 
-TEST(MakeMatrixError, OnlyTheExponentHasAMessageOfItsOwn) {
-  using enum CalcErrorCode;
+TEST(MatrixError, EachHasItsMessage) {
   const struct {
-    CalcErrorCode code;
-    const char* subject;
+    CalcError error;
     const char* message;
   } rows[] = {
-      {OutOfRange, "", "Out of range(overflow or underflow)"},
-      {UnmatchedParentheses, "", "Not matched '(' and ')'."},
-      {Expression, "", "Expression error."},
-      {TooManyOperators, "", "Too many operator."},
-      {NeedsArgument, "inverse", "(inverse) needs an argument."},
-      {NotSupported, "12345678901234567", "12345678901234567 is not supported."},
-      {NotSupported, "123456789012345678", "123456789012345... is not supported."},
-      {CalculationLimit, "x", "x exceeded calculation limit."},
-      {NotInteger, "Matrix Power(^)",
-       "Matrix Power(^) is not supported non-integer and negative integer."},
-      {LengthLimit, "", "number exceeded length limit."},
-      {NullExpression, "", "Expression is null."},
-      {Free, "System Error : Check your freespace on PDA",
-       "System Error : Check your freespace on PDA"},
+      {MatrixSizeMismatch(kMatrixAddition), "[Matrix Addition(+)] Matrix Size Mismatch"},
+      // Misspelled, and known so.
+      {MatrixSizeMismatch(kMatrixSubtraction), "[Matrix Subtration(-)] Matrix Size Mismatch"},
+      {MatrixSizeMismatch(kMatrixMultiplication),
+       "[Matrix Multiplication(*)] Matrix Size Mismatch"},
+      {MatrixSizeMismatch(kMatrixPower), "[Matrix Power(^)] Matrix Size Mismatch"},
+      {MatrixArgumentError(kMatrixTranspose), "[Matrix Transpose] Matrix Argument Error"},
+      {MatrixArgumentError(kMatrixLinearEquation),
+       "[Matrix Linear Equation] Matrix Argument Error"},
+      {MatrixArgumentError(kMatrixDeterminant), "[Matrix Determinant] Matrix Argument Error"},
+      {MatrixIsNotInvertible(), "[Matrix Inverse] Not Invertible(Determinant Equals 0)"},
+      {MatrixHasZeroInDiagonal(), "[Matrix Triangular] Error(0 in Diagonal)."},
+      {NoRoomForMatrix(), "System Error : Check your freespace on PDA"},
   };
   for (const auto& row : rows) {
-    const CalcError error = MakeMatrixError(row.code, row.subject);
-    EXPECT_EQ(error.message, row.message);
-    EXPECT_EQ(error.code, row.code) << row.message;
+    EXPECT_EQ(row.error.message, row.message);
+    EXPECT_EQ(row.error.code, CalcErrorCode::Free) << row.message;
   }
+}
+
+TEST(MatrixError, TheExponentHasAMessageOfItsOwnUnderTheCodeOfIntegers) {
+  const CalcError error = MatrixExponentIsNotNatural();
+  EXPECT_EQ(error.message, "Matrix Power(^) is not supported non-integer and negative integer.");
+  EXPECT_EQ(error.code, CalcErrorCode::NotInteger);
 }
 
 }  // namespace

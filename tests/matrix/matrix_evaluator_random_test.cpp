@@ -12,6 +12,7 @@
 #include "matrix/matrices.h"
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_operations.h"
+#include "support/plain_matrix.h"
 #include "support/random.h"
 #include "support/temporary_folder.h"
 
@@ -19,6 +20,8 @@ namespace kav {
 namespace {
 
 using test::MatrixOf;
+using test::PlainRows;
+using test::RowsOf;
 using test::Spelled;
 
 /// nullopt: an operation failed.
@@ -38,27 +41,47 @@ Value ValueOf(double number) {
   return std::isfinite(number) ? Value(number) : std::nullopt;
 }
 
+/// `change` of each cell, through its text.
+template <class Change>
+Value ChangedCells(const MatrixValue& matrix, Change change) {
+  PlainRows rows = RowsOf(matrix);
+  for (auto& row : rows) {
+    for (std::string& cell : row) {
+      const double value = change(test::PlainNumber(cell));
+      if (!std::isfinite(value)) return std::nullopt;
+      cell = test::PlainCell(value);
+    }
+  }
+  return MatrixOf(rows);
+}
+
+bool HaveOneSize(const MatrixValue& a, const MatrixValue& b) {
+  return a.rows == b.rows && a.columns == b.columns;
+}
+
 Value Sum(const Value& a, const Value& b) {
   if (!a || !b) return std::nullopt;
   if (NumberIn(a) && NumberIn(b)) return ValueOf(*NumberIn(a) + *NumberIn(b));
-  if (NumberIn(a)) return ValueOf(AddNumber(*MatrixIn(b), *NumberIn(a)));
-  if (NumberIn(b)) return ValueOf(AddNumber(*MatrixIn(a), *NumberIn(b)));
-  return ValueOf(AddMatrices(*MatrixIn(a), *MatrixIn(b)));
+  if (NumberIn(a)) return Sum(b, a);
+  if (NumberIn(b)) return ChangedCells(*MatrixIn(a), [&](double x) { return x + *NumberIn(b); });
+  if (!HaveOneSize(*MatrixIn(a), *MatrixIn(b))) return std::nullopt;
+  return MatrixOf(test::PlainSum(RowsOf(*MatrixIn(a)), RowsOf(*MatrixIn(b))));
 }
 
 Value Difference(const Value& a, const Value& b) {
   if (!a || !b) return std::nullopt;
   if (NumberIn(a) && NumberIn(b)) return ValueOf(*NumberIn(a) - *NumberIn(b));
-  if (NumberIn(a)) return ValueOf(SubtractFromNumber(*NumberIn(a), *MatrixIn(b)));
-  if (NumberIn(b)) return ValueOf(SubtractNumber(*MatrixIn(a), *NumberIn(b)));
-  return ValueOf(SubtractMatrices(*MatrixIn(a), *MatrixIn(b)));
+  if (NumberIn(a)) return ChangedCells(*MatrixIn(b), [&](double x) { return *NumberIn(a) - x; });
+  if (NumberIn(b)) return ChangedCells(*MatrixIn(a), [&](double x) { return x - *NumberIn(b); });
+  if (!HaveOneSize(*MatrixIn(a), *MatrixIn(b))) return std::nullopt;
+  return MatrixOf(test::PlainDifference(RowsOf(*MatrixIn(a)), RowsOf(*MatrixIn(b))));
 }
 
 Value Product(const Value& a, const Value& b) {
   if (!a || !b) return std::nullopt;
   if (NumberIn(a) && NumberIn(b)) return ValueOf(*NumberIn(a) * *NumberIn(b));
-  if (NumberIn(a)) return ValueOf(MultiplyByNumber(*MatrixIn(b), *NumberIn(a)));
-  if (NumberIn(b)) return ValueOf(MultiplyByNumber(*MatrixIn(a), *NumberIn(b)));
+  if (NumberIn(a)) return Product(b, a);
+  if (NumberIn(b)) return ChangedCells(*MatrixIn(a), [&](double x) { return x * *NumberIn(b); });
   return ValueOf(MultiplyMatrices(*MatrixIn(a), *MatrixIn(b)));
 }
 
@@ -71,7 +94,7 @@ Value RaisedTo(const Value& a, const Value& b) {
 Value Negative(const Value& a) {
   if (!a) return std::nullopt;
   if (NumberIn(a)) return Value(-*NumberIn(a));
-  return ValueOf(MultiplyByNumber(*MatrixIn(a), -1));
+  return ChangedCells(*MatrixIn(a), [](double x) { return -x; });
 }
 
 /// Evaluates well-formed texts without blanks, in lower case.

@@ -10,12 +10,14 @@
 #include "common/number_text.h"
 #include "matrix/matrix_operations.h"
 #include "support/effort.h"
+#include "support/expect_matrix.h"
 #include "support/plain_matrix.h"
 #include "support/random.h"
 
 namespace kav {
 namespace {
 
+using test::Combined;
 using test::MatrixOf;
 using test::PlainRows;
 using test::Random;
@@ -76,8 +78,9 @@ TEST(MatrixOperationsRandom, SumsAndProductsAreThoseOfTexts) {
     const PlainRows a = RandomRows(random, rows, columns);
     const PlainRows b = RandomRows(random, rows, columns);
     const PlainRows c = RandomRows(random, columns, RandomSize(random));
-    ExpectRows(AddMatrices(MatrixOf(a), MatrixOf(b)), test::PlainSum(a, b), a);
-    ExpectRows(SubtractMatrices(MatrixOf(a), MatrixOf(b)), test::PlainDifference(a, b), a);
+    ExpectRows(Combined(MatrixOf(a), MatrixOperator::Add, MatrixOf(b)), test::PlainSum(a, b), a);
+    ExpectRows(Combined(MatrixOf(a), MatrixOperator::Subtract, MatrixOf(b)),
+               test::PlainDifference(a, b), a);
     ExpectRows(MultiplyMatrices(MatrixOf(a), MatrixOf(c)), test::PlainProduct(a, c), a);
     ExpectRows(TransposeMatrix(MatrixOf(a)), test::PlainTranspose(a), a);
   }

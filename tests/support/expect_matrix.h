@@ -4,14 +4,29 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
+#include <variant>
 
 #include "engine/calc_error.h"
+#include "matrix/matrix_arithmetic.h"
 #include "matrix/matrix_value.h"
 #include "support/plain_matrix.h"
 
 namespace kav::test {
 
 inline constexpr const char* kOutOfRange = "Out of range(overflow or underflow)";
+
+inline const MatrixValue kSquare = MatrixOf({{"1", "2"}, {"3", "4"}});
+inline const MatrixValue kWide = MatrixOf({{"1", "2", "3"}, {"4", "5", "6"}});
+inline const MatrixValue kColumn = MatrixOf({{"5"}, {"6"}});
+
+/// What an operator makes of operands, one of which is a matrix.
+inline CalcResult<MatrixValue> Combined(const MatrixOperand& left, MatrixOperator symbol,
+                                        const MatrixOperand& right) {
+  auto result = CombineOperands(left, symbol, right);
+  if (!result) return std::move(result).error();
+  return std::get<MatrixValue>(*std::move(result));
+}
 
 inline void ExpectRows(const CalcResult<MatrixValue>& answer, const PlainRows& expected) {
   ASSERT_TRUE(answer) << answer.error().message;

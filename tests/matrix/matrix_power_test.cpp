@@ -1,6 +1,4 @@
-// Products of matrices and powers.
-#include "matrix/matrix_products.h"
-
+// The powers of matrices.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -18,26 +16,11 @@ using test::ExpectError;
 using test::ExpectMessage;
 using test::ExpectRows;
 using test::kOutOfRange;
+using test::kSquare;
+using test::kWide;
 using test::MatrixOf;
 using test::PlainRows;
 using test::RowsOf;
-
-const MatrixValue kSquare = MatrixOf({{"1", "2"}, {"3", "4"}});
-const MatrixValue kWide = MatrixOf({{"1", "2", "3"}, {"4", "5", "6"}});
-
-TEST(ProductOf, KeepsTheNumbersOfItsCells) {
-  const MatrixValue thirds = MatrixOf({{"0.333333333333"}});
-  const WorkingMatrix product = ProductOf(WorkingMatrix(thirds), WorkingMatrix(thirds));
-  EXPECT_EQ(product.Rows(), 1);
-  EXPECT_EQ(product.Columns(), 1);
-  EXPECT_EQ(product.At(0, 0), 0.111111111111);
-}
-
-TEST(ProductOf, HasTheRowsOfTheFirstAndTheColumnsOfTheSecond) {
-  const MatrixValue tall = TransposeMatrix(kWide);
-  EXPECT_EQ(ProductOf(WorkingMatrix(kSquare), WorkingMatrix(kWide)).Columns(), 3);
-  EXPECT_EQ(ProductOf(WorkingMatrix(tall), WorkingMatrix(kSquare)).Rows(), 3);
-}
 
 TEST(MatrixPower, NeedsASquare) {
   for (const MatrixValue& a : {kWide, TransposeMatrix(kWide)}) {
