@@ -11,7 +11,6 @@
 #include "matrix/matrix_file.h"
 #include "matrix/matrix_line.h"
 #include "matrix/matrix_text.h"
-#include "matrix/matrix_texts.h"
 #include "settings/keys.h"
 
 namespace kav {
@@ -32,7 +31,7 @@ Expected<Matrices, std::string> LoadMatrices(const Options& options) {
   for (std::size_t i = 0; i < matrices.size(); ++i) {
     const std::string& path = options.matrixFiles[i];
     auto loaded = path.empty() ? EmptyMatrix() : LoadMatrixFile(path);
-    if (!loaded) return Narrow(MatrixFileIsInvalid(Widen(path)));
+    if (!loaded) return Narrow(loaded.error());
     matrices[i] = *std::move(loaded);
   }
   return matrices;

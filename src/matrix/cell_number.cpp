@@ -11,7 +11,8 @@ namespace {
 
 constexpr DisplayFormat kCellFormat{DisplayType::FloatingPoint, 12};
 
-/// Copies the part of `text` that may be a number, which is ASCII; nothing of a text too long.
+/// The ASCII characters that `text` begins with, in `buffer`: a number is one of them. Empty if
+/// there are too many.
 template <std::size_t kSize>
 std::string_view AsciiStart(std::u16string_view text, std::array<char, kSize>& buffer) {
   std::size_t length = 0;

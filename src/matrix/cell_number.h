@@ -1,4 +1,4 @@
-// The numbers of a matrix's cells, which are texts: from the one to the other and back.
+// Between the texts of a matrix's cells and their numbers.
 #pragma once
 
 #include <string>
@@ -6,16 +6,17 @@
 
 namespace kav {
 
-/// The number that opens the text of a cell, 0 where there is none.
+/// The number that the text of a cell begins with, as ReadLeadingNumber reads it; 0 if there is
+/// none.
 double ReadCell(std::u16string_view text);
 
-/// What a cell that takes `value` holds: its natural decimals, or twelve of them in exponent form
-/// beyond 1e12 and below 1e-12. What is not finite becomes the message "Out of range(overflow or
+/// The text of a cell that takes `value`: its natural decimals, or twelve of them in exponent form
+/// beyond 1e12 and below 1e-12. If `value` is not finite, the message "Out of range(overflow or
 /// underflow)".
 std::u16string CellText(double value);
 
-/// The number that a cell has after it took `value`: exactly ReadCell(CellText(value)), but mostly
-/// without the text. 0 for what is not finite.
+/// The number of a cell that took `value`: exactly ReadCell(CellText(value)), but mostly without
+/// making the text. 0 if `value` is not finite.
 double AsCell(double value);
 
 }  // namespace kav

@@ -6,12 +6,11 @@
 
 #include "common/number_text.h"
 #include "display/number_input.h"
-#include "matrix/matrix_edits.h"
 
 namespace kav {
 namespace {
 
-// The digits of the smallest double, written in full, are somewhat fewer.
+// The smallest double, written in full, has somewhat fewer digits.
 constexpr std::size_t kLongestNumber = 1100;
 
 constexpr char16_t kTab = u'\t';
@@ -25,7 +24,7 @@ char16_t SeparatorOf(std::u16string_view text) {
   return kBlank;
 }
 
-/// Takes the text up to `end` and `end` itself from the front of `text`.
+/// Removes the front of `text` up to and including `end`; what came before `end`.
 std::u16string_view TakeUpTo(char16_t end, std::u16string_view& text) {
   const std::u16string_view taken = text.substr(0, text.find(end));
   text.remove_prefix(std::min(taken.size() + 1, text.size()));
@@ -42,11 +41,11 @@ bool IsShownNumber(std::u16string_view cell) {
 /// The number `cell` as it is stored: without separators.
 std::u16string Cleaned(std::u16string_view cell) {
   std::u16string cleaned(cell);
-  cleaned.erase(std::remove(cleaned.begin(), cleaned.end(), kComma), cleaned.end());
+  std::erase(cleaned, kComma);
   return cleaned;
 }
 
-/// Takes the cells of a text one by one.
+/// Sorts the cells of a table, row by row.
 class TableReader {
  public:
   TableReader(int rows, int columns) : rows_(rows), columns_(columns) {}
@@ -55,7 +54,7 @@ class TableReader {
     column_ = 0;
     while (!line.empty()) {
       const std::u16string_view cell = TrimBlanks(TakeUpTo(separator, line));
-      // Any number of blanks separates only once.
+      // Several blanks separate only once.
       if (cell.empty() && separator == kBlank) continue;
       Take(cell);
       ++column_;

@@ -10,7 +10,7 @@
 namespace kav {
 
 MatrixBoard::MatrixBoard(const DisplaySettings& settings)
-    : edits_(EmptyMatrix(settings.matrixRows, settings.matrixColumns),
+    : edits_(Resized({}, settings.matrixRows, settings.matrixColumns),
              UniformWidths(settings.columnWidth)) {}
 
 void MatrixBoard::SetWidths(const ColumnWidths& widths) {
@@ -87,14 +87,14 @@ std::optional<std::u16string> MatrixBoard::SaveTo(const std::string& path) const
 
 std::optional<std::u16string> MatrixBoard::LoadFrom(const std::string& path) {
   auto loaded = LoadMatrixFile(path);
-  if (!loaded) return MatrixFileIsInvalid(Widen(path));
+  if (!loaded) return std::move(loaded).error();
   edits_.Change(shown_, *std::move(loaded));
   return std::nullopt;
 }
 
 void MatrixBoard::Cut() {
   Copy();
-  edits_.Change(shown_, EmptyMatrix(Shown().rows, Shown().columns));
+  edits_.Change(shown_, MatrixOfSize(Shown().rows, Shown().columns));
 }
 
 void MatrixBoard::Copy() {

@@ -6,50 +6,60 @@
 #include <string_view>
 
 #include "display/display_settings.h"
-#include "matrix/cell_range.h"
-#include "matrix/column_widths.h"
 #include "matrix/matrix_edits.h"
 #include "matrix/matrix_value.h"
 
 namespace kav {
 
-/// Every change of a matrix is a step of its undo. A cell or a matrix that is not there is empty,
-/// and changing it does nothing.
+/// Every change of a matrix is one step of undo, or none if nothing changes. Rows, columns and
+/// matrices count from 0. A cell outside of the shown matrix is empty, and changing it does
+/// nothing.
 class MatrixBoard {
  public:
-  /// Empty matrices as new ones are by `settings`; [M1] is shown.
+  /// Empty matrices, of the size and with the widths that `settings` has for new ones; [M1] is
+  /// shown.
   explicit MatrixBoard(const DisplaySettings& settings);
 
   const Matrices& All() const { return edits_.All(); }
   int ShownIndex() const { return shown_; }
   const MatrixValue& Shown() const { return edits_.Matrix(shown_); }
   const ColumnWidths& Widths() const { return edits_.Widths(shown_); }
+  /// All but that of the header column, which never changes.
   void SetWidths(const ColumnWidths& widths);
-  /// Ends a lock.
+  /// Ends a lock. Does nothing if there is no matrix `index`.
   void Show(int index);
 
-  /// Whether the user may empty cells of the shown matrix and give it another size.
+  /// Whether the user may clear cells of the shown matrix and resize it.
   bool IsOpen() const { return shown_ != kAnswerMatrix && !isLocked_; }
-  /// Not open until Show: what an expression that failed was about is to be looked at first.
+  /// Nothing is open until the next Show: after an expression failed, the user is to look at its
+  /// matrices first.
   void Lock() { isLocked_ = true; }
   /// Makes `result` the [M Ans] and shows it.
   void TakeAnswer(MatrixValue result);
 
   // The shown matrix.
   std::u16string_view CellText(int row, int column) const;
+  /// Line ends and TABs in `text` become blanks.
   void SetCell(int row, int column, std::u16string text);
   void ClearCells(const CellRange& cells);
   void Resize(int rows, int columns);
+  /// Those of `cells` that the matrix has, as PrintCells writes them; all cells if `cells` is one
+  /// cell.
   std::u16string CopyCells(const CellRange& cells) const;
+  /// Writes the numbers that ReadCells finds in `text` from a cell on; the matrix grows for them.
+  /// What the user is to be told about those that were left out.
   std::optional<std::u16string> PasteCells(int row, int column, std::u16string_view text);
+  // As matrix_file.h has them; what the user is to be told if it failed.
   std::optional<std::u16string> SaveTo(const std::string& path) const;
   std::optional<std::u16string> LoadFrom(const std::string& path);
 
-  // The matrix clipboard: a matrix with its widths.
+  // The matrix clipboard, which holds a matrix with its widths. Paste does nothing while it is
+  // empty.
   void Cut();
   void Copy();
   void Paste();
 
+  // Undo and Redo show the matrix that they change.
   bool CanUndo() const { return edits_.CanUndo(); }
   bool CanRedo() const { return edits_.CanRedo(); }
   void Undo();
@@ -60,7 +70,7 @@ class MatrixBoard {
   void ShowChanged(std::optional<int> index);
 
   MatrixEdits edits_;
-  MatrixSheet clipboard_;  ///< of 0 rows: empty
+  MatrixSheet clipboard_;  ///< empty if of 0 rows
   int shown_ = 0;
   bool isLocked_ = false;
 };

@@ -1,6 +1,5 @@
 #include "matrix/matrix_edits.h"
 
-#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -24,40 +23,6 @@ ColumnWidths UniformWidths(int columnWidth) {
   return widths;
 }
 
-MatrixValue EmptyMatrix(int rows, int columns) {
-  const auto [least, most] = kMatrixSizeRange;
-  return MatrixOfSize(std::clamp(rows, least, most), std::clamp(columns, least, most));
-}
-
-MatrixValue Resized(const MatrixValue& matrix, int rows, int columns) {
-  // What was cut off must not come back when the matrix grows again: it is not there any more.
-  MatrixValue resized = EmptyMatrix(rows, columns);
-  for (int row = 0; row < std::min(resized.rows, matrix.rows); ++row) {
-    for (int column = 0; column < std::min(resized.columns, matrix.columns); ++column) {
-      resized.At(row, column) = matrix.At(row, column);
-    }
-  }
-  return resized;
-}
-
-CellRange WithinMatrix(const CellRange& range, const MatrixValue& matrix) {
-  const CellRange within{std::max(range.top, 0), std::max(range.left, 0),
-                         std::min(range.bottom, matrix.rows - 1),
-                         std::min(range.right, matrix.columns - 1)};
-  if (within.top > within.bottom || within.left > within.right) return {0, 0, -1, -1};
-  return within;
-}
-
-MatrixValue Cleared(MatrixValue matrix, const CellRange& range) {
-  const CellRange within = WithinMatrix(range, matrix);
-  for (int row = within.top; row <= within.bottom; ++row) {
-    for (int column = within.left; column <= within.right; ++column) {
-      matrix.At(row, column).clear();
-    }
-  }
-  return matrix;
-}
-
 MatrixEdits::MatrixEdits(const MatrixValue& matrix, const ColumnWidths& widths) {
   matrices_.fill(matrix);
   widths_.fill(widths);
@@ -65,13 +30,15 @@ MatrixEdits::MatrixEdits(const MatrixValue& matrix, const ColumnWidths& widths) 
 
 void MatrixEdits::Change(int index, MatrixValue matrix) {
   if (SameMatrix(Matrix(index), matrix)) return;
-  Remember(Now(index, false));
+  Remember(Now(index));
   matrices_[Place(index)] = std::move(matrix);
 }
 
 void MatrixEdits::Change(int index, MatrixSheet sheet) {
   if (SameMatrix(Matrix(index), sheet.matrix) && Widths(index) == sheet.widths) return;
-  Remember(Now(index, true));
+  Step before = Now(index);
+  before.widths = Widths(index);
+  Remember(std::move(before));
   matrices_[Place(index)] = std::move(sheet.matrix);
   widths_[Place(index)] = sheet.widths;
 }
@@ -84,19 +51,17 @@ std::optional<int> MatrixEdits::Redo() {
   return Move(redo_, undo_);
 }
 
-MatrixEdits::Step MatrixEdits::Now(int index, bool withWidths) const {
-  Step step{index, Matrix(index), {}, CountCharacters(Matrix(index))};
-  if (withWidths) step.widths = Widths(index);
-  return step;
+MatrixEdits::Step MatrixEdits::Now(int index) const {
+  return {index, Matrix(index), CountCharacters(Matrix(index)), std::nullopt};
 }
 
 std::optional<int> MatrixEdits::Move(Steps& from, Steps& to) {
   if (from.empty()) return std::nullopt;
   Step step = std::move(from.back());
   from.pop_back();
-  to.push_back(Now(step.index, step.widths.has_value()));
+  to.push_back(Now(step.index));
   matrices_[Place(step.index)] = std::move(step.matrix);
-  if (step.widths) widths_[Place(step.index)] = *step.widths;
+  if (step.widths) to.back().widths = std::exchange(widths_[Place(step.index)], *step.widths);
   return step.index;
 }
 

@@ -1,27 +1,23 @@
-// Matrix expressions: from text to tokens, and from tokens to one matrix.
+// Matrix expressions, from their text to their result.
 #pragma once
 
 #include <string_view>
 
 #include "engine/calc_error.h"
-#include "matrix/matrix_token.h"
 #include "matrix/matrix_value.h"
 #include "matrix/temporary_matrices.h"
 
 namespace kav {
 
-/// Evaluates expressions over the four matrices that it is given. The texts of its failures:
-/// matrix_error.h and matrix_texts.h.
+/// Evaluates expressions over the four matrices.
 class MatrixEvaluator {
  public:
-  static constexpr int kMostTokens = static_cast<int>(kMostMatrixTokens);
-
   /// Both must outlive the evaluator.
   MatrixEvaluator(const Matrices& matrices, TemporaryMatrices& files)
       : matrices_(matrices), files_(files) {}
 
-  /// The matrix that `text` (UTF-8) stands for; the case of letters does not count. No file is left
-  /// behind.
+  /// The matrix that `text` (UTF-8) stands for; the case of letters does not count. Fails with an
+  /// error of the engine or of matrix_error.h. Either way it leaves no file behind.
   CalcResult<MatrixValue> Evaluate(std::string_view text);
 
  private:

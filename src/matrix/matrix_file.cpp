@@ -8,14 +8,14 @@
 
 namespace kav {
 
-std::optional<MatrixValue> LoadMatrixFile(const std::string& path) {
+Expected<MatrixValue, std::u16string> LoadMatrixFile(const std::string& path) {
   const auto bytes = ReadWholeFile(path, kLargestMatrixFile);
   auto matrix = bytes ? ReadMatrix(*bytes) : std::nullopt;
-  if (!matrix) return std::nullopt;
+  if (!matrix) return MatrixFileIsInvalid(Widen(path));
   for (auto& row : matrix->cells) {
     for (std::u16string& cell : row) std::erase(cell, u',');
   }
-  return matrix;
+  return *std::move(matrix);
 }
 
 std::optional<std::u16string> SaveMatrixFile(const std::string& path, const MatrixValue& matrix) {

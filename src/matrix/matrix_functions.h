@@ -12,7 +12,7 @@
 
 namespace kav {
 
-/// The matrices that a function is called with, in order; null where an argument is a number or
+/// The matrices that a function is called with, in order; null for an argument that is a number or
 /// missing.
 inline constexpr std::size_t kMostMatrixArguments = 2;
 using MatrixArguments = std::array<const MatrixValue*, kMostMatrixArguments>;

@@ -19,7 +19,7 @@ bool IsLetter(char16_t c) {
   return LowerOf(c) >= u'a' && LowerOf(c) <= u'z';
 }
 
-/// Whether `word` is one of the functions of matrices.
+/// Whether `word` is the name of a matrix function.
 bool IsFunction(std::u16string_view word) {
   const auto functions = MatrixFunctions();
   return std::any_of(functions.begin(), functions.end(), [&](const MatrixFunctionRow& row) {
@@ -28,7 +28,7 @@ bool IsFunction(std::u16string_view word) {
   });
 }
 
-/// Whether one of the words, which are runs of letters, of `text` is a function of matrices.
+/// Whether one of the words (runs of letters) of `text` is the name of a matrix function.
 bool NamesFunction(std::u16string_view text) {
   for (std::size_t start = 0; start < text.size();) {
     std::size_t end = start;

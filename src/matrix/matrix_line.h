@@ -1,4 +1,4 @@
-// What "=" does to a line of the matrix calculator, up to the evaluation itself.
+// How a line of the matrix calculator is to be evaluated, and whether it can be.
 #pragma once
 
 #include <optional>
@@ -9,14 +9,15 @@
 
 namespace kav {
 
-/// Whether `line` is for the matrix evaluator: it has a "[" or one of the names of its functions,
-/// in any case, outside of macros' names. Any other line is a number expression.
+/// Whether `line` is a matrix expression: outside of macros' names it has a "[" or the name of a
+/// matrix function, upper or lower case. Any other line is a number expression.
 bool IsMatrixExpression(std::u16string_view line);
 
-/// The first of the matrices that `line` names (case does not count) and that has an empty cell.
+/// The index of the first matrix that has an empty cell and that `line` names, upper or lower case;
+/// nullopt if there is none.
 std::optional<int> FirstInvalidMatrix(std::u16string_view line, const Matrices& matrices);
 
-/// "Matrix [M1] is invalid" and so on, for the matrix `index`.
+/// What the user is told about the matrix `index`, such as "Matrix [M1] is invalid".
 std::u16string MatrixIsInvalid(int index);
 
 }  // namespace kav

@@ -14,7 +14,7 @@ constexpr char kValue = '0';
 constexpr char kFunction = 'F';
 constexpr char kNothing = '.';
 
-/// What may stand before and after a token of one of these roles.
+/// The roles that may stand before and after each of `roles`.
 struct OrderRow {
   std::string_view roles;
   std::string_view before;

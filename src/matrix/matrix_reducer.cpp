@@ -74,8 +74,8 @@ MatrixReducer::Failure MatrixReducer::ReduceOperators(Range range) {
 // From the right, so that of a chain of signs the one nearest to the value comes first.
 MatrixReducer::Failure MatrixReducer::ReduceSigns(Range range) {
   for (std::size_t i = range.end; i-- > range.first;) {
-    if (!IsOneOf(kSums, tokens_[i]) || IsValueAt(LiveBefore(i, range), range)) continue;
-    const std::size_t value = LiveFrom(i + 1, range);
+    if (!IsOneOf(kSums, tokens_[i]) || IsValueAt(UnusedBefore(i, range), range)) continue;
+    const std::size_t value = UnusedFrom(i + 1, range);
     if (!IsValueAt(value, range)) return ExpressionError();
     if (auto failure = ReduceSign(i, value)) return failure;
   }
@@ -96,8 +96,8 @@ MatrixReducer::Failure MatrixReducer::ReduceSign(std::size_t sign, std::size_t v
 MatrixReducer::Failure MatrixReducer::ReduceLevel(Range range, std::string_view symbols) {
   for (std::size_t i = range.first; i < range.end; ++i) {
     if (!IsOneOf(symbols, tokens_[i])) continue;
-    const std::size_t left = LiveBefore(i, range);
-    const std::size_t right = LiveFrom(i + 1, range);
+    const std::size_t left = UnusedBefore(i, range);
+    const std::size_t right = UnusedFrom(i + 1, range);
     if (!IsValueAt(left, range) || !IsValueAt(right, range)) return ExpressionError();
     if (auto failure = ReduceOperator(left, i, right)) return failure;
   }
@@ -136,14 +136,14 @@ MatrixReducer::Failure MatrixReducer::ReduceFunction(std::size_t function, Range
   return Replace(function, MatrixOrNumber(*std::move(result)));
 }
 
-std::size_t MatrixReducer::LiveBefore(std::size_t index, Range range) const {
+std::size_t MatrixReducer::UnusedBefore(std::size_t index, Range range) const {
   while (index-- > range.first) {
     if (!IsUsedUp(tokens_[index])) return index;
   }
   return range.end;
 }
 
-std::size_t MatrixReducer::LiveFrom(std::size_t index, Range range) const {
+std::size_t MatrixReducer::UnusedFrom(std::size_t index, Range range) const {
   while (index < range.end && IsUsedUp(tokens_[index])) ++index;
   return index;
 }

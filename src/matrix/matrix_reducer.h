@@ -49,8 +49,8 @@ class MatrixReducer {
   Failure ReduceFunction(std::size_t function, Range inside);
 
   // The nearest token that is not used up, or `range.end`.
-  std::size_t LiveBefore(std::size_t index, Range range) const;
-  std::size_t LiveFrom(std::size_t index, Range range) const;
+  std::size_t UnusedBefore(std::size_t index, Range range) const;
+  std::size_t UnusedFrom(std::size_t index, Range range) const;
   std::size_t ValueFrom(std::size_t index, Range range) const;
   bool IsValueAt(std::size_t index, Range range) const;
 

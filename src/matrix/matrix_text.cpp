@@ -10,13 +10,13 @@ namespace {
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr char kBetweenCells = '\t';
 
-/// The low byte, but for what would end a cell or a row: that becomes a blank.
+/// The low byte; a blank if that would end a cell or a row.
 char ByteOf(char16_t c) {
   const char byte = static_cast<char>(static_cast<unsigned char>(c & 0xFFU));
   return byte == kBetweenCells || byte == '\n' ? ' ' : byte;
 }
 
-/// Each byte as the character of its number, which is not what UTF-8 would make of it.
+/// Each byte as the character of its number, unlike in UTF-8.
 std::u16string CharactersOf(std::string_view bytes) {
   std::u16string cell;
   cell.reserve(bytes.size());
@@ -24,17 +24,17 @@ std::u16string CharactersOf(std::string_view bytes) {
   return cell;
 }
 
-/// Takes the first line off `rest`, and what ends it; nullopt where nothing is left.
+/// Removes the first line and its end from `rest`; nullopt if nothing is left.
 std::optional<std::string_view> TakeLine(std::string_view& rest) {
   if (rest.empty()) return std::nullopt;
   const std::size_t end = rest.find('\n');
   std::string_view line = rest.substr(0, end);
   rest.remove_prefix(end == rest.npos ? rest.size() : end + 1);
-  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+  if (line.ends_with('\r')) line.remove_suffix(1);
   return line;
 }
 
-/// The count that `text` is: a decimal number, cut to an integer.
+/// `text` as a decimal number, truncated; nullopt outside 1 to kLargestMatrix.
 std::optional<int> ReadCount(std::string_view text) {
   const auto number = ReadWholeNumber(text);
   if (!number || !(*number >= 1) || !(*number < kLargestMatrix + 1)) return std::nullopt;
@@ -48,14 +48,14 @@ struct MatrixSize {
 
 std::optional<MatrixSize> ReadHeader(std::string_view line) {
   const std::size_t star = line.find('*');
-  if (star == line.npos || line.front() != '[' || line.back() != ']') return std::nullopt;
+  if (star == line.npos || !line.starts_with('[') || !line.ends_with(']')) return std::nullopt;
   const auto rows = ReadCount(line.substr(1, star - 1));
   const auto columns = ReadCount(line.substr(star + 1, line.size() - star - 2));
   if (!rows || !columns) return std::nullopt;
   return MatrixSize{*rows, *columns};
 }
 
-/// Whether `line` holds exactly the cells of a row, which then are in `matrix`.
+/// Whether `line` has as many cells as `matrix` has columns; if so, they are row `row` of it.
 bool ReadRow(std::string_view line, int row, MatrixValue& matrix) {
   for (int column = 0; column < matrix.columns; ++column) {
     const std::size_t end = line.find(kBetweenCells);
@@ -86,9 +86,7 @@ std::optional<MatrixValue> ReadMatrix(std::string_view bytes) {
   const auto header = TakeLine(bytes);
   const auto size = header ? ReadHeader(*header) : std::nullopt;
   if (!size) return std::nullopt;
-  MatrixValue matrix;
-  matrix.rows = size->rows;
-  matrix.columns = size->columns;
+  MatrixValue matrix = MatrixOfSize(size->rows, size->columns);
   for (int row = 0; row < matrix.rows; ++row) {
     const auto line = TakeLine(bytes);
     if (!line || !ReadRow(*line, row, matrix)) return std::nullopt;

@@ -1,4 +1,4 @@
-// The text format of matrices: of the user's files and of intermediate results.
+// The text format of matrices, in the user's files and in those of intermediate results.
 #pragma once
 
 #include <optional>
@@ -9,13 +9,13 @@
 
 namespace kav {
 
-/// "[ROWS*COLUMNS]" and then each row, its cells with a TAB between them; every line ends with CR
-/// LF. Bytes: of each character of a cell the low one, or a blank where that is a TAB or LF.
+/// "[ROWS*COLUMNS]", then a line for each row with a TAB between its cells; each line ends with CR
+/// LF. Each character of a cell is written as its low byte, or as a blank if that is TAB or LF.
 std::string PrintMatrix(const MatrixValue& matrix);
 
-/// The matrix that `bytes` hold; each byte is a character. A line may end with LF alone, and the
-/// last one without. nullopt for what is no such text: a header that is none, a size outside 1 to
-/// kLargestMatrix, missing or surplus cells or rows.
+/// The matrix that `bytes` hold; each byte is a character. A line may end with LF alone, the last
+/// one with nothing. nullopt if the header is malformed, a size is outside 1 to kLargestMatrix, or
+/// cells or rows are missing or left over.
 std::optional<MatrixValue> ReadMatrix(std::string_view bytes);
 
 }  // namespace kav

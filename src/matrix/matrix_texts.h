@@ -11,8 +11,7 @@
 
 namespace kav {
 
-// The operations as their messages name them. One of them is misspelled and stays so: users know
-// the message.
+// The operations as their messages name them. The misspelled one stays so: users know the message.
 inline constexpr std::string_view kMatrixAddition = "Matrix Addition(+)";
 inline constexpr std::string_view kMatrixSubtraction = "Matrix Subtration(-)";
 inline constexpr std::string_view kMatrixMultiplication = "Matrix Multiplication(*)";
@@ -35,12 +34,12 @@ inline constexpr std::string_view kNeitherFractionNorNegative =
 
 inline constexpr std::string_view kNoRoomForMatrix = "System Error : Check your freespace on PDA";
 
-/// `name` as the screen writes it, such as "[M1]".
+/// `name` is one of kMatrixNames.
 inline std::u16string NamedMatrixIsInvalid(std::u16string_view name) {
   return std::u16string(u"Matrix ").append(name).append(u" is invalid");
 }
 
-/// `reason` is a clause without a point at its end.
+/// `reason` is a clause without a full stop.
 inline std::u16string MatrixCannotBeSaved(std::u16string_view path, std::u16string_view reason) {
   return std::u16string(u"The matrix cannot be saved in ")
       .append(path)
@@ -68,8 +67,8 @@ inline std::u16string MatrixFileIsInvalid(std::u16string_view path) {
   return std::u16string(path).append(u" is invalid.");
 }
 
-/// What pasting left out, `beyond` for want of room and `refused` for not being numbers; not both
-/// 0.
+/// What pasting left out: `beyond` cells for lack of room, `refused` because they are no numbers.
+/// Not both are 0.
 inline std::u16string CellsWereLeftOut(std::size_t beyond, std::size_t refused) {
   const auto sentence = [](std::size_t count, std::u16string_view one, std::u16string_view more) {
     if (count == 0) return std::u16string();
@@ -87,7 +86,7 @@ inline constexpr std::u16string_view kMatrixSizeTitle = u"Select Matrix Size";
 inline constexpr std::u16string_view kRowsName = u"Rows";
 inline constexpr std::u16string_view kColumnsName = u"Columns";
 
-// What screen readers call the part of the screen that has no caption.
+// What screen readers call the grid, which has no caption.
 inline constexpr std::u16string_view kMatrixGridName = u"Cells";
 
 }  // namespace kav

@@ -16,7 +16,7 @@ namespace {
 /// kMatrixNames in lower case.
 constexpr std::array<std::string_view, kMatrixCount> kNames{"[m1]", "[m2]", "[m3]", "[m ans]"};
 
-/// Digits, '.', 'e', and a sign right behind an 'e'.
+/// Digits, '.', 'e', and a sign directly behind an 'e'.
 std::string_view TakeNumber(TokenReader& reader) {
   char before = 0;
   return reader.TakeWhile([&](char c) {

@@ -5,16 +5,17 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "display/display_settings.h"
 
 namespace kav {
 
-/// As many rows, and as many columns, as a matrix has at most.
+/// The most rows, and the most columns, of a matrix.
 inline constexpr int kLargestMatrix = kMatrixSizeRange.most;
 
 /// A matrix of decimal texts. Only the cells within its rows and columns mean anything. Operations
-/// read a cell as the number that opens its text, 0 where there is none.
+/// read a cell as the number that its text begins with, or as 0 if there is none.
 struct MatrixValue {
   std::int32_t rows = 0;  ///< 0 to kLargestMatrix, as `columns`
   std::int32_t columns = 0;
@@ -29,9 +30,6 @@ struct MatrixValue {
   }
 };
 
-/// A matrix of `rows` and `columns`, 0 to kLargestMatrix of each, with nothing in its cells.
-MatrixValue MatrixOfSize(int rows, int columns);
-
 /// The matrices of the calculator: [M1], [M2], [M3] and [M Ans].
 inline constexpr int kMatrixCount = 4;
 inline constexpr int kAnswerMatrix = 3;
@@ -41,10 +39,33 @@ using Matrices = std::array<MatrixValue, kMatrixCount>;
 inline constexpr std::array<std::u16string_view, kMatrixCount> kMatrixNames{u"[M1]", u"[M2]",
                                                                             u"[M3]", u"[M Ans]"};
 
+/// A rectangle of cells, counted from 0, both corners included.
+struct CellRange {
+  int top = 0;
+  int left = 0;
+  int bottom = 0;
+  int right = 0;
+
+  bool IsOneCell() const { return top == bottom && left == right; }
+};
+
+/// A matrix of empty cells, of 0 to kLargestMatrix rows and columns.
+MatrixValue MatrixOfSize(int rows, int columns);
+
+/// The cells of `matrix` that are within the new size, and empty ones beside them. A size outside 1
+/// to kLargestMatrix is brought to the nearer end.
+MatrixValue Resized(const MatrixValue& matrix, int rows, int columns);
+
+/// The cells of `range` that `matrix` has; 0, 0 to -1, -1 if it has none of them.
+CellRange WithinMatrix(const CellRange& range, const MatrixValue& matrix);
+
+/// `matrix` with the cells of `range` empty.
+MatrixValue Cleared(MatrixValue matrix, const CellRange& range);
+
 /// Whether both have the same size and the same texts in it.
 bool SameMatrix(const MatrixValue& a, const MatrixValue& b);
 
-/// Whether a cell of `matrix` is empty, so that no expression may name it. One of 0 rows has none.
+/// Whether a cell of `matrix` is empty, so that no expression may name it. False for 0 rows.
 bool HasEmptyCell(const MatrixValue& matrix);
 
 }  // namespace kav

@@ -25,8 +25,8 @@ constexpr std::string_view kFolderStart = "kav-matrix-";
 constexpr std::string_view kUniquePart = "XXXXXX";
 constexpr std::string_view kFileStart = "kavm";
 constexpr std::string_view kFileEnd = ".dat";
-// A folder for temporary files may hold any number of them; what is left behind there waits for a
-// later start.
+// The system's folder may hold any number of files; what this start does not reach, a later one
+// removes.
 constexpr int kMostEntries = 20000;
 constexpr int kMostTries = 5;
 constexpr int kOpenFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
@@ -37,17 +37,15 @@ std::string SystemFolder() {
 }
 
 bool IsMatrixName(std::string_view name) {
-  if (name.size() <= kFileStart.size() + kFileEnd.size()) return false;
-  const std::string_view end = name.substr(name.size() - kFileEnd.size());
-  return name.substr(0, kFileStart.size()) == kFileStart && end == kFileEnd;
+  return name.size() > kFileStart.size() + kFileEnd.size() && name.starts_with(kFileStart) &&
+         name.ends_with(kFileEnd);
 }
 
 bool IsFolderName(std::string_view name) {
-  return name.size() == kFolderStart.size() + kUniquePart.size() &&
-         name.substr(0, kFolderStart.size()) == kFolderStart;
+  return name.size() == kFolderStart.size() + kUniquePart.size() && name.starts_with(kFolderStart);
 }
 
-/// Calls `take` with the names in the open folder `folder`, a bounded number of them.
+/// Calls `take` with the names in the open folder `folder`, at most kMostEntries of them.
 template <class Take>
 void ForEachName(const FileDescriptor& folder, Take take) {
   const int copy = openat(folder.Number(), ".", kOpenFolder);
@@ -76,8 +74,8 @@ bool LockFolder(const FileDescriptor& folder, int how) {
   return true;
 }
 
-/// Removes the folder `name` of `parent` where it is this user's and its process is gone. Whatever
-/// else somebody has put into it stays, and so does the folder then.
+/// Removes the folder `name` of `parent` if it is this user's and its process is gone. If somebody
+/// has put anything else into it, that stays, and so does the folder.
 void RemoveIfLeft(const FileDescriptor& parent, const char* name) {
   const FileDescriptor folder(openat(parent.Number(), name, kOpenFolder));
   struct stat status {};
@@ -95,8 +93,8 @@ void RemoveLeftFolders(const std::string& path) {
   });
 }
 
-/// Whether the open folder still has the name `path`. Another start may have taken a new one, not
-/// locked yet, for one that was left.
+/// Whether the open folder still has the name `path`. Another start may have removed it as left
+/// behind before it was locked.
 bool IsThere(const FileDescriptor& folder, const std::string& path) {
   struct stat opened {};
   struct stat named {};
@@ -118,7 +116,7 @@ bool WriteFile(const std::string& path, std::string_view content) {
   const int file = open(path.c_str(), kFlags, S_IRUSR | S_IWUSR);
   if (file < 0) return false;
   const bool isWritten = WriteAll(file, content);
-  // Only here some file systems tell that there was no space left.
+  // Some file systems report only here that no space was left.
   return close(file) == 0 && isWritten;
 }
 
@@ -141,7 +139,7 @@ std::string TemporaryMatrices::NameOf(int number) {
 }
 
 bool TemporaryMatrices::Write(const std::string& name, const MatrixValue& matrix) {
-  // A folder that was not touched for days may have been cleared away.
+  // The system may have cleared away a folder that was not touched for days.
   if (!(IsOwner() && IsThere(lock_, folder_)) && !MakeFolder()) return false;
   if (WriteFile(PathOf(name), PrintMatrix(matrix))) return true;
   Remove(name);
@@ -170,7 +168,7 @@ bool TemporaryMatrices::MakeFolder() {
       rmdir(path.c_str());
       continue;
     }
-    // Where folders cannot be locked nobody takes them for left behind either.
+    // On a file system without locks this fails and RemoveIfLeft too, which then removes nothing.
     LockFolder(folder, LOCK_SH);
     if (!IsThere(folder, path)) continue;
     folder_ = std::move(path);

@@ -11,27 +11,28 @@
 
 namespace kav {
 
-/// Matrices under the names "kavm0.dat", "kavm1.dat" and so on, in a folder that only this process
-/// and its user can read. The folder is made when the first matrix is written and goes with the
-/// object. A process that was forked off leaves the folder to its parent and makes its own.
+/// Matrices under the names "kavm0.dat", "kavm1.dat" and so on, in a folder of this process that
+/// only its user can read. The first Write makes the folder, the destructor removes it. A forked
+/// child leaves the folder to its parent and makes its own.
 class TemporaryMatrices {
  public:
-  /// In `parent`, or in the system's folder for temporary files. Removes what processes that were
-  /// killed have left there.
+  /// The folder is made in `parent`, or in the system's folder for temporary files. Removes what
+  /// killed processes have left there.
   TemporaryMatrices();
   explicit TemporaryMatrices(std::string parent);
   ~TemporaryMatrices();
   TemporaryMatrices(const TemporaryMatrices&) = delete;
   TemporaryMatrices& operator=(const TemporaryMatrices&) = delete;
 
-  /// The name of the matrix `number`.
+  /// Such as "kavm7.dat" for 7.
   static std::string NameOf(int number);
 
-  /// Writes `matrix` under `name`, in place of what is there; whether that could be done. Where it
-  /// could not, nothing has the name.
+  /// Writes `matrix` under `name` and replaces what is there. Whether it succeeded; if not, no file
+  /// has the name.
   bool Write(const std::string& name, const MatrixValue& matrix);
-  /// nullopt where it cannot be read.
+  /// nullopt if it cannot be read.
   std::optional<MatrixValue> Read(const std::string& name) const;
+  /// Does nothing if there is no such file.
   void Remove(const std::string& name);
 
  private:
@@ -41,7 +42,7 @@ class TemporaryMatrices {
 
   std::string parent_;
   std::string folder_;       ///< empty until it is made
-  FileDescriptor lock_{-1};  ///< the folder, locked: so others see that its process lives
+  FileDescriptor lock_{-1};  ///< the folder, locked so that others see that its process lives
   pid_t owner_ = 0;
 };
 

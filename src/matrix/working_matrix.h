@@ -1,21 +1,24 @@
-// A matrix in the middle of a calculation: numbers, each of them what its cell's text reads as.
+// A matrix in the middle of a calculation.
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <string>
+#include <utility>
 
 #include "matrix/cell_number.h"
 #include "matrix/matrix_value.h"
 
 namespace kav {
 
-/// At most kLargestMatrix rows and columns; rows and columns count from 0. The texts of cells are
-/// made when the calculation is over.
+/// Holds numbers, each of them what its cell's text would read as; the texts are made only when the
+/// calculation is over. At most kLargestMatrix rows and columns, counted from 0.
 class WorkingMatrix {
  public:
-  /// Zeros.
+  /// All cells are 0.
   WorkingMatrix(int rows, int columns) : rows_(rows), columns_(columns) {}
-  /// The numbers of `texts`, which must outlive this matrix: a cell that nothing is stored in keeps
-  /// its very text.
+  /// The numbers of `texts`, which must outlive this matrix: a cell keeps its very text until a
+  /// number is stored in it.
   explicit WorkingMatrix(const MatrixValue& texts);
   /// 1 on the diagonal, 0 elsewhere.
   static WorkingMatrix Identity(int size);
@@ -23,9 +26,10 @@ class WorkingMatrix {
   int Rows() const { return rows_; }
   int Columns() const { return columns_; }
   double At(int row, int column) const { return CellAt(row, column).number; }
+  /// Whether both have the same size and numbers.
   bool IsSame(const WorkingMatrix& other) const;
 
-  /// Puts `value` into a cell, which rounds it.
+  /// Rounds `value` to what its text reads as.
   void Store(int row, int column, double value) {
     CellAt(row, column) = {AsCell(value), value, nullptr};
   }
@@ -34,14 +38,14 @@ class WorkingMatrix {
   }
 
   MatrixValue Texts() const;
-  /// The text that a cell has by now.
+  /// The text of a cell as it is now.
   std::u16string TextAt(int row, int column) const;
 
  private:
   struct Cell {
     double number = 0;
-    double stored = 0;                         ///< what was put in, before rounding
-    const std::u16string* original = nullptr;  ///< the text, where nothing was put in
+    double stored = 0;                         ///< the value stored, before rounding
+    const std::u16string* original = nullptr;  ///< the text, if nothing was stored
   };
 
   const Cell& CellAt(int row, int column) const {

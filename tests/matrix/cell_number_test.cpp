@@ -87,12 +87,12 @@ TEST(CellText, WhatIsNotFiniteIsTheMessage) {
   }
 }
 
-/// `value` of either sign must be the same by the short way as through its text.
+/// AsCell must give the number that the text reads as, for `value` with either sign.
 void ExpectSameNumber(double value) {
   for (const double signedValue : {value, -value}) {
     const double number = AsCell(signedValue);
     const double read = ReadCell(CellText(signedValue));
-    // No message is put together for millions of numbers.
+    // Not EXPECT_EQ: putting its message together for millions of numbers takes too long.
     if (BitsOf(number) != BitsOf(read)) {
       ADD_FAILURE() << PrintRoundTrip(signedValue) << " is " << PrintRoundTrip(number) << ", not "
                     << PrintRoundTrip(read);
@@ -119,7 +119,7 @@ TEST(AsCell, OfZeroOfEitherSignIsZeroWithoutOne) {
   EXPECT_EQ(BitsOf(AsCell(-0.0)), BitsOf(0.0));
 }
 
-/// A random number and its neighbours among the doubles.
+/// `value` and the three doubles on either side of it.
 void ExpectSameNumbersAround(double value) {
   double below = value;
   double above = value;

@@ -14,7 +14,7 @@ namespace {
 using test::MatrixOf;
 using test::TableOf;
 
-/// What is read of `text`: "row,column=number" each, and behind them the counts of what is not.
+/// What ReadCells makes of `text`: "row,column=number" for each number, then both counts.
 std::string Read(std::u16string_view text, int rows = kLargestMatrix,
                  int columns = kLargestMatrix) {
   const PastedCells cells = ReadCells(text, rows, columns);
@@ -67,7 +67,7 @@ TEST(ReadCells, SeparatorsAreTabsOrElseCommasOrElseBlanks) {
            Row{u"1, 2 ,3", "0,0=1 0,1=2 0,2=3 beyond 0 refused 0"},
            Row{u"1 2\n3 4", "0,0=1 0,1=2 1,0=3 1,1=4 beyond 0 refused 0"},
            Row{u"  1   2  ", "0,0=1 0,1=2 beyond 0 refused 0"},
-           // One TAB anywhere makes the others part of the cells.
+           // If there is a TAB, commas and blanks are part of the cells.
            Row{u"1 2\t3", "0,1=3 beyond 0 refused 1"},
            Row{u"1\t2\n3,4", "0,0=1 0,1=2 beyond 0 refused 1"},
            Row{u"1,2\n3 4", "0,0=1 0,1=2 beyond 0 refused 1"},
@@ -97,7 +97,7 @@ TEST(ReadCells, TextsThatAreNoNumbersAreCounted) {
 TEST(ReadCells, OnlySoManyRowsAndColumnsAreTaken) {
   EXPECT_EQ(Read(u"1 2 3\n4 5 6\n7 8 9", 2, 2), "0,0=1 0,1=2 1,0=4 1,1=5 beyond 5 refused 0");
   EXPECT_EQ(Read(u"1\t\t\n\n\n", 1, 1), "0,0=1 beyond 0 refused 0");
-  // What has no room is not looked at.
+  // Cells without room are not looked at.
   EXPECT_EQ(Read(u"1 x\ny 2", 1, 1), "0,0=1 beyond 3 refused 0");
 }
 

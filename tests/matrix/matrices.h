@@ -11,7 +11,7 @@
 
 namespace kav::test {
 
-/// The matrix of `text`, which has a blank between two cells and a ';' between two rows.
+/// The matrix of `text`: a blank between two cells, a ';' between two rows.
 inline MatrixValue MatrixOf(std::string_view text) {
   MatrixValue matrix;
   int column = 0;
@@ -29,7 +29,7 @@ inline MatrixValue MatrixOf(std::string_view text) {
   return matrix;
 }
 
-/// The other way.
+/// The text that MatrixOf reads as `matrix`.
 inline std::string Spelled(const MatrixValue& matrix) {
   std::string text;
   for (int row = 0; row < matrix.rows; ++row) {

@@ -132,7 +132,7 @@ TEST(CombineOperands, SizesMustBeEqualToAdd) {
 }
 
 TEST(CombineOperands, SizesMustBeEqualToSubtract) {
-  // Misspelled, and known so.
+  // Users know the message with its misspelling.
   const std::string message = "[Matrix Subtration(-)] Matrix Size Mismatch";
   ExpectMessage(Combined(kSquare, Subtract, kWide), message);
   ExpectMessage(Combined(kColumn, Subtract, kSquare), message);

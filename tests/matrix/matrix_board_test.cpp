@@ -136,7 +136,7 @@ TEST_F(Board, PasteTellsInOneMessageWhatWasLeftOut) {
   EXPECT_EQ(board_.CellText(9, 9), u"1");
 }
 
-TEST_F(Board, CellKeepsItsTextWhereNoNumberIsPasted) {
+TEST_F(Board, CellKeepsItsTextIfNoNumberIsPasted) {
   Fill();
   EXPECT_EQ(board_.PasteCells(0, 0, u"x\t7\n\t8"), u"1 cell is no number and was left out.");
   EXPECT_EQ(Shown(), u"1 7; 3 8");

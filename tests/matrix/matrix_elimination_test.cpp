@@ -1,4 +1,4 @@
-// The operations that eliminate: inverse, linear equation, determinant, triangular form.
+// The operations by elimination: inverse, linear equation, determinant, triangular form.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -51,7 +51,7 @@ TEST(MatrixInverse, AZeroPivotIsNotInvertible) {
 }
 
 TEST(MatrixInverse, NoRowIsExchangedForAPivot) {
-  // Each of them is its own inverse, or has one.
+  // Both have an inverse; the first is its own.
   ExpectMessage(InvertMatrix(MatrixOf({{"0", "1"}, {"1", "0"}})), kNotInvertible);
   ExpectMessage(InvertMatrix(MatrixOf({{"1", "1", "0"}, {"1", "1", "1"}, {"0", "1", "1"}})),
                 kNotInvertible);
@@ -62,8 +62,7 @@ TEST(MatrixInverse, OnlyAnExactZeroIsNotInvertible) {
 }
 
 TEST(MatrixInverse, RoundedCellsMayGiveAMatrixAnInverseThatHasNone) {
-  // 1/3 in its cell times 3 is just less than 1: what remains of the second pivot is 1e-12 and not
-  // 0.
+  // 1/3 as its cell holds it times 3 is just less than 1, so that the second pivot is 1e-12, not 0.
   EXPECT_TRUE(InvertMatrix(MatrixOf({{"3", "1"}, {"3", "1"}})));
   ExpectMessage(InvertMatrix(MatrixOf({{"4", "1"}, {"4", "1"}})), kNotInvertible);
 }
@@ -87,7 +86,7 @@ TEST(LinearEquation, AnExchangeOfRowsReordersTheUnknowns) {
 }
 
 TEST(LinearEquation, ThreeExchangedRowsReorderTheUnknownsByTheirTable) {
-  // The rows 1, 2, 3 come to stand as 2, 3, 1: x = 1 goes to the place 2, y = 2 to 3, z = 3 to 1.
+  // Rows 1, 2, 3 become rows 2, 3, 1: x = 1 goes to place 2, y = 2 to 3, z = 3 to 1.
   ExpectRows(SolveLinearEquation(MatrixOf({{"0", "0", "1"}, {"1", "0", "0"}, {"0", "1", "0"}}),
                                  MatrixOf({{"3"}, {"1"}, {"2"}})),
              {{"3"}, {"1"}, {"2"}});
@@ -97,16 +96,16 @@ TEST(LinearEquation, ValuesAreRankedAndNotMagnitudes) {
   // -3 is less than 1: nothing is exchanged, and the unknowns keep their places.
   ExpectRows(SolveLinearEquation(MatrixOf({{"1", "2"}, {"-3", "1"}}), MatrixOf({{"8"}, {"-3"}})),
              {{"2"}, {"3"}});
-  // 1 is more than -3: an exchange.
+  // 1 is more than -3: the rows are exchanged.
   ExpectRows(SolveLinearEquation(MatrixOf({{"-3", "1"}, {"1", "2"}}), MatrixOf({{"-3"}, {"8"}})),
              {{"3"}, {"2"}});
 }
 
 TEST(LinearEquation, AmongEqualCandidatesTheFirstRowWins) {
-  // x + y = 3, x + 2y = 5: no exchange.
+  // x + y = 3 and x + 2y = 5: no exchange.
   ExpectRows(SolveLinearEquation(MatrixOf({{"1", "1"}, {"1", "2"}}), MatrixOf({{"3"}, {"5"}})),
              {{"1"}, {"2"}});
-  // Of the two rows with 2 the first comes first, and the last stays where it is.
+  // The first of the two rows with 2 is exchanged; the last stays in its place.
   ExpectRows(SolveLinearEquation(MatrixOf({{"1", "0", "0"}, {"2", "1", "0"}, {"2", "0", "1"}}),
                                  MatrixOf({{"1"}, {"4"}, {"7"}})),
              test::PlainLinearEquation({{"1", "0", "0"}, {"2", "1", "0"}, {"2", "0", "1"}},
@@ -114,7 +113,7 @@ TEST(LinearEquation, AmongEqualCandidatesTheFirstRowWins) {
 }
 
 TEST(LinearEquation, AZeroPivotEndsItSilently) {
-  // Dependent equations: after the first pivot the second is 0, and what is left of b is answered.
+  // Dependent equations: the second pivot is 0, and b as it is by then is the answer.
   ExpectRows(SolveLinearEquation(MatrixOf({{"1", "2"}, {"1", "2"}}), MatrixOf({{"3"}, {"5"}})),
              {{"3"}, {"2"}});
 }
@@ -137,9 +136,9 @@ TEST(Determinant, OfZeroIsZero) {
   ExpectRows(MatrixDeterminant(MatrixOf({{"0"}})), {{"0"}});
 }
 
-TEST(Determinant, ExchangesRowsOnlyWhereAPivotIsZero) {
+TEST(Determinant, ExchangesRowsOnlyIfAPivotIsZero) {
   ExpectRows(MatrixDeterminant(MatrixOf({{"0", "1"}, {"1", "0"}})), {{"-1"}});
-  // Two exchanges, as the first row has to go to the end: the sign is back.
+  // Two exchanges: the sign is as it was.
   ExpectRows(MatrixDeterminant(MatrixOf({{"0", "0", "2"}, {"3", "0", "0"}, {"0", "5", "0"}})),
              {{"30"}});
   ExpectRows(MatrixDeterminant(MatrixOf({{"1", "1", "0"}, {"1", "1", "1"}, {"0", "1", "1"}})),
@@ -147,7 +146,7 @@ TEST(Determinant, ExchangesRowsOnlyWhereAPivotIsZero) {
 }
 
 TEST(Determinant, TakesTheFirstRowBelowThatIsNotZero) {
-  // With the second row 1/3 of the third is rounded in its cell; the other way round 3 is exact.
+  // With the second row on top a third is rounded in its cell; with the third row 3 is exact.
   const PlainRows rows{{"0", "1", "1"}, {"3", "1", "0"}, {"1", "1", "1"}};
   ExpectRows(MatrixDeterminant(MatrixOf(rows)), test::PlainDeterminant(rows));
 }
@@ -156,7 +155,7 @@ TEST(Determinant, OfAColumnOfZerosIsZero) {
   ExpectRows(MatrixDeterminant(MatrixOf({{"0", "1"}, {"0", "1"}})), {{"0"}});
   ExpectRows(MatrixDeterminant(MatrixOf({{"1", "2", "3"}, {"2", "4", "5"}, {"3", "6", "7"}})),
              {{"0"}});
-  // Also where a value before it is too large for the product.
+  // Even if the product of the pivots before it is too large.
   ExpectRows(
       MatrixDeterminant(MatrixOf({{"1e200", "0", "0"}, {"0", "1e200", "0"}, {"0", "0", "0"}})),
       {{"0"}});

@@ -13,7 +13,7 @@ TEST(MatrixError, EachHasItsMessage) {
     const char* message;
   } rows[] = {
       {MatrixSizeMismatch(kMatrixAddition), "[Matrix Addition(+)] Matrix Size Mismatch"},
-      // Misspelled, and known so.
+      // Users know the message with its misspelling.
       {MatrixSizeMismatch(kMatrixSubtraction), "[Matrix Subtration(-)] Matrix Size Mismatch"},
       {MatrixSizeMismatch(kMatrixMultiplication),
        "[Matrix Multiplication(*)] Matrix Size Mismatch"},

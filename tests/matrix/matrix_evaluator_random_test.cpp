@@ -1,4 +1,4 @@
-// Random expressions against a second evaluation that parses them another way, from the top down.
+// Random expressions against a second evaluation, by recursive descent.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -24,7 +24,7 @@ using test::PlainRows;
 using test::RowsOf;
 using test::Spelled;
 
-/// nullopt: an operation failed.
+/// nullopt if an operation failed.
 using Value = std::optional<std::variant<double, MatrixValue>>;
 
 const double* NumberIn(const Value& value) {
@@ -97,7 +97,7 @@ Value Negative(const Value& a) {
   return ChangedCells(*MatrixIn(a), [](double x) { return -x; });
 }
 
-/// Evaluates well-formed texts without blanks, in lower case.
+/// Evaluates well-formed texts in lower case and without blanks.
 class Parser {
  public:
   Parser(std::string_view text, const Matrices& matrices) : rest_(text), matrices_(matrices) {}
@@ -176,7 +176,7 @@ class Parser {
   const Matrices& matrices_;
 };
 
-/// Writes expressions that pass the checks.
+/// Writes well-formed expressions.
 class Writer {
  public:
   explicit Writer(std::uint64_t seed) : random_(seed) {}

@@ -1,5 +1,5 @@
-// Random matrices, operation by operation: against the operations on texts alone, and against what
-// holds for matrices whoever calculates them.
+// The operations on random matrices: against the same operations on texts alone, and against laws
+// of matrices.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -29,8 +29,8 @@ std::string TypedDecimal(Random& random) {
   return PrintFixed(hundreds / 100, 2);
 }
 
-/// What users type and what results are like: integers, many of them small, decimals, quotients,
-/// numbers near and beyond the exponent form, and texts that are no numbers or more than them.
+/// Like what users type and results are: small integers, decimals, quotients, numbers near and
+/// beyond the exponent form, and texts that are no numbers or more than a number.
 std::string RandomCell(Random& random) {
   static const std::vector<std::string> kOdd{
       "0",     "-0",      "1.50",  "+2",   " 3", "4 x",           "x", "1e13", "-2e-13",
@@ -62,7 +62,7 @@ std::size_t RandomSize(Random& random) {
   return random.Below(20) == 0 ? 10 : 1 + random.Below(5);
 }
 
-/// `answer` must hold `expected`; an error where that has no rows.
+/// `answer` must be `expected`, or an error if that has no rows.
 void ExpectRows(const CalcResult<MatrixValue>& answer, const PlainRows& expected,
                 const PlainRows& argument) {
   ASSERT_EQ(static_cast<bool>(answer), !expected.empty()) << ::testing::PrintToString(argument);
@@ -123,9 +123,9 @@ TEST(MatrixOperationsRandom, EliminationsAreThoseOfTexts) {
   }
 }
 
-// The operations a second time may have misread the rules in the same way; what follows may not.
+// Both may have misread the rules in the same way; the laws have not.
 
-/// Every cell of it is far from 0 on the diagonal and small elsewhere, so that few digits get lost.
+/// Cells are far from 0 on the diagonal and small elsewhere, so that few digits are lost.
 MatrixValue WellConditioned(Random& random, std::size_t size) {
   PlainRows rows(size, std::vector<std::string>(size));
   for (std::size_t i = 0; i < size; ++i) {
@@ -194,7 +194,7 @@ TEST(MatrixOperationsRandom, TransposedTwiceItIsTheSameMatrix) {
 TEST(MatrixOperationsRandom, ASystemInTheRankedOrderIsSolved) {
   Random random(59);
   for (int i = 0; i < Tries(100); ++i) {
-    // The diagonal is the largest of its column: no row is exchanged.
+    // The cell on the diagonal is the largest of its column: no row is exchanged.
     const MatrixValue a = WellConditioned(random, RandomSize(random));
     MatrixValue x = MatrixOfSize(a.rows, 1);
     for (int row = 0; row < a.rows; ++row) x.At(row, 0) = Widen(TypedDecimal(random));

@@ -1,5 +1,4 @@
-// Products and transposes; powers are in matrix_power_test, the operations that eliminate in
-// matrix_elimination_test.
+// Products and transposes; for powers see matrix_power_test, for the rest matrix_elimination_test.
 #include "matrix/matrix_operations.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +46,7 @@ TEST(MultiplyMatrices, RoundsItsCells) {
 }
 
 TEST(MultiplyMatrices, AProductIsRoundedOnceForEachCell) {
-  // Rounded to cells first, the products would be 1.123456789012 each, and their sum end in 48.
+  // If each product were rounded, it would be 1.123456789012, and the sum would end in 48.
   const PlainRows terms{
       {"1.12345678901235", "1.12345678901235", "1.12345678901235", "1.12345678901235"}};
   ExpectRows(MultiplyMatrices(MatrixOf(terms), MatrixOf({{"1"}, {"1"}, {"1"}, {"1"}})),

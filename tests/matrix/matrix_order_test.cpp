@@ -9,7 +9,7 @@
 namespace kav {
 namespace {
 
-/// Empty where the order of the tokens of `text` can be calculated.
+/// What is wrong with the order of the tokens of `text`; empty if nothing.
 std::string Check(const std::string& text) {
   const auto tokens = TokenizeMatrixExpression(text);
   if (!tokens) return "no tokens: " + tokens.error().message;
@@ -71,7 +71,7 @@ TEST(CheckMatrixOrder, ParenthesesAreCounted) {
 
 TEST(CheckMatrixOrder, NeighboursThatCannotBe) {
   const char* const rows[] = {
-      // An operator at the end, or one at the beginning that is no sign.
+      // An operator at the end, or at the beginning one that is no sign.
       "1+",
       "1-",
       "1*",
@@ -84,7 +84,7 @@ TEST(CheckMatrixOrder, NeighboursThatCannotBe) {
       "(1*)",
       "(1+)",
       "(^1)",
-      // Behind a sign and behind an operator.
+      // After a sign or another operator.
       "1+*2",
       "1-^2",
       "1+,2",
@@ -122,7 +122,7 @@ TEST(CheckMatrixOrder, NeighboursThatCannotBe) {
       "1,inverse([m1])",
       "1+2,*3",
       "inverse(,1)",
-      // Parentheses that touch.
+      // Parentheses side by side.
       "()",
       ")(",
       "inverse()",

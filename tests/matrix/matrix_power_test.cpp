@@ -75,7 +75,7 @@ TEST(MatrixPower, PassesThroughOutOfRangeAndReadsItAsZero) {
 
 using Clock = std::chrono::steady_clock;
 
-/// `test` must not take longer than anyone waits.
+/// `test` must not take longer than users wait.
 template <class Test>
 void ExpectPrompt(Test test) {
   const auto start = Clock::now();
@@ -85,7 +85,7 @@ void ExpectPrompt(Test test) {
 
 TEST(MatrixPower, HugeExponentsOfPowersThatComeBackAreAnsweredAtOnce) {
   const MatrixValue turn = MatrixOf({{"0", "-1"}, {"1", "0"}});  // A quarter of a circle.
-  // Three cells in turn, two in turn: after six powers they are where they were.
+  // Three cells and two cells take turns: after six powers all are back in their places.
   const MatrixValue six = MatrixOf({{"0", "1", "0", "0", "0"},
                                     {"0", "0", "1", "0", "0"},
                                     {"1", "0", "0", "0", "0"},
@@ -96,7 +96,7 @@ TEST(MatrixPower, HugeExponentsOfPowersThatComeBackAreAnsweredAtOnce) {
     ExpectRows(RaiseMatrix(turn, 4e15 + 1), {{"0", "-1"}, {"1", "0"}});
     ExpectRows(RaiseMatrix(turn, 4e15 + 2), {{"-1", "0"}, {"0", "-1"}});
     ExpectRows(RaiseMatrix(turn, 4e15 + 3), {{"0", "1"}, {"-1", "0"}});
-    // An even number, and one more than a multiple of three: 2^1000 leaves 4 of sixes.
+    // 2^1000 is even and 1 more than a multiple of 3, so it leaves 4 when divided by 6.
     ExpectRows(RaiseMatrix(six, std::ldexp(1, 1000)), RowsOf(*RaiseMatrix(six, 4)));
     ExpectRows(RaiseMatrix(MatrixOf({{"1"}}), 1e308), {{"1"}});
     ExpectRows(RaiseMatrix(MatrixOf({{"-1"}}), 1e15 + 1), {{"-1"}});
@@ -113,7 +113,7 @@ TEST(MatrixPower, EveryExponentAroundTheReturnIsRight) {
 }
 
 TEST(MatrixPower, TheTextsOfTheFirstPowerDoNotComeBack) {
-  // The numbers are those of the first power already; only that one keeps its texts.
+  // The second power has the numbers of the first, but only the first keeps its texts.
   const MatrixValue one = MatrixOf({{"1.0", "x"}, {"", "+1"}});
   ExpectRows(RaiseMatrix(one, 1), {{"1.0", "x"}, {"", "+1"}});
   ExpectRows(RaiseMatrix(one, 2), {{"1", "0"}, {"0", "1"}});
@@ -121,7 +121,7 @@ TEST(MatrixPower, TheTextsOfTheFirstPowerDoNotComeBack) {
 }
 
 TEST(MatrixPower, PowersThatNeverComeBackAreGivenUp) {
-  // A turn by three degrees and a half, which is no part of a circle in twelve decimals.
+  // A turn by 3.5 degrees; rounded to twelve decimals, it never completes a circle.
   const MatrixValue turn =
       MatrixOf({{"0.998134798422", "-0.061048539535"}, {"0.061048539535", "0.998134798422"}});
   ExpectPrompt([&] {

@@ -154,7 +154,7 @@ TEST(MatrixReducer, OnlyWhatALaterOperationReadsTouchesTheDisk) {
 }
 
 TEST(MatrixReducer, AFileIsNumberedAfterTheTokenThatItsMatrixReplaces) {
-  // A folder in the place of the file makes writing under one name, and only that, fail.
+  // A folder of a file's name makes writing that file, and no other, fail.
   const struct {
     const char* text;
     std::vector<int> written;

@@ -40,7 +40,7 @@ TEST(PrintMatrix, WhatWouldEndACellOrARowIsABlank) {
   EXPECT_EQ(PrintMatrix(matrix), "[1*2]\r\n1 2 3  \t2\r\n");
 }
 
-TEST(ReadMatrix, WhatIsAMatrix) {
+TEST(ReadMatrix, ReadsMatrices) {
   const struct {
     std::string text;
     const char* matrix;
@@ -71,7 +71,7 @@ TEST(ReadMatrix, EachByteIsTheCharacterOfItsNumber) {
   EXPECT_EQ(matrix->At(0, 1), u"\r");
 }
 
-TEST(ReadMatrix, WhatIsNone) {
+TEST(ReadMatrix, RefusesAnythingElse) {
   const std::string rows[] = {
       "",
       "\r\n",

@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include "support/matrix_table.h"
 #include "support/plain_matrix.h"
 
 namespace kav {
 namespace {
 
 using test::MatrixOf;
+using test::TableOf;
 
 TEST(MatrixValue, HoldsTenRowsOfTenColumnsAtMost) {
   EXPECT_EQ(kLargestMatrix, 10);
@@ -33,6 +35,54 @@ TEST(MatrixOfSize, HasTheSizeAndNoTexts) {
   EXPECT_EQ(matrix.rows, 2);
   EXPECT_EQ(matrix.columns, 3);
   EXPECT_TRUE(SameMatrix(matrix, MatrixOf({{"", "", ""}, {"", "", ""}})));
+}
+
+TEST(Resized, CellsStayWhereTheyAre) {
+  const MatrixValue matrix = MatrixOf(u"1 2; 3 4");
+  EXPECT_EQ(TableOf(Resized(matrix, 3, 3)), u"1 2 _; 3 4 _; _ _ _");
+  EXPECT_EQ(TableOf(Resized(matrix, 1, 2)), u"1 2");
+  EXPECT_EQ(TableOf(Resized(matrix, 2, 1)), u"1; 3");
+}
+
+TEST(Resized, SizesAreFromOneToTen) {
+  struct Row {
+    int rows;
+    int columns;
+    int madeRows;
+    int madeColumns;
+  };
+  for (const Row& row : {Row{2, 3, 2, 3}, Row{0, -7, 1, 1}, Row{11, 2147483647, 10, 10}}) {
+    const MatrixValue matrix = Resized({}, row.rows, row.columns);
+    EXPECT_EQ(matrix.rows, row.madeRows);
+    EXPECT_EQ(matrix.columns, row.madeColumns);
+    EXPECT_EQ(matrix.At(0, 0), u"");
+  }
+}
+
+TEST(Resized, WhatWasCutOffDoesNotComeBack) {
+  const MatrixValue matrix = MatrixOf(u"1 2; 3 4");
+  EXPECT_EQ(TableOf(Resized(Resized(matrix, 1, 1), 2, 2)), u"1 _; _ _");
+  MatrixValue withRests = matrix;
+  withRests.rows = 1;
+  EXPECT_EQ(TableOf(Resized(withRests, 2, 2)), u"1 2; _ _");
+}
+
+TEST(Cleared, CellsOfTheRangeThatThereAreBecomeEmpty) {
+  struct Row {
+    CellRange range;
+    std::u16string_view after;
+  };
+  for (const Row& row : {
+           Row{{0, 0, 0, 0}, u"_ 2 3; 4 5 6"},
+           Row{{0, 1, 1, 2}, u"1 _ _; 4 _ _"},
+           Row{{0, 0, 9, 9}, u"_ _ _; _ _ _"},
+           Row{{-5, -5, 0, 0}, u"_ 2 3; 4 5 6"},
+           Row{{1, 1, 0, 0}, u"1 2 3; 4 5 6"},
+           Row{{2, 0, 5, 5}, u"1 2 3; 4 5 6"},
+           Row{{-1, -1, -1, -1}, u"1 2 3; 4 5 6"},
+       }) {
+    EXPECT_EQ(TableOf(Cleared(MatrixOf(u"1 2 3; 4 5 6"), row.range)), row.after);
+  }
 }
 
 TEST(SameMatrix, ComparesSizesAndTexts) {

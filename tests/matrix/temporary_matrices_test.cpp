@@ -151,8 +151,8 @@ TEST(TemporaryMatrices, ALinkUnderTheNameIsNotWrittenThrough) {
   unlink((folder + "/target").c_str());
 }
 
-/// Starts a process that writes a matrix and then waits to be killed; its folder is there when this
-/// returns.
+/// Starts a process that writes a matrix and then waits to be killed. Returns once `folders`
+/// folders in `parent` have a matrix.
 pid_t StartWriter(const TemporaryFolder& parent, std::size_t folders) {
   const pid_t writer = StartProcess([&] {
     TemporaryMatrices files(parent.Path());

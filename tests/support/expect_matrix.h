@@ -1,4 +1,4 @@
-// What an operation on matrices answers, as rows of texts or as an error.
+// Checks of what an operation on matrices answers.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ inline const MatrixValue kSquare = MatrixOf({{"1", "2"}, {"3", "4"}});
 inline const MatrixValue kWide = MatrixOf({{"1", "2", "3"}, {"4", "5", "6"}});
 inline const MatrixValue kColumn = MatrixOf({{"5"}, {"6"}});
 
-/// What an operator makes of operands, one of which is a matrix.
+/// The matrix that an operator makes of operands, one of which is a matrix.
 inline CalcResult<MatrixValue> Combined(const MatrixOperand& left, MatrixOperator symbol,
                                         const MatrixOperand& right) {
   auto result = CombineOperands(left, symbol, right);

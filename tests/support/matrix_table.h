@@ -1,5 +1,4 @@
-// Matrices written as tests read best: cells separated by blanks, rows by ";". "_" is an empty
-// cell.
+// Matrices as short texts for tests: blanks separate cells, ";" rows, and "_" is an empty cell.
 #pragma once
 
 #include <cstddef>

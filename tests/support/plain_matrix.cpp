@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdlib>
+#include <functional>
 #include <utility>
 
 #include "support/plain_format.h"
@@ -53,13 +54,24 @@ double Read(const PlainRows& rows, std::size_t i, std::size_t j) {
   return PlainNumber(rows[i][j]);
 }
 
+template <class Combine>
+PlainRows CellByCell(const PlainRows& a, const PlainRows& b, Combine combine) {
+  PlainRows combined = a;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    for (std::size_t j = 0; j < a[i].size(); ++j) {
+      combined[i][j] = PlainCell(combine(Read(a, i, j), Read(b, i, j)));
+    }
+  }
+  return combined;
+}
+
 PlainRows PlainIdentity(std::size_t size) {
   PlainRows identity(size, std::vector<std::string>(size, PlainCell(0)));
   for (std::size_t i = 0; i < size; ++i) identity[i][i] = PlainCell(1);
   return identity;
 }
 
-/// Whether the elimination came to its end.
+/// Whether it came to its end: a pivot of 0 stops it.
 bool PlainGaussJordan(PlainRows& a, PlainRows& b) {
   Cells left{a};
   Cells right{b};
@@ -87,23 +99,11 @@ bool PlainGaussJordan(PlainRows& a, PlainRows& b) {
 }  // namespace
 
 PlainRows PlainSum(const PlainRows& a, const PlainRows& b) {
-  PlainRows sum = a;
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    for (std::size_t j = 0; j < a[i].size(); ++j) {
-      sum[i][j] = PlainCell(Read(a, i, j) + Read(b, i, j));
-    }
-  }
-  return sum;
+  return CellByCell(a, b, std::plus());
 }
 
 PlainRows PlainDifference(const PlainRows& a, const PlainRows& b) {
-  PlainRows difference = a;
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    for (std::size_t j = 0; j < a[i].size(); ++j) {
-      difference[i][j] = PlainCell(Read(a, i, j) - Read(b, i, j));
-    }
-  }
-  return difference;
+  return CellByCell(a, b, std::minus());
 }
 
 PlainRows PlainProduct(const PlainRows& a, const PlainRows& b) {

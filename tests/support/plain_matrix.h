@@ -1,5 +1,5 @@
-// The matrix operations a second time, on texts alone: every number is printed into its cell and
-// read from it again, by the C library. What tests hold the operations against.
+// The matrix operations a second time, for tests to compare with: on texts alone, each number
+// printed into its cell and read back by the C library.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace kav::test {
 
-/// The cells of a matrix by rows, each row as long as the others; at least one cell.
+/// The cells of a matrix by rows, all of the same length; at least one cell.
 using PlainRows = std::vector<std::vector<std::string>>;
 
 /// `rows` as the calculator holds them, and back.
@@ -20,7 +20,7 @@ PlainRows RowsOf(const MatrixValue& matrix);
 std::string PlainCell(double value);
 double PlainNumber(const std::string& cell);
 
-// Sizes must fit; every operation answers with rows, or with none where it has no result.
+// Sizes must fit. Each answers with the rows of its result, or with none if it fails.
 PlainRows PlainSum(const PlainRows& a, const PlainRows& b);
 PlainRows PlainDifference(const PlainRows& a, const PlainRows& b);
 PlainRows PlainProduct(const PlainRows& a, const PlainRows& b);
