@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "matrix/matrix_text.h"
+#include "matrix/matrix_file.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 
 #include "common/number_text.h"
 #include "matrix/matrix_evaluator.h"
+#include "matrix/matrix_file.h"
 #include "matrix/matrix_line.h"
-#include "matrix/matrix_text.h"
 
 namespace {
 

@@ -10,7 +10,6 @@
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_file.h"
 #include "matrix/matrix_line.h"
-#include "matrix/matrix_text.h"
 #include "settings/keys.h"
 
 namespace kav {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
+#include <cstddef>
 
 #include "common/number_text.h"
 #include "display/number_input.h"
@@ -45,46 +45,6 @@ std::u16string Cleaned(std::u16string_view cell) {
   return cleaned;
 }
 
-/// Sorts the cells of a table, row by row.
-class TableReader {
- public:
-  TableReader(int rows, int columns) : rows_(rows), columns_(columns) {}
-
-  void ReadRow(std::u16string_view line, char16_t separator) {
-    column_ = 0;
-    while (!line.empty()) {
-      const std::u16string_view cell = TrimBlanks(TakeUpTo(separator, line));
-      // Several blanks separate only once.
-      if (cell.empty() && separator == kBlank) continue;
-      Take(cell);
-      ++column_;
-    }
-    ++row_;
-  }
-
-  PastedCells Result() && { return std::move(cells_); }
-
- private:
-  void Take(std::u16string_view cell) {
-    if (cell.empty()) return;
-    if (row_ >= rows_ || column_ >= columns_) {
-      ++cells_.beyond;
-      return;
-    }
-    if (cell.size() > kLongestNumber || !IsShownNumber(cell)) {
-      ++cells_.refused;
-      return;
-    }
-    cells_.numbers.push_back({static_cast<int>(row_), static_cast<int>(column_), Cleaned(cell)});
-  }
-
-  std::ptrdiff_t rows_;
-  std::ptrdiff_t columns_;
-  std::ptrdiff_t row_ = 0;
-  std::ptrdiff_t column_ = 0;
-  PastedCells cells_;
-};
-
 }  // namespace
 
 bool IsNumberText(std::u16string_view text) {
@@ -106,13 +66,25 @@ std::u16string PrintCells(const MatrixValue& matrix, const CellRange& range) {
 
 PastedCells ReadCells(std::u16string_view text, int rows, int columns) {
   const char16_t separator = SeparatorOf(text);
-  TableReader reader(rows, columns);
-  while (!text.empty()) {
+  PastedCells cells;
+  for (std::ptrdiff_t row = 0; !text.empty(); ++row) {
     std::u16string_view line = TakeUpTo(u'\n', text);
     if (line.ends_with(u'\r')) line.remove_suffix(1);
-    reader.ReadRow(line, separator);
+    for (std::ptrdiff_t column = 0; !line.empty(); ++column) {
+      // Several blanks separate only once.
+      if (separator == kBlank) line = TrimBlanks(line);
+      const std::u16string_view cell = TrimBlanks(TakeUpTo(separator, line));
+      if (cell.empty()) continue;
+      if (row >= rows || column >= columns) {
+        ++cells.beyond;
+      } else if (cell.size() > kLongestNumber || !IsShownNumber(cell)) {
+        ++cells.refused;
+      } else {
+        cells.numbers.push_back({static_cast<int>(row), static_cast<int>(column), Cleaned(cell)});
+      }
+    }
   }
-  return std::move(reader).Result();
+  return cells;
 }
 
 MatrixValue Overwritten(const MatrixValue& matrix, int row, int column, const PastedCells& pasted) {

@@ -98,11 +98,11 @@ void MatrixBoard::Cut() {
 }
 
 void MatrixBoard::Copy() {
-  clipboard_ = {Shown(), Widths()};
+  clipboard_ = Clipboard{Shown(), Widths()};
 }
 
 void MatrixBoard::Paste() {
-  if (clipboard_.matrix.rows != 0) edits_.Change(shown_, clipboard_);
+  if (clipboard_) edits_.Change(shown_, clipboard_->matrix, clipboard_->widths);
 }
 
 }  // namespace kav

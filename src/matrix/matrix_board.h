@@ -66,11 +66,16 @@ class MatrixBoard {
   void Redo();
 
  private:
+  struct Clipboard {
+    MatrixValue matrix;
+    ColumnWidths widths;
+  };
+
   bool HasCell(int row, int column) const;
   void ShowChanged(std::optional<int> index);
 
   MatrixEdits edits_;
-  MatrixSheet clipboard_;  ///< empty if of 0 rows
+  std::optional<Clipboard> clipboard_;
   int shown_ = 0;
   bool isLocked_ = false;
 };

@@ -28,19 +28,12 @@ MatrixEdits::MatrixEdits(const MatrixValue& matrix, const ColumnWidths& widths) 
   widths_.fill(widths);
 }
 
-void MatrixEdits::Change(int index, MatrixValue matrix) {
-  if (SameMatrix(Matrix(index), matrix)) return;
-  Remember(Now(index));
-  matrices_[Place(index)] = std::move(matrix);
-}
-
-void MatrixEdits::Change(int index, MatrixSheet sheet) {
-  if (SameMatrix(Matrix(index), sheet.matrix) && Widths(index) == sheet.widths) return;
-  Step before = Now(index);
-  before.widths = Widths(index);
-  Remember(std::move(before));
-  matrices_[Place(index)] = std::move(sheet.matrix);
-  widths_[Place(index)] = sheet.widths;
+void MatrixEdits::Change(int index, MatrixValue matrix, std::optional<ColumnWidths> widths) {
+  const bool keepsWidths = !widths || *widths == Widths(index);
+  if (keepsWidths && SameMatrix(Matrix(index), matrix)) return;
+  redo_.clear();
+  undo_.push_back(Exchange({Place(index), std::move(matrix), widths}));
+  DropOldest();
 }
 
 std::optional<int> MatrixEdits::Undo() {
@@ -51,23 +44,22 @@ std::optional<int> MatrixEdits::Redo() {
   return Move(redo_, undo_);
 }
 
-MatrixEdits::Step MatrixEdits::Now(int index) const {
-  return {index, Matrix(index), CountCharacters(Matrix(index)), std::nullopt};
+/// Does `step`; the step that leads back.
+MatrixEdits::Step MatrixEdits::Exchange(Step step) {
+  std::swap(matrices_[step.index], step.matrix);
+  if (step.widths) std::swap(widths_[step.index], *step.widths);
+  step.characters = CountCharacters(step.matrix);
+  return step;
 }
 
 std::optional<int> MatrixEdits::Move(Steps& from, Steps& to) {
   if (from.empty()) return std::nullopt;
-  Step step = std::move(from.back());
+  to.push_back(Exchange(std::move(from.back())));
   from.pop_back();
-  to.push_back(Now(step.index));
-  matrices_[Place(step.index)] = std::move(step.matrix);
-  if (step.widths) to.back().widths = std::exchange(widths_[Place(step.index)], *step.widths);
-  return step.index;
+  return static_cast<int>(to.back().index);
 }
 
-void MatrixEdits::Remember(Step before) {
-  redo_.clear();
-  undo_.push_back(std::move(before));
+void MatrixEdits::DropOldest() {
   std::size_t characters =
       std::accumulate(undo_.begin(), undo_.end(), std::size_t{0},
                       [](std::size_t sum, const Step& step) { return sum + step.characters; });

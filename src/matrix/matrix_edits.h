@@ -17,12 +17,6 @@ inline constexpr int kHeaderColumnWidth = 20;
 /// The header column, and all others `columnWidth` wide.
 ColumnWidths UniformWidths(int columnWidth);
 
-/// A matrix and the widths of its columns: what M Cut and M Copy take along.
-struct MatrixSheet {
-  MatrixValue matrix;
-  ColumnWidths widths{};
-};
-
 /// The four matrices and their widths, with undo and redo. A step restores the cells and the size
 /// of one matrix, and its widths if the step changed them. An index is 0 to kMatrixCount - 1.
 class MatrixEdits {
@@ -41,9 +35,8 @@ class MatrixEdits {
 
   /// Not a step: widths are no content.
   void SetWidths(int index, const ColumnWidths& widths) { widths_[Place(index)] = widths; }
-  /// One step, or none if nothing changes.
-  void Change(int index, MatrixValue matrix);
-  void Change(int index, MatrixSheet sheet);
+  /// One step, or none if nothing changes. nullopt keeps the widths.
+  void Change(int index, MatrixValue matrix, std::optional<ColumnWidths> widths = std::nullopt);
 
   bool CanUndo() const { return !undo_.empty(); }
   bool CanRedo() const { return !redo_.empty(); }
@@ -53,17 +46,17 @@ class MatrixEdits {
 
  private:
   struct Step {
-    int index;
+    std::size_t index;
     MatrixValue matrix;
-    std::size_t characters;
     std::optional<ColumnWidths> widths;
+    std::size_t characters = 0;
   };
   using Steps = std::deque<Step>;
 
   static std::size_t Place(int index) { return static_cast<std::size_t>(index); }
-  Step Now(int index) const;
+  Step Exchange(Step step);
   std::optional<int> Move(Steps& from, Steps& to);
-  void Remember(Step before);
+  void DropOldest();
 
   Matrices matrices_;
   std::array<ColumnWidths, kMatrixCount> widths_;

@@ -17,7 +17,7 @@ CalcResult<MatrixValue> MatrixEvaluator::Evaluate(std::string_view text) {
   auto tokens = TokenizeMatrixExpression(folded);
   if (!tokens) return std::move(tokens).error();
   if (auto error = CheckMatrixOrder(*tokens)) return *std::move(error);
-  return MatrixReducer(*std::move(tokens), matrices_, files_).Run();
+  return ReduceMatrixTokens(*std::move(tokens), matrices_, files_);
 }
 
 }  // namespace kav

@@ -2,16 +2,20 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <utility>
 #include <variant>
 
+#include "matrix/matrix_arithmetic.h"
 #include "matrix/matrix_error.h"
 #include "matrix/matrix_functions.h"
 
 namespace kav {
 namespace {
 
-// The operators by what is done first.
+// The operators, in the order in which they are applied.
 constexpr std::string_view kPowers = "^";
 constexpr std::string_view kProducts = "*";
 constexpr std::string_view kSums = "+-";
@@ -30,187 +34,207 @@ bool Is(MatrixPunctuation mark, const MatrixToken& token) {
   return held != nullptr && *held == mark;
 }
 
-bool IsUsedUp(const MatrixToken& token) {
-  return std::holds_alternative<UsedUp>(token);
+bool IsOperation(const MatrixToken& token) {
+  return std::holds_alternative<MatrixOperator>(token) ||
+         std::holds_alternative<MatrixFunction>(token);
 }
+
+/// Reduces tokens in their places; what is used up stays as UsedUp.
+class MatrixReducer {
+ public:
+  MatrixReducer(MatrixTokens tokens, const Matrices& matrices, TemporaryMatrices& files)
+      : tokens_(std::move(tokens)), matrices_(matrices), files_(files) {}
+  ~MatrixReducer() {
+    for (std::size_t i = 0; i < tokens_.size(); ++i) UseUp(i);
+  }
+  MatrixReducer(const MatrixReducer&) = delete;
+  MatrixReducer& operator=(const MatrixReducer&) = delete;
+
+  CalcResult<MatrixValue> Run() {
+    for (std::size_t i = 0; i < tokens_.size(); ++i) {
+      if (!Is(MatrixPunctuation::Close, tokens_[i])) continue;
+      if (auto failure = ReduceGroup(i)) return *std::move(failure);
+    }
+    if (auto failure = ReduceOperators({0, tokens_.size()})) return *std::move(failure);
+    return TakeAnswer();
+  }
+
+ private:
+  /// Tokens from `first` to before `end`.
+  struct Range {
+    std::size_t first;
+    std::size_t end;
+  };
+  using Failure = std::optional<CalcError>;
+
+  Failure ReduceGroup(std::size_t close) {
+    std::size_t open = close;
+    while (!Is(MatrixPunctuation::Open, tokens_[open])) {
+      if (open == 0) return ExpressionError();
+      --open;
+    }
+    const Range inside{open + 1, close};
+    if (auto failure = ReduceOperators(inside)) return failure;
+    UseUp(open);
+    UseUp(close);
+    const bool isCall = open > 0 && std::holds_alternative<MatrixFunction>(tokens_[open - 1]);
+    return isCall ? ReduceFunction(open - 1, inside) : std::nullopt;
+  }
+
+  Failure ReduceOperators(Range range) {
+    if (auto failure = ReduceSigns(range)) return failure;
+    for (const std::string_view symbols : {kPowers, kProducts, kSums}) {
+      if (auto failure = ReduceLevel(range, symbols)) return failure;
+    }
+    return std::nullopt;
+  }
+
+  // From the right, so that of a chain of signs the one nearest to the value comes first.
+  Failure ReduceSigns(Range range) {
+    for (std::size_t i = range.end; i-- > range.first;) {
+      if (!IsOneOf(kSums, tokens_[i]) || ValueBefore(i, range)) continue;
+      const auto value = ValueAfter(i, range);
+      if (!value) return ExpressionError();
+      if (auto failure = ReduceSign(i, *value)) return failure;
+    }
+    return std::nullopt;
+  }
+
+  Failure ReduceSign(std::size_t sign, std::size_t value) {
+    if (*std::get_if<MatrixOperator>(&tokens_[sign]) == MatrixOperator::Add) {
+      UseUp(sign);
+      return std::nullopt;
+    }
+    const auto operand = Load(value);
+    if (!operand) return operand.error();
+    UseUp(value);
+    return Replace(sign, Negate(*operand));
+  }
+
+  Failure ReduceLevel(Range range, std::string_view symbols) {
+    for (std::size_t i = range.first; i < range.end; ++i) {
+      if (!IsOneOf(symbols, tokens_[i])) continue;
+      const auto left = ValueBefore(i, range);
+      const auto right = ValueAfter(i, range);
+      if (!left || !right) return ExpressionError();
+      if (auto failure = ReduceOperator(*left, i, *right)) return failure;
+    }
+    return std::nullopt;
+  }
+
+  Failure ReduceOperator(std::size_t left, std::size_t symbol, std::size_t right) {
+    const auto a = Load(left);
+    if (!a) return a.error();
+    const auto b = Load(right);
+    if (!b) return b.error();
+    auto result = CombineOperands(*a, *std::get_if<MatrixOperator>(&tokens_[symbol]), *b);
+    UseUp(symbol);
+    UseUp(right);
+    return Replace(left, std::move(result));
+  }
+
+  Failure ReduceFunction(std::size_t function, Range inside) {
+    const MatrixFunction code = *std::get_if<MatrixFunction>(&tokens_[function]);
+    std::array<MatrixOperand, kMostMatrixArguments> operands;
+    MatrixArguments arguments{};
+    for (std::size_t i = 0; i < RowOf(code).argumentCount; ++i) {
+      const std::size_t value = FirstValue(inside);
+      if (value == inside.end) break;
+      auto operand = Load(value);
+      if (!operand) return std::move(operand).error();
+      operands[i] = *std::move(operand);
+      arguments[i] = MatrixIn(operands[i]);
+      // With the comma in front of it.
+      while (inside.first <= value) UseUp(inside.first++);
+    }
+    auto result = ApplyMatrixFunction(code, arguments);
+    if (!result) return std::move(result).error();
+    return Replace(function, MatrixOrNumber(*std::move(result)));
+  }
+
+  std::optional<std::size_t> ValueAt(std::size_t index) const {
+    return IsValue(tokens_[index]) ? std::optional(index) : std::nullopt;
+  }
+  // The nearest token of `range` that is not used up, if that is a value.
+  std::optional<std::size_t> ValueBefore(std::size_t index, Range range) const {
+    while (index-- > range.first) {
+      if (!std::holds_alternative<UsedUp>(tokens_[index])) return ValueAt(index);
+    }
+    return std::nullopt;
+  }
+  std::optional<std::size_t> ValueAfter(std::size_t index, Range range) const {
+    while (++index < range.end) {
+      if (!std::holds_alternative<UsedUp>(tokens_[index])) return ValueAt(index);
+    }
+    return std::nullopt;
+  }
+  /// `range.end` if there is none.
+  std::size_t FirstValue(Range range) const {
+    while (range.first < range.end && !IsValue(tokens_[range.first])) ++range.first;
+    return range.first;
+  }
+
+  /// What the value token at `index` stands for.
+  CalcResult<MatrixOperand> Load(std::size_t index) const {
+    const MatrixToken& token = tokens_[index];
+    if (const auto* number = std::get_if<double>(&token)) return MatrixOperand(*number);
+    if (const auto* slot = std::get_if<MatrixSlot>(&token)) {
+      return MatrixOperand(&matrices_[static_cast<std::size_t>(slot->index)]);
+    }
+    auto matrix = files_.Read(std::get_if<MatrixFileName>(&token)->name);
+    if (!matrix) return NoRoomForMatrix();
+    return MatrixOperand(*std::move(matrix));
+  }
+
+  /// Puts `result` into the place `index`, a matrix through a file if anything will read it.
+  Failure Replace(std::size_t index, CalcResult<MatrixOrNumber> result) {
+    UseUp(index);
+    if (!result) return std::move(result).error();
+    if (const double* number = std::get_if<double>(&*result)) {
+      tokens_[index] = *number;
+      return std::nullopt;
+    }
+    auto& matrix = *std::get_if<MatrixValue>(&*result);
+    if (std::none_of(tokens_.begin(), tokens_.end(), IsOperation)) {
+      tokens_[index] = MatrixSlot{kAnswerMatrix};
+      answer_ = std::move(matrix);
+      return std::nullopt;
+    }
+    MatrixFileName file{TemporaryMatrices::NameOf(static_cast<int>(index))};
+    if (!files_.Write(file.name, matrix)) return NoRoomForMatrix();
+    tokens_[index] = std::move(file);
+    return std::nullopt;
+  }
+
+  void UseUp(std::size_t index) {
+    if (const auto* file = std::get_if<MatrixFileName>(&tokens_[index])) files_.Remove(file->name);
+    tokens_[index] = UsedUp{};
+  }
+
+  CalcResult<MatrixValue> TakeAnswer() {
+    const Range all{0, tokens_.size()};
+    const std::size_t only = FirstValue(all);
+    if (only == all.end || FirstValue({only + 1, all.end}) != all.end) return ExpressionError();
+    if (answer_) return *std::move(answer_);
+    auto operand = Load(only);
+    if (!operand) return std::move(operand).error();
+    if (auto* read = std::get_if<MatrixValue>(&*operand)) return std::move(*read);
+    const MatrixValue* matrix = MatrixIn(*operand);
+    if (matrix == nullptr) return ExpressionError();
+    return *matrix;
+  }
+
+  MatrixTokens tokens_;
+  const Matrices& matrices_;
+  TemporaryMatrices& files_;
+  std::optional<MatrixValue> answer_;  ///< the last operation's result
+};
 
 }  // namespace
 
-MatrixReducer::~MatrixReducer() {
-  for (std::size_t i = 0; i < tokens_.size(); ++i) UseUp(i);
-}
-
-CalcResult<MatrixValue> MatrixReducer::Run() {
-  for (std::size_t i = 0; i < tokens_.size(); ++i) {
-    if (!Is(MatrixPunctuation::Close, tokens_[i])) continue;
-    if (auto failure = ReduceGroup(i)) return *std::move(failure);
-  }
-  if (auto failure = ReduceOperators({0, tokens_.size()})) return *std::move(failure);
-  return TakeAnswer();
-}
-
-MatrixReducer::Failure MatrixReducer::ReduceGroup(std::size_t close) {
-  std::size_t open = close;
-  while (!Is(MatrixPunctuation::Open, tokens_[open])) {
-    if (open == 0) return ExpressionError();
-    --open;
-  }
-  const Range inside{open + 1, close};
-  if (auto failure = ReduceOperators(inside)) return failure;
-  UseUp(open);
-  UseUp(close);
-  const bool isCall = open > 0 && std::holds_alternative<MatrixFunction>(tokens_[open - 1]);
-  return isCall ? ReduceFunction(open - 1, inside) : std::nullopt;
-}
-
-MatrixReducer::Failure MatrixReducer::ReduceOperators(Range range) {
-  if (auto failure = ReduceSigns(range)) return failure;
-  for (const std::string_view symbols : {kPowers, kProducts, kSums}) {
-    if (auto failure = ReduceLevel(range, symbols)) return failure;
-  }
-  return std::nullopt;
-}
-
-// From the right, so that of a chain of signs the one nearest to the value comes first.
-MatrixReducer::Failure MatrixReducer::ReduceSigns(Range range) {
-  for (std::size_t i = range.end; i-- > range.first;) {
-    if (!IsOneOf(kSums, tokens_[i]) || IsValueAt(UnusedBefore(i, range), range)) continue;
-    const std::size_t value = UnusedFrom(i + 1, range);
-    if (!IsValueAt(value, range)) return ExpressionError();
-    if (auto failure = ReduceSign(i, value)) return failure;
-  }
-  return std::nullopt;
-}
-
-MatrixReducer::Failure MatrixReducer::ReduceSign(std::size_t sign, std::size_t value) {
-  if (*std::get_if<MatrixOperator>(&tokens_[sign]) == MatrixOperator::Add) {
-    UseUp(sign);
-    return std::nullopt;
-  }
-  const auto operand = Load(value);
-  if (!operand) return operand.error();
-  UseUp(value);
-  return Replace(sign, Negate(*operand));
-}
-
-MatrixReducer::Failure MatrixReducer::ReduceLevel(Range range, std::string_view symbols) {
-  for (std::size_t i = range.first; i < range.end; ++i) {
-    if (!IsOneOf(symbols, tokens_[i])) continue;
-    const std::size_t left = UnusedBefore(i, range);
-    const std::size_t right = UnusedFrom(i + 1, range);
-    if (!IsValueAt(left, range) || !IsValueAt(right, range)) return ExpressionError();
-    if (auto failure = ReduceOperator(left, i, right)) return failure;
-  }
-  return std::nullopt;
-}
-
-MatrixReducer::Failure MatrixReducer::ReduceOperator(std::size_t left, std::size_t symbol,
-                                                     std::size_t right) {
-  const auto a = Load(left);
-  if (!a) return a.error();
-  const auto b = Load(right);
-  if (!b) return b.error();
-  auto result = CombineOperands(*a, *std::get_if<MatrixOperator>(&tokens_[symbol]), *b);
-  UseUp(symbol);
-  UseUp(right);
-  return Replace(left, std::move(result));
-}
-
-MatrixReducer::Failure MatrixReducer::ReduceFunction(std::size_t function, Range inside) {
-  const MatrixFunction code = *std::get_if<MatrixFunction>(&tokens_[function]);
-  std::array<MatrixOperand, kMostMatrixArguments> operands;
-  MatrixArguments arguments{};
-  std::size_t end = inside.first;
-  for (std::size_t i = 0; i < RowOf(code).argumentCount; ++i) {
-    const std::size_t value = ValueFrom(end, inside);
-    if (value == inside.end) break;
-    auto operand = Load(value);
-    if (!operand) return std::move(operand).error();
-    operands[i] = *std::move(operand);
-    arguments[i] = MatrixIn(operands[i]);
-    end = value + 1;
-  }
-  for (std::size_t i = inside.first; i < end; ++i) UseUp(i);
-  auto result = ApplyMatrixFunction(code, arguments);
-  if (!result) return std::move(result).error();
-  return Replace(function, MatrixOrNumber(*std::move(result)));
-}
-
-std::size_t MatrixReducer::UnusedBefore(std::size_t index, Range range) const {
-  while (index-- > range.first) {
-    if (!IsUsedUp(tokens_[index])) return index;
-  }
-  return range.end;
-}
-
-std::size_t MatrixReducer::UnusedFrom(std::size_t index, Range range) const {
-  while (index < range.end && IsUsedUp(tokens_[index])) ++index;
-  return index;
-}
-
-std::size_t MatrixReducer::ValueFrom(std::size_t index, Range range) const {
-  while (index < range.end && !IsValue(tokens_[index])) ++index;
-  return index;
-}
-
-bool MatrixReducer::IsValueAt(std::size_t index, Range range) const {
-  return index != range.end && IsValue(tokens_[index]);
-}
-
-CalcResult<MatrixOperand> MatrixReducer::Load(std::size_t index) const {
-  const MatrixToken& token = tokens_[index];
-  if (const auto* number = std::get_if<double>(&token)) return MatrixOperand(*number);
-  if (const auto* slot = std::get_if<MatrixSlot>(&token)) {
-    return MatrixOperand(&matrices_[static_cast<std::size_t>(slot->index)]);
-  }
-  auto matrix = files_.Read(std::get_if<MatrixFileName>(&token)->name);
-  if (!matrix) return NoRoomForMatrix();
-  return MatrixOperand(*std::move(matrix));
-}
-
-MatrixReducer::Failure MatrixReducer::Replace(std::size_t index,
-                                              CalcResult<MatrixOrNumber> result) {
-  UseUp(index);
-  if (!result) return std::move(result).error();
-  if (const double* number = std::get_if<double>(&*result)) {
-    tokens_[index] = *number;
-    return std::nullopt;
-  }
-  auto& matrix = *std::get_if<MatrixValue>(&*result);
-  if (!IsAnyOperationLeft()) {
-    tokens_[index] = MatrixSlot{kAnswerMatrix};
-    answer_ = std::move(matrix);
-    return std::nullopt;
-  }
-  MatrixFileName file{TemporaryMatrices::NameOf(static_cast<int>(index))};
-  if (!files_.Write(file.name, matrix)) return NoRoomForMatrix();
-  tokens_[index] = std::move(file);
-  return std::nullopt;
-}
-
-void MatrixReducer::UseUp(std::size_t index) {
-  if (const auto* file = std::get_if<MatrixFileName>(&tokens_[index])) files_.Remove(file->name);
-  tokens_[index] = UsedUp{};
-}
-
-bool MatrixReducer::IsAnyOperationLeft() const {
-  return std::any_of(tokens_.begin(), tokens_.end(), [](const MatrixToken& token) {
-    return std::holds_alternative<MatrixOperator>(token) ||
-           std::holds_alternative<MatrixFunction>(token);
-  });
-}
-
-CalcResult<MatrixValue> MatrixReducer::TakeAnswer() {
-  const Range all{0, tokens_.size()};
-  const std::size_t only = ValueFrom(0, all);
-  if (only == all.end || ValueFrom(only + 1, all) != all.end) return ExpressionError();
-  if (answer_) return *std::move(answer_);
-  auto operand = Load(only);
-  if (!operand) return std::move(operand).error();
-  if (auto* read = std::get_if<MatrixValue>(&*operand)) return std::move(*read);
-  const MatrixValue* matrix = MatrixIn(*operand);
-  if (matrix == nullptr) return ExpressionError();
-  return *matrix;
+CalcResult<MatrixValue> ReduceMatrixTokens(MatrixTokens tokens, const Matrices& matrices,
+                                           TemporaryMatrices& files) {
+  return MatrixReducer(std::move(tokens), matrices, files).Run();
 }
 
 }  // namespace kav

@@ -15,7 +15,6 @@
 
 #include "common/number_text.h"
 #include "matrix/matrix_file.h"
-#include "matrix/matrix_text.h"
 #include "settings/atomic_file.h"
 
 namespace kav {

@@ -58,7 +58,7 @@ TEST(MatrixEdits, NothingToUndoChangesNothing) {
 TEST(MatrixEdits, ChangeIntoTheSameIsNoStep) {
   MatrixEdits edits = OnesOnly();
   edits.Change(0, MatrixOf(u"1"));
-  edits.Change(0, MatrixSheet{MatrixOf(u"1"), UniformWidths(60)});
+  edits.Change(0, MatrixOf(u"1"), UniformWidths(60));
   EXPECT_FALSE(edits.CanUndo());
 }
 
@@ -77,7 +77,7 @@ TEST(MatrixEdits, WidthsComeBackOnlyWithTheStepThatChangedThem) {
   edits.SetWidths(0, UniformWidths(99));
   edits.Undo();
   EXPECT_EQ(edits.Widths(0), UniformWidths(99));
-  edits.Change(0, MatrixSheet{MatrixOf(u"1"), UniformWidths(30)});
+  edits.Change(0, MatrixOf(u"1"), UniformWidths(30));
   EXPECT_EQ(edits.Widths(0), UniformWidths(30));
   edits.Undo();
   EXPECT_EQ(edits.Widths(0), UniformWidths(99));

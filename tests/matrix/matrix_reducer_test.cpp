@@ -26,10 +26,10 @@ const Matrices& Slots() {
 std::string Reduced(const std::string& text, TemporaryMatrices& files) {
   auto tokens = TokenizeMatrixExpression(text);
   if (!tokens) return "no tokens";
-  return Spelled(MatrixReducer(*std::move(tokens), Slots(), files).Run());
+  return Spelled(ReduceMatrixTokens(*std::move(tokens), Slots(), files));
 }
 
-TEST(MatrixReducer, GroupsComeFirstThenSignsThenPowersThenProductsThenSums) {
+TEST(ReduceMatrixTokens, GroupsComeFirstThenSignsThenPowersThenProductsThenSums) {
   const TemporaryFolder parent;
   TemporaryMatrices files(parent.Path());
   const struct {
@@ -77,7 +77,7 @@ TEST(MatrixReducer, GroupsComeFirstThenSignsThenPowersThenProductsThenSums) {
   for (const auto& row : rows) EXPECT_EQ(Reduced(row.text, files), row.result) << row.text;
 }
 
-TEST(MatrixReducer, AnythingButOneMatrixAtTheEndIsAnError) {
+TEST(ReduceMatrixTokens, AnythingButOneMatrixAtTheEndIsAnError) {
   const TemporaryFolder parent;
   TemporaryMatrices files(parent.Path());
   const char* const rows[] = {
@@ -105,7 +105,7 @@ TEST(MatrixReducer, AnythingButOneMatrixAtTheEndIsAnError) {
   }
 }
 
-TEST(MatrixReducer, TheFirstThatCannotBeDoneTellsWhy) {
+TEST(ReduceMatrixTokens, TheFirstThatCannotBeDoneTellsWhy) {
   const TemporaryFolder parent;
   TemporaryMatrices files(parent.Path());
   const struct {
@@ -127,7 +127,7 @@ TEST(MatrixReducer, TheFirstThatCannotBeDoneTellsWhy) {
   }
 }
 
-TEST(MatrixReducer, OnlyWhatALaterOperationReadsTouchesTheDisk) {
+TEST(ReduceMatrixTokens, OnlyWhatALaterOperationReadsTouchesTheDisk) {
   const TemporaryFolder folder;
   PutFile(folder.File("file"), "");
   TemporaryMatrices files(folder.File("file"));
@@ -153,7 +153,7 @@ TEST(MatrixReducer, OnlyWhatALaterOperationReadsTouchesTheDisk) {
   for (const auto& row : rows) EXPECT_EQ(Reduced(row.text, files), row.result) << row.text;
 }
 
-TEST(MatrixReducer, AFileIsNumberedAfterTheTokenThatItsMatrixReplaces) {
+TEST(ReduceMatrixTokens, AFileIsNumberedAfterTheTokenThatItsMatrixReplaces) {
   // A folder of a file's name makes writing that file, and no other, fail.
   const struct {
     const char* text;
@@ -183,7 +183,7 @@ TEST(MatrixReducer, AFileIsNumberedAfterTheTokenThatItsMatrixReplaces) {
   }
 }
 
-TEST(MatrixReducer, LeavesNoFileBehind) {
+TEST(ReduceMatrixTokens, LeavesNoFileBehind) {
   const TemporaryFolder parent;
   TemporaryMatrices files(parent.Path());
   const char* const rows[] = {

@@ -1,4 +1,5 @@
-#include "matrix/matrix_text.h"
+// The text format of matrices; for loading and saving see matrix_file_test.
+#include "matrix/matrix_file.h"
 
 #include <gtest/gtest.h>
 
