@@ -1,5 +1,4 @@
-// What the operators of matrix expressions do to their operands, which are numbers as well as
-// matrices.
+// What the operators of matrix expressions do to their operands: numbers and matrices.
 #pragma once
 
 #include <variant>
@@ -13,14 +12,14 @@ namespace kav {
 /// A number, a matrix that must outlive the operand, or a matrix of its own.
 using MatrixOperand = std::variant<double, const MatrixValue*, MatrixValue>;
 
-/// The matrix of `operand`, which must outlive it; null for a number.
+/// The matrix of `operand`, as long as that lives; null for a number.
 const MatrixValue* MatrixIn(const MatrixOperand& operand);
 
 using MatrixOrNumber = std::variant<double, MatrixValue>;
 
-/// `left` and `right` combined by `symbol`. A sum, difference or product of a matrix and a number
-/// is one of each cell and the number. A cell out of range holds the message "Out of range(overflow
-/// or underflow)", which reads as 0, if both are matrices. Fails with
+/// `left` and `right` combined by `symbol`; a matrix and a number cell by cell, except for powers.
+/// Between two matrices a cell out of range takes the message "Out of range(overflow or
+/// underflow)", which reads as 0. Fails with
 /// - CalcErrorCode::OutOfRange if an operand or the result is a number that is not finite, or if a
 ///   cell of a matrix and a number is out of range,
 /// - CalcErrorCode::Expression for a matrix as exponent,

@@ -1,4 +1,4 @@
-// The four matrices, the one of them that is shown, and the matrix clipboard.
+// The four matrices, which of them is shown, and the matrix clipboard.
 #pragma once
 
 #include <optional>
@@ -24,7 +24,7 @@ class MatrixBoard {
   int ShownIndex() const { return shown_; }
   const MatrixValue& Shown() const { return edits_.Matrix(shown_); }
   const ColumnWidths& Widths() const { return edits_.Widths(shown_); }
-  /// All but that of the header column, which never changes.
+  /// Takes all widths except that of the header column, which never changes.
   void SetWidths(const ColumnWidths& widths);
   /// Ends a lock. Does nothing if there is no matrix `index`.
   void Show(int index);
@@ -43,8 +43,8 @@ class MatrixBoard {
   void SetCell(int row, int column, std::u16string text);
   void ClearCells(const CellRange& cells);
   void Resize(int rows, int columns);
-  /// Those of `cells` that the matrix has, as PrintCells writes them; all cells if `cells` is one
-  /// cell.
+  /// The cells of the matrix that are in `cells`, as PrintCells writes them; all of the matrix if
+  /// `cells` is one cell.
   std::u16string CopyCells(const CellRange& cells) const;
   /// Writes the numbers that ReadCells finds in `text` from a cell on; the matrix grows for them.
   /// What the user is to be told about those that were left out.

@@ -14,32 +14,20 @@ constexpr char kValue = '0';
 constexpr char kFunction = 'F';
 constexpr char kNothing = '.';
 
-/// The roles that may stand before and after each of `roles`.
+/// The roles that may follow each of `roles`.
 struct OrderRow {
   std::string_view roles;
-  std::string_view before;
-  std::string_view after;
+  std::string_view followers;
 };
 
-constexpr std::string_view kAll = "0F()+-*^,.";
 constexpr std::array kOrder{
-    OrderRow{"0", "0F(+-*^,.", "0)+-*^,."},
-    OrderRow{"F", kAll, "("},
-    OrderRow{"(", "0F(+-*^,.", "0F(+-*^,."},
-    OrderRow{")", "0F)+-*^,.", "0F)+-*^,."},
-    OrderRow{"+-", kAll, "0F(+-"},
-    OrderRow{"*^", "0)", "0F(+-"},
-    OrderRow{",", "0)", "0("},
-    OrderRow{".", kAll, kAll},
+    OrderRow{".", "0F()+-."}, OrderRow{"0", "0)+-*^,."}, OrderRow{"F", "("},
+    OrderRow{"(", "0F(+-."},  OrderRow{")", "F)+-*^,."}, OrderRow{"+-*^", "0F(+-"},
+    OrderRow{",", "0("},
 };
 
 bool Holds(std::string_view roles, char role) {
   return roles.find(role) != roles.npos;
-}
-
-const OrderRow& RowOf(char role) {
-  return *std::find_if(kOrder.begin(), kOrder.end(),
-                       [&](const OrderRow& row) { return Holds(row.roles, role); });
 }
 
 char RoleOf(const MatrixToken& token) {
@@ -49,7 +37,9 @@ char RoleOf(const MatrixToken& token) {
 }
 
 bool MayFollow(char left, char right) {
-  return Holds(RowOf(left).after, right) && Holds(RowOf(right).before, left);
+  return std::any_of(kOrder.begin(), kOrder.end(), [&](const OrderRow& row) {
+    return Holds(row.roles, left) && Holds(row.followers, right);
+  });
 }
 
 bool NeighboursMatch(const MatrixTokens& tokens) {

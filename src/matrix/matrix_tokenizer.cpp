@@ -16,6 +16,10 @@ namespace {
 /// kMatrixNames in lower case.
 constexpr std::array<std::string_view, kMatrixCount> kNames{"[m1]", "[m2]", "[m3]", "[m ans]"};
 
+// The values of MatrixOperator and of MatrixPunctuation.
+constexpr std::string_view kOperators = "^+-*";
+constexpr std::string_view kPunctuation = "(),";
+
 /// Digits, '.', 'e', and a sign directly behind an 'e'.
 std::string_view TakeNumber(TokenReader& reader) {
   char before = 0;
@@ -64,21 +68,11 @@ CalcResult<MatrixToken> ReadFunction(TokenReader& reader) {
 
 CalcResult<MatrixToken> ReadSymbol(TokenReader& reader) {
   const char c = reader.Peek();
-  switch (c) {
-    case '^':
-    case '+':
-    case '-':
-    case '*':
-      reader.Skip();
-      return MatrixToken(static_cast<MatrixOperator>(c));
-    case '(':
-    case ')':
-    case ',':
-      reader.Skip();
-      return MatrixToken(static_cast<MatrixPunctuation>(c));
-    default:
-      return UnsupportedCharacter(reader);
-  }
+  const bool isOperator = kOperators.find(c) != kOperators.npos;
+  if (!isOperator && kPunctuation.find(c) == kPunctuation.npos) return UnsupportedCharacter(reader);
+  reader.Skip();
+  if (isOperator) return MatrixToken(static_cast<MatrixOperator>(c));
+  return MatrixToken(static_cast<MatrixPunctuation>(c));
 }
 
 CalcResult<MatrixToken> ReadToken(TokenReader& reader) {
