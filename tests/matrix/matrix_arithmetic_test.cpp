@@ -8,9 +8,9 @@
 #include <variant>
 
 #include "common/number_text.h"
-#include "matrix/matrices.h"
 #include "matrix/matrix_operations.h"
 #include "support/expect_matrix.h"
+#include "support/matrix_table.h"
 
 namespace kav {
 namespace {
@@ -51,22 +51,22 @@ TEST(CombineOperands, EachPairOfKindsHasItsRule) {
       {2.0, Multiply, 3.0, "6"},
       {2.0, Power, 3.0, "8"},
       {2.0, Power, -1.0, "0.5"},
-      {Matrix("1 2;3 4"), Add, 10.0, "11 12;13 14"},
-      {Matrix("1 2;3 4"), Subtract, 10.0, "-9 -8;-7 -6"},
-      {Matrix("1 2;3 4"), Multiply, 10.0, "10 20;30 40"},
-      {Matrix("1 2;3 4"), Power, 2.0, "7 10;15 22"},
-      {10.0, Add, Matrix("1 2;3 4"), "11 12;13 14"},
-      {10.0, Subtract, Matrix("1 2;3 4"), "9 8;7 6"},
-      {10.0, Multiply, Matrix("1 2;3 4"), "10 20;30 40"},
-      {10.0, Power, Matrix("1 2;3 4"), "error: Expression error."},
-      {Matrix("1 2;3 4"), Add, Matrix("1 1;1 1"), "2 3;4 5"},
-      {Matrix("1 2;3 4"), Subtract, Matrix("1 1;1 1"), "0 1;2 3"},
-      {Matrix("1 2;3 4"), Multiply, Matrix("1 1;1 1"), "3 3;7 7"},
-      {Matrix("1 2;3 4"), Power, Matrix("1 1;1 1"), "error: Expression error."},
-      {Matrix("1 2;3 4"), Add, Matrix("1 1"), "error: [Matrix Addition(+)] Matrix Size Mismatch"},
-      {Matrix("1 2;3 4"), Subtract, Matrix("1 1"),
+      {Matrix("1 2; 3 4"), Add, 10.0, "11 12; 13 14"},
+      {Matrix("1 2; 3 4"), Subtract, 10.0, "-9 -8; -7 -6"},
+      {Matrix("1 2; 3 4"), Multiply, 10.0, "10 20; 30 40"},
+      {Matrix("1 2; 3 4"), Power, 2.0, "7 10; 15 22"},
+      {10.0, Add, Matrix("1 2; 3 4"), "11 12; 13 14"},
+      {10.0, Subtract, Matrix("1 2; 3 4"), "9 8; 7 6"},
+      {10.0, Multiply, Matrix("1 2; 3 4"), "10 20; 30 40"},
+      {10.0, Power, Matrix("1 2; 3 4"), "error: Expression error."},
+      {Matrix("1 2; 3 4"), Add, Matrix("1 1; 1 1"), "2 3; 4 5"},
+      {Matrix("1 2; 3 4"), Subtract, Matrix("1 1; 1 1"), "0 1; 2 3"},
+      {Matrix("1 2; 3 4"), Multiply, Matrix("1 1; 1 1"), "3 3; 7 7"},
+      {Matrix("1 2; 3 4"), Power, Matrix("1 1; 1 1"), "error: Expression error."},
+      {Matrix("1 2; 3 4"), Add, Matrix("1 1"), "error: [Matrix Addition(+)] Matrix Size Mismatch"},
+      {Matrix("1 2; 3 4"), Subtract, Matrix("1 1"),
        "error: [Matrix Subtration(-)] Matrix Size Mismatch"},
-      {Matrix("1 2;3 4"), Multiply, Matrix("1 1"),
+      {Matrix("1 2; 3 4"), Multiply, Matrix("1 1"),
        "error: [Matrix Multiplication(*)] Matrix Size Mismatch"},
       {Matrix("1 2"), Power, 2.0, "error: [Matrix Power(^)] Matrix Size Mismatch"},
   };
@@ -106,9 +106,9 @@ TEST(CombineOperands, ANumberAndAMatrixOutOfRangeFail) {
 }
 
 TEST(CombineOperands, AMatrixMayStandElsewhere) {
-  EXPECT_EQ(Told(CombineOperands(&kSquare, Multiply, &kColumn)), "17;39");
-  EXPECT_EQ(Told(CombineOperands(&kSquare, Add, 1.0)), "2 3;4 5");
-  EXPECT_EQ(Told(Negate(&kSquare)), "-1 -2;-3 -4");
+  EXPECT_EQ(Told(CombineOperands(&kSquare, Multiply, &kColumn)), "17; 39");
+  EXPECT_EQ(Told(CombineOperands(&kSquare, Add, 1.0)), "2 3; 4 5");
+  EXPECT_EQ(Told(Negate(&kSquare)), "-1 -2; -3 -4");
 }
 
 TEST(MatrixIn, IsTheMatrixOfAnOperandAndNullForANumber) {
@@ -121,7 +121,7 @@ TEST(MatrixIn, IsTheMatrixOfAnOperandAndNullForANumber) {
 TEST(Negate, TurnsTheSignOfANumberAndOfEveryCell) {
   EXPECT_EQ(Told(Negate(2.5)), "-2.5");
   EXPECT_EQ(Told(Negate(-2.5)), "2.5");
-  EXPECT_EQ(Told(Negate(Matrix("1 -2;0 x"))), "-1 2;0 0");
+  EXPECT_EQ(Told(Negate(Matrix("1 -2; 0 x"))), "-1 2; 0 0");
 }
 
 TEST(CombineOperands, SizesMustBeEqualToAdd) {

@@ -9,9 +9,9 @@
 #include <utility>
 #include <variant>
 
-#include "matrix/matrices.h"
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_operations.h"
+#include "support/matrix_table.h"
 #include "support/plain_matrix.h"
 #include "support/random.h"
 #include "support/temporary_folder.h"
@@ -215,8 +215,8 @@ class Writer {
 };
 
 TEST(MatrixEvaluator, RandomExpressionsHaveTheValueOfTheSecondEvaluation) {
-  const Matrices matrices{MatrixOf("1 2;3 5"), MatrixOf("0.5 -1;2 0.25"), MatrixOf("2 1;1 1"),
-                          MatrixOf("3;-4")};
+  const Matrices matrices{MatrixOf("1 2; 3 5"), MatrixOf("0.5 -1; 2 0.25"), MatrixOf("2 1; 1 1"),
+                          MatrixOf("3; -4")};
   const TemporaryFolder parent;
   TemporaryMatrices files(parent.Path());
   MatrixEvaluator evaluator(matrices, files);

@@ -5,7 +5,7 @@
 #include <chrono>
 #include <string>
 
-#include "matrix/matrices.h"
+#include "support/matrix_table.h"
 #include "support/temporary_folder.h"
 
 namespace kav {
@@ -25,30 +25,30 @@ class MatrixEvaluatorTest : public ::testing::Test {
     return Spelled(MatrixEvaluator(matrices_, files_).Evaluate(text));
   }
 
-  Matrices matrices_{MatrixOf("1 2;3 4"), MatrixOf("2 0;1 1"), MatrixOf("1 2 3;4 5 6"),
-                     MatrixOf("5;6")};
+  Matrices matrices_{MatrixOf("1 2; 3 4"), MatrixOf("2 0; 1 1"), MatrixOf("1 2 3; 4 5 6"),
+                     MatrixOf("5; 6")};
   TemporaryFolder parent_;
   TemporaryMatrices files_{parent_.Path()};
 };
 
 TEST_F(MatrixEvaluatorTest, ExpressionsHaveValues) {
   const Row rows[] = {
-      {"[M1]", "1 2;3 4"},
-      {"[m ANS]", "5;6"},
-      {"  [M1]+[M2]  ", "3 2;4 5"},
-      {"[M1]-[M2]", "-1 2;2 3"},
-      {"[M1]*[M2]", "4 2;10 4"},
-      {"[M1]*[M3]", "9 12 15;19 26 33"},
-      {"[M1]^0", "1 0;0 1"},
-      {"[M1]^1", "1 2;3 4"},
-      {"[M1]^3", "37 54;81 118"},
-      {"INVERSE([M2])", "0.5 0;-0.5 1"},
-      {"Transpose([M3])", "1 4;2 5;3 6"},
+      {"[M1]", "1 2; 3 4"},
+      {"[m ANS]", "5; 6"},
+      {"  [M1]+[M2]  ", "3 2; 4 5"},
+      {"[M1]-[M2]", "-1 2; 2 3"},
+      {"[M1]*[M2]", "4 2; 10 4"},
+      {"[M1]*[M3]", "9 12 15; 19 26 33"},
+      {"[M1]^0", "1 0; 0 1"},
+      {"[M1]^1", "1 2; 3 4"},
+      {"[M1]^3", "37 54; 81 118"},
+      {"INVERSE([M2])", "0.5 0; -0.5 1"},
+      {"Transpose([M3])", "1 4; 2 5; 3 6"},
       {"determinant([M1])", "-2"},
-      {"triangular([M1])", "1 2;0 -2"},
-      {"linearequation([M2],[M Ans])", "2.5;3.5"},
-      {"1E1*[M1]", "10 20;30 40"},
-      {"[M1]*2-1", "1 3;5 7"},
+      {"triangular([M1])", "1 2; 0 -2"},
+      {"linearequation([M2],[M Ans])", "2.5; 3.5"},
+      {"1E1*[M1]", "10 20; 30 40"},
+      {"[M1]*2-1", "1 3; 5 7"},
   };
   for (const auto& row : rows) EXPECT_EQ(Told(row.text), row.result) << row.text;
 }
@@ -103,17 +103,17 @@ TEST_F(MatrixEvaluatorTest, EveryMessage) {
 
 TEST_F(MatrixEvaluatorTest, TheCellsOfAResultThatOverflowsHoldTheMessage) {
   matrices_[0] = MatrixOf("1e200 1");
-  matrices_[1] = MatrixOf("1e200;1");
+  matrices_[1] = MatrixOf("1e200; 1");
   EXPECT_EQ(Told("[M1]*[M2]"), "Out of range(overflow or underflow)");
   EXPECT_EQ(Told("[M1]*[M2]+1"), "1");
 }
 
 TEST_F(MatrixEvaluatorTest, AMatrixThatIsTheWholeExpressionKeepsItsTexts) {
-  matrices_[0] = MatrixOf("+1.50 1e3;abc 007");
-  EXPECT_EQ(Told("[M1]"), "+1.50 1e3;abc 007");
-  EXPECT_EQ(Told("([M1])^1"), "+1.50 1e3;abc 007");
-  EXPECT_EQ(Told("transpose([M1])"), "+1.50 abc;1e3 007");
-  EXPECT_EQ(Told("--[M1]"), "1.5 1000;0 7");
+  matrices_[0] = MatrixOf("+1.50 1e3; abc 007");
+  EXPECT_EQ(Told("[M1]"), "+1.50 1e3; abc 007");
+  EXPECT_EQ(Told("([M1])^1"), "+1.50 1e3; abc 007");
+  EXPECT_EQ(Told("transpose([M1])"), "+1.50 abc; 1e3 007");
+  EXPECT_EQ(Told("--[M1]"), "1.5 1000; 0 7");
 }
 
 TEST_F(MatrixEvaluatorTest, OneCellOfZeroHasADeterminantAndNoInverse) {
@@ -123,7 +123,7 @@ TEST_F(MatrixEvaluatorTest, OneCellOfZeroHasADeterminantAndNoInverse) {
 }
 
 TEST_F(MatrixEvaluatorTest, OnlyTheDeterminantExchangesRowsForAZeroOnTop) {
-  matrices_[0] = MatrixOf("0 1;1 0");
+  matrices_[0] = MatrixOf("0 1; 1 0");
   EXPECT_EQ(Told("inverse([M1])"), "error: [Matrix Inverse] Not Invertible(Determinant Equals 0)");
   EXPECT_EQ(Told("determinant([M1])"), "-1");
 }
@@ -131,7 +131,7 @@ TEST_F(MatrixEvaluatorTest, OnlyTheDeterminantExchangesRowsForAZeroOnTop) {
 TEST_F(MatrixEvaluatorTest, SeventyOneTokensAreTheMost) {
   std::string text = "[M1]";
   for (int i = 0; i < 35; ++i) text += "+[M1]";
-  EXPECT_EQ(Told(text), "36 72;108 144");
+  EXPECT_EQ(Told(text), "36 72; 108 144");
   EXPECT_EQ(Told("+" + text), "error: number exceeded length limit.");
 }
 
@@ -145,7 +145,7 @@ TEST_F(MatrixEvaluatorTest, WithoutSpaceForIntermediateResultsNothingChanges) {
   for (std::size_t i = 0; i < before.size(); ++i) {
     EXPECT_TRUE(SameMatrix(matrices_[i], before[i])) << i;
   }
-  EXPECT_EQ(Spelled(evaluator.Evaluate("[M1]*[M2]")), "4 2;10 4");
+  EXPECT_EQ(Spelled(evaluator.Evaluate("[M1]*[M2]")), "4 2; 10 4");
 }
 
 TEST_F(MatrixEvaluatorTest, TheLongestExpressionOfTheLargestMatricesAnswersAtOnce) {

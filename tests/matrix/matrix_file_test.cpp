@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "matrix/matrices.h"
+#include "support/matrix_table.h"
 #include "support/temporary_folder.h"
 
 namespace kav {
@@ -69,9 +69,9 @@ TEST(SaveMatrixFile, WhatIsSavedIsLoadedAgain) {
   const TemporaryFolder folder;
   const std::string path = folder.File("ü.txt");
   PutFile(path, "old");
-  EXPECT_EQ(SaveMatrixFile(path, MatrixOf("1 2 3;4 5 6")), std::nullopt);
+  EXPECT_EQ(SaveMatrixFile(path, MatrixOf("1 2 3; 4 5 6")), std::nullopt);
   EXPECT_EQ(FileContent(path), "[2*3]\r\n1\t2\t3\r\n4\t5\t6\r\n");
-  EXPECT_EQ(Spelled(*LoadMatrixFile(path)), "1 2 3;4 5 6");
+  EXPECT_EQ(Spelled(*LoadMatrixFile(path)), "1 2 3; 4 5 6");
   EXPECT_EQ(folder.Names(), std::vector<std::string>{"ü.txt"});
 }
 
@@ -93,7 +93,7 @@ TEST(SaveMatrixFile, WithoutSpaceTheOldFileSurvives) {
               signal(SIGXFSZ, SIG_IGN);
               const rlimit limit{8, 8};
               if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return 2;
-              const auto told = SaveMatrixFile(folder.File("a"), MatrixOf("1 2;3 4"));
+              const auto told = SaveMatrixFile(folder.File("a"), MatrixOf("1 2; 3 4"));
               return told && told->find(u"the disk is full") != told->npos ? 0 : 1;
             }),
             0);

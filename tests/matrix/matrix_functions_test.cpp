@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "matrix/matrices.h"
+#include "support/matrix_table.h"
 
 namespace kav {
 namespace {
@@ -31,18 +31,18 @@ TEST(MatrixFunctions, HaveTheirCodesAndNames) {
 }
 
 TEST(ApplyMatrixFunction, EachFunctionIsItsOperation) {
-  const MatrixValue a = MatrixOf("2 1;1 1");
-  const MatrixValue b = MatrixOf("3;2");
+  const MatrixValue a = MatrixOf("2 1; 1 1");
+  const MatrixValue b = MatrixOf("3; 2");
   const struct {
     MatrixFunction function;
     MatrixArguments arguments;
     const char* result;
   } rows[] = {
-      {MatrixFunction::Inverse, {&a}, "1 -1;-1 2"},
+      {MatrixFunction::Inverse, {&a}, "1 -1; -1 2"},
       {MatrixFunction::Transpose, {&b}, "3 2"},
       {MatrixFunction::Determinant, {&a}, "1"},
-      {MatrixFunction::Triangular, {&a}, "2 1;0 0.5"},
-      {MatrixFunction::LinearEquation, {&a, &b}, "1;1"},
+      {MatrixFunction::Triangular, {&a}, "2 1; 0 0.5"},
+      {MatrixFunction::LinearEquation, {&a, &b}, "1; 1"},
       {MatrixFunction::Inverse, {&b}, "error: [Matrix Inverse] Matrix Size Mismatch"},
   };
   for (const auto& row : rows) {

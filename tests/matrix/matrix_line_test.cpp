@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "matrix/matrices.h"
+#include "support/matrix_table.h"
 
 namespace kav {
 namespace {
@@ -59,7 +59,8 @@ TEST(IsMatrixExpression, AnyOtherLineIsANumberExpression) {
 }
 
 TEST(FirstInvalidMatrix, IsTheFirstOfThoseNamedInTheirOwnOrder) {
-  const Matrices allEmpty{MatrixOf("1 ;3 4"), MatrixOf(";"), MatrixOf("1;"), MatrixOf(" ")};
+  const Matrices allEmpty{MatrixOf("1 _; 3 4"), MatrixOf("_; _"), MatrixOf("1; _"),
+                          MatrixOf("_ _")};
   const struct {
     const char16_t* line;
     std::optional<int> index;
@@ -84,7 +85,7 @@ TEST(FirstInvalidMatrix, IsTheFirstOfThoseNamedInTheirOwnOrder) {
 }
 
 TEST(FirstInvalidMatrix, OnlyCellsWithinTheSizeOfNamedMatricesCount) {
-  Matrices matrices{MatrixOf("1 2;3 4"), MatrixOf("1 ;"), MatrixOf("x"), MatrixValue{}};
+  Matrices matrices{MatrixOf("1 2; 3 4"), MatrixOf("1 _; _ _"), MatrixOf("x"), MatrixValue{}};
   EXPECT_EQ(FirstInvalidMatrix(u"[M1]+[M3]*[M Ans]", matrices), std::nullopt);
   EXPECT_EQ(FirstInvalidMatrix(u"[M1]+[M2]", matrices), 1);
   matrices[1].rows = matrices[1].columns = 1;

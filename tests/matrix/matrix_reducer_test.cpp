@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "matrix/matrices.h"
 #include "matrix/matrix_tokenizer.h"
+#include "support/matrix_table.h"
 #include "support/temporary_folder.h"
 
 namespace kav {
@@ -18,7 +18,7 @@ using test::Spelled;
 constexpr const char* kNoSpace = "error: System Error : Check your freespace on PDA";
 
 const Matrices& Slots() {
-  static const Matrices slots{MatrixOf("1 2;3 4"), MatrixOf("1 0;0 2"), MatrixOf("5;6"),
+  static const Matrices slots{MatrixOf("1 2; 3 4"), MatrixOf("1 0; 0 2"), MatrixOf("5; 6"),
                               MatrixOf("7 8")};
   return slots;
 }
@@ -36,43 +36,43 @@ TEST(ReduceMatrixTokens, GroupsComeFirstThenSignsThenPowersThenProductsThenSums)
     const char* text;
     const char* result;
   } rows[] = {
-      {"[m1]", "1 2;3 4"},
+      {"[m1]", "1 2; 3 4"},
       {"[m ans]", "7 8"},
-      {"([m1])", "1 2;3 4"},
-      {"(([m3]))", "5;6"},
-      {"[m1]+[m2]*2", "3 2;3 8"},
-      {"([m1]+[m2])*2", "4 4;6 12"},
-      {"2*[m1]^2", "14 20;30 44"},
-      {"[m1]*2^2", "4 8;12 16"},
-      {"[m1]^2^2", "199 290;435 634"},
-      {"[m1]*(2^3^2)", "64 128;192 256"},
-      {"[m1]-[m2]-[m2]", "-1 2;3 0"},
-      {"[m1]-([m2]-[m2])", "1 2;3 4"},
-      {"[m1]*[m2]*[m1]", "13 18;27 38"},
-      {"1-[m1]+[m2]", "1 -1;-2 -1"},
-      {"-[m1]", "-1 -2;-3 -4"},
-      {"+[m1]", "1 2;3 4"},
-      {"--[m1]", "1 2;3 4"},
-      {"-+-+[m1]", "1 2;3 4"},
-      {"-[m1]^2", "7 10;15 22"},
-      {"-2^2*[m1]", "4 8;12 16"},
-      {"2^-1*[m2]", "0.5 0;0 1"},
-      {"[m1]--[m2]", "2 2;3 6"},
-      {"[m1]-+-[m2]", "2 2;3 6"},
-      {"[m1]*-[m2]", "-1 -4;-3 -8"},
-      {"2*-[m1]", "-2 -4;-6 -8"},
-      {"-(-[m1])", "1 2;3 4"},
-      {"-transpose([m1])", "-1 -3;-2 -4"},
-      {"2*-transpose([m1])+[m2]", "-1 -6;-4 -6"},
-      {"+([m1]*[m2])", "1 4;3 8"},
-      {"transpose([m1]+[m2])", "2 3;2 6"},
-      {"transpose(transpose([m1]))", "1 2;3 4"},
+      {"([m1])", "1 2; 3 4"},
+      {"(([m3]))", "5; 6"},
+      {"[m1]+[m2]*2", "3 2; 3 8"},
+      {"([m1]+[m2])*2", "4 4; 6 12"},
+      {"2*[m1]^2", "14 20; 30 44"},
+      {"[m1]*2^2", "4 8; 12 16"},
+      {"[m1]^2^2", "199 290; 435 634"},
+      {"[m1]*(2^3^2)", "64 128; 192 256"},
+      {"[m1]-[m2]-[m2]", "-1 2; 3 0"},
+      {"[m1]-([m2]-[m2])", "1 2; 3 4"},
+      {"[m1]*[m2]*[m1]", "13 18; 27 38"},
+      {"1-[m1]+[m2]", "1 -1; -2 -1"},
+      {"-[m1]", "-1 -2; -3 -4"},
+      {"+[m1]", "1 2; 3 4"},
+      {"--[m1]", "1 2; 3 4"},
+      {"-+-+[m1]", "1 2; 3 4"},
+      {"-[m1]^2", "7 10; 15 22"},
+      {"-2^2*[m1]", "4 8; 12 16"},
+      {"2^-1*[m2]", "0.5 0; 0 1"},
+      {"[m1]--[m2]", "2 2; 3 6"},
+      {"[m1]-+-[m2]", "2 2; 3 6"},
+      {"[m1]*-[m2]", "-1 -4; -3 -8"},
+      {"2*-[m1]", "-2 -4; -6 -8"},
+      {"-(-[m1])", "1 2; 3 4"},
+      {"-transpose([m1])", "-1 -3; -2 -4"},
+      {"2*-transpose([m1])+[m2]", "-1 -6; -4 -6"},
+      {"+([m1]*[m2])", "1 4; 3 8"},
+      {"transpose([m1]+[m2])", "2 3; 2 6"},
+      {"transpose(transpose([m1]))", "1 2; 3 4"},
       {"determinant([m1])*[m2]", "error: [Matrix Multiplication(*)] Matrix Size Mismatch"},
       {"determinant(-[m1]*2)", "-8"},
-      {"linearequation([m2],[m3])", "5;3"},
-      {"linearequation([m2]*2,([m3]*2))", "5;3"},
-      {"linearequation([m2] [m3])", "5;3"},
-      {"inverse([m2])*linearequation([m2],[m3])", "5;1.5"},
+      {"linearequation([m2],[m3])", "5; 3"},
+      {"linearequation([m2]*2,([m3]*2))", "5; 3"},
+      {"linearequation([m2] [m3])", "5; 3"},
+      {"inverse([m2])*linearequation([m2],[m3])", "5; 1.5"},
   };
   for (const auto& row : rows) EXPECT_EQ(Reduced(row.text, files), row.result) << row.text;
 }
@@ -135,14 +135,14 @@ TEST(ReduceMatrixTokens, OnlyWhatALaterOperationReadsTouchesTheDisk) {
     const char* text;
     const char* result;
   } rows[] = {
-      {"[m1]", "1 2;3 4"},
-      {"+[m1]", "1 2;3 4"},
-      {"[m1]*[m2]", "1 4;3 8"},
-      {"(([m1]*[m2]))", "1 4;3 8"},
-      {"-[m1]", "-1 -2;-3 -4"},
-      {"(1+1)^2*[m1]", "4 8;12 16"},
-      {"inverse([m2])", "1 0;0 0.5"},
-      {"linearequation(([m2]),([m3]))", "5;3"},
+      {"[m1]", "1 2; 3 4"},
+      {"+[m1]", "1 2; 3 4"},
+      {"[m1]*[m2]", "1 4; 3 8"},
+      {"(([m1]*[m2]))", "1 4; 3 8"},
+      {"-[m1]", "-1 -2; -3 -4"},
+      {"(1+1)^2*[m1]", "4 8; 12 16"},
+      {"inverse([m2])", "1 0; 0 0.5"},
+      {"linearequation(([m2]),([m3]))", "5; 3"},
       {"[m1]*[m2]*[m2]", kNoSpace},
       {"--[m1]", kNoSpace},
       {"-[m1]^2", kNoSpace},

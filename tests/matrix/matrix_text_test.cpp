@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "matrix/matrices.h"
+#include "support/matrix_table.h"
 #include "support/random.h"
 
 namespace kav {
@@ -16,15 +16,15 @@ using test::MatrixOf;
 using test::Spelled;
 
 TEST(PrintMatrix, EachRowIsALineBehindTheHeader) {
-  EXPECT_EQ(PrintMatrix(MatrixOf("1 2;3 4")), "[2*2]\r\n1\t2\r\n3\t4\r\n");
-  EXPECT_EQ(PrintMatrix(MatrixOf("1 2 3;4 5 6")), "[2*3]\r\n1\t2\t3\r\n4\t5\t6\r\n");
+  EXPECT_EQ(PrintMatrix(MatrixOf("1 2; 3 4")), "[2*2]\r\n1\t2\r\n3\t4\r\n");
+  EXPECT_EQ(PrintMatrix(MatrixOf("1 2 3; 4 5 6")), "[2*3]\r\n1\t2\t3\r\n4\t5\t6\r\n");
   EXPECT_EQ(PrintMatrix(MatrixOf("-1.5e-07")), "[1*1]\r\n-1.5e-07\r\n");
-  EXPECT_EQ(PrintMatrix(MatrixOf("1;2")), "[2*1]\r\n1\r\n2\r\n");
+  EXPECT_EQ(PrintMatrix(MatrixOf("1; 2")), "[2*1]\r\n1\r\n2\r\n");
   EXPECT_EQ(PrintMatrix(MatrixValue{}), "[0*0]\r\n");
 }
 
 TEST(PrintMatrix, OnlyCellsWithinTheSizeAreWritten) {
-  MatrixValue matrix = MatrixOf("1 2;3 4");
+  MatrixValue matrix = MatrixOf("1 2; 3 4");
   matrix.rows = matrix.columns = 1;
   EXPECT_EQ(PrintMatrix(matrix), "[1*1]\r\n1\r\n");
 }
@@ -46,17 +46,17 @@ TEST(ReadMatrix, ReadsMatrices) {
     std::string text;
     const char* matrix;
   } rows[] = {
-      {"[2*2]\r\n1\t2\r\n3\t4\r\n", "1 2;3 4"},
-      {"[2*2]\n1\t2\n3\t4\n", "1 2;3 4"},
-      {"[2*2]\r\n1\t2\n3\t4", "1 2;3 4"},
+      {"[2*2]\r\n1\t2\r\n3\t4\r\n", "1 2; 3 4"},
+      {"[2*2]\n1\t2\n3\t4\n", "1 2; 3 4"},
+      {"[2*2]\r\n1\t2\n3\t4", "1 2; 3 4"},
       {"[1*1]\r\n7\r", "7"},
       {"[1*1]\r\n1,000\r\n", "1,000"},
-      {"[2.9*1.1]\r\n1\r\n2\r\n", "1;2"},
+      {"[2.9*1.1]\r\n1\r\n2\r\n", "1; 2"},
       {"[1e0*10]\r\n1\t2\t3\t4\t5\t6\t7\t8\t9\t10\r\n", "1 2 3 4 5 6 7 8 9 10"},
-      {"[10*1]\n1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n", "1;2;3;4;5;6;7;8;9;10"},
-      {"[1*2]\r\n\t\r\n", " "},
-      {"[1*1]\r\n\r\n", ""},
-      {"[2*1]\n\nx\n", ";x"},
+      {"[10*1]\n1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n", "1; 2; 3; 4; 5; 6; 7; 8; 9; 10"},
+      {"[1*2]\r\n\t\r\n", "_ _"},
+      {"[1*1]\r\n\r\n", "_"},
+      {"[2*1]\n\nx\n", "_; x"},
   };
   for (const auto& row : rows) {
     const auto matrix = ReadMatrix(row.text);

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "support/matrix_table.h"
-#include "support/plain_matrix.h"
 
 namespace kav {
 namespace {
@@ -34,7 +33,7 @@ TEST(MatrixOfSize, HasTheSizeAndNoTexts) {
   const MatrixValue matrix = MatrixOfSize(2, 3);
   EXPECT_EQ(matrix.rows, 2);
   EXPECT_EQ(matrix.columns, 3);
-  EXPECT_TRUE(SameMatrix(matrix, MatrixOf({{"", "", ""}, {"", "", ""}})));
+  EXPECT_TRUE(SameMatrix(matrix, MatrixOf("_ _ _; _ _ _")));
 }
 
 TEST(Resized, CellsStayWhereTheyAre) {
@@ -86,21 +85,21 @@ TEST(Cleared, CellsOfTheRangeThatThereAreBecomeEmpty) {
 }
 
 TEST(SameMatrix, ComparesSizesAndTexts) {
-  const MatrixValue matrix = MatrixOf({{"1", "2"}, {"3", "4"}});
+  const MatrixValue matrix = MatrixOf("1 2; 3 4");
   EXPECT_TRUE(SameMatrix(matrix, matrix));
   EXPECT_TRUE(SameMatrix(MatrixValue(), MatrixValue()));
-  EXPECT_FALSE(SameMatrix(matrix, MatrixOf({{"1", "2"}, {"3", "5"}})));
-  EXPECT_FALSE(SameMatrix(matrix, MatrixOf({{"1", "2"}})));
-  EXPECT_FALSE(SameMatrix(matrix, MatrixOf({{"1"}, {"3"}})));
+  EXPECT_FALSE(SameMatrix(matrix, MatrixOf("1 2; 3 5")));
+  EXPECT_FALSE(SameMatrix(matrix, MatrixOf("1 2")));
+  EXPECT_FALSE(SameMatrix(matrix, MatrixOf("1; 3")));
   EXPECT_FALSE(SameMatrix(matrix, MatrixValue()));
 }
 
 TEST(SameMatrix, EqualNumbersInOtherTextsDiffer) {
-  EXPECT_FALSE(SameMatrix(MatrixOf({{"1"}}), MatrixOf({{"1.0"}})));
+  EXPECT_FALSE(SameMatrix(MatrixOf("1"), MatrixOf("1.0")));
 }
 
 TEST(SameMatrix, WhatIsOutsideOfTheSizeDoesNotCount) {
-  MatrixValue left = MatrixOf({{"1", "2"}, {"3", "4"}});
+  MatrixValue left = MatrixOf("1 2; 3 4");
   MatrixValue right = left;
   left.At(1, 2) = u"left";
   right.At(2, 0) = u"right";
@@ -108,14 +107,16 @@ TEST(SameMatrix, WhatIsOutsideOfTheSizeDoesNotCount) {
 }
 
 TEST(HasEmptyCell, IsSoForOneAnywhereInTheSize) {
-  EXPECT_FALSE(HasEmptyCell(MatrixOf({{"1", "2"}, {"3", "4"}})));
-  EXPECT_TRUE(HasEmptyCell(MatrixOf({{"", "2"}, {"3", "4"}})));
-  EXPECT_TRUE(HasEmptyCell(MatrixOf({{"1", ""}, {"3", "4"}})));
-  EXPECT_TRUE(HasEmptyCell(MatrixOf({{"1", "2"}, {"3", ""}})));
+  EXPECT_FALSE(HasEmptyCell(MatrixOf("1 2; 3 4")));
+  EXPECT_TRUE(HasEmptyCell(MatrixOf("_ 2; 3 4")));
+  EXPECT_TRUE(HasEmptyCell(MatrixOf("1 _; 3 4")));
+  EXPECT_TRUE(HasEmptyCell(MatrixOf("1 2; 3 _")));
 }
 
 TEST(HasEmptyCell, ABlankIsNotEmpty) {
-  EXPECT_FALSE(HasEmptyCell(MatrixOf({{" "}})));
+  MatrixValue matrix = MatrixOf("x");
+  matrix.At(0, 0) = u" ";
+  EXPECT_FALSE(HasEmptyCell(matrix));
 }
 
 TEST(HasEmptyCell, AMatrixWithoutRowsHasNone) {

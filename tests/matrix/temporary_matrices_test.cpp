@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "matrix/matrices.h"
+#include "support/matrix_table.h"
 #include "support/temporary_folder.h"
 
 namespace kav {
@@ -37,9 +37,9 @@ TEST(TemporaryMatrices, AreNamedByNumber) {
 TEST(TemporaryMatrices, WhatIsWrittenIsRead) {
   const TemporaryFolder parent;
   TemporaryMatrices files(parent.Path());
-  EXPECT_TRUE(files.Write("kavm0.dat", MatrixOf("1 2;3 4")));
+  EXPECT_TRUE(files.Write("kavm0.dat", MatrixOf("1 2; 3 4")));
   EXPECT_TRUE(files.Write("kavm1.dat", MatrixOf("5")));
-  EXPECT_EQ(Spelled(*files.Read("kavm0.dat")), "1 2;3 4");
+  EXPECT_EQ(Spelled(*files.Read("kavm0.dat")), "1 2; 3 4");
   EXPECT_EQ(Spelled(*files.Read("kavm1.dat")), "5");
   EXPECT_EQ(FileContent(OnlyFolderIn(parent) + "/kavm0.dat"), "[2*2]\r\n1\t2\r\n3\t4\r\n");
   EXPECT_TRUE(files.Write("kavm0.dat", MatrixOf("6")));
@@ -121,7 +121,7 @@ TEST(TemporaryMatrices, WithoutSpaceNothingHasTheName) {
               if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return 2;
               TemporaryMatrices files(parent.Path());
               if (!files.Write(kName, MatrixOf("1"))) return 3;
-              if (files.Write(kName, MatrixOf("1 2;3 4"))) return 4;
+              if (files.Write(kName, MatrixOf("1 2; 3 4"))) return 4;
               if (Exists(OnlyFolderIn(parent) + "/" + kName)) return 5;
               return files.Read(kName) ? 6 : 0;
             }),
@@ -156,7 +156,7 @@ TEST(TemporaryMatrices, ALinkUnderTheNameIsNotWrittenThrough) {
 pid_t StartWriter(const TemporaryFolder& parent, std::size_t folders) {
   const pid_t writer = StartProcess([&] {
     TemporaryMatrices files(parent.Path());
-    files.Write(kName, MatrixOf("1 2;3 4"));
+    files.Write(kName, MatrixOf("1 2; 3 4"));
     while (true) pause();
     return 0;
   });
@@ -267,7 +267,7 @@ TEST(TemporaryMatrices, SignalsDoNotInterruptAWriter) {
               setitimer(ITIMER_REAL, &often, nullptr);
               TemporaryMatrices files(parent.Path());
               for (int i = 0; i < 500; ++i) {
-                if (!files.Write(kName, MatrixOf("1 2;3 4"))) return 1;
+                if (!files.Write(kName, MatrixOf("1 2; 3 4"))) return 1;
                 if (!files.Read(kName)) return 2;
               }
               return 0;

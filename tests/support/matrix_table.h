@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "common/number_text.h"
+#include "engine/calc_error.h"
 #include "matrix/matrix_value.h"
 
 namespace kav::test {
@@ -44,6 +46,19 @@ inline std::u16string TableOf(const MatrixValue& matrix) {
     }
   }
   return table;
+}
+
+// The same in 8 bits.
+inline MatrixValue MatrixOf(std::string_view table) {
+  return MatrixOf(Widen(table));
+}
+inline std::string Spelled(const MatrixValue& matrix) {
+  return Narrow(TableOf(matrix));
+}
+
+/// The matrix, or the message behind "error: ".
+inline std::string Spelled(const CalcResult<MatrixValue>& result) {
+  return result ? Spelled(*result) : "error: " + result.error().message;
 }
 
 }  // namespace kav::test
