@@ -106,7 +106,7 @@ class MatrixReducer {
       return std::nullopt;
     }
     const auto operand = Load(value);
-    if (!operand) return operand.error();
+    if (!operand) return NoRoomForMatrix();
     UseUp(value);
     return Replace(sign, Negate(*operand));
   }
@@ -124,9 +124,8 @@ class MatrixReducer {
 
   Failure ReduceOperator(std::size_t left, std::size_t symbol, std::size_t right) {
     const auto a = Load(left);
-    if (!a) return a.error();
     const auto b = Load(right);
-    if (!b) return b.error();
+    if (!a || !b) return NoRoomForMatrix();
     auto result = CombineOperands(*a, *std::get_if<MatrixOperator>(&tokens_[symbol]), *b);
     UseUp(symbol);
     UseUp(right);
@@ -135,15 +134,14 @@ class MatrixReducer {
 
   Failure ReduceFunction(std::size_t function, Range inside) {
     const MatrixFunction code = *std::get_if<MatrixFunction>(&tokens_[function]);
-    std::array<MatrixOperand, kMostMatrixArguments> operands;
+    std::array<std::optional<MatrixOperand>, kMostMatrixArguments> operands;
     MatrixArguments arguments{};
     for (std::size_t i = 0; i < RowOf(code).argumentCount; ++i) {
       const std::size_t value = FirstValue(inside);
       if (value == inside.end) break;
-      auto operand = Load(value);
-      if (!operand) return std::move(operand).error();
-      operands[i] = *std::move(operand);
-      arguments[i] = MatrixIn(operands[i]);
+      operands[i] = Load(value);
+      if (!operands[i]) return NoRoomForMatrix();
+      arguments[i] = MatrixIn(*operands[i]);
       // With the comma in front of it.
       while (inside.first <= value) UseUp(inside.first++);
     }
@@ -174,16 +172,16 @@ class MatrixReducer {
     return range.first;
   }
 
-  /// What the value token at `index` stands for.
-  CalcResult<MatrixOperand> Load(std::size_t index) const {
+  /// What the value token at `index` stands for; nullopt if its file cannot be read.
+  std::optional<MatrixOperand> Load(std::size_t index) const {
     const MatrixToken& token = tokens_[index];
-    if (const auto* number = std::get_if<double>(&token)) return MatrixOperand(*number);
+    if (const auto* number = std::get_if<double>(&token)) return *number;
     if (const auto* slot = std::get_if<MatrixSlot>(&token)) {
-      return MatrixOperand(&matrices_[static_cast<std::size_t>(slot->index)]);
+      return &matrices_[static_cast<std::size_t>(slot->index)];
     }
     auto matrix = files_.Read(std::get_if<MatrixFileName>(&token)->name);
-    if (!matrix) return NoRoomForMatrix();
-    return MatrixOperand(*std::move(matrix));
+    if (!matrix) return std::nullopt;
+    return *std::move(matrix);
   }
 
   /// Puts `result` into the place `index`, a matrix through a file if anything will read it.
@@ -217,7 +215,7 @@ class MatrixReducer {
     if (only == all.end || FirstValue({only + 1, all.end}) != all.end) return ExpressionError();
     if (answer_) return *std::move(answer_);
     auto operand = Load(only);
-    if (!operand) return std::move(operand).error();
+    if (!operand) return NoRoomForMatrix();
     if (auto* read = std::get_if<MatrixValue>(&*operand)) return std::move(*read);
     const MatrixValue* matrix = MatrixIn(*operand);
     if (matrix == nullptr) return ExpressionError();
