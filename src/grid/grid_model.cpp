@@ -8,11 +8,6 @@ namespace kav {
 GridModel::GridModel(std::pmr::memory_resource* memory)
     : heights_(memory), widths_(memory), texts_(memory), formats_(memory) {}
 
-void GridModel::ResetSelectedRange() {
-  focus_ = {};
-  end_ = {};
-}
-
 bool GridModel::SetRowCount(int count) {
   if (count < fixedRows_ || count > kMostRows) return false;
   return Reshape(count, ColumnCount());
@@ -26,14 +21,12 @@ bool GridModel::SetColumnCount(int count) {
 bool GridModel::SetFixedRowCount(int count) {
   if (count < 0 || count > RowCount()) return false;
   fixedRows_ = count;
-  KeepSelection();
   return true;
 }
 
 bool GridModel::SetFixedColumnCount(int count) {
   if (count < 0 || count > ColumnCount()) return false;
   fixedColumns_ = count;
-  KeepSelection();
   return true;
 }
 
@@ -45,7 +38,7 @@ bool GridModel::Reshape(int rows, int columns) try {
   std::pmr::vector<std::pmr::u16string> texts(height * width, texts_.get_allocator());
   std::pmr::vector<GridFormat> formats(height * width, formats_.get_allocator());
 
-  // From here on nothing is allocated, and so nothing fails.
+  // From here on nothing is allocated, so nothing can fail.
   const int keptRows = std::min(rows, RowCount());
   const int keptColumns = std::min(columns, ColumnCount());
   std::copy_n(heights_.begin(), keptRows, heights.begin());
@@ -61,14 +54,13 @@ bool GridModel::Reshape(int rows, int columns) try {
   widths_.swap(widths);
   texts_.swap(texts);
   formats_.swap(formats);
-  KeepSelection();
   return true;
 } catch (const std::bad_alloc&) {
   return false;
 }
 
 bool GridModel::SetItem(const GridItem& item) try {
-  if (!IsThere(item.row, item.column)) return false;
+  if (!IsThere({item.row, item.column})) return false;
   const std::size_t index = Index(item.row, item.column);
   if ((item.mask & GridItem::kText) != 0) {
     std::pmr::u16string text(item.text, texts_.get_allocator());
@@ -81,12 +73,12 @@ bool GridModel::SetItem(const GridItem& item) try {
 }
 
 std::u16string_view GridModel::GetItemText(int row, int column) const {
-  if (!IsThere(row, column)) return {};
+  if (!IsThere({row, column})) return {};
   return texts_[Index(row, column)];
 }
 
 GridFormat GridModel::GetItemFormat(int row, int column) const {
-  return IsThere(row, column) ? formats_[Index(row, column)] : GridFormat{};
+  return IsThere({row, column}) ? formats_[Index(row, column)] : GridFormat{};
 }
 
 bool GridModel::SetColumnWidth(int column, int width) {
@@ -105,14 +97,8 @@ int GridModel::GetRowHeight(int row) const {
   return heights_[static_cast<std::size_t>(row)];
 }
 
-GridRange GridModel::Selection() const {
-  if (focus_.IsNone()) return {};
-  return {std::min(focus_.row, end_.row), std::min(focus_.column, end_.column),
-          std::max(focus_.row, end_.row), std::max(focus_.column, end_.column)};
-}
-
 bool GridModel::IsFixed(GridCell cell) const {
-  return IsThere(cell.row, cell.column) && (cell.row < fixedRows_ || cell.column < fixedColumns_);
+  return IsThere(cell) && (cell.row < fixedRows_ || cell.column < fixedColumns_);
 }
 
 GridCell GridModel::Nearest(GridCell cell) const {
@@ -121,43 +107,12 @@ GridCell GridModel::Nearest(GridCell cell) const {
           std::clamp(cell.column, fixedColumns_, ColumnCount() - 1)};
 }
 
-void GridModel::SetFocus(GridCell cell) {
-  focus_ = Nearest(cell);
-  end_ = focus_;
-}
-
-void GridModel::SelectTo(GridCell cell) {
-  if (focus_.IsNone()) return SetFocus(cell);
-  end_ = Nearest(cell);
-}
-
-void GridModel::SelectAll() {
-  SetFocus({fixedRows_, fixedColumns_});
-  SelectTo({RowCount() - 1, ColumnCount() - 1});
-}
-
-void GridModel::ClearSelectedCells() {
-  const GridRange range = Selection();
-  if (range.IsNone()) return;
-  for (int row = range.top; row <= range.bottom; ++row) {
-    for (int column = range.left; column <= range.right; ++column) {
-      texts_[Index(row, column)].clear();
-    }
-  }
-}
-
-bool GridModel::IsThere(int row, int column) const {
-  return row >= 0 && row < RowCount() && column >= 0 && column < ColumnCount();
+bool GridModel::IsThere(GridCell cell) const {
+  return cell.row >= 0 && cell.row < RowCount() && cell.column >= 0 && cell.column < ColumnCount();
 }
 
 std::size_t GridModel::Index(int row, int column) const {
   return static_cast<std::size_t>(row) * widths_.size() + static_cast<std::size_t>(column);
-}
-
-void GridModel::KeepSelection() {
-  if (focus_.IsNone()) return;
-  focus_ = Nearest(focus_);
-  end_ = Nearest(end_);
 }
 
 }  // namespace kav

@@ -106,7 +106,6 @@ TEST(GridRange, OneCellIsNeitherARowNorAColumnOfThem) {
 TEST(GridShape, AtFirstThereIsNothing) {
   const GridModel model;
   EXPECT_EQ(PlainOf(model), PlainGrid());
-  EXPECT_TRUE(model.Selection().IsNone());
   EXPECT_EQ(model.Nearest({0, 0}), kNone);
 }
 
@@ -132,7 +131,6 @@ TEST_F(Grid, CountsThatMakeNoSenseAreRefusedAndChangeNothing) {
     bool (GridModel::*set)(int);
     int count;
   };
-  model_.SetFocus({2, 3});
   const PlainGrid before = PlainOf(model_);
   for (const Row& row : {
            Row{&GridModel::SetRowCount, 0},  // one is fixed
@@ -305,65 +303,20 @@ TEST_F(Grid, FirstRowsAndColumnsAreFixed) {
   }
 }
 
-TEST_F(Grid, FocusGoesToTheNearestCellThatIsNotFixed) {
+TEST_F(Grid, NearestCellIsOneThatIsNotFixed) {
   struct Row {
     GridCell asked;
-    GridCell focus;
+    GridCell nearest;
   };
   for (const Row& row :
        {Row{{1, 2}, {1, 2}}, Row{{3, 4}, {3, 4}}, Row{{2, 3}, {2, 3}}, Row{{0, 3}, {1, 3}},
         Row{{2, 0}, {2, 2}}, Row{{0, 0}, {1, 2}}, Row{{-1, -1}, {1, 2}}, Row{{4, 5}, {3, 4}},
         Row{{2, 99}, {2, 4}}, Row{{INT_MAX, INT_MIN}, {3, 2}}, Row{{INT_MIN, INT_MAX}, {1, 4}}}) {
-    EXPECT_EQ(model_.Nearest(row.asked), row.focus);
-    model_.SetFocus(row.asked);
-    EXPECT_EQ(model_.Focus(), row.focus);
-    EXPECT_EQ(model_.SelectionEnd(), row.focus);
-    EXPECT_EQ(model_.Selection(),
-              (GridRange{row.focus.row, row.focus.column, row.focus.row, row.focus.column}));
+    EXPECT_EQ(model_.Nearest(row.asked), row.nearest);
   }
 }
 
-TEST_F(Grid, SelectionIsWhatIsBetweenFocusAndItsOtherEnd) {
-  struct Row {
-    GridCell to;
-    GridCell end;
-    GridRange selection;
-  };
-  model_.SetFocus({2, 3});
-  for (const Row& row : {Row{{3, 4}, {3, 4}, {2, 3, 3, 4}}, Row{{1, 2}, {1, 2}, {1, 2, 2, 3}},
-                         Row{{3, 2}, {3, 2}, {2, 2, 3, 3}}, Row{{1, 4}, {1, 4}, {1, 3, 2, 4}},
-                         Row{{2, 3}, {2, 3}, {2, 3, 2, 3}}, Row{{0, 0}, {1, 2}, {1, 2, 2, 3}},
-                         Row{{99, 99}, {3, 4}, {2, 3, 3, 4}}}) {
-    model_.SelectTo(row.to);
-    EXPECT_EQ(model_.Focus(), (GridCell{2, 3}));
-    EXPECT_EQ(model_.SelectionEnd(), row.end);
-    EXPECT_EQ(model_.Selection(), row.selection);
-  }
-}
-
-TEST_F(Grid, SelectionWithoutAFocusBeginsWhereItEnds) {
-  model_.SelectTo({3, 3});
-  EXPECT_EQ(model_.Focus(), (GridCell{3, 3}));
-  EXPECT_EQ(model_.Selection(), (GridRange{3, 3, 3, 3}));
-}
-
-TEST_F(Grid, AllThatCanBeSelectedIsWhatIsNotFixed) {
-  model_.SetFocus({3, 3});
-  model_.SelectAll();
-  EXPECT_EQ(model_.Focus(), (GridCell{1, 2}));
-  EXPECT_EQ(model_.SelectionEnd(), (GridCell{3, 4}));
-  EXPECT_EQ(model_.Selection(), (GridRange{1, 2, 3, 4}));
-}
-
-TEST_F(Grid, ResetTakesSelectionAndFocusAway) {
-  model_.SelectAll();
-  model_.ResetSelectedRange();
-  EXPECT_EQ(model_.Focus(), kNone);
-  EXPECT_EQ(model_.SelectionEnd(), kNone);
-  EXPECT_TRUE(model_.Selection().IsNone());
-}
-
-TEST(GridSelection, WhereAllIsFixedNothingIsSelected) {
+TEST(GridShape, WhereAllIsFixedNoCellIsNearest) {
   struct Row {
     int rows, columns, fixedRows, fixedColumns;
   };
@@ -372,89 +325,7 @@ TEST(GridSelection, WhereAllIsFixedNothingIsSelected) {
     GridModel model;
     Shape(model, row.rows, row.columns, row.fixedRows, row.fixedColumns);
     EXPECT_EQ(model.Nearest({1, 1}), kNone);
-    model.SetFocus({1, 1});
-    EXPECT_EQ(model.Focus(), kNone);
-    model.SelectTo({1, 1});
-    model.SelectAll();
-    EXPECT_EQ(model.Focus(), kNone);
-    EXPECT_EQ(model.SelectionEnd(), kNone);
-    EXPECT_TRUE(model.Selection().IsNone());
-    model.ClearSelectedCells();
   }
-}
-
-TEST(GridSelection, StaysWhereItCanAndElseGoesToTheNearestCell) {
-  struct Row {
-    bool (GridModel::*set)(int);
-    int count;
-    GridCell focus;
-    GridCell end;
-  };
-  for (const Row& row : {
-           Row{&GridModel::SetRowCount, 9, {2, 4}, {3, 2}},
-           Row{&GridModel::SetRowCount, 3, {2, 4}, {2, 2}},
-           Row{&GridModel::SetRowCount, 2, {1, 4}, {1, 2}},
-           Row{&GridModel::SetRowCount, 1, kNone, kNone},
-           Row{&GridModel::SetColumnCount, 9, {2, 4}, {3, 2}},
-           Row{&GridModel::SetColumnCount, 4, {2, 3}, {3, 2}},
-           Row{&GridModel::SetColumnCount, 2, kNone, kNone},
-           Row{&GridModel::SetFixedRowCount, 0, {2, 4}, {3, 2}},
-           Row{&GridModel::SetFixedRowCount, 3, {3, 4}, {3, 2}},
-           Row{&GridModel::SetFixedRowCount, 4, kNone, kNone},
-           Row{&GridModel::SetFixedColumnCount, 0, {2, 4}, {3, 2}},
-           Row{&GridModel::SetFixedColumnCount, 3, {2, 4}, {3, 3}},
-           Row{&GridModel::SetFixedColumnCount, 5, kNone, kNone},
-       }) {
-    GridModel model;
-    Shape(model, 4, 5, 1, 2);
-    model.SetFocus({2, 4});
-    model.SelectTo({3, 2});
-    ASSERT_TRUE((model.*row.set)(row.count));
-    EXPECT_EQ(model.Focus(), row.focus) << row.count;
-    EXPECT_EQ(model.SelectionEnd(), row.end) << row.count;
-  }
-}
-
-TEST_F(Grid, SelectionThatLostAllItsCellsDoesNotComeBackWithThem) {
-  model_.SelectAll();
-  ASSERT_TRUE(model_.SetRowCount(1));
-  ASSERT_TRUE(model_.SetRowCount(4));
-  EXPECT_EQ(model_.Focus(), kNone);
-  EXPECT_TRUE(model_.Selection().IsNone());
-}
-
-TEST_F(Grid, ShapeAloneSelectsNothing) {
-  ASSERT_TRUE(model_.SetRowCount(6));
-  ASSERT_TRUE(model_.SetFixedColumnCount(1));
-  EXPECT_EQ(model_.Focus(), kNone);
-}
-
-TEST_F(Grid, ClearEmptiesTheSelectedTextsAndNothingElse) {
-  model_.SetFocus({2, 4});
-  model_.SelectTo({0, 3});
-  PlainGrid expected = PlainOf(model_);
-  for (const GridCell& cell : {GridCell{1, 3}, GridCell{1, 4}, GridCell{2, 3}, GridCell{2, 4}}) {
-    expected.At(cell.row, cell.column).text.clear();
-  }
-  model_.ClearSelectedCells();
-  EXPECT_EQ(PlainOf(model_), expected);
-}
-
-TEST_F(Grid, ClearOfAllLeavesTheHeaders) {
-  model_.SelectAll();
-  model_.ClearSelectedCells();
-  for (int row = 0; row < 4; ++row) {
-    for (int column = 0; column < 5; ++column) {
-      const bool isHeader = row == 0 || column <= 1;
-      EXPECT_EQ(model_.GetItemText(row, column), isHeader ? LongText(row, column) : u"");
-    }
-  }
-}
-
-TEST_F(Grid, ClearWithoutASelectionDoesNothing) {
-  const PlainGrid before = PlainOf(model_);
-  model_.ClearSelectedCells();
-  EXPECT_EQ(PlainOf(model_), before);
 }
 
 /// Something that may ask for memory.
@@ -481,11 +352,9 @@ constexpr Change kChanges[]{
      }},
 };
 
-void MakeSelectedGrid(GridModel& model) {
+void MakeFilledGrid(GridModel& model) {
   Shape(model, 4, 5, 1, 2);
   Fill(model);
-  model.SetFocus({3, 4});
-  model.SelectTo({1, 3});
 }
 
 TEST(GridMemory, ChangeThatFindsNoneFailsAndLeavesAllAsItWas) {
@@ -494,7 +363,7 @@ TEST(GridMemory, ChangeThatFindsNoneFailsAndLeavesAllAsItWas) {
     LimitedMemory memory;
     {
       GridModel model(&memory);
-      MakeSelectedGrid(model);
+      MakeFilledGrid(model);
       const PlainGrid before = PlainOf(model);
       const std::size_t held = memory.Held();
       int allowed = 0;
@@ -507,7 +376,7 @@ TEST(GridMemory, ChangeThatFindsNoneFailsAndLeavesAllAsItWas) {
 
       // The failures before have left no trace.
       GridModel untroubled;
-      MakeSelectedGrid(untroubled);
+      MakeFilledGrid(untroubled);
       ASSERT_TRUE(change.make(untroubled));
       EXPECT_EQ(PlainOf(model), PlainOf(untroubled));
       EXPECT_NE(PlainOf(model), before);
@@ -537,8 +406,6 @@ TEST(GridMemory, AllOfItComesFromWhereTheGridWasTold) {
     Shape(model, 3, 3, 1, 1);
     Fill(model);
     Shape(model, 5, 6, 1, 1);
-    model.SelectAll();
-    model.ClearSelectedCells();
     EXPECT_EQ(model.GetItemText(0, 2), LongText(0, 2));
     EXPECT_GT(memory.Held(), 0U);
   }
@@ -557,7 +424,6 @@ struct Step {
 /// Whether `grid`, a model or a plain one, could do it.
 template <class AnyGrid>
 bool Take(const Step& step, AnyGrid& grid) {
-  const GridCell cell{step.item.row, step.item.column};
   switch (step.call) {
     case 0:
       return grid.SetRowCount(step.number);
@@ -569,16 +435,6 @@ bool Take(const Step& step, AnyGrid& grid) {
       return grid.SetFixedColumnCount(step.number);
     case 4:
       return grid.SetColumnWidth(step.number, step.width);
-    case 5:
-      return grid.SetFocus(cell), true;
-    case 6:
-      return grid.SelectTo(cell), true;
-    case 7:
-      return grid.SelectAll(), true;
-    case 8:
-      return grid.ResetSelectedRange(), true;
-    case 9:
-      return grid.ClearSelectedCells(), true;
     default:
       return grid.SetItem(step.item);
   }
@@ -594,23 +450,13 @@ Step AnyStep(Random& random, std::u16string& text) {
   constexpr std::array kAlignments{GridAlignment::Left, GridAlignment::Centre,
                                    GridAlignment::Right};
   text.assign(random.Below(30), static_cast<char16_t>(u'a' + random.Below(26)));
-  Step step{random.Below(20), AnyPlace(random), static_cast<int>(random.Below(20000)) - 5000, {}};
+  Step step{random.Below(15), AnyPlace(random), static_cast<int>(random.Below(20000)) - 5000, {}};
   step.item.row = AnyPlace(random);
   step.item.column = AnyPlace(random);
   step.item.mask = static_cast<unsigned>(random.Below(4));
   step.item.text = text;
   step.item.format = {random.Of(kAlignments), random.Below(2) == 0};
   return step;
-}
-
-void ExpectSameSelection(const GridModel& model, const PlainGrid& plain) {
-  for (int row = -1; row <= plain.Rows(); ++row) {
-    for (int column = -1; column <= plain.Columns(); ++column) {
-      const bool isSelected = model.Selection().Contains({row, column});
-      ASSERT_EQ(isSelected, plain.IsSelected({row, column}));
-      ASSERT_FALSE(isSelected && model.IsFixed({row, column}));
-    }
-  }
 }
 
 TEST(GridRandom, EveryStepIsDoneWhollyOrNotAtAll) {
@@ -632,7 +478,9 @@ TEST(GridRandom, EveryStepIsDoneWhollyOrNotAtAll) {
       if (canBe && !isDone) ++failures;
       if (isDone) plain = after;
       ASSERT_EQ(PlainOf(model), plain) << seed << ' ' << i;
-      ASSERT_NO_FATAL_FAILURE(ExpectSameSelection(model, plain)) << seed << ' ' << i;
+      ASSERT_EQ(model.Nearest({step.item.row, step.item.column}),
+                plain.Nearest({step.item.row, step.item.column}))
+          << seed << ' ' << i;
     }
   }
   EXPECT_GT(failures, 0);

@@ -28,7 +28,7 @@ struct PlainCell {
   bool operator==(const PlainCell&) const = default;
 };
 
-/// Takes the same calls as GridModel, and keeps all that it shows.
+/// Takes the same calls as a grid, and keeps all that it shows.
 struct PlainGrid {
   int fixedRows = 0;
   int fixedColumns = 0;
@@ -80,7 +80,7 @@ struct PlainGrid {
     return true;
   }
   void ResetSelectedRange() { focus = end = {}; }
-  void SetFocus(GridCell cell) { focus = end = Nearest(cell); }
+  void SetFocusCell(GridCell cell) { focus = end = Nearest(cell); }
   void SelectTo(GridCell cell) {
     end = Nearest(cell);
     if (focus.IsNone()) focus = end;
@@ -133,7 +133,7 @@ struct PlainGrid {
   }
 };
 
-/// All that `grid` shows.
+/// All that `grid` shows; it has no selection.
 inline PlainGrid PlainOf(const GridModel& grid) {
   PlainGrid plain;
   plain.Resize(grid.RowCount(), grid.ColumnCount());
@@ -151,8 +151,6 @@ inline PlainGrid PlainOf(const GridModel& grid) {
                                grid.GetItemFormat(row, column)};
     }
   }
-  plain.focus = grid.Focus();
-  plain.end = grid.SelectionEnd();
   return plain;
 }
 

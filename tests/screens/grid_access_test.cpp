@@ -169,12 +169,12 @@ TEST_F(GridAccessTest, AMarkedCellSaysSo) {
 
 TEST_F(GridAccessTest, ACellIsFoundAtItsPlaceOnTheScreen) {
   for (const GridCell cell : {GridCell{1, 1}, {3, 2}, {0, 1}, {2, 0}}) {
-    const QPoint place = grid_.viewport()->mapToGlobal(Middle(cell));
+    const QPoint place = grid_.mapToGlobal(Middle(cell));
     EXPECT_EQ(Access().childAt(place.x(), place.y()), &Child(cell));
     EXPECT_TRUE(Child(cell).rect().contains(place));
     EXPECT_EQ(Child(cell).rect().size(), grid_.CellArea(cell).size());
   }
-  const QPoint beside = grid_.viewport()->mapToGlobal(QPoint(250, 100));
+  const QPoint beside = grid_.mapToGlobal(QPoint(250, 100));
   EXPECT_EQ(Access().childAt(beside.x(), beside.y()), nullptr);
   EXPECT_EQ(Access().childAt(-100, -100), nullptr);
 }

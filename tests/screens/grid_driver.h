@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "screens/grid/grid_access_view.h"
 #include "screens/grid/grid_ctrl.h"
 #include "screens/grid/grid_edit_view.h"
 #include "screens/screen_driver.h"
@@ -48,6 +49,7 @@ class GridScreen : public testing::Test {
 
   explicit GridScreen(std::pmr::memory_resource* memory = std::pmr::get_default_resource())
       : grid_(*new CGridCtrl(&window_, memory)) {
+    OfferGridsToScreenReaders();
     before_.setGeometry(0, 0, 400, 20);
     grid_.setGeometry(10, 30, 320, kRowHeight * (1 + kVisibleRows));
     after_.setGeometry(0, 260, 400, 20);
@@ -97,9 +99,9 @@ class GridScreen : public testing::Test {
   }
 
   // What is selected: "1,1" for one cell, "1,1-2,3" for more.
-  std::string Focus() { return Written(grid_.Model().Focus()); }
+  std::string Focus() { return Written(grid_.Focus()); }
   std::string Selection() {
-    const GridRange range = grid_.Model().Selection();
+    const GridRange range = grid_.Selection();
     if (range.IsNone() || range.IsOneCell()) return Written({range.top, range.left});
     return Written({range.top, range.left}) + "-" + Written({range.bottom, range.right});
   }
@@ -114,7 +116,7 @@ class GridScreen : public testing::Test {
     for (const QChar c : text) QTest::keyClicks(QApplication::focusWidget(), QString(c));
   }
 
-  // The mouse, in pixels of the viewport.
+  // The mouse, in pixels of the grid. Its events go to the part of the grid that is there.
   QPoint Middle(GridCell cell) { return grid_.CellArea(cell).center(); }
   void Press(QPoint place, Qt::KeyboardModifiers modifiers = {}) {
     Mouse(QEvent::MouseButtonPress, place, modifiers);
@@ -126,15 +128,24 @@ class GridScreen : public testing::Test {
     Move(to);
     Release(to);
   }
+  /// As the toolkit finds the widget under the mouse.
+  QWidget& PartAt(QPoint place) {
+    QWidget* part = grid_.childAt(place);
+    return part != nullptr ? *part : grid_;
+  }
+  QPoint InPart(QPoint place) { return PartAt(place).mapFrom(&grid_, place); }
   void ClickAt(QPoint place, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::mouseClick(grid_.viewport(), Qt::LeftButton, modifiers, place);
+    // The toolkit's test takes (0, 0) of a part for its middle.
+    const bool isCorner = InPart(place).isNull();
+    QTest::mouseClick(isCorner ? &grid_ : &PartAt(place), Qt::LeftButton, modifiers,
+                      isCorner ? place : InPart(place));
   }
   void ClickCell(GridCell cell, Qt::KeyboardModifiers modifiers = {}) {
     ClickAt(Middle(cell), modifiers);
   }
   void DoubleClickAt(QPoint place) {
-    QTest::mouseClick(grid_.viewport(), Qt::LeftButton, {}, place);
-    QTest::mouseDClick(grid_.viewport(), Qt::LeftButton, {}, place);
+    ClickAt(place);
+    QTest::mouseDClick(&PartAt(place), Qt::LeftButton, {}, InPart(place));
   }
   /// Turns the wheel by angles of which 120 are a step; upwards and to the left is positive.
   void Wheel(QPoint angles) {
@@ -147,15 +158,18 @@ class GridScreen : public testing::Test {
   }
   void Wheel(int angle) { Wheel(QPoint(0, angle)); }
 
-  /// The part of the viewport that the headers leave to the cells.
+  /// All but the scroll bars.
+  QRect Whole() { return {QPoint(0, 0), grid_.viewport()->geometry().bottomRight()}; }
+  /// The part of it that the headers leave to the cells.
   QRect Room() {
     const QRect corner = grid_.CellArea({0, 0});
-    return grid_.viewport()->rect().adjusted(corner.width(), corner.height(), 0, 0);
+    return Whole().adjusted(corner.width(), corner.height(), 0, 0);
   }
   /// The cell at the upper left of that part.
   GridCell FirstShown() { return grid_.CellAt(Room().topLeft()); }
 
   GridEdit& Box() { return *grid_.findChild<GridEdit*>(); }
+  QRect BoxArea() { return {Box().mapTo(&grid_, QPoint(0, 0)), Box().size()}; }
 
   /// What the hooks were told since the last call.
   Log Told() { return std::exchange(log_, {}); }
@@ -174,9 +188,15 @@ class GridScreen : public testing::Test {
   void Mouse(QEvent::Type type, QPoint place, Qt::KeyboardModifiers modifiers) {
     const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     const auto held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, place, grid_.viewport()->mapToGlobal(place), button, held, modifiers);
-    QApplication::sendEvent(grid_.viewport(), &event);
+    if (type == QEvent::MouseButtonPress) pressed_ = &PartAt(place);
+    QWidget& part = type == QEvent::MouseMove && pressed_ == nullptr ? PartAt(place) : *pressed_;
+    if (type == QEvent::MouseButtonRelease) pressed_ = nullptr;
+    QMouseEvent event(type, part.mapFrom(&grid_, place), grid_.mapToGlobal(place), button, held,
+                      modifiers);
+    QApplication::sendEvent(&part, &event);
   }
+
+  QWidget* pressed_ = nullptr;  // gets all of the mouse until the button is released
 };
 
 }  // namespace kav::test

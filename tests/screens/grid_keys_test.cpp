@@ -255,8 +255,8 @@ TEST_F(GridKeysTest, WhereverKeysLeadTheCellIsInView) {
     } else {
       Key(key, modifiers);
     }
-    ASSERT_TRUE(Room().contains(grid_.CellArea(grid_.Model().SelectionEnd())))
-        << key << " to " << Written(grid_.Model().SelectionEnd());
+    ASSERT_TRUE(Room().contains(grid_.CellArea(grid_.SelectionEnd())))
+        << key << " to " << Written(grid_.SelectionEnd());
   }
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 class GridLookTest : public GridScreen {
  protected:
-  QImage Picture() { return grid_.viewport()->grab().toImage(); }
+  QImage Picture() { return grid_.grab(Whole()).toImage(); }
   QImage Picture(GridCell cell) { return Picture().copy(grid_.CellArea(cell)); }
 
   /// The colour of a cell's paper: that above the middle of its text, within what outlines it.
@@ -215,7 +215,7 @@ TEST_F(GridLookTest, WhatIsScrolledAwayIsNotSeenOverTheHeaders) {
   }
   const auto headers = [this] {
     const QRect corner = grid_.CellArea({0, 0});
-    return Picture().copy(0, 0, grid_.viewport()->width(), corner.height());
+    return Picture().copy(0, 0, Whole().width(), corner.height());
   };
   const QImage columns = headers();
   const QImage corner = Picture({0, 0});

@@ -38,7 +38,7 @@ TEST_F(GridMouseTest, BesideTheCellsAClickChangesNothing) {
   BuildAt(3, 3, {2, 2});
   ClickAt({20 + 3 * 60 + 10, 30});
   ClickAt({30, 4 * 18 + 5});
-  QTest::mouseClick(grid_.viewport(), Qt::RightButton, {}, Middle({1, 1}));
+  QTest::mouseClick(grid_.viewport(), Qt::RightButton, {}, InPart(Middle({1, 1})));
   EXPECT_EQ(Selection(), "2,2");
   EXPECT_EQ(Told(), Log{});
 }
@@ -98,11 +98,11 @@ TEST_F(GridMouseTest, ADragBeyondTheBorderScrollsUntilItIsReleased) {
   const QPoint below(Middle({1, 1}).x(), grid_.height() + 50);
   Press(Middle({1, 1}));
   Move(below);
-  const auto bottom = [this] { return grid_.Model().Selection().bottom; };
+  const auto bottom = [this] { return grid_.Selection().bottom; };
   const int first = bottom();
   EXPECT_TRUE(QTest::qWaitFor([&] { return bottom() >= first + 3; }));
   EXPECT_GT(FirstShown().row, 1);
-  EXPECT_EQ(grid_.Model().Selection().top, 1);
+  EXPECT_EQ(grid_.Selection().top, 1);
   Release(below);
   const int last = bottom();
   QTest::qWait(250);
@@ -203,10 +203,11 @@ TEST_F(GridMouseTest, OnlyTheHeadersOfColumnsHaveEdgesAndTheHeaderColumnHasNone)
 TEST_F(GridMouseTest, TheCursorShowsWhereAnEdgeIs) {
   Build(2, 3);
   const auto cursorAt = [this](QPoint place) {
-    QMouseEvent event(QEvent::MouseMove, place, grid_.viewport()->mapToGlobal(place), Qt::NoButton,
+    QWidget& part = PartAt(place);
+    QMouseEvent event(QEvent::MouseMove, InPart(place), grid_.mapToGlobal(place), Qt::NoButton,
                       Qt::NoButton, {});
-    QApplication::sendEvent(grid_.viewport(), &event);
-    return grid_.viewport()->cursor().shape();
+    QApplication::sendEvent(&part, &event);
+    return part.cursor().shape();
   };
   EXPECT_EQ(cursorAt({20 + 60, 9}), Qt::SplitHCursor);
   EXPECT_EQ(cursorAt({20 + 30, 9}), Qt::ArrowCursor);

@@ -232,9 +232,9 @@ TEST_F(MatrixDlgTest, PasteWithNothingCutOrCopiedDoesNothing) {
 TEST_F(MatrixDlgTest, WidthsAreDraggedKeptForEachMatrixFittedAndReset) {
   const QRect header = Grid().CellArea({0, 1});
   const QPoint edge(header.right(), header.center().y());
-  QTest::mousePress(Grid().viewport(), Qt::LeftButton, {}, edge);
-  QTest::mouseMove(Grid().viewport(), edge + QPoint(30, 0));
-  QTest::mouseRelease(Grid().viewport(), Qt::LeftButton, {}, edge + QPoint(30, 0));
+  QTest::mousePress(&Grid(), Qt::LeftButton, {}, edge);
+  QTest::mouseMove(&Grid(), edge + QPoint(30, 0));
+  QTest::mouseRelease(&Grid(), Qt::LeftButton, {}, edge + QPoint(30, 0));
   const int dragged = Grid().GetColumnWidth(1);
   EXPECT_GT(dragged, 60);
   ChooseTab(1);

@@ -60,8 +60,9 @@ class MatrixScreen : public testing::Test {
   CGridCtrl& Grid() { return *dlg_->findChild<CGridCtrl*>(); }
   void ClickCell(int row, int column, Qt::KeyboardModifiers modifiers = {}) {
     Focused();
-    QTest::mouseClick(Grid().viewport(), Qt::LeftButton, modifiers,
-                      Grid().CellArea({row, column}).center());
+    QWidget& cells = *Grid().viewport();
+    QTest::mouseClick(&cells, Qt::LeftButton, modifiers,
+                      cells.mapFrom(&Grid(), Grid().CellArea({row, column}).center()));
   }
   /// Types texts, separated by blanks, into cells from left to right from the cell on.
   void TypeCells(int row, int column, const QString& texts) {

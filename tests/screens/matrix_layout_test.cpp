@@ -42,7 +42,7 @@ TEST_F(MatrixLayoutTest, NothingIsCutOrOverlapsAtAnySize) {
 TEST_F(MatrixLayoutTest, ThreeColumnsOfTheDefaultWidthAreSeenWhole) {
   for (const QSize size : kScreenSizes) {
     ResizeScreen(*dlg_, size);
-    EXPECT_TRUE(Grid().viewport()->rect().contains(Grid().CellArea({3, 3}))) << size.width();
+    EXPECT_TRUE(Grid().viewport()->geometry().contains(Grid().CellArea({3, 3}))) << size.width();
   }
 }
 

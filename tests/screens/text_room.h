@@ -93,6 +93,8 @@ class TextRoom {
       return Expect(*bar, bar->text(), bar->size());
     }
     if (const auto* line = qobject_cast<const QLineEdit*>(&part)) return MeasureLine(*line);
+    // A grid paints its headers itself.
+    if (dynamic_cast<const CGridCtrl*>(part.parentWidget()) != nullptr) return;
     if (const auto* view = qobject_cast<const QHeaderView*>(&part)) return MeasureHeader(*view);
     if (const auto* view = qobject_cast<const QAbstractItemView*>(&part))
       return MeasureItems(*view);

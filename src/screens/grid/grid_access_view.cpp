@@ -37,17 +37,16 @@ class GridAccess final : public QAccessibleWidget, public QAccessibleTableInterf
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
     const auto* cell = dynamic_cast<const GridCellAccess*>(child);
-    return cell != nullptr && cell->parent() == this ? IndexOfCell(Model(), cell->Cell()) : -1;
+    return cell != nullptr && cell->parent() == this ? Model().PlaceOf(cell->Cell()) : -1;
   }
   QAccessibleInterface* childAt(int x, int y) const override {
     const CGridCtrl* grid = Grid();
     if (grid == nullptr) return nullptr;
-    const QPoint place = grid->viewport()->mapFromGlobal(QPoint(x, y));
-    return grid->viewport()->rect().contains(place) ? Cell(grid->CellAt(place)) : nullptr;
+    return Cell(grid->CellAt(grid->mapFromGlobal(QPoint(x, y))));
   }
   QAccessibleInterface* focusChild() const override {
     if (widget() == nullptr || !widget()->hasFocus()) return QAccessibleWidget::focusChild();
-    return Cell(Model().Focus());
+    return Cell(Grid()->Focus());
   }
 
   // The table.
@@ -71,7 +70,7 @@ class GridAccess final : public QAccessibleWidget, public QAccessibleTableInterf
   int selectedCellCount() const override { return static_cast<int>(selectedCells().size()); }
   QList<QAccessibleInterface*> selectedCells() const override {
     QList<QAccessibleInterface*> cells;
-    const GridRange range = Model().Selection();
+    const GridRange range = Selection();
     if (range.IsNone()) return cells;
     for (int row = range.top; row <= range.bottom; ++row) {
       for (int column = range.left; column <= range.right; ++column) {
@@ -97,11 +96,11 @@ class GridAccess final : public QAccessibleWidget, public QAccessibleTableInterf
     return columns;
   }
   bool isRowSelected(int row) const override {
-    const GridRange range = Model().Selection();
+    const GridRange range = Selection();
     return range.Contains(InGrid(row, 0)) && range.Contains(InGrid(row, columnCount() - 1));
   }
   bool isColumnSelected(int column) const override {
-    const GridRange range = Model().Selection();
+    const GridRange range = Selection();
     return range.Contains(InGrid(0, column)) && range.Contains(InGrid(rowCount() - 1, column));
   }
   bool selectRow(int row) override {
@@ -122,6 +121,10 @@ class GridAccess final : public QAccessibleWidget, public QAccessibleTableInterf
     static const GridModel kNothing;
     const CGridCtrl* grid = Grid();
     return grid != nullptr ? grid->Model() : kNothing;
+  }
+  GridRange Selection() const {
+    const CGridCtrl* grid = Grid();
+    return grid != nullptr ? grid->Selection() : GridRange{};
   }
   GridCell InGrid(int row, int column) const {
     return {row + Model().FixedRowCount(), column + Model().FixedColumnCount()};
@@ -154,13 +157,6 @@ QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
   return grid != nullptr ? new GridAccess(*grid) : nullptr;
 }
 
-void Tell(CGridCtrl& grid, QAccessible::Event type, GridCell cell) {
-  if (!QAccessible::isActive() || cell.IsNone()) return;
-  QAccessibleEvent event(&grid, type);
-  event.setChild(IndexOfCell(grid.Model(), cell));
-  QAccessible::updateAccessibility(&event);
-}
-
 }  // namespace
 
 void OfferGridsToScreenReaders() {
@@ -169,30 +165,6 @@ void OfferGridsToScreenReaders() {
     return true;
   }();
   (void)kIsOffered;
-}
-
-void TellShape(CGridCtrl& grid) {
-  if (!QAccessible::isActive()) return;
-  QAccessibleTableModelChangeEvent event(&grid, QAccessibleTableModelChangeEvent::ModelReset);
-  QAccessible::updateAccessibility(&event);
-}
-
-void TellFocus(CGridCtrl& grid) {
-  if (!grid.hasFocus()) return;
-  const GridModel& model = grid.Model();
-  if (model.Focus() == model.SelectionEnd()) return Tell(grid, QAccessible::Focus, model.Focus());
-  Tell(grid, QAccessible::Selection, model.SelectionEnd());
-}
-
-void TellText(CGridCtrl& grid, GridCell cell) {
-  Tell(grid, QAccessible::NameChanged, cell);
-}
-
-QString NameOfPlace(const CGridCtrl& grid, GridCell cell) {
-  const GridModel& model = grid.Model();
-  const auto row = model.GetItemText(cell.row, model.FixedColumnCount() - 1);
-  const auto column = model.GetItemText(model.FixedRowCount() - 1, cell.column);
-  return ToQt(kRowOfCell) + ToQt(row) + ", " + ToQt(kColumnOfCell) + ToQt(column);
 }
 
 }  // namespace kav

@@ -12,9 +12,7 @@ GridCellAccess::GridCellAccess(CGridCtrl& grid, GridCell cell) : widget_(&grid),
 CGridCtrl* GridCellAccess::Grid() const {
   auto* grid = dynamic_cast<CGridCtrl*>(widget_.data());
   if (grid == nullptr) return nullptr;
-  const GridModel& model = grid->Model();
-  const bool isThere = cell_.row < model.RowCount() && cell_.column < model.ColumnCount();
-  return isThere ? grid : nullptr;
+  return grid->Model().IsThere(cell_) ? grid : nullptr;
 }
 
 bool GridCellAccess::IsHeader() const {
@@ -61,7 +59,7 @@ QRect GridCellAccess::rect() const {
   const CGridCtrl* grid = Grid();
   if (grid == nullptr) return {};
   const QRect area = grid->CellArea(cell_);
-  return {grid->viewport()->mapToGlobal(area.topLeft()), area.size()};
+  return {grid->mapToGlobal(area.topLeft()), area.size()};
 }
 
 QAccessible::Role GridCellAccess::role() const {
@@ -87,13 +85,13 @@ QAccessible::State GridCellAccess::state() const {
   state.editable = grid->IsEditable();
   state.readOnly = !grid->IsEditable();
   state.selected = isSelected();
-  state.focused = grid->hasFocus() && grid->Model().Focus() == cell_;
+  state.focused = grid->hasFocus() && grid->Focus() == cell_;
   return state;
 }
 
 bool GridCellAccess::isSelected() const {
   const CGridCtrl* grid = Grid();
-  return grid != nullptr && grid->Model().Selection().Contains(cell_);
+  return grid != nullptr && grid->Selection().Contains(cell_);
 }
 
 QList<QAccessibleInterface*> GridCellAccess::columnHeaderCells() const {
@@ -101,7 +99,7 @@ QList<QAccessibleInterface*> GridCellAccess::columnHeaderCells() const {
   const CGridCtrl* grid = Grid();
   const int count = grid != nullptr ? grid->Model().FixedRowCount() : 0;
   for (int row = 0; row < count; ++row) {
-    cells.push_back(parent()->child(IndexOfCell(grid->Model(), {row, cell_.column})));
+    cells.push_back(parent()->child(grid->Model().PlaceOf({row, cell_.column})));
   }
   return cells;
 }
@@ -111,7 +109,7 @@ QList<QAccessibleInterface*> GridCellAccess::rowHeaderCells() const {
   const CGridCtrl* grid = Grid();
   const int count = grid != nullptr ? grid->Model().FixedColumnCount() : 0;
   for (int column = 0; column < count; ++column) {
-    cells.push_back(parent()->child(IndexOfCell(grid->Model(), {cell_.row, column})));
+    cells.push_back(parent()->child(grid->Model().PlaceOf({cell_.row, column})));
   }
   return cells;
 }

@@ -11,11 +11,6 @@ namespace kav {
 
 class CGridCtrl;
 
-/// The place of a cell among all cells, row by row.
-inline int IndexOfCell(const GridModel& grid, GridCell cell) {
-  return cell.row * grid.ColumnCount() + cell.column;
-}
-
 /// Invalid as long as its cell is not there. Headers are cells without a place in the table.
 class GridCellAccess final : public QAccessibleInterface,
                              public QAccessibleTableCellInterface,

@@ -1,13 +1,15 @@
 #include "screens/grid/grid_ctrl.h"
 
+#include <QAbstractButton>
 #include <QFontMetricsF>
+#include <QHeaderView>
 #include <QPainter>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <cmath>
 
 #include "common/number_text.h"
-#include "screens/grid/grid_access_view.h"
 #include "screens/grid/grid_edit_view.h"
 #include "screens/grid/grid_painter_view.h"
 #include "screens/widgets/look.h"
@@ -25,43 +27,100 @@ constexpr double kLargestScale = 100;
 /// A text that is longer makes its column no wider.
 constexpr std::size_t kLongestMeasured = 2000;
 
-/// Moves `bar` so far that what takes `first` to `last` is between `from` and `to`; where it has no
-/// room there, its beginning is.
-void Reveal(QScrollBar& bar, int first, int last, int from, int to) {
-  if (first < from) {
-    bar.setValue(bar.value() - (from - first));
-  } else if (last > to) {
-    bar.setValue(bar.value() + std::min(last - to, first - from));
+/// The pixels of the first `count` lines, whose sizes are `sizeOf` them.
+template <class Sizes>
+int PixelsOf(int count, double scale, const Sizes& sizeOf) {
+  int sum = 0;
+  for (int i = 0; i < count; ++i) sum += sizeOf(i);
+  return qRound(sum * scale);
+}
+
+/// Hides the fixed lines and sizes the others so that neighbours meet whatever the scale.
+template <class Sizes>
+void Arrange(QHeaderView& header, int fixed, double scale, const Sizes& sizeOf) {
+  // Else the table would be told of each line.
+  const QSignalBlocker quiet(header);
+  int sum = 0;
+  for (int i = 0; i < header.count(); ++i) {
+    const int begin = qRound(sum * scale);
+    sum += sizeOf(i);
+    header.setSectionHidden(i, i < fixed);
+    if (i >= fixed) header.resizeSection(i, qRound(sum * scale) - begin);
   }
 }
 
 }  // namespace
 
+/// The cells as the toolkit asks for them. Fixed ones are among them, in hidden lines.
+class CGridCtrl::Cells final : public QAbstractTableModel {
+ public:
+  Cells(QObject* parent, const GridModel& grid) : QAbstractTableModel(parent), grid_(grid) {}
+
+  void Reload() {
+    beginResetModel();
+    endResetModel();
+  }
+  int rowCount(const QModelIndex&) const override { return grid_.RowCount(); }
+  int columnCount(const QModelIndex&) const override { return grid_.ColumnCount(); }
+  QVariant data(const QModelIndex& index, int role) const override {
+    if (role != Qt::DisplayRole) return {};
+    return ToQt(grid_.GetItemText(index.row(), index.column()));
+  }
+
+ private:
+  const GridModel& grid_;
+};
+
+class CGridCtrl::Painter final : public QAbstractItemDelegate {
+ public:
+  explicit Painter(CGridCtrl& grid) : QAbstractItemDelegate(&grid), grid_(grid) {}
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    painter->setFont(grid_.font());
+    PaintCell(*painter, option.rect, {index.row(), index.column()}, grid_.Look());
+  }
+  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return {}; }
+
+ private:
+  CGridCtrl& grid_;
+};
+
 CGridCtrl::CGridCtrl(QWidget* parent, std::pmr::memory_resource* memory)
-    : QAbstractScrollArea(parent), model_(memory) {
-  OfferGridsToScreenReaders();
+    : QTableView(parent),
+      model_(memory),
+      cells_(new Cells(this, model_)),
+      headers_{horizontalHeader()->viewport(), verticalHeader()->viewport(),
+               findChild<QAbstractButton*>({}, Qt::FindDirectChildrenOnly)} {
   setLayoutDirection(Qt::LeftToRight);
   setFrameShape(QFrame::NoFrame);
   setPalette(ScreenPalette());
-  setFocusPolicy(Qt::StrongFocus);
-  viewport()->setMouseTracking(true);
-  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  setAttribute(Qt::WA_InputMethodEnabled, false);
+  setMouseTracking(true);
+  setShowGrid(false);
+  setAutoScroll(false);
+  setTabKeyNavigation(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setVerticalScrollMode(ScrollPerPixel);
+  viewport()->setBackgroundRole(QPalette::Window);
+  for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {
+    header->setMinimumSectionSize(0);
+    header->setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+  headers_[2]->setAttribute(Qt::WA_TransparentForMouseEvents);
+  for (QWidget* part : headers_) part->installEventFilter(this);
   for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) bar->setStyle(ScreenStyle());
   edit_ = new GridEdit(
       viewport(), {[this](int key, Qt::KeyboardModifiers modifiers) { OnEditKey(key, modifiers); },
                    [this] { FinishEdit(); }});
+  setItemDelegate(new Painter(*this));
+  setModel(cells_);
   SetScale(1, kUsualTextPixels);
 }
 
 CGridCtrl::~CGridCtrl() {
   // As long as the box is there, it tells this widget of the loss of the focus.
   delete edit_;
-}
-
-void CGridCtrl::ResetSelectedRange() {
-  GiveUpEdit();
-  model_.ResetSelectedRange();
-  viewport()->update();
 }
 
 bool CGridCtrl::SetRowCount(int count) {
@@ -84,49 +143,35 @@ bool CGridCtrl::Reshape(bool (GridModel::*set)(int), int count) {
   GiveUpEdit();
   EndDrag();
   if (!(model_.*set)(count)) return false;
-  UpdateBars();
-  TellShape(*this);
+  const GridCell focus = Focus();
+  const GridCell end = SelectionEnd();
+  const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+  cells_->Reload();
+  ArrangeLines();
+  horizontalScrollBar()->setValue(scrolled.x());
+  verticalScrollBar()->setValue(scrolled.y());
+  if (!focus.IsNone()) Mark(focus, end);
   return true;
 }
 
 bool CGridCtrl::SetItem(const GridItem& item) {
   if (!model_.SetItem(item)) return false;
-  viewport()->update();
+  Repaint();
   return true;
 }
 
 bool CGridCtrl::SetColumnWidth(int column, int width) {
   const int old = model_.GetColumnWidth(column);
   if (!model_.SetColumnWidth(column, width)) return false;
-  if (model_.GetColumnWidth(column) != old) UpdateBars();
+  if (model_.GetColumnWidth(column) != old) ArrangeLines();
   return true;
-}
-
-void CGridCtrl::ClearSelectedCells() {
-  model_.ClearSelectedCells();
-  viewport()->update();
-}
-
-void CGridCtrl::SetFocusCell(GridCell cell) {
-  GiveUpEdit();
-  model_.SetFocus(cell);
-  ScrollTo(model_.Focus());
-  TellFocus(*this);
-  viewport()->update();
-}
-
-void CGridCtrl::SelectTo(GridCell cell) {
-  GiveUpEdit();
-  model_.SelectTo(cell);
-  TellFocus(*this);
-  viewport()->update();
 }
 
 void CGridCtrl::AutoSizeColumns() {
   for (int column = 0; column < model_.ColumnCount(); ++column) {
     model_.SetColumnWidth(column, FittingWidth(column));
   }
-  UpdateBars();
+  ArrangeLines();
 }
 
 int CGridCtrl::FittingWidth(int column) const {
@@ -150,140 +195,125 @@ void CGridCtrl::SetScale(double scale, int textPixels) {
   for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) {
     bar->setFont(font());
     bar->updateGeometry();
+    bar->setSingleStep(std::max(1, qRound(GridModel::kDefaultHeight * scale_)));
   }
-  UpdateBars();
+  ArrangeLines();
 }
 
-GridGeometry CGridCtrl::Geometry() const {
-  return {model_, scale_, {horizontalScrollBar()->value(), verticalScrollBar()->value()}};
+void CGridCtrl::ArrangeLines() {
+  const auto width = [this](int column) { return model_.GetColumnWidth(column); };
+  const auto height = [this](int row) { return model_.GetRowHeight(row); };
+  const int columns = model_.FixedColumnCount();
+  const int rows = model_.FixedRowCount();
+  Arrange(*horizontalHeader(), columns, scale_, width);
+  Arrange(*verticalHeader(), rows, scale_, height);
+  verticalHeader()->setFixedWidth(PixelsOf(columns, scale_, width));
+  horizontalHeader()->setFixedHeight(PixelsOf(rows, scale_, height));
+  updateGeometries();
+  Repaint();
+}
+
+void CGridCtrl::updateGeometries() {
+  QTableView::updateGeometries();
+  PlaceEdit();
+}
+
+void CGridCtrl::scrollContentsBy(int dx, int dy) {
+  FinishEdit();
+  QTableView::scrollContentsBy(dx, dy);
+}
+
+// Places.
+
+int CGridCtrl::Left(int column) const {
+  return PixelsOf(column, scale_, [this](int i) { return model_.GetColumnWidth(i); });
+}
+
+int CGridCtrl::Top(int row) const {
+  return PixelsOf(row, scale_, [this](int i) { return model_.GetRowHeight(i); });
 }
 
 QRect CGridCtrl::CellArea(GridCell cell) const {
-  return Geometry().CellArea(cell);
+  if (!model_.IsThere(cell)) return {};
+  const int left = Left(cell.column);
+  const int top = Top(cell.row);
+  const QRect area(left, top, Left(cell.column + 1) - left, Top(cell.row + 1) - top);
+  return area.translated(
+      cell.column < model_.FixedColumnCount() ? 0 : -horizontalScrollBar()->value(),
+      cell.row < model_.FixedRowCount() ? 0 : -verticalScrollBar()->value());
 }
 
 GridCell CGridCtrl::CellAt(QPoint place) const {
-  const GridGeometry geometry = Geometry();
-  const GridCell cell{geometry.RowAt(place.y()), geometry.ColumnAt(place.x())};
-  return cell.row < 0 || cell.column < 0 ? GridCell{} : cell;
+  const GridCell cell{RowAt(place.y()), ColumnAt(place.x())};
+  return !Whole().contains(place) || cell.row < 0 || cell.column < 0 ? GridCell{} : cell;
+}
+
+int CGridCtrl::ColumnAt(int x) const {
+  if (x >= Room().left()) return columnAt(x - Room().left());
+  for (int column = 0; x >= 0 && column < model_.FixedColumnCount(); ++column) {
+    if (x < Left(column + 1)) return column;
+  }
+  return -1;
+}
+
+int CGridCtrl::RowAt(int y) const {
+  if (y >= Room().top()) return rowAt(y - Room().top());
+  for (int row = 0; y >= 0 && row < model_.FixedRowCount(); ++row) {
+    if (y < Top(row + 1)) return row;
+  }
+  return -1;
+}
+
+int CGridCtrl::FirstRow() const {
+  const int row = rowAt(0);
+  return row < 0 ? model_.RowCount() : row;
 }
 
 bool CGridCtrl::IsInView(GridCell cell) const {
-  QRect area = viewport()->rect();
+  QRect area = Whole();
   if (cell.row >= model_.FixedRowCount()) area.setTop(Room().top());
   if (cell.column >= model_.FixedColumnCount()) area.setLeft(Room().left());
   return area.intersects(CellArea(cell));
 }
 
-/// What the headers leave of the viewport.
-QRect CGridCtrl::Room() const {
-  const QSize fixed = Geometry().FixedSize();
-  return viewport()->rect().adjusted(fixed.width(), fixed.height(), 0, 0);
+// The look.
+
+GridLook CGridCtrl::Look() const {
+  return {model_, Selection(), Focus(), palette(), scale_, hasFocus() || editing_};
 }
 
-void CGridCtrl::UpdateBars() {
-  const GridGeometry geometry = Geometry();
-  const QSize all = geometry.FullSize();
-  const QSize fixed = geometry.FixedSize();
-  const QSize most = maximumViewportSize();
-  // Where all has room without bars, no bar takes the room that makes the other one necessary.
-  const bool fits = all.width() <= most.width() && all.height() <= most.height();
-  const QSize room = fits ? most : viewport()->size();
-  const int line = std::max(1, qRound(GridModel::kDefaultHeight * scale_));
-  const auto set = [line](QScrollBar& bar, int allPixels, int roomPixels, int fixedPixels) {
-    bar.setRange(0, std::max(0, allPixels - roomPixels));
-    bar.setPageStep(std::max(1, roomPixels - fixedPixels));
-    bar.setSingleStep(line);
-  };
-  set(*horizontalScrollBar(), all.width(), room.width(), fixed.width());
-  set(*verticalScrollBar(), all.height(), room.height(), fixed.height());
-  PlaceEdit();
+void CGridCtrl::Repaint() {
   viewport()->update();
+  for (QWidget* part : headers_) part->update();
 }
 
-void CGridCtrl::ScrollTo(GridCell cell) {
-  const QRect area = CellArea(cell);
-  if (area.isEmpty()) return;
-  const QRect room = Room();
-  Reveal(*horizontalScrollBar(), area.left(), area.right(), room.left(), room.right());
-  Reveal(*verticalScrollBar(), area.top(), area.bottom(), room.top(), room.bottom());
-}
-
-void CGridCtrl::paintEvent(QPaintEvent*) {
-  QPainter painter(viewport());
+/// `part` is where headers are: those of columns, those of rows, or the corner between them.
+void CGridCtrl::PaintHeaders(QWidget& part) const {
+  const QRect shown = part.rect().translated(part.mapTo(this, QPoint(0, 0)));
+  QPainter painter(&part);
   painter.setFont(font());
-  const bool hasKeys = hasFocus() || editing_;
-  PaintGrid(painter, model_, Geometry(), {viewport()->rect(), palette(), scale_, hasKeys});
+  painter.translate(-shown.topLeft());
+  painter.fillRect(shown, palette().color(QPalette::Window));
+  const GridCell first = CellAt(shown.topLeft());
+  if (first.IsNone()) return;
+  const auto orLast = [](int line, int count) { return line < 0 ? count - 1 : line; };
+  const int bottom = orLast(RowAt(shown.bottom()), model_.RowCount());
+  const int right = orLast(ColumnAt(shown.right()), model_.ColumnCount());
+  const GridLook look = Look();
+  for (int row = first.row; row <= bottom; ++row) {
+    for (int column = first.column; column <= right; ++column) {
+      PaintCell(painter, CellArea({row, column}), {row, column}, look);
+    }
+  }
 }
 
-void CGridCtrl::resizeEvent(QResizeEvent* event) {
-  QAbstractScrollArea::resizeEvent(event);
-  UpdateBars();
-}
-
-void CGridCtrl::scrollContentsBy(int, int) {
-  FinishEdit();
-  viewport()->update();
-}
-
-void CGridCtrl::SetEditable(bool isEditable) {
-  if (!isEditable) GiveUpEdit();
-  isEditable_ = isEditable;
-}
-
-void CGridCtrl::EditFocusCell() {
-  const GridCell cell = model_.Focus();
-  if (!isEditable_ || editing_ || cell.IsNone()) return;
-  ScrollTo(cell);
-  if (hooks_.beginEdit) hooks_.beginEdit(cell.row, cell.column);
-  // Whoever was told may have changed the grid.
-  if (!isEditable_ || editing_ || model_.Focus() != cell) return;
-  editing_ = cell;
-  edit_->setAlignment(TextAlignment(model_.GetItemFormat(cell.row, cell.column)));
-  edit_->setAccessibleName(NameOfPlace(*this, cell));
-  edit_->setText(ToQt(model_.GetItemText(cell.row, cell.column)));
-  edit_->selectAll();
-  PlaceEdit();
-  edit_->show();
-  edit_->setFocus(Qt::OtherFocusReason);
-}
-
-std::optional<GridCell> CGridCtrl::CloseEdit() {
-  const std::optional<GridCell> cell = editing_;
-  editing_.reset();
-  if (!cell) return cell;
-  // Hidden while it has the focus, the box would hand it to the widget behind the grid.
-  if (edit_->hasFocus()) setFocus(Qt::OtherFocusReason);
-  edit_->hide();
-  viewport()->update();
-  return cell;
-}
-
-void CGridCtrl::GiveUpEdit() {
-  CloseEdit();
-}
-
-void CGridCtrl::FinishEdit() {
-  const std::optional<GridCell> cell = CloseEdit();
-  if (!cell) return;
-  // A text longer than the box takes is cut by it, but only if it was touched.
-  const QString text =
-      edit_->isModified() ? edit_->TypedText() : ToQt(model_.GetItemText(cell->row, cell->column));
-  const std::u16string typed = text.toStdU16String();
-  if (!SetItem({cell->row, cell->column, GridItem::kText, typed, {}})) return;
-  TellText(*this, *cell);
-  if (hooks_.endEdit) hooks_.endEdit(cell->row, cell->column, text);
-}
-
-void CGridCtrl::PlaceEdit() {
-  if (!editing_) return;
-  // A narrow column would show no more than the caret.
-  QRect area = CellArea(*editing_);
-  area.setWidth(std::max(area.width(), 5 * font().pixelSize()));
-  area.moveRight(std::min(area.right(), std::max(viewport()->width(), area.width()) - 1));
-  edit_->setGeometry(area);
-  const int margin = std::max(0, TextMargin(font().pixelSize()) - 2);
-  edit_->setTextMargins(margin, 0, margin, 0);
+bool CGridCtrl::eventFilter(QObject* part, QEvent* event) {
+  const auto header = std::find(headers_.begin(), headers_.end(), part);
+  if (event->type() != QEvent::Paint || header == headers_.end()) {
+    return QTableView::eventFilter(part, event);
+  }
+  PaintHeaders(**header);
+  return true;
 }
 
 }  // namespace kav

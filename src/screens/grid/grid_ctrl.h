@@ -1,55 +1,54 @@
 // The grid as a widget.
 #pragma once
 
-#include <QAbstractScrollArea>
 #include <QBasicTimer>
+#include <QTableView>
+#include <array>
 #include <functional>
 #include <optional>
 
 #include "grid/grid_model.h"
-#include "grid/grid_moves.h"
-#include "screens/grid/grid_geometry_view.h"
 
 namespace kav {
 
 class GridEdit;
+struct GridLook;
 
-/// What the grid tells the one it belongs to; what is empty is not told. All come from what the
-/// user does, none from a call.
+/// What the grid tells its owner about what the user does; calls of the owner are not told. Hooks
+/// may be empty.
 struct GridHooks {
   /// An edit begins: its box is not open yet, the cell has its old text.
   std::function<void(int row, int column)> beginEdit;
-  /// An edit has ended and `text` is the cell's new text already, which may be the old one. Not
-  /// told where it was given up, and where there was no memory for the text, which then is lost.
+  /// An edit has ended and `text`, perhaps the old one, is the cell's. Not told if the edit was
+  /// given up, or if there was no memory for the text, which then is lost.
   std::function<void(int row, int column, const QString& text)> endEdit;
-  /// A column was made wider or narrower; during a drag, each time.
+  /// A column has another width; during a drag, each time.
   std::function<void(int column, int width)> columnResized;
   /// The selection or the focus cell is another one.
   std::function<void()> selectionChanged;
 };
 
-/// Shows and edits a grid. Sizes are pixels of a screen 240 pixels wide; SetScale makes them
-/// larger. Keys: arrows, Home, End, Page Up and Page Down move the focus, with Shift the end of the
-/// selection; Tab and Shift+Tab lead from cell to cell (leaving the grid at its last and first
-/// one); typing, F2, Enter and a double click begin an edit, which Enter, Tab or another cell end
-/// and Esc gives up. Columns are resized by dragging a header's right edge. What it does not know
-/// itself (Ctrl+C, Delete...) it leaves to its parent.
-class CGridCtrl final : public QAbstractScrollArea {
+/// Shows and edits a grid. Sizes are pixels of a screen 240 pixels wide; SetScale enlarges them.
+/// Places are pixels of the widget, headers included. Keys: arrows, Home, End, Page Up and Page
+/// Down move the focus cell, with Shift the end of the selection; Tab and Shift+Tab lead from cell
+/// to cell and out of the grid; typing, F2, Enter and a double click begin an edit. Enter, Tab or
+/// another cell end an edit, Esc gives it up. The right edge of a column's header resizes it. Other
+/// keys (Ctrl+C, Delete...) go on to the parent.
+class CGridCtrl final : public QTableView {
  public:
-  /// `memory` is where the cells are, and must outlive the widget.
+  /// Keeps its cells in `memory`, which must outlive it.
   explicit CGridCtrl(QWidget* parent,
                      std::pmr::memory_resource* memory = std::pmr::get_default_resource());
   CGridCtrl(const CGridCtrl&) = delete;
   CGridCtrl& operator=(const CGridCtrl&) = delete;
   ~CGridCtrl() override;
 
-  /// They are told until others are set: whoever goes before the grid takes them back.
+  /// The hooks are called until others are set: an owner that goes first takes its hooks back.
   void SetHooks(GridHooks hooks) { hooks_ = std::move(hooks); }
 
+  // As GridModel has them. Another shape gives up an edit; selection and focus stay, or move to the
+  // nearest cells that are left.
   const GridModel& Model() const { return model_; }
-
-  // As GridModel has them; the widget follows. A change of the shape gives up an edit.
-  void ResetSelectedRange();
   bool SetRowCount(int count);
   bool SetColumnCount(int count);
   bool SetFixedRowCount(int count);
@@ -60,43 +59,53 @@ class CGridCtrl final : public QAbstractScrollArea {
   std::u16string_view GetItemText(int row, int column) const {
     return model_.GetItemText(row, column);
   }
-  void ClearSelectedCells();
-  void SetFocusCell(GridCell cell);
-  void SelectTo(GridCell cell);
-
-  /// Makes every column as wide as the widest text in it, edges included.
+  /// Makes every column as wide as the widest text in it, margins included.
   void AutoSizeColumns();
 
-  /// How many pixels stand for one, above 0; texts are `textPixels` high.
+  // The selection is one range; the focus cell is one of its corners. Headers are passed by.
+  GridCell Focus() const;
+  GridRange Selection() const;
+  GridCell SelectionEnd() const;  ///< the corner opposite to the focus cell
+  void ResetSelectedRange();      ///< afterwards there is neither selection nor focus cell
+  /// Makes the nearest cell that is not fixed the focus cell, and all that is selected.
+  void SetFocusCell(GridCell cell);
+  /// Selects from the focus cell to `cell`; without a focus cell as SetFocusCell.
+  void SelectTo(GridCell cell);
+  void ClearSelectedCells();  ///< empties their texts, and leaves their formats
+
+  /// `scale` pixels, above 0, stand for one; texts are `textPixels` high.
   void SetScale(double scale, int textPixels);
 
-  /// Whether cells can be edited in place; at first they can.
-  void SetEditable(bool isEditable);
+  void SetEditable(bool isEditable);  ///< at first it is
   bool IsEditable() const { return isEditable_; }
   bool IsEditing() const { return editing_.has_value(); }
-  /// Does what F2 does; nothing where there is no focus cell or cells cannot be edited.
+  /// As F2; does nothing if there is no focus cell or cells cannot be edited.
   void EditFocusCell();
-  /// Ends an edit that is going on, taking what was typed.
-  void FinishEdit();
-  void GiveUpEdit();  ///< ends it, and the cell keeps its text
+  void FinishEdit();  ///< takes what was typed, if an edit is going on
+  void GiveUpEdit();  ///< the cell keeps its text
 
-  /// In viewport coordinates; what is scrolled away lies outside of it or under the headers.
+  /// May lie outside of the grid or under the headers, if scrolled away.
   QRect CellArea(GridCell cell) const;
-  /// The cell at a place of the viewport, fixed ones included; none beside the cells.
+  /// Fixed cells included; none beside the cells.
   GridCell CellAt(QPoint place) const;
-  /// Whether something of a cell shows.
+  /// Whether a part of the cell shows.
   bool IsInView(GridCell cell) const;
 
  private:
-  /// What the mouse does between being pressed and being released.
+  class Cells;
+  class Painter;
+  /// What the mouse does between press and release.
   enum class Drag { None, Cells, Columns, Rows, ColumnWidth };
-  /// Whether the focus goes along to a cell, or stays and what is between is selected.
+  /// Whether the focus cell moves, or stays and what is between is selected.
   enum class Reach { Focus, Selection };
 
   bool event(QEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
+  bool eventFilter(QObject* part, QEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
+  void updateGeometries() override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void selectionChanged(const QItemSelection& now, const QItemSelection& before) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -107,33 +116,49 @@ class CGridCtrl final : public QAbstractScrollArea {
   void wheelEvent(QWheelEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
 
-  GridGeometry Geometry() const;
-  QRect Room() const;
   bool Reshape(bool (GridModel::*set)(int), int count);
-  void UpdateBars();
-  void ScrollTo(GridCell cell);
-  bool ScrollByWheel(QPoint turned);
+  void ArrangeLines();
+  QRect Room() const { return viewport()->geometry(); }
+  QRect Whole() const { return {QPoint(0, 0), Room().bottomRight()}; }
+  // The edges before a line of the grid that is not scrolled.
+  int Left(int column) const;
+  int Top(int row) const;
+  // -1 beside the lines.
+  int ColumnAt(int x) const;
+  int RowAt(int y) const;
+  int FirstRow() const;
+  void Reveal(GridCell cell);
   int FittingWidth(int column) const;
+  void Repaint();
+  GridLook Look() const;
+  void PaintHeaders(QWidget& part) const;
+  void Mark(GridCell focus, GridCell end);
 
   // What the user does; the hooks are told.
   bool OnKey(const QKeyEvent& event);
-  bool GoTo(std::optional<GridCell> cell);
-  void Go(GridCell from, GridMove move, Reach reach);
+  GridCell From(GridCell cell, int rows, int columns) const;
+  bool GoByTab(GridCell cell, bool isBackward);
   void Select(GridCell cell, Reach reach);
   void SelectColumn(int column, Reach reach);
   void SelectRow(int row, Reach reach);
-  void ChangeSelection(const std::function<void()>& change);
+  void SelectAll();
+  void SelectRange(GridCell focus, GridCell end);
   int EdgeAt(QPoint place) const;
   void PressAt(GridCell cell, Reach reach);
   void DragTo(QPoint place);
   void EndDrag();
   void ResizeColumn(int column, int width);
+  bool ScrollByWheel(QPoint turned);
 
   std::optional<GridCell> CloseEdit();
   void PlaceEdit();
+  QString NameOfPlace(GridCell cell) const;
   void OnEditKey(int key, Qt::KeyboardModifiers modifiers);
+  void TellFocus();
 
   GridModel model_;
+  Cells* cells_;
+  std::array<QWidget*, 3> headers_;  // where those of columns, those of rows and the corner show
   GridHooks hooks_;
   double scale_ = 1;
   bool isEditable_ = true;
@@ -142,9 +167,9 @@ class CGridCtrl final : public QAbstractScrollArea {
   Drag drag_ = Drag::None;
   QPoint dragPlace_;
   int dragColumn_ = 0;
-  int dragOffset_ = 0;  // the width of that column where the mouse is at 0
+  int dragOffset_ = 0;  // that column's width if the mouse were at 0
   QBasicTimer scrolling_;
-  int wheel_ = 0;  // lines by 120 that were turned and are not scrolled yet
+  int wheel_ = 0;  // turned and not scrolled yet, in lines by 120
 };
 
 }  // namespace kav

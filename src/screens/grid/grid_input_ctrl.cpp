@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <memory>
 
-#include "screens/grid/grid_access_view.h"
 #include "screens/grid/grid_ctrl.h"
 #include "screens/grid/grid_edit_view.h"
 
@@ -19,31 +18,38 @@ constexpr int kWheelStep = 120;
 /// The time from one cell to the next while the mouse pulls a selection out of the viewport.
 constexpr int kScrollMilliseconds = 80;
 
+/// Beyond the border, wherever a cell is.
+constexpr int kFar = GridModel::kMostRows;
+/// Stands for the rows of a page.
+constexpr int kPage = 2 * kFar;
+
+/// How many rows and columns a key leads on.
 struct MoveKey {
   int key;
   bool withControl;
-  GridMove move;
+  int rows;
+  int columns;
 };
 constexpr MoveKey kMoveKeys[]{
-    {Qt::Key_Left, false, GridMove::Left},     {Qt::Key_Right, false, GridMove::Right},
-    {Qt::Key_Up, false, GridMove::Up},         {Qt::Key_Down, false, GridMove::Down},
-    {Qt::Key_Home, false, GridMove::RowStart}, {Qt::Key_End, false, GridMove::RowEnd},
-    {Qt::Key_PageUp, false, GridMove::PageUp}, {Qt::Key_PageDown, false, GridMove::PageDown},
-    {Qt::Key_Left, true, GridMove::RowStart},  {Qt::Key_Right, true, GridMove::RowEnd},
-    {Qt::Key_Up, true, GridMove::ColumnStart}, {Qt::Key_Down, true, GridMove::ColumnEnd},
-    {Qt::Key_Home, true, GridMove::Start},     {Qt::Key_End, true, GridMove::End},
+    {Qt::Key_Left, false, 0, -1},       {Qt::Key_Right, false, 0, 1},
+    {Qt::Key_Up, false, -1, 0},         {Qt::Key_Down, false, 1, 0},
+    {Qt::Key_Home, false, 0, -kFar},    {Qt::Key_End, false, 0, kFar},
+    {Qt::Key_PageUp, false, -kPage, 0}, {Qt::Key_PageDown, false, kPage, 0},
+    {Qt::Key_Left, true, 0, -kFar},     {Qt::Key_Right, true, 0, kFar},
+    {Qt::Key_Up, true, -kFar, 0},       {Qt::Key_Down, true, kFar, 0},
+    {Qt::Key_Home, true, -kFar, -kFar}, {Qt::Key_End, true, kFar, kFar},
 };
 
 constexpr Qt::KeyboardModifiers kCommands =
     Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
-std::optional<GridMove> MoveOf(const QKeyEvent& event) {
-  if ((event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return std::nullopt;
-  const bool withControl = (event.modifiers() & Qt::ControlModifier) != 0;
+const MoveKey* MoveOf(int key, Qt::KeyboardModifiers modifiers) {
+  if ((modifiers & (Qt::AltModifier | Qt::MetaModifier)) != 0) return nullptr;
+  const bool withControl = (modifiers & Qt::ControlModifier) != 0;
   for (const MoveKey& row : kMoveKeys) {
-    if (row.key == event.key() && row.withControl == withControl) return row.move;
+    if (row.key == key && row.withControl == withControl) return &row;
   }
-  return std::nullopt;
+  return nullptr;
 }
 
 bool IsTyping(const QKeyEvent& event) {
@@ -64,36 +70,49 @@ bool IsBackward(int key, Qt::KeyboardModifiers modifiers) {
   return key == Qt::Key_Backtab || (modifiers & Qt::ShiftModifier) != 0;
 }
 
-/// The cell that Tab, or Shift+Tab, leads to.
-std::optional<GridCell> TabTarget(const GridModel& grid, GridCell from, int key,
-                                  Qt::KeyboardModifiers modifiers) {
-  return IsBackward(key, modifiers) ? PreviousCell(grid, from) : NextCell(grid, from);
-}
-
 bool IsTab(const QKeyEvent& event) {
   const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
   return isTab && (event.modifiers() & kCommands) == 0;
 }
 
+/// Of the grid's own, wherever in it they are.
+bool IsOfMouse(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::ToolTip:
+      return true;
+    default:
+      return false;
+  }
+}
+
 }  // namespace
 
 bool CGridCtrl::event(QEvent* event) {
+  // With places of the whole grid, where viewport and headers leave it to their parent.
+  if (IsOfMouse(*event)) return QWidget::event(event);
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
     // What means something here is no shortcut of the screen around.
     const bool edits = isEditable_ && (AsksForEdit(key) || IsTyping(key));
-    if (edits || MoveOf(key) || IsSelectAll(key)) {
+    if (edits || MoveOf(key.key(), key.modifiers()) != nullptr || IsSelectAll(key)) {
       event->accept();
       return true;
     }
   }
   if (event->type() == QEvent::KeyPress) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (IsTab(key) && GoTo(TabTarget(model_, model_.Focus(), key.key(), key.modifiers()))) {
-      return true;
-    }
+    if (IsTab(key) && GoByTab(Focus(), IsBackward(key.key(), key.modifiers()))) return true;
   }
-  return QAbstractScrollArea::event(event);
+  return QTableView::event(event);
+}
+
+bool CGridCtrl::viewportEvent(QEvent* event) {
+  return !IsOfMouse(*event) && QTableView::viewportEvent(event);
 }
 
 void CGridCtrl::focusInEvent(QFocusEvent* event) {
@@ -101,17 +120,17 @@ void CGridCtrl::focusInEvent(QFocusEvent* event) {
   // Who comes by keys must see where he is.
   const bool isByKey =
       event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-  if (isByKey && model_.Focus().IsNone()) Select(model_.Nearest({0, 0}), Reach::Focus);
-  if (isByKey) ScrollTo(model_.SelectionEnd());
-  TellFocus(*this);
-  viewport()->update();
+  if (isByKey && Focus().IsNone()) Select({0, 0}, Reach::Focus);
+  if (isByKey) Reveal(SelectionEnd());
+  TellFocus();
+  Repaint();
 }
 
 void CGridCtrl::focusOutEvent(QFocusEvent* event) {
   QAbstractScrollArea::focusOutEvent(event);
   // Whoever has the focus now, a box that opened perhaps, gets the release of the button.
   EndDrag();
-  viewport()->update();
+  Repaint();
 }
 
 void CGridCtrl::keyPressEvent(QKeyEvent* event) {
@@ -121,18 +140,18 @@ void CGridCtrl::keyPressEvent(QKeyEvent* event) {
 
 bool CGridCtrl::OnKey(const QKeyEvent& event) {
   const bool isExtending = (event.modifiers() & Qt::ShiftModifier) != 0;
-  if (const auto move = MoveOf(event)) {
-    Go(isExtending ? model_.SelectionEnd() : model_.Focus(), *move,
-       isExtending ? Reach::Selection : Reach::Focus);
+  if (const MoveKey* move = MoveOf(event.key(), event.modifiers())) {
+    const GridCell from = isExtending ? SelectionEnd() : Focus();
+    Select(From(from, move->rows, move->columns), isExtending ? Reach::Selection : Reach::Focus);
     return true;
   }
   if (IsSelectAll(event)) {
-    ChangeSelection([this] { model_.SelectAll(); });
+    SelectAll();
     return true;
   }
   const bool isTyping = IsTyping(event);
   if (!isEditable_ || !(isTyping || AsksForEdit(event))) return false;
-  if (model_.Focus().IsNone()) Select({0, 0}, Reach::Focus);
+  if (Focus().IsNone()) Select({0, 0}, Reach::Focus);
   EditFocusCell();
   // The old text is selected, and so replaced by what is typed.
   if (isTyping && editing_) {
@@ -147,74 +166,70 @@ void CGridCtrl::OnEditKey(int key, Qt::KeyboardModifiers modifiers) {
   if (key == Qt::Key_Escape) return GiveUpEdit();
   const GridCell cell = *editing_;
   FinishEdit();
-  switch (key) {
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-      if (!GoTo(TabTarget(model_, cell, key, modifiers))) {
-        focusNextPrevChild(!IsBackward(key, modifiers));
-      }
-      break;
-    case Qt::Key_Up:
-      return Go(cell, GridMove::Up, Reach::Focus);
-    case Qt::Key_PageUp:
-      return Go(cell, GridMove::PageUp, Reach::Focus);
-    case Qt::Key_PageDown:
-      return Go(cell, GridMove::PageDown, Reach::Focus);
-    case Qt::Key_Down:
-      return Go(cell, GridMove::Down, Reach::Focus);
-    default:
-      return Go(cell, IsBackward(key, modifiers) ? GridMove::Up : GridMove::Down, Reach::Focus);
+  const bool isBackward = IsBackward(key, modifiers);
+  if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+    if (!GoByTab(cell, isBackward)) focusNextPrevChild(!isBackward);
+    return;
   }
+  // Enter leads on as an arrow does.
+  const MoveKey* move = MoveOf(key, {});
+  Select(From(cell, move != nullptr ? move->rows : isBackward ? -1 : 1, 0), Reach::Focus);
 }
 
-bool CGridCtrl::GoTo(std::optional<GridCell> cell) {
-  if (cell) Select(*cell, Reach::Focus);
-  return cell.has_value();
-}
-
-void CGridCtrl::Go(GridCell from, GridMove move, Reach reach) {
+/// The cell so many rows and columns on, at most the one at the border.
+GridCell CGridCtrl::From(GridCell cell, int rows, int columns) const {
   const int page = Room().height() / std::max(1, qRound(GridModel::kDefaultHeight * scale_));
-  Select(Moved(model_, from, move, std::max(1, page - 1)), reach);
+  if (std::abs(rows) == kPage) rows = rows / kPage * std::max(1, page - 1);
+  const GridCell from = model_.Nearest(cell);
+  return cell.IsNone() ? from : GridCell{from.row + rows, from.column + columns};
+}
+
+/// Goes row by row; false beyond the first and the last cell. Without a cell, from outside.
+bool CGridCtrl::GoByTab(GridCell cell, bool isBackward) {
+  const GridCell first = model_.Nearest({0, 0});
+  if (first.IsNone()) return false;
+  const GridCell from = model_.Nearest(cell);
+  const int columns = model_.ColumnCount() - first.column;
+  const int last = columns * (model_.RowCount() - first.row) - 1;
+  int place = (from.row - first.row) * columns + from.column - first.column;
+  if (cell.IsNone()) place = isBackward ? last + 1 : -1;
+  place += isBackward ? -1 : 1;
+  if (place < 0 || place > last) return false;
+  Select({first.row + place / columns, first.column + place % columns}, Reach::Focus);
+  return true;
 }
 
 void CGridCtrl::Select(GridCell cell, Reach reach) {
-  ChangeSelection([this, cell, reach] {
-    if (reach == Reach::Focus) return model_.SetFocus(cell);
-    model_.SelectTo(cell);
-  });
-  ScrollTo(model_.SelectionEnd());
+  const bool isExtending = reach == Reach::Selection && !Focus().IsNone();
+  SelectRange(isExtending ? Focus() : cell, cell);
+  Reveal(SelectionEnd());
 }
 
 void CGridCtrl::SelectColumn(int column, Reach reach) {
-  ChangeSelection([this, column, reach] {
-    const GridCell focus = model_.Focus();
-    const bool keeps = reach == Reach::Selection && !focus.IsNone();
-    model_.SetFocus({0, keeps ? focus.column : column});
-    model_.SelectTo({model_.RowCount(), column});
-  });
-  ScrollTo(model_.Nearest({Geometry().FirstRow(), column}));
+  const bool isExtending = reach == Reach::Selection && !Focus().IsNone();
+  SelectRange({0, isExtending ? Focus().column : column}, {model_.RowCount(), column});
+  Reveal(model_.Nearest({FirstRow(), column}));
 }
 
 void CGridCtrl::SelectRow(int row, Reach reach) {
-  ChangeSelection([this, row, reach] {
-    const GridCell focus = model_.Focus();
-    const bool keeps = reach == Reach::Selection && !focus.IsNone();
-    model_.SetFocus({keeps ? focus.row : row, 0});
-    model_.SelectTo({row, model_.ColumnCount()});
-  });
-  ScrollTo(model_.Nearest({row, Geometry().ColumnAt(Room().left())}));
+  const bool isExtending = reach == Reach::Selection && !Focus().IsNone();
+  SelectRange({isExtending ? Focus().row : row, 0}, {row, model_.ColumnCount()});
+  Reveal(model_.Nearest({row, columnAt(0)}));
 }
 
-void CGridCtrl::ChangeSelection(const std::function<void()>& change) {
-  const GridRange oldSelection = model_.Selection();
-  const GridCell oldFocus = model_.Focus();
-  const GridCell oldEnd = model_.SelectionEnd();
-  change();
-  viewport()->update();
-  const bool isFocusMoved = model_.Focus() != oldFocus;
-  if (isFocusMoved || model_.SelectionEnd() != oldEnd) TellFocus(*this);
-  if (isFocusMoved || model_.Selection() != oldSelection) {
-    if (hooks_.selectionChanged) hooks_.selectionChanged();
+void CGridCtrl::SelectAll() {
+  SelectRange({0, 0}, {model_.RowCount(), model_.ColumnCount()});
+}
+
+void CGridCtrl::SelectRange(GridCell focus, GridCell end) {
+  const GridRange oldSelection = Selection();
+  const GridCell oldFocus = Focus();
+  const GridCell oldEnd = SelectionEnd();
+  Mark(focus, end);
+  const bool isFocusMoved = Focus() != oldFocus;
+  if (isFocusMoved || SelectionEnd() != oldEnd) TellFocus();
+  if ((isFocusMoved || Selection() != oldSelection) && hooks_.selectionChanged) {
+    hooks_.selectionChanged();
   }
 }
 
@@ -237,7 +252,7 @@ void CGridCtrl::PressAt(GridCell cell, Reach reach) {
   if (cell.IsNone()) return;
   const bool isInHeader = cell.row < model_.FixedRowCount();
   const bool isInRowHeader = cell.column < model_.FixedColumnCount();
-  if (isInHeader && isInRowHeader) return ChangeSelection([this] { model_.SelectAll(); });
+  if (isInHeader && isInRowHeader) return SelectAll();
   drag_ = isInHeader ? Drag::Columns : isInRowHeader ? Drag::Rows : Drag::Cells;
   if (isInHeader) return SelectColumn(cell.column, reach);
   if (isInRowHeader) return SelectRow(cell.row, reach);
@@ -247,19 +262,19 @@ void CGridCtrl::PressAt(GridCell cell, Reach reach) {
 void CGridCtrl::mouseMoveEvent(QMouseEvent* event) {
   const QPoint place = event->position().toPoint();
   if (drag_ == Drag::None) {
-    viewport()->setCursor(EdgeAt(place) >= 0 ? Qt::SplitHCursor : Qt::ArrowCursor);
+    setCursor(EdgeAt(place) >= 0 ? Qt::SplitHCursor : Qt::ArrowCursor);
     return;
   }
   if ((event->buttons() & Qt::LeftButton) == 0) return EndDrag();
   dragPlace_ = place;
   DragTo(place);
-  const bool isOutside = drag_ != Drag::ColumnWidth && !viewport()->rect().contains(place);
+  const bool isOutside = drag_ != Drag::ColumnWidth && !Whole().contains(place);
   if (isOutside && !scrolling_.isActive()) scrolling_.start(kScrollMilliseconds, this);
   if (!isOutside) scrolling_.stop();
 }
 
 void CGridCtrl::timerEvent(QTimerEvent* event) {
-  if (event->timerId() != scrolling_.timerId()) return QAbstractScrollArea::timerEvent(event);
+  if (event->timerId() != scrolling_.timerId()) return QTableView::timerEvent(event);
   DragTo(dragPlace_);
 }
 
@@ -269,9 +284,8 @@ void CGridCtrl::DragTo(QPoint place) {
   }
   const QRect room = Room();
   if (room.isEmpty()) return;
-  const GridGeometry geometry = Geometry();
-  int column = geometry.ColumnAt(std::clamp(place.x(), room.left(), room.right()));
-  int row = geometry.RowAt(std::clamp(place.y(), room.top(), room.bottom()));
+  int column = ColumnAt(std::clamp(place.x(), room.left(), room.right()));
+  int row = RowAt(std::clamp(place.y(), room.top(), room.bottom()));
   // Beside the last cell is at the last cell; outside of the room the next one comes into it.
   if (column < 0) column = model_.ColumnCount() - 1;
   if (row < 0) row = model_.RowCount() - 1;
@@ -304,10 +318,19 @@ void CGridCtrl::mouseDoubleClickEvent(QMouseEvent* event) {
   EditFocusCell();
 }
 
+/// The column whose right edge is at a place of the headers; -1 if there is none.
 int CGridCtrl::EdgeAt(QPoint place) const {
-  const GridGeometry geometry = Geometry();
-  if (place.y() < 0 || place.y() >= geometry.FixedSize().height()) return -1;
-  return geometry.EdgeAt(place.x(), std::max(3, font().pixelSize() / 3));
+  const QRect room = Room();
+  if (place.y() < 0 || place.y() >= room.top() || place.x() < room.left()) return -1;
+  const int reach = std::max(3, font().pixelSize() / 3);
+  // From the right: of columns that are narrower than the reach, the last can be pulled out again.
+  for (int column = model_.ColumnCount() - 1; column >= model_.FixedColumnCount(); --column) {
+    const int edge = CellArea({0, column}).right() + 1;
+    // What is scrolled away under the headers is not there to be pulled.
+    if (edge <= room.left()) return -1;
+    if (std::abs(edge - place.x()) <= reach) return column;
+  }
+  return -1;
 }
 
 void CGridCtrl::ResizeColumn(int column, int width) {
@@ -335,10 +358,8 @@ bool CGridCtrl::ScrollByWheel(QPoint turned) {
     bar.setValue(bar.value() - lines * bar.singleStep());
     return true;
   }
-  const GridGeometry geometry = Geometry();
-  const int row =
-      std::clamp(geometry.FirstRow() - lines, model_.FixedRowCount(), model_.RowCount());
-  if (lines != 0) bar.setValue(geometry.Top(row) - geometry.FixedSize().height());
+  const int row = std::clamp(FirstRow() - lines, model_.FixedRowCount(), model_.RowCount());
+  if (lines != 0) bar.setValue(Top(row) - Top(model_.FixedRowCount()));
   return true;
 }
 

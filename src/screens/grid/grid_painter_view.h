@@ -1,10 +1,10 @@
-// How a grid looks.
+// How the cells of a grid look.
 #pragma once
 
 #include <QPalette>
 #include <QRect>
 
-#include "screens/grid/grid_geometry_view.h"
+#include "grid/grid_model.h"
 
 class QPainter;
 
@@ -13,19 +13,19 @@ namespace kav {
 /// The room between a cell's edge and its text, for texts `textPixels` high.
 int TextMargin(int textPixels);
 
-/// Where in its cell a text of `format` stands.
 Qt::Alignment TextAlignment(GridFormat format);
 
-/// What is painted besides the cells themselves.
+/// What decides on a cell's look, besides the cell. The grid must outlive it.
 struct GridLook {
-  QRect area;  ///< all of the viewport
+  const GridModel& grid;
+  GridRange selection;
+  GridCell focus;
   QPalette colours;
-  double scale = 1;       ///< of lines
-  bool hasFocus = false;  ///< whether the keys come here
+  double scale = 1;      ///< of lines
+  bool hasKeys = false;  ///< whether keys go to the grid
 };
 
-/// Paints the visible cells of `grid` in the font of `painter`, which has its size in pixels.
-void PaintGrid(QPainter& painter, const GridModel& grid, const GridGeometry& geometry,
-               const GridLook& look);
+/// Paints a cell, header or not, into `area`, in the font of `painter`, whose size is in pixels.
+void PaintCell(QPainter& painter, const QRect& area, GridCell cell, const GridLook& look);
 
 }  // namespace kav

@@ -14,6 +14,7 @@
 #include "line/line_texts.h"
 #include "matrix/matrix_menus.h"
 #include "matrix/matrix_texts.h"
+#include "screens/grid/grid_access_view.h"
 #include "screens/matrix/matrix_size_dlg.h"
 #include "screens/widgets/file_choice.h"
 #include "screens/widgets/message_box.h"
@@ -131,10 +132,10 @@ CMatrixDlg::~CMatrixDlg() {
 }
 
 void CMatrixDlg::MakeGrid() {
+  OfferGridsToScreenReaders();
   grid_->setStyle(ScreenStyle());
   grid_->setAccessibleName(ToQt(kMatrixGridName));
   grid_->installEventFilter(this);
-  grid_->viewport()->installEventFilter(this);
   GridHooks hooks;
   hooks.beginEdit = [this](int row, int column) {
     TakeLine();
@@ -246,7 +247,7 @@ void CMatrixDlg::TakeWidths() {
 }
 
 std::optional<CellRange> CMatrixDlg::SelectedCells() const {
-  const GridRange range = grid_->Model().Selection();
+  const GridRange range = grid_->Selection();
   if (range.IsNone()) return std::nullopt;
   return CellRange{range.top - kHeaders, range.left - kHeaders, range.bottom - kHeaders,
                    range.right - kHeaders};
@@ -355,10 +356,8 @@ bool CMatrixDlg::eventFilter(QObject* watched, QEvent* event) {
       editsGrid_ = true;
       Result().deselect();
     }
+    if (event->type() == QEvent::ToolTip) return ShowHint(*static_cast<QHelpEvent*>(event));
     return event->type() == QEvent::KeyPress && OnGridKey(*static_cast<QKeyEvent*>(event));
-  }
-  if (watched == grid_->viewport()) {
-    return event->type() == QEvent::ToolTip && ShowHint(*static_cast<QHelpEvent*>(event));
   }
   return LineScreen::eventFilter(watched, event);
 }
@@ -395,7 +394,7 @@ bool CMatrixDlg::ShowHint(const QHelpEvent& event) {
   const GridCell cell = grid_->CellAt(event.pos());
   if (cell.IsNone() || grid_->Model().IsFixed(cell)) return false;
   const std::u16string hint = model_.CellHint(cell.row - kHeaders, cell.column - kHeaders);
-  QToolTip::showText(event.globalPos(), QString::fromStdU16String(hint), grid_->viewport(),
+  QToolTip::showText(event.globalPos(), QString::fromStdU16String(hint), grid_,
                      grid_->CellArea(cell));
   return true;
 }
