@@ -221,7 +221,7 @@ TEST(Layering, TheRulesTellALegalIncludeFromAClimbingOne) {
       {"common/number_text.cpp", {"common/expected.h", true}, ""},
       {"common/number_text.cpp", {"settings/keys.h", true}, "climbs"},
       {"common/number_text.cpp", {"grid/grid_model.h", true}, "climbs"},
-      {"grid/grid_model.cpp", {"grid/grid_moves.h", true}, ""},
+      {"grid/grid_model.cpp", {"grid/grid_texts.h", true}, ""},
       {"grid/grid_model.cpp", {"common/expected.h", true}, "climbs"},
       {"engine/tokenizer.cpp", {"common/expected.h", true}, ""},
       {"engine/tokenizer.cpp", {"settings/keys.h", true}, "climbs"},

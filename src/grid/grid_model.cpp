@@ -62,7 +62,7 @@ bool GridModel::Reshape(int rows, int columns) try {
 bool GridModel::SetItem(const GridItem& item) try {
   if (!IsThere({item.row, item.column})) return false;
   const std::size_t index = Index(item.row, item.column);
-  if ((item.mask & GridItem::kText) != 0) {
+  if ((item.mask & GridItem::kText) != 0 && texts_[index] != item.text) {
     std::pmr::u16string text(item.text, texts_.get_allocator());
     texts_[index].swap(text);
   }

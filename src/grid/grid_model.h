@@ -82,7 +82,8 @@ class GridModel {
   bool SetFixedRowCount(int count);
   bool SetFixedColumnCount(int count);
 
-  /// Fails and changes nothing if memory runs out or there is no such cell.
+  /// Fails and changes nothing if memory runs out or there is no such cell. An equal text is not
+  /// copied.
   bool SetItem(const GridItem& item);
   /// Valid until a text or the shape is set.
   std::u16string_view GetItemText(int row, int column) const;

@@ -24,7 +24,7 @@ using test::Random;
 using test::Shape;
 using test::Tries;
 
-/// Counts the bytes that are out, and can have an end.
+/// Counts the bytes that are in use, and can run out.
 class LimitedMemory final : public std::pmr::memory_resource {
  public:
   /// From here on, `count` allocations succeed and all others fail.
@@ -66,7 +66,7 @@ class Grid : public testing::Test {
 
 constexpr GridCell kNone{-1, -1};
 
-// Cells that the grid of the fixture does not have.
+// No cells of the fixture's grid.
 constexpr GridCell kNotThere[]{{-1, 0},      {0, -1},      {-1, -1},     {4, 0},
                                {0, 5},       {4, 5},       {INT_MAX, 0}, {0, INT_MAX},
                                {INT_MIN, 0}, {0, INT_MIN}, {INT_MAX, 1}, {INT_MAX, INT_MAX}};

@@ -1,5 +1,4 @@
-// The grid a second time, without a thought about memory, and grids to hold both against each
-// other.
+// A second, simple grid that the real ones are compared with, and what fills both.
 #pragma once
 
 #include <gtest/gtest.h>

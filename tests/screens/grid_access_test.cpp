@@ -17,8 +17,7 @@ std::vector<std::pair<QAccessible::Event, int>> told;  // and the child that it 
 
 }  // namespace
 
-// The platform without a display has no screen reader: what would go to one is caught here, on its
-// way out of the program.
+// Without a display there is no screen reader: what would go to one is caught here.
 bool QAccessible::isActive() {
   return isListening;
 }

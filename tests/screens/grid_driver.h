@@ -36,8 +36,8 @@ class GridParent final : public QWidget {
   void wheelEvent(QWheelEvent*) override { ++wheels; }
 };
 
-/// Two lines and between them a grid of one header row and one header column, 20 pixels wide; rows
-/// are 18 pixels high, columns 60 wide, and seven rows and a header row have room.
+/// A grid between two lines. It has one header row and one header column, 20 pixels wide; rows are
+/// 18 pixels high, columns 60 wide. A header row and seven rows have room.
 class GridScreen : public testing::Test {
  protected:
   using Log = std::vector<std::string>;
@@ -68,8 +68,8 @@ class GridScreen : public testing::Test {
                     [this] { Note("selection"); }});
   }
 
-  /// Makes the grid one of `rows` by `columns` cells and its headers, all empty but for the numbers
-  /// in the headers, in the order in which its user does it.
+  /// Makes a grid of `rows` by `columns` empty cells with numbered headers, by the calls that the
+  /// matrix screen makes.
   void Build(int rows, int columns) {
     grid_.ResetSelectedRange();
     ASSERT_TRUE(grid_.SetRowCount(rows + 1));
@@ -147,7 +147,7 @@ class GridScreen : public testing::Test {
     ClickAt(place);
     QTest::mouseDClick(&PartAt(place), Qt::LeftButton, {}, InPart(place));
   }
-  /// Turns the wheel by angles of which 120 are a step; upwards and to the left is positive.
+  /// Turns the wheel: 120 are a step, upwards and to the left is positive.
   void Wheel(QPoint angles) {
     const QPointF place = grid_.viewport()->rect().center();
     QWheelEvent event(place, grid_.viewport()->mapToGlobal(place), {}, angles, Qt::NoButton, {},
@@ -171,7 +171,7 @@ class GridScreen : public testing::Test {
   GridEdit& Box() { return *grid_.findChild<GridEdit*>(); }
   QRect BoxArea() { return {Box().mapTo(&grid_, QPoint(0, 0)), Box().size()}; }
 
-  /// What the hooks were told since the last call.
+  /// What the hooks told since the last call.
   Log Told() { return std::exchange(log_, {}); }
   virtual void Note(const std::string& line) { log_.push_back(line); }
 

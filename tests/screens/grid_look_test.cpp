@@ -20,7 +20,7 @@ class GridLookTest : public GridScreen {
     return Picture().pixelColor(area.center().x(), area.top() + 2);
   }
 
-  /// Where the text of a cell is, within its area: what is darker than any paper or line.
+  /// The part of a cell's area that its text covers: what is darker than any paper or line.
   QRect Ink(GridCell cell) {
     const QImage picture = Picture(cell);
     QRect ink;
@@ -32,7 +32,7 @@ class GridLookTest : public GridScreen {
     return ink;
   }
 
-  /// The colour that outlines a cell; none where its four edges do not have the same.
+  /// The colour that outlines a cell; none if its four edges differ in it.
   std::optional<QColor> Outline(GridCell cell) {
     const QImage picture = Picture(cell).copy(0, 0, grid_.CellArea(cell).width() - 1, 17);
     const int right = picture.width() - 1;

@@ -1,6 +1,8 @@
 // What the user does with the mouse on a grid.
 #include <gtest/gtest.h>
 
+#include <QScrollBar>
+
 #include "screens/grid_driver.h"
 
 namespace kav::test {
@@ -210,8 +212,10 @@ TEST_F(GridMouseTest, TheCursorShowsWhereAnEdgeIs) {
     return part.cursor().shape();
   };
   EXPECT_EQ(cursorAt({20 + 60, 9}), Qt::SplitHCursor);
+  EXPECT_EQ(grid_.verticalScrollBar()->cursor().shape(), Qt::ArrowCursor);
   EXPECT_EQ(cursorAt({20 + 30, 9}), Qt::ArrowCursor);
   EXPECT_EQ(cursorAt({20 + 60, 30}), Qt::ArrowCursor);
+  EXPECT_TRUE(grid_.viewport()->hasMouseTracking()) << "moves without a button are seen";
 }
 
 TEST_F(GridMouseTest, ADoubleClickOnAnEdgeFitsTheColumn) {

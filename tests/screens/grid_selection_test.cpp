@@ -304,10 +304,10 @@ TEST_F(GridSelectionTest, TabLeadsRowByRow) {
     Shape shape;
     std::vector<GridCell> cells;
   };
-  for (const Row& row : {Row{{3, 4, 1, 1}, {{1, 1}, {1, 2}, {1, 3}, {2, 1}, {2, 2}, {2, 3}}},
-                         Row{{1, 3, 0, 0}, {{0, 0}, {0, 1}, {0, 2}}},
-                         Row{{3, 1, 0, 0}, {{0, 0}, {1, 0}, {2, 0}}},
-                         Row{{2, 2, 1, 1}, {{1, 1}}}}) {
+  for (const Row& row :
+       {Row{{3, 4, 1, 1}, {{1, 1}, {1, 2}, {1, 3}, {2, 1}, {2, 2}, {2, 3}}},
+        Row{{1, 3, 0, 0}, {{0, 0}, {0, 1}, {0, 2}}}, Row{{3, 1, 0, 0}, {{0, 0}, {1, 0}, {2, 0}}},
+        Row{{2, 2, 1, 1}, {{1, 1}}}}) {
     BuildShape(row.shape.rows, row.shape.columns, row.shape.fixedRows, row.shape.fixedColumns);
     const auto walk = [this](Qt::Key key, Qt::KeyboardModifiers modifiers) {
       std::vector<GridCell> way;

@@ -3,7 +3,7 @@
 
 namespace kav {
 
-/// From here on every grid is a table to a screen reader. Further calls do nothing.
+/// From here on every grid is a table to screen readers. Further calls do nothing.
 void OfferGridsToScreenReaders();
 
 }  // namespace kav

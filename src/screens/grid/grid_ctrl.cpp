@@ -20,14 +20,14 @@ namespace {
 
 constexpr int kUsualTextPixels = 12;
 
-/// Beyond, widths in pixels leave the range that they are counted in.
+// Scaled widths stay within what the toolkit can count.
 constexpr double kSmallestScale = 0.1;
 constexpr double kLargestScale = 100;
 
-/// A text that is longer makes its column no wider.
+/// Characters of a text beyond these make its column no wider.
 constexpr std::size_t kLongestMeasured = 2000;
 
-/// The pixels of the first `count` lines, whose sizes are `sizeOf` them.
+/// The pixels of the first `count` lines together; `sizeOf` gives the unscaled size of a line.
 template <class Sizes>
 int PixelsOf(int count, double scale, const Sizes& sizeOf) {
   int sum = 0;
@@ -38,7 +38,7 @@ int PixelsOf(int count, double scale, const Sizes& sizeOf) {
 /// Hides the fixed lines and sizes the others so that neighbours meet whatever the scale.
 template <class Sizes>
 void Arrange(QHeaderView& header, int fixed, double scale, const Sizes& sizeOf) {
-  // Else the table would be told of each line.
+  // Otherwise the table would react to each line.
   const QSignalBlocker quiet(header);
   int sum = 0;
   for (int i = 0; i < header.count(); ++i) {
@@ -51,7 +51,7 @@ void Arrange(QHeaderView& header, int fixed, double scale, const Sizes& sizeOf) 
 
 }  // namespace
 
-/// The cells as the toolkit asks for them. Fixed ones are among them, in hidden lines.
+/// The cells as the toolkit asks for them, fixed ones included: their lines are hidden.
 class CGridCtrl::Cells final : public QAbstractTableModel {
  public:
   Cells(QObject* parent, const GridModel& grid) : QAbstractTableModel(parent), grid_(grid) {}
@@ -91,12 +91,13 @@ CGridCtrl::CGridCtrl(QWidget* parent, std::pmr::memory_resource* memory)
       model_(memory),
       cells_(new Cells(this, model_)),
       headers_{horizontalHeader()->viewport(), verticalHeader()->viewport(),
-               findChild<QAbstractButton*>({}, Qt::FindDirectChildrenOnly)} {
+               findChild<QAbstractButton*>({}, Qt::FindDirectChildrenOnly)},
+      edit_(new GridEdit(viewport())) {
   setLayoutDirection(Qt::LeftToRight);
   setFrameShape(QFrame::NoFrame);
   setPalette(ScreenPalette());
   setAttribute(Qt::WA_InputMethodEnabled, false);
-  setMouseTracking(true);
+  for (QWidget* part : {static_cast<QWidget*>(this), viewport()}) part->setMouseTracking(true);
   setShowGrid(false);
   setAutoScroll(false);
   setTabKeyNavigation(false);
@@ -109,18 +110,19 @@ CGridCtrl::CGridCtrl(QWidget* parent, std::pmr::memory_resource* memory)
   }
   headers_[2]->setAttribute(Qt::WA_TransparentForMouseEvents);
   for (QWidget* part : headers_) part->installEventFilter(this);
-  for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) bar->setStyle(ScreenStyle());
-  edit_ = new GridEdit(
-      viewport(), {[this](int key, Qt::KeyboardModifiers modifiers) { OnEditKey(key, modifiers); },
-                   [this] { FinishEdit(); }});
+  for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) {
+    bar->setStyle(ScreenStyle());
+    bar->setCursor(Qt::ArrowCursor);
+  }
+  edit_->installEventFilter(this);
   setItemDelegate(new Painter(*this));
-  setModel(cells_);
+  QTableView::setModel(cells_);
   SetScale(1, kUsualTextPixels);
 }
 
 CGridCtrl::~CGridCtrl() {
-  // As long as the box is there, it tells this widget of the loss of the focus.
-  delete edit_;
+  // The box loses the focus when it goes, which must end no edit any more.
+  edit_->removeEventFilter(this);
 }
 
 bool CGridCtrl::SetRowCount(int count) {
@@ -181,8 +183,7 @@ int CGridCtrl::FittingWidth(int column) const {
     const std::u16string text = Shortened(model_.GetItemText(row, column), kLongestMeasured);
     widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdU16String(text)));
   }
-  // Besides the margins the line at the edge. A part of a pixel takes a whole one, lest the end of
-  // the text is cut off.
+  // The line at the edge takes room too. Rounded up, so that the end of the text is not cut off.
   const double pixels =
       std::ceil(widest + 2 * TextMargin(font().pixelSize()) + std::max(1.0, scale_ / 2));
   return static_cast<int>(std::ceil(pixels / scale_));
@@ -287,7 +288,7 @@ void CGridCtrl::Repaint() {
   for (QWidget* part : headers_) part->update();
 }
 
-/// `part` is where headers are: those of columns, those of rows, or the corner between them.
+/// `part` shows the headers of columns, those of rows, or the corner between them.
 void CGridCtrl::PaintHeaders(QWidget& part) const {
   const QRect shown = part.rect().translated(part.mapTo(this, QPoint(0, 0)));
   QPainter painter(&part);
@@ -308,6 +309,7 @@ void CGridCtrl::PaintHeaders(QWidget& part) const {
 }
 
 bool CGridCtrl::eventFilter(QObject* part, QEvent* event) {
+  if (part == edit_ && FilterEdit(*event)) return true;
   const auto header = std::find(headers_.begin(), headers_.end(), part);
   if (event->type() != QEvent::Paint || header == headers_.end()) {
     return QTableView::eventFilter(part, event);

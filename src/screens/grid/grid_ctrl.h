@@ -82,7 +82,8 @@ class CGridCtrl final : public QTableView {
   /// As F2; does nothing if there is no focus cell or cells cannot be edited.
   void EditFocusCell();
   void FinishEdit();  ///< takes what was typed, if an edit is going on
-  void GiveUpEdit();  ///< the cell keeps its text
+  /// The cell, which keeps its text; nullopt if no edit is going on.
+  std::optional<GridCell> GiveUpEdit();
 
   /// May lie outside of the grid or under the headers, if scrolled away.
   QRect CellArea(GridCell cell) const;
@@ -136,12 +137,11 @@ class CGridCtrl final : public QTableView {
 
   // What the user does; the hooks are told.
   bool OnKey(const QKeyEvent& event);
-  GridCell From(GridCell cell, int rows, int columns) const;
+  static Reach ReachOf(Qt::KeyboardModifiers modifiers);
+  GridCell Anchor(GridCell cell, Reach reach) const;
+  GridCell Moved(GridCell cell, int rows, int columns) const;
   bool GoByTab(GridCell cell, bool isBackward);
-  void Select(GridCell cell, Reach reach);
-  void SelectColumn(int column, Reach reach);
-  void SelectRow(int row, Reach reach);
-  void SelectAll();
+  void Select(GridCell cell, Reach reach, Drag drag = Drag::Cells);
   void SelectRange(GridCell focus, GridCell end);
   int EdgeAt(QPoint place) const;
   void PressAt(GridCell cell, Reach reach);
@@ -150,15 +150,15 @@ class CGridCtrl final : public QTableView {
   void ResizeColumn(int column, int width);
   bool ScrollByWheel(QPoint turned);
 
-  std::optional<GridCell> CloseEdit();
   void PlaceEdit();
   QString NameOfPlace(GridCell cell) const;
-  void OnEditKey(int key, Qt::KeyboardModifiers modifiers);
+  bool FilterEdit(QEvent& event);
+  void OnEditKey(const QKeyEvent& event);
   void TellFocus();
 
   GridModel model_;
   Cells* cells_;
-  std::array<QWidget*, 3> headers_;  // where those of columns, those of rows and the corner show
+  std::array<QWidget*, 3> headers_;  // that show column headers, row headers and the corner
   GridHooks hooks_;
   double scale_ = 1;
   bool isEditable_ = true;
@@ -167,9 +167,9 @@ class CGridCtrl final : public QTableView {
   Drag drag_ = Drag::None;
   QPoint dragPlace_;
   int dragColumn_ = 0;
-  int dragOffset_ = 0;  // that column's width if the mouse were at 0
+  int dragOffset_ = 0;  // to be added to the mouse's x for that column's width
   QBasicTimer scrolling_;
-  int wheel_ = 0;  // turned and not scrolled yet, in lines by 120
+  int wheel_ = 0;  // turned but not scrolled yet, in lines times 120
 };
 
 }  // namespace kav

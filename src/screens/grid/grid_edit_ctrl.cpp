@@ -132,7 +132,7 @@ QString CGridCtrl::NameOfPlace(GridCell cell) const {
   return ToQt(kRowOfCell) + ToQt(row) + ", " + ToQt(kColumnOfCell) + ToQt(column);
 }
 
-std::optional<GridCell> CGridCtrl::CloseEdit() {
+std::optional<GridCell> CGridCtrl::GiveUpEdit() {
   const std::optional<GridCell> cell = editing_;
   editing_.reset();
   if (!cell) return cell;
@@ -143,12 +143,8 @@ std::optional<GridCell> CGridCtrl::CloseEdit() {
   return cell;
 }
 
-void CGridCtrl::GiveUpEdit() {
-  CloseEdit();
-}
-
 void CGridCtrl::FinishEdit() {
-  const std::optional<GridCell> cell = CloseEdit();
+  const std::optional<GridCell> cell = GiveUpEdit();
   if (!cell) return;
   // A text longer than the box takes is cut by it, but only if it was touched.
   const QString text =

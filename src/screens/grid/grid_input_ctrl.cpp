@@ -4,6 +4,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
+#include <array>
 #include <memory>
 
 #include "screens/grid/grid_ctrl.h"
@@ -15,15 +16,17 @@ namespace {
 /// The angle of one step of a wheel.
 constexpr int kWheelStep = 120;
 
-/// The time from one cell to the next while the mouse pulls a selection out of the viewport.
+/// The time from one cell to the next while the mouse pulls a selection beyond the border.
 constexpr int kScrollMilliseconds = 80;
 
 /// Beyond the border, wherever a cell is.
 constexpr int kFar = GridModel::kMostRows;
+constexpr GridCell kFirst{0, 0};
+constexpr GridCell kLast{kFar, kFar};
 /// Stands for the rows of a page.
 constexpr int kPage = 2 * kFar;
 
-/// How many rows and columns a key leads on.
+/// By how many rows and columns a key moves.
 struct MoveKey {
   int key;
   bool withControl;
@@ -66,8 +69,8 @@ bool IsSelectAll(const QKeyEvent& event) {
   return event.key() == Qt::Key_A && (event.modifiers() & kCommands) == Qt::ControlModifier;
 }
 
-bool IsBackward(int key, Qt::KeyboardModifiers modifiers) {
-  return key == Qt::Key_Backtab || (modifiers & Qt::ShiftModifier) != 0;
+bool IsBackward(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Backtab || (event.modifiers() & Qt::ShiftModifier) != 0;
 }
 
 bool IsTab(const QKeyEvent& event) {
@@ -75,29 +78,32 @@ bool IsTab(const QKeyEvent& event) {
   return isTab && (event.modifiers() & kCommands) == 0;
 }
 
-/// Of the grid's own, wherever in it they are.
+bool EndsEdit(const QKeyEvent& event) {
+  constexpr std::array kKeys{Qt::Key_Return, Qt::Key_Enter,   Qt::Key_Escape,
+                             Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Up,
+                             Qt::Key_Down,   Qt::Key_PageUp,  Qt::Key_PageDown};
+  if ((event.modifiers() & kCommands) != 0) return false;
+  return std::find(kKeys.begin(), kKeys.end(), event.key()) != kKeys.end();
+}
+
 bool IsOfMouse(const QEvent& event) {
-  switch (event.type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::Wheel:
-    case QEvent::ToolTip:
-      return true;
-    default:
-      return false;
-  }
+  constexpr std::array kTypes{QEvent::MouseButtonPress,
+                              QEvent::MouseButtonRelease,
+                              QEvent::MouseMove,
+                              QEvent::MouseButtonDblClick,
+                              QEvent::Wheel,
+                              QEvent::ToolTip};
+  return std::find(kTypes.begin(), kTypes.end(), event.type()) != kTypes.end();
 }
 
 }  // namespace
 
 bool CGridCtrl::event(QEvent* event) {
-  // With places of the whole grid, where viewport and headers leave it to their parent.
+  // Viewport and headers leave the mouse to the grid, which sees places of its own.
   if (IsOfMouse(*event)) return QWidget::event(event);
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    // What means something here is no shortcut of the screen around.
+    // A key of the grid is not to work as a shortcut of the screen around it.
     const bool edits = isEditable_ && (AsksForEdit(key) || IsTyping(key));
     if (edits || MoveOf(key.key(), key.modifiers()) != nullptr || IsSelectAll(key)) {
       event->accept();
@@ -106,7 +112,7 @@ bool CGridCtrl::event(QEvent* event) {
   }
   if (event->type() == QEvent::KeyPress) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (IsTab(key) && GoByTab(Focus(), IsBackward(key.key(), key.modifiers()))) return true;
+    if (IsTab(key) && GoByTab(Focus(), IsBackward(key))) return true;
   }
   return QTableView::event(event);
 }
@@ -117,10 +123,10 @@ bool CGridCtrl::viewportEvent(QEvent* event) {
 
 void CGridCtrl::focusInEvent(QFocusEvent* event) {
   QAbstractScrollArea::focusInEvent(event);
-  // Who comes by keys must see where he is.
+  // Someone who comes by keys must see the focus cell.
   const bool isByKey =
       event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-  if (isByKey && Focus().IsNone()) Select({0, 0}, Reach::Focus);
+  if (isByKey && Focus().IsNone()) Select(kFirst, Reach::Focus);
   if (isByKey) Reveal(SelectionEnd());
   TellFocus();
   Repaint();
@@ -128,32 +134,32 @@ void CGridCtrl::focusInEvent(QFocusEvent* event) {
 
 void CGridCtrl::focusOutEvent(QFocusEvent* event) {
   QAbstractScrollArea::focusOutEvent(event);
-  // Whoever has the focus now, a box that opened perhaps, gets the release of the button.
+  // What has the focus now, perhaps a box that opened, gets the release of the button.
   EndDrag();
   Repaint();
 }
 
 void CGridCtrl::keyPressEvent(QKeyEvent* event) {
-  // While the box is open, what comes here is what it did not want.
+  // While the edit box is open, only keys that it ignored come here.
   if (editing_ || !OnKey(*event)) event->ignore();
 }
 
 bool CGridCtrl::OnKey(const QKeyEvent& event) {
-  const bool isExtending = (event.modifiers() & Qt::ShiftModifier) != 0;
   if (const MoveKey* move = MoveOf(event.key(), event.modifiers())) {
-    const GridCell from = isExtending ? SelectionEnd() : Focus();
-    Select(From(from, move->rows, move->columns), isExtending ? Reach::Selection : Reach::Focus);
+    const Reach reach = ReachOf(event.modifiers());
+    const GridCell from = reach == Reach::Selection ? SelectionEnd() : Focus();
+    Select(Moved(from, move->rows, move->columns), reach);
     return true;
   }
   if (IsSelectAll(event)) {
-    SelectAll();
+    SelectRange(kFirst, kLast);
     return true;
   }
   const bool isTyping = IsTyping(event);
   if (!isEditable_ || !(isTyping || AsksForEdit(event))) return false;
-  if (Focus().IsNone()) Select({0, 0}, Reach::Focus);
+  if (Focus().IsNone()) Select(kFirst, Reach::Focus);
   EditFocusCell();
-  // The old text is selected, and so replaced by what is typed.
+  // The old text is selected, so what is typed replaces it.
   if (isTyping && editing_) {
     const std::unique_ptr<QKeyEvent> typed(event.clone());
     QApplication::sendEvent(edit_, typed.get());
@@ -161,32 +167,53 @@ bool CGridCtrl::OnKey(const QKeyEvent& event) {
   return true;
 }
 
-void CGridCtrl::OnEditKey(int key, Qt::KeyboardModifiers modifiers) {
+/// Takes the keys that end an edit from its box, and sees when the box loses the focus.
+bool CGridCtrl::FilterEdit(QEvent& event) {
+  if (event.type() == QEvent::FocusOut) {
+    // The box's own menu takes the focus only for as long as it is open.
+    if (static_cast<QFocusEvent&>(event).reason() != Qt::PopupFocusReason) FinishEdit();
+    return false;
+  }
+  const bool isShortcut = event.type() == QEvent::ShortcutOverride;
+  if (!isShortcut && event.type() != QEvent::KeyPress) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  if (!EndsEdit(key)) return false;
+  event.accept();
+  if (!isShortcut) OnEditKey(key);
+  return true;
+}
+
+void CGridCtrl::OnEditKey(const QKeyEvent& event) {
   if (!editing_) return;
-  if (key == Qt::Key_Escape) return GiveUpEdit();
   const GridCell cell = *editing_;
+  if (event.key() == Qt::Key_Escape) {
+    GiveUpEdit();
+    return;
+  }
   FinishEdit();
-  const bool isBackward = IsBackward(key, modifiers);
-  if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+  const bool isBackward = IsBackward(event);
+  if (IsTab(event)) {
     if (!GoByTab(cell, isBackward)) focusNextPrevChild(!isBackward);
     return;
   }
-  // Enter leads on as an arrow does.
-  const MoveKey* move = MoveOf(key, {});
-  Select(From(cell, move != nullptr ? move->rows : isBackward ? -1 : 1, 0), Reach::Focus);
+  // Enter moves as an arrow does.
+  const MoveKey* move = MoveOf(event.key(), {});
+  Select(Moved(cell, move != nullptr ? move->rows : isBackward ? -1 : 1, 0), Reach::Focus);
 }
 
-/// The cell so many rows and columns on, at most the one at the border.
-GridCell CGridCtrl::From(GridCell cell, int rows, int columns) const {
+/// The cell so many rows and columns further, which may lie beyond the border; the first cell from
+/// none.
+GridCell CGridCtrl::Moved(GridCell cell, int rows, int columns) const {
   const int page = Room().height() / std::max(1, qRound(GridModel::kDefaultHeight * scale_));
   if (std::abs(rows) == kPage) rows = rows / kPage * std::max(1, page - 1);
   const GridCell from = model_.Nearest(cell);
   return cell.IsNone() ? from : GridCell{from.row + rows, from.column + columns};
 }
 
-/// Goes row by row; false beyond the first and the last cell. Without a cell, from outside.
+/// Moves the focus to the next cell or the one before, row by row; false at the last or first cell.
+/// From none, enters at the first or last cell.
 bool CGridCtrl::GoByTab(GridCell cell, bool isBackward) {
-  const GridCell first = model_.Nearest({0, 0});
+  const GridCell first = model_.Nearest(kFirst);
   if (first.IsNone()) return false;
   const GridCell from = model_.Nearest(cell);
   const int columns = model_.ColumnCount() - first.column;
@@ -199,26 +226,24 @@ bool CGridCtrl::GoByTab(GridCell cell, bool isBackward) {
   return true;
 }
 
-void CGridCtrl::Select(GridCell cell, Reach reach) {
-  const bool isExtending = reach == Reach::Selection && !Focus().IsNone();
-  SelectRange(isExtending ? Focus() : cell, cell);
-  Reveal(SelectionEnd());
+CGridCtrl::Reach CGridCtrl::ReachOf(Qt::KeyboardModifiers modifiers) {
+  return (modifiers & Qt::ShiftModifier) != 0 ? Reach::Selection : Reach::Focus;
 }
 
-void CGridCtrl::SelectColumn(int column, Reach reach) {
-  const bool isExtending = reach == Reach::Selection && !Focus().IsNone();
-  SelectRange({0, isExtending ? Focus().column : column}, {model_.RowCount(), column});
-  Reveal(model_.Nearest({FirstRow(), column}));
+/// Where a selection that reaches to `cell` begins.
+GridCell CGridCtrl::Anchor(GridCell cell, Reach reach) const {
+  return reach == Reach::Selection && !Focus().IsNone() ? Focus() : cell;
 }
 
-void CGridCtrl::SelectRow(int row, Reach reach) {
-  const bool isExtending = reach == Reach::Selection && !Focus().IsNone();
-  SelectRange({isExtending ? Focus().row : row, 0}, {row, model_.ColumnCount()});
-  Reveal(model_.Nearest({row, columnAt(0)}));
-}
-
-void CGridCtrl::SelectAll() {
-  SelectRange({0, 0}, {model_.RowCount(), model_.ColumnCount()});
+void CGridCtrl::Select(GridCell cell, Reach reach, Drag drag) {
+  const bool hasAllRows = drag == Drag::Columns;
+  const bool hasAllColumns = drag == Drag::Rows;
+  const GridCell from = Anchor(cell, reach);
+  SelectRange({hasAllRows ? 0 : from.row, hasAllColumns ? 0 : from.column},
+              {hasAllRows ? model_.RowCount() : cell.row,
+               hasAllColumns ? model_.ColumnCount() : cell.column});
+  Reveal(model_.Nearest(
+      {hasAllRows ? FirstRow() : cell.row, hasAllColumns ? columnAt(0) : cell.column}));
 }
 
 void CGridCtrl::SelectRange(GridCell focus, GridCell end) {
@@ -234,9 +259,9 @@ void CGridCtrl::SelectRange(GridCell focus, GridCell end) {
 }
 
 void CGridCtrl::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return event->ignore();
-  FinishEdit();
   const QPoint place = event->position().toPoint();
+  if (event->button() != Qt::LeftButton || !Whole().contains(place)) return event->ignore();
+  FinishEdit();
   dragPlace_ = place;
   dragColumn_ = EdgeAt(place);
   if (dragColumn_ >= 0) {
@@ -244,19 +269,16 @@ void CGridCtrl::mousePressEvent(QMouseEvent* event) {
     dragOffset_ = CellArea({0, dragColumn_}).width() - place.x();
     return;
   }
-  const bool isExtending = (event->modifiers() & Qt::ShiftModifier) != 0;
-  PressAt(CellAt(place), isExtending ? Reach::Selection : Reach::Focus);
+  PressAt(CellAt(place), ReachOf(event->modifiers()));
 }
 
 void CGridCtrl::PressAt(GridCell cell, Reach reach) {
   if (cell.IsNone()) return;
   const bool isInHeader = cell.row < model_.FixedRowCount();
   const bool isInRowHeader = cell.column < model_.FixedColumnCount();
-  if (isInHeader && isInRowHeader) return SelectAll();
+  if (isInHeader && isInRowHeader) return SelectRange(kFirst, kLast);
   drag_ = isInHeader ? Drag::Columns : isInRowHeader ? Drag::Rows : Drag::Cells;
-  if (isInHeader) return SelectColumn(cell.column, reach);
-  if (isInRowHeader) return SelectRow(cell.row, reach);
-  Select(cell, reach);
+  Select(cell, reach, drag_);
 }
 
 void CGridCtrl::mouseMoveEvent(QMouseEvent* event) {
@@ -286,15 +308,12 @@ void CGridCtrl::DragTo(QPoint place) {
   if (room.isEmpty()) return;
   int column = ColumnAt(std::clamp(place.x(), room.left(), room.right()));
   int row = RowAt(std::clamp(place.y(), room.top(), room.bottom()));
-  // Beside the last cell is at the last cell; outside of the room the next one comes into it.
+  // Beside the cells the last one counts; beyond the border the next one comes into view.
   if (column < 0) column = model_.ColumnCount() - 1;
   if (row < 0) row = model_.RowCount() - 1;
   column += (place.x() > room.right() ? 1 : 0) - (place.x() < room.left() ? 1 : 0);
   row += (place.y() > room.bottom() ? 1 : 0) - (place.y() < room.top() ? 1 : 0);
-  const GridCell cell = model_.Nearest({row, column});
-  if (drag_ == Drag::Columns) return SelectColumn(cell.column, Reach::Selection);
-  if (drag_ == Drag::Rows) return SelectRow(cell.row, Reach::Selection);
-  if (drag_ == Drag::Cells) Select(cell, Reach::Selection);
+  if (drag_ != Drag::None) Select(model_.Nearest({row, column}), Reach::Selection, drag_);
 }
 
 void CGridCtrl::mouseReleaseEvent(QMouseEvent* event) {
@@ -323,10 +342,10 @@ int CGridCtrl::EdgeAt(QPoint place) const {
   const QRect room = Room();
   if (place.y() < 0 || place.y() >= room.top() || place.x() < room.left()) return -1;
   const int reach = std::max(3, font().pixelSize() / 3);
-  // From the right: of columns that are narrower than the reach, the last can be pulled out again.
+  // From the right, so that the last of several very narrow columns can be pulled out again.
   for (int column = model_.ColumnCount() - 1; column >= model_.FixedColumnCount(); --column) {
     const int edge = CellArea({0, column}).right() + 1;
-    // What is scrolled away under the headers is not there to be pulled.
+    // Edges that are scrolled away under the row headers cannot be pulled.
     if (edge <= room.left()) return -1;
     if (std::abs(edge - place.x()) <= reach) return column;
   }
@@ -340,7 +359,8 @@ void CGridCtrl::ResizeColumn(int column, int width) {
 }
 
 void CGridCtrl::wheelEvent(QWheelEvent* event) {
-  if (!ScrollByWheel(event->angleDelta())) event->ignore();
+  const bool isBeside = !Whole().contains(event->position().toPoint());
+  if (isBeside || !ScrollByWheel(event->angleDelta())) event->ignore();
 }
 
 bool CGridCtrl::ScrollByWheel(QPoint turned) {
@@ -348,7 +368,7 @@ bool CGridCtrl::ScrollByWheel(QPoint turned) {
   QScrollBar& bar = isSideways ? *horizontalScrollBar() : *verticalScrollBar();
   if (bar.minimum() == bar.maximum()) return false;
   const int angle = isSideways ? turned.x() : turned.y();
-  // What was turned the other way is not to be turned back first.
+  // A part of a line that was turned the other way does not count.
   if ((wheel_ < 0 && angle > 0) || (wheel_ > 0 && angle < 0)) wheel_ = 0;
   const int most = kWheelStep * GridModel::kMostRows;
   wheel_ += std::clamp(angle, -most, most) * std::clamp(QApplication::wheelScrollLines(), 0, 100);

@@ -200,18 +200,13 @@ void CMatrixDlg::RebuildGrid() {
   const MatrixValue& matrix = model_.ShownMatrix();
   inGrid_.reset();
   grid_->ResetSelectedRange();
-  // Where there is no memory for it, the old grid stays, and the next time tries again.
+  // If there is no memory for it, the old grid stays, and the next refresh tries again.
   if (!grid_->SetFixedRowCount(0) || !grid_->SetFixedColumnCount(0) ||
       !grid_->SetRowCount(matrix.rows + kHeaders) ||
       !grid_->SetColumnCount(matrix.columns + kHeaders) || !grid_->SetFixedRowCount(kHeaders) ||
       !grid_->SetFixedColumnCount(kHeaders)) {
     return;
   }
-  inGrid_ = model_.Shown();
-}
-
-void CMatrixDlg::WriteCells() {
-  const MatrixValue& matrix = model_.ShownMatrix();
   const auto header = [this](int row, int column, int number) {
     const std::u16string text = QString::number(number).toStdU16String();
     grid_->SetItem(
@@ -219,6 +214,12 @@ void CMatrixDlg::WriteCells() {
   };
   for (int row = 0; row < matrix.rows; ++row) header(row + kHeaders, 0, row + 1);
   for (int column = 0; column < matrix.columns; ++column) header(0, column + kHeaders, column + 1);
+  inGrid_ = model_.Shown();
+}
+
+/// The grid copies only texts that are other ones.
+void CMatrixDlg::WriteCells() {
+  const MatrixValue& matrix = model_.ShownMatrix();
   const GridAlignment alignment =
       model_.Alignment() == CellAlignment::Left ? GridAlignment::Left : GridAlignment::Right;
   for (int row = 0; row < matrix.rows; ++row) {
