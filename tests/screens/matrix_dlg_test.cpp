@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QHelpEvent>
+#include <QToolTip>
 
 #include "screens/matrix_driver.h"
 #include "settings/keys.h"
@@ -250,6 +252,22 @@ TEST_F(MatrixDlgTest, WidthsAreDraggedKeptForEachMatrixFittedAndReset) {
   Choose(u"Autofit Col Width");
   EXPECT_GT(Grid().GetColumnWidth(1), 80);
   EXPECT_LT(Grid().GetColumnWidth(2), 60);
+}
+
+TEST_F(MatrixDlgTest, ACellHasAHintOfWhatItIsReadAsAndAHeaderHasNone) {
+  TypeCells(1, 1, "12abc");
+  const auto hintAt = [this](GridCell cell) {
+    const QPoint place = Grid().CellArea(cell).center();
+    QWidget* part = Grid().childAt(place);
+    if (part == nullptr) part = &Grid();
+    QHelpEvent event(QEvent::ToolTip, part->mapFrom(&Grid(), place), Grid().mapToGlobal(place));
+    QApplication::sendEvent(part, &event);
+    return QToolTip::text().toStdString();
+  };
+  // A hint that shows goes a moment later.
+  EXPECT_EQ(hintAt({1, 2}), "");
+  EXPECT_EQ(hintAt({0, 1}), "");
+  EXPECT_EQ(hintAt({1, 1}), "12");
 }
 
 TEST_F(MatrixDlgTest, CellsAreExchangedWithASpreadsheet) {
