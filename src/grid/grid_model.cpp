@@ -60,9 +60,10 @@ bool GridModel::Reshape(int rows, int columns) try {
 }
 
 bool GridModel::SetItem(const GridItem& item) try {
-  if (!IsThere({item.row, item.column})) return false;
+  const GridCell cell{item.row, item.column};
+  if (!IsThere(cell) || HasSource(cell)) return false;
   const std::size_t index = Index(item.row, item.column);
-  if ((item.mask & GridItem::kText) != 0 && texts_[index] != item.text) {
+  if ((item.mask & GridItem::kText) != 0) {
     std::pmr::u16string text(item.text, texts_.get_allocator());
     texts_[index].swap(text);
   }
@@ -73,11 +74,13 @@ bool GridModel::SetItem(const GridItem& item) try {
 }
 
 std::u16string_view GridModel::GetItemText(int row, int column) const {
+  if (HasSource({row, column})) return source_({row, column}).text;
   if (!IsThere({row, column})) return {};
   return texts_[Index(row, column)];
 }
 
 GridFormat GridModel::GetItemFormat(int row, int column) const {
+  if (HasSource({row, column})) return source_({row, column}).format;
   return IsThere({row, column}) ? formats_[Index(row, column)] : GridFormat{};
 }
 

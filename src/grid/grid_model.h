@@ -1,9 +1,11 @@
 // The cells of a grid and its shape, without its pixels on a screen.
 #pragma once
 
+#include <functional>
 #include <memory_resource>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kav {
@@ -52,6 +54,15 @@ struct GridRange {
   bool operator==(const GridRange&) const = default;
 };
 
+/// What a cell shows, valid until its owner changes it.
+struct GridContent {
+  std::u16string_view text;
+  GridFormat format;
+};
+
+/// Where an owner that has the cells itself lets the grid read them.
+using GridSource = std::function<GridContent(GridCell)>;
+
 /// Rows and columns count from 0. The first ones are fixed: they hold headers, and are neither
 /// selected nor edited. A cell or column that does not exist is empty, and setting it fails.
 class GridModel {
@@ -82,8 +93,12 @@ class GridModel {
   bool SetFixedRowCount(int count);
   bool SetFixedColumnCount(int count);
 
-  /// Fails and changes nothing if memory runs out or there is no such cell. An equal text is not
-  /// copied.
+  /// From here on `source` is asked for all cells that are not fixed; an empty one ends this. It
+  /// must have all cells of the shape.
+  void SetSource(GridSource source) { source_ = std::move(source); }
+  bool HasSource(GridCell cell) const { return source_ && IsThere(cell) && !IsFixed(cell); }
+
+  /// Fails and changes nothing if memory runs out, if there is no such cell or if it has a source.
   bool SetItem(const GridItem& item);
   /// Valid until a text or the shape is set.
   std::u16string_view GetItemText(int row, int column) const;
@@ -112,6 +127,7 @@ class GridModel {
   std::pmr::vector<GridFormat> formats_;
   int fixedRows_ = 0;
   int fixedColumns_ = 0;
+  GridSource source_;
 };
 
 }  // namespace kav

@@ -254,6 +254,29 @@ TEST_F(Grid, CellTakesATextFromTheGridItself) {
   EXPECT_EQ(model_.GetItemText(2, 3), LongText(1, 4));
 }
 
+TEST_F(Grid, CellsThatAreNotFixedAreReadFromTheirSource) {
+  std::u16string text = u"first";
+  const PlainGrid before = PlainOf(model_);
+  model_.SetSource([&text](GridCell cell) {
+    return GridContent{text, {GridAlignment::Right, cell == GridCell{2, 3}}};
+  });
+  for (const std::u16string_view now : {u"first", u"second"}) {
+    text = now;
+    EXPECT_EQ(model_.GetItemText(1, 2), now);
+    EXPECT_EQ(model_.GetItemText(3, 4), now);
+  }
+  EXPECT_EQ(model_.GetItemFormat(1, 2), (GridFormat{GridAlignment::Right, false}));
+  EXPECT_EQ(model_.GetItemFormat(2, 3), (GridFormat{GridAlignment::Right, true}));
+  EXPECT_EQ(model_.GetItemText(0, 3), LongText(0, 3));
+  EXPECT_EQ(model_.GetItemText(2, 1), LongText(2, 1));
+  EXPECT_EQ(model_.GetItemText(4, 3), u"");
+  EXPECT_FALSE(model_.HasSource({2, 1}));
+  EXPECT_FALSE(model_.SetItem({2, 3, GridItem::kText, u"own", {}}));
+  EXPECT_TRUE(model_.SetItem({0, 3, GridItem::kText, LongText(0, 3), {}}));
+  model_.SetSource({});
+  EXPECT_EQ(PlainOf(model_), before);
+}
+
 TEST_F(Grid, CellThatIsNotThereIsEmptyAndStaysSo) {
   const PlainGrid before = PlainOf(model_);
   for (const GridCell& cell : kNotThere) {

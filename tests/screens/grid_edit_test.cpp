@@ -278,6 +278,25 @@ TEST_F(GridEditTest, AnEmptiedBoxEmptiesTheCell) {
   EXPECT_EQ(Told(), (Log{"begin 2,2", "end 2,2 ", "selection"}));
 }
 
+TEST_F(GridEditTest, ATextTypedIntoACellWithASourceIsForItsOwner) {
+  std::u16string owned = u"owned";
+  grid_.SetSource([&owned](GridCell) { return GridContent{owned, {}}; });
+  grid_.SetHooks(
+      {{}, [&owned](int, int, const QString& text) { owned = text.toStdU16String(); }, {}, {}});
+  Key(Qt::Key_F2);
+  EXPECT_EQ(BoxText(), "owned");
+  Type("new");
+  EXPECT_EQ(Text({2, 2}), u"owned");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(owned, u"new");
+  EXPECT_EQ(Text({2, 2}), u"new");
+  Key(Qt::Key_F2);
+  grid_.SetSource({});
+  EXPECT_FALSE(grid_.IsEditing());
+  EXPECT_EQ(owned, u"new");
+  EXPECT_EQ(Text({2, 2}), u"old");
+}
+
 // Giving up.
 
 TEST_F(GridEditTest, EscGivesUp) {

@@ -156,6 +156,12 @@ bool CGridCtrl::Reshape(bool (GridModel::*set)(int), int count) {
   return true;
 }
 
+void CGridCtrl::SetSource(GridSource source) {
+  GiveUpEdit();
+  model_.SetSource(std::move(source));
+  Repaint();
+}
+
 bool CGridCtrl::SetItem(const GridItem& item) {
   if (!model_.SetItem(item)) return false;
   Repaint();

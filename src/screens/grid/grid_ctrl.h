@@ -19,8 +19,9 @@ struct GridLook;
 struct GridHooks {
   /// An edit begins: its box is not open yet, the cell has its old text.
   std::function<void(int row, int column)> beginEdit;
-  /// An edit has ended and `text`, perhaps the old one, is the cell's. Not told if the edit was
-  /// given up, or if there was no memory for the text, which then is lost.
+  /// An edit has ended. `text`, perhaps the old one, is the cell's already, or for the owner to
+  /// take if the cell has a source. Not told if the edit was given up, or if there was no memory
+  /// for the text, which then is lost.
   std::function<void(int row, int column, const QString& text)> endEdit;
   /// A column has another width; during a drag, each time.
   std::function<void(int column, int width)> columnResized;
@@ -49,6 +50,7 @@ class CGridCtrl final : public QTableView {
   // As GridModel has them. Another shape gives up an edit; selection and focus stay, or move to the
   // nearest cells that are left.
   const GridModel& Model() const { return model_; }
+  void SetSource(GridSource source);
   bool SetRowCount(int count);
   bool SetColumnCount(int count);
   bool SetFixedRowCount(int count);

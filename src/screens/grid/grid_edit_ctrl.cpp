@@ -16,7 +16,7 @@ GridCell CellOf(const QModelIndex& index) {
 }
 
 void Tell(CGridCtrl& grid, QAccessible::Event type, GridCell cell) {
-  if (!QAccessible::isActive() || cell.IsNone()) return;
+  if (!QAccessible::isActive() || !grid.Model().IsThere(cell)) return;
   QAccessibleEvent event(&grid, type);
   event.setChild(grid.Model().PlaceOf(cell));
   QAccessible::updateAccessibility(&event);
@@ -149,9 +149,11 @@ void CGridCtrl::FinishEdit() {
   // A text longer than the box takes is cut by it, but only if it was touched.
   const QString text =
       edit_->isModified() ? edit_->TypedText() : ToQt(model_.GetItemText(cell->row, cell->column));
-  if (!SetItem({cell->row, cell->column, GridItem::kText, text.toStdU16String(), {}})) return;
-  Tell(*this, QAccessible::NameChanged, *cell);
+  const bool isTaken =
+      SetItem({cell->row, cell->column, GridItem::kText, text.toStdU16String(), {}});
+  if (!isTaken && !model_.HasSource(*cell)) return;
   if (hooks_.endEdit) hooks_.endEdit(cell->row, cell->column, text);
+  Tell(*this, QAccessible::NameChanged, *cell);
 }
 
 void CGridCtrl::PlaceEdit() {

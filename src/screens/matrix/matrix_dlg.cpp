@@ -128,6 +128,7 @@ CMatrixDlg::~CMatrixDlg() {
   // The grid outlives the model: an edit that only its end would finish finds nobody to tell.
   grid_->FinishEdit();
   grid_->SetHooks({});
+  grid_->SetSource({});
   model_.Save();
 }
 
@@ -148,6 +149,7 @@ void CMatrixDlg::MakeGrid() {
   };
   hooks.columnResized = [this](int, int) { TakeWidths(); };
   grid_->SetHooks(std::move(hooks));
+  grid_->SetSource([this](GridCell cell) { return ContentOf(cell); });
 }
 
 void CMatrixDlg::OnKey(int key) {
@@ -192,8 +194,8 @@ void CMatrixDlg::ShowMatrix() {
       shown.ColumnCount() != matrix.columns + kHeaders) {
     RebuildGrid();
   }
-  WriteCells();
   WriteWidths();
+  grid_->viewport()->update();
 }
 
 void CMatrixDlg::RebuildGrid() {
@@ -217,20 +219,12 @@ void CMatrixDlg::RebuildGrid() {
   inGrid_ = model_.Shown();
 }
 
-/// The grid copies only texts that are other ones.
-void CMatrixDlg::WriteCells() {
-  const MatrixValue& matrix = model_.ShownMatrix();
+GridContent CMatrixDlg::ContentOf(GridCell cell) const {
+  const int row = cell.row - kHeaders;
+  const int column = cell.column - kHeaders;
   const GridAlignment alignment =
       model_.Alignment() == CellAlignment::Left ? GridAlignment::Left : GridAlignment::Right;
-  for (int row = 0; row < matrix.rows; ++row) {
-    for (int column = 0; column < matrix.columns; ++column) {
-      grid_->SetItem({row + kHeaders,
-                      column + kHeaders,
-                      GridItem::kText | GridItem::kFormat,
-                      matrix.At(row, column),
-                      {alignment, model_.IsMarked(row, column)}});
-    }
-  }
+  return {model_.ShownMatrix().At(row, column), {alignment, model_.IsMarked(row, column)}};
 }
 
 void CMatrixDlg::WriteWidths() {

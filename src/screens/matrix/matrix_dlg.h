@@ -51,7 +51,7 @@ class CMatrixDlg final : public LineScreen {
   void MakeGrid();
   void ShowMatrix();
   void RebuildGrid();
-  void WriteCells();
+  GridContent ContentOf(GridCell cell) const;
   void WriteWidths();
   void TakeWidths();
   std::optional<CellRange> SelectedCells() const;
