@@ -1,11 +1,11 @@
-// What a grid says to those who do not see it.
+// What screen readers say of a grid.
 #pragma once
 
 #include <string_view>
 
 namespace kav {
 
-/// Of a cell in the colour that says: look here.
+/// Describes a cell whose format is marked.
 inline constexpr std::u16string_view kMarkedCell = u"marked";
 
 // The place of a cell, before the texts of its headers.

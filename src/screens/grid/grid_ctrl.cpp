@@ -1,11 +1,13 @@
 #include "screens/grid/grid_ctrl.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QFontMetricsF>
 #include <QHeaderView>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 
@@ -19,6 +21,9 @@ namespace kav {
 namespace {
 
 constexpr int kUsualTextPixels = 12;
+
+/// The angle of one step of a wheel.
+constexpr int kWheelStep = 120;
 
 // Scaled widths stay within what the toolkit can count.
 constexpr double kSmallestScale = 0.1;
@@ -281,6 +286,33 @@ bool CGridCtrl::IsInView(GridCell cell) const {
   if (cell.row >= model_.FixedRowCount()) area.setTop(Room().top());
   if (cell.column >= model_.FixedColumnCount()) area.setLeft(Room().left());
   return area.intersects(CellArea(cell));
+}
+
+// The wheel.
+
+void CGridCtrl::wheelEvent(QWheelEvent* event) {
+  const bool isBeside = !Whole().contains(event->position().toPoint());
+  if (isBeside || !ScrollByWheel(event->angleDelta())) event->ignore();
+}
+
+bool CGridCtrl::ScrollByWheel(QPoint turned) {
+  const bool isSideways = std::abs(turned.x()) > std::abs(turned.y());
+  QScrollBar& bar = isSideways ? *horizontalScrollBar() : *verticalScrollBar();
+  if (bar.minimum() == bar.maximum()) return false;
+  const int angle = isSideways ? turned.x() : turned.y();
+  // A part of a line that was turned the other way does not count.
+  if ((wheel_ < 0 && angle > 0) || (wheel_ > 0 && angle < 0)) wheel_ = 0;
+  const int most = kWheelStep * GridModel::kMostRows;
+  wheel_ += std::clamp(angle, -most, most) * std::clamp(QApplication::wheelScrollLines(), 0, 100);
+  const int lines = wheel_ / kWheelStep;
+  wheel_ -= lines * kWheelStep;
+  if (isSideways) {
+    bar.setValue(bar.value() - lines * bar.singleStep());
+    return true;
+  }
+  const int row = std::clamp(FirstRow() - lines, model_.FixedRowCount(), model_.RowCount());
+  if (lines != 0) bar.setValue(Top(row) - Top(model_.FixedRowCount()));
+  return true;
 }
 
 // The look.

@@ -64,7 +64,7 @@ class CGridCtrl final : public QTableView {
   /// Makes every column as wide as the widest text in it, margins included.
   void AutoSizeColumns();
 
-  // The selection is one range; the focus cell is one of its corners. Headers are passed by.
+  // The selection is one range; the focus cell is one of its corners. Headers are never in it.
   GridCell Focus() const;
   GridRange Selection() const;
   GridCell SelectionEnd() const;  ///< the corner opposite to the focus cell
@@ -123,10 +123,10 @@ class CGridCtrl final : public QTableView {
   void ArrangeLines();
   QRect Room() const { return viewport()->geometry(); }
   QRect Whole() const { return {QPoint(0, 0), Room().bottomRight()}; }
-  // The edges before a line of the grid that is not scrolled.
+  // The edge before a line, as if nothing were scrolled.
   int Left(int column) const;
   int Top(int row) const;
-  // -1 beside the lines.
+  // The line at a place; -1 beside the lines.
   int ColumnAt(int x) const;
   int RowAt(int y) const;
   int FirstRow() const;
@@ -142,7 +142,7 @@ class CGridCtrl final : public QTableView {
   static Reach ReachOf(Qt::KeyboardModifiers modifiers);
   GridCell Anchor(GridCell cell, Reach reach) const;
   GridCell Moved(GridCell cell, int rows, int columns) const;
-  bool GoByTab(GridCell cell, bool isBackward);
+  bool GoByTab(GridCell cell, int step);
   void Select(GridCell cell, Reach reach, Drag drag = Drag::Cells);
   void SelectRange(GridCell focus, GridCell end);
   int EdgeAt(QPoint place) const;

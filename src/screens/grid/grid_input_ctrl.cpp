@@ -1,8 +1,6 @@
 // What the user does with keys and mouse on a grid.
 #include <QApplication>
 #include <QKeyEvent>
-#include <QScrollBar>
-#include <QWheelEvent>
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -12,9 +10,6 @@
 
 namespace kav {
 namespace {
-
-/// The angle of one step of a wheel.
-constexpr int kWheelStep = 120;
 
 /// The time from one cell to the next while the mouse pulls a selection beyond the border.
 constexpr int kScrollMilliseconds = 80;
@@ -69,8 +64,11 @@ bool IsSelectAll(const QKeyEvent& event) {
   return event.key() == Qt::Key_A && (event.modifiers() & kCommands) == Qt::ControlModifier;
 }
 
-bool IsBackward(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Backtab || (event.modifiers() & Qt::ShiftModifier) != 0;
+/// How many cells Tab or Enter leads on; with Shift, back.
+int StepOf(const QKeyEvent& event) {
+  const bool isBack =
+      event.key() == Qt::Key_Backtab || (event.modifiers() & Qt::ShiftModifier) != 0;
+  return isBack ? -1 : 1;
 }
 
 bool IsTab(const QKeyEvent& event) {
@@ -100,7 +98,7 @@ bool IsOfMouse(const QEvent& event) {
 
 bool CGridCtrl::event(QEvent* event) {
   // Viewport and headers leave the mouse to the grid, which sees places of its own.
-  if (IsOfMouse(*event)) return QWidget::event(event);
+  if (IsOfMouse(*event)) return QWidget::event(event);  // NOLINT: a scroll area refuses the mouse
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
     // A key of the grid is not to work as a shortcut of the screen around it.
@@ -112,7 +110,7 @@ bool CGridCtrl::event(QEvent* event) {
   }
   if (event->type() == QEvent::KeyPress) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (IsTab(key) && GoByTab(Focus(), IsBackward(key))) return true;
+    if (IsTab(key) && GoByTab(Focus(), StepOf(key))) return true;
   }
   return QTableView::event(event);
 }
@@ -122,7 +120,6 @@ bool CGridCtrl::viewportEvent(QEvent* event) {
 }
 
 void CGridCtrl::focusInEvent(QFocusEvent* event) {
-  QAbstractScrollArea::focusInEvent(event);
   // Someone who comes by keys must see the focus cell.
   const bool isByKey =
       event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
@@ -132,8 +129,7 @@ void CGridCtrl::focusInEvent(QFocusEvent* event) {
   Repaint();
 }
 
-void CGridCtrl::focusOutEvent(QFocusEvent* event) {
-  QAbstractScrollArea::focusOutEvent(event);
+void CGridCtrl::focusOutEvent(QFocusEvent*) {
   // What has the focus now, perhaps a box that opened, gets the release of the button.
   EndDrag();
   Repaint();
@@ -191,14 +187,12 @@ void CGridCtrl::OnEditKey(const QKeyEvent& event) {
     return;
   }
   FinishEdit();
-  const bool isBackward = IsBackward(event);
   if (IsTab(event)) {
-    if (!GoByTab(cell, isBackward)) focusNextPrevChild(!isBackward);
+    if (!GoByTab(cell, StepOf(event))) focusNextPrevChild(StepOf(event) > 0);
     return;
   }
-  // Enter moves as an arrow does.
   const MoveKey* move = MoveOf(event.key(), {});
-  Select(Moved(cell, move != nullptr ? move->rows : isBackward ? -1 : 1, 0), Reach::Focus);
+  Select(Moved(cell, move != nullptr ? move->rows : StepOf(event), 0), Reach::Focus);
 }
 
 /// The cell so many rows and columns further, which may lie beyond the border; the first cell from
@@ -210,17 +204,17 @@ GridCell CGridCtrl::Moved(GridCell cell, int rows, int columns) const {
   return cell.IsNone() ? from : GridCell{from.row + rows, from.column + columns};
 }
 
-/// Moves the focus to the next cell or the one before, row by row; false at the last or first cell.
-/// From none, enters at the first or last cell.
-bool CGridCtrl::GoByTab(GridCell cell, bool isBackward) {
+/// Moves the focus to the next cell or, with step -1, to the one before, row by row; false at the
+/// last or first cell. From none, enters at the first or last cell.
+bool CGridCtrl::GoByTab(GridCell cell, int step) {
   const GridCell first = model_.Nearest(kFirst);
   if (first.IsNone()) return false;
   const GridCell from = model_.Nearest(cell);
   const int columns = model_.ColumnCount() - first.column;
   const int last = columns * (model_.RowCount() - first.row) - 1;
   int place = (from.row - first.row) * columns + from.column - first.column;
-  if (cell.IsNone()) place = isBackward ? last + 1 : -1;
-  place += isBackward ? -1 : 1;
+  if (cell.IsNone()) place = step < 0 ? last + 1 : -1;
+  place += step;
   if (place < 0 || place > last) return false;
   Select({first.row + place / columns, first.column + place % columns}, Reach::Focus);
   return true;
@@ -356,31 +350,6 @@ void CGridCtrl::ResizeColumn(int column, int width) {
   const int old = GetColumnWidth(column);
   if (!SetColumnWidth(column, width) || GetColumnWidth(column) == old) return;
   if (hooks_.columnResized) hooks_.columnResized(column, GetColumnWidth(column));
-}
-
-void CGridCtrl::wheelEvent(QWheelEvent* event) {
-  const bool isBeside = !Whole().contains(event->position().toPoint());
-  if (isBeside || !ScrollByWheel(event->angleDelta())) event->ignore();
-}
-
-bool CGridCtrl::ScrollByWheel(QPoint turned) {
-  const bool isSideways = std::abs(turned.x()) > std::abs(turned.y());
-  QScrollBar& bar = isSideways ? *horizontalScrollBar() : *verticalScrollBar();
-  if (bar.minimum() == bar.maximum()) return false;
-  const int angle = isSideways ? turned.x() : turned.y();
-  // A part of a line that was turned the other way does not count.
-  if ((wheel_ < 0 && angle > 0) || (wheel_ > 0 && angle < 0)) wheel_ = 0;
-  const int most = kWheelStep * GridModel::kMostRows;
-  wheel_ += std::clamp(angle, -most, most) * std::clamp(QApplication::wheelScrollLines(), 0, 100);
-  const int lines = wheel_ / kWheelStep;
-  wheel_ -= lines * kWheelStep;
-  if (isSideways) {
-    bar.setValue(bar.value() - lines * bar.singleStep());
-    return true;
-  }
-  const int row = std::clamp(FirstRow() - lines, model_.FixedRowCount(), model_.RowCount());
-  if (lines != 0) bar.setValue(Top(row) - Top(model_.FixedRowCount()));
-  return true;
 }
 
 }  // namespace kav
