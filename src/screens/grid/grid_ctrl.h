@@ -73,7 +73,9 @@ class CGridCtrl final : public QTableView {
   void SetFocusCell(GridCell cell);
   /// Selects from the focus cell to `cell`; without a focus cell as SetFocusCell.
   void SelectTo(GridCell cell);
-  void ClearSelectedCells();  ///< empties their texts, and leaves their formats
+  /// Empties their texts and leaves their formats. Cells with a source stay: their owner clears
+  /// them.
+  void ClearSelectedCells();
 
   /// `scale` pixels, above 0, stand for one; texts are `textPixels` high.
   void SetScale(double scale, int textPixels);
