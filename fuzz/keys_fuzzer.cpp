@@ -30,11 +30,11 @@ void Act(ScientificModel& model, std::uint8_t action, std::uint8_t detail) {
   const std::size_t length = model.Line().Text().size();
   switch (action % 6) {
     case 0:
-      return model.ChooseHistory(detail % 24);
+      return (void)model.Choose(Key::PlayBack, detail % 24);
     case 1:
-      return model.ChooseBase(32804 + detail % 6);
+      return (void)model.Choose(Key::Dec, 32804 + detail % 6);
     case 2:
-      return (void)model.ChooseMemory(detail % 12);
+      return (void)model.Choose(Key::MemoryMenu, detail % 12);
     case 3:
       return model.TakeMacro(detail % 3 - 1);
     case 4:

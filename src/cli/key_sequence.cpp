@@ -47,10 +47,19 @@ const MenuItem* FindItem(const Menu& menu, std::u16string_view text) {
   return found == menu.end() ? nullptr : &*found;
 }
 
+/// The menu shows a long entry cut, and cut entries may look alike; the whole text tells them
+/// apart.
+const MenuItem* FindEntry(const Menu& menu, const History& history, std::u16string_view text) {
+  const auto whole = std::find_if(menu.begin(), menu.end(), [&](const MenuItem& item) {
+    return history.Entries()[static_cast<std::size_t>(item.id) - 1] == text;
+  });
+  return whole == menu.end() ? FindItem(menu, text) : &*whole;
+}
+
 }  // namespace
 
 std::optional<std::string> KeySequence::Take(std::string_view step) {
-  if (menu_ != OpenMenu::None) return TakeItem(step);
+  if (menu_) return TakeItem(step);
   if (IsQuoted(step)) {
     Type(step.substr(1, step.size() - 2));
     return std::nullopt;
@@ -64,28 +73,12 @@ std::optional<std::string> KeySequence::Take(std::string_view step) {
 
 std::optional<std::string> KeySequence::TakeItem(std::string_view text) {
   const std::u16string wide = Widen(text);
-  const OpenMenu menu = std::exchange(menu_, OpenMenu::None);
-  if (menu == OpenMenu::History) return ChooseHistory(wide);
-  const Menu items = menu == OpenMenu::Base ? screen_.BaseMenu() : screen_.MemoryMenu();
-  const MenuItem* item = FindItem(items, wide);
+  const Key key = *std::exchange(menu_, std::nullopt);
+  const Menu menu = screen_.MenuOf(key);
+  const MenuItem* item =
+      key == Key::PlayBack ? FindEntry(menu, screen_.PastLines(), wide) : FindItem(menu, wide);
   if (item == nullptr) return MenuDoesNotOffer(text);
-  if (menu == OpenMenu::Memory) return CarryOut(screen_.ChooseMemory(item->id), text);
-  screen_.ChooseBase(item->id);
-  return std::nullopt;
-}
-
-/// The menu cuts long entries, and cut entries may look alike. So an entry with this whole text
-/// comes first.
-std::optional<std::string> KeySequence::ChooseHistory(std::u16string_view text) {
-  const Menu menu = screen_.HistoryMenu();
-  const auto& entries = screen_.PastLines().Entries();
-  const auto whole = std::find_if(menu.begin(), menu.end(), [&](const MenuItem& item) {
-    return entries[static_cast<std::size_t>(item.id) - 1] == text;
-  });
-  const MenuItem* item = whole == menu.end() ? FindItem(menu, text) : &*whole;
-  if (item == nullptr) return MenuDoesNotOffer(Narrow(text));
-  screen_.ChooseHistory(item->id);
-  return std::nullopt;
+  return CarryOut(screen_.Choose(key, item->id), text);
 }
 
 std::optional<std::string> KeySequence::Press(std::string_view caption) {
@@ -95,13 +88,14 @@ std::optional<std::string> KeySequence::Press(std::string_view caption) {
   return CarryOut(screen_.Press(*key), caption);
 }
 
-std::optional<std::string> KeySequence::CarryOut(const KeyRequest& request, std::string_view name) {
+std::optional<std::string> KeySequence::CarryOut(const ScientificRequest& request,
+                                                 std::string_view name) {
   if (std::holds_alternative<Nothing>(request)) return std::nullopt;
   if (const auto* editor = std::get_if<OpenMacroEditor>(&request)) return Narrow(editor->message);
-  if (std::holds_alternative<ShowHistoryMenu>(request)) menu_ = OpenMenu::History;
-  if (std::holds_alternative<ShowBaseMenu>(request)) menu_ = OpenMenu::Base;
-  if (std::holds_alternative<ShowMemoryMenu>(request)) menu_ = OpenMenu::Memory;
-  if (menu_ != OpenMenu::None) return std::nullopt;
+  if (const auto* menu = std::get_if<ShowMenu<Key>>(&request)) {
+    menu_ = menu->key;
+    return std::nullopt;
+  }
   return NeedsTheWindow(name);
 }
 

@@ -21,16 +21,13 @@ class KeySequence {
   std::optional<std::string> Take(std::string_view step);
 
  private:
-  enum class OpenMenu { None, History, Base, Memory };
-
   std::optional<std::string> TakeItem(std::string_view text);
-  std::optional<std::string> ChooseHistory(std::u16string_view text);
   std::optional<std::string> Press(std::string_view caption);
-  std::optional<std::string> CarryOut(const KeyRequest& request, std::string_view name);
+  std::optional<std::string> CarryOut(const ScientificRequest& request, std::string_view name);
   void Type(std::string_view text);
 
   ScientificModel& screen_;
-  OpenMenu menu_ = OpenMenu::None;
+  std::optional<Key> menu_;  ///< the key whose menu is open
 };
 
 /// The line with "|" at the caret or "[" and "]" around the selection.

@@ -1,10 +1,10 @@
-// What a key or a menu item asks of the outside, and what comes back.
+// What the keys and menu items of a screen ask of the outside: one set of requests for all screens.
+// A model's own variant names those that it makes, and what only its screen knows.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 
 namespace kav {
 
@@ -31,9 +31,29 @@ struct ConverterOutcome {
 };
 
 struct Nothing {};
-struct ShowHistoryMenu {};
-struct ShowBaseMenu {};
-struct ShowMemoryMenu {};
+
+/// The pop-up menu of `key`: the model's MenuOf(key), and then Choose(key, id).
+template <class Key>
+struct ShowMenu {
+  Key key;
+};
+
+/// A question that pressing `key` raises; only on Yes does the key do its work.
+template <class Key>
+struct AskFirst {
+  Key key;
+  std::u16string_view question;
+};
+
+struct TellStop {
+  std::u16string text;  ///< with the stop icon
+};
+
+struct AskSaveFile {};  ///< then the model's SaveTo with the file's path
+struct AskLoadFile {
+  std::u16string_view question = {};  ///< first, if not empty: on Yes as AskSaveFile
+};                                    ///< then the model's LoadFrom with the file's path
+
 struct OpenMacroEditor {
   std::u16string_view message;  ///< told first, with the stop icon; empty for none
 };
@@ -46,8 +66,5 @@ struct StoreMemoryVariable {
 };
 struct RecallMemoryVariable {};
 struct OpenConstants {};
-using KeyRequest = std::variant<Nothing, ShowHistoryMenu, ShowBaseMenu, ShowMemoryMenu,
-                                OpenMacroEditor, OpenMacroList, OpenConverter, StoreMemoryVariable,
-                                RecallMemoryVariable, OpenConstants>;
 
 }  // namespace kav

@@ -65,19 +65,14 @@ MatrixRequest MatrixModel::Press(MatrixKey key) {
   if (!IsEnabled(key)) return Nothing{};
   switch (key) {
     case MatrixKey::Functions:
-      return ShowMatrixMenu{MatrixMenu::Functions};
     case MatrixKey::Tools:
-      return ShowMatrixMenu{MatrixMenu::Tools};
     case MatrixKey::Operations:
-      return ShowMatrixMenu{MatrixMenu::Operations};
     case MatrixKey::MatrixTools:
-      return ShowMatrixMenu{MatrixMenu::MatrixTools};
     case MatrixKey::Variables:
-      return ShowMatrixMenu{MatrixMenu::Variables};
     case MatrixKey::PlayBack:
-      return ShowMatrixMenu{MatrixMenu::History};
+      return ShowMenu<MatrixKey>{key};
     case MatrixKey::ClearCells:
-      return AskClearCells{kClearCellsQuestion};
+      return AskFirst<MatrixKey>{key, kClearCellsQuestion};
     case MatrixKey::Size:
       return AskMatrixSize{ShownMatrix().rows, ShownMatrix().columns};
     case MatrixKey::Equals:
@@ -148,44 +143,45 @@ void MatrixModel::ShowAnswer() {
   resultText_ = ShownNumber(*lastAnswer_, settings_.normal, BaseMode::Decimal);
 }
 
-Menu MatrixModel::MenuOf(MatrixMenu menu) const {
-  switch (menu) {
-    case MatrixMenu::Functions:
+Menu MatrixModel::MenuOf(MatrixKey key) const {
+  switch (key) {
+    case MatrixKey::Functions:
       return BuildFunctionMenu();
-    case MatrixMenu::Tools:
+    case MatrixKey::Tools:
       return BuildToolsMenu();
-    case MatrixMenu::Operations:
+    case MatrixKey::Operations:
       return BuildOperationMenu();
-    case MatrixMenu::MatrixTools:
+    case MatrixKey::MatrixTools:
       return BuildMatrixToolsMenu(Shown());
-    case MatrixMenu::Variables:
+    case MatrixKey::Variables:
       return BuildVariableMenu();
-    case MatrixMenu::History:
-      break;
+    case MatrixKey::PlayBack:
+      return BuildHistoryMenu(history_);
+    default:
+      return {};
   }
-  return BuildHistoryMenu(history_);
 }
 
-MatrixRequest MatrixModel::Choose(MatrixMenu menu, int id) {
-  if (!Offers(MenuOf(menu), id)) return Nothing{};
+MatrixRequest MatrixModel::Choose(MatrixKey key, int id) {
+  if (!Offers(MenuOf(key), id)) return Nothing{};
   const std::size_t place = static_cast<std::size_t>(id) - 1;
-  switch (menu) {
-    case MatrixMenu::Functions: {
+  switch (key) {
+    case MatrixKey::Functions: {
       const std::u16string prefix = FunctionPrefix(id);
       line_.WrapSelection(prefix, u")", prefix.size() - 1);
       break;
     }
-    case MatrixMenu::Tools:
+    case MatrixKey::Tools:
       return ChooseTool(id);
-    case MatrixMenu::Operations:
+    case MatrixKey::Operations:
       line_.InsertText(OperationText(id));
       break;
-    case MatrixMenu::MatrixTools:
+    case MatrixKey::MatrixTools:
       return ChooseMatrixTool(id);
-    case MatrixMenu::Variables:
+    case MatrixKey::Variables:
       line_.InsertText(kMatrixNames[place]);
       break;
-    case MatrixMenu::History:
+    default:
       line_.InsertText(history_.Entries()[place]);
       break;
   }

@@ -24,30 +24,18 @@
 
 namespace kav {
 
-/// The menus that keys open.
-enum class MatrixMenu { Functions, Tools, Operations, MatrixTools, Variables, History };
-
-// What a key or a menu item asks of the outside, besides what key_request.h has.
-struct ShowMatrixMenu {
-  MatrixMenu menu;
-};
-struct AskClearCells {
-  std::u16string_view question;  ///< on Yes: ClearCells with what is selected
-};
+// What only this screen is asked for.
 struct AskMatrixSize {
   int rows;
   int columns;
 };
-struct TellStop {
-  std::u16string text;  ///< with the stop icon
-};
-struct AskSaveFile {};     ///< then SaveTo with the file's path
-struct AskLoadFile {};     ///< then LoadFrom with the file's path
 struct AutofitColumns {};  ///< then SetColumnWidths with what the grid found
+
+/// On Yes to the question of ClearCells: ClearCells with what is selected.
 using MatrixRequest =
-    std::variant<Nothing, ShowMatrixMenu, AskClearCells, AskMatrixSize, TellStop, AskSaveFile,
-                 AskLoadFile, AutofitColumns, OpenMacroEditor, OpenMacroList, OpenConverter,
-                 RecallMemoryVariable, OpenConstants>;
+    std::variant<Nothing, ShowMenu<MatrixKey>, AskFirst<MatrixKey>, AskMatrixSize, TellStop,
+                 AskSaveFile, AskLoadFile, AutofitColumns, OpenMacroEditor, OpenMacroList,
+                 OpenConverter, RecallMemoryVariable, OpenConstants>;
 
 /// Holds the whole state of the screen. The store must outlive it.
 class MatrixModel {
@@ -68,9 +56,10 @@ class MatrixModel {
   std::u16string_view Caption(MatrixKey key) const;
   bool IsEnabled(MatrixKey key) const;
   MatrixRequest Press(MatrixKey key);
-  Menu MenuOf(MatrixMenu menu) const;
-  /// An id that the menu does not offer does nothing.
-  MatrixRequest Choose(MatrixMenu menu, int id);
+  /// The menu that `key` opens now; empty for a key without one.
+  Menu MenuOf(MatrixKey key) const;
+  /// An id that the menu of `key` does not offer does nothing.
+  MatrixRequest Choose(MatrixKey key, int id);
 
   // What dialogs bring back.
   void TakeConverter(const ConverterOutcome& outcome);

@@ -44,4 +44,9 @@ struct GraphInput {
   std::vector<DataPoint> points;  ///< marked by discs; none for the function plotter
 };
 
+/// What a screen asks for that has a graph to show.
+struct OpenGraph {
+  GraphInput input;
+};
+
 }  // namespace kav

@@ -9,6 +9,7 @@
 #include "display/number_format.h"
 #include "engine/formula_checker.h"
 #include "line/line_texts.h"
+#include "macros/macros_texts.h"
 #include "plotter/plotter_texts.h"
 #include "settings/keys.h"
 
@@ -109,11 +110,11 @@ PlotterRequest PlotterModel::Press(PlotterKey key) {
       return refusal ? PlotterRequest(*std::move(refusal)) : Nothing{};
     }
     case PlotterKey::DeleteEquation:
-      return AskDeleteEquation{kDeleteEquationQuestion};
+      return AskFirst<PlotterKey>{key, kDeleteEquationQuestion};
     case PlotterKey::Plot:
       return Plot();
     case PlotterKey::PlayBack:
-      return ShowHistoryMenu{};
+      return ShowMenu<PlotterKey>{key};
     case PlotterKey::Macro:
       return RequestMacroList();
     default:
@@ -172,16 +173,20 @@ void PlotterModel::DeleteEquation() {
   equations_.DeleteSelected();
 }
 
-void PlotterModel::ChooseHistory(int id) {
-  if (!Offers(HistoryMenu(), id)) return;
-  Insert(history_.Entries()[static_cast<std::size_t>(id) - 1]);
+Menu PlotterModel::MenuOf(PlotterKey key) const {
+  return key == PlotterKey::PlayBack ? BuildHistoryMenu(history_) : Menu();
+}
+
+PlotterRequest PlotterModel::Choose(PlotterKey key, int id) {
+  if (Offers(MenuOf(key), id)) Insert(history_.Entries()[static_cast<std::size_t>(id) - 1]);
+  return Nothing{};
 }
 
 PlotterRequest PlotterModel::RequestMacroList() {
   // Another program may have stored the first one.
   store_.Refresh();
   if (store_.Get(kMacroCount) > 0) return OpenMacroList{};
-  return TellNoMacro{};
+  return TellStop{std::u16string(kNoMacroStored)};
 }
 
 PlotterRequest PlotterModel::Plot() {
@@ -206,7 +211,7 @@ PlotterRequest PlotterModel::PlotIn(const PlotRange& range) {
     }
     graph.curves.push_back({CurveLabel(place, equation), *std::move(formula)});
   }
-  return PlotCurves{std::move(graph)};
+  return OpenGraph{std::move(graph)};
 }
 
 }  // namespace kav

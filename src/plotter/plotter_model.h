@@ -28,16 +28,9 @@ enum class PlotterOption { Grid, Line };
 /// Told with the stop icon; then the field of the range gets the focus, or else the input.
 using PlotterRefusal = Refusal<std::optional<RangeField>>;
 
-// What a key asks of the outside, besides what key_request.h has.
-struct AskDeleteEquation {
-  std::u16string_view question;  ///< on Yes: DeleteEquation
-};
-struct TellNoMacro {};  ///< with the stop icon
-struct PlotCurves {
-  GraphInput graph;
-};
-using PlotterRequest = std::variant<Nothing, PlotterRefusal, ShowHistoryMenu, AskDeleteEquation,
-                                    TellNoMacro, OpenMacroList, PlotCurves>;
+/// On Yes to the question of DeleteEquation: DeleteEquation.
+using PlotterRequest = std::variant<Nothing, PlotterRefusal, ShowMenu<PlotterKey>,
+                                    AskFirst<PlotterKey>, TellStop, OpenMacroList, OpenGraph>;
 
 /// Holds the whole state of the screen. The store must outlive it.
 class PlotterModel {
@@ -71,9 +64,10 @@ class PlotterModel {
   /// Deletes the selected equation.
   void DeleteEquation();
 
-  Menu HistoryMenu() const { return BuildHistoryMenu(history_); }
-  /// Inserts an entry into the input; an id that the menu does not offer does nothing.
-  void ChooseHistory(int id);
+  /// The menu that `key` opens now; empty for a key without one.
+  Menu MenuOf(PlotterKey key) const;
+  /// An id that the menu of `key` does not offer does nothing.
+  PlotterRequest Choose(PlotterKey key, int id);
   /// Inserts the formula of a macro into the input.
   void TakeMacro(std::u16string_view formula) { Insert(formula); }
 

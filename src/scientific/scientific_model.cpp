@@ -53,17 +53,15 @@ std::optional<Key> ScientificModel::KeyShowing(std::u16string_view caption) cons
   return std::nullopt;
 }
 
-KeyRequest ScientificModel::Press(Key key) {
+ScientificRequest ScientificModel::Press(Key key) {
   if (!IsEnabled(key)) return Nothing{};
   switch (key) {
     case Key::Dec:
-      return ShowBaseMenu{};
     case Key::PlayBack:
-      return ShowHistoryMenu{};
     case Key::MemoryMenu:
-      return ShowMemoryMenu{};
+      return ShowMenu<Key>{key};
     case Key::Macro:
-      return std::visit([](auto request) -> KeyRequest { return request; },
+      return std::visit([](auto request) -> ScientificRequest { return request; },
                         RequestMacro(store_, macros_));
     case Key::Converter:
       return ConverterRequest();
@@ -98,7 +96,7 @@ void ScientificModel::Change(Key key) {
   }
 }
 
-KeyRequest ScientificModel::ConverterRequest() const {
+ScientificRequest ScientificModel::ConverterRequest() const {
   std::u16string value(kValueToConvert);
   // Where the last "=" failed, the answer is 0 as well.
   if (lastAnswer_ != 0) {
@@ -143,18 +141,33 @@ void ScientificModel::ShowAnswer() {
   showsAnswer_ = true;
 }
 
-Menu ScientificModel::HistoryMenu() const {
-  return BuildHistoryMenu(history_);
+Menu ScientificModel::MenuOf(Key key) const {
+  switch (key) {
+    case Key::Dec:
+      return BuildBaseMenu();
+    case Key::PlayBack:
+      return BuildHistoryMenu(history_);
+    case Key::MemoryMenu:
+      return BuildMemoryMenu(errorText_);
+    default:
+      return {};
+  }
+}
+
+ScientificRequest ScientificModel::Choose(Key key, int id) {
+  if (!Offers(MenuOf(key), id)) return Nothing{};
+  if (key == Key::MemoryMenu) return ChooseMemory(id);
+  if (key == Key::Dec) {
+    ChooseBase(id);
+  } else {
+    ChooseHistory(id);
+  }
+  return Nothing{};
 }
 
 void ScientificModel::ChooseHistory(int id) {
-  if (!Offers(HistoryMenu(), id)) return;
   const std::u16string& entry = history_.Entries()[static_cast<std::size_t>(id) - 1];
   line_.InsertText(EntryInsertion(entry, format_, modes_.baseMode));
-}
-
-Menu ScientificModel::BaseMenu() const {
-  return BuildBaseMenu();
 }
 
 void ScientificModel::ChooseBase(int id) {
@@ -164,12 +177,7 @@ void ScientificModel::ChooseBase(int id) {
   ShowAnswer();
 }
 
-Menu ScientificModel::MemoryMenu() const {
-  return BuildMemoryMenu(errorText_);
-}
-
-KeyRequest ScientificModel::ChooseMemory(int id) {
-  if (!Offers(MemoryMenu(), id)) return Nothing{};
+ScientificRequest ScientificModel::ChooseMemory(int id) {
   switch (id) {
     case memory_item::kAdd:
       converter_.memory = lastAnswer_ + converter_.memory;

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
 
 #include "display/number_format.h"
 #include "engine/calc_modes.h"
@@ -19,6 +20,10 @@
 #include "settings/settings_store.h"
 
 namespace kav {
+
+using ScientificRequest =
+    std::variant<Nothing, ShowMenu<Key>, OpenMacroEditor, OpenMacroList, OpenConverter,
+                 StoreMemoryVariable, RecallMemoryVariable, OpenConstants>;
 
 /// Holds the whole state of the screen. The store must outlive it.
 class ScientificModel {
@@ -41,17 +46,14 @@ class ScientificModel {
   bool IsEnabled(Key key) const;
   bool IsVisible(Key key) const;
   /// Presses `key`; a disabled or hidden one does nothing.
-  KeyRequest Press(Key key);
+  ScientificRequest Press(Key key);
   /// The visible key that shows `caption`, nullopt where none does.
   std::optional<Key> KeyShowing(std::u16string_view caption) const;
 
-  // The pop-up menus. Choosing an id that the menu does not offer does nothing.
-  Menu HistoryMenu() const;
-  void ChooseHistory(int id);
-  Menu BaseMenu() const;
-  void ChooseBase(int id);
-  Menu MemoryMenu() const;
-  KeyRequest ChooseMemory(int id);
+  /// The menu that `key` opens now; empty for a key without one.
+  Menu MenuOf(Key key) const;
+  /// An id that the menu of `key` does not offer does nothing.
+  ScientificRequest Choose(Key key, int id);
 
   // What dialogs bring back.
   void TakeConverter(const ConverterOutcome& outcome);
@@ -82,7 +84,10 @@ class ScientificModel {
   void Fail(const LineFailure& failure);
   void ShowAnswer();
   void Insert(double value);
-  KeyRequest ConverterRequest() const;
+  void ChooseHistory(int id);
+  void ChooseBase(int id);
+  ScientificRequest ChooseMemory(int id);
+  ScientificRequest ConverterRequest() const;
 
   SettingsStore& store_;
   MacroStore macros_;

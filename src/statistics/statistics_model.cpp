@@ -38,8 +38,8 @@ std::optional<DataRefusal> WithRow(const FieldNumbers& numbers, DisplayFormat fo
 /// What a button answers whose row was not taken: another count may help against a total that is
 /// out of range.
 StatisticsRequest AnswerTo(DataRefusal refusal) {
-  if (refusal != DataRefusal::TotalOutOfRange) return TellData{WhyRowsDoNotFit(refusal)};
-  return RefuseField{{WhyRowsDoNotFit(refusal), DataField::Count}};
+  if (refusal != DataRefusal::TotalOutOfRange) return TellStop{WhyRowsDoNotFit(refusal)};
+  return FieldRefusal{WhyRowsDoNotFit(refusal), DataField::Count};
 }
 
 bool IsInt32(std::int64_t value) {
@@ -116,7 +116,7 @@ StatisticsRequest StatisticsModel::Press(StatisticsKey key) {
   if (!IsVisible(key) || !IsEnabled(key)) return Nothing{};
   StatisticsRequest request = Perform(key);
   if (const auto* focus = std::get_if<FocusField>(&request)) focused_ = focus->field;
-  if (const auto* refused = std::get_if<RefuseField>(&request)) focused_ = refused->refusal.focus;
+  if (const auto* refused = std::get_if<FieldRefusal>(&request)) focused_ = refused->focus;
   return request;
 }
 
@@ -134,29 +134,25 @@ StatisticsRequest StatisticsModel::Perform(StatisticsKey key) {
     case StatisticsKey::Delete:
       return AskDelete();
     case StatisticsKey::Clear:
-      return AskClearRows{kClearRowsQuestion};
+      return AskFirst<StatisticsKey>{key, kClearRowsQuestion};
     case StatisticsKey::Save:
-      return AskSaveDataFile{};
+      return AskSaveFile{};
     case StatisticsKey::Load:
-      return AskLoadDataFile{QuestionBeforeLeaving().value_or(std::u16string_view())};
+      return AskLoadFile{QuestionBeforeLeaving().value_or(std::u16string_view())};
     case StatisticsKey::MemoryMenu:
-      return ShowVariablesMenu{};
+      return ShowMenu<StatisticsKey>{key};
     default:
       return PressResult(key);
   }
 }
 
-std::variant<FieldNumbers, RefuseField> StatisticsModel::ReadFields() const {
-  auto read = ReadTypedRow(fields_, Shape());
-  if (auto* refusal = std::get_if<Refusal<DataField>>(&read)) {
-    return RefuseField{std::move(*refusal)};
-  }
-  return std::get<FieldNumbers>(read);
+std::variant<FieldNumbers, FieldRefusal> StatisticsModel::ReadFields() const {
+  return ReadTypedRow(fields_, Shape());
 }
 
 StatisticsRequest StatisticsModel::AddRow() {
   const auto read = ReadFields();
-  if (const auto* refused = std::get_if<RefuseField>(&read)) return *refused;
+  if (const auto* refused = std::get_if<FieldRefusal>(&read)) return *refused;
   const std::size_t before = list_.RowCount();
   const auto refusal = WithRow(std::get<FieldNumbers>(read), format_,
                                [this](const DataRow& row) { return list_.InsertTop(row); });
@@ -191,7 +187,7 @@ StatisticsRequest StatisticsModel::BeginEdit() {
 
 StatisticsRequest StatisticsModel::ApplyEdit() {
   const auto read = ReadFields();
-  if (const auto* refused = std::get_if<RefuseField>(&read)) return *refused;
+  if (const auto* refused = std::get_if<FieldRefusal>(&read)) return *refused;
   const auto refusal = WithRow(std::get<FieldNumbers>(read), format_,
                                [this](const DataRow& row) { return list_.Rewrite(*edited_, row); });
   if (refusal) return AnswerTo(*refusal);
@@ -207,12 +203,12 @@ void StatisticsModel::EndEdit() {
 }
 
 StatisticsRequest StatisticsModel::AskDelete() const {
-  if (!selected_) return TellData{std::u16string(kNoRowIsSelected)};
+  if (!selected_) return TellStop{std::u16string(kNoRowIsSelected)};
   // Files may hold negative counts, without which the others can be too many.
   if (!IsInt32(std::int64_t{list_.Total()} - list_.Count(*selected_))) {
-    return TellData{WhyRowsDoNotFit(DataRefusal::TotalOutOfRange)};
+    return TellStop{WhyRowsDoNotFit(DataRefusal::TotalOutOfRange)};
   }
-  return AskDeleteRow{kDeleteRowQuestion};
+  return AskFirst<StatisticsKey>{StatisticsKey::Delete, kDeleteRowQuestion};
 }
 
 void StatisticsModel::DeleteRow() {
@@ -237,7 +233,8 @@ void StatisticsModel::TakeRows(DataList rows) {
   isModified_ = false;
 }
 
-Menu StatisticsModel::MenuOfVariables() const {
+Menu StatisticsModel::MenuOf(StatisticsKey key) const {
+  if (key != StatisticsKey::MemoryMenu) return {};
   return BuildVariablesMenu(CanStoreResult() ? LastResult::CanBeStored
                                              : LastResult::CannotBeStored);
 }
@@ -246,8 +243,8 @@ bool StatisticsModel::CanStoreResult() const {
   return static_cast<bool>(FormatNumber(lastResult_, format_));
 }
 
-StatisticsRequest StatisticsModel::ChooseVariables(int id) {
-  if (!Offers(MenuOfVariables(), id)) return Nothing{};
+StatisticsRequest StatisticsModel::Choose(StatisticsKey key, int id) {
+  if (!Offers(MenuOf(key), id)) return Nothing{};
   if (id == variables_item::kRecall) return RecallMemoryVariable{};
   return StoreMemoryVariable{PlainText(lastResult_, format_)};
 }

@@ -58,14 +58,16 @@ class StatisticsModel {
   // What questions, menus and dialogs bring back.
   void DeleteRow();
   void ClearRows();
-  Menu MenuOfVariables() const;
-  StatisticsRequest ChooseVariables(int id);
+  /// The menu that `key` opens now; empty for a key without one.
+  virtual Menu MenuOf(StatisticsKey key) const;
+  /// An id that the menu of `key` does not offer does nothing.
+  virtual StatisticsRequest Choose(StatisticsKey key, int id);
   /// Writes a recalled value into the field that had the focus, which gets it.
   StatisticsRequest TakeVariable(std::u16string_view value);
   /// Both: what is to be told; nullopt where nothing is.
   std::optional<std::u16string> SaveTo(const std::string& path, const WorkProgress& progress);
   std::optional<std::u16string> LoadFrom(const std::string& path, const WorkProgress& progress);
-  /// Before another screen takes its place: to be asked, on Yes as AskSaveDataFile.
+  /// Before another screen takes its place: to be asked, on Yes as AskSaveFile.
   std::optional<std::u16string_view> QuestionBeforeLeaving() const;
   void TakeDisplaySettings();
 
@@ -85,7 +87,7 @@ class StatisticsModel {
   /// Shows `value` and keeps it as the last result.
   void Show(double value);
   /// The numbers in the fields, or why they are none.
-  std::variant<FieldNumbers, RefuseField> ReadFields() const;
+  std::variant<FieldNumbers, FieldRefusal> ReadFields() const;
   DisplayFormat Format() const { return format_; }
   AngleUnit Angle() const;
 

@@ -1,44 +1,26 @@
-// What a button of a statistics screen asks of the outside, besides what key_request.h has.
+// What a button of a statistics screen asks of the outside.
 #pragma once
 
-#include <string>
-#include <string_view>
 #include <variant>
 
 #include "common/refusal.h"
 #include "line/key_request.h"
 #include "plotter/graph_input.h"
 #include "statistics/data_fields.h"
+#include "statistics/statistics_keypad.h"
 
 namespace kav {
 
-struct RefuseField {
-  Refusal<DataField> refusal;  ///< told with the stop icon, then the field gets the focus
-};
+/// Told with the stop icon; then the field gets the focus.
+using FieldRefusal = Refusal<DataField>;
+
 struct FocusField {
   DataField field;  ///< gets the focus, all of its text selected
 };
-struct AskDeleteRow {
-  std::u16string_view question;  ///< on Yes: DeleteRow
-};
-struct AskClearRows {
-  std::u16string_view question;  ///< on Yes: ClearRows
-};
-struct AskSaveDataFile {};  ///< then SaveTo with the file's path
-struct AskLoadDataFile {
-  std::u16string_view question;  ///< first, where not empty: on Yes as AskSaveDataFile
-};                               ///< then LoadFrom with the file's path
-struct ShowVariablesMenu {};     ///< MenuOfVariables, then ChooseVariables
-struct ShowModelMenu {};         ///< MenuOfModels, then ChooseModel
-struct OpenGraph {
-  GraphInput input;
-};
-struct TellData {
-  std::u16string text;  ///< with the stop icon
-};
-using StatisticsRequest =
-    std::variant<Nothing, RefuseField, FocusField, AskDeleteRow, AskClearRows, AskSaveDataFile,
-                 AskLoadDataFile, ShowVariablesMenu, ShowModelMenu, OpenGraph, TellData,
-                 StoreMemoryVariable, RecallMemoryVariable>;
+
+/// On Yes to the question of Delete: DeleteRow; to that of Clear: ClearRows.
+using StatisticsRequest = std::variant<Nothing, FieldRefusal, FocusField, AskFirst<StatisticsKey>,
+                                       AskSaveFile, AskLoadFile, ShowMenu<StatisticsKey>, OpenGraph,
+                                       TellStop, StoreMemoryVariable, RecallMemoryVariable>;
 
 }  // namespace kav

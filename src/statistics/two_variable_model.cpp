@@ -30,21 +30,23 @@ bool TwoVariableModel::IsEnabled(StatisticsKey key) const {
   return StatisticsModel::IsEnabled(key);
 }
 
-Menu TwoVariableModel::MenuOfModels() const {
-  return BuildModelMenu();
+Menu TwoVariableModel::MenuOf(StatisticsKey key) const {
+  return key == StatisticsKey::Model ? BuildModelMenu() : StatisticsModel::MenuOf(key);
 }
 
-void TwoVariableModel::ChooseModel(int id) {
-  const auto model = ModelOfItem(id);
-  if (!model) return;
-  model_ = *model;
-  Forget();
+StatisticsRequest TwoVariableModel::Choose(StatisticsKey key, int id) {
+  if (key != StatisticsKey::Model) return StatisticsModel::Choose(key, id);
+  if (const auto model = ModelOfItem(id)) {
+    model_ = *model;
+    Forget();
+  }
+  return Nothing{};
 }
 
 StatisticsRequest TwoVariableModel::PressResult(StatisticsKey key) {
   switch (key) {
     case StatisticsKey::Model:
-      return ShowModelMenu{};
+      return ShowMenu<StatisticsKey>{key};
     case StatisticsKey::Plot:
       return Plot();
     case StatisticsKey::EstimateX:
@@ -85,7 +87,7 @@ const TwoVariableModel::Fit& TwoVariableModel::Fitted() {
 
 StatisticsRequest TwoVariableModel::Estimate(StatisticsKey key) {
   const auto read = ReadFields();
-  if (const auto* refused = std::get_if<RefuseField>(&read)) return *refused;
+  if (const auto* refused = std::get_if<FieldRefusal>(&read)) return *refused;
   const auto& typed = std::get<FieldNumbers>(read);
   const Coefficients& fitted = Fitted().coefficients;
   switch (key) {
@@ -107,7 +109,7 @@ StatisticsRequest TwoVariableModel::Estimate(StatisticsKey key) {
 
 StatisticsRequest TwoVariableModel::Plot() {
   auto plot = BuildRegressionPlot(List(), {model_, Fitted().coefficients}, Format(), Angle());
-  if (!plot) return TellData{std::move(plot).error()};
+  if (!plot) return TellStop{std::move(plot).error()};
   return OpenGraph{*std::move(plot)};
 }
 

@@ -19,9 +19,8 @@ class TwoVariableModel final : public StatisticsModel {
   bool IsEnabled(StatisticsKey key) const override;
 
   RegressionModel Model() const { return model_; }
-  Menu MenuOfModels() const;
-  /// An id that the menu does not offer does nothing.
-  void ChooseModel(int id);
+  Menu MenuOf(StatisticsKey key) const override;
+  StatisticsRequest Choose(StatisticsKey key, int id) override;
 
  private:
   /// What is kept of the data until they or the model change. Sorting is no such change, though

@@ -42,17 +42,17 @@ TEST_F(MatrixScreen, WritingKeysEditTheLine) {
 TEST_F(MatrixScreen, MenuKeysOpenTheirMenus) {
   struct Row {
     std::u16string_view caption;
-    MatrixMenu menu;
+    MatrixKey key;
   };
   Evaluate(u"[M1]");
   for (const Row& row :
-       {Row{u"F(X)", MatrixMenu::Functions}, Row{u"Tools", MatrixMenu::Tools},
-        Row{u"MOpers", MatrixMenu::Operations}, Row{u"MTools", MatrixMenu::MatrixTools},
-        Row{u"MVar", MatrixMenu::Variables}, Row{u"MPB", MatrixMenu::History}}) {
+       {Row{u"F(X)", MatrixKey::Functions}, Row{u"Tools", MatrixKey::Tools},
+        Row{u"MOpers", MatrixKey::Operations}, Row{u"MTools", MatrixKey::MatrixTools},
+        Row{u"MVar", MatrixKey::Variables}, Row{u"MPB", MatrixKey::PlayBack}}) {
     const MatrixRequest request = Press(row.caption);
-    const auto* show = std::get_if<ShowMatrixMenu>(&request);
+    const auto* show = std::get_if<ShowMenu<MatrixKey>>(&request);
     ASSERT_NE(show, nullptr) << Narrow(row.caption);
-    EXPECT_EQ(show->menu, row.menu) << Narrow(row.caption);
+    EXPECT_EQ(show->key, row.key) << Narrow(row.caption);
   }
 }
 
@@ -63,19 +63,19 @@ TEST_F(MatrixScreen, HistoryKeyWaitsForAFirstExpression) {
 TEST_F(MatrixScreen, HistoryMenuShowsTheNewestOnTopCutToTwentyCharacters) {
   Evaluate(u"[M1]+[M2]");
   Evaluate(u"transpose([M1])+[M2]*2");
-  EXPECT_EQ(model_->MenuOf(MatrixMenu::History),
+  EXPECT_EQ(model_->MenuOf(MatrixKey::PlayBack),
             (Menu{{2, u"transpose([M1])+[..."}, {1, u"[M1]+[M2]"}}));
   SetMarked(u"2*[3]");
-  EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Choose(MatrixMenu::History, 2)));
+  EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Choose(MatrixKey::PlayBack, 2)));
   EXPECT_EQ(model_->Line().Text(), u"2*transpose([M1])+[M2]*2");
 }
 
 TEST_F(MatrixScreen, FunctionsEncloseTheSelection) {
   SetMarked(u"2*|");
-  Choose(MatrixMenu::Functions, u"sin");
+  Choose(MatrixKey::Functions, u"sin");
   EXPECT_EQ(MarkedNow(), u"2*sin(|)");
   SetMarked(u"2*[30]");
-  Choose(MatrixMenu::Functions, u"frac");
+  Choose(MatrixKey::Functions, u"frac");
   EXPECT_EQ(MarkedNow(), u"2*frac(30)|");
 }
 
@@ -89,7 +89,7 @@ TEST_F(MatrixScreen, OperationsAreInsertedInPlaceOfTheSelection) {
         Row{u"Linear Equation", u"2*linearequation("}, Row{u"Determinant", u"2*determinant("},
         Row{u"Triangular", u"2*triangular("}}) {
     SetMarked(u"2*[3]");
-    Choose(MatrixMenu::Operations, row.item);
+    Choose(MatrixKey::Operations, row.item);
     EXPECT_EQ(model_->Line().Text(), row.text);
     EXPECT_TRUE(model_->Line().Selected().IsEmpty());
   }
@@ -98,16 +98,15 @@ TEST_F(MatrixScreen, OperationsAreInsertedInPlaceOfTheSelection) {
 TEST_F(MatrixScreen, NamesOfMatricesAreInserted) {
   for (const std::u16string_view name : {u"[M1]", u"[M2]", u"[M3]", u"[M Ans]"}) {
     SetMarked(u"2*|");
-    Choose(MatrixMenu::Variables, name);
+    Choose(MatrixKey::Variables, name);
     EXPECT_EQ(model_->Line().Text(), u"2*" + std::u16string(name));
   }
 }
 
 TEST_F(MatrixScreen, ItemsThatAMenuDoesNotOfferDoNothing) {
   SetMarked(u"1|");
-  for (const MatrixMenu menu :
-       {MatrixMenu::Functions, MatrixMenu::Tools, MatrixMenu::Operations, MatrixMenu::MatrixTools,
-        MatrixMenu::Variables, MatrixMenu::History}) {
+  for (const MatrixKey menu : {MatrixKey::Functions, MatrixKey::Tools, MatrixKey::Operations,
+                               MatrixKey::MatrixTools, MatrixKey::Variables, MatrixKey::PlayBack}) {
     for (const int id : {-1, 0, 17, 2147483647}) {
       EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Choose(menu, id)));
     }
@@ -118,12 +117,12 @@ TEST_F(MatrixScreen, ItemsThatAMenuDoesNotOfferDoNothing) {
 // Tools.
 
 TEST_F(MatrixScreen, ConstantsAndVariablesAreAskedForAndInserted) {
-  EXPECT_TRUE(std::holds_alternative<OpenConstants>(Choose(MatrixMenu::Tools, u"Constants")));
+  EXPECT_TRUE(std::holds_alternative<OpenConstants>(Choose(MatrixKey::Tools, u"Constants")));
   SetMarked(u"2*|");
   model_->TakeConstant(u"6.62607015e-34");
   EXPECT_EQ(MarkedNow(), u"2*6.62607015e-34|");
   EXPECT_TRUE(
-      std::holds_alternative<RecallMemoryVariable>(Choose(MatrixMenu::Tools, u"Recall MemVar")));
+      std::holds_alternative<RecallMemoryVariable>(Choose(MatrixKey::Tools, u"Recall MemVar")));
   SetMarked(u"2*[3]");
   model_->TakeVariable(u"1234567.50");
   EXPECT_EQ(MarkedNow(), u"2*1234567.5|");
@@ -139,12 +138,11 @@ TEST_F(MatrixScreen, ConverterGetsTheLastAnswerWithoutSeparators) {
     std::u16string_view line;
     std::u16string_view value;
   };
-  EXPECT_EQ(InputOf(Choose(MatrixMenu::Tools, u"Converter")).value, u"1");
+  EXPECT_EQ(InputOf(Choose(MatrixKey::Tools, u"Converter")).value, u"1");
   for (const Row& row :
        {Row{u"1234.5*2", u"2469"}, Row{u"1-1", u"1"}, Row{u"3", u"3"}, Row{u"1/0", u"1"}}) {
     Evaluate(row.line);
-    EXPECT_EQ(InputOf(Choose(MatrixMenu::Tools, u"Converter")).value, row.value)
-        << Narrow(row.line);
+    EXPECT_EQ(InputOf(Choose(MatrixKey::Tools, u"Converter")).value, row.value) << Narrow(row.line);
   }
 }
 
@@ -153,7 +151,7 @@ TEST_F(MatrixScreen, ConverterGetsFloatingPointWhateverIsShown) {
     Set("Config", "Display Type", type);
     Open();
     Evaluate(u"12345.5");
-    EXPECT_EQ(InputOf(Choose(MatrixMenu::Tools, u"Converter")).value, u"12345.5") << type;
+    EXPECT_EQ(InputOf(Choose(MatrixKey::Tools, u"Converter")).value, u"12345.5") << type;
   }
 }
 
@@ -162,19 +160,19 @@ TEST_F(MatrixScreen, ConverterGetsBackWhatItLeft) {
   Set("Convert", "InputTypePos", 2);
   Set("Convert", "OutputTypePos", 1);
   Open();
-  const ConverterInput first = InputOf(Choose(MatrixMenu::Tools, u"Converter"));
+  const ConverterInput first = InputOf(Choose(MatrixKey::Tools, u"Converter"));
   EXPECT_EQ(first.positions, (ConverterPositions{3, 2, 1}));
   EXPECT_EQ(first.memory, 0);
   SetMarked(u"2*[5]");
   model_->TakeConverter({u"39.37", {6, 1, 2}, 8});
   EXPECT_EQ(MarkedNow(), u"2*39.37|");
-  const ConverterInput second = InputOf(Choose(MatrixMenu::Tools, u"Converter"));
+  const ConverterInput second = InputOf(Choose(MatrixKey::Tools, u"Converter"));
   EXPECT_EQ(second.positions, (ConverterPositions{6, 1, 2}));
   EXPECT_EQ(second.memory, 8);
 }
 
 TEST_F(MatrixScreen, MacroOpensTheEditorWhereThereIsNone) {
-  const MatrixRequest request = Choose(MatrixMenu::Tools, u"Macro");
+  const MatrixRequest request = Choose(MatrixKey::Tools, u"Macro");
   const auto* editor = std::get_if<OpenMacroEditor>(&request);
   ASSERT_NE(editor, nullptr);
   EXPECT_EQ(editor->message, u"Not exist saved macro");
@@ -182,7 +180,7 @@ TEST_F(MatrixScreen, MacroOpensTheEditorWhereThereIsNone) {
 
 TEST_F(MatrixScreen, MacroIsChosenFromTheListAndCalled) {
   test::StoreMacros(store_, {{"F", "TYPE2 : F(X,Y)", "x+y"}});
-  EXPECT_TRUE(std::holds_alternative<OpenMacroList>(Choose(MatrixMenu::Tools, u"Macro")));
+  EXPECT_TRUE(std::holds_alternative<OpenMacroList>(Choose(MatrixKey::Tools, u"Macro")));
   SetMarked(u"[2]");
   model_->TakeMacro(0);
   EXPECT_EQ(MarkedNow(), u"M:F(2 , )|");
@@ -192,7 +190,7 @@ TEST_F(MatrixScreen, MacroIsChosenFromTheListAndCalled) {
 
 TEST_F(MatrixScreen, AnswerLacksToolsAndKeysThatWouldReplaceIt) {
   model_->Show(3);
-  for (const MenuItem& item : model_->MenuOf(MatrixMenu::MatrixTools)) {
+  for (const MenuItem& item : model_->MenuOf(MatrixKey::MatrixTools)) {
     EXPECT_NE(item.text, u"M Cut");
     EXPECT_NE(item.text, u"M Paste");
     EXPECT_NE(item.text, u"M Load");
@@ -203,8 +201,8 @@ TEST_F(MatrixScreen, AnswerLacksToolsAndKeysThatWouldReplaceIt) {
   constexpr int kCut = 1;
   constexpr int kLoad = 5;
   Fill(3, u"7");
-  EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Choose(MatrixMenu::MatrixTools, kLoad)));
-  model_->Choose(MatrixMenu::MatrixTools, kCut);
+  EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Choose(MatrixKey::MatrixTools, kLoad)));
+  model_->Choose(MatrixKey::MatrixTools, kCut);
   EXPECT_EQ(Table(3), u"7");
 }
 

@@ -427,8 +427,9 @@ TEST_F(MatrixScreen, CellsOfTheAnswerCanBeEdited) {
 TEST_F(MatrixScreen, ExpressionOverClearedCellsIsInvalid) {
   Fill(0, u"1 2; 3 4");
   const MatrixRequest request = Press(u"M CLS");
-  const auto* ask = std::get_if<AskClearCells>(&request);
+  const auto* ask = std::get_if<AskFirst<MatrixKey>>(&request);
   ASSERT_NE(ask, nullptr);
+  EXPECT_EQ(ask->key, MatrixKey::ClearCells);
   EXPECT_EQ(ask->question, u"Are you sure you want to delete the selected cell(s)?");
   EXPECT_EQ(Shown(), u"1 2; 3 4");
   model_->ClearCells({0, 0, 0, 1});
@@ -481,10 +482,10 @@ TEST_F(MatrixScreen, RandomUseKeepsTheScreenWhole) {
         model_->Redo();
         break;
       case 7:
-        model_->Choose(MatrixMenu::MatrixTools, number(8));
+        model_->Choose(MatrixKey::MatrixTools, number(8));
         break;
       case 8:
-        model_->Choose(static_cast<MatrixMenu>(number(5)), number(21));
+        model_->Choose(MatrixKeyRows()[static_cast<std::size_t>(number(31))].key, number(21));
         break;
       case 9:
         model_->Press(MatrixKeyRows()[static_cast<std::size_t>(number(31))].key);

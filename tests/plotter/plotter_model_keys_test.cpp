@@ -77,35 +77,35 @@ TEST_F(PlotterScreen, TheHistoryKeyWaitsForAFirstEquation) {
   EXPECT_TRUE(Is<Nothing>(Press(u"PB")));
   Add(u"x");
   EXPECT_TRUE(IsEnabled(PlotterKey::PlayBack));
-  EXPECT_TRUE(Is<ShowHistoryMenu>(Press(u"PB")));
+  EXPECT_EQ(std::get<ShowMenu<PlotterKey>>(Press(u"PB")).key, PlotterKey::PlayBack);
 }
 
 TEST_F(PlotterScreen, TheHistoryMenuShowsTheNewestOnTopCutToTwentyCharacters) {
   Add(u"x");
   Add(u"sin(x)+cos(x)+12345x");   // 20
   Add(u"sin(x)+cos(x)+123456x");  // 21
-  EXPECT_EQ(model_->HistoryMenu(),
+  EXPECT_EQ(model_->MenuOf(PlotterKey::PlayBack),
             (Menu{{3, u"sin(x)+cos(x)+123..."}, {2, u"sin(x)+cos(x)+12345x"}, {1, u"x"}}));
 }
 
 TEST_F(PlotterScreen, AHistoryEntryIsInsertedWholeInPlaceOfTheSelection) {
   Add(u"sin(x)+cos(x)+123456x");
   Put(u"2*[y]+1");
-  model_->ChooseHistory(1);
+  model_->Choose(PlotterKey::PlayBack, 1);
   EXPECT_EQ(MarkedNow(), u"2*sin(x)+cos(x)+123456x|+1");
 }
 
 TEST_F(PlotterScreen, AnEntryThatBeginsLikeAnAnswerIsInsertedAsItStands) {
   Add(u"=[D]5");
   Put(u"|");
-  model_->ChooseHistory(1);
+  model_->Choose(PlotterKey::PlayBack, 1);
   EXPECT_EQ(MarkedNow(), u"=[D]5|");
 }
 
 TEST_F(PlotterScreen, AHistoryEntryThatIsNotOfferedDoesNothing) {
   Add(u"x");
   Put(u"1|");
-  for (const int id : {-1, 0, 2, 2147483647}) model_->ChooseHistory(id);
+  for (const int id : {-1, 0, 2, 2147483647}) model_->Choose(PlotterKey::PlayBack, id);
   EXPECT_EQ(MarkedNow(), u"1|");
 }
 
@@ -134,9 +134,9 @@ TEST_F(PlotterScreen, WhatHasAMistakeIsInTheHistoryAndNothingEmpty) {
 // Macros.
 
 TEST_F(PlotterScreen, WithoutMacrosTheUserIsToldSo) {
-  EXPECT_TRUE(Is<TellNoMacro>(Press(u"Mac")));
+  EXPECT_TRUE(Is<TellStop>(Press(u"Mac")));
   Set("MacroInfo", "TotalNumber", -1);
-  EXPECT_TRUE(Is<TellNoMacro>(Press(u"Mac")));
+  EXPECT_TRUE(Is<TellStop>(Press(u"Mac")));
 }
 
 TEST_F(PlotterScreen, WithMacrosTheirListIsAskedFor) {

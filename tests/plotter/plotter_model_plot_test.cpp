@@ -13,8 +13,8 @@ class PlotterModelPlot : public PlotterScreen {
   /// Presses "Plot", which is to open a graph.
   GraphInput Plotted() {
     PlotterRequest request = Press(u"Plot");
-    EXPECT_TRUE(Is<PlotCurves>(request)) << Narrow(Told(request));
-    return Is<PlotCurves>(request) ? std::get<PlotCurves>(request).graph : GraphInput{};
+    EXPECT_TRUE(Is<OpenGraph>(request)) << Narrow(Told(request));
+    return Is<OpenGraph>(request) ? std::get<OpenGraph>(request).input : GraphInput{};
   }
 };
 

@@ -44,7 +44,7 @@ TEST_F(PlotterScreen, LoadsWhatIsStored) {
   EXPECT_EQ(model_->Caption(PlotterKey::Deg), u"RAD");
   EXPECT_EQ(List(), (Equations{u"sin(x)", u"x^2"}));
   EXPECT_EQ(model_->Range(), (RangeTexts{u"-360", u"360.0", u"-1.5", u"1.5"}));
-  EXPECT_EQ(model_->HistoryMenu(), (Menu{{2, u"sin(x)"}, {1, u"x"}}));
+  EXPECT_EQ(model_->MenuOf(PlotterKey::PlayBack), (Menu{{2, u"sin(x)"}, {1, u"x"}}));
   EXPECT_TRUE(IsEnabled(PlotterKey::PlayBack));
   EXPECT_TRUE(IsEnabled(PlotterKey::DeleteEquation));
 }
@@ -114,9 +114,9 @@ TEST_F(PlotterScreen, StoredTextsOfAnyLengthDoNoHarm) {
   SetRange({u"0", u"1", u"0", u"1"});
   EXPECT_LT(Told(Press(u"Plot")).size(), 200U);
   model_->ChooseEquation(0);
-  model_->ChooseHistory(1);
+  model_->Choose(PlotterKey::PlayBack, 1);
   EXPECT_LT(model_->Input().Text().size(), 40'000U);
-  EXPECT_LE(model_->HistoryMenu().front().text.size(), 20U);
+  EXPECT_LE(model_->MenuOf(PlotterKey::PlayBack).front().text.size(), 20U);
 }
 
 // Adding.
@@ -205,8 +205,9 @@ TEST_F(PlotterScreen, DeletingIsAskedFirst) {
   EXPECT_TRUE(Is<Nothing>(Press(u"D")));
   Add(u"x");
   const PlotterRequest request = Press(u"D");
-  ASSERT_TRUE(Is<AskDeleteEquation>(request));
-  EXPECT_EQ(std::get<AskDeleteEquation>(request).question, kQuestion);
+  ASSERT_TRUE(Is<AskFirst<PlotterKey>>(request));
+  EXPECT_EQ(std::get<AskFirst<PlotterKey>>(request).key, PlotterKey::DeleteEquation);
+  EXPECT_EQ(std::get<AskFirst<PlotterKey>>(request).question, kQuestion);
   EXPECT_EQ(List().size(), 1U);
 }
 
@@ -235,8 +236,9 @@ TEST_F(PlotterScreen, AnyKeysLeaveAScreenThatHoldsItsRules) {
   for (int i = 0; i < 20'000; ++i) {
     const PlotterKeyRow& row = rows[random.Below(rows.size())];
     const PlotterRequest request = model_->Press(row.key);
-    if (Is<AskDeleteEquation>(request)) model_->DeleteEquation();
-    if (random.Below(50) == 0) model_->ChooseHistory(static_cast<int>(random.Below(22)));
+    if (Is<AskFirst<PlotterKey>>(request)) model_->DeleteEquation();
+    if (random.Below(50) == 0)
+      model_->Choose(PlotterKey::PlayBack, static_cast<int>(random.Below(22)));
     if (model_->Input().Text().size() > 200) Press(u"CLR");
     ASSERT_LE(List().size(), 3U);
     ASSERT_LE(Entries().size(), 20U);

@@ -110,7 +110,7 @@ TEST_F(Screen, EnabledKeysWriteTheFaceTheyShowAndOthersDoNothing) {
       for (const KeyPlace& place : KeyPlaces()) {
         Open();
         if (shift == ShiftState::On) Press(*model_, u"Shift");
-        model_->ChooseBase(base);
+        model_->Choose(Key::Dec, base);
         SetMarked(u"1[23]45");
         ExpressionLine expected = model_->Line();
         const KeyFace& face = FaceShown(place.key, model_->Base(), shift);
@@ -135,18 +135,18 @@ TEST_F(Screen, KeysAreFoundByTheCaptionTheyShow) {
   Press(*model_, u"Shift");
   EXPECT_EQ(model_->KeyShowing(u"ASIN"), Key::Sin);
   EXPECT_EQ(model_->KeyShowing(u"Shift"), Key::ShiftActive);
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   EXPECT_EQ(model_->KeyShowing(u"A"), Key::A);
   EXPECT_EQ(model_->KeyShowing(u"HEX"), Key::Dec);
   EXPECT_EQ(model_->KeyShowing(u"ASIN"), std::nullopt);
 }
 
 TEST_F(Screen, KeysThatNeedTheOutsideAskForIt) {
-  EXPECT_TRUE(std::holds_alternative<ShowBaseMenu>(Press(*model_, u"DEC")));
-  EXPECT_TRUE(std::holds_alternative<ShowMemoryMenu>(Press(*model_, u"M/C")));
+  EXPECT_EQ(std::get<ShowMenu<Key>>(Press(*model_, u"DEC")).key, Key::Dec);
+  EXPECT_EQ(std::get<ShowMenu<Key>>(Press(*model_, u"M/C")).key, Key::MemoryMenu);
   EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Press(Key::PlayBack)));
   Evaluate(u"1");
-  EXPECT_TRUE(std::holds_alternative<ShowHistoryMenu>(Press(*model_, u"PB")));
+  EXPECT_EQ(std::get<ShowMenu<Key>>(Press(*model_, u"PB")).key, Key::PlayBack);
   EXPECT_TRUE(std::holds_alternative<Nothing>(Press(*model_, u"7")));
 }
 
@@ -154,54 +154,54 @@ TEST_F(Screen, KeysThatNeedTheOutsideAskForIt) {
 
 TEST_F(Screen, BaseChangeRewritesTheAnswer) {
   Evaluate(u"255");
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   EXPECT_EQ(Result(), u"FF");
   EXPECT_EQ(model_->Caption(Key::Dec), u"HEX");
-  model_->ChooseBase(kBinaryItem);
+  model_->Choose(Key::Dec, kBinaryItem);
   EXPECT_EQ(Result(), u"11111111");
   EXPECT_EQ(model_->Caption(Key::Dec), u"BIN");
-  model_->ChooseBase(kOctalItem);
+  model_->Choose(Key::Dec, kOctalItem);
   EXPECT_EQ(Result(), u"377");
   EXPECT_EQ(model_->Caption(Key::Dec), u"OCT");
-  model_->ChooseBase(kDecimalItem);
+  model_->Choose(Key::Dec, kDecimalItem);
   EXPECT_EQ(Result(), u"255");
   EXPECT_EQ(model_->LastAnswer(), 255);
 }
 
 TEST_F(Screen, BaseChangeKeepsTheFractionOfTheAnswer) {
   Evaluate(u"2.75");
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   EXPECT_EQ(Result(), u"2");
-  model_->ChooseBase(kDecimalItem);
+  model_->Choose(Key::Dec, kDecimalItem);
   EXPECT_EQ(Result(), u"2.75");
 }
 
 TEST_F(Screen, BaseInForceChosenAgainChangesNothing) {
   Evaluate(u"1/0");
-  model_->ChooseBase(kDecimalItem);
+  model_->Choose(Key::Dec, kDecimalItem);
   EXPECT_EQ(Result(), u"Division exceeded calculation limit.");
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   EXPECT_EQ(Result(), u"0");
 }
 
 TEST_F(Screen, ItemsThatAreNoBaseChangeNothing) {
-  for (const int id : {0, -1, 2, 32804, 32809}) model_->ChooseBase(id);
+  for (const int id : {0, -1, 2, 32804, 32809}) model_->Choose(Key::Dec, id);
   EXPECT_EQ(model_->Base(), BaseMode::Decimal);
 }
 
 TEST_F(Screen, ShiftThatIsOnOutlivesBaseChanges) {
   Press(*model_, u"Shift");
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   EXPECT_EQ(model_->Caption(Key::Pi), u"AND");
   EXPECT_EQ(model_->Caption(Key::Power), u">>");
-  model_->ChooseBase(kDecimalItem);
+  model_->Choose(Key::Dec, kDecimalItem);
   EXPECT_EQ(model_->Caption(Key::Pi), u"X!");
   EXPECT_EQ(model_->Caption(Key::Sin), u"ASIN");
 }
 
 TEST_F(Screen, ShiftSwitchedOffInHexadecimalLeavesTheLogicKeys) {
   Press(*model_, u"Shift");
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   Press(*model_, u"Shift");
   EXPECT_EQ(model_->Shift(), ShiftState::Off);
   EXPECT_FALSE(model_->IsEnabled(Key::Shift));
@@ -209,19 +209,19 @@ TEST_F(Screen, ShiftSwitchedOffInHexadecimalLeavesTheLogicKeys) {
   EXPECT_EQ(model_->Caption(Key::Tanh), u"<<");
   model_->Press(Key::Shift);
   EXPECT_EQ(model_->Shift(), ShiftState::Off);
-  model_->ChooseBase(kDecimalItem);
+  model_->Choose(Key::Dec, kDecimalItem);
   EXPECT_EQ(model_->Caption(Key::Log), u"LOG");
   EXPECT_EQ(model_->Caption(Key::Tanh), u"TANH");
   EXPECT_TRUE(model_->IsEnabled(Key::Shift));
 }
 
 TEST_F(Screen, LogicKeysCalculateInTheBase) {
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   Press(*model_, u"F F AND F =");
   EXPECT_EQ(LinesOf(*model_), (Lines{u"FF AND F", u"F"}));
   Press(*model_, u"CLR NOT 0 =");
   EXPECT_EQ(LinesOf(*model_), (Lines{u" NOT 0", u"FFFFFFFF"}));
-  model_->ChooseBase(kBinaryItem);
+  model_->Choose(Key::Dec, kBinaryItem);
   Press(*model_, u"CLR 1 0 1 XOR 1 =");
   EXPECT_EQ(LinesOf(*model_), (Lines{u"101 XOR 1", u"100"}));
   Press(*model_, u"CLR 1 << 1 0 =");

@@ -47,7 +47,7 @@ TEST_F(Screen, HistoryKeepsBlanksAndComparesThem) {
 TEST_F(Screen, LineThatFailedAndThenAnswersIsNotAddedAgain) {
   Evaluate(u"FF");
   EXPECT_EQ(Result(), u"ff is not supported.");
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   Press(*model_, u"=");
   EXPECT_EQ(Result(), u"FF");
   EXPECT_EQ(History(), (Texts{u"FF"}));
@@ -64,37 +64,37 @@ TEST_F(Screen, HistoryHoldsTwentyEntries) {
 }
 
 TEST_F(Screen, AnswersCarryTheBaseTheyWereShownIn) {
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   Evaluate(u"F0+F");
-  model_->ChooseBase(kBinaryItem);
+  model_->Choose(Key::Dec, kBinaryItem);
   Evaluate(u"101");
-  model_->ChooseBase(kOctalItem);
+  model_->Choose(Key::Dec, kOctalItem);
   Evaluate(u"7+1");
   EXPECT_EQ(History(), (Texts{u"=[H]FF", u"F0+F", u"=[B]101", u"101", u"=[O]10", u"7+1"}));
 }
 
 TEST_F(Screen, ChosenEntriesReplaceTheSelection) {
   Evaluate(u"1234*2");
-  ASSERT_EQ(model_->HistoryMenu(), (Menu{{2, u"1234*2"}, {1, u"=[D]2,468"}}));
-  model_->ChooseHistory(1);
+  ASSERT_EQ(model_->MenuOf(Key::PlayBack), (Menu{{2, u"1234*2"}, {1, u"=[D]2,468"}}));
+  model_->Choose(Key::PlayBack, 1);
   EXPECT_EQ(MarkedNow(), u"2468|");
   Press(*model_, u"+");
-  model_->ChooseHistory(2);
+  model_->Choose(Key::PlayBack, 2);
   EXPECT_EQ(MarkedNow(), u"2468+1234*2|");
 }
 
 TEST_F(Screen, LongEntriesAreInsertedWhole) {
   Evaluate(u"1+2+3+4+5+6+7+8+9+10+11");
-  EXPECT_EQ(model_->HistoryMenu()[0].text, u"1+2+3+4+5+6+7+8+9...");
+  EXPECT_EQ(model_->MenuOf(Key::PlayBack)[0].text, u"1+2+3+4+5+6+7+8+9...");
   SetMarked(u"|");
-  model_->ChooseHistory(2);
+  model_->Choose(Key::PlayBack, 2);
   EXPECT_EQ(MarkedNow(), u"1+2+3+4+5+6+7+8+9+10+11|");
 }
 
 TEST_F(Screen, CancelledHistoryMenuLeavesTheLine) {
   Evaluate(u"1+1");
   for (const int id : {0, -1, 3, 21, 2147483647}) {
-    model_->ChooseHistory(id);
+    model_->Choose(Key::PlayBack, id);
     EXPECT_EQ(MarkedNow(), u"[1+1]") << id;
   }
 }
@@ -103,34 +103,34 @@ TEST_F(Screen, CancelledHistoryMenuLeavesTheLine) {
 
 TEST_F(Screen, MemoryAddsSubtractsRecallsAndClears) {
   Evaluate(u"5");
-  model_->ChooseMemory(9);
-  model_->ChooseMemory(9);
+  model_->Choose(Key::MemoryMenu, 9);
+  model_->Choose(Key::MemoryMenu, 9);
   EXPECT_EQ(model_->Memory(), 10);
   Evaluate(u"3");
-  model_->ChooseMemory(8);
+  model_->Choose(Key::MemoryMenu, 8);
   EXPECT_EQ(model_->Memory(), 7);
   SetMarked(u"2*|");
-  model_->ChooseMemory(7);
+  model_->Choose(Key::MemoryMenu, 7);
   EXPECT_EQ(MarkedNow(), u"2*7|");
-  model_->ChooseMemory(6);
+  model_->Choose(Key::MemoryMenu, 6);
   EXPECT_EQ(model_->Memory(), 0);
 }
 
 TEST_F(Screen, MemoryIsRecalledWithoutSeparatorsAndInTheBase) {
   Evaluate(u"1234567.5");
   EXPECT_EQ(Result(), u"1,234,567.5");
-  model_->ChooseMemory(9);
-  model_->ChooseMemory(7);
+  model_->Choose(Key::MemoryMenu, 9);
+  model_->Choose(Key::MemoryMenu, 7);
   EXPECT_EQ(MarkedNow(), u"1234567.5|");
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   SetMarked(u"|");
-  model_->ChooseMemory(7);
+  model_->Choose(Key::MemoryMenu, 7);
   EXPECT_EQ(MarkedNow(), u"12D687|");
 }
 
 TEST_F(Screen, MemoryIsNotKeptBetweenRuns) {
   Evaluate(u"5");
-  model_->ChooseMemory(9);
+  model_->Choose(Key::MemoryMenu, 9);
   model_->Save();
   Open();
   EXPECT_EQ(model_->Memory(), 0);
@@ -140,55 +140,55 @@ TEST_F(Screen, MemoryIsNotKeptBetweenRuns) {
 
 TEST_F(Screen, MemoryThatOverflowedIsRecalledAsTheMessage) {
   Evaluate(u"1e308");
-  for (int i = 0; i < 2; ++i) model_->ChooseMemory(9);
+  for (int i = 0; i < 2; ++i) model_->Choose(Key::MemoryMenu, 9);
   SetMarked(u"|");
-  model_->ChooseMemory(7);
+  model_->Choose(Key::MemoryMenu, 7);
   EXPECT_EQ(MarkedNow(), u"Out of range(overflow or underflow)|");
 }
 
 TEST_F(Screen, MemoryMenuOffersNothingOfTheAnswerAfterAFailure) {
-  EXPECT_EQ(model_->MemoryMenu().size(), 9U);
+  EXPECT_EQ(model_->MenuOf(Key::MemoryMenu).size(), 9U);
   Evaluate(u"5");
-  model_->ChooseMemory(9);
+  model_->Choose(Key::MemoryMenu, 9);
   for (const std::u16string_view failing : {u"1/0", u"", u"M:G(1)"}) {
     Evaluate(failing);
-    EXPECT_EQ(model_->MemoryMenu().size(), 6U);
+    EXPECT_EQ(model_->MenuOf(Key::MemoryMenu).size(), 6U);
     for (const int id : {9, 8, 3}) {
-      EXPECT_TRUE(std::holds_alternative<Nothing>(model_->ChooseMemory(id))) << id;
+      EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Choose(Key::MemoryMenu, id))) << id;
     }
     EXPECT_EQ(model_->Memory(), 5);
   }
   Evaluate(u"1");
-  EXPECT_EQ(model_->MemoryMenu().size(), 9U);
+  EXPECT_EQ(model_->MenuOf(Key::MemoryMenu).size(), 9U);
 }
 
 TEST_F(Screen, ItemsTheMemoryMenuDoesNotHaveDoNothing) {
   Evaluate(u"5");
   for (const int id : {0, -1, 2, 5, 10}) {
-    EXPECT_TRUE(std::holds_alternative<Nothing>(model_->ChooseMemory(id))) << id;
+    EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Choose(Key::MemoryMenu, id))) << id;
   }
   EXPECT_EQ(MarkedNow(), u"[5]");
   EXPECT_EQ(model_->Memory(), 0);
 }
 
-std::u16string StoredValue(const KeyRequest& request) {
+std::u16string StoredValue(const ScientificRequest& request) {
   const auto* store = std::get_if<StoreMemoryVariable>(&request);
   return store != nullptr ? store->value : u"no StoreMemoryVariable";
 }
 
 TEST_F(Screen, AnswerIsStoredInDecimalWithoutSeparators) {
   Evaluate(u"1234567.5");
-  EXPECT_EQ(StoredValue(model_->ChooseMemory(3)), u"1234567.5");
-  model_->ChooseBase(kHexadecimalItem);
-  EXPECT_EQ(StoredValue(model_->ChooseMemory(3)), u"1234567.5");
+  EXPECT_EQ(StoredValue(model_->Choose(Key::MemoryMenu, 3)), u"1234567.5");
+  model_->Choose(Key::Dec, kHexadecimalItem);
+  EXPECT_EQ(StoredValue(model_->Choose(Key::MemoryMenu, 3)), u"1234567.5");
   EXPECT_EQ(Result(), u"12D687");
 }
 
 TEST_F(Screen, RecallAndConstantsAreAskedForAlsoAfterAFailure) {
   for (const std::u16string_view line : {u"1", u"1/0"}) {
     Evaluate(line);
-    EXPECT_TRUE(std::holds_alternative<RecallMemoryVariable>(model_->ChooseMemory(4)));
-    EXPECT_TRUE(std::holds_alternative<OpenConstants>(model_->ChooseMemory(1)));
+    EXPECT_TRUE(std::holds_alternative<RecallMemoryVariable>(model_->Choose(Key::MemoryMenu, 4)));
+    EXPECT_TRUE(std::holds_alternative<OpenConstants>(model_->Choose(Key::MemoryMenu, 1)));
   }
 }
 
@@ -198,7 +198,7 @@ TEST_F(Screen, RecalledVariableIsWrittenInTheBase) {
   EXPECT_EQ(MarkedNow(), u"1+2.5|");
   model_->TakeVariable(u"not a number");
   EXPECT_EQ(MarkedNow(), u"1+2.50|");
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   SetMarked(u"|");
   model_->TakeVariable(u"255.9");
   EXPECT_EQ(MarkedNow(), u"FF|");
@@ -208,7 +208,7 @@ TEST_F(Screen, ConstantIsInsertedAsItStandsInDecimalOnly) {
   SetMarked(u"2*|");
   model_->TakeConstant(u"6.02E23 ");
   EXPECT_EQ(MarkedNow(), u"2*6.02E23 |");
-  model_->ChooseBase(kOctalItem);
+  model_->Choose(Key::Dec, kOctalItem);
   SetMarked(u"|");
   model_->TakeConstant(u"9.81");
   EXPECT_EQ(MarkedNow(), u"11|");
@@ -219,20 +219,20 @@ TEST_F(Screen, ResultLineTellsAnAnswerFromAMessage) {
   for (const std::u16string_view failing : {u"1/0", u"", u"M:G(1)"}) {
     Evaluate(failing);
     EXPECT_FALSE(model_->ShowsAnswer());
-    model_->ChooseBase(kDecimalItem);
+    model_->Choose(Key::Dec, kDecimalItem);
     EXPECT_FALSE(model_->ShowsAnswer());
     Evaluate(u"1");
     EXPECT_TRUE(model_->ShowsAnswer());
   }
   Evaluate(u"1/0");
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   EXPECT_TRUE(model_->ShowsAnswer());
 }
 
 // Macros.
 
 TEST_F(Screen, MacroKeyWithoutMacrosTellsSoAndOpensTheEditor) {
-  const KeyRequest request = Press(*model_, u"Mac");
+  const ScientificRequest request = Press(*model_, u"Mac");
   const auto* editor = std::get_if<OpenMacroEditor>(&request);
   ASSERT_NE(editor, nullptr);
   EXPECT_EQ(editor->message, u"Not exist saved macro");
@@ -273,7 +273,7 @@ TEST_F(Screen, ChosenMacroIsWrittenWithPlacesForItsArguments) {
 
 // The unit converter.
 
-ConverterInput InputOf(const KeyRequest& request) {
+ConverterInput InputOf(const ScientificRequest& request) {
   const auto* open = std::get_if<OpenConverter>(&request);
   return open != nullptr ? open->input : ConverterInput{u"no OpenConverter", {}, 0};
 }
@@ -312,7 +312,7 @@ TEST_F(Screen, ConverterOpensWithTheStoredPositionsAndTheMemory) {
   Set("Convert", "OutputTypePos", 14);
   Open();
   Evaluate(u"5");
-  model_->ChooseMemory(9);
+  model_->Choose(Key::MemoryMenu, 9);
   const ConverterInput input = InputOf(Press(*model_, u"Cnv"));
   EXPECT_EQ(input.positions, (ConverterPositions{6, 2, 14}));
   EXPECT_EQ(input.memory, 5);

@@ -173,7 +173,7 @@ TEST_F(Screen, ScreenIsSavedUnderItsKeys) {
   Press(*model_, u"DEG");
   model_->TakeConverter({std::nullopt, {6, 1, 2}, 0});
   Evaluate(u"1+1");
-  model_->ChooseBase(kOctalItem);
+  model_->Choose(Key::Dec, kOctalItem);
   model_->Save();
   EXPECT_EQ(Stored("Config", "Angle Type"), 2);
   EXPECT_EQ(Stored("Config", "Base Type"), 4);
@@ -205,7 +205,7 @@ TEST_F(Screen, HistoryAngleUnitAndBaseComeBack) {
   Press(*model_, u"DEG");
   Evaluate(u"2*π");
   Evaluate(u"6*7");
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   model_->Save();
   Open();
   EXPECT_EQ(model_->Angle(), AngleUnit::Radians);
@@ -224,12 +224,12 @@ TEST_F(Screen, NewDisplaySettingsRewriteTheAnswerInDecimalOnly) {
   model_->TakeDisplaySettings();
   EXPECT_EQ(Result(), u"1234.50");
 
-  model_->ChooseBase(kHexadecimalItem);
+  model_->Choose(Key::Dec, kHexadecimalItem);
   Evaluate(u"G+1");
   Set("Config", "Display Type", 2);
   model_->TakeDisplaySettings();
   EXPECT_EQ(Result(), u"g is not supported.");
-  model_->ChooseBase(kDecimalItem);
+  model_->Choose(Key::Dec, kDecimalItem);
   EXPECT_EQ(Result(), u"0.00e+00");
 }
 
@@ -252,13 +252,13 @@ void DoSomething(ScientificModel& model, std::mt19937& random) {
       model.SetLine(model.Line().Text() + text, {random() % 50, random() % 50});
       break;
     case 1:
-      model.ChooseHistory(anyNumber());
+      model.Choose(Key::PlayBack, anyNumber());
       break;
     case 2:
-      model.ChooseBase(32804 + anyNumber() % 6);
+      model.Choose(Key::Dec, 32804 + anyNumber() % 6);
       break;
     case 3:
-      model.ChooseMemory(anyNumber());
+      model.Choose(Key::MemoryMenu, anyNumber());
       break;
     case 4:
       model.TakeMacro(anyNumber() % 4);

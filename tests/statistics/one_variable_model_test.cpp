@@ -15,7 +15,7 @@ namespace {
 class OneVariableScreen : public test::StatisticsFixture<OneVariableModel> {
  protected:
   std::u16string Stored() {
-    const auto request = model_->ChooseVariables(1);
+    const auto request = model_->Choose(StatisticsKey::MemoryMenu, 1);
     const auto* store = std::get_if<StoreMemoryVariable>(&request);
     return store == nullptr ? u"nothing" : store->value;
   }
@@ -108,11 +108,12 @@ TEST_F(OneVariableScreen, ResultsAreThoseOfTheRowsAsTheyAreNow) {
 // Memory variables.
 
 TEST_F(OneVariableScreen, MemoryMenuIsAsked) {
-  EXPECT_TRUE(std::holds_alternative<ShowVariablesMenu>(Press(u"MEM")));
+  EXPECT_EQ(std::get<ShowMenu<StatisticsKey>>(Press(u"MEM")).key, StatisticsKey::MemoryMenu);
 }
 
 TEST_F(OneVariableScreen, FreshScreenOffersToStoreItsZero) {
-  EXPECT_EQ(model_->MenuOfVariables(), (Menu{{1, u"Store MemVar"}, {2, u"ReCall MemVar"}}));
+  EXPECT_EQ(model_->MenuOf(StatisticsKey::MemoryMenu),
+            (Menu{{1, u"Store MemVar"}, {2, u"ReCall MemVar"}}));
   EXPECT_EQ(Stored(), u"0");
 }
 
@@ -128,27 +129,30 @@ TEST_F(OneVariableScreen, ResultThatCannotBeShownCannotBeStored) {
   Add(u"1e308", u"2");
   Add(u"1", u"1");
   Result(u"\u03A3X");
-  EXPECT_EQ(model_->MenuOfVariables(), (Menu{{2, u"ReCall MemVar"}}));
+  EXPECT_EQ(model_->MenuOf(StatisticsKey::MemoryMenu), (Menu{{2, u"ReCall MemVar"}}));
   EXPECT_EQ(Stored(), u"nothing");
   // A row that is added is no result.
   Add(u"2", u"1");
-  EXPECT_EQ(model_->MenuOfVariables(), (Menu{{2, u"ReCall MemVar"}}));
+  EXPECT_EQ(model_->MenuOf(StatisticsKey::MemoryMenu), (Menu{{2, u"ReCall MemVar"}}));
   Delete(2);
   EXPECT_EQ(Result(u"\u03A3X"), u"3");
-  EXPECT_EQ(model_->MenuOfVariables(), (Menu{{1, u"Store MemVar"}, {2, u"ReCall MemVar"}}));
+  EXPECT_EQ(model_->MenuOf(StatisticsKey::MemoryMenu),
+            (Menu{{1, u"Store MemVar"}, {2, u"ReCall MemVar"}}));
   EXPECT_EQ(Stored(), u"3");
 }
 
 TEST_F(OneVariableScreen, ItemsThatAreNotOfferedDoNothing) {
   for (const int id : {-1, 0, 3}) {
-    EXPECT_TRUE(std::holds_alternative<Nothing>(model_->ChooseVariables(id))) << id;
+    EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Choose(StatisticsKey::MemoryMenu, id)))
+        << id;
   }
 }
 
 TEST_F(OneVariableScreen, RecalledValueReplacesTheFieldThatHadTheFocus) {
   Type(u"old", u"7");
   model_->SetFocusedField(DataField::X);
-  EXPECT_TRUE(std::holds_alternative<RecallMemoryVariable>(model_->ChooseVariables(2)));
+  EXPECT_TRUE(
+      std::holds_alternative<RecallMemoryVariable>(model_->Choose(StatisticsKey::MemoryMenu, 2)));
   const auto request = model_->TakeVariable(u"1234567.50");
   ASSERT_TRUE(std::holds_alternative<FocusField>(request));
   EXPECT_EQ(std::get<FocusField>(request).field, DataField::X);

@@ -31,7 +31,7 @@ class Files : public test::StatisticsFixture<Model> {
   }
   std::u16string_view QuestionOfLoad() {
     const auto request = this->Press(u"Load");
-    const auto* load = std::get_if<AskLoadDataFile>(&request);
+    const auto* load = std::get_if<AskLoadFile>(&request);
     EXPECT_NE(load, nullptr);
     return load == nullptr ? u"none" : load->question;
   }
@@ -45,7 +45,7 @@ using TwoVariableFiles = Files<TwoVariableModel>;
 TEST_F(OneVariableFiles, RowsAreSavedFromTheTop) {
   Add(u"2", u"3");
   Add(u"-4.5", u"1");
-  EXPECT_TRUE(std::holds_alternative<AskSaveDataFile>(Press(u"Save")));
+  EXPECT_TRUE(std::holds_alternative<AskSaveFile>(Press(u"Save")));
   EXPECT_EQ(Saved(), "-4.5\t1\r\n2\t3\r\n");
   EXPECT_FALSE(model_->IsModified());
 }

@@ -173,8 +173,9 @@ TEST_F(OneVariableRows, DeletingAsksFirst) {
   Add(u"1", u"1");
   model_->Select(0);
   const auto request = Press(u"Delete");
-  ASSERT_TRUE(std::holds_alternative<AskDeleteRow>(request));
-  EXPECT_EQ(std::get<AskDeleteRow>(request).question,
+  ASSERT_TRUE(std::holds_alternative<AskFirst<StatisticsKey>>(request));
+  EXPECT_EQ(std::get<AskFirst<StatisticsKey>>(request).key, StatisticsKey::Delete);
+  EXPECT_EQ(std::get<AskFirst<StatisticsKey>>(request).question,
             u"Are you sure you want to delete the selected data?");
   EXPECT_EQ(Rows(), "1 1");
 }
@@ -210,8 +211,10 @@ TEST_F(OneVariableRows, ClearingAsksAndMakesACleanList) {
   EXPECT_EQ(Result(u"\u03A3X"), u"10");
   model_->Select(0);
   const auto request = Press(u"Clear");
-  ASSERT_TRUE(std::holds_alternative<AskClearRows>(request));
-  EXPECT_EQ(std::get<AskClearRows>(request).question, u"Are you sure you want to delete all data?");
+  ASSERT_TRUE(std::holds_alternative<AskFirst<StatisticsKey>>(request));
+  EXPECT_EQ(std::get<AskFirst<StatisticsKey>>(request).key, StatisticsKey::Clear);
+  EXPECT_EQ(std::get<AskFirst<StatisticsKey>>(request).question,
+            u"Are you sure you want to delete all data?");
   EXPECT_EQ(model_->List().RowCount(), 2U);
   model_->ClearRows();
   EXPECT_EQ(Rows(), "");

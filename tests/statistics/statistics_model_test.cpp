@@ -111,9 +111,9 @@ TEST_F(OneVariable, RefusedFieldsChangeNothing) {
         Row{u"2", u"1.5", u"Count must be a whole number from 1 to 10000.", DataField::Count}}) {
     Type(row.x, row.count);
     const auto request = Press(u"Add");
-    ASSERT_TRUE(std::holds_alternative<RefuseField>(request)) << Narrow(row.x);
+    ASSERT_TRUE(std::holds_alternative<FieldRefusal>(request)) << Narrow(row.x);
     EXPECT_EQ(Told(request), row.told);
-    EXPECT_EQ(std::get<RefuseField>(request).refusal.focus, row.focus);
+    EXPECT_EQ(std::get<FieldRefusal>(request).focus, row.focus);
     EXPECT_EQ(model_->FocusedField(), row.focus);
   }
   EXPECT_EQ(Rows(), "1 1");
@@ -126,7 +126,7 @@ TEST_F(TwoVariables, YIsAskedForBetweenXAndCount) {
   Type(u"1", u"?", u"0");
   const auto request = Press(u"Add");
   EXPECT_EQ(Told(request), u"Y must be a number such as -12.5 or 1.5e-3.");
-  EXPECT_EQ(std::get<RefuseField>(request).refusal.focus, DataField::Y);
+  EXPECT_EQ(std::get<FieldRefusal>(request).focus, DataField::Y);
   EXPECT_EQ(Rows(), "");
   EXPECT_FALSE(model_->IsModified());
 }
@@ -187,8 +187,8 @@ TEST_F(OneVariable, TotalBeyondThirtyTwoBitsIsRefused) {
   EXPECT_EQ(Told(request),
             u"The total of all counts must be from -2147483648 to 2147483647. The list was not "
             u"changed.");
-  ASSERT_TRUE(std::holds_alternative<RefuseField>(request));
-  EXPECT_EQ(std::get<RefuseField>(request).refusal.focus, DataField::Count);
+  ASSERT_TRUE(std::holds_alternative<FieldRefusal>(request));
+  EXPECT_EQ(std::get<FieldRefusal>(request).focus, DataField::Count);
   EXPECT_EQ(Rows(), "1 2147483640; 2 3");
   EXPECT_FALSE(model_->IsModified());
   Add(u"5", u"4");
@@ -216,7 +216,7 @@ TEST_F(OneVariable, DeletingTheRowThatKeepsTheTotalInRangeIsRefused) {
   ASSERT_FALSE(Load("1\t2000000000\r\n2\t-2000000000\r\n3\t2000000000\r\n"));
   model_->Select(1);
   const auto request = Press(u"Delete");
-  ASSERT_TRUE(std::holds_alternative<TellData>(request));
+  ASSERT_TRUE(std::holds_alternative<TellStop>(request));
   EXPECT_EQ(Told(request),
             u"The total of all counts must be from -2147483648 to 2147483647. The list was not "
             u"changed.");

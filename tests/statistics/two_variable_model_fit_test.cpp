@@ -30,13 +30,13 @@ class TwoVariableFit : public test::StatisticsFixture<TwoVariableModel> {
 TEST_F(TwoVariableFit, ModelButtonOpensItsMenu) {
   EXPECT_FALSE(model_->IsEnabled(StatisticsKey::Model));
   Fill({{u"1", u"2"}, {u"2", u"4"}});
-  EXPECT_TRUE(std::holds_alternative<ShowModelMenu>(Press(u"Lin")));
-  EXPECT_EQ(model_->MenuOfModels(), (Menu{{1, u"Linear : A*X+B"},
-                                          {2, u"Power : A*X^B"},
-                                          {3, u"Inverse : A/X+B"},
-                                          {4, u"Logarithmic : A*ln(X)+B"},
-                                          {5, u"Exponential : A*exp(B*X)"},
-                                          {6, u"Quadratic : A*X^2+B*X+C"}}));
+  EXPECT_EQ(std::get<ShowMenu<StatisticsKey>>(Press(u"Lin")).key, StatisticsKey::Model);
+  EXPECT_EQ(model_->MenuOf(StatisticsKey::Model), (Menu{{1, u"Linear : A*X+B"},
+                                                        {2, u"Power : A*X^B"},
+                                                        {3, u"Inverse : A/X+B"},
+                                                        {4, u"Logarithmic : A*ln(X)+B"},
+                                                        {5, u"Exponential : A*exp(B*X)"},
+                                                        {6, u"Quadratic : A*X^2+B*X+C"}}));
 }
 
 TEST_F(TwoVariableFit, ModelsHaveTheirButtons) {
@@ -49,7 +49,7 @@ TEST_F(TwoVariableFit, ModelsHaveTheirButtons) {
   for (const Row& row :
        {Row{6, u"Quad", u"+C+X1'+X2'"}, Row{5, u"Exp", u"-r+X'"}, Row{4, u"Log", u"-r+X'"},
         Row{3, u"Inv", u"-r+X'"}, Row{2, u"Pow", u"-r+X'"}, Row{1, u"Lin", u"+r+X'"}}) {
-    model_->ChooseModel(row.id);
+    model_->Choose(StatisticsKey::Model, row.id);
     EXPECT_EQ(static_cast<int>(model_->Model()), row.id);
     EXPECT_EQ(model_->Caption(StatisticsKey::Model), row.caption);
     EXPECT_EQ(ModelButtons(), row.buttons) << row.id;
@@ -58,7 +58,7 @@ TEST_F(TwoVariableFit, ModelsHaveTheirButtons) {
 
 TEST_F(TwoVariableFit, CorrelationStaysDisabledForOtherModelsWhenRowsComeAndGo) {
   Fill({{u"1", u"2"}, {u"2", u"4"}});
-  model_->ChooseModel(2);
+  model_->Choose(StatisticsKey::Model, 2);
   Delete(0);
   EXPECT_EQ(ModelButtons(), u"-r-X'");
   Add(u"3", u"6", u"1");
@@ -77,7 +77,7 @@ TEST_F(TwoVariableFit, HiddenButtonsDoNothing) {
     EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Press(key)));
     EXPECT_EQ(model_->ResultText(), u"2");
   }
-  model_->ChooseModel(6);
+  model_->Choose(StatisticsKey::Model, 6);
   for (const StatisticsKey key : {StatisticsKey::Correlation, StatisticsKey::EstimateX}) {
     EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Press(key)));
     EXPECT_EQ(model_->ResultText(), u"2");
@@ -86,7 +86,7 @@ TEST_F(TwoVariableFit, HiddenButtonsDoNothing) {
 
 TEST_F(TwoVariableFit, ItemsThatAreNotOfferedChangeNothing) {
   for (const int id : {-1, 0, 7}) {
-    model_->ChooseModel(id);
+    model_->Choose(StatisticsKey::Model, id);
     EXPECT_EQ(model_->Model(), RegressionModel::Linear) << id;
   }
 }
@@ -113,7 +113,7 @@ TEST_F(KeptCoefficients, SortingAndPressingAgainKeepsThem) {
 }
 
 TEST_F(KeptCoefficients, ChoosingAModelFitsAnew) {
-  model_->ChooseModel(1);
+  model_->Choose(StatisticsKey::Model, 1);
   EXPECT_EQ(Result(u"A"), u"0");
 }
 
@@ -196,14 +196,14 @@ TEST_F(TwoVariableFit, PlotTellsWhenDataDoNotSpread) {
 
 TEST_F(TwoVariableFit, PlotTellsWhenTheCurveHasNoEquation) {
   Fill({{u"0", u"1"}, {u"1", u"2"}});
-  model_->ChooseModel(2);
+  model_->Choose(StatisticsKey::Model, 2);
   const std::u16string told = Told(Press(u"Plot"));
   EXPECT_EQ(told.substr(0, told.find(u'\n')), u"out is not supported.");
 }
 
 TEST_F(TwoVariableFit, PlotIsThatOfTheChosenModel) {
   Fill({{u"1", u"1"}, {u"2", u"4"}, {u"3", u"9"}});
-  model_->ChooseModel(6);
+  model_->Choose(StatisticsKey::Model, 6);
   const auto request = Press(u"Plot");
   ASSERT_TRUE(std::holds_alternative<OpenGraph>(request));
   EXPECT_EQ(std::get<OpenGraph>(request).input.curves[0].label, u"R:F1(X)=1*X^2+0*X+0");

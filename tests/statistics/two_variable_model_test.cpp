@@ -42,7 +42,7 @@ TEST_F(TwoVariableScreen, SumsDoNotDependOnTheModel) {
   Add(u"2", u"20", u"3");
   Add(u"4", u"40", u"1");
   for (int id = 1; id <= 6; ++id) {
-    model_->ChooseModel(id);
+    model_->Choose(StatisticsKey::Model, id);
     EXPECT_EQ(Result(u"\u03A3XY"), u"280") << id;
     EXPECT_EQ(Result(u"\u03A3Y^2"), u"2,800") << id;
   }
@@ -79,7 +79,7 @@ TEST_F(TwoVariableScreen, FallingLineHasACorrelationOfMinusOne) {
 
 TEST_F(TwoVariableScreen, PowerModel) {
   Fill({{u"1", u"3"}, {u"2", u"12"}, {u"4", u"48"}});
-  model_->ChooseModel(2);
+  model_->Choose(StatisticsKey::Model, 2);
   EXPECT_NEAR(Number(u"A"), 3, 1e-9);
   EXPECT_NEAR(Number(u"B"), 2, 1e-9);
   Type(u"3", u"27", u"1");
@@ -90,7 +90,7 @@ TEST_F(TwoVariableScreen, PowerModel) {
 // The logarithms are fitted, not 1/x.
 TEST_F(TwoVariableScreen, InverseModel) {
   Fill({{u"1", u"3"}, {u"2", u"2"}});
-  model_->ChooseModel(3);
+  model_->Choose(StatisticsKey::Model, 3);
   const double slope = (std::log(2.0) - std::log(3.0)) / std::log(2.0);
   const double b = std::exp(-slope);
   const double a = 3 - b;
@@ -103,7 +103,7 @@ TEST_F(TwoVariableScreen, InverseModel) {
 
 TEST_F(TwoVariableScreen, LogarithmicModel) {
   ASSERT_FALSE(Load("1 5 1 2.718281828459045 7 1 7.38905609893065 9 1 "));
-  model_->ChooseModel(4);
+  model_->Choose(StatisticsKey::Model, 4);
   EXPECT_NEAR(Number(u"A"), 2, 1e-9);
   EXPECT_NEAR(Number(u"B"), 5, 1e-9);
   Type(u"1", u"9", u"1");
@@ -113,7 +113,7 @@ TEST_F(TwoVariableScreen, LogarithmicModel) {
 
 TEST_F(TwoVariableScreen, ExponentialModel) {
   ASSERT_FALSE(Load("1 2.718281828459045 1 2 7.38905609893065 1 "));
-  model_->ChooseModel(5);
+  model_->Choose(StatisticsKey::Model, 5);
   EXPECT_NEAR(Number(u"A"), 1, 1e-9);
   EXPECT_NEAR(Number(u"B"), 1, 1e-9);
   Type(u"0", u"20.085536923187668", u"1");
@@ -123,7 +123,7 @@ TEST_F(TwoVariableScreen, ExponentialModel) {
 
 TEST_F(TwoVariableScreen, QuadraticModel) {
   Fill({{u"1", u"1"}, {u"2", u"4"}, {u"3", u"9"}});
-  model_->ChooseModel(6);
+  model_->Choose(StatisticsKey::Model, 6);
   EXPECT_EQ(Result(u"A"), u"1");
   EXPECT_EQ(Result(u"B"), u"0");
   EXPECT_EQ(Result(u"C"), u"0");
@@ -135,7 +135,7 @@ TEST_F(TwoVariableScreen, QuadraticModel) {
 
 TEST_F(TwoVariableScreen, ParabolaThatIsNotReachedHasNoX) {
   Fill({{u"1", u"1"}, {u"2", u"4"}, {u"3", u"9"}});
-  model_->ChooseModel(6);
+  model_->Choose(StatisticsKey::Model, 6);
   Type(u"0", u"-1", u"1");
   EXPECT_EQ(Result(u"X1'"), kOutOfRange);
   EXPECT_EQ(Result(u"X2'"), kOutOfRange);
@@ -144,18 +144,18 @@ TEST_F(TwoVariableScreen, ParabolaThatIsNotReachedHasNoX) {
 TEST_F(TwoVariableScreen, LogarithmsOfWhatIsNotPositiveAreTold) {
   Fill({{u"0", u"1"}, {u"1", u"2"}, {u"2", u"3"}});
   for (const int id : {2, 3, 4}) {
-    model_->ChooseModel(id);
+    model_->Choose(StatisticsKey::Model, id);
     EXPECT_EQ(Result(u"A"), kOutOfRange) << id;
     EXPECT_EQ(Result(u"B"), kOutOfRange) << id;
   }
   Clear();
   Fill({{u"1", u"-1"}, {u"2", u"2"}, {u"3", u"3"}});
   for (const int id : {2, 3, 5}) {
-    model_->ChooseModel(id);
+    model_->Choose(StatisticsKey::Model, id);
     EXPECT_EQ(Result(u"A"), kOutOfRange) << id;
     EXPECT_EQ(Result(u"B"), kOutOfRange) << id;
   }
-  EXPECT_EQ(model_->MenuOfVariables(), (Menu{{2, u"ReCall MemVar"}}));
+  EXPECT_EQ(model_->MenuOf(StatisticsKey::MemoryMenu), (Menu{{2, u"ReCall MemVar"}}));
 }
 
 TEST_F(TwoVariableScreen, PointsAboveEachOtherHaveNoLine) {
@@ -206,7 +206,7 @@ TEST_F(TwoVariableScreen, EstimatesRefuseFieldsThatHoldNoRow) {
     DataField focus;
   };
   for (const int id : {1, 6}) {
-    model_->ChooseModel(id);
+    model_->Choose(StatisticsKey::Model, id);
     for (const Row& row :
          {Row{{u"", u"1", u"1"}, u"X must be a number such as -12.5 or 1.5e-3.", DataField::X},
           Row{{u"1", u"", u"1"}, u"Y must be a number such as -12.5 or 1.5e-3.", DataField::Y},
@@ -217,8 +217,8 @@ TEST_F(TwoVariableScreen, EstimatesRefuseFieldsThatHoldNoRow) {
       for (const std::u16string_view caption : {u"Y'", id == 6 ? u"X1'" : u"X'"}) {
         const auto request = Press(caption);
         EXPECT_EQ(Told(request), row.told);
-        ASSERT_TRUE(std::holds_alternative<RefuseField>(request));
-        EXPECT_EQ(std::get<RefuseField>(request).refusal.focus, row.focus);
+        ASSERT_TRUE(std::holds_alternative<FieldRefusal>(request));
+        EXPECT_EQ(std::get<FieldRefusal>(request).focus, row.focus);
       }
     }
   }

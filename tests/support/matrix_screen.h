@@ -41,14 +41,14 @@ class MatrixScreen : public testing::Test {
     return Nothing{};
   }
   /// Chooses the item of a menu that has the text.
-  MatrixRequest Choose(MatrixMenu menu, std::u16string_view text) {
+  MatrixRequest Choose(MatrixKey menu, std::u16string_view text) {
     for (const MenuItem& item : model_->MenuOf(menu)) {
       if (item.text == text) return model_->Choose(menu, item.id);
     }
     ADD_FAILURE() << "no item is " << Narrow(text);
     return Nothing{};
   }
-  MatrixRequest Tool(std::u16string_view text) { return Choose(MatrixMenu::MatrixTools, text); }
+  MatrixRequest Tool(std::u16string_view text) { return Choose(MatrixKey::MatrixTools, text); }
 
   /// What a request tells with the stop icon; empty where it is another one.
   static std::u16string Told(const MatrixRequest& request) {

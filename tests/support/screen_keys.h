@@ -21,7 +21,7 @@ inline void Type(ScientificModel& model, std::u16string_view text) {
   model.SetLine(line.Text(), line.Selected());
 }
 
-inline KeyRequest PressCaption(ScientificModel& model, std::u16string_view caption) {
+inline ScientificRequest PressCaption(ScientificModel& model, std::u16string_view caption) {
   const auto key = model.KeyShowing(caption);
   if (!key) {
     ADD_FAILURE() << "no key shows " << Narrow(caption);
@@ -32,8 +32,8 @@ inline KeyRequest PressCaption(ScientificModel& model, std::u16string_view capti
 
 /// Presses keys by the captions that they show at that moment, separated by blanks; a text in
 /// quotes is typed. Returns what the last one asks for.
-inline KeyRequest Press(ScientificModel& model, std::u16string_view keys) {
-  KeyRequest request;
+inline ScientificRequest Press(ScientificModel& model, std::u16string_view keys) {
+  ScientificRequest request;
   while (!keys.empty()) {
     const char16_t first = keys.front();
     const std::size_t end = std::min(keys.find(first == u'"' ? u'"' : u' ', 1), keys.size());

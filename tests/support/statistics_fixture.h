@@ -79,11 +79,11 @@ class StatisticsFixture : public testing::Test {
   /// Deletes or clears after a Yes.
   void Delete(std::size_t row) {
     model_->Select(row);
-    EXPECT_TRUE(std::holds_alternative<AskDeleteRow>(Press(u"Delete")));
+    EXPECT_EQ(std::get<AskFirst<StatisticsKey>>(Press(u"Delete")).key, StatisticsKey::Delete);
     model_->DeleteRow();
   }
   void Clear() {
-    EXPECT_TRUE(std::holds_alternative<AskClearRows>(Press(u"Clear")));
+    EXPECT_EQ(std::get<AskFirst<StatisticsKey>>(Press(u"Clear")).key, StatisticsKey::Clear);
     model_->ClearRows();
   }
 
@@ -114,8 +114,8 @@ class StatisticsFixture : public testing::Test {
 
   /// What is told with the stop icon; empty for other requests.
   static std::u16string Told(const StatisticsRequest& request) {
-    if (const auto* told = std::get_if<TellData>(&request)) return told->text;
-    if (const auto* refused = std::get_if<RefuseField>(&request)) return refused->refusal.text;
+    if (const auto* told = std::get_if<TellStop>(&request)) return told->text;
+    if (const auto* refused = std::get_if<FieldRefusal>(&request)) return refused->text;
     return {};
   }
 

@@ -51,19 +51,6 @@ constexpr std::array kShortcuts{
     KeyShortcut{MatrixKey::Size, "Alt+S"},
 };
 
-struct MenuKey {
-  MatrixMenu menu;
-  MatrixKey key;
-};
-constexpr std::array kMenuKeys{
-    MenuKey{MatrixMenu::Functions, MatrixKey::Functions},
-    MenuKey{MatrixMenu::Tools, MatrixKey::Tools},
-    MenuKey{MatrixMenu::Operations, MatrixKey::Operations},
-    MenuKey{MatrixMenu::MatrixTools, MatrixKey::MatrixTools},
-    MenuKey{MatrixMenu::Variables, MatrixKey::Variables},
-    MenuKey{MatrixMenu::History, MatrixKey::PlayBack},
-};
-
 const char* ShortcutOf(MatrixKey key) {
   const auto* row = std::find_if(kShortcuts.begin(), kShortcuts.end(),
                                  [key](const KeyShortcut& s) { return s.key == key; });
@@ -265,15 +252,13 @@ void CMatrixDlg::CarryOut(const MatrixRequest& request) {
   std::visit([this](const auto& what) { Do(what); }, request);
 }
 
-void CMatrixDlg::Do(const ShowMatrixMenu& request) {
-  const auto* row = std::find_if(kMenuKeys.begin(), kMenuKeys.end(), [&](const MenuKey& candidate) {
-    return candidate.menu == request.menu;
-  });
-  PopUp(OfferedMenu(request.menu), static_cast<int>(row->key),
-        [this, menu = request.menu](int id) { CarryOut(model_.Choose(menu, id)); });
+void CMatrixDlg::Do(const ShowMenu<MatrixKey>& request) {
+  const MatrixKey key = request.key;
+  PopUp(OfferedMenu(key), static_cast<int>(key),
+        [this, key](int id) { CarryOut(model_.Choose(key, id)); });
 }
 
-void CMatrixDlg::Do(const AskClearCells& request) {
+void CMatrixDlg::Do(const AskFirst<MatrixKey>& request) {
   const bool clears = AskYesNo(this, request.question);
   if (clears) ClearCells();
 }
@@ -325,9 +310,9 @@ void CMatrixDlg::Tell(const std::optional<std::u16string>& failure) {
   if (failure) ShowStop(this, *failure);
 }
 
-Menu CMatrixDlg::OfferedMenu(MatrixMenu menu) const {
-  Menu items = model_.MenuOf(menu);
-  if (menu != MatrixMenu::Tools) return items;
+Menu CMatrixDlg::OfferedMenu(MatrixKey key) const {
+  Menu items = model_.MenuOf(key);
+  if (key != MatrixKey::Tools) return items;
   return OfferedOf(items, [&rooms = TheRooms()](int id) {
     switch (id) {
       case tools_item::kConstants:

@@ -32,8 +32,8 @@ class CMatrixDlg final : public LineScreen {
   // What a key asks for.
   void CarryOut(const MatrixRequest& request);
   void Do(const Nothing&) {}
-  void Do(const ShowMatrixMenu& request);
-  void Do(const AskClearCells& request);
+  void Do(const ShowMenu<MatrixKey>& request);
+  void Do(const AskFirst<MatrixKey>& request);
   void Do(const AskMatrixSize& request);
   void Do(const TellStop& request);
   void Do(const AskSaveFile& request);
@@ -45,7 +45,7 @@ class CMatrixDlg final : public LineScreen {
   void Do(const RecallMemoryVariable& request);
   void Do(const OpenConstants& request);
   void Tell(const std::optional<std::u16string>& failure);
-  Menu OfferedMenu(MatrixMenu menu) const;
+  Menu OfferedMenu(MatrixKey key) const;
 
   // The grid.
   void MakeGrid();

@@ -195,12 +195,12 @@ void CPlotterDlg::Do(const PlotterRefusal& request) {
   range_.Enter(*request.focus);
 }
 
-void CPlotterDlg::Do(const ShowHistoryMenu&) {
-  PopUp(model_.HistoryMenu(), static_cast<int>(PlotterKey::PlayBack),
-        [this](int id) { model_.ChooseHistory(id); });
+void CPlotterDlg::Do(const ShowMenu<PlotterKey>& request) {
+  PopUp(model_.MenuOf(request.key), static_cast<int>(request.key),
+        [this, key = request.key](int id) { model_.Choose(key, id); });
 }
 
-void CPlotterDlg::Do(const AskDeleteEquation& request) {
+void CPlotterDlg::Do(const AskFirst<PlotterKey>& request) {
   if (AskYesNo(this, request.question)) {
     model_.DeleteEquation();
     Save();
@@ -208,8 +208,8 @@ void CPlotterDlg::Do(const AskDeleteEquation& request) {
   Refresh();
 }
 
-void CPlotterDlg::Do(const TellNoMacro&) {
-  ShowStop(this, kNoMacroStored);
+void CPlotterDlg::Do(const TellStop& request) {
+  ShowStop(this, request.text);
 }
 
 void CPlotterDlg::Do(const OpenMacroList& request) {
@@ -221,8 +221,8 @@ void CPlotterDlg::Do(const OpenMacroList& request) {
   Refresh();
 }
 
-void CPlotterDlg::Do(const PlotCurves& request) {
-  RunGraphView(this, request.graph);
+void CPlotterDlg::Do(const OpenGraph& request) {
+  RunGraphView(this, request.input);
   Refresh();
 }
 

@@ -42,11 +42,11 @@ class CPlotterDlg final : public KeyScreen {
   void CarryOut(const PlotterRequest& request);
   void Do(const Nothing&) {}
   void Do(const PlotterRefusal& request);
-  void Do(const ShowHistoryMenu& request);
-  void Do(const AskDeleteEquation& request);
-  void Do(const TellNoMacro& request);
+  void Do(const ShowMenu<PlotterKey>& request);
+  void Do(const AskFirst<PlotterKey>& request);
+  void Do(const TellStop& request);
   void Do(const OpenMacroList& request);
-  void Do(const PlotCurves& request);
+  void Do(const OpenGraph& request);
 
   // The Edit menu works on the field that had the focus last, or else on the input.
   void Edit(EditCommand command) override;

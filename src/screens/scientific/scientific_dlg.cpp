@@ -104,21 +104,14 @@ void CScientificDlg::LayOut(const DialogUnits& units) {
   Result().LayOut(units.Pixels(UnitsOf(kResultPlace)));
 }
 
-void CScientificDlg::CarryOut(const KeyRequest& request) {
+void CScientificDlg::CarryOut(const ScientificRequest& request) {
   std::visit([this](const auto& what) { Do(what); }, request);
 }
 
-void CScientificDlg::Do(const ShowHistoryMenu&) {
-  PopUp(model_.HistoryMenu(), Key::PlayBack, [this](int id) { model_.ChooseHistory(id); });
-}
-
-void CScientificDlg::Do(const ShowBaseMenu&) {
-  PopUp(model_.BaseMenu(), Key::Dec, [this](int id) { model_.ChooseBase(id); });
-}
-
-void CScientificDlg::Do(const ShowMemoryMenu&) {
-  PopUp(OfferedMemoryMenu(), Key::MemoryMenu,
-        [this](int id) { CarryOut(model_.ChooseMemory(id)); });
+void CScientificDlg::Do(const ShowMenu<Key>& request) {
+  const Key key = request.key;
+  PopUp(key == Key::MemoryMenu ? OfferedMemoryMenu() : model_.MenuOf(key), key,
+        [this, key](int id) { CarryOut(model_.Choose(key, id)); });
 }
 
 void CScientificDlg::Do(const OpenMacroEditor& request) {
@@ -156,7 +149,7 @@ bool CScientificDlg::IsOffered(Key key) const {
 }
 
 Menu CScientificDlg::OfferedMemoryMenu() const {
-  return OfferedOf(model_.MemoryMenu(), [&rooms = TheRooms()](int id) {
+  return OfferedOf(model_.MenuOf(Key::MemoryMenu), [&rooms = TheRooms()](int id) {
     switch (id) {
       case memory_item::kRecallVariable:
         return static_cast<bool>(rooms.recallVariable);

@@ -23,11 +23,9 @@ class CScientificDlg final : public LineScreen {
   void LayOut(const DialogUnits& units) override;
 
   // What a key asks for.
-  void CarryOut(const KeyRequest& request);
+  void CarryOut(const ScientificRequest& request);
   void Do(const Nothing&) {}
-  void Do(const ShowHistoryMenu&);
-  void Do(const ShowBaseMenu&);
-  void Do(const ShowMemoryMenu&);
+  void Do(const ShowMenu<Key>& request);
   void Do(const OpenMacroEditor& request);
   void Do(const OpenMacroList& request);
   void Do(const OpenConverter& request);

@@ -115,7 +115,7 @@ void StatisticsScreen::OnKey(int key) {
   TakeLine();
   const StatisticsRequest request = model_->Press(static_cast<StatisticsKey>(key));
   const bool goesToField =
-      std::holds_alternative<FocusField>(request) || std::holds_alternative<RefuseField>(request);
+      std::holds_alternative<FocusField>(request) || std::holds_alternative<FieldRefusal>(request);
   if (!goesToField) QGuiApplication::inputMethod()->hide();
   Follow(request);
 }
@@ -175,9 +175,9 @@ void StatisticsScreen::Follow(const StatisticsRequest& request) {
   std::visit([this](const auto& what) { Do(what); }, request);
 }
 
-void StatisticsScreen::Do(const RefuseField& request) {
-  ShowStop(this, request.refusal.text);
-  Do(FocusField{request.refusal.focus});
+void StatisticsScreen::Do(const FieldRefusal& request) {
+  ShowStop(this, request.text);
+  Do(FocusField{request.focus});
 }
 
 void StatisticsScreen::Do(const FocusField& request) {
@@ -185,25 +185,22 @@ void StatisticsScreen::Do(const FocusField& request) {
   fields_.Line(request.field).selectAll();
 }
 
-void StatisticsScreen::Do(const AskDeleteRow& request) {
-  if (AskYesNo(this, request.question)) model_->DeleteRow();
+void StatisticsScreen::Do(const AskFirst<StatisticsKey>& request) {
+  if (AskYesNo(this, request.question)) {
+    request.key == StatisticsKey::Delete ? model_->DeleteRow() : model_->ClearRows();
+  }
   Refresh();
 }
 
-void StatisticsScreen::Do(const AskClearRows& request) {
-  if (AskYesNo(this, request.question)) model_->ClearRows();
-  Refresh();
-}
-
-void StatisticsScreen::Do(const AskSaveDataFile&) {
+void StatisticsScreen::Do(const AskSaveFile&) {
   const auto path = AskFileToSave(this, kDataFiles);
   if (!path) return;
   Tell(Run(kSavingData,
            [&](const WorkProgress& progress) { return model_->SaveTo(*path, progress); }));
 }
 
-void StatisticsScreen::Do(const AskLoadDataFile& request) {
-  if (!request.question.empty() && AskYesNo(this, request.question)) Do(AskSaveDataFile{});
+void StatisticsScreen::Do(const AskLoadFile& request) {
+  if (!request.question.empty() && AskYesNo(this, request.question)) Do(AskSaveFile{});
   const auto path = AskFileToOpen(this, kDataFiles);
   if (!path) return;
   Tell(Run(kLoadingData,
@@ -211,17 +208,20 @@ void StatisticsScreen::Do(const AskLoadDataFile& request) {
   table_->scrollToTop();
 }
 
-void StatisticsScreen::Do(const ShowVariablesMenu&) {
-  const Menu items = OfferedOf(model_->MenuOfVariables(), [&rooms = TheRooms()](int id) {
-    return id == variables_item::kStore ? static_cast<bool>(rooms.storeVariable)
-                                        : static_cast<bool>(rooms.recallVariable);
-  });
+void StatisticsScreen::Do(const ShowMenu<StatisticsKey>& request) {
+  const StatisticsKey key = request.key;
+  Menu items = model_->MenuOf(key);
+  if (key == StatisticsKey::MemoryMenu) {
+    items = OfferedOf(items, [&rooms = TheRooms()](int id) {
+      return id == variables_item::kStore ? static_cast<bool>(rooms.storeVariable)
+                                          : static_cast<bool>(rooms.recallVariable);
+    });
+  }
   if (items.empty()) return;
-  PopUp(items, static_cast<int>(StatisticsKey::MemoryMenu),
-        [this](int id) { Follow(model_->ChooseVariables(id)); });
+  PopUp(items, static_cast<int>(key), [this, key](int id) { Follow(model_->Choose(key, id)); });
 }
 
-void StatisticsScreen::Do(const TellData& request) {
+void StatisticsScreen::Do(const TellStop& request) {
   ShowStop(this, request.text);
 }
 
@@ -248,7 +248,7 @@ void StatisticsScreen::Leaving() {
   const auto question = model_->QuestionBeforeLeaving();
   if (!question || !AskYesNo(this, *question)) return;
   TakeLine();
-  Do(AskSaveDataFile{});
+  Do(AskSaveFile{});
 }
 
 QLineEdit& StatisticsScreen::Edited() const {

@@ -36,7 +36,6 @@ class StatisticsScreen : public KeyScreen {
   StatisticsModel& Model() const { return *model_; }
 
   /// Opens what a key of one kind of screen alone asks for.
-  virtual void Open(const ShowModelMenu&) {}
   virtual void Open(const OpenGraph&) {}
   using KeyScreen::Open;
 
@@ -56,16 +55,14 @@ class StatisticsScreen : public KeyScreen {
   // What a key asks for, once the screen shows what it did.
   void Follow(const StatisticsRequest& request);
   void Do(const Nothing&) {}
-  void Do(const RefuseField& request);
+  void Do(const FieldRefusal& request);
   void Do(const FocusField& request);
-  void Do(const AskDeleteRow& request);
-  void Do(const AskClearRows& request);
-  void Do(const AskSaveDataFile& request);
-  void Do(const AskLoadDataFile& request);
-  void Do(const ShowVariablesMenu& request);
-  void Do(const ShowModelMenu& request) { Open(request); }
+  void Do(const AskFirst<StatisticsKey>& request);
+  void Do(const AskSaveFile& request);
+  void Do(const AskLoadFile& request);
+  void Do(const ShowMenu<StatisticsKey>& request);
   void Do(const OpenGraph& request) { Open(request); }
-  void Do(const TellData& request);
+  void Do(const TellStop& request);
   void Do(const StoreMemoryVariable& request);
   void Do(const RecallMemoryVariable& request);
   using Work = std::function<std::optional<std::u16string>(const WorkProgress&)>;

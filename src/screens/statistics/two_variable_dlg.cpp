@@ -15,13 +15,7 @@ constexpr std::array kColumns{DataColumn{kXHeading, 85}, DataColumn{kYHeading, 8
 
 CTwoVariableDlg::CTwoVariableDlg(Frame& frame, std::chrono::milliseconds patience)
     : StatisticsScreen(frame, ScreenMode::TwoVariable,
-                       std::make_unique<TwoVariableModel>(frame.Store()), kColumns, patience),
-      model_(static_cast<TwoVariableModel&>(Model())) {}
-
-void CTwoVariableDlg::Open(const ShowModelMenu&) {
-  PopUp(model_.MenuOfModels(), static_cast<int>(StatisticsKey::Model),
-        [this](int id) { model_.ChooseModel(id); });
-}
+                       std::make_unique<TwoVariableModel>(frame.Store()), kColumns, patience) {}
 
 void CTwoVariableDlg::Open(const OpenGraph& request) {
   RunGraphView(this, request.input);

@@ -16,10 +16,7 @@ class CTwoVariableDlg final : public StatisticsScreen {
   explicit CTwoVariableDlg(Frame& frame, std::chrono::milliseconds patience = kProgressPatience);
 
  private:
-  void Open(const ShowModelMenu& request) override;
   void Open(const OpenGraph& request) override;
-
-  TwoVariableModel& model_;
 };
 
 /// The screen as the frame's table of screens has it.
