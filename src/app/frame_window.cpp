@@ -66,34 +66,34 @@ std::span<const ScreenKind> AllScreens() {
   return kScreens;
 }
 
-Rooms AllRooms(SettingsStore& store) {
+ScreenDialogs AllDialogs(SettingsStore& store) {
   // A line for each dialog that there is.
-  Rooms rooms;
-  rooms.displaySettings = [&store](QWidget* parent, DisplayPage first) {
+  ScreenDialogs dialogs;
+  dialogs.displaySettings = [&store](QWidget* parent, DisplayPage first) {
     return RunDisplaySettings(parent, store, first);
   };
-  rooms.unitEditor = [&store](QWidget* parent) { RunUserConversions(parent, store); };
-  rooms.macroEditor = [&store](QWidget* parent) { RunMacroEditor(parent, store); };
-  rooms.macroList = [&store](QWidget* parent) { return RunMacroList(parent, store); };
-  rooms.converter = [&store](QWidget* parent, const ConverterInput& input) {
+  dialogs.unitEditor = [&store](QWidget* parent) { RunUserConversions(parent, store); };
+  dialogs.macroEditor = [&store](QWidget* parent) { RunMacroEditor(parent, store); };
+  dialogs.macroList = [&store](QWidget* parent) { return RunMacroList(parent, store); };
+  dialogs.converter = [&store](QWidget* parent, const ConverterInput& input) {
     return RunConverter(parent, store, input);
   };
-  rooms.storeVariable = [&store](QWidget* parent, const std::u16string& value) {
+  dialogs.storeVariable = [&store](QWidget* parent, const std::u16string& value) {
     RunStoreVariable(parent, store, value);
   };
-  rooms.recallVariable = [&store](QWidget* parent) { return RunRecallVariable(parent, store); };
-  rooms.constants = [](QWidget* parent) { return RunConstants(parent); };
-  return rooms;
+  dialogs.recallVariable = [&store](QWidget* parent) { return RunRecallVariable(parent, store); };
+  dialogs.constants = [](QWidget* parent) { return RunConstants(parent); };
+  return dialogs;
 }
 
-FrameWindow::FrameWindow(SettingsStore& store, std::span<const ScreenKind> screens, Rooms rooms,
-                         FrameHooks hooks)
+FrameWindow::FrameWindow(SettingsStore& store, std::span<const ScreenKind> screens,
+                         ScreenDialogs dialogs, FrameHooks hooks)
     // Without a title, an animation or an entry among the desktop's windows: the screen is what the
     // desktop knows as the window of the program.
     : QWidget(nullptr, Qt::SplashScreen | Qt::BypassWindowManagerHint),
       store_(store),
       screens_(screens),
-      rooms_(std::move(rooms)),
+      dialogs_(std::move(dialogs)),
       hooks_(std::move(hooks)),
       place_(StoredPlace(store)),
       mode_(StoredMode(store)) {

@@ -25,7 +25,7 @@ struct ScreenKind {
 
 /// Every screen and every dialog that this build has.
 std::span<const ScreenKind> AllScreens();
-Rooms AllRooms(SettingsStore& store);
+ScreenDialogs AllDialogs(SettingsStore& store);
 
 /// What the frame asks of the application.
 struct FrameHooks {
@@ -39,7 +39,7 @@ struct FrameHooks {
 /// outlive the frame; the first screen is the one that stands for modes that no screen has.
 class FrameWindow final : public QWidget, public Frame {
  public:
-  FrameWindow(SettingsStore& store, std::span<const ScreenKind> screens, Rooms rooms,
+  FrameWindow(SettingsStore& store, std::span<const ScreenKind> screens, ScreenDialogs dialogs,
               FrameHooks hooks);
   /// Closes what is still open and stores the mode and the window's place.
   ~FrameWindow() override;
@@ -55,7 +55,7 @@ class FrameWindow final : public QWidget, public Frame {
   QWidget* Shown() const { return slots_[activeSlot_].get(); }
 
   SettingsStore& Store() override { return store_; }
-  const Rooms& OpenRooms() const override { return rooms_; }
+  const ScreenDialogs& Dialogs() const override { return dialogs_; }
   std::vector<ScreenChoice> ScreensBeside(ScreenMode own) const override;
   void SaveStore() override { hooks_.saveStore(); }
   void ChangeMode(ScreenMode mode) override;
@@ -73,7 +73,7 @@ class FrameWindow final : public QWidget, public Frame {
 
   SettingsStore& store_;
   std::span<const ScreenKind> screens_;
-  Rooms rooms_;
+  ScreenDialogs dialogs_;
   FrameHooks hooks_;
   WindowPlace place_;
   std::int32_t mode_;

@@ -46,7 +46,7 @@ Session::Session(SingleInstance instance, std::string settingsPath)
     };
   };
   frame_ = std::make_unique<FrameWindow>(
-      store_, AllScreens(), AllRooms(store_),
+      store_, AllScreens(), AllDialogs(store_),
       FrameHooks{[this] { Save(); }, later(&Session::Started), later(&Session::End)});
   frame_->show();
   WatchSignals();

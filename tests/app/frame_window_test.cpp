@@ -78,7 +78,7 @@ class FrameWindowTest : public testing::Test {
     started_ = 0;
     screens_ = screens;
     frame_ = std::make_unique<FrameWindow>(
-        store_, screens_, Rooms{},
+        store_, screens_, ScreenDialogs{},
         FrameHooks{[this] { ++saves_; }, [this] { ++started_; }, [this] { ++finished_; }});
   }
   std::string ShownName() const {

@@ -124,19 +124,19 @@ TEST_F(MatrixDlgTest, MenusWriteFunctionsOperationsAndNames) {
   EXPECT_TRUE(LineHasFocus());
 }
 
-TEST_F(MatrixDlgTest, ToolsNeedTheirRooms) {
+TEST_F(MatrixDlgTest, ToolsNeedTheirDialogs) {
   Tap(u"Tools");
   EXPECT_EQ(OpenMenu() == nullptr || Offered(OpenMenu()).empty(), true);
 }
 
-TEST_F(MatrixDlgTest, ToolsBringBackWhatTheirRoomsFound) {
-  frame_.rooms.constants = [](QWidget*) { return std::optional<std::u16string>(u"299792458"); };
-  frame_.rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(u"1,5"); };
-  frame_.rooms.converter = [](QWidget*, const ConverterInput& input) {
+TEST_F(MatrixDlgTest, ToolsBringBackWhatTheirDialogsFound) {
+  frame_.dialogs.constants = [](QWidget*) { return std::optional<std::u16string>(u"299792458"); };
+  frame_.dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(u"1,5"); };
+  frame_.dialogs.converter = [](QWidget*, const ConverterInput& input) {
     return ConverterOutcome{u"12", input.positions, input.memory};
   };
-  frame_.rooms.macroList = [](QWidget*) { return std::optional<int>(); };
-  frame_.rooms.macroEditor = [](QWidget*) {};
+  frame_.dialogs.macroList = [](QWidget*) { return std::optional<int>(); };
+  frame_.dialogs.macroEditor = [](QWidget*) {};
   Open();
   Tap(u"Tools");
   EXPECT_EQ(Offered(OpenMenu()), (Texts{u"Constants", u"Recall MemVar", u"Converter", u"Macro"}));
@@ -381,7 +381,7 @@ TEST_F(MatrixDlgTest, SettingsSayHowANewMatrixIs) {
 
 TEST_F(MatrixDlgTest, TheDisplaySettingsOpenWithTheirMatrixPageAndAreTaken) {
   std::optional<DisplayPage> opened;
-  frame_.rooms.displaySettings = [&](QWidget*, DisplayPage first) {
+  frame_.dialogs.displaySettings = [&](QWidget*, DisplayPage first) {
     opened = first;
     frame_.store.Set(kMatrixAlignment, 1);
     return true;

@@ -82,7 +82,7 @@ TEST_F(OneVariableDlgTest, ResultsTakeTheDisplaySettings) {
 }
 
 TEST_F(OneVariableDlgTest, ChangedDisplaySettingsChangeWhatIsShown) {
-  frame_.rooms.displaySettings = [this](QWidget*, DisplayPage page) {
+  frame_.dialogs.displaySettings = [this](QWidget*, DisplayPage page) {
     EXPECT_EQ(page, DisplayPage::Normal);
     frame_.store.Set(kDisplayType, 2);
     frame_.store.Set(kPrecision, 1);

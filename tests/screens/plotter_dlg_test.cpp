@@ -261,12 +261,12 @@ TEST_F(PlotterDlgTest, TheTwentyFirstEntryDropsTheOldest) {
   Key(Qt::Key_Escape);
 }
 
-TEST_F(PlotterDlgTest, WithoutARoomForMacrosTheirKeyIsOff) {
+TEST_F(PlotterDlgTest, WithoutAMacroListItsKeyIsOff) {
   EXPECT_FALSE(IsOn(u"Mac"));
 }
 
 TEST_F(PlotterDlgTest, WithoutMacrosTheUserIsToldSo) {
-  frame_.rooms.macroList = [](QWidget*) -> std::optional<int> {
+  frame_.dialogs.macroList = [](QWidget*) -> std::optional<int> {
     ADD_FAILURE() << "the list was opened";
     return std::nullopt;
   };
@@ -277,7 +277,7 @@ TEST_F(PlotterDlgTest, WithoutMacrosTheUserIsToldSo) {
 TEST_F(PlotterDlgTest, TheFormulaOfTheChosenMacroIsInserted) {
   StoreMacros(frame_.store, {{"sq", "TYPE1 : F(X)", "x^2"}, {"cu", "TYPE1 : F(X)", "x^3"}});
   std::optional<int> chosen = 1;
-  frame_.rooms.macroList = [&chosen](QWidget*) { return chosen; };
+  frame_.dialogs.macroList = [&chosen](QWidget*) { return chosen; };
   Open();
   Put(u"1+[2]");
   Tap(u"Mac");

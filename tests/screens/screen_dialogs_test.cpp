@@ -22,7 +22,7 @@ namespace {
 class FileFrame final : public Frame {
  public:
   SettingsStore& Store() override { return store; }
-  const Rooms& OpenRooms() const override { return rooms; }
+  const ScreenDialogs& Dialogs() const override { return dialogs; }
   std::vector<ScreenChoice> ScreensBeside(ScreenMode) const override { return {}; }
   void SaveStore() override { ++saves; }
   void ChangeMode(ScreenMode) override {}
@@ -31,7 +31,7 @@ class FileFrame final : public Frame {
   TemporaryFolder folder;
   std::string path = folder.File("settings.toml");
   UserSettingsStore store{path};
-  Rooms rooms = AllRooms(store);
+  ScreenDialogs dialogs = AllDialogs(store);
   int saves = 0;
 };
 

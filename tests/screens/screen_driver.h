@@ -32,14 +32,14 @@ inline QString ToQt(std::u16string_view text) {
 class FakeFrame final : public Frame {
  public:
   SettingsStore& Store() override { return store; }
-  const Rooms& OpenRooms() const override { return rooms; }
+  const ScreenDialogs& Dialogs() const override { return dialogs; }
   std::vector<ScreenChoice> ScreensBeside(ScreenMode) const override { return others; }
   void SaveStore() override { ++saves; }
   void ChangeMode(ScreenMode mode) override { modes.push_back(mode); }
   void Exit() override { ++exits; }
 
   MemorySettingsStore store;
-  Rooms rooms;
+  ScreenDialogs dialogs;
   std::vector<ScreenChoice> others;
   int saves = 0;
   int exits = 0;

@@ -71,8 +71,8 @@ TEST_F(StatisticsKeyboardTest, WhatIsTypedIntoTheListGoesToTheFieldOfLate) {
 }
 
 TEST_F(StatisticsKeyboardTest, ANegativeSumUnderTheRootShowsTheMessageAndCannotBeStored) {
-  frame_.rooms.storeVariable = [](QWidget*, const std::u16string&) {};
-  frame_.rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
+  frame_.dialogs.storeVariable = [](QWidget*, const std::u16string&) {};
+  frame_.dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
   Open();
   // With counts below 0, as files may hold them: N = -1, and the sum is 2e18 / -1.
   Load("1.0e+9\t1\r\n1.0e+9\t-3\r\n0\t1\r\n");
@@ -85,8 +85,8 @@ TEST_F(StatisticsKeyboardTest, ANegativeSumUnderTheRootShowsTheMessageAndCannotB
 
 TEST_F(StatisticsKeyboardTest, TheLastResultIsStored) {
   std::u16string stored;
-  frame_.rooms.storeVariable = [&](QWidget*, const std::u16string& value) { stored = value; };
-  frame_.rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
+  frame_.dialogs.storeVariable = [&](QWidget*, const std::u16string& value) { stored = value; };
+  frame_.dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
   Open();
   AddRows("1000000 1;500000.5 1");
   EXPECT_EQ(ResultOf(u"ΣX"), u"1,500,000.5");
@@ -99,7 +99,7 @@ TEST_F(StatisticsKeyboardTest, TheLastResultIsStored) {
 }
 
 TEST_F(StatisticsKeyboardTest, ARecalledValueReplacesTheFieldOfLate) {
-  frame_.rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(u"1.50"); };
+  frame_.dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(u"1.50"); };
   Open();
   Put("X", "77");
   Click(Field("X"));
@@ -115,7 +115,7 @@ TEST_F(StatisticsKeyboardTest, ARecalledValueReplacesTheFieldOfLate) {
 }
 
 TEST_F(StatisticsKeyboardTest, ARecallThatIsGivenUpChangesNothing) {
-  frame_.rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
+  frame_.dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
   Open();
   Put("X", "77");
   Tap(u"MEM");

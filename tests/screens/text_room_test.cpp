@@ -44,7 +44,7 @@ class TextRoomTest : public testing::Test {
                 {{"hyp", "TYPE2 : F(X,Y)", "sqrt(x^2+y^2)"}, {"box", "TYPE3 : F(X,Y,Z)", "x*y*z"}});
     frame_.store.Set(kMatrixRows, 10);
     frame_.store.Set(kMatrixColumns, 10);
-    frame_.rooms = AllRooms(frame_.store);
+    frame_.dialogs = AllDialogs(frame_.store);
     frame_.others = {{ScreenMode::Matrix, u"Matrix Calculator"}};
   }
   ~TextRoomTest() override { BoxWatch::Instance().TakeSeen(); }
@@ -140,7 +140,7 @@ TEST_F(TextRoomTest, TheDisplaySettings) {
     frame_.store.Set(kDisplayType, type);
     frame_.store.Set(kPrecision, 15);
     for (const DisplayPage page : {DisplayPage::Normal, DisplayPage::Matrix}) {
-      MeasureDialog([&](QWidget* window) { frame_.rooms.displaySettings(window, page); });
+      MeasureDialog([&](QWidget* window) { frame_.dialogs.displaySettings(window, page); });
     }
   }
 }
@@ -152,31 +152,31 @@ void TapButton(QDialog& dialog, std::u16string_view caption) {
 }
 
 TEST_F(TextRoomTest, TheMacros) {
-  MeasureDialog(frame_.rooms.macroEditor,
+  MeasureDialog(frame_.dialogs.macroEditor,
                 {[](QDialog& dialog) { dialog.findChild<QListView*>()->setFocus(); },
                  [](QDialog& dialog) { TapButton(dialog, u"New"); }});
-  MeasureDialog([&](QWidget* window) { frame_.rooms.macroList(window); });
+  MeasureDialog([&](QWidget* window) { frame_.dialogs.macroList(window); });
 }
 
 TEST_F(TextRoomTest, TheConverter) {
   for (int category = 0; category < 14; ++category) {
     MeasureDialog([&](QWidget* window) {
-      frame_.rooms.converter(window, {u"1234.5678", {category, 0, category == 13 ? -1 : 1}, 0});
+      frame_.dialogs.converter(window, {u"1234.5678", {category, 0, category == 13 ? -1 : 1}, 0});
     });
   }
 }
 
 TEST_F(TextRoomTest, TheUnitEditor) {
   StoreConversions(frame_.store, {{"inch -> cm", "2.54"}, {"knot -> km/h", "1.852"}});
-  MeasureDialog(frame_.rooms.unitEditor,
+  MeasureDialog(frame_.dialogs.unitEditor,
                 {[](QDialog& dialog) { dialog.findChild<QListView*>()->setFocus(); },
                  [](QDialog& dialog) { TapButton(dialog, u"New"); }});
 }
 
 TEST_F(TextRoomTest, TheMemoryVariables) {
   frame_.store.Set(NumberedKey{"MemoryVar", "Var19", "0"}, "-1.23456789012345e-300");
-  MeasureDialog([&](QWidget* window) { frame_.rooms.storeVariable(window, u"1"); });
-  MeasureDialog([&](QWidget* window) { frame_.rooms.recallVariable(window); });
+  MeasureDialog([&](QWidget* window) { frame_.dialogs.storeVariable(window, u"1"); });
+  MeasureDialog([&](QWidget* window) { frame_.dialogs.recallVariable(window); });
 }
 
 TEST_F(TextRoomTest, TheConstants) {

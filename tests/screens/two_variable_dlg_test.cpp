@@ -268,7 +268,7 @@ TEST_F(TwoVariableDlgTest, DeletingDisablesTheResultsButNotTheModel) {
 }
 
 TEST_F(TwoVariableDlgTest, ARecalledValueGoesIntoY) {
-  frame_.rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(u"-2.50"); };
+  frame_.dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(u"-2.50"); };
   Open();
   Click(Field("Y"));
   Tap(u"MEM");

@@ -313,16 +313,16 @@ void CMatrixDlg::Tell(const std::optional<std::u16string>& failure) {
 Menu CMatrixDlg::OfferedMenu(MatrixKey key) const {
   Menu items = model_.MenuOf(key);
   if (key != MatrixKey::Tools) return items;
-  return OfferedOf(items, [&rooms = TheRooms()](int id) {
+  return OfferedOf(items, [&dialogs = Dialogs()](int id) {
     switch (id) {
       case tools_item::kConstants:
-        return static_cast<bool>(rooms.constants);
+        return static_cast<bool>(dialogs.constants);
       case tools_item::kRecallVariable:
-        return static_cast<bool>(rooms.recallVariable);
+        return static_cast<bool>(dialogs.recallVariable);
       case tools_item::kConverter:
-        return static_cast<bool>(rooms.converter);
+        return static_cast<bool>(dialogs.converter);
       case tools_item::kMacro:
-        return rooms.macroList && rooms.macroEditor;
+        return dialogs.macroList && dialogs.macroEditor;
       default:
         return true;
     }

@@ -142,7 +142,7 @@ void CPlotterDlg::OnEnter() {
 
 void CPlotterDlg::Save() {
   model_.Save();
-  TheFrame().SaveStore();
+  ParentFrame().SaveStore();
 }
 
 void CPlotterDlg::TakeLine() {
@@ -157,7 +157,7 @@ void CPlotterDlg::Refresh() {
   line_->setChecked(model_.Options().hasLines);
   Keys().Refresh([this](int id) {
     const auto key = static_cast<PlotterKey>(id);
-    const bool isOffered = key != PlotterKey::Macro || TheRooms().macroList;
+    const bool isOffered = key != PlotterKey::Macro || Dialogs().macroList;
     return KeyState{model_.Caption(key), model_.IsEnabled(key) && isOffered, model_.IsVisible(key)};
   });
   input_->setFocus();
@@ -214,7 +214,7 @@ void CPlotterDlg::Do(const TellStop& request) {
 
 void CPlotterDlg::Do(const OpenMacroList& request) {
   const std::optional<int> index = Open(request);
-  const MacroStore macros(TheFrame().Store());
+  const MacroStore macros(ParentFrame().Store());
   if (index && *index >= 0 && *index < macros.Count()) {
     model_.TakeMacro(Widen(macros.At(*index).formula));
   }

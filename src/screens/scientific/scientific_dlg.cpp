@@ -127,8 +127,8 @@ void CScientificDlg::Do(const OpenConverter& request) {
 }
 
 void CScientificDlg::Do(const StoreMemoryVariable& request) {
-  TheRooms().storeVariable(this, request.value);
-  TheFrame().SaveStore();
+  Dialogs().storeVariable(this, request.value);
+  ParentFrame().SaveStore();
 }
 
 void CScientificDlg::Do(const RecallMemoryVariable& request) {
@@ -144,19 +144,19 @@ void CScientificDlg::PopUp(const Menu& items, Key key, const std::function<void(
 }
 
 bool CScientificDlg::IsOffered(Key key) const {
-  if (key == Key::Macro) return TheRooms().macroList && TheRooms().macroEditor;
-  return key != Key::Converter || TheRooms().converter;
+  if (key == Key::Macro) return Dialogs().macroList && Dialogs().macroEditor;
+  return key != Key::Converter || Dialogs().converter;
 }
 
 Menu CScientificDlg::OfferedMemoryMenu() const {
-  return OfferedOf(model_.MenuOf(Key::MemoryMenu), [&rooms = TheRooms()](int id) {
+  return OfferedOf(model_.MenuOf(Key::MemoryMenu), [&dialogs = Dialogs()](int id) {
     switch (id) {
       case memory_item::kRecallVariable:
-        return static_cast<bool>(rooms.recallVariable);
+        return static_cast<bool>(dialogs.recallVariable);
       case memory_item::kStoreVariable:
-        return static_cast<bool>(rooms.storeVariable);
+        return static_cast<bool>(dialogs.storeVariable);
       case memory_item::kConstants:
-        return static_cast<bool>(rooms.constants);
+        return static_cast<bool>(dialogs.constants);
       default:
         return true;
     }

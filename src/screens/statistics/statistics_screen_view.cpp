@@ -212,9 +212,9 @@ void StatisticsScreen::Do(const ShowMenu<StatisticsKey>& request) {
   const StatisticsKey key = request.key;
   Menu items = model_->MenuOf(key);
   if (key == StatisticsKey::MemoryMenu) {
-    items = OfferedOf(items, [&rooms = TheRooms()](int id) {
-      return id == variables_item::kStore ? static_cast<bool>(rooms.storeVariable)
-                                          : static_cast<bool>(rooms.recallVariable);
+    items = OfferedOf(items, [&dialogs = Dialogs()](int id) {
+      return id == variables_item::kStore ? static_cast<bool>(dialogs.storeVariable)
+                                          : static_cast<bool>(dialogs.recallVariable);
     });
   }
   if (items.empty()) return;
@@ -226,8 +226,8 @@ void StatisticsScreen::Do(const TellStop& request) {
 }
 
 void StatisticsScreen::Do(const StoreMemoryVariable& request) {
-  TheRooms().storeVariable(this, request.value);
-  TheFrame().SaveStore();
+  Dialogs().storeVariable(this, request.value);
+  ParentFrame().SaveStore();
 }
 
 void StatisticsScreen::Do(const RecallMemoryVariable& request) {

@@ -20,7 +20,7 @@ enum class ScreenMode { Scientific = 1, Plotter = 2, OneVariable = 3, TwoVariabl
 
 /// The dialogs that screens open, each a function that returns once its dialog is closed; empty
 /// where this build has no such dialog, and then nothing that needs it is offered.
-struct Rooms {
+struct ScreenDialogs {
   /// Opens with `first`; whether it was closed with OK.
   std::function<bool(QWidget* parent, DisplayPage first)> displaySettings;
   std::function<void(QWidget* parent)> unitEditor;
@@ -47,7 +47,7 @@ class Frame {
   virtual ~Frame() = default;
 
   virtual SettingsStore& Store() = 0;
-  virtual const Rooms& OpenRooms() const = 0;
+  virtual const ScreenDialogs& Dialogs() const = 0;
   virtual std::vector<ScreenChoice> ScreensBeside(ScreenMode own) const = 0;
 
   /// Writes the store to disk before it returns; tells the user, once, where that cannot be.

@@ -48,14 +48,14 @@ void KeyScreen::PopUp(const Menu& items, int key, const std::function<void(int)>
 
 void KeyScreen::AddMenus(ScreenMode mode, DisplayPage page,
                          const std::function<void()>& takeDisplaySettings) {
-  const Rooms& rooms = TheRooms();
+  const ScreenDialogs& dialogs = Dialogs();
   std::function<void(QWidget*)> config;
-  if (rooms.displaySettings) {
+  if (dialogs.displaySettings) {
     config = [this, page, takeDisplaySettings](QWidget* parent) {
-      if (TheRooms().displaySettings(parent, page)) takeDisplaySettings();
+      if (Dialogs().displaySettings(parent, page)) takeDisplaySettings();
     };
   }
-  AddFileMenu({Opening(config), Opening(rooms.unitEditor), Opening(rooms.macroEditor)});
+  AddFileMenu({Opening(config), Opening(dialogs.unitEditor), Opening(dialogs.macroEditor)});
   AddEditMenu({[this](EditCommand command) { Edit(command); },
                [this](EditCommand command) { return CanEdit(command); }});
   AddModeMenu(mode);
@@ -67,35 +67,35 @@ std::function<void()> KeyScreen::Opening(const std::function<void(QWidget*)>& op
     TakeLine();
     open(this);
     Refresh();
-    TheFrame().SaveStore();
+    ParentFrame().SaveStore();
   };
 }
 
 void KeyScreen::Open(const OpenMacroEditor& request) {
   if (!request.message.empty()) ShowStop(this, request.message);
-  TheRooms().macroEditor(this);
-  TheFrame().SaveStore();
+  Dialogs().macroEditor(this);
+  ParentFrame().SaveStore();
 }
 
 std::optional<int> KeyScreen::Open(const OpenMacroList&) {
-  return TheRooms().macroList(this);
+  return Dialogs().macroList(this);
 }
 
 ConverterOutcome KeyScreen::Open(const OpenConverter& request) {
-  ConverterOutcome outcome = TheRooms().converter(this, request.input);
-  TheFrame().SaveStore();
+  ConverterOutcome outcome = Dialogs().converter(this, request.input);
+  ParentFrame().SaveStore();
   return outcome;
 }
 
 std::optional<std::u16string> KeyScreen::Open(const RecallMemoryVariable&) {
-  auto value = TheRooms().recallVariable(this);
+  auto value = Dialogs().recallVariable(this);
   // Variables may have been cleared in it as well.
-  TheFrame().SaveStore();
+  ParentFrame().SaveStore();
   return value;
 }
 
 std::optional<std::u16string> KeyScreen::Open(const OpenConstants&) {
-  return TheRooms().constants(this);
+  return Dialogs().constants(this);
 }
 
 Menu OfferedOf(const Menu& items, const std::function<bool(int)>& offered) {

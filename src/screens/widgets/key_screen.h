@@ -46,7 +46,7 @@ class KeyScreen : public Screen {
                 const std::function<void()>& takeDisplaySettings);
 
   // The dialogs that keys ask for; what they bring back.
-  const Rooms& TheRooms() const { return TheFrame().OpenRooms(); }
+  const ScreenDialogs& Dialogs() const { return ParentFrame().Dialogs(); }
   void Open(const OpenMacroEditor& request);
   std::optional<int> Open(const OpenMacroList& request);
   ConverterOutcome Open(const OpenConverter& request);

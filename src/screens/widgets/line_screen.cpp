@@ -95,7 +95,7 @@ void LineScreen::SaveAfterPainting(const std::function<void()>& save) {
   result_->repaint();
   QTimer::singleShot(0, this, [this, save] {
     save();
-    TheFrame().SaveStore();
+    ParentFrame().SaveStore();
   });
 }
 

@@ -66,7 +66,7 @@ class Screen : public QWidget {
   /// An empty pop-up menu of the screen's look, deleted once it is closed.
   QMenu* MakePopUp();
 
-  Frame& TheFrame() const { return frame_; }
+  Frame& ParentFrame() const { return frame_; }
 
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;

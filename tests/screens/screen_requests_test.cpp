@@ -9,10 +9,10 @@
 namespace kav::test {
 namespace {
 
-class ScreenRoomsTest : public ScientificScreen {
+class ScreenRequestsTest : public ScientificScreen {
  protected:
-  /// Opens the screen anew in a frame with the rooms that were set.
-  void OpenWithRooms() {
+  /// Opens the screen anew in a frame with the dialogs that were set.
+  void OpenAnew() {
     Open();
     dlg_->activateWindow();
   }
@@ -22,22 +22,22 @@ class ScreenRoomsTest : public ScientificScreen {
   }
 };
 
-Rooms AllFakeRooms() {
-  Rooms rooms;
-  rooms.displaySettings = [](QWidget*, DisplayPage) { return false; };
-  rooms.unitEditor = [](QWidget*) {};
-  rooms.macroEditor = [](QWidget*) {};
-  rooms.macroList = [](QWidget*) { return std::optional<int>(); };
-  rooms.converter = [](QWidget*, const ConverterInput& input) {
+ScreenDialogs FakeDialogs() {
+  ScreenDialogs dialogs;
+  dialogs.displaySettings = [](QWidget*, DisplayPage) { return false; };
+  dialogs.unitEditor = [](QWidget*) {};
+  dialogs.macroEditor = [](QWidget*) {};
+  dialogs.macroList = [](QWidget*) { return std::optional<int>(); };
+  dialogs.converter = [](QWidget*, const ConverterInput& input) {
     return ConverterOutcome{std::nullopt, input.positions, input.memory};
   };
-  rooms.storeVariable = [](QWidget*, const std::u16string&) {};
-  rooms.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
-  rooms.constants = [](QWidget*) { return std::optional<std::u16string>(); };
-  return rooms;
+  dialogs.storeVariable = [](QWidget*, const std::u16string&) {};
+  dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
+  dialogs.constants = [](QWidget*) { return std::optional<std::u16string>(); };
+  return dialogs;
 }
 
-TEST_F(ScreenRoomsTest, WithoutRoomsNothingThatNeedsOneIsOffered) {
+TEST_F(ScreenRequestsTest, WithoutDialogsNothingThatNeedsOneIsOffered) {
   EXPECT_EQ(Offered(MenuOf(*dlg_, u"&File")), (Texts{u"&About...", u"E&xit"}));
   EXPECT_EQ(MenuOf(*dlg_, u"&Mode"), nullptr);
   EXPECT_FALSE(FindKey(*dlg_, u"Mac")->isEnabled());
@@ -48,11 +48,11 @@ TEST_F(ScreenRoomsTest, WithoutRoomsNothingThatNeedsOneIsOffered) {
   QTest::keyClick(OpenMenu(), Qt::Key_Escape);
 }
 
-TEST_F(ScreenRoomsTest, WithAllRoomsEverythingIsOffered) {
-  frame_.rooms = AllFakeRooms();
+TEST_F(ScreenRequestsTest, EverythingIsOffered) {
+  frame_.dialogs = FakeDialogs();
   frame_.others = {{ScreenMode::Plotter, u"Function Plotter"},
                    {ScreenMode::Matrix, u"Matrix Calculator"}};
-  OpenWithRooms();
+  OpenAnew();
   EXPECT_EQ(Offered(MenuOf(*dlg_, u"&File")),
             (Texts{u"&About...", u"&Config...", u"Edit &Unit Convert", u"Edit &Macro", u"E&xit"}));
   EXPECT_EQ(Offered(MenuOf(*dlg_, u"&Mode")), (Texts{u"Function Plotter", u"Matrix Calculator"}));
@@ -65,27 +65,27 @@ TEST_F(ScreenRoomsTest, WithAllRoomsEverythingIsOffered) {
   QTest::keyClick(OpenMenu(), Qt::Key_Escape);
 }
 
-TEST_F(ScreenRoomsTest, TheMemoryMenuKeepsNoSeparatorWithoutEntriesOnBothSides) {
-  frame_.rooms.constants = AllFakeRooms().constants;
-  OpenWithRooms();
+TEST_F(ScreenRequestsTest, TheMemoryMenuKeepsNoSeparatorWithoutEntriesOnBothSides) {
+  frame_.dialogs.constants = FakeDialogs().constants;
+  OpenAnew();
   Tap(u"M/C");
   EXPECT_EQ(Offered(OpenMenu()), (Texts{u"Memory +", u"Memory -", u"Memory Recall", u"Memory Clear",
                                         u"-", u"Constants"}));
   QTest::keyClick(OpenMenu(), Qt::Key_Escape);
 }
 
-TEST_F(ScreenRoomsTest, TheModeMenuAsksTheFrameForAnotherScreen) {
+TEST_F(ScreenRequestsTest, TheModeMenuAsksTheFrameForAnotherScreen) {
   frame_.others = {{ScreenMode::Plotter, u"Function Plotter"}};
-  OpenWithRooms();
+  OpenAnew();
   ChooseFrom(*dlg_, u"&Mode", u"Function Plotter");
   EXPECT_EQ(frame_.modes, std::vector<ScreenMode>{ScreenMode::Plotter});
 }
 
-TEST_F(ScreenRoomsTest, MacWithoutMacrosSaysSoAndOpensTheEditor) {
+TEST_F(ScreenRequestsTest, MacWithoutMacrosSaysSoAndOpensTheEditor) {
   int opened = 0;
-  frame_.rooms = AllFakeRooms();
-  frame_.rooms.macroEditor = [&](QWidget*) { ++opened; };
-  OpenWithRooms();
+  frame_.dialogs = FakeDialogs();
+  frame_.dialogs.macroEditor = [&](QWidget*) { ++opened; };
+  OpenAnew();
   BoxWatch::Instance().Expect(QMessageBox::Ok);
   Tap(u"Mac");
   const auto seen = BoxWatch::Instance().TakeSeen();
@@ -96,12 +96,12 @@ TEST_F(ScreenRoomsTest, MacWithoutMacrosSaysSoAndOpensTheEditor) {
   EXPECT_EQ(dlg_->focusWidget(), &Expression(*dlg_));
 }
 
-TEST_F(ScreenRoomsTest, MacWritesTheCallOfTheMacroThatWasChosen) {
+TEST_F(ScreenRequestsTest, MacWritesTheCallOfTheMacroThatWasChosen) {
   StoreMacros(frame_.store, {{"F1", "TYPE1 : F(X)", "x^2"}, {"G", "TYPE2 : F(X,Y)", "x+y"}});
   std::optional<int> chosen = 0;
-  frame_.rooms = AllFakeRooms();
-  frame_.rooms.macroList = [&](QWidget*) { return chosen; };
-  OpenWithRooms();
+  frame_.dialogs = FakeDialogs();
+  frame_.dialogs.macroList = [&](QWidget*) { return chosen; };
+  OpenAnew();
   Tap(u"Mac");
   EXPECT_EQ(Line(), u"M:F1(| )");
   Type("3");
@@ -116,26 +116,26 @@ TEST_F(ScreenRoomsTest, MacWritesTheCallOfTheMacroThatWasChosen) {
   EXPECT_EQ(Line(), u"|");
 }
 
-TEST_F(ScreenRoomsTest, AMacroMadeInTheEditorIsThereAtOnce) {
-  frame_.rooms = AllFakeRooms();
-  frame_.rooms.macroEditor = [this](QWidget*) {
+TEST_F(ScreenRequestsTest, AMacroMadeInTheEditorIsThereAtOnce) {
+  frame_.dialogs = FakeDialogs();
+  frame_.dialogs.macroEditor = [this](QWidget*) {
     StoreMacros(frame_.store, {{"F1", "TYPE1 : F(X)", "x^2"}});
   };
-  frame_.rooms.macroList = [](QWidget*) { return std::optional<int>(0); };
-  OpenWithRooms();
+  frame_.dialogs.macroList = [](QWidget*) { return std::optional<int>(0); };
+  OpenAnew();
   ChooseFrom(*dlg_, u"&File", u"Edit &Macro");
   Tap(u"Mac");
   EXPECT_EQ(Line(), u"M:F1(| )");
 }
 
-TEST_F(ScreenRoomsTest, TheConverterGetsTheAnswerAndItsResultReplacesTheSelection) {
+TEST_F(ScreenRequestsTest, TheConverterGetsTheAnswerAndItsResultReplacesTheSelection) {
   ConverterInput given;
-  frame_.rooms = AllFakeRooms();
-  frame_.rooms.converter = [&](QWidget*, const ConverterInput& input) {
+  frame_.dialogs = FakeDialogs();
+  frame_.dialogs.converter = [&](QWidget*, const ConverterInput& input) {
     given = input;
     return ConverterOutcome{u"25.4", {1, 2, 3}, 7};
   };
-  OpenWithRooms();
+  OpenAnew();
   Tap(u"Cnv");
   EXPECT_EQ(given.value, u"1") << "an answer of 0 is handed over as 1";
   EXPECT_EQ(given.positions, (ConverterPositions{-1, -1, -1}));
@@ -148,12 +148,12 @@ TEST_F(ScreenRoomsTest, TheConverterGetsTheAnswerAndItsResultReplacesTheSelectio
   EXPECT_EQ(Line(), u"25.4|");
 }
 
-TEST_F(ScreenRoomsTest, AConverterThatIsCancelledStillLeavesItsPositionsAndTheMemory) {
-  frame_.rooms = AllFakeRooms();
-  frame_.rooms.converter = [&](QWidget*, const ConverterInput&) {
+TEST_F(ScreenRequestsTest, AConverterThatIsCancelledStillLeavesItsPositionsAndTheMemory) {
+  frame_.dialogs = FakeDialogs();
+  frame_.dialogs.converter = [&](QWidget*, const ConverterInput&) {
     return ConverterOutcome{std::nullopt, {4, 5, 6}, 8};
   };
-  OpenWithRooms();
+  OpenAnew();
   Tap(u"1 Cnv");
   EXPECT_EQ(Line(), u"1|");
   Tap(u"CLR M/C");
@@ -165,12 +165,14 @@ TEST_F(ScreenRoomsTest, AConverterThatIsCancelledStillLeavesItsPositionsAndTheMe
   EXPECT_EQ(frame_.store.Get(kConverterOutput), 6);
 }
 
-TEST_F(ScreenRoomsTest, MemoryVariablesAreStoredAndRecalledInFloatingPoint) {
+TEST_F(ScreenRequestsTest, MemoryVariablesAreStoredAndRecalledInFloatingPoint) {
   std::u16string stored;
-  frame_.rooms = AllFakeRooms();
-  frame_.rooms.storeVariable = [&](QWidget*, const std::u16string& value) { stored = value; };
-  frame_.rooms.recallVariable = [&](QWidget*) { return std::optional<std::u16string>(u"1234.5"); };
-  OpenWithRooms();
+  frame_.dialogs = FakeDialogs();
+  frame_.dialogs.storeVariable = [&](QWidget*, const std::u16string& value) { stored = value; };
+  frame_.dialogs.recallVariable = [&](QWidget*) {
+    return std::optional<std::u16string>(u"1234.5");
+  };
+  OpenAnew();
   Evaluate("1000*2");
   EXPECT_EQ(Answer(), u"2,000");
   Tap(u"M/C");
@@ -181,25 +183,27 @@ TEST_F(ScreenRoomsTest, MemoryVariablesAreStoredAndRecalledInFloatingPoint) {
   EXPECT_EQ(Line(), u"1234.5|");
 }
 
-TEST_F(ScreenRoomsTest, ConstantsAreInsertedAsTheyStand) {
-  frame_.rooms = AllFakeRooms();
-  frame_.rooms.constants = [](QWidget*) { return std::optional<std::u16string>(u"6.6260755E-34"); };
-  OpenWithRooms();
+TEST_F(ScreenRequestsTest, ConstantsAreInsertedAsTheyStand) {
+  frame_.dialogs = FakeDialogs();
+  frame_.dialogs.constants = [](QWidget*) {
+    return std::optional<std::u16string>(u"6.6260755E-34");
+  };
+  OpenAnew();
   Tap(u"M/C");
   Choose(u"Constants");
   EXPECT_EQ(Line(), u"6.6260755E-34|");
   EXPECT_TRUE(LineHasFocus());
 }
 
-TEST_F(ScreenRoomsTest, ConfigClosedWithOkShowsTheAnswerInTheNewFormat) {
+TEST_F(ScreenRequestsTest, ConfigClosedWithOkShowsTheAnswerInTheNewFormat) {
   bool isOk = false;
-  frame_.rooms = AllFakeRooms();
-  frame_.rooms.displaySettings = [&](QWidget*, DisplayPage) {
+  frame_.dialogs = FakeDialogs();
+  frame_.dialogs.displaySettings = [&](QWidget*, DisplayPage) {
     frame_.store.Set(kDisplayType, 1);
     frame_.store.Set(kPrecision, 2);
     return isOk;
   };
-  OpenWithRooms();
+  OpenAnew();
   Evaluate("3/8");
   Type("77");
   ChooseFrom(*dlg_, u"&File", u"&Config...");
@@ -210,7 +214,7 @@ TEST_F(ScreenRoomsTest, ConfigClosedWithOkShowsTheAnswerInTheNewFormat) {
   EXPECT_EQ(Line(), u"77|") << "what was typed meanwhile stays";
 }
 
-TEST_F(ScreenRoomsTest, AboutTellsNameAndVersion) {
+TEST_F(ScreenRequestsTest, AboutTellsNameAndVersion) {
   BoxWatch::Instance().Expect(QMessageBox::Ok);
   ChooseFrom(*dlg_, u"&File", u"&About...");
   const auto seen = BoxWatch::Instance().TakeSeen();
@@ -218,7 +222,7 @@ TEST_F(ScreenRoomsTest, AboutTellsNameAndVersion) {
   EXPECT_TRUE(ToQt(seen[0].text).startsWith("Kav Calculator 2.5"));
 }
 
-TEST_F(ScreenRoomsTest, ExitAsksTheFrameToEnd) {
+TEST_F(ScreenRequestsTest, ExitAsksTheFrameToEnd) {
   ChooseFrom(*dlg_, u"&File", u"E&xit");
   EXPECT_EQ(frame_.exits, 1);
 }
