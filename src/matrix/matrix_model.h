@@ -55,6 +55,7 @@ class MatrixModel {
   // The keys and the menus that they open.
   std::u16string_view Caption(MatrixKey key) const;
   bool IsEnabled(MatrixKey key) const;
+  static bool IsVisible(MatrixKey) { return true; }
   MatrixRequest Press(MatrixKey key);
   /// The menu that `key` opens now; empty for a key without one.
   Menu MenuOf(MatrixKey key) const;

@@ -124,11 +124,6 @@ TEST_F(MatrixDlgTest, MenusWriteFunctionsOperationsAndNames) {
   EXPECT_TRUE(LineHasFocus());
 }
 
-TEST_F(MatrixDlgTest, ToolsNeedTheirDialogs) {
-  Tap(u"Tools");
-  EXPECT_EQ(OpenMenu() == nullptr || Offered(OpenMenu()).empty(), true);
-}
-
 TEST_F(MatrixDlgTest, ToolsBringBackWhatTheirDialogsFound) {
   frame_.dialogs.constants = [](QWidget*) { return std::optional<std::u16string>(u"299792458"); };
   frame_.dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(u"1,5"); };

@@ -261,10 +261,6 @@ TEST_F(PlotterDlgTest, TheTwentyFirstEntryDropsTheOldest) {
   Key(Qt::Key_Escape);
 }
 
-TEST_F(PlotterDlgTest, WithoutAMacroListItsKeyIsOff) {
-  EXPECT_FALSE(IsOn(u"Mac"));
-}
-
 TEST_F(PlotterDlgTest, WithoutMacrosTheUserIsToldSo) {
   frame_.dialogs.macroList = [](QWidget*) -> std::optional<int> {
     ADD_FAILURE() << "the list was opened";

@@ -298,7 +298,8 @@ TEST_F(ScientificDlgTest, AfterAFailureTheMemoryOffersNothingThatTakesTheAnswer)
   Tap(u"=");
   EXPECT_EQ(Answer(), u"Expression is null.");
   Tap(u"M/C");
-  EXPECT_EQ(Offered(OpenMenu()), (Texts{u"Memory Recall", u"Memory Clear"}));
+  EXPECT_EQ(Offered(OpenMenu()),
+            (Texts{u"Memory Recall", u"Memory Clear", u"-", u"ReCall MemVar", u"-", u"Constants"}));
   QTest::keyClick(OpenMenu(), Qt::Key_Escape);
 }
 

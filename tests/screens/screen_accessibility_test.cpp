@@ -67,7 +67,7 @@ TEST_F(ScreenAccessibilityTest, TheActiveShiftKeySaysThatItIsOn) {
 }
 
 TEST_F(ScreenAccessibilityTest, DisabledKeysSaySo) {
-  EXPECT_TRUE(Buttons().at("Mac")->state().disabled);
+  EXPECT_TRUE(Buttons().at("PB")->state().disabled);
   EXPECT_FALSE(Buttons().at("SIN")->state().disabled);
 }
 

@@ -28,6 +28,22 @@ inline QString ToQt(std::u16string_view text) {
   return QStringView(text).toString();
 }
 
+/// Dialogs that the user closes at once.
+inline ScreenDialogs FakeDialogs() {
+  ScreenDialogs dialogs;
+  dialogs.displaySettings = [](QWidget*, DisplayPage) { return false; };
+  dialogs.unitEditor = [](QWidget*) {};
+  dialogs.macroEditor = [](QWidget*) {};
+  dialogs.macroList = [](QWidget*) { return std::optional<int>(); };
+  dialogs.converter = [](QWidget*, const ConverterInput& input) {
+    return ConverterOutcome{std::nullopt, input.positions, input.memory};
+  };
+  dialogs.storeVariable = [](QWidget*, const std::u16string&) {};
+  dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
+  dialogs.constants = [](QWidget*) { return std::optional<std::u16string>(); };
+  return dialogs;
+}
+
 /// A frame of which everything can be seen and set.
 class FakeFrame final : public Frame {
  public:
@@ -39,7 +55,7 @@ class FakeFrame final : public Frame {
   void Exit() override { ++exits; }
 
   MemorySettingsStore store;
-  ScreenDialogs dialogs;
+  ScreenDialogs dialogs = FakeDialogs();
   std::vector<ScreenChoice> others;
   int saves = 0;
   int exits = 0;

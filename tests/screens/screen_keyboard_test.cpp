@@ -163,8 +163,11 @@ TEST_F(ScreenKeyboardTest, ArrowsPassOverKeysThatAreDisabledAndLeadFromLineToKey
   EXPECT_EQ(FocusedKey(), "DEG");
   Key(Qt::Key_Down);
   EXPECT_EQ(FocusedKey(), "Shift");
+  Tap(u"DEC");
+  Choose(u"Octal");
+  Focus(u"7");
   Key(Qt::Key_Right);
-  EXPECT_EQ(FocusedKey(), "ABS()");  // "Mac" and "Cnv" have nothing to open here
+  EXPECT_EQ(FocusedKey(), "(");  // "8" and "9" are no digits of octal numbers
   Focus(u"CLR");
   Key(Qt::Key_Left);
   EXPECT_EQ(FocusedKey(), "DEL");  // "PB" has nothing to play back

@@ -1,4 +1,4 @@
-// The dialogs of other rooms: offered and carried out where they are there, not offered where not.
+// What the screen asks of its frame: other dialogs, and what they bring back.
 #include <gtest/gtest.h>
 
 #include "screens/box_watch.h"
@@ -11,7 +11,7 @@ namespace {
 
 class ScreenRequestsTest : public ScientificScreen {
  protected:
-  /// Opens the screen anew in a frame with the dialogs that were set.
+  /// Opens the screen anew in a frame as it was set.
   void OpenAnew() {
     Open();
     dlg_->activateWindow();
@@ -22,34 +22,7 @@ class ScreenRequestsTest : public ScientificScreen {
   }
 };
 
-ScreenDialogs FakeDialogs() {
-  ScreenDialogs dialogs;
-  dialogs.displaySettings = [](QWidget*, DisplayPage) { return false; };
-  dialogs.unitEditor = [](QWidget*) {};
-  dialogs.macroEditor = [](QWidget*) {};
-  dialogs.macroList = [](QWidget*) { return std::optional<int>(); };
-  dialogs.converter = [](QWidget*, const ConverterInput& input) {
-    return ConverterOutcome{std::nullopt, input.positions, input.memory};
-  };
-  dialogs.storeVariable = [](QWidget*, const std::u16string&) {};
-  dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
-  dialogs.constants = [](QWidget*) { return std::optional<std::u16string>(); };
-  return dialogs;
-}
-
-TEST_F(ScreenRequestsTest, WithoutDialogsNothingThatNeedsOneIsOffered) {
-  EXPECT_EQ(Offered(MenuOf(*dlg_, u"&File")), (Texts{u"&About...", u"E&xit"}));
-  EXPECT_EQ(MenuOf(*dlg_, u"&Mode"), nullptr);
-  EXPECT_FALSE(FindKey(*dlg_, u"Mac")->isEnabled());
-  EXPECT_FALSE(FindKey(*dlg_, u"Cnv")->isEnabled());
-  Tap(u"M/C");
-  EXPECT_EQ(Offered(OpenMenu()),
-            (Texts{u"Memory +", u"Memory -", u"Memory Recall", u"Memory Clear"}));
-  QTest::keyClick(OpenMenu(), Qt::Key_Escape);
-}
-
 TEST_F(ScreenRequestsTest, EverythingIsOffered) {
-  frame_.dialogs = FakeDialogs();
   frame_.others = {{ScreenMode::Plotter, u"Function Plotter"},
                    {ScreenMode::Matrix, u"Matrix Calculator"}};
   OpenAnew();
@@ -65,15 +38,6 @@ TEST_F(ScreenRequestsTest, EverythingIsOffered) {
   QTest::keyClick(OpenMenu(), Qt::Key_Escape);
 }
 
-TEST_F(ScreenRequestsTest, TheMemoryMenuKeepsNoSeparatorWithoutEntriesOnBothSides) {
-  frame_.dialogs.constants = FakeDialogs().constants;
-  OpenAnew();
-  Tap(u"M/C");
-  EXPECT_EQ(Offered(OpenMenu()), (Texts{u"Memory +", u"Memory -", u"Memory Recall", u"Memory Clear",
-                                        u"-", u"Constants"}));
-  QTest::keyClick(OpenMenu(), Qt::Key_Escape);
-}
-
 TEST_F(ScreenRequestsTest, TheModeMenuAsksTheFrameForAnotherScreen) {
   frame_.others = {{ScreenMode::Plotter, u"Function Plotter"}};
   OpenAnew();
@@ -83,7 +47,6 @@ TEST_F(ScreenRequestsTest, TheModeMenuAsksTheFrameForAnotherScreen) {
 
 TEST_F(ScreenRequestsTest, MacWithoutMacrosSaysSoAndOpensTheEditor) {
   int opened = 0;
-  frame_.dialogs = FakeDialogs();
   frame_.dialogs.macroEditor = [&](QWidget*) { ++opened; };
   OpenAnew();
   BoxWatch::Instance().Expect(QMessageBox::Ok);
@@ -99,7 +62,6 @@ TEST_F(ScreenRequestsTest, MacWithoutMacrosSaysSoAndOpensTheEditor) {
 TEST_F(ScreenRequestsTest, MacWritesTheCallOfTheMacroThatWasChosen) {
   StoreMacros(frame_.store, {{"F1", "TYPE1 : F(X)", "x^2"}, {"G", "TYPE2 : F(X,Y)", "x+y"}});
   std::optional<int> chosen = 0;
-  frame_.dialogs = FakeDialogs();
   frame_.dialogs.macroList = [&](QWidget*) { return chosen; };
   OpenAnew();
   Tap(u"Mac");
@@ -117,7 +79,6 @@ TEST_F(ScreenRequestsTest, MacWritesTheCallOfTheMacroThatWasChosen) {
 }
 
 TEST_F(ScreenRequestsTest, AMacroMadeInTheEditorIsThereAtOnce) {
-  frame_.dialogs = FakeDialogs();
   frame_.dialogs.macroEditor = [this](QWidget*) {
     StoreMacros(frame_.store, {{"F1", "TYPE1 : F(X)", "x^2"}});
   };
@@ -130,7 +91,6 @@ TEST_F(ScreenRequestsTest, AMacroMadeInTheEditorIsThereAtOnce) {
 
 TEST_F(ScreenRequestsTest, TheConverterGetsTheAnswerAndItsResultReplacesTheSelection) {
   ConverterInput given;
-  frame_.dialogs = FakeDialogs();
   frame_.dialogs.converter = [&](QWidget*, const ConverterInput& input) {
     given = input;
     return ConverterOutcome{u"25.4", {1, 2, 3}, 7};
@@ -149,7 +109,6 @@ TEST_F(ScreenRequestsTest, TheConverterGetsTheAnswerAndItsResultReplacesTheSelec
 }
 
 TEST_F(ScreenRequestsTest, AConverterThatIsCancelledStillLeavesItsPositionsAndTheMemory) {
-  frame_.dialogs = FakeDialogs();
   frame_.dialogs.converter = [&](QWidget*, const ConverterInput&) {
     return ConverterOutcome{std::nullopt, {4, 5, 6}, 8};
   };
@@ -167,7 +126,6 @@ TEST_F(ScreenRequestsTest, AConverterThatIsCancelledStillLeavesItsPositionsAndTh
 
 TEST_F(ScreenRequestsTest, MemoryVariablesAreStoredAndRecalledInFloatingPoint) {
   std::u16string stored;
-  frame_.dialogs = FakeDialogs();
   frame_.dialogs.storeVariable = [&](QWidget*, const std::u16string& value) { stored = value; };
   frame_.dialogs.recallVariable = [&](QWidget*) {
     return std::optional<std::u16string>(u"1234.5");
@@ -184,7 +142,6 @@ TEST_F(ScreenRequestsTest, MemoryVariablesAreStoredAndRecalledInFloatingPoint) {
 }
 
 TEST_F(ScreenRequestsTest, ConstantsAreInsertedAsTheyStand) {
-  frame_.dialogs = FakeDialogs();
   frame_.dialogs.constants = [](QWidget*) {
     return std::optional<std::u16string>(u"6.6260755E-34");
   };
@@ -197,7 +154,6 @@ TEST_F(ScreenRequestsTest, ConstantsAreInsertedAsTheyStand) {
 
 TEST_F(ScreenRequestsTest, ConfigClosedWithOkShowsTheAnswerInTheNewFormat) {
   bool isOk = false;
-  frame_.dialogs = FakeDialogs();
   frame_.dialogs.displaySettings = [&](QWidget*, DisplayPage) {
     frame_.store.Set(kDisplayType, 1);
     frame_.store.Set(kPrecision, 2);

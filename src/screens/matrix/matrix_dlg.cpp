@@ -12,12 +12,10 @@
 #include <variant>
 
 #include "line/line_texts.h"
-#include "matrix/matrix_menus.h"
 #include "matrix/matrix_texts.h"
 #include "screens/grid/grid_access_view.h"
 #include "screens/matrix/matrix_size_dlg.h"
 #include "screens/widgets/file_choice.h"
-#include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -94,8 +92,7 @@ class FillingTabs final : public QTabBar {
 }  // namespace
 
 CMatrixDlg::CMatrixDlg(Frame& frame)
-    : LineScreen(frame, QSize(kScreenWidth, kScreenHeight), KeySpots(),
-                 {static_cast<int>(MatrixKey::Equals), static_cast<int>(MatrixKey::Clear)}),
+    : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), KeySpots()),
       model_(frame.Store()),
       tabs_(new FillingTabs(this)),
       grid_(new CGridCtrl(this)) {
@@ -139,13 +136,10 @@ void CMatrixDlg::MakeGrid() {
   grid_->SetSource([this](GridCell cell) { return ContentOf(cell); });
 }
 
-void CMatrixDlg::OnKey(int key) {
+void CMatrixDlg::OnKey(MatrixKey key) {
   grid_->FinishEdit();
-  TakeLine();
-  CarryOut(model_.Press(static_cast<MatrixKey>(key)));
-  Refresh();
-  if (static_cast<MatrixKey>(key) == MatrixKey::Equals)
-    SaveAfterPainting([this] { model_.Save(); });
+  KeyScreenOf::OnKey(key);
+  if (key == MatrixKey::Equals) SaveAfterPainting([this] { model_.Save(); });
 }
 
 void CMatrixDlg::OnTab(int index) {
@@ -167,10 +161,7 @@ void CMatrixDlg::Refresh() {
 
 void CMatrixDlg::ShowMatrix() {
   Result().Show(model_.ResultText());
-  Keys().Refresh([this](int id) {
-    const auto key = static_cast<MatrixKey>(id);
-    return KeyState{model_.Caption(key), model_.IsEnabled(key), true};
-  });
+  RefreshKeys();
   {
     const QSignalBlocker quiet(tabs_);
     tabs_->setCurrentIndex(model_.Shown());
@@ -252,25 +243,10 @@ void CMatrixDlg::CarryOut(const MatrixRequest& request) {
   std::visit([this](const auto& what) { Do(what); }, request);
 }
 
-void CMatrixDlg::Do(const ShowMenu<MatrixKey>& request) {
-  const MatrixKey key = request.key;
-  PopUp(OfferedMenu(key), static_cast<int>(key),
-        [this, key](int id) { CarryOut(model_.Choose(key, id)); });
-}
-
-void CMatrixDlg::Do(const AskFirst<MatrixKey>& request) {
-  const bool clears = AskYesNo(this, request.question);
-  if (clears) ClearCells();
-}
-
 void CMatrixDlg::Do(const AskMatrixSize& request) {
   const auto size = RunMatrixSize(this, {request.rows, request.columns});
   if (size) model_.Resize(size->rows, size->columns);
-}
-
-void CMatrixDlg::Do(const TellStop& request) {
-  Refresh();  // The box may stand in front of the answer's tab.
-  ShowStop(this, request.text);
+  Refresh();
 }
 
 void CMatrixDlg::Do(const AskSaveFile&) {
@@ -286,47 +262,9 @@ void CMatrixDlg::Do(const AutofitColumns&) {
   TakeWidths();
 }
 
-void CMatrixDlg::Do(const OpenMacroEditor& request) {
-  Open(request);
-}
-
-void CMatrixDlg::Do(const OpenMacroList& request) {
-  if (const std::optional<int> index = Open(request)) model_.TakeMacro(*index);
-}
-
-void CMatrixDlg::Do(const OpenConverter& request) {
-  model_.TakeConverter(Open(request));
-}
-
-void CMatrixDlg::Do(const RecallMemoryVariable& request) {
-  if (const auto value = Open(request)) model_.TakeVariable(*value);
-}
-
-void CMatrixDlg::Do(const OpenConstants& request) {
-  if (const auto value = Open(request)) model_.TakeConstant(*value);
-}
-
 void CMatrixDlg::Tell(const std::optional<std::u16string>& failure) {
+  Refresh();
   if (failure) ShowStop(this, *failure);
-}
-
-Menu CMatrixDlg::OfferedMenu(MatrixKey key) const {
-  Menu items = model_.MenuOf(key);
-  if (key != MatrixKey::Tools) return items;
-  return OfferedOf(items, [&dialogs = Dialogs()](int id) {
-    switch (id) {
-      case tools_item::kConstants:
-        return static_cast<bool>(dialogs.constants);
-      case tools_item::kRecallVariable:
-        return static_cast<bool>(dialogs.recallVariable);
-      case tools_item::kConverter:
-        return static_cast<bool>(dialogs.converter);
-      case tools_item::kMacro:
-        return dialogs.macroList && dialogs.macroEditor;
-      default:
-        return true;
-    }
-  });
 }
 
 bool CMatrixDlg::eventFilter(QObject* watched, QEvent* event) {
@@ -356,7 +294,7 @@ bool CMatrixDlg::OnGridKey(const QKeyEvent& event) {
   };
   // Ahead of the grid, which would take it for the beginning of a cell.
   if (event.text() == u"=") {
-    OnKey(static_cast<int>(MatrixKey::Equals));
+    OnEquals();
     return true;
   }
   for (const EditKey& row : kEditKeys) {

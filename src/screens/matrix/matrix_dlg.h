@@ -17,35 +17,29 @@ namespace kav {
 
 /// Loads the settings when it is made and writes them into the frame's store when it is destroyed;
 /// after each "=" it also has them saved to disk.
-class CMatrixDlg final : public LineScreen {
+class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> {
  public:
   explicit CMatrixDlg(Frame& frame);
   ~CMatrixDlg() override;
 
  private:
-  void OnKey(int key) override;
+  void OnKey(MatrixKey key) override;
+  void OnEquals() override { OnKey(MatrixKey::Equals); }
+  void OnClear() override { OnKey(MatrixKey::Clear); }
   void OnTab(int index);
   void TakeLine() override;
   void Refresh() override;
   void LayOut(const DialogUnits& units) override;
 
   // What a key asks for.
-  void CarryOut(const MatrixRequest& request);
-  void Do(const Nothing&) {}
-  void Do(const ShowMenu<MatrixKey>& request);
-  void Do(const AskFirst<MatrixKey>& request);
+  using KeyScreenOf::Do;
+  void CarryOut(const MatrixRequest& request) override;
+  void OnYes(MatrixKey) override { ClearCells(); }
   void Do(const AskMatrixSize& request);
-  void Do(const TellStop& request);
   void Do(const AskSaveFile& request);
   void Do(const AskLoadFile& request);
   void Do(const AutofitColumns& request);
-  void Do(const OpenMacroEditor& request);
-  void Do(const OpenMacroList& request);
-  void Do(const OpenConverter& request);
-  void Do(const RecallMemoryVariable& request);
-  void Do(const OpenConstants& request);
   void Tell(const std::optional<std::u16string>& failure);
-  Menu OfferedMenu(MatrixKey key) const;
 
   // The grid.
   void MakeGrid();

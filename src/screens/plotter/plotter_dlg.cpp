@@ -66,7 +66,7 @@ std::vector<KeySpot> KeySpots() {
 }  // namespace
 
 CPlotterDlg::CPlotterDlg(Frame& frame)
-    : KeyScreen(frame, QSize(kScreenWidth, kScreenHeight)),
+    : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight)),
       model_(frame.Store()),
       input_(new EquationInputView(this)),
       list_(new QComboBox(this)),
@@ -120,15 +120,12 @@ void CPlotterDlg::OrderTabs() {
   for (std::size_t i = 1; i < round.size(); ++i) setTabOrder(round[i - 1], round[i]);
 }
 
-void CPlotterDlg::OnKey(int key) {
+void CPlotterDlg::OnKey(PlotterKey key) {
   TakeLine();
-  const PlotterRequest request = model_.Press(static_cast<PlotterKey>(key));
+  const PlotterRequest request = model_.Press(key);
   Refresh();
   // Before a graph is opened, which may stay for long.
-  if (static_cast<PlotterKey>(key) == PlotterKey::Add ||
-      static_cast<PlotterKey>(key) == PlotterKey::Plot) {
-    Save();
-  }
+  if (key == PlotterKey::Add || key == PlotterKey::Plot) Save();
   CarryOut(request);
 }
 
@@ -155,11 +152,7 @@ void CPlotterDlg::Refresh() {
   range_.Show(model_.Range());
   grid_->setChecked(model_.Options().hasGrid);
   line_->setChecked(model_.Options().hasLines);
-  Keys().Refresh([this](int id) {
-    const auto key = static_cast<PlotterKey>(id);
-    const bool isOffered = key != PlotterKey::Macro || Dialogs().macroList;
-    return KeyState{model_.Caption(key), model_.IsEnabled(key) && isOffered, model_.IsVisible(key)};
-  });
+  RefreshKeys();
   input_->setFocus();
 }
 
@@ -195,25 +188,13 @@ void CPlotterDlg::Do(const PlotterRefusal& request) {
   range_.Enter(*request.focus);
 }
 
-void CPlotterDlg::Do(const ShowMenu<PlotterKey>& request) {
-  PopUp(model_.MenuOf(request.key), static_cast<int>(request.key),
-        [this, key = request.key](int id) { model_.Choose(key, id); });
+void CPlotterDlg::OnYes(PlotterKey) {
+  model_.DeleteEquation();
+  Save();
 }
 
-void CPlotterDlg::Do(const AskFirst<PlotterKey>& request) {
-  if (AskYesNo(this, request.question)) {
-    model_.DeleteEquation();
-    Save();
-  }
-  Refresh();
-}
-
-void CPlotterDlg::Do(const TellStop& request) {
-  ShowStop(this, request.text);
-}
-
-void CPlotterDlg::Do(const OpenMacroList& request) {
-  const std::optional<int> index = Open(request);
+void CPlotterDlg::Do(const OpenMacroList&) {
+  const std::optional<int> index = Dialogs().macroList(this);
   const MacroStore macros(ParentFrame().Store());
   if (index && *index >= 0 && *index < macros.Count()) {
     model_.TakeMacro(Widen(macros.At(*index).formula));
@@ -250,12 +231,11 @@ void CPlotterDlg::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Enter: {
       const bool plots =
           range_.Has(focusWidget()) || (event->modifiers() & Qt::ControlModifier) != 0;
-      return plots ? OnKey(static_cast<int>(PlotterKey::Plot)) : OnEnter();
+      return plots ? OnKey(PlotterKey::Plot) : OnEnter();
     }
     case Qt::Key_Escape:
       // Out of a field one only goes back.
-      return range_.Has(focusWidget()) ? input_->setFocus()
-                                       : OnKey(static_cast<int>(PlotterKey::Clear));
+      return range_.Has(focusWidget()) ? input_->setFocus() : OnKey(PlotterKey::Clear);
     default:
       break;
   }

@@ -20,7 +20,7 @@ class EquationInputView;
 /// what changes the equations also has them saved to disk. Enter adds the input, with Ctrl it
 /// plots, as it does in a field of the range; what is typed goes to the input, unless a field has
 /// the focus.
-class CPlotterDlg final : public KeyScreen {
+class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
  public:
   explicit CPlotterDlg(Frame& frame);
   ~CPlotterDlg() override;
@@ -30,7 +30,7 @@ class CPlotterDlg final : public KeyScreen {
   void OrderTabs();
   QCheckBox* NewOptionBox(std::u16string_view caption, PlotterOption option);
 
-  void OnKey(int key) override;
+  void OnKey(PlotterKey key) override;
   void OnEnter();
   void TakeLine() override;
   void Refresh() override;
@@ -39,12 +39,10 @@ class CPlotterDlg final : public KeyScreen {
   void Save();
 
   // What a key asks for.
-  void CarryOut(const PlotterRequest& request);
-  void Do(const Nothing&) {}
+  using KeyScreenOf::Do;
+  void CarryOut(const PlotterRequest& request) override;
+  void OnYes(PlotterKey key) override;
   void Do(const PlotterRefusal& request);
-  void Do(const ShowMenu<PlotterKey>& request);
-  void Do(const AskFirst<PlotterKey>& request);
-  void Do(const TellStop& request);
   void Do(const OpenMacroList& request);
   void Do(const OpenGraph& request);
 

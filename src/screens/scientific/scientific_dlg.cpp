@@ -63,8 +63,7 @@ std::vector<KeySpot> KeySpots() {
 }  // namespace
 
 CScientificDlg::CScientificDlg(Frame& frame)
-    : LineScreen(frame, QSize(kScreenWidth, kScreenHeight), KeySpots(),
-                 {static_cast<int>(Key::Equals), static_cast<int>(Key::Clear)}),
+    : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), KeySpots()),
       model_(frame.Store()) {
   AddMenus(ScreenMode::Scientific, DisplayPage::Normal, [this] { model_.TakeDisplaySettings(); });
   CScientificDlg::Refresh();
@@ -74,11 +73,9 @@ CScientificDlg::~CScientificDlg() {
   model_.Save();
 }
 
-void CScientificDlg::OnKey(int key) {
-  TakeLine();
-  CarryOut(model_.Press(static_cast<Key>(key)));
-  Refresh();
-  if (static_cast<Key>(key) == Key::Equals) SaveAfterPainting([this] { model_.Save(); });
+void CScientificDlg::OnKey(Key key) {
+  KeyScreenOf::OnKey(key);
+  if (key == Key::Equals) SaveAfterPainting([this] { model_.Save(); });
 }
 
 void CScientificDlg::TakeLine() {
@@ -88,11 +85,7 @@ void CScientificDlg::TakeLine() {
 void CScientificDlg::Refresh() {
   WriteLine(Line(), model_.Line());
   Result().Show(model_.ResultText());
-  Keys().Refresh([this](int id) {
-    const Key key = static_cast<Key>(id);
-    return KeyState{model_.Caption(key), model_.IsEnabled(key) && IsOffered(key),
-                    model_.IsVisible(key)};
-  });
+  RefreshKeys();
   Line().setFocus();
 }
 
@@ -106,61 +99,6 @@ void CScientificDlg::LayOut(const DialogUnits& units) {
 
 void CScientificDlg::CarryOut(const ScientificRequest& request) {
   std::visit([this](const auto& what) { Do(what); }, request);
-}
-
-void CScientificDlg::Do(const ShowMenu<Key>& request) {
-  const Key key = request.key;
-  PopUp(key == Key::MemoryMenu ? OfferedMemoryMenu() : model_.MenuOf(key), key,
-        [this, key](int id) { CarryOut(model_.Choose(key, id)); });
-}
-
-void CScientificDlg::Do(const OpenMacroEditor& request) {
-  Open(request);
-}
-
-void CScientificDlg::Do(const OpenMacroList& request) {
-  if (const std::optional<int> index = Open(request)) model_.TakeMacro(*index);
-}
-
-void CScientificDlg::Do(const OpenConverter& request) {
-  model_.TakeConverter(Open(request));
-}
-
-void CScientificDlg::Do(const StoreMemoryVariable& request) {
-  Dialogs().storeVariable(this, request.value);
-  ParentFrame().SaveStore();
-}
-
-void CScientificDlg::Do(const RecallMemoryVariable& request) {
-  if (const auto value = Open(request)) model_.TakeVariable(*value);
-}
-
-void CScientificDlg::Do(const OpenConstants& request) {
-  if (const auto value = Open(request)) model_.TakeConstant(*value);
-}
-
-void CScientificDlg::PopUp(const Menu& items, Key key, const std::function<void(int)>& choose) {
-  LineScreen::PopUp(items, static_cast<int>(key), choose);
-}
-
-bool CScientificDlg::IsOffered(Key key) const {
-  if (key == Key::Macro) return Dialogs().macroList && Dialogs().macroEditor;
-  return key != Key::Converter || Dialogs().converter;
-}
-
-Menu CScientificDlg::OfferedMemoryMenu() const {
-  return OfferedOf(model_.MenuOf(Key::MemoryMenu), [&dialogs = Dialogs()](int id) {
-    switch (id) {
-      case memory_item::kRecallVariable:
-        return static_cast<bool>(dialogs.recallVariable);
-      case memory_item::kStoreVariable:
-        return static_cast<bool>(dialogs.storeVariable);
-      case memory_item::kConstants:
-        return static_cast<bool>(dialogs.constants);
-      default:
-        return true;
-    }
-  });
 }
 
 std::unique_ptr<QWidget> MakeScientificScreen(Frame& frame) {

@@ -84,7 +84,7 @@ StatisticsScreen::StatisticsScreen(Frame& frame, ScreenMode mode,
                                    std::unique_ptr<StatisticsModel> model,
                                    std::span<const DataColumn> columns,
                                    std::chrono::milliseconds patience)
-    : KeyScreen(frame, QSize(kScreenWidth, kScreenHeight)),
+    : KeyScreenOf(*model, frame, QSize(kScreenWidth, kScreenHeight)),
       model_(std::move(model)),
       patience_(patience),
       fields_(this, model_->Shape()),
@@ -104,16 +104,16 @@ void StatisticsScreen::SetTableHooks() {
   DataTableHooks hooks;
   hooks.selectionChanged = [this] { OnSelection(); };
   hooks.headingPressed = [this](std::size_t column) { OnHeading(column); };
-  hooks.edit = [this] { Press(StatisticsKey::Edit); };
-  hooks.remove = [this] { Press(StatisticsKey::Delete); };
+  hooks.edit = [this] { OnKey(StatisticsKey::Edit); };
+  hooks.remove = [this] { OnKey(StatisticsKey::Delete); };
   hooks.copy = [this] { CopyRows(); };
   hooks.paste = [this] { PasteRows(); };
   table_->SetHooks(std::move(hooks));
 }
 
-void StatisticsScreen::OnKey(int key) {
+void StatisticsScreen::OnKey(StatisticsKey key) {
   TakeLine();
-  const StatisticsRequest request = model_->Press(static_cast<StatisticsKey>(key));
+  const StatisticsRequest request = model_->Press(key);
   const bool goesToField =
       std::holds_alternative<FocusField>(request) || std::holds_alternative<FieldRefusal>(request);
   if (!goesToField) QGuiApplication::inputMethod()->hide();
@@ -128,7 +128,7 @@ void StatisticsScreen::OnHeading(std::size_t column) {
 
 void StatisticsScreen::OnSelection() {
   model_->Select(table_->FirstSelected());
-  ShowKeys();
+  RefreshKeys();
   QGuiApplication::inputMethod()->hide();
 }
 
@@ -143,15 +143,8 @@ void StatisticsScreen::Refresh() {
   table_->setEnabled(!model_->IsEditing());
   if (std::exchange(shown_, model_->Revision()) != model_->Revision()) table_->Reload();
   table_->Select(model_->Selected());
-  ShowKeys();
+  RefreshKeys();
   if (focusWidget() != table_) FocusLine(model_->FocusedField());
-}
-
-void StatisticsScreen::ShowKeys() {
-  Keys().Refresh([this](int id) {
-    const auto key = static_cast<StatisticsKey>(id);
-    return KeyState{model_->Caption(key), model_->IsEnabled(key), model_->IsVisible(key)};
-  });
 }
 
 void StatisticsScreen::LayOut(const DialogUnits& units) {
@@ -170,8 +163,7 @@ void StatisticsScreen::FocusLine(DataField field) {
   fields_.Line(field).setFocus();
 }
 
-void StatisticsScreen::Follow(const StatisticsRequest& request) {
-  Refresh();
+void StatisticsScreen::CarryOut(const StatisticsRequest& request) {
   std::visit([this](const auto& what) { Do(what); }, request);
 }
 
@@ -185,11 +177,8 @@ void StatisticsScreen::Do(const FocusField& request) {
   fields_.Line(request.field).selectAll();
 }
 
-void StatisticsScreen::Do(const AskFirst<StatisticsKey>& request) {
-  if (AskYesNo(this, request.question)) {
-    request.key == StatisticsKey::Delete ? model_->DeleteRow() : model_->ClearRows();
-  }
-  Refresh();
+void StatisticsScreen::OnYes(StatisticsKey key) {
+  key == StatisticsKey::Delete ? model_->DeleteRow() : model_->ClearRows();
 }
 
 void StatisticsScreen::Do(const AskSaveFile&) {
@@ -208,30 +197,8 @@ void StatisticsScreen::Do(const AskLoadFile& request) {
   table_->scrollToTop();
 }
 
-void StatisticsScreen::Do(const ShowMenu<StatisticsKey>& request) {
-  const StatisticsKey key = request.key;
-  Menu items = model_->MenuOf(key);
-  if (key == StatisticsKey::MemoryMenu) {
-    items = OfferedOf(items, [&dialogs = Dialogs()](int id) {
-      return id == variables_item::kStore ? static_cast<bool>(dialogs.storeVariable)
-                                          : static_cast<bool>(dialogs.recallVariable);
-    });
-  }
-  if (items.empty()) return;
-  PopUp(items, static_cast<int>(key), [this, key](int id) { Follow(model_->Choose(key, id)); });
-}
-
-void StatisticsScreen::Do(const TellStop& request) {
-  ShowStop(this, request.text);
-}
-
-void StatisticsScreen::Do(const StoreMemoryVariable& request) {
-  Dialogs().storeVariable(this, request.value);
-  ParentFrame().SaveStore();
-}
-
-void StatisticsScreen::Do(const RecallMemoryVariable& request) {
-  if (const auto value = Open(request)) Follow(model_->TakeVariable(*value));
+void StatisticsScreen::Do(const RecallMemoryVariable&) {
+  if (const auto value = RecallVariable()) Follow(model_->TakeVariable(*value));
 }
 
 void StatisticsScreen::Tell(const std::optional<std::u16string>& text) {
@@ -299,7 +266,7 @@ bool StatisticsScreen::eventFilter(QObject* watched, QEvent* event) {
 
 bool StatisticsScreen::OnFieldKey(const QKeyEvent& event) {
   if (IsEnter(event)) {
-    Press(model_->IsEditing() ? StatisticsKey::Ok : StatisticsKey::Add);
+    OnKey(model_->IsEditing() ? StatisticsKey::Ok : StatisticsKey::Add);
     return true;
   }
   // A field would write the letter of a key that is disabled and so does not answer to Alt.
@@ -307,7 +274,7 @@ bool StatisticsScreen::OnFieldKey(const QKeyEvent& event) {
 }
 
 void StatisticsScreen::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape && model_->IsEditing()) return Press(StatisticsKey::Cancel);
+  if (event->key() == Qt::Key_Escape && model_->IsEditing()) return OnKey(StatisticsKey::Cancel);
   if (MoveFocus(event->key())) return;
   if (fields_.FieldOf(focusWidget()) || !IsForField(*event)) {
     return KeyScreen::keyPressEvent(event);

@@ -23,7 +23,7 @@ namespace kav {
 /// goes to the field that had the focus last, unless the focused widget has a use for it. The Edit
 /// menu works on that field, on the list while that has the focus, or on what is selected of the
 /// result.
-class StatisticsScreen : public KeyScreen {
+class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
  public:
   /// A work on the list that takes longer than `patience` shows its progress.
   StatisticsScreen(Frame& frame, ScreenMode mode, std::unique_ptr<StatisticsModel> model,
@@ -32,38 +32,28 @@ class StatisticsScreen : public KeyScreen {
   void Leaving() override;
 
  protected:
-  /// The one that was handed over.
-  StatisticsModel& Model() const { return *model_; }
-
-  /// Opens what a key of one kind of screen alone asks for.
-  virtual void Open(const OpenGraph&) {}
-  using KeyScreen::Open;
+  using KeyScreenOf::Do;
+  /// Only one kind of screen has a graph.
+  virtual void Do(const OpenGraph&) {}
 
   void Refresh() override;
 
  private:
   void SetTableHooks();
-  void OnKey(int key) override;
-  void Press(StatisticsKey key) { OnKey(static_cast<int>(key)); }
+  void OnKey(StatisticsKey key) override;
   void OnHeading(std::size_t column);
   void OnSelection();
   void TakeLine() override;
-  void ShowKeys();
   void LayOut(const DialogUnits& units) override;
   void FocusLine(DataField field);
 
-  // What a key asks for, once the screen shows what it did.
-  void Follow(const StatisticsRequest& request);
-  void Do(const Nothing&) {}
+  // What a key asks for.
+  void CarryOut(const StatisticsRequest& request) override;
+  void OnYes(StatisticsKey key) override;
   void Do(const FieldRefusal& request);
   void Do(const FocusField& request);
-  void Do(const AskFirst<StatisticsKey>& request);
   void Do(const AskSaveFile& request);
   void Do(const AskLoadFile& request);
-  void Do(const ShowMenu<StatisticsKey>& request);
-  void Do(const OpenGraph& request) { Open(request); }
-  void Do(const TellStop& request);
-  void Do(const StoreMemoryVariable& request);
   void Do(const RecallMemoryVariable& request);
   using Work = std::function<std::optional<std::u16string>(const WorkProgress&)>;
   void Tell(const std::optional<std::u16string>& text);

@@ -4,6 +4,7 @@
 
 #include "screens/plotter/graph_view.h"
 #include "statistics/statistics_texts.h"
+#include "statistics/two_variable_model.h"
 
 namespace kav {
 namespace {
@@ -17,7 +18,7 @@ CTwoVariableDlg::CTwoVariableDlg(Frame& frame, std::chrono::milliseconds patienc
     : StatisticsScreen(frame, ScreenMode::TwoVariable,
                        std::make_unique<TwoVariableModel>(frame.Store()), kColumns, patience) {}
 
-void CTwoVariableDlg::Open(const OpenGraph& request) {
+void CTwoVariableDlg::Do(const OpenGraph& request) {
   RunGraphView(this, request.input);
 }
 

@@ -5,7 +5,6 @@
 #include <memory>
 
 #include "screens/statistics/statistics_screen_view.h"
-#include "statistics/two_variable_model.h"
 
 namespace kav {
 
@@ -16,7 +15,7 @@ class CTwoVariableDlg final : public StatisticsScreen {
   explicit CTwoVariableDlg(Frame& frame, std::chrono::milliseconds patience = kProgressPatience);
 
  private:
-  void Open(const OpenGraph& request) override;
+  void Do(const OpenGraph& request) override;
 };
 
 /// The screen as the frame's table of screens has it.

@@ -18,8 +18,8 @@ namespace kav {
 /// The calculating screens, by the numbers of the settings.
 enum class ScreenMode { Scientific = 1, Plotter = 2, OneVariable = 3, TwoVariable = 4, Matrix = 5 };
 
-/// The dialogs that screens open, each a function that returns once its dialog is closed; empty
-/// where this build has no such dialog, and then nothing that needs it is offered.
+/// The dialogs that screens open: each function returns when its dialog is closed. `parent` is the
+/// screen that opens it.
 struct ScreenDialogs {
   /// Opens with `first`; whether it was closed with OK.
   std::function<bool(QWidget* parent, DisplayPage first)> displaySettings;

@@ -7,8 +7,6 @@
 #include <array>
 #include <utility>
 
-#include "screens/widgets/message_box.h"
-
 namespace kav {
 namespace {
 
@@ -22,7 +20,7 @@ QString LabelOf(const std::u16string& text) {
 }  // namespace
 
 void KeyScreen::AddKeys(std::vector<KeySpot> keys) {
-  keys_ = new KeySheet(this, std::move(keys), [this](int key) { OnKey(key); });
+  keys_ = new KeySheet(this, std::move(keys), [this](int key) { OnKeyNumber(key); });
   keys_->lower();
 }
 
@@ -34,10 +32,7 @@ void KeyScreen::PopUp(const Menu& items, int key, const std::function<void(int)>
       continue;
     }
     connect(menu->addAction(LabelOf(item.text)), &QAction::triggered, this,
-            [this, choose, id = item.id] {
-              choose(id);
-              Refresh();
-            });
+            [choose, id = item.id] { choose(id); });
   }
   const QRect below = keys_->KeyArea(key);
   menu->popup(mapToGlobal(QPoint(below.left(), below.bottom() + 1)));
@@ -49,12 +44,9 @@ void KeyScreen::PopUp(const Menu& items, int key, const std::function<void(int)>
 void KeyScreen::AddMenus(ScreenMode mode, DisplayPage page,
                          const std::function<void()>& takeDisplaySettings) {
   const ScreenDialogs& dialogs = Dialogs();
-  std::function<void(QWidget*)> config;
-  if (dialogs.displaySettings) {
-    config = [this, page, takeDisplaySettings](QWidget* parent) {
-      if (Dialogs().displaySettings(parent, page)) takeDisplaySettings();
-    };
-  }
+  const auto config = [this, page, takeDisplaySettings](QWidget* parent) {
+    if (Dialogs().displaySettings(parent, page)) takeDisplaySettings();
+  };
   AddFileMenu({Opening(config), Opening(dialogs.unitEditor), Opening(dialogs.macroEditor)});
   AddEditMenu({[this](EditCommand command) { Edit(command); },
                [this](EditCommand command) { return CanEdit(command); }});
@@ -62,7 +54,6 @@ void KeyScreen::AddMenus(ScreenMode mode, DisplayPage page,
 }
 
 std::function<void()> KeyScreen::Opening(const std::function<void(QWidget*)>& open) {
-  if (!open) return nullptr;
   return [this, open] {
     TakeLine();
     open(this);
@@ -71,42 +62,27 @@ std::function<void()> KeyScreen::Opening(const std::function<void(QWidget*)>& op
   };
 }
 
-void KeyScreen::Open(const OpenMacroEditor& request) {
+void KeyScreen::Do(const TellStop& request) {
+  ShowStop(this, request.text);
+}
+
+void KeyScreen::Do(const OpenMacroEditor& request) {
   if (!request.message.empty()) ShowStop(this, request.message);
   Dialogs().macroEditor(this);
   ParentFrame().SaveStore();
+  Refresh();
 }
 
-std::optional<int> KeyScreen::Open(const OpenMacroList&) {
-  return Dialogs().macroList(this);
-}
-
-ConverterOutcome KeyScreen::Open(const OpenConverter& request) {
-  ConverterOutcome outcome = Dialogs().converter(this, request.input);
+void KeyScreen::Do(const StoreMemoryVariable& request) {
+  Dialogs().storeVariable(this, request.value);
   ParentFrame().SaveStore();
-  return outcome;
 }
 
-std::optional<std::u16string> KeyScreen::Open(const RecallMemoryVariable&) {
+std::optional<std::u16string> KeyScreen::RecallVariable() {
   auto value = Dialogs().recallVariable(this);
   // Variables may have been cleared in it as well.
   ParentFrame().SaveStore();
   return value;
-}
-
-std::optional<std::u16string> KeyScreen::Open(const OpenConstants&) {
-  return Dialogs().constants(this);
-}
-
-Menu OfferedOf(const Menu& items, const std::function<bool(int)>& offered) {
-  Menu rest;
-  for (const MenuItem& item : items) {
-    if (!item.IsSeparator() && !offered(item.id)) continue;
-    if (item.IsSeparator() && (rest.empty() || rest.back().IsSeparator())) continue;
-    rest.push_back(item);
-  }
-  if (!rest.empty() && rest.back().IsSeparator()) rest.pop_back();
-  return rest;
 }
 
 bool IsTyping(const QKeyEvent& event) {

@@ -1,29 +1,29 @@
-// A screen with keys that edit an expression.
+// A screen with keys.
 #pragma once
 
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "display/display_settings_model.h"
 #include "line/key_request.h"
 #include "line/screen_menus.h"
 #include "screens/widgets/key_sheet.h"
+#include "screens/widgets/message_box.h"
 #include "screens/widgets/screen.h"
 
 namespace kav {
 
-/// The keys, the pop-up menus below them, the menus of the menu bar, and the dialogs that keys ask
-/// for.
+/// The keys, the pop-up menus below them, the menus of the menu bar, and the dialogs that the keys
+/// of several screens ask for. It knows a key by its number; screens derive from KeyScreenOf.
 class KeyScreen : public Screen {
  public:
   /// `size` is that of the body in dialog units.
   KeyScreen(Frame& frame, QSize size) : Screen(frame, size) {}
 
  protected:
-  /// A key was pressed.
-  virtual void OnKey(int key) = 0;
   /// Hands what was typed into the widgets to the model.
   virtual void TakeLine() = 0;
   /// Shows what the model holds.
@@ -36,8 +36,7 @@ class KeyScreen : public Screen {
   void AddKeys(std::vector<KeySpot> keys);
   KeySheet& Keys() const { return *keys_; }
 
-  /// Opens `items` below `key`; once one is chosen, `choose` is called with its id, and all is
-  /// refreshed.
+  /// Opens `items` below the key of that number; `choose` is called with the id of the chosen one.
   void PopUp(const Menu& items, int key, const std::function<void(int)>& choose);
 
   /// The File, Edit and Mode menus of the screen `mode`; `page` of the display settings opens
@@ -45,22 +44,90 @@ class KeyScreen : public Screen {
   void AddMenus(ScreenMode mode, DisplayPage page,
                 const std::function<void()>& takeDisplaySettings);
 
-  // The dialogs that keys ask for; what they bring back.
   const ScreenDialogs& Dialogs() const { return ParentFrame().Dialogs(); }
-  void Open(const OpenMacroEditor& request);
-  std::optional<int> Open(const OpenMacroList& request);
-  ConverterOutcome Open(const OpenConverter& request);
-  std::optional<std::u16string> Open(const RecallMemoryVariable& request);
-  std::optional<std::u16string> Open(const OpenConstants& request);
+
+  // What keys ask for, as far as nothing comes back.
+  void Do(const Nothing&) {}
+  void Do(const TellStop& request);
+  void Do(const OpenMacroEditor& request);
+  void Do(const StoreMemoryVariable& request);
+  /// The text of the variable that the user chose.
+  std::optional<std::u16string> RecallVariable();
 
  private:
+  virtual void OnKeyNumber(int key) = 0;
   std::function<void()> Opening(const std::function<void(QWidget*)>& open);
 
   KeySheet* keys_ = nullptr;
 };
 
-/// `items` without those that are not `offered`, and without separators that then separate nothing.
-Menu OfferedOf(const Menu& items, const std::function<bool(int)>& offered);
+/// A KeyScreen, or one of its kinds (`Base`), as the picture of a `Model` that has a `Key` for each
+/// of its keys: hands over what is tapped, and carries out what the model asks for.
+template <class Key, class Model, class Base = KeyScreen>
+class KeyScreenOf : public Base {
+ protected:
+  using Request = decltype(std::declval<Model&>().Press(Key()));
+  using Base::Do;
+
+  /// The model may be a member of the class that derives from this one. `rest` is for Base.
+  template <class... Rest>
+  explicit KeyScreenOf(Model& model, Rest&&... rest)
+      : Base(std::forward<Rest>(rest)...), model_(model) {}
+
+  /// A key was pressed.
+  virtual void OnKey(Key key) {
+    this->TakeLine();
+    Follow(model_.Press(key));
+  }
+  /// Shows what the model did, and then carries out what it asks for.
+  void Follow(const Request& request) {
+    this->Refresh();
+    CarryOut(request);
+  }
+  /// Calls the Do for what `request` holds.
+  virtual void CarryOut(const Request& request) = 0;
+  /// The question that `key` raises was answered with Yes.
+  virtual void OnYes(Key) {}
+
+  void RefreshKeys() {
+    this->Keys().Refresh([this](int number) {
+      const Key key = static_cast<Key>(number);
+      return KeyState{model_.Caption(key), model_.IsEnabled(key), model_.IsVisible(key)};
+    });
+  }
+
+  void Do(const ShowMenu<Key>& request) {
+    this->PopUp(model_.MenuOf(request.key), static_cast<int>(request.key),
+                [this, key = request.key](int id) { Follow(model_.Choose(key, id)); });
+  }
+  void Do(const AskFirst<Key>& request) {
+    if (AskYesNo(this, request.question)) OnYes(request.key);
+    this->Refresh();
+  }
+  void Do(const OpenMacroList&) {
+    if (const auto index = this->Dialogs().macroList(this)) model_.TakeMacro(*index);
+    this->Refresh();
+  }
+  void Do(const OpenConverter& request) {
+    const ConverterOutcome outcome = this->Dialogs().converter(this, request.input);
+    this->ParentFrame().SaveStore();
+    model_.TakeConverter(outcome);
+    this->Refresh();
+  }
+  void Do(const RecallMemoryVariable&) {
+    if (const auto value = this->RecallVariable()) model_.TakeVariable(*value);
+    this->Refresh();
+  }
+  void Do(const OpenConstants&) {
+    if (const auto value = this->Dialogs().constants(this)) model_.TakeConstant(*value);
+    this->Refresh();
+  }
+
+ private:
+  void OnKeyNumber(int key) final { OnKey(static_cast<Key>(key)); }
+
+  Model& model_;
+};
 
 /// Whether `event` types into a line or edits it, and so is of use to one that does not have the
 /// focus.

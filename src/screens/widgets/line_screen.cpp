@@ -19,11 +19,8 @@ bool IsReturn(const QFocusEvent& event) {
 
 }  // namespace
 
-LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, KeyboardKeys keyboard)
-    : KeyScreen(frame, size),
-      keyboard_(keyboard),
-      line_(new LineView(this)),
-      result_(new ResultView(this)) {
+LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys)
+    : KeyScreen(frame, size), line_(new LineView(this)), result_(new ResultView(this)) {
   line_->setAccessibleName(ToQt(kExpressionName));
   line_->setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
   line_->installEventFilter(this);
@@ -31,17 +28,15 @@ LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, Keyb
   AddKeys(std::move(keys));
 }
 
-std::optional<int> LineScreen::KeyOf(const QKeyEvent& event) const {
-  if (event.text() == u"=") return keyboard_.equals;
-  switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return keyboard_.equals;
-    case Qt::Key_Escape:
-      return keyboard_.clear;
-    default:
-      return std::nullopt;
+/// Presses the key of the screen that `event` stands for; whether there is one.
+bool LineScreen::PressKeyOf(const QKeyEvent& event) {
+  if (event.text() == u"=" || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
+    OnEquals();
+    return true;
   }
+  if (event.key() != Qt::Key_Escape) return false;
+  OnClear();
+  return true;
 }
 
 bool LineScreen::eventFilter(QObject* watched, QEvent* event) {
@@ -49,13 +44,11 @@ bool LineScreen::eventFilter(QObject* watched, QEvent* event) {
     // Ahead of the line, which would write the "=" and knows Enter and Esc in its own way. It would
     // also write the letter of a key that is disabled and so does not answer to Alt.
     const auto& pressed = *static_cast<QKeyEvent*>(event);
-    const std::optional<int> key = KeyOf(pressed);
-    if (key) OnKey(*key);
-    return key.has_value() || pressed.modifiers() == Qt::AltModifier;
+    return PressKeyOf(pressed) || pressed.modifiers() == Qt::AltModifier;
   }
   if (event->type() == QEvent::InputMethod &&
       static_cast<QInputMethodEvent*>(event)->commitString() == u"=") {
-    OnKey(keyboard_.equals);
+    OnEquals();
     return true;
   }
   // Whoever comes back to the line has done with the result. (From a menu one only returns.)
@@ -66,7 +59,7 @@ bool LineScreen::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void LineScreen::keyPressEvent(QKeyEvent* event) {
-  if (const std::optional<int> key = KeyOf(*event)) return OnKey(*key);
+  if (PressKeyOf(*event)) return;
   if (focusWidget() == line_) {
     if (event->key() == Qt::Key_Down) return Keys().Enter();
     return KeyScreen::keyPressEvent(event);

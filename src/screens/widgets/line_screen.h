@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <vector>
 
 #include "screens/widgets/key_screen.h"
@@ -15,13 +14,7 @@ namespace kav {
 /// works on the result where some of it is selected, else on the line.
 class LineScreen : public KeyScreen {
  public:
-  /// The ids of the keys that the keyboard presses.
-  struct KeyboardKeys {
-    int equals;
-    int clear;
-  };
-
-  LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, KeyboardKeys keyboard);
+  LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys);
 
  protected:
   LineView& Line() const { return *line_; }
@@ -34,14 +27,17 @@ class LineScreen : public KeyScreen {
   /// disk.
   void SaveAfterPainting(const std::function<void()>& save);
 
+  // What the keyboard presses.
+  virtual void OnEquals() = 0;
+  virtual void OnClear() = 0;
+
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  std::optional<int> KeyOf(const QKeyEvent& event) const;
+  bool PressKeyOf(const QKeyEvent& event);
   QLineEdit& Edited() const;
 
-  KeyboardKeys keyboard_;
   LineView* line_;
   ResultView* result_;
 };

@@ -88,13 +88,9 @@ Screen::Screen(Frame& frame, QSize size)
 }
 
 void Screen::AddMenu(std::u16string_view title, const std::vector<MenuEntry>& entries) {
-  QMenu* menu = nullptr;
-  for (const MenuEntry& entry : entries) {
-    if (!entry.action) continue;
-    if (menu == nullptr) menu = menuBar_->addMenu(ToQt(title));
-    AddAction(menu, entry);
-  }
-  if (menu == nullptr) return;
+  if (entries.empty()) return;
+  QMenu* menu = menuBar_->addMenu(ToQt(title));
+  for (const MenuEntry& entry : entries) AddAction(menu, entry);
   connect(menu, &QMenu::aboutToShow, menu, [this, menu] { Dress(menu); });
 }
 

@@ -17,7 +17,7 @@ namespace kav {
 
 class BottomMenuBar;
 
-/// An entry of a menu; one without an action is not offered.
+/// An entry of a menu.
 struct MenuEntry {
   std::u16string_view text;
   std::function<void()> action;
@@ -25,7 +25,7 @@ struct MenuEntry {
   std::function<bool()> isEnabled = {};  ///< asked each time the menu opens; empty: always
 };
 
-/// What the File menu of a screen offers besides "About..." and "Exit": actions, empty for none.
+/// What the File menu of a screen does besides "About..." and "Exit".
 struct FileCommands {
   std::function<void()> config;
   std::function<void()> editUnits;
@@ -57,7 +57,7 @@ class Screen : public QWidget {
   /// Called whenever the body has a new size: places everything on it.
   virtual void LayOut(const DialogUnits& units) = 0;
 
-  /// A menu of those entries that have an action; no menu where none has.
+  /// No menu if there are no entries.
   void AddMenu(std::u16string_view title, const std::vector<MenuEntry>& entries);
   void AddFileMenu(const FileCommands& commands);
   void AddEditMenu(const EditHooks& hooks);
