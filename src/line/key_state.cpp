@@ -1,5 +1,8 @@
 #include "line/key_state.h"
 
+#include "line/line_texts.h"
+#include "line/screen_menus.h"
+
 namespace kav {
 namespace {
 
@@ -57,10 +60,24 @@ constexpr bool IsDigitAllowed(Key key, BaseMode base) {
 
 const KeyFace& FaceShown(Key key, BaseMode base, ShiftState shift) {
   if (base != BaseMode::Decimal) {
-    const KeyFace& face = FaceOf(key, Face::Base);
-    if (face.face == Face::Base) return face;
+    if (const KeyFace* face = FindFace(key, Face::Base)) return *face;
   }
   return FaceOf(key, shift == ShiftState::On ? Face::Shifted : Face::Plain);
+}
+
+std::vector<std::u16string_view> CaptionsOf(const KeyPlace& place) {
+  if (place.key == Key::Deg) return {kDegreesCaption, kRadiansCaption};
+  std::vector<std::u16string_view> captions;
+  if (place.key == Key::Dec) {
+    for (const MenuItem& item : BuildBaseMenu()) {
+      captions.push_back(BaseCaption(*BaseOfItem(item.id)));
+    }
+    return captions;
+  }
+  for (const Face face : {Face::Plain, Face::Shifted, Face::Base}) {
+    if (const KeyFace* shown = FindFace(place.key, face)) captions.push_back(shown->caption);
+  }
+  return captions;
 }
 
 bool IsKeyVisible(Key key, BaseMode base, ShiftState shift) {

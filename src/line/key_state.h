@@ -2,6 +2,9 @@
 // and pressed.
 #pragma once
 
+#include <string_view>
+#include <vector>
+
 #include "engine/calc_modes.h"
 #include "line/keypad.h"
 
@@ -13,6 +16,9 @@ enum class ShiftState { Off = 0, On = 1 };
 /// The face that `key` shows. The base goes before Shift: a logic operator hides the second
 /// function.
 const KeyFace& FaceShown(Key key, BaseMode base, ShiftState shift);
+
+/// Every caption that a key may ever show.
+std::vector<std::u16string_view> CaptionsOf(const KeyPlace& place);
 
 /// Each place shows one key: one of the two Shift keys, and in hexadecimal the digits A to F
 /// instead of six functions.

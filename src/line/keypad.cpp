@@ -12,69 +12,69 @@ constexpr std::u16string_view kClose = u")";
 
 // clang-format off
 constexpr std::array kPlaces{
-    KeyPlace{Key::Deg,           3,  34, 20, KeyColour::Mode},
-    KeyPlace{Key::Dec,          26,  34, 19, KeyColour::Mode},
-    KeyPlace{Key::Backspace,    47,  34, 19, KeyColour::Editing},
-    KeyPlace{Key::Delete,       68,  34, 20, KeyColour::Editing},
-    KeyPlace{Key::PlayBack,     90,  34, 19, KeyColour::Editing},
-    KeyPlace{Key::Clear,       111,  34, 22, KeyColour::Editing},
+    KeyPlace{Key::Deg,          KeyAt(  3,  34, 20), KeyColour::Mode, "Alt+D"},
+    KeyPlace{Key::Dec,          KeyAt( 26,  34, 19), KeyColour::Mode, "Alt+B"},
+    KeyPlace{Key::Backspace,    KeyAt( 47,  34, 19), KeyColour::Editing},
+    KeyPlace{Key::Delete,       KeyAt( 68,  34, 20), KeyColour::Editing},
+    KeyPlace{Key::PlayBack,     KeyAt( 90,  34, 19), KeyColour::Editing, "Alt+P"},
+    KeyPlace{Key::Clear,        KeyAt(111,  34, 22), KeyColour::Editing},
 
-    KeyPlace{Key::Shift,         3,  61, 24, KeyColour::Orange},
-    KeyPlace{Key::ShiftActive,   3,  61, 24, KeyColour::ActiveShift},
-    KeyPlace{Key::Macro,        29,  61, 24, KeyColour::Orange},
-    KeyPlace{Key::Converter,    55,  61, 25, KeyColour::Orange},
-    KeyPlace{Key::Abs,          82,  61, 24, KeyColour::Function},
-    KeyPlace{Key::MemoryMenu,  108,  61, 24, KeyColour::Orange},
+    KeyPlace{Key::Shift,        KeyAt(  3,  61, 24), KeyColour::Orange, "Alt+S"},
+    KeyPlace{Key::ShiftActive,  KeyAt(  3,  61, 24), KeyColour::ActiveShift, "Alt+S", kShiftIsOn},
+    KeyPlace{Key::Macro,        KeyAt( 29,  61, 24), KeyColour::Orange, "Alt+A"},
+    KeyPlace{Key::Converter,    KeyAt( 55,  61, 25), KeyColour::Orange, "Alt+N"},
+    KeyPlace{Key::Abs,          KeyAt( 82,  61, 24), KeyColour::Function},
+    KeyPlace{Key::MemoryMenu,   KeyAt(108,  61, 24), KeyColour::Orange, "Alt+C"},
 
-    KeyPlace{Key::Sin,           3,  72, 24, KeyColour::Function},
-    KeyPlace{Key::Cos,          29,  72, 24, KeyColour::Function},
-    KeyPlace{Key::Tan,          55,  72, 25, KeyColour::Function},
-    KeyPlace{Key::Pi,           82,  72, 24, KeyColour::Function},
-    KeyPlace{Key::Ncr,         108,  72, 24, KeyColour::Function},
+    KeyPlace{Key::Sin,          KeyAt(  3,  72, 24), KeyColour::Function},
+    KeyPlace{Key::Cos,          KeyAt( 29,  72, 24), KeyColour::Function},
+    KeyPlace{Key::Tan,          KeyAt( 55,  72, 25), KeyColour::Function},
+    KeyPlace{Key::Pi,           KeyAt( 82,  72, 24), KeyColour::Function},
+    KeyPlace{Key::Ncr,          KeyAt(108,  72, 24), KeyColour::Function},
 
-    KeyPlace{Key::Sinh,          3,  83, 24, KeyColour::Function},
-    KeyPlace{Key::Cosh,         29,  83, 24, KeyColour::Function},
-    KeyPlace{Key::Tanh,         55,  83, 25, KeyColour::Function},
-    KeyPlace{Key::Log,          82,  83, 24, KeyColour::Function},
-    KeyPlace{Key::Ln,          108,  83, 24, KeyColour::Function},
+    KeyPlace{Key::Sinh,         KeyAt(  3,  83, 24), KeyColour::Function},
+    KeyPlace{Key::Cosh,         KeyAt( 29,  83, 24), KeyColour::Function},
+    KeyPlace{Key::Tanh,         KeyAt( 55,  83, 25), KeyColour::Function},
+    KeyPlace{Key::Log,          KeyAt( 82,  83, 24), KeyColour::Function},
+    KeyPlace{Key::Ln,           KeyAt(108,  83, 24), KeyColour::Function},
 
-    KeyPlace{Key::Sqrt,          3,  94, 24, KeyColour::Function},
-    KeyPlace{Key::Square,       29,  94, 24, KeyColour::Function},
-    KeyPlace{Key::Power,        55,  94, 25, KeyColour::Function},
-    KeyPlace{Key::Percent,      82,  94, 24, KeyColour::Function},
-    KeyPlace{Key::Parentheses, 108,  94, 24, KeyColour::Function},
+    KeyPlace{Key::Sqrt,         KeyAt(  3,  94, 24), KeyColour::Function},
+    KeyPlace{Key::Square,       KeyAt( 29,  94, 24), KeyColour::Function},
+    KeyPlace{Key::Power,        KeyAt( 55,  94, 25), KeyColour::Function},
+    KeyPlace{Key::Percent,      KeyAt( 82,  94, 24), KeyColour::Function},
+    KeyPlace{Key::Parentheses,  KeyAt(108,  94, 24), KeyColour::Function},
 
-    KeyPlace{Key::Seven,         3, 107, 24, KeyColour::Digit},
-    KeyPlace{Key::Eight,        29, 107, 24, KeyColour::Digit},
-    KeyPlace{Key::Nine,         55, 107, 25, KeyColour::Digit},
-    KeyPlace{Key::Open,         82, 107, 24, KeyColour::Function},
-    KeyPlace{Key::Close,       108, 107, 24, KeyColour::Function},
+    KeyPlace{Key::Seven,        KeyAt(  3, 107, 24), KeyColour::Digit},
+    KeyPlace{Key::Eight,        KeyAt( 29, 107, 24), KeyColour::Digit},
+    KeyPlace{Key::Nine,         KeyAt( 55, 107, 25), KeyColour::Digit},
+    KeyPlace{Key::Open,         KeyAt( 82, 107, 24), KeyColour::Function},
+    KeyPlace{Key::Close,        KeyAt(108, 107, 24), KeyColour::Function},
 
-    KeyPlace{Key::Four,          3, 118, 24, KeyColour::Digit},
-    KeyPlace{Key::Five,         29, 118, 24, KeyColour::Digit},
-    KeyPlace{Key::Six,          55, 118, 25, KeyColour::Digit},
-    KeyPlace{Key::Multiply,     82, 118, 24, KeyColour::Function},
-    KeyPlace{Key::Divide,      108, 118, 24, KeyColour::Function},
+    KeyPlace{Key::Four,         KeyAt(  3, 118, 24), KeyColour::Digit},
+    KeyPlace{Key::Five,         KeyAt( 29, 118, 24), KeyColour::Digit},
+    KeyPlace{Key::Six,          KeyAt( 55, 118, 25), KeyColour::Digit},
+    KeyPlace{Key::Multiply,     KeyAt( 82, 118, 24), KeyColour::Function},
+    KeyPlace{Key::Divide,       KeyAt(108, 118, 24), KeyColour::Function},
 
-    KeyPlace{Key::One,           3, 129, 24, KeyColour::Digit},
-    KeyPlace{Key::Two,          29, 129, 24, KeyColour::Digit},
-    KeyPlace{Key::Three,        55, 129, 25, KeyColour::Digit},
-    KeyPlace{Key::Add,          82, 129, 24, KeyColour::Function},
-    KeyPlace{Key::Subtract,    108, 129, 24, KeyColour::Function},
+    KeyPlace{Key::One,          KeyAt(  3, 129, 24), KeyColour::Digit},
+    KeyPlace{Key::Two,          KeyAt( 29, 129, 24), KeyColour::Digit},
+    KeyPlace{Key::Three,        KeyAt( 55, 129, 25), KeyColour::Digit},
+    KeyPlace{Key::Add,          KeyAt( 82, 129, 24), KeyColour::Function},
+    KeyPlace{Key::Subtract,     KeyAt(108, 129, 24), KeyColour::Function},
 
-    KeyPlace{Key::Zero,          3, 140, 24, KeyColour::Digit},
-    KeyPlace{Key::DoubleZero,   29, 140, 24, KeyColour::Digit},
-    KeyPlace{Key::Point,        55, 140, 25, KeyColour::Digit},
-    KeyPlace{Key::Exp,          82, 140, 24, KeyColour::Digit},
-    KeyPlace{Key::Equals,      108, 140, 24, KeyColour::Equals},
+    KeyPlace{Key::Zero,         KeyAt(  3, 140, 24), KeyColour::Digit},
+    KeyPlace{Key::DoubleZero,   KeyAt( 29, 140, 24), KeyColour::Digit},
+    KeyPlace{Key::Point,        KeyAt( 55, 140, 25), KeyColour::Digit},
+    KeyPlace{Key::Exp,          KeyAt( 82, 140, 24), KeyColour::Digit},
+    KeyPlace{Key::Equals,       KeyAt(108, 140, 24), KeyColour::Equals},
 
     // Each over the function key of that place.
-    KeyPlace{Key::A,             3,  94, 24, KeyColour::Digit},
-    KeyPlace{Key::B,            29,  94, 24, KeyColour::Digit},
-    KeyPlace{Key::C,             3,  83, 24, KeyColour::Digit},
-    KeyPlace{Key::D,            29,  83, 24, KeyColour::Digit},
-    KeyPlace{Key::E,             3,  72, 24, KeyColour::Digit},
-    KeyPlace{Key::F,            29,  72, 24, KeyColour::Digit},
+    KeyPlace{Key::A,            KeyAt(  3,  94, 24), KeyColour::Digit},
+    KeyPlace{Key::B,            KeyAt( 29,  94, 24), KeyColour::Digit},
+    KeyPlace{Key::C,            KeyAt(  3,  83, 24), KeyColour::Digit},
+    KeyPlace{Key::D,            KeyAt( 29,  83, 24), KeyColour::Digit},
+    KeyPlace{Key::E,            KeyAt(  3,  72, 24), KeyColour::Digit},
+    KeyPlace{Key::F,            KeyAt( 29,  72, 24), KeyColour::Digit},
 };
 // clang-format on
 
@@ -87,39 +87,46 @@ constexpr KeyEdit Wrap(std::u16string_view prefix, std::u16string_view suffix) {
   return {KeyEdit::Kind::Wrap, prefix, suffix, prefix.empty() ? 0 : prefix.size() - 1};
 }
 
+/// A face of a key.
+struct FaceRow {
+  Key key;
+  Face face;
+  KeyFace shown;
+};
+
 /// A key that acts on more than the line.
-constexpr KeyFace Command(Key key, std::u16string_view caption) {
-  return {key, Face::Plain, caption, {}, {}};
+constexpr FaceRow Command(Key key, std::u16string_view caption) {
+  return {key, Face::Plain, {caption, {}, {}}};
 }
 
 /// Writes `text`, in place of a selection.
-constexpr KeyFace Typed(Key key, Face face, std::u16string_view caption, std::u16string_view text) {
-  return {key, face, caption, Insert(text), Insert(text)};
+constexpr FaceRow Typed(Key key, Face face, std::u16string_view caption, std::u16string_view text) {
+  return {key, face, {caption, Insert(text), Insert(text)}};
 }
 
 /// Writes a function's name and parentheses around the selection.
-constexpr KeyFace Function(Key key, Face face, std::u16string_view caption,
+constexpr FaceRow Function(Key key, Face face, std::u16string_view caption,
                            std::u16string_view prefix) {
-  return {key, face, caption, Wrap(prefix, kClose), Wrap(prefix, kClose)};
+  return {key, face, {caption, Wrap(prefix, kClose), Wrap(prefix, kClose)}};
 }
 
 /// Writes an operator; a selection becomes its left operand in parentheses. `closing` is ")" and
 /// the operator.
-constexpr KeyFace Operator(Key key, Face face, std::u16string_view caption,
+constexpr FaceRow Operator(Key key, Face face, std::u16string_view caption,
                            std::u16string_view closing) {
-  return {key, face, caption, Insert(closing.substr(kClose.size())), Wrap(kOpen, closing)};
+  return {key, face, {caption, Insert(closing.substr(kClose.size())), Wrap(kOpen, closing)}};
 }
 
 /// Writes `text`; a selection becomes its operand within `prefix` and ")".
-constexpr KeyFace Prefix(Key key, Face face, std::u16string_view caption, std::u16string_view text,
+constexpr FaceRow Prefix(Key key, Face face, std::u16string_view caption, std::u16string_view text,
                          std::u16string_view prefix) {
-  return {key, face, caption, Insert(text), Wrap(prefix, kClose)};
+  return {key, face, {caption, Insert(text), Wrap(prefix, kClose)}};
 }
 
 /// A sign. Without the parentheses of an operator, it is written one character behind the end of
 /// the selection.
-constexpr KeyFace Sign(Key key, std::u16string_view sign) {
-  return {key, Face::Plain, sign, Insert(sign), Wrap({}, sign)};
+constexpr FaceRow Sign(Key key, std::u16string_view sign) {
+  return {key, Face::Plain, {sign, Insert(sign), Wrap({}, sign)}};
 }
 
 constexpr KeyEdit RootEdit(KeyEdit::Kind kind) {
@@ -169,7 +176,7 @@ constexpr std::array kFaces{
     Operator(Key::Ln,   Face::Base,    u"XNOR", u") XNOR "),
 
     Function(Key::Sqrt,    Face::Plain,   u"SQRT", u"sqrt("),
-    KeyFace {Key::Sqrt,    Face::Shifted, u"XthR", RootEdit(KeyEdit::Kind::Wrap), RootEdit(KeyEdit::Kind::WrapTwice)},
+    FaceRow {Key::Sqrt,    Face::Shifted, {u"XthR", RootEdit(KeyEdit::Kind::Wrap), RootEdit(KeyEdit::Kind::WrapTwice)}},
     Operator(Key::Square,  Face::Plain,   u"X^2",  u")^2"),
     Prefix  (Key::Square,  Face::Shifted, u"1/X",  u"1/", u"1/("),
     Operator(Key::Power,   Face::Plain,   u"Y^X",  u")^"),
@@ -216,7 +223,7 @@ constexpr bool TablesHoldEveryKey() {
     if (static_cast<std::size_t>(place.key) != places++) return false;
   }
   std::size_t faces = 0;
-  for (const KeyFace& row : kFaces) {
+  for (const FaceRow& row : kFaces) {
     if (row.face != Face::Plain) continue;
     if (static_cast<std::size_t>(row.key) != faces++) return false;
   }
@@ -224,22 +231,6 @@ constexpr bool TablesHoldEveryKey() {
 }
 static_assert(kPlaces.size() == static_cast<std::size_t>(Key::F) + 1);
 static_assert(TablesHoldEveryKey());
-
-}  // namespace
-
-std::span<const KeyPlace> KeyPlaces() {
-  return kPlaces;
-}
-
-const KeyFace& FaceOf(Key key, Face face) {
-  const KeyFace* plain = kFaces.data();  // Until the plain row of the key comes: every key has one.
-  for (const KeyFace& row : kFaces) {
-    if (row.key != key) continue;
-    if (row.face == face) return row;
-    if (row.face == Face::Plain) plain = &row;
-  }
-  return *plain;
-}
 
 void ApplyEdit(const KeyEdit& edit, ExpressionLine& line) {
   switch (edit.kind) {
@@ -252,6 +243,24 @@ void ApplyEdit(const KeyEdit& edit, ExpressionLine& line) {
     case KeyEdit::Kind::Wrap:
       line.WrapSelection(edit.prefix, edit.suffix, edit.shift);
   }
+}
+
+}  // namespace
+
+std::span<const KeyPlace> KeyPlaces() {
+  return kPlaces;
+}
+
+const KeyFace* FindFace(Key key, Face face) {
+  for (const FaceRow& row : kFaces) {
+    if (row.key == key && row.face == face) return &row.shown;
+  }
+  return nullptr;
+}
+
+const KeyFace& FaceOf(Key key, Face face) {
+  const KeyFace* own = FindFace(key, face);
+  return own != nullptr ? *own : *FindFace(key, Face::Plain);
 }
 
 void ApplyFace(const KeyFace& face, ExpressionLine& line) {

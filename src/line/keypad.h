@@ -32,27 +32,38 @@ enum class Face { Plain, Shifted, Base };
 
 enum class KeyColour { Digit, Orange, ActiveShift, Mode, Editing, Equals, Function };
 
-/// Where a key stands, in dialog units (a quarter of the font's width, an eighth of its height) of
-/// the screen's kScreenWidth by kScreenHeight; keys are kKeyHeight high.
-struct KeyPlace {
-  Key key;
-  int x;
-  int y;
-  int width;
-  KeyColour colour;
-};
-
-inline constexpr int kKeyHeight = 10;
+/// The size of the body of every screen with keys, in dialog units: a quarter of the font's width
+/// and an eighth of its height.
 inline constexpr int kScreenWidth = 136;
 inline constexpr int kScreenHeight = 153;
 
-/// Where the two lines above the keys stand, in the same units.
+/// Where a part of such a screen stands, in dialog units.
 struct LinePlace {
   int x;
   int y;
   int width;
   int height;
 };
+
+inline constexpr int kKeyHeight = 10;
+constexpr LinePlace KeyAt(int x, int y, int width) {
+  return {x, y, width, kKeyHeight};
+}
+
+/// What a key of a screen is, whatever it shows: `K` is the enumeration of the screen's keys.
+template <class K>
+struct KeyPlaceOf {
+  K key;
+  LinePlace place;
+  KeyColour colour;
+  /// Such as "Alt+D", for a key whose work cannot be typed; empty for none. No letter is one of the
+  /// menus' in the menu bar.
+  std::string_view shortcut = {};
+  std::u16string_view description = {};  ///< for screen readers, if the caption does not say it
+};
+using KeyPlace = KeyPlaceOf<Key>;
+
+// Where the two lines above the keys stand.
 
 inline constexpr LinePlace kExpressionPlace{3, 3, 130, 28};
 inline constexpr LinePlace kResultPlace{3, 47, 130, 11};
@@ -69,8 +80,6 @@ struct KeyEdit {
 /// One caption of a key and what pressing it then writes; nullopt edits for keys that act on more
 /// than the line.
 struct KeyFace {
-  Key key;
-  Face face;
   std::u16string_view caption;
   std::optional<KeyEdit> bare;      ///< without a selection
   std::optional<KeyEdit> selected;  ///< with one
@@ -79,11 +88,10 @@ struct KeyFace {
 /// All keys, row by row.
 std::span<const KeyPlace> KeyPlaces();
 
-/// The row of `key` for `face`; where it has none, that of its plain face.
+/// The `face` of `key`; null if it has no such face.
+const KeyFace* FindFace(Key key, Face face);
+/// The `face` of `key`, or if it has none, its plain one.
 const KeyFace& FaceOf(Key key, Face face);
-
-/// Carries an edit out on a line.
-void ApplyEdit(const KeyEdit& edit, ExpressionLine& line);
 
 /// Presses a key of the given face that only writes: `line` takes its edit for a bare caret or for
 /// a selection.

@@ -1,96 +1,60 @@
 #include "matrix/matrix_keypad.h"
 
-#include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace kav {
 namespace {
 
-/// A key and, where it writes, the key of the scientific screen that writes the same.
-struct KeySource {
-  MatrixKey key;
-  int x;
-  int y;
-  int width;
-  KeyColour colour;
-  std::u16string_view caption;
-  std::optional<Key> writesAs;
-};
+using Source = KeySource<MatrixKey>;
 
 // clang-format off
 constexpr std::array kSources{
-    KeySource{MatrixKey::Deg,           3,  24, 20, KeyColour::Mode,    u"DEG",    {}},
-    KeySource{MatrixKey::Functions,    24,  24, 22, KeyColour::Orange,  u"F(X)",   {}},
-    KeySource{MatrixKey::Tools,        47,  24, 24, KeyColour::Orange,  u"Tools",  {}},
-    KeySource{MatrixKey::Backspace,    72,  24, 19, KeyColour::Editing, u"BS",     {}},
-    KeySource{MatrixKey::Delete,       92,  24, 20, KeyColour::Editing, u"DEL",    {}},
-    KeySource{MatrixKey::Clear,       113,  24, 20, KeyColour::Editing, u"CLR",    {}},
+    Source{{MatrixKey::Deg,         KeyAt(  3,  24, 20), KeyColour::Mode, "Alt+D"},   Key::Deg},
+    Source{{MatrixKey::Functions,   KeyAt( 24,  24, 22), KeyColour::Orange, "Alt+X"}, {}, u"F(X)"},
+    Source{{MatrixKey::Tools,       KeyAt( 47,  24, 24), KeyColour::Orange, "Alt+T"}, {}, u"Tools"},
+    Source{{MatrixKey::Backspace,   KeyAt( 72,  24, 19), KeyColour::Editing},         Key::Backspace},
+    Source{{MatrixKey::Delete,      KeyAt( 92,  24, 20), KeyColour::Editing},         Key::Delete},
+    Source{{MatrixKey::Clear,       KeyAt(113,  24, 20), KeyColour::Editing},         Key::Clear},
 
-    KeySource{MatrixKey::ClearCells,  108,  35, 25, KeyColour::Orange,  u"M CLS",  {}},
+    Source{{MatrixKey::ClearCells,  KeyAt(108,  35, 25), KeyColour::Orange, "Alt+C"}, {}, u"M CLS"},
 
-    KeySource{MatrixKey::PlayBack,      3,  98, 24, KeyColour::Orange,  u"MPB",    {}},
-    KeySource{MatrixKey::Operations,   29,  98, 24, KeyColour::Orange,  u"MOpers", {}},
-    KeySource{MatrixKey::MatrixTools,  55,  98, 25, KeyColour::Orange,  u"MTools", {}},
-    KeySource{MatrixKey::Variables,    82,  98, 24, KeyColour::Orange,  u"MVar",   {}},
-    KeySource{MatrixKey::Size,        108,  98, 25, KeyColour::Orange,  u"MSize",  {}},
+    Source{{MatrixKey::PlayBack,    KeyAt(  3,  98, 24), KeyColour::Orange, "Alt+P"}, {}, u"MPB"},
+    Source{{MatrixKey::Operations,  KeyAt( 29,  98, 24), KeyColour::Orange, "Alt+O"}, {}, u"MOpers"},
+    Source{{MatrixKey::MatrixTools, KeyAt( 55,  98, 25), KeyColour::Orange, "Alt+L"}, {}, u"MTools"},
+    Source{{MatrixKey::Variables,   KeyAt( 82,  98, 24), KeyColour::Orange, "Alt+V"}, {}, u"MVar"},
+    Source{{MatrixKey::Size,        KeyAt(108,  98, 25), KeyColour::Orange, "Alt+S"}, {}, u"MSize"},
 
-    KeySource{MatrixKey::Seven,         3, 109, 24, KeyColour::Digit,    u"7",     Key::Seven},
-    KeySource{MatrixKey::Eight,        29, 109, 24, KeyColour::Digit,    u"8",     Key::Eight},
-    KeySource{MatrixKey::Nine,         55, 109, 25, KeyColour::Digit,    u"9",     Key::Nine},
-    KeySource{MatrixKey::Parentheses,  82, 109, 24, KeyColour::Function, u"(...)", Key::Parentheses},
-    KeySource{MatrixKey::Power,       108, 109, 25, KeyColour::Function, u"Y^N",   Key::Power},
+    Source{{MatrixKey::Seven,       KeyAt(  3, 109, 24), KeyColour::Digit},           Key::Seven},
+    Source{{MatrixKey::Eight,       KeyAt( 29, 109, 24), KeyColour::Digit},           Key::Eight},
+    Source{{MatrixKey::Nine,        KeyAt( 55, 109, 25), KeyColour::Digit},           Key::Nine},
+    Source{{MatrixKey::Parentheses, KeyAt( 82, 109, 24), KeyColour::Function},        Key::Parentheses},
+    Source{{MatrixKey::Power,       KeyAt(108, 109, 25), KeyColour::Function},        Key::Power, u"Y^N", Faces::Plain},
 
-    KeySource{MatrixKey::Four,          3, 120, 24, KeyColour::Digit,    u"4",     Key::Four},
-    KeySource{MatrixKey::Five,         29, 120, 24, KeyColour::Digit,    u"5",     Key::Five},
-    KeySource{MatrixKey::Six,          55, 120, 25, KeyColour::Digit,    u"6",     Key::Six},
-    KeySource{MatrixKey::Multiply,     82, 120, 24, KeyColour::Function, u"*",     Key::Multiply},
-    KeySource{MatrixKey::Divide,      108, 120, 25, KeyColour::Function, u"/",     Key::Divide},
+    Source{{MatrixKey::Four,        KeyAt(  3, 120, 24), KeyColour::Digit},           Key::Four},
+    Source{{MatrixKey::Five,        KeyAt( 29, 120, 24), KeyColour::Digit},           Key::Five},
+    Source{{MatrixKey::Six,         KeyAt( 55, 120, 25), KeyColour::Digit},           Key::Six},
+    Source{{MatrixKey::Multiply,    KeyAt( 82, 120, 24), KeyColour::Function},        Key::Multiply},
+    Source{{MatrixKey::Divide,      KeyAt(108, 120, 25), KeyColour::Function},        Key::Divide},
 
-    KeySource{MatrixKey::One,           3, 131, 24, KeyColour::Digit,    u"1",     Key::One},
-    KeySource{MatrixKey::Two,          29, 131, 24, KeyColour::Digit,    u"2",     Key::Two},
-    KeySource{MatrixKey::Three,        55, 131, 25, KeyColour::Digit,    u"3",     Key::Three},
-    KeySource{MatrixKey::Add,          82, 131, 24, KeyColour::Function, u"+",     Key::Add},
-    KeySource{MatrixKey::Subtract,    108, 131, 25, KeyColour::Function, u"-",     Key::Subtract},
+    Source{{MatrixKey::One,         KeyAt(  3, 131, 24), KeyColour::Digit},           Key::One},
+    Source{{MatrixKey::Two,         KeyAt( 29, 131, 24), KeyColour::Digit},           Key::Two},
+    Source{{MatrixKey::Three,       KeyAt( 55, 131, 25), KeyColour::Digit},           Key::Three},
+    Source{{MatrixKey::Add,         KeyAt( 82, 131, 24), KeyColour::Function},        Key::Add},
+    Source{{MatrixKey::Subtract,    KeyAt(108, 131, 25), KeyColour::Function},        Key::Subtract},
 
-    KeySource{MatrixKey::Zero,          3, 142, 24, KeyColour::Digit,    u"0",     Key::Zero},
-    KeySource{MatrixKey::DoubleZero,   29, 142, 24, KeyColour::Digit,    u"00",    Key::DoubleZero},
-    KeySource{MatrixKey::Point,        55, 142, 25, KeyColour::Digit,    u".",     Key::Point},
-    KeySource{MatrixKey::Exp,          82, 142, 24, KeyColour::Digit,    u"Exp",   Key::Exp},
-    KeySource{MatrixKey::Equals,      108, 142, 25, KeyColour::Equals,   u"=",     {}},
+    Source{{MatrixKey::Zero,        KeyAt(  3, 142, 24), KeyColour::Digit},           Key::Zero},
+    Source{{MatrixKey::DoubleZero,  KeyAt( 29, 142, 24), KeyColour::Digit},           Key::DoubleZero},
+    Source{{MatrixKey::Point,       KeyAt( 55, 142, 25), KeyColour::Digit},           Key::Point},
+    Source{{MatrixKey::Exp,         KeyAt( 82, 142, 24), KeyColour::Digit},           Key::Exp},
+    Source{{MatrixKey::Equals,      KeyAt(108, 142, 25), KeyColour::Equals},          Key::Equals},
 };
 // clang-format on
 
-constexpr std::size_t IndexOf(MatrixKey key) {
-  return static_cast<std::size_t>(key);
-}
+static_assert(HoldEveryKey(kSources, MatrixKey::Equals));
 
-constexpr bool AreInOrder() {
-  std::size_t index = 0;
-  for (const KeySource& source : kSources) {
-    if (IndexOf(source.key) != index++) return false;
-  }
-  return index == IndexOf(MatrixKey::Equals) + 1;
-}
-static_assert(AreInOrder());
-
-using Rows = std::array<MatrixKeyRow, kSources.size()>;
-
-MatrixKeyRow RowFrom(const KeySource& source) {
-  MatrixKeyRow row{source.key,    source.x,       source.y, source.width,
-                   source.colour, source.caption, {},       {}};
-  if (!source.writesAs) return row;
-  const KeyFace& face = FaceOf(*source.writesAs, Face::Plain);
-  row.bare = face.bare;
-  row.selected = face.selected;
-  return row;
-}
-
-const Rows& AllRows() {
-  static const Rows kRows = [] {
-    Rows rows;
-    std::transform(kSources.begin(), kSources.end(), rows.begin(), RowFrom);
-    return rows;
-  }();
+const auto& AllRows() {
+  static const auto kRows = RowsFrom(kSources);
   return kRows;
 }
 
@@ -101,7 +65,7 @@ std::span<const MatrixKeyRow> MatrixKeyRows() {
 }
 
 const MatrixKeyRow& RowOf(MatrixKey key) {
-  return AllRows()[IndexOf(key)];
+  return AllRows()[static_cast<std::size_t>(key)];
 }
 
 }  // namespace kav

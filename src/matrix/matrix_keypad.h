@@ -1,11 +1,9 @@
 // The keys of the matrix screen: where they stand, how they look and what they write.
 #pragma once
 
-#include <optional>
 #include <span>
-#include <string_view>
 
-#include "line/keypad.h"
+#include "line/key_rows.h"
 
 namespace kav {
 
@@ -22,24 +20,13 @@ enum class MatrixKey {
   // clang-format on
 };
 
-/// All there is to say about one key; its place in dialog units of a screen of kScreenWidth by
-/// kScreenHeight, kKeyHeight high. `bare` and `selected` as in KeyFace.
-struct MatrixKeyRow {
-  MatrixKey key;
-  int x;
-  int y;
-  int width;
-  KeyColour colour;
-  std::u16string_view caption;
-  std::optional<KeyEdit> bare;
-  std::optional<KeyEdit> selected;
-};
+using MatrixKeyRow = KeyRow<MatrixKey>;
 
 /// All keys, in the order of MatrixKey.
 std::span<const MatrixKeyRow> MatrixKeyRows();
 const MatrixKeyRow& RowOf(MatrixKey key);
 
-// Where the rest of the screen stands, in the same units.
+// Where the rest of the screen stands.
 inline constexpr LinePlace kMatrixLinePlace{3, 2, 130, 11};
 inline constexpr LinePlace kMatrixResultPlace{3, 13, 130, 9};
 inline constexpr LinePlace kMatrixTabsPlace{3, 35, 104, 10};

@@ -46,7 +46,7 @@ void MatrixModel::SetLine(std::u16string text, Selection selection) {
 }
 
 std::u16string_view MatrixModel::Caption(MatrixKey key) const {
-  return key == MatrixKey::Deg ? AngleCaption(angle_) : RowOf(key).caption;
+  return key == MatrixKey::Deg ? AngleCaption(angle_) : RowOf(key).plain.caption;
 }
 
 bool MatrixModel::IsEnabled(MatrixKey key) const {
@@ -97,9 +97,7 @@ void MatrixModel::Write(MatrixKey key) {
     default:
       break;
   }
-  const MatrixKeyRow& row = RowOf(key);
-  const auto& edit = line_.Selected().IsEmpty() ? row.bare : row.selected;
-  if (edit) ApplyEdit(*edit, line_);
+  ApplyFace(RowOf(key).plain, line_);
 }
 
 MatrixRequest MatrixModel::Evaluate() {

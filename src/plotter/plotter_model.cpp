@@ -141,14 +141,8 @@ void PlotterModel::Change(PlotterKey key) {
     case PlotterKey::Clear:
       return input_.Clear();
     default:
-      Write(key);
+      ApplyFace(RowOf(key).Shown(shift_), input_);
   }
-}
-
-void PlotterModel::Write(PlotterKey key) {
-  const PlotterFace& face = RowOf(key).Shown(shift_);
-  const auto& edit = input_.Selected().IsEmpty() ? face.bare : face.selected;
-  if (edit) ApplyEdit(*edit, input_);
 }
 
 void PlotterModel::Insert(std::u16string_view text) {

@@ -76,7 +76,6 @@ class PlotterModel {
 
  private:
   void Change(PlotterKey key);
-  void Write(PlotterKey key);
   void Insert(std::u16string_view text);
   PlotterRequest RequestMacroList();
   PlotterRequest Plot();

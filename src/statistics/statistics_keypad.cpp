@@ -8,88 +8,84 @@
 namespace kav {
 namespace {
 
-constexpr LinePlace At(int x, int y, int width) {
-  return {x, y, width, kKeyHeight};
-}
-
 // clang-format off
 constexpr std::array kListKeys{
-    StatisticsKeyRow{StatisticsKey::Add,    At( 55, 14, 26), KeyColour::Editing, u"Add"},
-    StatisticsKeyRow{StatisticsKey::Ok,     At( 55, 14, 26), KeyColour::Editing, u"Ok"},
-    StatisticsKeyRow{StatisticsKey::Cancel, At( 82, 14, 51), KeyColour::Editing, u"Cancel"},
+    StatisticsKeyRow{StatisticsKey::Add,    KeyAt( 55, 14, 26), KeyColour::Editing, u"Add"},
+    StatisticsKeyRow{StatisticsKey::Ok,     KeyAt( 55, 14, 26), KeyColour::Editing, u"Ok"},
+    StatisticsKeyRow{StatisticsKey::Cancel, KeyAt( 82, 14, 51), KeyColour::Editing, u"Cancel"},
 
-    StatisticsKeyRow{StatisticsKey::Edit,   At(  3, 25, 25), KeyColour::Editing, u"Edit"},
-    StatisticsKeyRow{StatisticsKey::Delete, At( 29, 25, 25), KeyColour::Editing, u"Delete"},
-    StatisticsKeyRow{StatisticsKey::Clear,  At( 55, 25, 26), KeyColour::Editing, u"Clear"},
-    StatisticsKeyRow{StatisticsKey::Save,   At( 82, 25, 25), KeyColour::Mode,    u"Save"},
-    StatisticsKeyRow{StatisticsKey::Load,   At(108, 25, 25), KeyColour::Mode,    u"Load"},
+    StatisticsKeyRow{StatisticsKey::Edit,   KeyAt(  3, 25, 25), KeyColour::Editing, u"Edit"},
+    StatisticsKeyRow{StatisticsKey::Delete, KeyAt( 29, 25, 25), KeyColour::Editing, u"Delete"},
+    StatisticsKeyRow{StatisticsKey::Clear,  KeyAt( 55, 25, 26), KeyColour::Editing, u"Clear", {}, "Alt+C"},
+    StatisticsKeyRow{StatisticsKey::Save,   KeyAt( 82, 25, 25), KeyColour::Mode,    u"Save", {}, "Ctrl+S"},
+    StatisticsKeyRow{StatisticsKey::Load,   KeyAt(108, 25, 25), KeyColour::Mode,    u"Load", {}, "Ctrl+O"},
 };
 
 constexpr std::array kOneVariableKeys{
-    StatisticsKeyRow{StatisticsKey::SumX,        At(  3, 131, 35), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::SumX,        KeyAt(  3, 131, 35), KeyColour::Function,
                      u"ΣX", u"Sum of X"},
-    StatisticsKeyRow{StatisticsKey::SquaresX,    At( 39, 131, 29), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::SquaresX,    KeyAt( 39, 131, 29), KeyColour::Function,
                      u"ΣX^2", u"Sum of squares of X"},
-    StatisticsKeyRow{StatisticsKey::MeanX,       At( 69, 131, 64), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::MeanX,       KeyAt( 69, 131, 64), KeyColour::Function,
                      u"Arithmetic Mean of X"},
 
-    StatisticsKeyRow{StatisticsKey::SampleX,     At(  3, 142, 35), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::SampleX,     KeyAt(  3, 142, 35), KeyColour::Function,
                      u"σ(n-1) of X", u"Sample standard deviation of X"},
-    StatisticsKeyRow{StatisticsKey::PopulationX, At( 39, 142, 29), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::PopulationX, KeyAt( 39, 142, 29), KeyColour::Function,
                      u"σ(n) of X", u"Population standard deviation of X"},
-    StatisticsKeyRow{StatisticsKey::MemoryMenu,  At( 69, 142, 64), KeyColour::Orange,
-                     u"MEM", u"Memory variables"},
+    StatisticsKeyRow{StatisticsKey::MemoryMenu,  KeyAt( 69, 142, 64), KeyColour::Orange,
+                     u"MEM", u"Memory variables", "Alt+V"},
 };
 
 // The columns are as wide as the captions of their first two rows need them.
 constexpr std::array kTwoVariableKeys{
-    StatisticsKeyRow{StatisticsKey::SumX,        At(  3, 109, 17), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::SumX,        KeyAt(  3, 109, 17), KeyColour::Function,
                      u"ΣX", u"Sum of X"},
-    StatisticsKeyRow{StatisticsKey::SquaresX,    At( 21, 109, 18), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::SquaresX,    KeyAt( 21, 109, 18), KeyColour::Function,
                      u"ΣX^2", u"Sum of squares of X"},
-    StatisticsKeyRow{StatisticsKey::MeanX,       At( 40, 109, 31), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::MeanX,       KeyAt( 40, 109, 31), KeyColour::Function,
                      u"Mean of X"},
-    StatisticsKeyRow{StatisticsKey::SampleX,     At( 72, 109, 33), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::SampleX,     KeyAt( 72, 109, 33), KeyColour::Function,
                      u"σ(n-1) of X", u"Sample standard deviation of X"},
-    StatisticsKeyRow{StatisticsKey::PopulationX, At(106, 109, 27), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::PopulationX, KeyAt(106, 109, 27), KeyColour::Function,
                      u"σ(n) of X", u"Population standard deviation of X"},
 
-    StatisticsKeyRow{StatisticsKey::SumY,        At(  3, 120, 17), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::SumY,        KeyAt(  3, 120, 17), KeyColour::Function,
                      u"ΣY", u"Sum of Y"},
-    StatisticsKeyRow{StatisticsKey::SquaresY,    At( 21, 120, 18), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::SquaresY,    KeyAt( 21, 120, 18), KeyColour::Function,
                      u"ΣY^2", u"Sum of squares of Y"},
-    StatisticsKeyRow{StatisticsKey::MeanY,       At( 40, 120, 31), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::MeanY,       KeyAt( 40, 120, 31), KeyColour::Function,
                      u"Mean of Y"},
-    StatisticsKeyRow{StatisticsKey::SampleY,     At( 72, 120, 33), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::SampleY,     KeyAt( 72, 120, 33), KeyColour::Function,
                      u"σ(n-1) of Y", u"Sample standard deviation of Y"},
-    StatisticsKeyRow{StatisticsKey::PopulationY, At(106, 120, 27), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::PopulationY, KeyAt(106, 120, 27), KeyColour::Function,
                      u"σ(n) of Y", u"Population standard deviation of Y"},
 
-    StatisticsKeyRow{StatisticsKey::Products,    At(  3, 131, 17), KeyColour::Function,
+    StatisticsKeyRow{StatisticsKey::Products,    KeyAt(  3, 131, 17), KeyColour::Function,
                      u"ΣXY", u"Sum of products of X and Y"},
-    StatisticsKeyRow{StatisticsKey::A,           At( 21, 131, 18), KeyColour::Digit,
+    StatisticsKeyRow{StatisticsKey::A,           KeyAt( 21, 131, 18), KeyColour::Digit,
                      u"A", u"Coefficient A"},
-    StatisticsKeyRow{StatisticsKey::B,           At( 40, 131, 31), KeyColour::Digit,
+    StatisticsKeyRow{StatisticsKey::B,           KeyAt( 40, 131, 31), KeyColour::Digit,
                      u"B", u"Coefficient B"},
-    StatisticsKeyRow{StatisticsKey::Correlation, At( 72, 131, 33), KeyColour::Digit,
+    StatisticsKeyRow{StatisticsKey::Correlation, KeyAt( 72, 131, 33), KeyColour::Digit,
                      u"r", u"Correlation coefficient"},
-    StatisticsKeyRow{StatisticsKey::C,           At( 72, 131, 33), KeyColour::Digit,
+    StatisticsKeyRow{StatisticsKey::C,           KeyAt( 72, 131, 33), KeyColour::Digit,
                      u"C", u"Coefficient C"},
-    StatisticsKeyRow{StatisticsKey::Model,       At(106, 131, 27), KeyColour::Orange,
-                     kLinearCaption, u"Regression model"},
+    StatisticsKeyRow{StatisticsKey::Model,       KeyAt(106, 131, 27), KeyColour::Orange,
+                     kLinearCaption, u"Regression model", "Alt+R"},
 
-    StatisticsKeyRow{StatisticsKey::EstimateY,   At(  3, 142, 17), KeyColour::Digit,
+    StatisticsKeyRow{StatisticsKey::EstimateY,   KeyAt(  3, 142, 17), KeyColour::Digit,
                      u"Y'", u"Estimate of Y"},
-    StatisticsKeyRow{StatisticsKey::Plot,        At( 21, 142, 18), KeyColour::Equals,
-                     u"Plot"},
-    StatisticsKeyRow{StatisticsKey::EstimateX,   At( 40, 142, 31), KeyColour::Digit,
+    StatisticsKeyRow{StatisticsKey::Plot,        KeyAt( 21, 142, 18), KeyColour::Equals,
+                     u"Plot", {}, "Alt+P"},
+    StatisticsKeyRow{StatisticsKey::EstimateX,   KeyAt( 40, 142, 31), KeyColour::Digit,
                      u"X'", u"Estimate of X"},
-    StatisticsKeyRow{StatisticsKey::EstimateX1,  At( 40, 142, 31), KeyColour::Digit,
+    StatisticsKeyRow{StatisticsKey::EstimateX1,  KeyAt( 40, 142, 31), KeyColour::Digit,
                      u"X1'", u"First estimate of X"},
-    StatisticsKeyRow{StatisticsKey::EstimateX2,  At( 72, 142, 33), KeyColour::Digit,
+    StatisticsKeyRow{StatisticsKey::EstimateX2,  KeyAt( 72, 142, 33), KeyColour::Digit,
                      u"X2'", u"Second estimate of X"},
-    StatisticsKeyRow{StatisticsKey::MemoryMenu,  At(106, 142, 27), KeyColour::Orange,
-                     u"MEM", u"Memory variables"},
+    StatisticsKeyRow{StatisticsKey::MemoryMenu,  KeyAt(106, 142, 27), KeyColour::Orange,
+                     u"MEM", u"Memory variables", "Alt+V"},
 };
 // clang-format on
 
@@ -105,29 +101,29 @@ constexpr auto kOneVariableRows = Joined(kListKeys, kOneVariableKeys);
 constexpr auto kTwoVariableRows = Joined(kListKeys, kTwoVariableKeys);
 
 constexpr StatisticsPlaces kOneVariablePlaces{
-    .xLabel = At(3, 3, 25),
-    .x = At(29, 3, 104),
+    .xLabel = KeyAt(3, 3, 25),
+    .x = KeyAt(29, 3, 104),
     .yLabel = {},
     .y = {},
-    .countLabel = At(3, 14, 25),
-    .count = At(29, 14, 25),
-    .totalLabel = At(82, 14, 22),
-    .total = At(104, 14, 29),
+    .countLabel = KeyAt(3, 14, 25),
+    .count = KeyAt(29, 14, 25),
+    .totalLabel = KeyAt(82, 14, 22),
+    .total = KeyAt(104, 14, 29),
     .list = {3, 36, 130, 83},
-    .result = At(3, 120, 130),
+    .result = KeyAt(3, 120, 130),
 };
 
 constexpr StatisticsPlaces kTwoVariablePlaces{
-    .xLabel = At(3, 3, 10),
-    .x = At(14, 3, 53),
-    .yLabel = At(69, 3, 10),
-    .y = At(80, 3, 53),
-    .countLabel = At(3, 14, 25),
-    .count = At(29, 14, 25),
-    .totalLabel = At(82, 14, 22),
-    .total = At(104, 14, 29),
+    .xLabel = KeyAt(3, 3, 10),
+    .x = KeyAt(14, 3, 53),
+    .yLabel = KeyAt(69, 3, 10),
+    .y = KeyAt(80, 3, 53),
+    .countLabel = KeyAt(3, 14, 25),
+    .count = KeyAt(29, 14, 25),
+    .totalLabel = KeyAt(82, 14, 22),
+    .total = KeyAt(104, 14, 29),
     .list = {3, 36, 130, 61},
-    .result = At(3, 98, 130),
+    .result = KeyAt(3, 98, 130),
 };
 
 struct MomentRow {

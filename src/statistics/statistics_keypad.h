@@ -27,7 +27,8 @@ struct StatisticsKeyRow {
   LinePlace place;
   KeyColour colour;
   std::u16string_view caption;           ///< of Model: what it shows is the model's
-  std::u16string_view description = {};  ///< for screen readers, where the caption is no word
+  std::u16string_view description = {};  ///< for screen readers, if the caption is no word
+  std::string_view shortcut = {};        ///< such as "Alt+C"; empty for none
 };
 
 /// The buttons of a screen, each once, from the top.

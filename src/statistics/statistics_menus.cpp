@@ -57,4 +57,11 @@ std::u16string_view ModelCaption(RegressionModel model) {
   return kLinearCaption;
 }
 
+std::vector<std::u16string_view> CaptionsOf(const StatisticsKeyRow& row) {
+  if (row.key != StatisticsKey::Model) return {row.caption};
+  std::vector<std::u16string_view> captions;
+  for (const ModelChoice& choice : kModelChoices) captions.push_back(choice.caption);
+  return captions;
+}
+
 }  // namespace kav

@@ -3,9 +3,11 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "line/screen_menus.h"
 #include "statistics/regression.h"
+#include "statistics/statistics_keypad.h"
 
 namespace kav {
 
@@ -25,5 +27,8 @@ Menu BuildModelMenu();
 std::optional<RegressionModel> ModelOfItem(int id);
 /// The short name of `model`, as the button shows it that opens the menu.
 std::u16string_view ModelCaption(RegressionModel model);
+
+/// Every caption that a button may ever show.
+std::vector<std::u16string_view> CaptionsOf(const StatisticsKeyRow& row);
 
 }  // namespace kav

@@ -23,13 +23,13 @@ std::string Picture(BaseMode base, ShiftState shift) {
     if (IsKeyVisible(place.key, base, shift)) places.push_back(place);
   }
   std::stable_sort(places.begin(), places.end(), [](const KeyPlace& a, const KeyPlace& b) {
-    return std::pair(a.y, a.x) < std::pair(b.y, b.x);
+    return std::pair(a.place.y, a.place.x) < std::pair(b.place.y, b.place.x);
   });
   std::string picture;
   int row = 0;
   for (const KeyPlace& place : places) {
-    picture += place.y == row ? " " : "\n";
-    row = place.y;
+    picture += place.place.y == row ? " " : "\n";
+    row = place.place.y;
     if (!IsKeyEnabled(place.key, base, shift)) picture += "~";
     picture += Narrow(FaceShown(place.key, base, shift).caption);
   }
@@ -176,8 +176,9 @@ TEST(KeyState, VisibleKeysStandBesideEachOther) {
         const bool areVisible = IsKeyVisible(a.key, base, ShiftState::Off) &&
                                 IsKeyVisible(b.key, base, ShiftState::Off);
         if (a.key == b.key || !areVisible) continue;
-        const bool overlap = a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + kKeyHeight &&
-                             b.y < a.y + kKeyHeight;
+        const bool overlap =
+            a.place.x < b.place.x + b.place.width && b.place.x < a.place.x + a.place.width &&
+            a.place.y < b.place.y + kKeyHeight && b.place.y < a.place.y + kKeyHeight;
         EXPECT_FALSE(overlap) << static_cast<int>(a.key) << " " << static_cast<int>(b.key);
       }
     }

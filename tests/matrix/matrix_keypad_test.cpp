@@ -91,8 +91,7 @@ constexpr WritingRow kWritingRows[] = {
 
 std::u16string After(std::u16string_view before, const MatrixKeyRow& row) {
   ExpressionLine line = MarkedLine(before);
-  const auto& edit = line.Selected().IsEmpty() ? row.bare : row.selected;
-  if (edit) ApplyEdit(*edit, line);
+  ApplyFace(row.plain, line);
   return Marked(line);
 }
 
@@ -102,22 +101,23 @@ TEST(MatrixKeypad, KeysStandInTheirPlacesInTheirOrder) {
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const PlaceRow& expected = kPlaceRows[i];
     EXPECT_EQ(rows[i].key, expected.key) << i;
-    EXPECT_EQ(rows[i].x, expected.x) << Narrow(expected.caption);
-    EXPECT_EQ(rows[i].y, expected.y) << Narrow(expected.caption);
-    EXPECT_EQ(rows[i].width, expected.width) << Narrow(expected.caption);
+    EXPECT_EQ(rows[i].place.x, expected.x) << Narrow(expected.caption);
+    EXPECT_EQ(rows[i].place.y, expected.y) << Narrow(expected.caption);
+    EXPECT_EQ(rows[i].place.width, expected.width) << Narrow(expected.caption);
     EXPECT_EQ(rows[i].colour, expected.colour) << Narrow(expected.caption);
-    EXPECT_EQ(rows[i].caption, expected.caption);
+    EXPECT_EQ(rows[i].plain.caption, expected.caption);
   }
 }
 
 TEST(MatrixKeypad, RowOfAKeyIsItsRow) {
-  for (const PlaceRow& row : kPlaceRows) EXPECT_EQ(RowOf(row.key).caption, row.caption);
+  for (const PlaceRow& row : kPlaceRows) EXPECT_EQ(RowOf(row.key).plain.caption, row.caption);
 }
 
 TEST(MatrixKeypad, WritingKeysEditTheLineWithAndWithoutASelection) {
   for (const WritingRow& row : kWritingRows) {
-    EXPECT_EQ(After(u"12|34", RowOf(row.key)), row.bare) << Narrow(RowOf(row.key).caption);
-    EXPECT_EQ(After(u"1[23]45", RowOf(row.key)), row.selected) << Narrow(RowOf(row.key).caption);
+    EXPECT_EQ(After(u"12|34", RowOf(row.key)), row.bare) << Narrow(RowOf(row.key).plain.caption);
+    EXPECT_EQ(After(u"1[23]45", RowOf(row.key)), row.selected)
+        << Narrow(RowOf(row.key).plain.caption);
   }
 }
 
@@ -129,7 +129,7 @@ TEST(MatrixKeypad, AllOtherKeysWriteNothing) {
                     [&row](const WritingRow& each) { return each.key == row.key; });
     if (isWriting) continue;
     ++silent;
-    EXPECT_FALSE(row.bare || row.selected) << Narrow(row.caption);
+    EXPECT_FALSE(row.plain.bare || row.plain.selected) << Narrow(row.plain.caption);
   }
   EXPECT_EQ(silent, 13);
 }
@@ -149,7 +149,7 @@ TEST(MatrixKeypad, NothingOverlapsAndAllIsOnTheScreen) {
   std::vector<Area> areas{AreaOf(kMatrixLinePlace), AreaOf(kMatrixResultPlace),
                           AreaOf(kMatrixTabsPlace), AreaOf(kGridPlace)};
   for (const MatrixKeyRow& row : MatrixKeyRows()) {
-    areas.push_back({row.x, row.y, row.x + row.width, row.y + kKeyHeight});
+    areas.push_back(AreaOf(row.place));
   }
   for (std::size_t i = 0; i < areas.size(); ++i) {
     const Area& a = areas[i];

@@ -15,7 +15,7 @@ namespace {
 using test::Marked;
 using test::MarkedLine;
 
-struct KeyRow {
+struct ExpectedRow {
   PlotterKey key;
   KeyColour colour;
   std::u16string_view plain;
@@ -23,7 +23,7 @@ struct KeyRow {
 };
 
 // clang-format off
-constexpr KeyRow kKeyRows[] = {
+constexpr ExpectedRow kKeyRows[] = {
     {PlotterKey::Add,            KeyColour::Orange,      u"A",     u"A"},
     {PlotterKey::Plot,           KeyColour::Equals,      u"Plot",  u"Plot"},
     {PlotterKey::DeleteEquation, KeyColour::Orange,      u"D",     u"D"},
@@ -136,10 +136,9 @@ constexpr WritingRow kWritingRows[] = {
 };
 // clang-format on
 
-std::u16string After(std::u16string_view before, const PlotterFace& face) {
+std::u16string After(std::u16string_view before, const KeyFace& face) {
   ExpressionLine line = MarkedLine(before);
-  const auto& edit = line.Selected().IsEmpty() ? face.bare : face.selected;
-  if (edit) ApplyEdit(*edit, line);
+  ApplyFace(face, line);
   return Marked(line);
 }
 
@@ -147,7 +146,7 @@ TEST(PlotterKeypad, KeysAreCalledAndColouredAsTheTableSays) {
   const auto rows = PlotterKeyRows();
   ASSERT_EQ(rows.size(), std::size(kKeyRows));
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    const KeyRow& expected = kKeyRows[i];
+    const ExpectedRow& expected = kKeyRows[i];
     EXPECT_EQ(rows[i].key, expected.key) << i;
     EXPECT_EQ(rows[i].colour, expected.colour) << Narrow(expected.plain);
     EXPECT_EQ(rows[i].Shown(kOff).caption, expected.plain);
@@ -156,12 +155,12 @@ TEST(PlotterKeypad, KeysAreCalledAndColouredAsTheTableSays) {
 }
 
 TEST(PlotterKeypad, RowOfAKeyIsItsRow) {
-  for (const KeyRow& row : kKeyRows) EXPECT_EQ(RowOf(row.key).key, row.key);
+  for (const ExpectedRow& row : kKeyRows) EXPECT_EQ(RowOf(row.key).key, row.key);
 }
 
 TEST(PlotterKeypad, WritingKeysEditTheInputWithAndWithoutASelection) {
   for (const WritingRow& row : kWritingRows) {
-    const PlotterFace& face = RowOf(row.key).Shown(row.shift);
+    const KeyFace& face = RowOf(row.key).Shown(row.shift);
     EXPECT_EQ(After(u"12|34", face), row.bare) << Narrow(face.caption);
     EXPECT_EQ(After(u"1[23]45", face), row.selected) << Narrow(face.caption);
   }
@@ -214,7 +213,7 @@ TEST(PlotterKeypad, NothingOverlapsAndAllIsOnTheScreen) {
   }
   for (const PlotterKeyRow& row : PlotterKeyRows()) {
     if (row.key == PlotterKey::ShiftActive) continue;  // over Shift
-    areas.push_back({row.x, row.y, row.x + row.width, row.y + kKeyHeight});
+    areas.push_back(AreaOf(row.place));
   }
   for (std::size_t i = 0; i < areas.size(); ++i) {
     const Area& a = areas[i];
@@ -232,7 +231,8 @@ TEST(PlotterKeypad, NothingOverlapsAndAllIsOnTheScreen) {
 TEST(PlotterKeypad, BothShiftKeysShareAPlace) {
   const PlotterKeyRow& off = RowOf(PlotterKey::Shift);
   const PlotterKeyRow& on = RowOf(PlotterKey::ShiftActive);
-  EXPECT_EQ(std::tie(off.x, off.y, off.width), std::tie(on.x, on.y, on.width));
+  EXPECT_EQ(std::tie(off.place.x, off.place.y, off.place.width),
+            std::tie(on.place.x, on.place.y, on.place.width));
 }
 
 TEST(PlotterKeypad, FieldsOfAnAxisStandInARow) {

@@ -35,37 +35,6 @@ constexpr FileKind kMatrixFiles{u"TXT(*.txt)", u"txt"};
 /// The grid's header row and column stand before the cells of the matrix.
 constexpr int kHeaders = 1;
 
-struct KeyShortcut {
-  MatrixKey key;
-  const char* keys;
-};
-
-// For the keys whose work cannot be typed. The letters are none of those of the menus.
-constexpr std::array kShortcuts{
-    KeyShortcut{MatrixKey::Deg, "Alt+D"},         KeyShortcut{MatrixKey::Functions, "Alt+X"},
-    KeyShortcut{MatrixKey::Tools, "Alt+T"},       KeyShortcut{MatrixKey::ClearCells, "Alt+C"},
-    KeyShortcut{MatrixKey::PlayBack, "Alt+P"},    KeyShortcut{MatrixKey::Operations, "Alt+O"},
-    KeyShortcut{MatrixKey::MatrixTools, "Alt+L"}, KeyShortcut{MatrixKey::Variables, "Alt+V"},
-    KeyShortcut{MatrixKey::Size, "Alt+S"},
-};
-
-const char* ShortcutOf(MatrixKey key) {
-  const auto* row = std::find_if(kShortcuts.begin(), kShortcuts.end(),
-                                 [key](const KeyShortcut& s) { return s.key == key; });
-  return row != kShortcuts.end() ? row->keys : nullptr;
-}
-
-std::vector<KeySpot> KeySpots() {
-  std::vector<KeySpot> spots;
-  for (const MatrixKeyRow& row : MatrixKeyRows()) {
-    std::vector<std::u16string_view> captions{row.caption};
-    if (row.key == MatrixKey::Deg) captions = {kDegreesCaption, kRadiansCaption};
-    spots.push_back({static_cast<int>(row.key), QRect(row.x, row.y, row.width, kKeyHeight),
-                     row.colour, std::move(captions), ShortcutOf(row.key)});
-  }
-  return spots;
-}
-
 /// Tabs that fill the strip: what their texts leave of its width they share alike.
 class FillingTabs final : public QTabBar {
  public:
@@ -92,7 +61,7 @@ class FillingTabs final : public QTabBar {
 }  // namespace
 
 CMatrixDlg::CMatrixDlg(Frame& frame)
-    : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), KeySpots()),
+    : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), SpotsOf(MatrixKeyRows())),
       model_(frame.Store()),
       tabs_(new FillingTabs(this)),
       grid_(new CGridCtrl(this)) {

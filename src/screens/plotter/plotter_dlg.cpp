@@ -24,46 +24,7 @@
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
-namespace {
-
-struct KeyFacts {
-  PlotterKey key;
-  const char* shortcut;
-  std::u16string_view description;
-};
-
-// For the keys whose work cannot be typed, or whose caption does not say what it is. The letters
-// are none of those of the menus.
-constexpr std::array kKeyFacts{
-    KeyFacts{PlotterKey::Add, nullptr, kAddName},
-    KeyFacts{PlotterKey::DeleteEquation, "Alt+R", kDeleteEquationName},
-    KeyFacts{PlotterKey::Deg, "Alt+D", {}},
-    KeyFacts{PlotterKey::Macro, "Alt+A", {}},
-    KeyFacts{PlotterKey::PlayBack, "Alt+P", {}},
-    KeyFacts{PlotterKey::Shift, "Alt+S", {}},
-    KeyFacts{PlotterKey::ShiftActive, "Alt+S", kShiftIsOn},
-};
-
-KeySpot SpotOf(const PlotterKeyRow& row) {
-  std::vector<std::u16string_view> captions{row.plain.caption, row.shifted.caption};
-  if (row.key == PlotterKey::Deg) captions = {kDegreesCaption, kRadiansCaption};
-  KeySpot spot{static_cast<int>(row.key), QRect(row.x, row.y, row.width, kKeyHeight), row.colour,
-               std::move(captions)};
-  const auto* facts = std::find_if(kKeyFacts.begin(), kKeyFacts.end(),
-                                   [&row](const KeyFacts& f) { return f.key == row.key; });
-  if (facts == kKeyFacts.end()) return spot;
-  spot.shortcut = facts->shortcut;
-  spot.description = facts->description;
-  return spot;
-}
-
-std::vector<KeySpot> KeySpots() {
-  std::vector<KeySpot> spots;
-  for (const PlotterKeyRow& row : PlotterKeyRows()) spots.push_back(SpotOf(row));
-  return spots;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 CPlotterDlg::CPlotterDlg(Frame& frame)
     : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight)),
@@ -76,7 +37,7 @@ CPlotterDlg::CPlotterDlg(Frame& frame)
       grid_(NewOptionBox(kGridCaption, PlotterOption::Grid)),
       line_(NewOptionBox(kLineCaption, PlotterOption::Line)) {
   MakeList();
-  AddKeys(KeySpots());
+  AddKeys(SpotsOf(PlotterKeyRows()));
   OrderTabs();
   AddMenus(ScreenMode::Plotter, DisplayPage::Normal, [] {});
   CPlotterDlg::Refresh();

@@ -27,43 +27,6 @@ constexpr double kHighestLine = 1.3;
 
 constexpr FileKind kDataFiles{u"TXT(*.txt)", u"txt"};
 
-struct KeyShortcut {
-  StatisticsKey key;
-  const char* keys;
-};
-
-// For the keys that open something; the letters are none of those of the menus.
-constexpr std::array kShortcuts{
-    KeyShortcut{StatisticsKey::Save, "Ctrl+S"},      KeyShortcut{StatisticsKey::Load, "Ctrl+O"},
-    KeyShortcut{StatisticsKey::Clear, "Alt+C"},      KeyShortcut{StatisticsKey::Plot, "Alt+P"},
-    KeyShortcut{StatisticsKey::MemoryMenu, "Alt+V"}, KeyShortcut{StatisticsKey::Model, "Alt+R"},
-};
-
-const char* ShortcutOf(StatisticsKey key) {
-  const auto* row = std::find_if(kShortcuts.begin(), kShortcuts.end(),
-                                 [key](const KeyShortcut& s) { return s.key == key; });
-  return row != kShortcuts.end() ? row->keys : nullptr;
-}
-
-/// Every caption that a key can show.
-std::vector<std::u16string_view> CaptionsOf(const StatisticsKeyRow& row) {
-  if (row.key != StatisticsKey::Model) return {row.caption};
-  std::vector<std::u16string_view> captions;
-  for (const MenuItem& item : BuildModelMenu()) {
-    captions.push_back(ModelCaption(*ModelOfItem(item.id)));
-  }
-  return captions;
-}
-
-std::vector<KeySpot> KeySpots(DataShape shape) {
-  std::vector<KeySpot> spots;
-  for (const StatisticsKeyRow& row : StatisticsKeyRows(shape)) {
-    spots.push_back({static_cast<int>(row.key), UnitsOf(row.place), row.colour, CaptionsOf(row),
-                     ShortcutOf(row.key), row.description});
-  }
-  return spots;
-}
-
 bool IsByTab(const QFocusEvent& event) {
   return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
 }
@@ -95,7 +58,7 @@ StatisticsScreen::StatisticsScreen(Frame& frame, ScreenMode mode,
   table_->installEventFilter(this);
   SetTableHooks();
   result_->setAccessibleName(ToQt(kResultName));
-  AddKeys(KeySpots(model_->Shape()));
+  AddKeys(SpotsOf(StatisticsKeyRows(model_->Shape())));
   AddMenus(mode, DisplayPage::Normal, [this] { model_->TakeDisplaySettings(); });
   StatisticsScreen::Refresh();
 }

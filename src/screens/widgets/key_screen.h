@@ -138,4 +138,16 @@ inline QRect UnitsOf(const LinePlace& place) {
   return {place.x, place.y, place.width, place.height};
 }
 
+/// The keys of the rows of a keypad.
+template <class Rows>
+std::vector<KeySpot> SpotsOf(const Rows& rows) {
+  std::vector<KeySpot> spots;
+  spots.reserve(rows.size());
+  for (const auto& row : rows) {
+    spots.push_back({static_cast<int>(row.key), UnitsOf(row.place), row.colour, CaptionsOf(row),
+                     row.shortcut, row.description});
+  }
+  return spots;
+}
+
 }  // namespace kav

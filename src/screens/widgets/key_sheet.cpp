@@ -51,7 +51,9 @@ void KeySheet::Refresh(const std::function<KeyState(int)>& stateOf) {
     if (view->text() != caption) {
       view->setText(caption);
       // A new text takes the old one's shortcut away.
-      view->setShortcut(QKeySequence(QLatin1String(view->Spot().shortcut)));
+      const std::string_view shortcut = view->Spot().shortcut;
+      view->setShortcut(
+          QString::fromUtf8(shortcut.data(), static_cast<qsizetype>(shortcut.size())));
       view->setToolTip(view->shortcut().toString(QKeySequence::NativeText));
     }
     view->setEnabled(state.isEnabled);

@@ -16,7 +16,7 @@ struct KeySpot {
   QRect place;  ///< in dialog units
   KeyColour colour;
   std::vector<std::u16string_view> captions;  ///< all that it may ever show
-  const char* shortcut = nullptr;             ///< such as "Alt+D"; null for none
+  std::string_view shortcut = {};             ///< such as "Alt+D"; empty for none
   std::u16string_view description = {};       ///< for screen readers, beside its caption
 };
 
