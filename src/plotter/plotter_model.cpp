@@ -9,7 +9,7 @@
 #include "display/number_format.h"
 #include "engine/formula_checker.h"
 #include "line/line_texts.h"
-#include "macros/macros_texts.h"
+#include "macros/macro_call.h"
 #include "plotter/plotter_texts.h"
 #include "settings/keys.h"
 
@@ -46,6 +46,7 @@ PlotterRefusal RefuseField(const Refusal<RangeField>& refusal) {
 
 PlotterModel::PlotterModel(SettingsStore& store)
     : store_(store),
+      macros_(store),
       angle_(AngleUnitFromSetting(store.Get(kAngleType))),
       equations_(EquationList::Load(store)),
       range_(LoadRange(store)),
@@ -116,7 +117,7 @@ PlotterRequest PlotterModel::Press(PlotterKey key) {
     case PlotterKey::PlayBack:
       return ShowMenu<PlotterKey>{key};
     case PlotterKey::Macro:
-      return RequestMacroList();
+      return MacroRequest();
     default:
       Change(key);
       return Nothing{};
@@ -176,11 +177,17 @@ PlotterRequest PlotterModel::Choose(PlotterKey key, int id) {
   return Nothing{};
 }
 
-PlotterRequest PlotterModel::RequestMacroList() {
-  // Another program may have stored the first one.
-  store_.Refresh();
-  if (store_.Get(kMacroCount) > 0) return OpenMacroList{};
-  return TellStop{std::u16string(kNoMacroStored)};
+PlotterRequest PlotterModel::MacroRequest() {
+  const auto request = RequestMacro(store_, macros_);
+  // Where equations are typed, the editor of macros does not open by itself.
+  if (const auto* none = std::get_if<OpenMacroEditor>(&request)) {
+    return TellStop{std::u16string(none->message)};
+  }
+  return OpenMacroList{};
+}
+
+void PlotterModel::TakeMacro(int index) {
+  if (index >= 0 && index < macros_.Count()) Insert(Widen(macros_.At(index).formula));
 }
 
 PlotterRequest PlotterModel::Plot() {

@@ -14,6 +14,7 @@
 #include "line/key_request.h"
 #include "line/key_state.h"
 #include "line/screen_menus.h"
+#include "macros/macro_store.h"
 #include "plotter/equation_list.h"
 #include "plotter/graph_input.h"
 #include "plotter/plotter_keypad.h"
@@ -68,8 +69,8 @@ class PlotterModel {
   Menu MenuOf(PlotterKey key) const;
   /// An id that the menu of `key` does not offer does nothing.
   PlotterRequest Choose(PlotterKey key, int id);
-  /// Inserts the formula of a macro into the input.
-  void TakeMacro(std::u16string_view formula) { Insert(formula); }
+  /// Inserts the formula of macro `index` into the input; nothing if there is no such macro.
+  void TakeMacro(int index);
 
   AngleUnit Angle() const { return angle_; }
   const History& PastEquations() const { return history_; }
@@ -77,11 +78,12 @@ class PlotterModel {
  private:
   void Change(PlotterKey key);
   void Insert(std::u16string_view text);
-  PlotterRequest RequestMacroList();
+  PlotterRequest MacroRequest();
   PlotterRequest Plot();
   PlotterRequest PlotIn(const PlotRange& range);
 
   SettingsStore& store_;
+  MacroStore macros_;
   AngleUnit angle_;
   EquationList equations_;
   RangeTexts range_;

@@ -2,11 +2,13 @@
 #include <gtest/gtest.h>
 
 #include "support/plotter_screen.h"
+#include "support/stored_macros.h"
 
 namespace kav {
 namespace {
 
 using test::PlotterScreen;
+using test::StoreMacros;
 
 TEST_F(PlotterScreen, WritingKeysEditTheInput) {
   struct Row {
@@ -134,30 +136,42 @@ TEST_F(PlotterScreen, WhatHasAMistakeIsInTheHistoryAndNothingEmpty) {
 // Macros.
 
 TEST_F(PlotterScreen, WithoutMacrosTheUserIsToldSo) {
-  EXPECT_TRUE(Is<TellStop>(Press(u"Mac")));
+  const PlotterRequest request = Press(u"Mac");
+  ASSERT_TRUE(Is<TellStop>(request));
+  EXPECT_EQ(std::get<TellStop>(request).text, u"Not exist saved macro");
   Set("MacroInfo", "TotalNumber", -1);
   EXPECT_TRUE(Is<TellStop>(Press(u"Mac")));
 }
 
 TEST_F(PlotterScreen, WithMacrosTheirListIsAskedFor) {
-  Set("MacroInfo", "TotalNumber", 1);
+  StoreMacros(store_, {{"sq", "TYPE1 : F(X)", "x^2"}});
   EXPECT_TRUE(Is<OpenMacroList>(Press(u"Mac")));
 }
 
 TEST_F(PlotterScreen, AMacrosFormulaIsInsertedInPlaceOfTheSelection) {
+  StoreMacros(store_, {{"sq", "TYPE1 : F(X)", "x^2"}, {"up", "TYPE1 : F(X)", "x^2+1"}});
   Put(u"2*[y]");
-  model_->TakeMacro(u"x^2+1");
+  model_->TakeMacro(1);
   EXPECT_EQ(MarkedNow(), u"2*x^2+1|");
 }
 
+TEST_F(PlotterScreen, AMacroThatIsNotThereChangesNothing) {
+  StoreMacros(store_, {{"sq", "TYPE1 : F(X)", "x^2"}});
+  Put(u"2*[y]");
+  for (const int index : {-1, 1, 60}) model_->TakeMacro(index);
+  EXPECT_EQ(MarkedNow(), u"2*[y]");
+}
+
 TEST_F(PlotterScreen, TextsMuchTooLongToBeReadAreCutInTheInput) {
-  model_->TakeMacro(std::u16string(1'000'000, u'x'));
+  StoreMacros(store_, {{"long", "TYPE1 : F(X)", std::string(1'000'000, 'x')}});
+  model_->TakeMacro(0);
   EXPECT_LT(model_->Input().Text().size(), 20'000U);
   EXPECT_EQ(model_->Input().Text().back(), u'…');
 }
 
 TEST_F(PlotterScreen, WhatIsInsertedIsOneLine) {
-  model_->TakeMacro(u"x\n+\t1");
+  StoreMacros(store_, {{"lines", "TYPE1 : F(X)", "x\n+\t1"}});
+  model_->TakeMacro(0);
   EXPECT_EQ(MarkedNow(), u"x + 1|");
 }
 

@@ -12,10 +12,7 @@
 #include <variant>
 #include <vector>
 
-#include "common/number_text.h"
 #include "line/line_texts.h"
-#include "macros/macro_store.h"
-#include "macros/macros_texts.h"
 #include "plotter/plotter_texts.h"
 #include "screens/plotter/equation_input_view.h"
 #include "screens/plotter/graph_view.h"
@@ -152,15 +149,6 @@ void CPlotterDlg::Do(const PlotterRefusal& request) {
 void CPlotterDlg::OnYes(PlotterKey) {
   model_.DeleteEquation();
   Save();
-}
-
-void CPlotterDlg::Do(const OpenMacroList&) {
-  const std::optional<int> index = Dialogs().macroList(this);
-  const MacroStore macros(ParentFrame().Store());
-  if (index && *index >= 0 && *index < macros.Count()) {
-    model_.TakeMacro(Widen(macros.At(*index).formula));
-  }
-  Refresh();
 }
 
 void CPlotterDlg::Do(const OpenGraph& request) {

@@ -43,7 +43,6 @@ class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
   void CarryOut(const PlotterRequest& request) override;
   void OnYes(PlotterKey key) override;
   void Do(const PlotterRefusal& request);
-  void Do(const OpenMacroList& request);
   void Do(const OpenGraph& request);
 
   // The Edit menu works on the field that had the focus last, or else on the input.
