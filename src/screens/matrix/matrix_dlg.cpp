@@ -4,28 +4,22 @@
 #include <QClipboard>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QTabBar>
 #include <QToolTip>
-#include <algorithm>
 #include <array>
-#include <string_view>
 #include <variant>
 
-#include "line/line_texts.h"
 #include "matrix/matrix_texts.h"
 #include "screens/grid/grid_access_view.h"
 #include "screens/matrix/matrix_size_dlg.h"
+#include "screens/matrix/matrix_tabs_view.h"
 #include "screens/widgets/file_choice.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
 namespace {
 
-/// Of the heights of line and tabs.
+/// Of the height of the line.
 constexpr double kLineTextHeight = 0.62;
-constexpr double kTabTextHeight = 0.55;
-/// What the text of a tab leaves free of it at least, in pixels.
-constexpr int kTabMargins = 4;
 /// Of the pixels of a screen that is 240 wide, which the widths of columns are counted in.
 constexpr double kScreenPixels = 240;
 constexpr double kCellText = 11.5;
@@ -35,40 +29,13 @@ constexpr FileKind kMatrixFiles{u"TXT(*.txt)", u"txt"};
 /// The grid's header row and column stand before the cells of the matrix.
 constexpr int kHeaders = 1;
 
-/// Tabs that fill the strip: what their texts leave of its width they share alike.
-class FillingTabs final : public QTabBar {
- public:
-  using QTabBar::QTabBar;
-
- private:
-  void resizeEvent(QResizeEvent* event) override {
-    const int most = qRound(height() * kTabTextHeight);
-    setFont(ScreenFont(most));
-    int needed = count() * kTabMargins;
-    for (int i = 0; i < count(); ++i) needed += TextWidth(i);
-    if (needed > width()) setFont(ScreenFont(most * width() / needed));
-    QTabBar::resizeEvent(event);
-  }
-  int TextWidth(int index) const { return fontMetrics().horizontalAdvance(tabText(index)); }
-  QSize tabSizeHint(int index) const override {
-    int rest = width();
-    for (int i = 0; i < count(); ++i) rest -= TextWidth(i);
-    return {TextWidth(index) + std::max(rest, 0) / count(), height()};
-  }
-  QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
-};
-
 }  // namespace
 
 CMatrixDlg::CMatrixDlg(Frame& frame)
     : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), SpotsOf(MatrixKeyRows())),
       model_(frame.Store()),
-      tabs_(new FillingTabs(this)),
+      tabs_(new MatrixTabs(this)),
       grid_(new CGridCtrl(this)) {
-  tabs_->setStyle(ScreenStyle());
-  tabs_->setExpanding(true);
-  tabs_->setUsesScrollButtons(false);
-  for (const auto name : kMatrixNames) tabs_->addTab(ToQt(name));
   connect(tabs_, &QTabBar::currentChanged, this, &CMatrixDlg::OnTab);
   MakeGrid();
   setTabOrder(&Result(), tabs_);
@@ -261,7 +228,7 @@ bool CMatrixDlg::OnGridKey(const QKeyEvent& event) {
       EditKey{QKeySequence::Copy, EditCommand::Copy},
       EditKey{QKeySequence::Paste, EditCommand::Paste},
   };
-  // Ahead of the grid, which would take it for the beginning of a cell.
+  // Before the grid, which would begin to edit a cell with it.
   if (event.text() == u"=") {
     OnEquals();
     return true;

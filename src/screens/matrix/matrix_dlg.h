@@ -1,4 +1,4 @@
-// The matrix screen: its model's picture.
+// The matrix screen: the widgets that show its model.
 #pragma once
 
 #include <QHelpEvent>

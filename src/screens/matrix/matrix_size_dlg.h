@@ -13,7 +13,7 @@ struct MatrixSize {
   int columns;
 };
 
-/// The size that the user chose, `now` being the one to begin with; nullopt where there was none.
+/// Runs the dialog, which begins with the size `now`. The chosen size; nullopt if it was cancelled.
 std::optional<MatrixSize> RunMatrixSize(QWidget* parent, MatrixSize now);
 
 }  // namespace kav

@@ -1,0 +1,45 @@
+#include "screens/matrix/matrix_tabs_view.h"
+
+#include <algorithm>
+
+#include "matrix/matrix_value.h"
+#include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// Of the height of the tabs.
+constexpr double kTextHeight = 0.55;
+/// What the text of a tab leaves free of it at least, in pixels.
+constexpr int kMargins = 4;
+
+}  // namespace
+
+MatrixTabs::MatrixTabs(QWidget* parent) : QTabBar(parent) {
+  setStyle(ScreenStyle());
+  setExpanding(true);
+  setUsesScrollButtons(false);
+  for (const auto name : kMatrixNames) addTab(ToQt(name));
+}
+
+void MatrixTabs::resizeEvent(QResizeEvent* event) {
+  const int most = qRound(height() * kTextHeight);
+  setFont(ScreenFont(most));
+  int needed = count() * kMargins;
+  for (int i = 0; i < count(); ++i) needed += TextWidth(i);
+  if (needed > width()) setFont(ScreenFont(most * width() / needed));
+  QTabBar::resizeEvent(event);
+}
+
+QSize MatrixTabs::tabSizeHint(int index) const {
+  int rest = width();
+  for (int i = 0; i < count(); ++i) rest -= TextWidth(i);
+  return {TextWidth(index) + std::max(rest, 0) / count(), height()};
+}
+
+int MatrixTabs::TextWidth(int index) const {
+  return fontMetrics().horizontalAdvance(tabText(index));
+}
+
+}  // namespace kav
