@@ -98,7 +98,7 @@ void ScientificModel::Change(Key key) {
 
 ScientificRequest ScientificModel::ConverterRequest() const {
   std::u16string value(kValueToConvert);
-  // Where the last "=" failed, the answer is 0 as well.
+  // If the last "=" failed, the answer is 0 as well.
   if (lastAnswer_ != 0) {
     DisplayFormat format = format_;
     // The converter reads the text back, and separators would end the number.
@@ -131,14 +131,12 @@ void ScientificModel::Answer(double value) {
 void ScientificModel::Fail(const LineFailure& failure) {
   lastAnswer_ = 0;
   resultText_ = Widen(failure.message);
-  showsAnswer_ = false;
   errorText_ = failure.cause == LineFailure::Cause::EmptyLine ? kNoExpression : resultText_;
   if (failure.cause == LineFailure::Cause::Evaluation) history_.Add(expression_);
 }
 
 void ScientificModel::ShowAnswer() {
   resultText_ = ShownNumber(lastAnswer_, format_, modes_.baseMode);
-  showsAnswer_ = true;
 }
 
 Menu ScientificModel::MenuOf(Key key) const {

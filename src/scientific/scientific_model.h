@@ -38,8 +38,6 @@ class ScientificModel {
   const ExpressionLine& Line() const { return line_; }
   void SetLine(std::u16string text, Selection selection);
   const std::u16string& ResultText() const { return resultText_; }
-  /// Whether the result line shows LastAnswer(), not the message of a failure.
-  bool ShowsAnswer() const { return showsAnswer_; }
 
   // The keys as they are now.
   std::u16string_view Caption(Key key) const;
@@ -47,7 +45,7 @@ class ScientificModel {
   bool IsVisible(Key key) const;
   /// Presses `key`; a disabled or hidden one does nothing.
   ScientificRequest Press(Key key);
-  /// The visible key that shows `caption`, nullopt where none does.
+  /// The visible key that shows `caption`; nullopt if none does.
   std::optional<Key> KeyShowing(std::u16string_view caption) const;
 
   /// The menu that `key` opens now; empty for a key without one.
@@ -56,14 +54,15 @@ class ScientificModel {
   ScientificRequest Choose(Key key, int id);
 
   // What dialogs bring back.
+  /// Replaces the selection by the result, if there is one; keeps the positions and the register M.
   void TakeConverter(const ConverterOutcome& outcome);
-  /// Writes the call of macro `index` around the selection.
+  /// Writes the call of macro `index` around the selection; nothing if there is no such macro.
   void TakeMacro(int index);
   /// Inserts the text of a recalled memory variable.
   void TakeVariable(std::u16string_view value);
   /// Inserts the text of a constant.
   void TakeConstant(std::u16string_view value);
-  /// Reads the display settings anew after their dialog changed them.
+  /// Reads the display settings again after their dialog changed them.
   void TakeDisplaySettings();
 
   AngleUnit Angle() const { return modes_.angleUnit; }
@@ -72,9 +71,9 @@ class ScientificModel {
   double LastAnswer() const { return lastAnswer_; }
   double Memory() const { return converter_.memory; }
   const History& PastLines() const { return history_; }
-  /// The message of the last "="; empty where it had an answer, and before the first.
+  /// The message of the last "="; empty if that had an answer, and before the first "=".
   const std::u16string& ErrorText() const { return errorText_; }
-  /// The line as the last "=" or the last CLR found it.
+  /// The line as it was when "=" or CLR was last pressed.
   const std::u16string& Expression() const { return expression_; }
 
  private:
@@ -100,7 +99,6 @@ class ScientificModel {
   std::u16string expression_;
   std::u16string errorText_;
   std::u16string resultText_;
-  bool showsAnswer_ = true;
   double lastAnswer_ = 0;
 };
 

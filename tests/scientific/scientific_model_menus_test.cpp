@@ -214,19 +214,19 @@ TEST_F(Screen, ConstantIsInsertedAsItStandsInDecimalOnly) {
   EXPECT_EQ(MarkedNow(), u"11|");
 }
 
-TEST_F(Screen, ResultLineTellsAnAnswerFromAMessage) {
-  EXPECT_TRUE(model_->ShowsAnswer());
+TEST_F(Screen, OnlyAnotherBaseShowsTheAnswerInPlaceOfAMessage) {
   for (const std::u16string_view failing : {u"1/0", u"", u"M:G(1)"}) {
     Evaluate(failing);
-    EXPECT_FALSE(model_->ShowsAnswer());
+    const std::u16string message = Result();
+    EXPECT_NE(message, u"0");
     model_->Choose(Key::Dec, kDecimalItem);
-    EXPECT_FALSE(model_->ShowsAnswer());
+    EXPECT_EQ(Result(), message);
     Evaluate(u"1");
-    EXPECT_TRUE(model_->ShowsAnswer());
+    EXPECT_EQ(Result(), u"1");
   }
   Evaluate(u"1/0");
   model_->Choose(Key::Dec, kHexadecimalItem);
-  EXPECT_TRUE(model_->ShowsAnswer());
+  EXPECT_EQ(Result(), u"0");
 }
 
 // Macros.
