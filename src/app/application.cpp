@@ -26,7 +26,7 @@ std::string Environment(const char* name) {
   return value != nullptr ? value : "";
 }
 
-/// What stands where no option of the toolkit can stand.
+/// Whether this can be no option of the toolkit.
 bool IsMistake(std::string_view argument) {
   return !argument.starts_with('-') || argument.starts_with("--");
 }

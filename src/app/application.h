@@ -1,11 +1,11 @@
-// The program as a whole: who runs, on which settings, until when.
+// The program as a whole.
 #pragma once
 
 namespace kav {
 
-/// Runs the calculator until its user leaves it and returns the exit status of the process: 0, also
-/// where another copy runs already and was called to the foreground; 2 where there were arguments,
-/// of which it takes none but the toolkit's own.
+/// Runs the calculator until the user ends it. Returns the exit status of the process: 0, even if
+/// another copy was already running and only was called to the foreground; 2 if there are arguments
+/// other than the toolkit's own.
 int RunApplication(int argc, char** argv);
 
 }  // namespace kav

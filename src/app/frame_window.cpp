@@ -35,8 +35,7 @@ constexpr std::array kScreens{
     ScreenKind{ScreenMode::Plotter, kPlotterScreen, MakePlotterScreen},
 };
 
-/// How long the frame waits to be painted: a desktop may keep a window that it has just been given
-/// from being seen.
+/// How long the frame waits to be painted: some desktops never show it.
 constexpr int kPatienceMs = 200;
 
 WindowPlace StoredPlace(const SettingsStore& store) {
@@ -67,7 +66,6 @@ std::span<const ScreenKind> AllScreens() {
 }
 
 ScreenDialogs AllDialogs(SettingsStore& store) {
-  // A line for each dialog that there is.
   ScreenDialogs dialogs;
   dialogs.displaySettings = [&store](QWidget* parent, DisplayPage first) {
     return RunDisplaySettings(parent, store, first);

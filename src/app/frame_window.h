@@ -34,9 +34,9 @@ struct FrameHooks {
   std::function<void()> finished;   ///< the last screen is gone: the application may end
 };
 
-/// Shows "Loading..." until the first screen is there, then stays hidden behind it. Screens take
-/// turns in two slots, so that the new one is there before the old one goes. Store and screens must
-/// outlive the frame; the first screen is the one that stands for modes that no screen has.
+/// Shows "Loading..." until the first screen is shown, and then hides. There are two slots for
+/// screens, so that a new screen is there before the old one goes. `store` and `screens` must
+/// outlive the frame. A mode without a screen shows the first of `screens`.
 class FrameWindow final : public QWidget, public Frame {
  public:
   FrameWindow(SettingsStore& store, std::span<const ScreenKind> screens, ScreenDialogs dialogs,
@@ -44,11 +44,12 @@ class FrameWindow final : public QWidget, public Frame {
   /// Closes what is still open and stores the mode and the window's place.
   ~FrameWindow() override;
 
-  /// Opens the screen of the current mode, then closes the one there was. A mode that no screen of
-  /// this build has stays the current one, and is stored, so that a build that has it opens it.
+  /// Opens the screen of the current mode, then closes the old one. A mode without a screen stays
+  /// the current one and is stored, for a build that has its screen.
   void SwitchMode();
 
-  /// The screen shown, or its last box or pop-up, restored and in front; nothing before the first.
+  /// Restores the shown screen and brings it, or the dialog over it, to the front. Does nothing
+  /// before the first screen.
   void ComeToFront();
 
   /// Null before the first screen is there and after the last is gone.

@@ -13,14 +13,14 @@
 
 namespace kav {
 
-/// Keeps the signals that ask a program to end from ending it at once, in this thread and in those
-/// that it starts from now on: a session reads them and ends in good order. To be called before the
-/// toolkit starts threads of its own, any of which a signal may reach.
+/// Blocks the signals that ask a program to end, in this thread and in those that it starts from
+/// now on: a session reads them and ends in good order. Call it before the toolkit starts threads,
+/// any of which may receive a signal.
 void HoldEndSignals();
 
-/// Lasts from the first sight of the frame to the end of its last screen, and then ends the event
-/// loop, as do the signals by which a desktop or a terminal asks a program to end. Saves the
-/// settings at its end, however that comes about, and tells the user once what is wrong with them.
+/// Begins with the frame and ends with its last screen, or with a signal by which a desktop or a
+/// terminal asks a program to end; it then ends the event loop. Always saves the settings at its
+/// end, and tells the user once what is wrong with them.
 class Session {
  public:
   /// Settings are kept in the file `settingsPath`. Calls that `instance` takes bring the screen to

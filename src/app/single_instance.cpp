@@ -60,7 +60,7 @@ const sockaddr* Plain(const sockaddr_un& address) {
   return reinterpret_cast<const sockaddr*>(&address);
 }
 
-/// The socket on which the first one is called; what a killed predecessor left goes.
+/// The socket on which the first one is called. Removes what a killed process has left there.
 FileDescriptor Listen(const FileDescriptor& folder) {
   constexpr int kWaitingCalls = 16;
   unlinkat(folder.Number(), kSocketName, 0);

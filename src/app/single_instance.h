@@ -1,4 +1,4 @@
-// One running calculator per user: who comes second calls the first to the foreground and ends.
+// One running calculator per user: a second one calls the first to the foreground and ends.
 #pragma once
 
 #include <chrono>
@@ -8,9 +8,9 @@
 
 namespace kav {
 
-/// The folder where copies of one user's program meet: `runtimeFolder` (that of the user's login)
-/// where it is the user's own and nobody else has access, else "kav-calculator-UID" in
-/// `temporaryFolder`, made where it is missing. Not open where that is not the user's own either.
+/// The folder in which the copies of one user's program meet. It is `runtimeFolder` (that of the
+/// user's login) if the user owns it and nobody else has access; else "kav-calculator-UID" in
+/// `temporaryFolder`, made if it is missing. Not open if the user does not own that one either.
 FileDescriptor OpenMeetingFolder(const std::string& runtimeFolder,
                                  const std::string& temporaryFolder);
 
@@ -28,14 +28,14 @@ class SingleInstance {
 
   Outcome Result() const { return outcome_; }
 
-  /// Becomes readable when a call arrives; -1 where none can arrive.
+  /// Becomes readable when a call arrives; -1 if none can arrive.
   int CallSocket() const { return socket_.Number(); }
 
-  /// Answers the calls that have arrived; whether there were any.
+  /// Answers the calls that have arrived. Returns whether there were any.
   bool TakeCalls() const;
 
-  /// Takes no more calls: who calls from now on waits for this process to end and then is the
-  /// first.
+  /// Takes no more calls. A copy that calls from now on waits for this process to end and then is
+  /// the first.
   void StopListening();
 
  private:

@@ -19,20 +19,20 @@ struct WindowPlace {
   bool operator==(const WindowPlace&) const = default;
 };
 
-/// "x y width height", followed by "maximized" where it is.
+/// "x y width height", followed by "maximized" if it is.
 std::string PrintPlace(const WindowPlace& place);
 
 /// The place that PrintPlace wrote as `text`; nullopt for any other text.
 std::optional<WindowPlace> ReadPlace(std::string_view text);
 
-/// `wanted` moved, and where need be shrunk, to lie within the one of the `desktops` (at least one;
-/// the first is the main one) that it overlaps most.
+/// `wanted`, moved and if necessary shrunk to lie within the desktop that it overlaps most.
+/// `desktops` has at least one; the first is the main one.
 QRect MovedOntoDesktop(const QRect& wanted, std::span<const QRect> desktops);
 
 /// Where a first window opens on a desktop: in its middle, of a comfortable size.
 QRect FirstPlace(const QRect& desktop);
 
-/// The place of a window of ours, and how another takes it.
+/// Reads and sets the place of a window.
 WindowPlace PlaceOf(const QWidget& window);
 void TakePlace(QWidget& window, const WindowPlace& place);
 

@@ -9,10 +9,10 @@
 
 namespace kav {
 
-/// The positions in the converter's lists, which outlive a run, and the memory register M, which
-/// does not: the converter may change both.
+/// The positions in the converter's lists, which are stored, and the memory register M, which is
+/// not. The converter may change both.
 struct ConverterLink {
-  /// With the stored positions.
+  /// Loads the positions; M is 0.
   explicit ConverterLink(const SettingsStore& store);
   void Save(SettingsStore& store) const;
 
@@ -25,7 +25,7 @@ struct ConverterLink {
   double memory = 0;
 };
 
-/// What is converted before there is a number to convert, or where the last answer is 0.
+/// What the converter is opened with if the last answer is 0, or there is none yet.
 inline constexpr std::u16string_view kValueToConvert = u"1";
 
 }  // namespace kav

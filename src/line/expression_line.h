@@ -17,8 +17,8 @@ struct Selection {
   bool operator==(const Selection&) const = default;
 };
 
-/// Positions handed in are clamped to the text; one inside a surrogate pair moves behind it, so
-/// that no edit leaves half a character.
+/// A text and its selection, both counted in UTF-16 units. A position beyond the text means its
+/// end; one inside a surrogate pair moves behind the pair, so that no edit leaves half a character.
 class ExpressionLine {
  public:
   const std::u16string& Text() const { return text_; }
@@ -32,9 +32,10 @@ class ExpressionLine {
   /// Replaces the selection by `text`; the caret ends behind it.
   void InsertText(std::u16string_view text);
 
-  /// Puts `prefix` before the selection and `suffix` behind it, exchanged where the selection was
-  /// made from right to left. `shift` is how far the prefix moves the end of the selection, less
-  /// one. Without a selection the caret ends between the two, else behind the suffix.
+  /// Puts `prefix` before the selection and `suffix` behind it; the other way round if the
+  /// selection was made from right to left. The suffix is written `shift` + 1 characters behind the
+  /// old end of the selection. Without a selection the caret ends between the two, else behind the
+  /// suffix.
   void WrapSelection(std::u16string_view prefix, std::u16string_view suffix, std::size_t shift);
 
   /// Deletes the selection, or without one the character before (after) the caret.
@@ -49,22 +50,21 @@ class ExpressionLine {
   Selection selection_;
 };
 
-/// The part of a text that is to become another: `length` characters from `start` on become `text`.
+/// An edit of a text: `length` characters from `start` on become `text`.
 struct TextChange {
   std::size_t start;
   std::size_t length;
   std::u16string_view text;
 };
 
-/// The one change that makes `now` of `old`, the smallest there is. It refers to `now`.
+/// The smallest change that turns `old` into `now`. Its text is a view of `now`.
 TextChange ChangeBetween(std::u16string_view old, std::u16string_view now);
 
-/// The most characters of a stored text that a field shows: nobody reads more, and a field that
-/// holds much more is no longer fluent.
+/// The most characters of a stored text that a field shows. A field with many more is slow.
 inline constexpr std::size_t kLongestShownText = 1000;
 
-/// `text` as a field shows it: in one line and, if it is longer than that, cut, with an
-/// ellipsis behind it. A formula that was cut is still too long to be saved.
+/// `text` as a field shows it: on one line and, if it is longer than kLongestShownText, cut, with
+/// an ellipsis at its end. A formula that was cut is still too long to be saved.
 std::u16string ShownText(std::u16string_view text);
 
 /// Whether `position` lies between the two halves of one character of `text`.

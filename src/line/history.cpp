@@ -38,7 +38,7 @@ const BaseTag& TagOf(BaseMode base) {
                        [base](const BaseTag& tag) { return tag.base == base; });
 }
 
-/// The radix that a tag's letter stands for; decimal for a letter that stands for none.
+/// The radix of a tag's letter; 10 for an unknown letter.
 int RadixOf(char16_t letter) {
   const auto tag = std::find_if(kBaseTags.begin(), kBaseTags.end(),
                                 [letter](const BaseTag& row) { return row.letter == letter; });

@@ -30,7 +30,7 @@ class History {
  public:
   static constexpr std::size_t kCapacity = 20;
 
-  /// The stored entries; a count out of range is the nearest one in range.
+  /// The stored entries. A stored count outside 0 to kCapacity counts as the nearer of the two.
   static History Load(const SettingsStore& store, const HistoryKeys& keys);
   void Save(SettingsStore& store, const HistoryKeys& keys) const;
 
@@ -46,11 +46,11 @@ class History {
   std::vector<std::u16string> entries_;
 };
 
-/// The history's line for an answer that was shown as `shown` in `base`.
+/// The entry for an answer that was shown as `shown` in `base`.
 std::u16string AnswerEntry(std::u16string_view shown, BaseMode base);
 
-/// What choosing `entry` inserts: an expression as it stands, an answer as the number it records,
-/// read in the base of its tag and written as InsertedNumber does it.
+/// What choosing `entry` inserts. An expression is inserted as it stands. An answer is read in the
+/// base of its tag, and inserted as InsertedNumber writes it in `base`.
 std::u16string EntryInsertion(std::u16string_view entry, DisplayFormat format, BaseMode base);
 
 /// `entry` as a menu shows it: at most 20 characters.

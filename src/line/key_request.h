@@ -1,5 +1,5 @@
-// What the keys and menu items of a screen ask of the outside: one set of requests for all screens.
-// A model's own variant names those that it makes, and what only its screen knows.
+// What a screen's model asks of the outside when a key is pressed or a menu item is chosen. All
+// screens use these types; the model of each has a variant of those that it uses.
 #pragma once
 
 #include <optional>
@@ -17,8 +17,8 @@ struct ConverterPositions {
   bool operator==(const ConverterPositions&) const = default;
 };
 
-/// What the unit converter is opened with, and what it leaves: `memory` is the register M. `result`
-/// is the converted text where it was closed with OK.
+/// What the unit converter is opened with, and what it leaves; `memory` is the register M. `result`
+/// is the converted text, if the converter was closed with OK.
 struct ConverterInput {
   std::u16string value;
   ConverterPositions positions;
@@ -32,13 +32,13 @@ struct ConverterOutcome {
 
 struct Nothing {};
 
-/// The pop-up menu of `key`: the model's MenuOf(key), and then Choose(key, id).
+/// Show the pop-up menu of `key`: the model's MenuOf(key), and then call Choose(key, id).
 template <class Key>
 struct ShowMenu {
   Key key;
 };
 
-/// A question that pressing `key` raises; only on Yes does the key do its work.
+/// Ask before `key` does its work, which it does only on Yes.
 template <class Key>
 struct AskFirst {
   Key key;

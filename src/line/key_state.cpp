@@ -38,7 +38,7 @@ constexpr bool IsDecimalOnly(Key key) {
   }
 }
 
-/// Whether the digit on `key`, where there is one from 2 to 9, is one of `base`.
+/// False only if `key` has a digit from 2 to 9 that `base` does not have.
 constexpr bool IsDigitAllowed(Key key, BaseMode base) {
   switch (key) {
     case Key::Two:

@@ -10,8 +10,8 @@
 
 namespace kav {
 
-/// A key by what it is at its own place; its caption depends on the face it shows. Both Shift keys
-/// share a place, as each of A to F does with a function key.
+/// The keys. Their captions depend on Shift and base. Both Shift keys share a place; each of A to F
+/// shares one with a function key.
 enum class Key {
   // clang-format off
   Deg, Dec, Backspace, Delete, PlayBack, Clear,
@@ -64,7 +64,6 @@ struct KeyPlaceOf {
 using KeyPlace = KeyPlaceOf<Key>;
 
 // Where the two lines above the keys stand.
-
 inline constexpr LinePlace kExpressionPlace{3, 3, 130, 28};
 inline constexpr LinePlace kResultPlace{3, 47, 130, 11};
 
@@ -93,8 +92,7 @@ const KeyFace* FindFace(Key key, Face face);
 /// The `face` of `key`, or if it has none, its plain one.
 const KeyFace& FaceOf(Key key, Face face);
 
-/// Presses a key of the given face that only writes: `line` takes its edit for a bare caret or for
-/// a selection.
+/// Writes what a key with this face writes into `line`: nothing if the face has no edit.
 void ApplyFace(const KeyFace& face, ExpressionLine& line);
 
 }  // namespace kav

@@ -1,4 +1,4 @@
-// What the user reads on the scientific screen beside the captions that never change.
+// What the user reads on the scientific screen, apart from the captions of the keypad's table.
 #pragma once
 
 #include <string_view>

@@ -44,7 +44,7 @@ std::u16string_view BaseCaption(BaseMode base);
 /// The short name of `unit`, as the angle key shows it.
 std::u16string_view AngleCaption(AngleUnit unit);
 
-/// The memory menu. What works on the answer is offered only where `errorText` is empty.
+/// The memory menu. Items that use the answer are offered only if `errorText` is empty.
 Menu BuildMemoryMenu(std::u16string_view errorText);
 
 /// Whether `menu` has an item of that id.

@@ -7,7 +7,7 @@
 
 namespace kav {
 
-/// The ids of the menus whose items do more than writing; those of the others count from 1.
+// The ids of the two menus whose items do more than write. In the other menus they count from 1.
 namespace tools_item {
 inline constexpr int kConstants = 1;
 inline constexpr int kRecallVariable = 2;
@@ -27,20 +27,20 @@ inline constexpr int kAutofitWidths = 7;
 
 /// The functions of number expressions, by their names.
 Menu BuildFunctionMenu();
-/// What an item of it writes in front of the selection, behind which comes ")".
+/// What the item `id` of that menu writes before the selection; ")" comes behind it.
 std::u16string FunctionPrefix(int id);
 
 Menu BuildToolsMenu();
 
 /// The functions of matrix expressions.
 Menu BuildOperationMenu();
-/// What an item of it writes: the function's name and "(".
+/// What the item `id` of that menu writes: the function's name and "(".
 std::u16string OperationText(int id);
 
-/// The tools for the matrix `index`: nothing that would replace [M Ans] is offered for it.
+/// The tools for the matrix `index`. For [M Ans] there is none that would replace it.
 Menu BuildMatrixToolsMenu(int index);
 
-/// The names of the matrices, which are what the items write.
+/// The names of the matrices; the items write them.
 Menu BuildVariableMenu();
 
 }  // namespace kav

@@ -19,7 +19,7 @@
 namespace kav {
 namespace {
 
-/// What the screen reads and does not change.
+/// What the screen only reads. It stores the defaults, too, when it is closed.
 constexpr std::array kReadOnly{kMatrixDisplayType, kMatrixPrecision,   kMatrixRows,  kMatrixColumns,
                                kMatrixAlignment,   kMatrixColumnWidth, kDisplayType, kPrecision};
 
@@ -106,7 +106,7 @@ MatrixRequest MatrixModel::Evaluate() {
     line_.SelectAll();
     return EvaluateMatrix(text);
   }
-  // Numbers are for the matrices that are typed in: beside a result they would pass for it.
+  // A number beside [M Ans] would look like a part of that answer.
   if (Shown() != kAnswerMatrix) EvaluateNumber(text);
   return Nothing{};
 }

@@ -24,7 +24,7 @@
 
 namespace kav {
 
-// What only this screen is asked for.
+/// Show the size dialog with the current size, each from 1 to kLargestMatrix; then call Resize.
 struct AskMatrixSize {
   int rows;
   int columns;
@@ -49,7 +49,7 @@ class MatrixModel {
   // The two lines.
   const ExpressionLine& Line() const { return line_; }
   void SetLine(std::u16string text, Selection selection);
-  /// The last number expression's answer or message; empty before the first.
+  /// The answer or message of the last number expression; empty before the first.
   const std::u16string& ResultText() const { return resultText_; }
 
   // The keys and the menus that they open.
@@ -67,7 +67,7 @@ class MatrixModel {
   void TakeMacro(int index);
   void TakeVariable(std::u16string_view value);
   void TakeConstant(std::u16string_view value);
-  /// Reads the display settings anew after their dialog changed them; matrices keep their sizes.
+  /// Reads the display settings again after their dialog changed them; matrices keep their sizes.
   void TakeDisplaySettings();
 
   // The matrices and the one that is shown.
@@ -79,33 +79,35 @@ class MatrixModel {
   const ColumnWidths& Widths() const { return board_.Widths(); }
   void SetColumnWidths(const ColumnWidths& widths) { board_.SetWidths(widths); }
   CellAlignment Alignment() const { return settings_.alignment; }
-  /// Whether the text of a cell is more, or something else, than a number.
+  /// Whether the text of a cell is not exactly a number; false for an empty cell.
   bool IsMarked(int row, int column) const;
-  /// What a cell is read as, as the matrix display settings show it; empty for an empty cell.
+  /// The number that a cell is read as, in the matrix display format; empty for an empty cell.
   std::u16string CellHint(int row, int column) const;
 
   // Editing the shown matrix.
-  /// Cells of [M Ans] can be edited as those of the others.
+  /// Copies the text of a cell into the line, all of it selected; an empty cell changes nothing.
+  /// Rows and columns count from 0. Cells of [M Ans] can be edited, too.
   void BeginCellEdit(int row, int column);
   void SetCell(int row, int column, std::u16string text) {
     board_.SetCell(row, column, std::move(text));
   }
   void ClearCells(const CellRange& cells) { board_.ClearCells(cells); }
   void Resize(int rows, int columns) { board_.Resize(rows, columns); }
-  /// The cells as lines of texts with a TAB between them; of one cell alone: all of the matrix.
+  /// The texts of `cells`, a line for each row, with TABs between them. For a single cell, all of
+  /// the matrix.
   std::u16string CopyCells(const CellRange& cells) const { return board_.CopyCells(cells); }
-  /// Writes the numbers of `text` into the shown matrix from the cell on, which grows for them as
-  /// far as it can. What the user is to be told where something did not fit or is no number.
+  /// Writes the numbers of `text` into the shown matrix from a cell on; the matrix grows for them
+  /// as far as it can. Returns what to tell the user if something did not fit or is no number.
   std::optional<std::u16string> PasteCells(int row, int column, std::u16string_view text) {
     return board_.PasteCells(row, column, text);
   }
   bool CanUndo() const { return board_.CanUndo(); }
   bool CanRedo() const { return board_.CanRedo(); }
-  /// Show the matrix that changes.
+  /// Both also show the matrix that changes.
   void Undo() { board_.Undo(); }
   void Redo() { board_.Redo(); }
 
-  /// Both: what the user is to be told where it failed.
+  /// Both return what to tell the user if they failed.
   std::optional<std::u16string> SaveTo(const std::string& path) const {
     return board_.SaveTo(path);
   }

@@ -12,14 +12,14 @@
 
 namespace kav {
 
-/// Up to three equations in x, none twice where they were added here. While there are any, one of
-/// them is selected.
+/// Up to three equations in x. If there are any, one of them is selected. Stored ones may be equal;
+/// the caller adds none that the list Holds.
 class EquationList {
  public:
   static constexpr std::size_t kCapacity = kMostCurves;
 
-  /// The stored equations, the first selected. A count out of range is the nearest one in range,
-  /// and an empty text is no equation.
+  /// The stored equations, the first selected. A stored count outside 0 to kCapacity counts as the
+  /// nearer of the two; empty texts are left out.
   static EquationList Load(const SettingsStore& store);
   void Save(SettingsStore& store) const;
 
@@ -30,7 +30,7 @@ class EquationList {
   /// A place in the list, from 0; nullopt for an empty list.
   std::optional<std::size_t> Selected() const { return selected_; }
 
-  /// Nothing where there is no such place.
+  /// Does nothing if there is no such place.
   void Select(std::size_t place);
   /// Appends `equation` and selects it; a full list stays as it is.
   void Add(std::u16string equation);
@@ -42,8 +42,8 @@ class EquationList {
   std::optional<std::size_t> selected_;
 };
 
-/// What the curve of an equation is called that is the `place`-th of the list, from 0 to
-/// kMostCurves - 1: "R:F1(X)=sin(x)".
+/// The label of the curve of the equation at `place` (0 to kMostCurves - 1), such as
+/// "R:F1(X)=sin(x)".
 std::u16string CurveLabel(std::size_t place, std::u16string_view equation);
 
 }  // namespace kav

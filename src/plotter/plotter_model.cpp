@@ -28,7 +28,7 @@ RangeTexts LoadRange(const SettingsStore& store) {
   return texts;
 }
 
-/// What was stored may be of any length, and an input that holds much more is no longer fluent.
+/// A stored text may be of any length, and an input with many more characters is slow.
 std::u16string ShownInInput(std::u16string_view text) {
   constexpr std::size_t kMostShown = 16'384;
   return Shortened(text, kMostShown);
@@ -153,7 +153,7 @@ void PlotterModel::Insert(std::u16string_view text) {
 std::optional<PlotterRefusal> PlotterModel::Add() {
   const std::u16string equation(TrimBlanks(std::u16string_view(input_.Text())));
   if (equation.empty()) return RefuseInput(kEquationIsNull);
-  // Before anything is refused: what has a mistake in it can so be taken back and mended.
+  // Before anything is refused, so that the user can take back what has a mistake and mend it.
   history_.Add(equation);
   if (equations_.IsFull()) return RefuseInput(MaximumOfEquations(EquationList::kCapacity));
   const auto formula = CheckFormula(Narrow(equation), VariableType::X);
@@ -179,7 +179,7 @@ PlotterRequest PlotterModel::Choose(PlotterKey key, int id) {
 
 PlotterRequest PlotterModel::MacroRequest() {
   const auto request = RequestMacro(store_, macros_);
-  // Where equations are typed, the editor of macros does not open by itself.
+  // Unlike the other screens, this one does not open the editor if there is no macro.
   if (const auto* none = std::get_if<OpenMacroEditor>(&request)) {
     return TellStop{std::u16string(none->message)};
   }

@@ -50,7 +50,7 @@ class PlotterModel {
   const GraphOptions& Options() const { return options_; }
   void Toggle(PlotterOption option);
   const EquationList& Equations() const { return equations_; }
-  /// The user's choice of an equation: it is copied into the input.
+  /// Selects an equation and copies it into the input; does nothing if there is no such place.
   void ChooseEquation(std::size_t place);
 
   // The keys as they are now.
@@ -59,8 +59,8 @@ class PlotterModel {
   bool IsVisible(PlotterKey key) const;
   /// Presses `key`; a disabled or hidden one does nothing.
   PlotterRequest Press(PlotterKey key);
-  /// Adds the input to the equations, whether the key for it is enabled or not, and then clears it;
-  /// why that cannot be. Whatever was typed is in the history then.
+  /// Adds the input to the equations and clears it, even if the key for it is disabled. Returns why
+  /// it cannot be added; nullopt if it was. The history takes any input that is not blank.
   std::optional<PlotterRefusal> Add();
   /// Deletes the selected equation.
   void DeleteEquation();

@@ -1,4 +1,4 @@
-// The two statistics screens as pictures: where their parts stand and how their buttons are called.
+// The layout of the two statistics screens: where their parts stand and what their buttons say.
 #pragma once
 
 #include <optional>
@@ -20,13 +20,13 @@ enum class StatisticsKey {
   // clang-format on
 };
 
-/// All there is to say about one button of a screen; places are in dialog units of a screen of
-/// kScreenWidth by kScreenHeight. Buttons of which only some are visible at a time share places.
+/// All there is to say about one button of a screen. Buttons that are never visible together may
+/// share a place.
 struct StatisticsKeyRow {
   StatisticsKey key;
   LinePlace place;
   KeyColour colour;
-  std::u16string_view caption;           ///< of Model: what it shows is the model's
+  std::u16string_view caption;           ///< not that of Model, which changes
   std::u16string_view description = {};  ///< for screen readers, if the caption is no word
   std::string_view shortcut = {};        ///< such as "Alt+C"; empty for none
 };
@@ -34,8 +34,7 @@ struct StatisticsKeyRow {
 /// The buttons of a screen, each once, from the top.
 std::span<const StatisticsKeyRow> StatisticsKeyRows(DataShape shape);
 
-/// Where the rest of a screen stands, in the same units. "Cancel" takes the place of both parts of
-/// the total.
+/// Where the rest of a screen stands. While a row is edited, "Cancel" stands in place of the total.
 struct StatisticsPlaces {
   LinePlace xLabel;
   LinePlace x;
@@ -50,12 +49,12 @@ struct StatisticsPlaces {
 };
 const StatisticsPlaces& StatisticsPlacesOf(DataShape shape);
 
-/// What a result button shows of a variable: 0 (X) or 1 (Y).
+/// What a result button shows; `variable` is 0 for X and 1 for Y.
 struct KeyMoment {
   std::size_t variable;
   Moment moment;
 };
-/// nullopt for a button that shows something else.
+/// nullopt for a button that shows no moment.
 std::optional<KeyMoment> MomentOf(StatisticsKey key);
 
 }  // namespace kav

@@ -25,7 +25,7 @@ Menu BuildVariablesMenu(LastResult result);
 Menu BuildModelMenu();
 /// nullopt for an id that the menu does not have.
 std::optional<RegressionModel> ModelOfItem(int id);
-/// The short name of `model`, as the button shows it that opens the menu.
+/// The short name of `model`, as the button of the menu shows it.
 std::u16string_view ModelCaption(RegressionModel model);
 
 /// Every caption that a button may ever show.

@@ -1,4 +1,4 @@
-// Works a screen as its user does, and reads from it what its user sees.
+// Operates a screen as the user does, and reads from it what the user sees.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -84,7 +84,7 @@ inline QLineEdit& Result(QWidget& screen) {
   return LineNamed(screen, "Result");
 }
 
-/// The visible key that shows `caption`; null where none does.
+/// The visible key that shows `caption`; null if none does.
 inline QAbstractButton* FindKey(QWidget& screen, std::u16string_view caption) {
   for (auto* key : screen.findChildren<QAbstractButton*>()) {
     if (key->isVisible() && key->text() == ToQt(caption)) return key;
@@ -120,7 +120,7 @@ inline std::u16string ResultOf(QWidget& screen) {
   return Result(screen).text().toStdU16String();
 }
 
-/// The menu that is open; null where none is.
+/// The open menu; null if there is none.
 inline QMenu* OpenMenu() {
   return qobject_cast<QMenu*>(QApplication::activePopupWidget());
 }
@@ -147,7 +147,7 @@ inline void Choose(std::u16string_view text) {
   FAIL() << "the menu does not offer " << ToQt(text).toStdString();
 }
 
-/// The menu of the menu bar whose title, with its '&', is `title`; null where there is none.
+/// The menu of the menu bar with this title, its '&' included; null if there is none.
 inline QMenu* MenuOf(QWidget& screen, std::u16string_view title) {
   for (const QAction* action : screen.findChild<QMenuBar*>()->actions()) {
     if (action->text() == ToQt(title)) return action->menu();

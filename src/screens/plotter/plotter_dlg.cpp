@@ -6,13 +6,10 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <algorithm>
 #include <array>
 #include <utility>
 #include <variant>
-#include <vector>
 
-#include "line/line_texts.h"
 #include "plotter/plotter_texts.h"
 #include "screens/plotter/equation_input_view.h"
 #include "screens/plotter/graph_view.h"
@@ -28,7 +25,7 @@ CPlotterDlg::CPlotterDlg(Frame& frame)
       model_(frame.Store()),
       input_(new EquationInputView(this)),
       list_(new QComboBox(this)),
-      // What nobody types into keeps what was stored, however much of that a field shows.
+      // Only typing changes a stored text: a field may show less than all of it.
       range_(this, [this](RangeField field,
                           std::u16string text) { model_.SetRangeText(field, std::move(text)); }),
       grid_(NewOptionBox(kGridCaption, PlotterOption::Grid)),
@@ -47,7 +44,7 @@ CPlotterDlg::~CPlotterDlg() {
 QCheckBox* CPlotterDlg::NewOptionBox(std::u16string_view caption, PlotterOption option) {
   auto* box = new QCheckBox(ToQt(caption), this);
   box->setStyle(ScreenStyle());
-  // As a key does, it leaves the caret where it is when it is tapped.
+  // Like a key, it leaves the caret where it is when it is tapped.
   box->setFocusPolicy(Qt::TabFocus);
   connect(box, &QCheckBox::clicked, this, [this, option] {
     TakeLine();
@@ -82,7 +79,7 @@ void CPlotterDlg::OnKey(PlotterKey key) {
   TakeLine();
   const PlotterRequest request = model_.Press(key);
   Refresh();
-  // Before a graph is opened, which may stay for long.
+  // Before a graph is opened, which may stay open for long.
   if (key == PlotterKey::Add || key == PlotterKey::Plot) Save();
   CarryOut(request);
 }

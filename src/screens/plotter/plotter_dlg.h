@@ -1,4 +1,4 @@
-// The function plotter's screen: its model's picture.
+// The function plotter's screen: the widgets that show its model.
 #pragma once
 
 #include <memory>
@@ -17,9 +17,8 @@ namespace kav {
 class EquationInputView;
 
 /// Loads the settings when it is made and writes them into the frame's store when it is destroyed;
-/// what changes the equations also has them saved to disk. Enter adds the input, with Ctrl it
-/// plots, as it does in a field of the range; what is typed goes to the input, unless a field has
-/// the focus.
+/// each change of the equations is also saved to disk. Enter adds the input; Ctrl+Enter, and Enter
+/// in a field of the range, plots. What is typed goes to the input, unless a field has the focus.
 class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
  public:
   explicit CPlotterDlg(Frame& frame);

@@ -1,11 +1,6 @@
 #include "screens/scientific/scientific_dlg.h"
 
-#include <algorithm>
-#include <array>
 #include <variant>
-#include <vector>
-
-#include "line/line_texts.h"
 
 namespace kav {
 namespace {

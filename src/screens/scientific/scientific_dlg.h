@@ -1,4 +1,4 @@
-// The scientific screen: its model's picture.
+// The scientific screen: the widgets that show its model.
 #pragma once
 
 #include <memory>
@@ -9,7 +9,7 @@
 namespace kav {
 
 /// Loads the settings when it is made and writes them into the frame's store when it is destroyed;
-/// after each "=" it also has them saved to disk, once the answer is to be seen.
+/// after each "=" it also has them saved to disk, when the answer has been painted.
 class CScientificDlg final : public KeyScreenOf<Key, ScientificModel, LineScreen> {
  public:
   explicit CScientificDlg(Frame& frame);

@@ -5,7 +5,6 @@
 #include <QInputMethod>
 #include <QKeyEvent>
 #include <algorithm>
-#include <array>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -15,7 +14,6 @@
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
-#include "statistics/statistics_keypad.h"
 #include "statistics/statistics_menus.h"
 #include "statistics/statistics_texts.h"
 

@@ -13,8 +13,7 @@ BottomMenuBar::BottomMenuBar(QWidget* parent) : QMenuBar(parent) {
 }
 
 void BottomMenuBar::Enter() {
-  // There is no other door to that state. (An event of a modifier key counts that key's own bit
-  // anew.)
+  // Qt has no other way into that state. (The release of a modifier key still has that key's bit.)
   QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier);
   QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::AltModifier);
   QCoreApplication::sendEvent(window(), &press);

@@ -5,8 +5,8 @@
 
 namespace kav {
 
-/// A menu bar whose titles have room in proportion to their size, and on which the keyboard's
-/// choice is to be seen, opened or not. Tab leaves it; the arrows move among its menus.
+/// A menu bar with room around its titles in proportion to their size. It shows which menu the
+/// keyboard has chosen, even if that is not open. Tab leaves it; the arrows move among its menus.
 class BottomMenuBar final : public QMenuBar {
  public:
   explicit BottomMenuBar(QWidget* parent);

@@ -10,15 +10,14 @@
 
 namespace kav {
 
-/// As wide as its place. What the widest of its entries needs is its minimumSizeHint, so that a
-/// dialog keeps room for it.
+/// A list as wide as its place. Its minimumSizeHint has room for the widest entry.
 class ChoiceBox : public QComboBox {
  public:
   /// A list called `name`.
   explicit ChoiceBox(std::u16string_view name);
 
-  /// From now on the room is kept for these texts, whatever the entries are: for entries that come
-  /// and go, or that may be longer than any place. Longer ones are cut visibly.
+  /// Keeps room for these texts instead of the entries: for entries that change, or that may be too
+  /// long for any place. Longer entries are cut visibly.
   void KeepRoomFor(const std::vector<std::u16string_view>& texts);
 
   QSize sizeHint() const override;

@@ -89,8 +89,8 @@ void Dialog::ScaleDown() {
   double excess = Excess();
   while (excess > 1 && font().pixelSize() > 1) {
     const int text = font().pixelSize();
-    // All that has to have room shrinks nearly as the text does: the guess is right, or too large
-    // by a pixel or two.
+    // Everything shrinks nearly as the text does, so the guess is right, or too large by a pixel or
+    // two.
     SetTextHeight(std::clamp(static_cast<int>(text / excess), 1, text - 1));
     excess = Excess();
   }
@@ -103,7 +103,7 @@ double Dialog::Excess() const {
   const QSize needed = layout()->totalMinimumSize();
   const int high = layout()->hasHeightForWidth() ? layout()->totalMinimumHeightForWidth(width())
                                                  : needed.height();
-  // Of their heights the parts can give so much of what they keep free above and below their texts.
+  // So much higher than the dialog may the parts be: they have free room above and below texts.
   constexpr double kGive = 1.03;
   return std::max(static_cast<double>(needed.width()) / width(), high / (kGive * height()));
 }

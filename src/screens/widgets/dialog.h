@@ -10,10 +10,10 @@ class QMenu;
 
 namespace kav {
 
-/// A dialog over the screen or dialog that opens it, as large as that one's portrait area. Texts
-/// and the room around them grow with its height, as far as all of them have room in the face that
-/// the machine has; so its widgets stand in layouts, have no sizes of their own, and name by their
-/// minimumSizeHint what their texts need. It is modal: RunModal returns when it is closed.
+/// A dialog over the screen or dialog that opens it, as large as the portrait area of that. Texts
+/// and the room around them grow with its height, as far as all of them have room in the machine's
+/// font. So its widgets stand in layouts, have no fixed sizes, and return as minimumSizeHint what
+/// their texts need. It is modal: RunModal returns when it is closed.
 class Dialog : public QDialog {
  public:
   Dialog(QWidget* parent, std::u16string_view title);
@@ -22,8 +22,8 @@ class Dialog : public QDialog {
   bool RunModal();
 
  protected:
-  /// A pop-up menu with the look of the dialog, to be filled and shown by the caller; it is gone
-  /// once it is closed.
+  /// An empty pop-up menu with the look of the dialog, for the caller to fill and show. It is
+  /// deleted when it is closed.
   QMenu* MakePopUp();
 
   bool event(QEvent* event) override;
@@ -44,12 +44,12 @@ class DialogButton final : public QPushButton {
  public:
   explicit DialogButton(std::u16string_view caption);
 
-  /// What the caption needs: the room around it is the first to go.
+  /// What the caption needs, with little room around it.
   QSize minimumSizeHint() const override;
 };
 
-/// `text` as a widget shows it that has room for one line: breaks and tabs become blanks, and one
-/// too long for any screen is cut, so that nothing that was stored can slow the drawing down.
+/// `text` for a widget of one line: breaks and tabs become blanks. A text too long for any screen
+/// is cut, so that no stored text can slow the drawing down.
 QString OneLine(std::u16string_view text);
 
 }  // namespace kav

@@ -1,4 +1,4 @@
-// What the buttons say that dialogs of all rooms have.
+// The captions of buttons that many dialogs have.
 #pragma once
 
 #include <string_view>

@@ -1,4 +1,4 @@
-// Where a file is to be read from or written to: the user's choice.
+// The dialogs in which the user chooses a file to open or to save.
 #pragma once
 
 #include <cstddef>
@@ -17,8 +17,8 @@ struct FileKind {
   std::u16string_view suffix;  ///< added to a name without one, such as "txt"
 };
 
-/// The path (in the encoding of the file system) of an existing file, or of a file that may be
-/// written: the user was asked where there is one already. nullopt where nothing was chosen. Both
+/// The path of the chosen file, in the encoding of the file system; nullopt if none was chosen. A
+/// file to open exists. A file to save may be written: if it exists, the user agreed. Both dialogs
 /// begin in the folder of the last choice.
 std::optional<std::string> AskFileToOpen(QWidget* parent, const FileKind& kind);
 std::optional<std::string> AskFileToSave(QWidget* parent, const FileKind& kind);
@@ -29,8 +29,8 @@ struct FileToSave {
   std::size_t kind;
 };
 
-/// The same where the user chooses among `kinds`, of which there is at least one; the first is
-/// preset. The kind is the one that the name's suffix says, else the chosen one.
+/// The same for a file of one of `kinds` (at least one; the first is preset). Its kind follows from
+/// the suffix of the name, or else from the user's choice.
 std::optional<FileToSave> AskFileToSave(QWidget* parent, std::span<const FileKind> kinds);
 
 }  // namespace kav

@@ -1,4 +1,4 @@
-// A shown text that gets smaller letters where it is too long for its place.
+// A text that gets smaller letters if it is too long for its place.
 #pragma once
 
 #include <QString>
@@ -9,8 +9,8 @@
 
 namespace kav {
 
-/// `Widget` shows a text of one or more lines and is as wide as its place. It stays as high as in
-/// its largest letters, so that nothing moves with what is shown.
+/// A `Widget` that shows a text of one or more lines, as wide as its place. It is always as high as
+/// with its largest letters, so that a change of the text moves nothing.
 template <class Widget>
 class FittingText : public Widget {
  public:

@@ -1,4 +1,4 @@
-// A formula as a widget of several lines, in which it is wrapped.
+// An input for a formula, wrapped over several lines.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -7,8 +7,8 @@
 
 namespace kav {
 
-/// A formula is one line however it is wrapped: Enter belongs to the dialog, Tab moves on, and line
-/// breaks and tabs of what is pasted become blanks.
+/// A formula is one line, even if it is shown wrapped. Enter is left to the dialog, Tab moves on,
+/// and line breaks and tabs in pasted text become blanks.
 class FormulaView final : public QPlainTextEdit {
  public:
   /// As high as `lines` lines of text; more of them scroll.

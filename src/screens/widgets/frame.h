@@ -1,4 +1,4 @@
-// What a screen may ask of the frame around it.
+// The frame that owns the screens, as they know it.
 #pragma once
 
 #include <functional>
@@ -50,10 +50,10 @@ class Frame {
   virtual const ScreenDialogs& Dialogs() const = 0;
   virtual std::vector<ScreenChoice> ScreensBeside(ScreenMode own) const = 0;
 
-  /// Writes the store to disk before it returns; tells the user, once, where that cannot be.
+  /// Writes the store to disk before it returns. If that fails, tells the user, once.
   virtual void SaveStore() = 0;
 
-  // Both end the calling screen, and so wait until the event that is being handled is done with.
+  // Both end the calling screen, but not before the current event has been handled.
   virtual void ChangeMode(ScreenMode mode) = 0;
   virtual void Exit() = 0;
 };

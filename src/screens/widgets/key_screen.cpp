@@ -10,7 +10,7 @@
 namespace kav {
 namespace {
 
-/// `text` as the label of a menu entry, where '&' and a tab have meanings of their own.
+/// `text` as the label of a menu entry, in which '&' and a tab have a meaning.
 QString LabelOf(const std::u16string& text) {
   return QString::fromStdU16String(text)
       .replace(QChar(u'&'), QString("&&"))
@@ -36,7 +36,7 @@ void KeyScreen::PopUp(const Menu& items, int key, const std::function<void(int)>
   }
   const QRect below = keys_->KeyArea(key);
   menu->popup(mapToGlobal(QPoint(below.left(), below.bottom() + 1)));
-  // How wide it is, is known from now on.
+  // Only now its width is known.
   const int beyond = menu->geometry().right() - mapToGlobal(rect().bottomRight()).x();
   if (beyond > 0) menu->move(menu->x() - beyond, menu->y());
 }

@@ -69,7 +69,7 @@ void KeySheet::LayOut(const DialogUnits& units) {
       captions.push_back({ToQt(caption), view->TextWidth()});
     }
   }
-  // One size for all, whatever they show: captions of many sizes would make a restless picture.
+  // One size for all captions that the keys can show: a mixture of sizes looks restless.
   const int most = static_cast<int>(keys_.front()->height() * kTextHeight);
   textHeight_ = FittingPixels(captions, most, 1);
   for (KeyView* view : keys_) view->SetTextHeight(textHeight_);

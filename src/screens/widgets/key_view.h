@@ -20,8 +20,8 @@ struct KeySpot {
   std::u16string_view description = {};       ///< for screen readers, beside its caption
 };
 
-/// A button painted in the colours of its key: what it does and how it is called is up to its
-/// owner. It takes the focus by the Tab key only, so that a tap leaves the caret where it is.
+/// A button painted in the colours of its key; the owner gives it a caption and connects it. It
+/// takes the focus only by the Tab key, so that a tap leaves the caret where it is.
 class KeyView final : public QAbstractButton {
  public:
   KeyView(KeySpot spot, QWidget* parent);

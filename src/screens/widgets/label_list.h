@@ -1,4 +1,4 @@
-// A list of what the user stored under names of his own, which may be of any length.
+// A list of things that the user named, with names of any length.
 #pragma once
 
 #include <QListWidget>
@@ -16,7 +16,7 @@ class LabelList final : public QListWidget {
 
   std::optional<int> Selected() const;
 
-  /// Makes the widget show `labels`, long ones cut, one of which is selected. Emits nothing.
+  /// Shows `labels` and selects one of them, or none; long ones are cut. Emits no signal.
   void Write(const std::vector<std::u16string>& labels, std::optional<int> selected);
 };
 

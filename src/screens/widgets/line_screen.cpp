@@ -41,8 +41,8 @@ bool LineScreen::PressKeyOf(const QKeyEvent& event) {
 
 bool LineScreen::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
-    // Ahead of the line, which would write the "=" and knows Enter and Esc in its own way. It would
-    // also write the letter of a key that is disabled and so does not answer to Alt.
+    // Before the line, which would write the "=" and uses Enter and Esc itself. It would also write
+    // the letter of Alt and a letter, if that key is disabled.
     const auto& pressed = *static_cast<QKeyEvent*>(event);
     return PressKeyOf(pressed) || pressed.modifiers() == Qt::AltModifier;
   }
@@ -51,7 +51,7 @@ bool LineScreen::eventFilter(QObject* watched, QEvent* event) {
     OnEquals();
     return true;
   }
-  // Whoever comes back to the line has done with the result. (From a menu one only returns.)
+  // A user who goes to the line is done with the result; a menu only gives the focus back.
   if (event->type() == QEvent::FocusIn && !IsReturn(*static_cast<QFocusEvent*>(event))) {
     result_->deselect();
   }
@@ -83,7 +83,7 @@ bool LineScreen::CanEdit(EditCommand command) const {
 }
 
 void LineScreen::SaveAfterPainting(const std::function<void()>& save) {
-  // The disk may be slow: whoever waits for an answer sees it first.
+  // The disk may be slow, and the user waits for the answer.
   line_->repaint();
   result_->repaint();
   QTimer::singleShot(0, this, [this, save] {

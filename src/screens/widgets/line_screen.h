@@ -9,9 +9,9 @@
 
 namespace kav {
 
-/// Enter, Esc and "=" of the keyboard press keys of the screen wherever the focus is; what else is
-/// typed goes to the expression line, unless the focused widget has a use for it. The Edit menu
-/// works on the result where some of it is selected, else on the line.
+/// Enter, Esc and "=" of the keyboard press keys of the screen, whatever has the focus. Everything
+/// else that is typed goes to the expression line, unless the focused widget uses it. The Edit menu
+/// works on the result if some of it is selected, else on the line.
 class LineScreen : public KeyScreen {
  public:
   LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys);
@@ -27,7 +27,7 @@ class LineScreen : public KeyScreen {
   /// disk.
   void SaveAfterPainting(const std::function<void()>& save);
 
-  // What the keyboard presses.
+  // The keys that the keyboard presses.
   virtual void OnEquals() = 0;
   virtual void OnClear() = 0;
 

@@ -8,14 +8,14 @@
 
 namespace kav {
 
-/// A line in a plain box. It keeps its selection while the focus is elsewhere: what is selected is
-/// what the keys of the screen work on. Line breaks and tabs become blanks: what is pasted often
-/// ends with one, and no key could have written it.
+/// A line in a plain box. It keeps its selection while the focus is elsewhere, because the keys of
+/// the screen work on the selection. Line breaks and tabs become blanks: pasted text often ends
+/// with one, and no key could write it.
 class LineView : public QLineEdit {
  public:
   explicit LineView(QWidget* parent);
 
-  /// Letters are `pixels` high, lower where a line of them would be higher than the widget is now.
+  /// Letters are `pixels` high, or lower if the line would not fit the widget's present height.
   void SetTextHeight(int pixels);
 
  private:
@@ -32,8 +32,8 @@ Selection SelectionOf(const QLineEdit& line);
 /// Makes the widget show `line`. What changes is one step for the line's undo.
 void WriteLine(QLineEdit& widget, const ExpressionLine& line);
 
-/// A line that is only read and copied from: right-aligned, as large as its height allows, smaller
-/// where the text is long; a text too long for that shows its beginning and scrolls.
+/// A read-only line, right-aligned. Letters are as large as its height allows, and smaller for a
+/// long text. If even that is too long, it shows its beginning and scrolls.
 class ResultView final : public LineView {
  public:
   explicit ResultView(QWidget* parent);

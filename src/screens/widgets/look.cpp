@@ -8,8 +8,8 @@ namespace kav {
 
 namespace {
 
-/// The face that the keys are made for, where it is installed, else the one that comes closest to
-/// it in shape and width.
+/// The face that the keys are made for, if it is installed, else the one closest to it in shape and
+/// width.
 QString FaceName() {
   const QStringList installed = QFontDatabase::families();
   for (const char* face : {"Tahoma", "DejaVu Sans Condensed", "DejaVu Sans", "Verdana"}) {

@@ -27,7 +27,7 @@ class ScaledBox final : public QMessageBox {
   ScaledBox(Icon icon, const QString& text, const QString& more, StandardButtons buttons,
             QWidget* parent)
       : QMessageBox(icon, ToQt(kApplicationName), text, buttons, parent) {
-    // What is said may hold a file name or a line of the user's, which is not to be read as markup.
+    // The text may hold a file name or a line of the user's, which must not be read as markup.
     setTextFormat(Qt::PlainText);
     if (!more.isEmpty()) setInformativeText(more);
     setPalette(ScreenPalette());
@@ -53,8 +53,8 @@ class ScaledBox final : public QMessageBox {
     move(window->mapToGlobal(window->rect().center()) - rect().center());
   }
 
-  /// Letters become lower where a word or all lines together have no room otherwise; but not by
-  /// more than half for the longest of names.
+  /// Makes the letters lower until every word and all lines have room, but at most by half, for a
+  /// name of any length.
   void Fit() {
     for (LayOut(); font().pixelSize() > least_ && !HasRoom(); LayOut()) {
       const int pixels = font().pixelSize();

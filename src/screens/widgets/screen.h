@@ -21,7 +21,7 @@ class BottomMenuBar;
 struct MenuEntry {
   std::u16string_view text;
   std::function<void()> action;
-  QKeySequence shortcut = {};            ///< only shown: the line that has the focus obeys it
+  QKeySequence shortcut = {};            ///< only shown: the focused line handles it itself
   std::function<bool()> isEnabled = {};  ///< asked each time the menu opens; empty: always
 };
 
@@ -40,7 +40,7 @@ struct EditHooks {
   std::function<bool(EditCommand)> canEdit;  ///< asked each time the menu opens
 };
 
-/// Does it to a line, and tells whether there is something to do.
+/// Carries the command out on a line, and whether that would change anything.
 void EditLine(QLineEdit& line, EditCommand command);
 bool CanEditLine(const QLineEdit& line, EditCommand command);
 
@@ -50,7 +50,7 @@ class Screen : public QWidget {
   /// `size` is that of the body in dialog units; the frame must outlive the screen.
   Screen(Frame& frame, QSize size);
 
-  /// The user leaves the screen, for another or for good: the time to ask what must not be lost.
+  /// Called before the user goes to another screen or ends the program: asks whether to save.
   virtual void Leaving() {}
 
  protected:

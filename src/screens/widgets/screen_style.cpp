@@ -20,7 +20,7 @@
 namespace kav {
 namespace {
 
-/// The height of the text in what is drawn; 0 where nothing tells it.
+/// The height of the text in what is drawn; 0 if it is not known.
 int TextHeight(const QStyleOption* option, const QWidget* widget) {
   if (option != nullptr) return option->fontMetrics.height();
   return widget != nullptr ? widget->fontMetrics().height() : 0;
