@@ -48,8 +48,7 @@ class ApplicationTest : public testing::Test {
     return copy;
   }
 
-  /// The status with which a copy ends within ten seconds, -2 where it is killed; -1 where it goes
-  /// on.
+  /// The exit status of a copy that ends within ten seconds; -2 if it was killed, -1 if it goes on.
   int StatusOf(pid_t copy) {
     for (const auto start = steady_clock::now();
          steady_clock::now() - start < std::chrono::seconds(10);) {

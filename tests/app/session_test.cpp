@@ -180,7 +180,7 @@ TEST_F(SessionTest, ACallBringsTheScreenBack) {
 }
 
 TEST_F(SessionTest, AKillLosesNothingThatWasAnswered) {
-  // The process that is killed runs this test anew, and finds in the environment where to save.
+  // The process to be killed runs this test again, and reads from the environment where to save.
   setenv(kPathVariable, Path().c_str(), 1);
   testing::FLAGS_gtest_death_test_style = "threadsafe";
   EXPECT_EXIT(

@@ -1,4 +1,4 @@
-// Shown texts that get smaller letters where they are too long.
+// Texts that get smaller letters if they are too long.
 #include "screens/widgets/fitting_text.h"
 
 #include <gtest/gtest.h>

@@ -27,7 +27,7 @@ class MatrixFilesTest : public MatrixScreen {
     ExpectFile(path);
     ChooseItem(item);
   }
-  /// The same where a box follows, that says `message`.
+  /// The same, followed by a box that says `message`.
   void ExpectRefusal(std::u16string_view item, const QString& path, std::u16string_view message) {
     SCOPED_TRACE(path.toStdString());
     ExpectFile(path);

@@ -32,7 +32,7 @@ TEST_F(PlotterDlgTest, KeysWriteIntoTheInput) {
   EXPECT_EQ(Text(), u"7894561230.E+-*/^Pi%!Cx");
   Tap(u"BS BS");
   EXPECT_EQ(Text(), u"7894561230.E+-*/^Pi%!");
-  // Of the formula: Home alone is the beginning of a line, and where that is the face decides.
+  // To the start of the formula. Home alone goes to the start of a line, which depends on the font.
   Key(Qt::Key_Home, Qt::ControlModifier);
   Tap(u"DEL");
   EXPECT_EQ(Text(), u"894561230.E+-*/^Pi%!");

@@ -11,7 +11,7 @@ namespace {
 
 class ScreenRequestsTest : public ScientificScreen {
  protected:
-  /// Opens the screen anew in a frame as it was set.
+  /// Opens the screen again, after the frame was changed.
   void OpenAnew() {
     Open();
     dlg_->activateWindow();

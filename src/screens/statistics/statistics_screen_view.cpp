@@ -139,7 +139,8 @@ void StatisticsScreen::Do(const FocusField& request) {
 }
 
 void StatisticsScreen::OnYes(StatisticsKey key) {
-  key == StatisticsKey::Delete ? model_->DeleteRow() : model_->ClearRows();
+  if (key == StatisticsKey::Delete) return model_->DeleteRow();
+  model_->ClearRows();
 }
 
 void StatisticsScreen::Do(const AskSaveFile&) {
