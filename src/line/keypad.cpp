@@ -259,8 +259,13 @@ const KeyFace* FindFace(Key key, Face face) {
 }
 
 const KeyFace& FaceOf(Key key, Face face) {
-  const KeyFace* own = FindFace(key, face);
-  return own != nullptr ? *own : *FindFace(key, Face::Plain);
+  const KeyFace* plain = &kFaces.front().shown;  // until that of the key comes: every key has one
+  for (const FaceRow& row : kFaces) {
+    if (row.key != key) continue;
+    if (row.face == face) return row.shown;
+    if (row.face == Face::Plain) plain = &row.shown;
+  }
+  return *plain;
 }
 
 void ApplyFace(const KeyFace& face, ExpressionLine& line) {

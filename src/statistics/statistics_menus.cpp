@@ -60,6 +60,7 @@ std::u16string_view ModelCaption(RegressionModel model) {
 std::vector<std::u16string_view> CaptionsOf(const StatisticsKeyRow& row) {
   if (row.key != StatisticsKey::Model) return {row.caption};
   std::vector<std::u16string_view> captions;
+  captions.reserve(kModelChoices.size());
   for (const ModelChoice& choice : kModelChoices) captions.push_back(choice.caption);
   return captions;
 }
