@@ -1,5 +1,5 @@
-// A graph of three curves on the screen: sampled and drawn after its range has changed, and copied
-// if it has not.
+// A graph of three curves: drawn anew, sampling included, when its range has changed, copied to the
+// screen when it has not, and made a BMP file.
 #include <benchmark/benchmark.h>
 
 #include <QGuiApplication>
@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "screens/plotter/graph_painter_view.h"
+#include "screens/plotter/graph_saving_view.h"
 
 namespace kav {
 namespace {
@@ -60,6 +61,12 @@ void CopyGraph(benchmark::State& state) {
   }
 }
 BENCHMARK(CopyGraph)->Apply(PlotSizes);
+
+void PrintGraphAsBmp(benchmark::State& state) {
+  const GraphModel model = MakeGraph(SizeOf(state));
+  for (auto _ : state) benchmark::DoNotOptimize(PrintGraph(model, GraphFile::Bmp));
+}
+BENCHMARK(PrintGraphAsBmp)->Apply(PlotSizes);
 
 }  // namespace
 }  // namespace kav

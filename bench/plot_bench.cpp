@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "engine/functions.h"
-#include "plotter/bitmap_file.h"
 #include "plotter/graph_picture.h"
 
 namespace kav {
@@ -154,13 +153,6 @@ void PictureOfAMillionPoints(benchmark::State& state) {
   state.counters["shapes"] = static_cast<double>(shapes);
 }
 BENCHMARK(PictureOfAMillionPoints)->Arg(kSampleCount)->Arg(1080)->Unit(benchmark::kMillisecond);
-
-void Bitmap(benchmark::State& state) {
-  const auto size = static_cast<int>(state.range(0));
-  const std::vector<std::uint32_t> pixels(static_cast<std::size_t>(size) * size, 0x123456);
-  for (auto _ : state) benchmark::DoNotOptimize(PrintBitmap({size, size, pixels}));
-}
-BENCHMARK(Bitmap)->Arg(kSampleCount)->Arg(1080);
 
 }  // namespace
 }  // namespace kav

@@ -67,7 +67,7 @@ void CheckTotal(const DataList& list) {
 std::string Print(const DataList& list) {
   std::string text;
   for (std::size_t row = 0; row < list.RowCount(); ++row) {
-    for (std::size_t i = 0; i < static_cast<std::size_t>(list.Shape()); ++i) {
+    for (std::size_t i = 0; i < kav::VariablesOf(list.Shape()); ++i) {
       text.append(list.ValueText(row, i)) += '\t';
     }
     text += list.CountText(row) + "\r\n";

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "common/number_text.h"
+#include "settings/file_error_texts.h"
 
 namespace kav {
 
@@ -41,11 +42,7 @@ inline std::u16string NamedMatrixIsInvalid(std::u16string_view name) {
 
 /// `reason` is a clause without a full stop.
 inline std::u16string MatrixCannotBeSaved(std::u16string_view path, std::u16string_view reason) {
-  return std::u16string(u"The matrix cannot be saved in ")
-      .append(path)
-      .append(u": ")
-      .append(reason)
-      .append(u".");
+  return FileFailure(u"The matrix cannot be saved in ", path, reason);
 }
 
 // The menus and the question of the screen.

@@ -9,11 +9,11 @@
 namespace kav {
 namespace {
 
-/// 1/229 as it has always been: what it is multiplied with gives every sample its bits.
+/// 1/229, rounded as it always was: its bits decide the bits of every sample.
 constexpr double kStepFactor = 0.004366812227074236;
 
-/// The lowest number that truncation, which is toward zero, makes `integer`. Rows are held to such
-/// numbers before they are integers, which keeps out what no integer can hold.
+/// The lowest number that is `integer` when truncated toward zero. Rows are compared with such
+/// numbers before they are converted, because some are too large for an integer.
 double LowestTruncatedTo(double integer) {
   return integer > 0 ? integer : std::nextafter(integer - 1, integer);
 }
@@ -28,8 +28,8 @@ double SampleAt(const PlotRange& range, double step, int i) {
 
 }  // namespace
 
-/// Takes the values of the samples one after the other and gives each its row of `curve`, which
-/// must outlive it.
+/// Takes the values of the samples in turn and writes their rows into `curve`, which must outlive
+/// it.
 class CurveTracer {
  public:
   CurveTracer(const PlotRange& range, PlotRows rows, CurveRows& curve)
@@ -75,13 +75,13 @@ class CurveTracer {
     ++next_;
   }
 
-  /// Gives the sample before the next one, which is in `row`, a point on the border.
+  /// Puts the last sample on the border nearest to `row`, in which the next one is.
   void Enter(int row) {
     const int middle = std::midpoint(rows_.top, rows_.bottom);
     if (row == middle) return;
     curve_.rows_[next_ - 1] = row < middle ? rows_.top : rows_.bottom;
-    // A point two before can only be that of leaving: joining the two would draw a stroke through
-    // a pole.
+    // If the sample before that has a point, the curve left there. A line between the two would
+    // cross a pole.
     if (next_ >= 2 && curve_.rows_[next_ - 2]) curve_.leavesForGood_.set(next_ - 2);
   }
 

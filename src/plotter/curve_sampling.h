@@ -1,4 +1,4 @@
-// From a formula to the points of its curve.
+// Samples the curve of a formula.
 #pragma once
 
 #include <array>
@@ -14,17 +14,17 @@ namespace kav {
 
 inline constexpr int kSampleCount = 230;
 
-/// The rows of pixels of a plot area, top <= bottom: y max stands in the row `top`, y min in
-/// `bottom`, below it.
+/// The first and the last row of pixels of a plot, top <= bottom. y max is in the row `top`, y min
+/// in the row `bottom`.
 struct PlotRows {
   int top = 0;
   int bottom = kSampleCount - 1;
 };
 
-/// Where sample i, from 0 to kSampleCount - 1, of `range` stands.
+/// The x of sample `i`, from 0 to kSampleCount - 1.
 double SampleX(const PlotRange& range, int i);
 
-/// The row of each sample; nullopt where the curve has no point.
+/// The row of each sample of a curve; nullopt for a sample without a point.
 class CurveRows {
  public:
   using Rows = std::array<std::optional<int>, kSampleCount>;
@@ -34,8 +34,8 @@ class CurveRows {
   Rows::const_iterator begin() const { return rows_.begin(); }
   Rows::const_iterator end() const { return rows_.end(); }
 
-  /// Whether the curve goes on from sample i to the next one: both have points, and not the one
-  /// because the curve leaves the plot there and the other because it comes back.
+  /// Whether a line joins sample `i` to the next. Both must have points, and the curve must not
+  /// leave the plot at the first and come back at the second.
   bool IsJoinedToNext(std::size_t i) const {
     return i + 1 < size() && rows_[i] && rows_[i + 1] && !leavesForGood_[i];
   }
@@ -49,9 +49,9 @@ class CurveRows {
   std::bitset<kSampleCount> leavesForGood_;  ///< at i, and comes back at i + 1
 };
 
-/// Evaluates `formula` for each sample. A point outside of the rows is none, except that a curve
-/// runs to the border where it leaves, and from the border where it enters. No sample that fails
-/// has a point.
+/// Evaluates `formula` for each sample. A sample that fails has no point. A sample outside the rows
+/// has none either, with two exceptions: when the curve leaves the plot, the first sample outside
+/// is put on the border; when it enters, the last sample outside is.
 CurveRows SampleCurve(const CheckedFormula& formula, const PlotRange& range, AngleUnit unit,
                       PlotRows rows);
 

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t kWordBits = 64;
 
-/// The bits of the word numbered `word` that are from `first` to `last` of the row.
+/// The bits of word number `word` of a row that are among bits `first` to `last` of the row.
 std::uint64_t Mask(std::size_t word, std::size_t first, std::size_t last) {
   constexpr std::uint64_t kAll = ~std::uint64_t{0};
   std::uint64_t mask = kAll;
@@ -17,8 +17,8 @@ std::uint64_t Mask(std::size_t word, std::size_t first, std::size_t last) {
   return mask;
 }
 
-/// How far from the centre's column pixels may be whose points at `vertical` from the centre, moved
-/// by `margin` outwards, are within `radius`; negative where none is.
+/// The distance in columns of the last pixel that, moved outwards by `margin`, has a point within
+/// `radius` at the distance `vertical` from the centre's row; negative if there is none.
 int ReachAt(double radius, double vertical, double margin) {
   if (vertical > radius) return -1;
   const double half = std::sqrt(radius * radius - vertical * vertical);
@@ -55,7 +55,8 @@ DiscCover::DiscCover(const PlotArea& area, double radius)
                static_cast<std::size_t>(area.bottom - area.top + 1 + 2 * margin_)),
       covered_(centres_) {
   for (int row = -margin_; row <= margin_; ++row) {
-    // A disc meets a pixel by the nearest of its points, and covers it with the farthest.
+    // A disc touches a pixel if it holds the nearest of its points, and covers it if it holds the
+    // farthest.
     const double nearest = std::max(std::abs(row) - 0.5, 0.);
     const double farthest = std::abs(row) + 0.5;
     reaches_.push_back({ReachAt(radius, nearest, -0.5), ReachAt(radius, farthest, 0.5)});

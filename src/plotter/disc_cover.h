@@ -1,4 +1,4 @@
-// Which of many equal discs can be seen.
+// Finds the visible ones of many equal discs.
 #pragma once
 
 #include <cstddef>
@@ -14,7 +14,7 @@ class BitGrid {
  public:
   BitGrid(std::size_t width, std::size_t height);
 
-  /// Whether all bits of a row are set from `first` to `last`, which is not before it.
+  // Bits `first` to `last` of a row, first <= last.
   bool AreSet(std::size_t row, std::size_t first, std::size_t last) const;
   void Set(std::size_t row, std::size_t first, std::size_t last);
 
@@ -23,27 +23,27 @@ class BitGrid {
   std::vector<std::uint64_t> words_;
 };
 
-/// Takes discs of one radius around pixels of an area, of one colour, in the order of painting.
-/// Those that it turns away would change nothing. How many it lets through depends on the size of
-/// the area, and not on how many there are.
+/// Takes discs of one radius and one colour, centred on pixels of an area, in the order of
+/// painting. It turns away those that would change no pixel. So the number to be painted is limited
+/// by the size of the area, however many discs there are.
 class DiscCover {
  public:
-  /// `radius` is in pixels of the area.
+  /// `radius` is in pixels.
   DiscCover(const PlotArea& area, double radius);
 
-  /// Whether the disc around this pixel, which is in the area, changes anything.
+  /// Whether the disc around this pixel of the area changes any pixel.
   bool Add(int column, int row);
 
  private:
-  /// Of a row of pixels beside the centre's, how many to each side of its column the disc meets and
-  /// how many it covers; negative for none, not even the one in that column.
+  /// In a row of pixels, how many on each side of the centre's column the disc touches and how many
+  /// it covers. Negative if not even the pixel in that column.
   struct Reach {
     int met;
     int covered;
   };
 
   PlotArea area_;
-  int margin_;                  ///< rows and columns that a disc meets beyond its centre's
+  int margin_;                  ///< rows and columns that a disc touches beyond its centre's
   std::vector<Reach> reaches_;  ///< of 2 * margin_ + 1 rows from the top
   BitGrid centres_;
   BitGrid covered_;

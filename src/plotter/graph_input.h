@@ -1,4 +1,4 @@
-// What a graph is opened with.
+// The curves, data and options that a graph is opened with.
 #pragma once
 
 #include <string>
@@ -11,13 +11,13 @@
 
 namespace kav {
 
-/// A curve y = f(x). The label is its colour prefix and its equation, such as "R:F1(X)=sin(x)".
+/// A curve y = f(x). The label is one of kCurvePrefixes and the equation, as "R:F1(X)=sin(x)".
 struct GraphCurve {
   std::u16string label;
   CheckedFormula formula;
 };
 
-/// A pair of data.
+/// A pair of data, to be marked in the graph.
 struct DataPoint {
   double x;
   double y;
@@ -27,8 +27,8 @@ struct DataPoint {
 
 struct GraphOptions {
   bool hasGrid = true;
-  bool hasLines = true;  ///< else a curve is its points
-  bool hasCoordinates = true;
+  bool hasLines = true;        ///< else a curve is drawn as points
+  bool hasCoordinates = true;  ///< the labels with the bounds of the range
 
   bool operator==(const GraphOptions&) const = default;
 };
@@ -37,11 +37,11 @@ inline constexpr std::size_t kMostCurves = 3;
 
 struct GraphInput {
   std::vector<GraphCurve> curves;  ///< 1 to kMostCurves
-  PlotRange range;                 ///< without a RangeRefusal
+  PlotRange range;                 ///< one without a RangeRefusal
   AngleUnit angle = AngleUnit::Degrees;
   GraphOptions options;
-  DisplayFormat format;           ///< of the numbers shown
-  std::vector<DataPoint> points;  ///< marked by discs; none for the function plotter
+  DisplayFormat format;           ///< of the numbers that the graph shows
+  std::vector<DataPoint> points;  ///< the function plotter has none
 };
 
 /// What a screen asks for that has a graph to show.

@@ -7,7 +7,9 @@
 
 #include "common/number_text.h"
 #include "display/number_input.h"
+#include "line/shown_number.h"
 #include "plotter/plotter_texts.h"
+#include "plotter/range_fields.h"
 
 namespace kav {
 namespace {
@@ -15,7 +17,7 @@ namespace {
 /// The part of the width or height by which a range is zoomed or moved.
 constexpr double kChangePart = 0.2;
 
-/// Both bounds of a direction move by parts of their distance.
+/// How far two bounds move, as parts of their distance.
 struct Shift {
   double lower = 0;
   double upper = 0;
@@ -30,7 +32,7 @@ constexpr Shift kDown{-kChangePart, -kChangePart};
 constexpr Shift kInwards{kChangePart, -kChangePart};
 constexpr Shift kOutwards{-kChangePart, kChangePart};
 
-/// None for the changes that restore a range.
+/// What a change does to the range; nothing for the changes that restore one.
 RangeShift ShiftOf(RangeChange change) {
   switch (change) {
     case RangeChange::MoveLeft:
@@ -60,8 +62,7 @@ PlotRange Shifted(const PlotRange& range, RangeShift shift) {
 }
 
 std::u16string Shown(double value, DisplayFormat format) {
-  const auto text = FormatNumber(value, format);
-  return Widen(text ? *text : text.error().message);
+  return ShownNumber(value, format, BaseMode::Decimal);
 }
 
 }  // namespace
@@ -69,7 +70,7 @@ std::u16string Shown(double value, DisplayFormat format) {
 int RowOf(const PlotRange& range, const PlotArea& area, double y) {
   const double row =
       area.bottom - (area.bottom - area.top) / (range.yMax - range.yMin) * (y - range.yMin);
-  // In a range too flat for double, the row of its lower bound comes out as no number.
+  // In a range too flat for double, the row of the lower bound is not a number.
   return row < area.bottom ? static_cast<int>(std::max<double>(row, area.top)) : area.bottom;
 }
 
@@ -94,7 +95,7 @@ void GraphModel::Sample() {
   }
 }
 
-RangeOutcome GraphModel::Change(RangeChange change) {
+ChangeRefusal GraphModel::Change(RangeChange change) {
   switch (change) {
     case RangeChange::Undo:
       return canUndo_ ? Take(undo_) : std::nullopt;
@@ -105,13 +106,13 @@ RangeOutcome GraphModel::Change(RangeChange change) {
   }
 }
 
-RangeOutcome GraphModel::Apply(const PlotRange& range, const GraphOptions& options) {
+ChangeRefusal GraphModel::Apply(const PlotRange& range, const GraphOptions& options) {
   if (const auto refusal = RangeRefusal(range)) return refusal;
   options_ = options;
   return range == range_ ? std::nullopt : Take(range);
 }
 
-RangeOutcome GraphModel::Take(const PlotRange& range) {
+ChangeRefusal GraphModel::Take(const PlotRange& range) {
   if (const auto refusal = DrawingRefusal(range)) return refusal;
   undo_ = std::exchange(range_, range);
   canUndo_ = true;
@@ -119,12 +120,13 @@ RangeOutcome GraphModel::Take(const PlotRange& range) {
   return std::nullopt;
 }
 
-RangeOutcome GraphModel::ZoomToBox(GraphPlace from, GraphPlace to) {
+ChangeRefusal GraphModel::ZoomToBox(GraphPlace from, GraphPlace to) {
   constexpr double kShortestDrag = 10;
   const double shortest = kShortestDrag * area_.Scale();
   const bool isBox =
       std::fabs(to.column - from.column) >= shortest && std::fabs(to.row - from.row) >= shortest;
   if (traces_ || !isBox || !IsInPlot(from)) return std::nullopt;
+  // XAt multiplies in another order, and so differs in the last digit.
   const auto yAt = [this](double row) {
     return range_.yMin +
            (area_.bottom - row) * (range_.yMax - range_.yMin) / (area_.bottom - area_.top);
@@ -175,13 +177,11 @@ Expected<GraphReading, std::u16string> GraphModel::Calculate(std::u16string_view
   return ReadCurves(*x, typed);
 }
 
-/// The traced x is shown with all of its digits, so that the field holds what is calculated.
+/// Shows x with all of its digits, so that "Cal" on the field shows the same values again.
 GraphReading GraphModel::Trace(double x) {
-  const auto text = FormatForInsertion(x, input_.format);
-  const std::u16string shown = Widen(text ? *text : text.error().message);
+  const std::u16string shown = InsertedNumber(x, input_.format, BaseMode::Decimal);
   GraphReading reading = ReadCurves(ReadShownNumber(Narrow(shown)).value_or(x), shown);
   tracedX_ = x;
-  reading.xValue = x;
   return reading;
 }
 
@@ -191,13 +191,12 @@ GraphReading GraphModel::ReadCurves(double x, std::u16string_view shown) {
   reading.x = shown;
   for (std::size_t i = 0; i < input_.curves.size(); ++i) reading.lines.push_back(ValueLine(i, x));
   reading.selected = selected_;
-  if (traces_) reading.xValue = x;
   return reading;
 }
 
 std::u16string GraphModel::ValueLine(std::size_t index, double x) const {
   const auto y = input_.curves[index].formula.At({.x = x}, input_.angle);
-  return CurveValuePrefix(static_cast<int>(index)) +
+  return CurveValuePrefix(index) +
          (y ? Shown(*y, input_.format) : std::u16string(kValueOutOfRange));
 }
 
@@ -228,10 +227,11 @@ std::optional<GraphPlace> GraphModel::Marker() const {
 
 std::vector<std::u16string> GraphModel::RangeLabels() const {
   if (!options_.hasCoordinates) return {};
-  const std::array<double, 4> bounds{range_.xMin, range_.xMax, range_.yMin, range_.yMax};
   std::vector<std::u16string> labels;
-  for (std::size_t i = 0; i < bounds.size(); ++i) {
-    labels.push_back(std::u16string(kRangeLabels[i]) + Shown(bounds[i], input_.format));
+  labels.reserve(kRangeFields.size());
+  for (const RangeField field : kRangeFields) {
+    labels.push_back(std::u16string(kRangeLabels[IndexOf(field)]) +
+                     Shown(range_.*BoundOf(field), input_.format));
   }
   return labels;
 }

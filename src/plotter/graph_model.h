@@ -1,4 +1,4 @@
-// The graph without its pixels: range, undo, zoom, moves, trace and what they say.
+// The graph without its widgets: range, undo, zoom, moves, trace and the texts that they show.
 #pragma once
 
 #include <array>
@@ -13,27 +13,26 @@
 
 namespace kav {
 
-/// The rectangle of the plot in pixels of the view, both borders included, left < right and
-/// top < bottom. Sample i stands at left + i * (right - left) / (kSampleCount - 1); a plot 230
-/// pixels wide has one a column.
+/// The rectangle of the plot in pixels of the view, borders included; left < right, top < bottom.
+/// In a plot 230 pixels wide each column has one sample.
 struct PlotArea {
   int left = 0;
   int top = 0;
   int right = kSampleCount - 1;
   int bottom = kSampleCount - 1;
 
-  /// How many pixels of the view are one of a plot 230 pixels wide.
+  /// The size of a pixel of a plot 230 pixels wide, in pixels of the view.
   double Scale() const { return (right - left + 1.) / kSampleCount; }
+  /// Where sample `i`, from 0, is.
   double ColumnOfSample(double i) const { return left + i * (right - left) / (kSampleCount - 1); }
 
   bool operator==(const PlotArea&) const = default;
 };
 
-/// The row of pixels in which `y`, which is in the range, stands: never beyond the area for want of
-/// a digit.
+/// The row of pixels of a `y` in the range. Rounding never moves it out of the area.
 int RowOf(const PlotRange& range, const PlotArea& area, double y);
 
-/// A place of the view in pixels.
+/// A place in the view, in pixels.
 struct GraphPlace {
   double column;
   double row;
@@ -51,16 +50,15 @@ enum class RangeChange {
   Undo,
 };
 
-/// What "Cal" and a tap show: the results list, and which of its lines is selected.
+/// What "Cal" and a tap show.
 struct GraphReading {
-  std::u16string x;  ///< for the "X =" field
-  std::vector<std::u16string> lines;
-  std::optional<int> selected;
-  std::optional<double> xValue;  ///< where the marker stands; nullopt hides it
+  std::u16string x;                   ///< the text of the "X =" field
+  std::vector<std::u16string> lines;  ///< of the results list
+  std::optional<int> selected;        ///< one of the lines, from 0
 };
 
-/// What is told where a range was refused; all is as it was then.
-using RangeOutcome = std::optional<std::u16string_view>;
+/// Why a change of the range is refused, as a text for the user; nullopt if it was made.
+using ChangeRefusal = std::optional<std::u16string_view>;
 
 class GraphModel {
  public:
@@ -70,51 +68,51 @@ class GraphModel {
   const PlotRange& Range() const { return range_; }
   const GraphOptions& Options() const { return options_; }
 
-  /// Where the plot is drawn; the curves are sampled anew for its rows.
+  /// Sets where the plot is drawn, and samples the curves for its rows.
   void SetArea(const PlotArea& area);
   const PlotArea& Area() const { return area_; }
-  /// The rows of curve `index`.
+  /// The samples of curve `index`, from 0.
   const CurveRows& Rows(std::size_t index) const { return rows_[index]; }
 
-  // Each takes the range before it as the one that Undo restores, Undo itself as well; a refused
-  // one leaves all alone.
-  RangeOutcome Change(RangeChange change);
-  /// The range and the options of the options dialog. The same range again leaves Undo as it is.
-  RangeOutcome Apply(const PlotRange& range, const GraphOptions& options);
-  /// The rectangle between two places of a drag, in any direction; nothing while tracing, where it
-  /// began outside the plot, or where it is less than 10 pixels (of a plot 230 pixels wide) wide or
-  /// high.
-  RangeOutcome ZoomToBox(GraphPlace from, GraphPlace to);
+  // A change keeps the range before it for Undo; so does Undo itself. A refused one changes
+  // nothing.
+  ChangeRefusal Change(RangeChange change);
+  /// Takes range and options from the options dialog. The range that is shown already leaves Undo
+  /// as it is.
+  ChangeRefusal Apply(const PlotRange& range, const GraphOptions& options);
+  /// Zooms to the rectangle between the ends of a drag, in any direction. Does nothing while
+  /// tracing, if the drag began outside the plot, or if the rectangle is less than 10 pixels (of a
+  /// plot 230 pixels wide) wide or high.
+  ChangeRefusal ZoomToBox(GraphPlace from, GraphPlace to);
   bool CanUndo() const { return canUndo_; }
 
-  /// Whether taps trace.
+  /// Whether taps move the trace marker.
   bool Traces() const { return traces_; }
   void SetTraces(bool traces) { traces_ = traces; }  // NOLINT: a check box
 
-  /// The curve that the equation selector names, from 0; an index of none is ignored.
+  /// Takes the choice of the equation selector, from 0. Ignores an index without a curve.
   void SelectCurve(int index);
-  int SelectedCurve() const { return selected_; }
 
-  /// A tap: nullopt outside of the plot.
+  /// A tap; nullopt if it is outside the plot.
   std::optional<GraphReading> Tap(GraphPlace place);
-  /// "Cal" on the text of the "X =" field, empty for 0; why it is no number otherwise.
+  /// "Cal" on the text of the "X =" field, in which blanks mean 0; or why that text is refused.
   Expected<GraphReading, std::u16string> Calculate(std::u16string_view text);
-  /// A step of the marker by `columns` samples to the right, while tracing: from the sample next to
-  /// it, or from the middle where there is no marker yet, and no further than the plot goes.
+  /// Moves the marker by `columns` samples to the right, up to the border of the plot. It starts
+  /// from the nearest sample, or from the middle if there is no marker yet. nullopt if not tracing.
   std::optional<GraphReading> Step(int columns);
 
-  /// The marker: where the traced x stands, and on the selected curve. nullopt while there is none,
-  /// and where it is outside of the plot or the curve is.
+  /// The place of the selected curve at the traced x; nullopt if there is no marker, or if the
+  /// place is outside the plot.
   std::optional<GraphPlace> Marker() const;
-  /// The column of the traced x, wherever the curve is; nullopt while there is none, and where it
-  /// is outside of the plot.
+  /// The column of the traced x, wherever the curve is; nullopt if there is no marker, or if the
+  /// column is outside the plot.
   std::optional<double> MarkerColumn() const;
 
-  /// The label lines "x min=..." and so on; empty without Coordinates.
+  /// The bounds as labels, "x min=..." and so on; none if the option Coordinates is off.
   std::vector<std::u16string> RangeLabels() const;
 
  private:
-  RangeOutcome Take(const PlotRange& range);
+  ChangeRefusal Take(const PlotRange& range);
   void Sample();
   bool IsInPlot(GraphPlace place) const;
   double XAt(double column) const;

@@ -53,7 +53,7 @@ std::optional<int> YAxisColumn(const PlotRange& range, const PlotArea& area) {
   return area.left + static_cast<int>(part * (area.right - area.left - 1));
 }
 
-/// At the right end, above the axis where there is room.
+/// At the right end of the axis, above it if there is room.
 GraphText XAxisText(const PlotArea& area, int row) {
   const double scale = area.Scale();
   const double above = row - kTextGap / 2 * scale;
@@ -63,8 +63,8 @@ GraphText XAxisText(const PlotArea& area, int row) {
           std::u16string(kXAxisLabel)};
 }
 
-/// At the upper end, right of the axis where there is room; at the lower end where that would
-/// overlap `other`.
+/// At the upper end of the axis, or at the lower end if that would overlap `other`. Right of the
+/// axis if there is room.
 GraphText YAxisText(const PlotArea& area, int column, const std::optional<GraphText>& other) {
   const double scale = area.Scale();
   const double right = column + kTextGap * scale;

@@ -1,4 +1,4 @@
-// What a graph looks like, as a list of shapes in the order of painting.
+// A graph as a list of shapes, in the order of painting.
 #pragma once
 
 #include <array>
@@ -24,11 +24,12 @@ inline constexpr GraphColour kMarker = 0xFF8000;
 inline constexpr std::array<GraphColour, kMostCurves> kCurves{0xFF0000, 0x00FF00, 0x0000FF};
 }  // namespace graph_colour
 
-// Places are centres of pixels, in pixels of the view; sizes are pixels of a plot 230 pixels wide.
+// Places are in pixels of the view; whole numbers are the centres of pixels. Sizes are in pixels of
+// a plot 230 pixels wide.
 struct GraphFrame {
   PlotArea area;
 };
-/// A straight line that is a row or a column of pixels.
+/// A straight line along a row or a column of pixels.
 struct GraphRule {
   GraphPlace from;
   GraphPlace to;
@@ -57,12 +58,12 @@ using GraphShape = std::variant<GraphFrame, GraphRule, GraphStroke, GraphDot, Gr
 using GraphPicture = std::vector<GraphShape>;
 
 /// The picture of `model` in its area: the frame, the grid, the axes and their labels, the curves,
-/// the discs of the data points, the labels of the range. Discs are as many as can be told apart,
-/// however many the points.
+/// the discs of the data points, the labels of the range. Discs that would change no pixel are left
+/// out.
 GraphPicture BuildPicture(const GraphModel& model);
 
-/// The trace marker, to be painted over the picture and never saved with it: a line at the traced
-/// x, and a cross line and a disc where the selected curve has a point there. Empty without one.
+/// The trace marker, which is painted over the picture and never saved: a line at the traced x. If
+/// the selected curve has a point there, also a line across and a disc. Empty without a marker.
 GraphPicture BuildMarker(const GraphModel& model);
 
 }  // namespace kav

@@ -10,7 +10,7 @@
 namespace kav {
 namespace {
 
-/// The distances are finite only where the bounds are.
+/// The distances are finite only if the bounds are.
 bool IsFinite(const PlotRange& range) {
   return std::isfinite(range.xMax - range.xMin) && std::isfinite(range.yMax - range.yMin);
 }
@@ -22,7 +22,7 @@ std::u16string_view OutOfRangeText() {
 
 }  // namespace
 
-// "Not below" rather than "at or above": what is not a number is neither.
+// "Not below" also refuses bounds that are not numbers; "at or above" would not.
 std::optional<std::u16string_view> RangeRefusal(const PlotRange& range) {
   if (!(range.xMin < range.xMax)) return kXRangeIsEmpty;
   if (!(range.yMin < range.yMax)) return kYRangeIsEmpty;

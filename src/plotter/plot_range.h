@@ -1,4 +1,4 @@
-// The part of the plane that a plot shows.
+// The part of the plane that a graph shows.
 #pragma once
 
 #include <optional>
@@ -6,6 +6,7 @@
 
 namespace kav {
 
+/// Bounds of x and y.
 struct PlotRange {
   double xMin = -10;
   double xMax = 10;
@@ -15,12 +16,15 @@ struct PlotRange {
   bool operator==(const PlotRange&) const = default;
 };
 
-/// Why the user's range is not taken: a lower bound is not below its upper one (x before y), or a
-/// bound or the distance between two is beyond the range of double. nullopt where all is well.
+// Both answer why a range is refused, as a text for the user, or nullopt if it is not. Of faults in
+// x and in y they tell the one in x.
+
+/// For a range that the user typed: a lower bound is not below its upper bound, or a bound or the
+/// distance of two is beyond the range of double.
 std::optional<std::u16string_view> RangeRefusal(const PlotRange& range);
 
-/// Why the range that a zoom or a move ends with cannot be drawn: a bound or a distance is beyond
-/// the range of double, or two bounds are equal (x before y). nullopt where it can.
+/// For the range after a zoom or a move: a bound or the distance of two is beyond the range of
+/// double, or two bounds are equal.
 std::optional<std::u16string_view> DrawingRefusal(const PlotRange& range);
 
 }  // namespace kav

@@ -9,7 +9,7 @@ namespace kav {
 PlotterOptionsModel::PlotterOptionsModel(const PlotterOptions& options) : begin_(options) {
   for (const RangeField field : kRangeFields) {
     fields_[IndexOf(field)] =
-        InsertedNumber(BoundOf(begin_.range, field), DisplayFormat{}, BaseMode::Decimal);
+        InsertedNumber(begin_.range.*BoundOf(field), DisplayFormat{}, BaseMode::Decimal);
   }
 }
 
@@ -17,10 +17,9 @@ Expected<PlotterOptions, Refusal<RangeField>> PlotterOptionsModel::Accept(
     const RangeTexts& typed, const GraphOptions& options) const {
   auto range = ReadRange(typed);
   if (!range) return std::move(range).error();
-  PlotRange kept = begin_.range;
   for (const RangeField field : kRangeFields) {
-    const std::size_t index = IndexOf(field);
-    if (typed[index] == fields_[index]) BoundOf(*range, field) = BoundOf(kept, field);
+    const bool isUntouched = typed[IndexOf(field)] == fields_[IndexOf(field)];
+    if (isUntouched) (*range).*BoundOf(field) = begin_.range.*BoundOf(field);
   }
   if (auto refusal = RefuseRange(*range)) return *std::move(refusal);
   return PlotterOptions{*range, options};

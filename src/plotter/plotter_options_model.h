@@ -1,4 +1,4 @@
-// The dialog of a graph's range and options, without its pixels.
+// The dialog of a graph's range and options without its widgets.
 #pragma once
 
 #include "common/expected.h"
@@ -19,12 +19,12 @@ class PlotterOptionsModel {
  public:
   explicit PlotterOptionsModel(const PlotterOptions& options);
 
-  /// What the fields begin with.
+  /// The texts that the fields begin with.
   const RangeTexts& Fields() const { return fields_; }
   const GraphOptions& Options() const { return begin_.options; }
 
-  /// What was made of them, or why that cannot be: the text and the field that gets the focus. A
-  /// bound whose field was left as it was keeps its value, of which the field may show less.
+  /// The range and the options that the user chose, or why `typed` is no range. A bound whose field
+  /// was left alone keeps its value, of which the field may show fewer digits.
   Expected<PlotterOptions, Refusal<RangeField>> Accept(const RangeTexts& typed,
                                                        const GraphOptions& options) const;
 

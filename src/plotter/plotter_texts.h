@@ -21,9 +21,9 @@ inline constexpr std::u16string_view kYRangeIsEmpty =
 inline constexpr std::u16string_view kXBoundsAreEqual = u"Can not draw graph(X min = X max)";
 inline constexpr std::u16string_view kYBoundsAreEqual = u"Can not draw graph(Y min = Y max)";
 
-// What a field of a number is told that holds none.
+/// Why the number in a field is refused.
 inline std::u16string FieldTakesNumbers(std::u16string_view field, std::u16string_view typed) {
-  // Texts may be of any length, boxes may not.
+  // A text can be of any length, but a message box cannot.
   constexpr std::size_t kMostShown = 60;
   std::u16string text(field);
   text += u" takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size";
@@ -32,20 +32,20 @@ inline std::u16string FieldTakesNumbers(std::u16string_view field, std::u16strin
 }
 inline constexpr std::u16string_view kTracedXField = u"\"X =\"";
 
-// The results list.
-inline constexpr std::array<std::u16string_view, 3> kCurveTags{u"R:", u"G:", u"B:"};
+// The results list, and the least that the equation selector shows of an equation.
+inline constexpr std::array<std::u16string_view, 3> kShortCurveNames{u"R:F1", u"G:F2", u"B:F3"};
 inline constexpr std::u16string_view kTouchedYPrefix = u"y = ";
 inline constexpr std::u16string_view kValueOutOfRange = u"Out of range";
 
-/// What opens the line of curve `index`, from 0.
-inline std::u16string CurveValuePrefix(int index) {
-  std::u16string text(kCurveTags[static_cast<std::size_t>(index)]);
-  return text + u"F" + Widen(PrintInteger(index + 1)) + u"(X) = ";
+/// Opens the line of curve `index`, from 0.
+inline std::u16string CurveValuePrefix(std::size_t index) {
+  return std::u16string(kShortCurveNames[index]) + u"(X) = ";
 }
 
 // In the picture.
 inline constexpr std::u16string_view kYAxisLabel = u"x=0";
 inline constexpr std::u16string_view kXAxisLabel = u"y=0";
+/// In the order of RangeField.
 inline constexpr std::array<std::u16string_view, 4> kRangeLabels{u"x min=", u"x max=", u"y min=",
                                                                  u"y max="};
 
@@ -68,19 +68,18 @@ inline constexpr std::u16string_view kVariable = u"x";
 inline constexpr std::u16string_view kPlotterOptionsTitle = u"Plotter Options";
 inline constexpr std::u16string_view kCoordinatesCaption = u"Coordinates";
 
-// What screen readers call the parts of the screen that have no caption, and its short ones.
+// What screen readers call the parts of the screen that have no caption, or a short one.
 inline constexpr std::u16string_view kEquationInputName = u"Equation";
 inline constexpr std::u16string_view kEquationListName = u"Equations";
 inline constexpr std::u16string_view kAddName = u"Add the equation";
 inline constexpr std::u16string_view kDeleteEquationName = u"Delete the selected equation";
 
-/// What opens the label of a curve, by its place. Users know them as they are, the lower-case x
-/// included.
+/// Open the labels of the curves. Users know them as they are, with the lower-case x.
 inline constexpr std::array<std::u16string_view, 3> kCurvePrefixes{u"R:F1(X)=", u"G:F2(x)=",
                                                                    u"B:F3(X)="};
 
-/// `text` whole where it has at most `longest` UTF-16 units, else its first `kept` (less one where
-/// that would halve a character) and three points.
+/// `text` on one line: all of it if it has at most `longest` UTF-16 units, else its first `kept`
+/// and three points. One unit less is kept if that would halve a character.
 inline std::u16string CutTo(std::u16string_view text, std::size_t longest, std::size_t kept) {
   if (text.size() <= longest) return OnOneLine(std::u16string(text));
   const bool halves = (text[kept - 1] & 0xFC00U) == 0xD800U;
@@ -127,8 +126,6 @@ inline constexpr std::u16string_view kGraphOptionsEntry = u"&Graph Options";
 // What screen readers call its parts.
 inline constexpr std::u16string_view kGraphName = u"Graph";
 inline constexpr std::u16string_view kCurveSelectorName = u"Selected equation";
-/// What the selector shows at least of an equation.
-inline constexpr std::array<std::u16string_view, 3> kShortCurveNames{u"R:F1", u"G:F2", u"B:F3"};
 inline constexpr std::u16string_view kTracedXName = u"X";
 inline constexpr std::u16string_view kGraphResultsName = u"Results";
 

@@ -18,12 +18,6 @@ std::u16string_view CaptionOf(RangeField field) {
   return kCaptions[IndexOf(field)];
 }
 
-double& BoundOf(PlotRange& range, RangeField field) {
-  constexpr std::array kBounds{&PlotRange::xMin, &PlotRange::xMax, &PlotRange::yMin,
-                               &PlotRange::yMax};
-  return range.*kBounds[IndexOf(field)];
-}
-
 Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts) {
   PlotRange range;
   for (const RangeField field : kRangeFields) {
@@ -32,7 +26,7 @@ Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts) {
     if (!value || !std::isfinite(*value)) {
       return Refusal<RangeField>{FieldTakesNumbers(CaptionOf(field), text), field};
     }
-    BoundOf(range, field) = *value;
+    range.*BoundOf(field) = *value;
   }
   return range;
 }

@@ -17,25 +17,29 @@ enum class RangeField { XMin, XMax, YMin, YMax };
 inline constexpr std::array kRangeFields{RangeField::XMin, RangeField::XMax, RangeField::YMin,
                                          RangeField::YMax};
 
-/// What stands in the fields, in the order of RangeField.
+/// The texts of the fields, in the order of RangeField.
 using RangeTexts = std::array<std::u16string, kRangeFields.size()>;
 
 constexpr std::size_t IndexOf(RangeField field) {
   return static_cast<std::size_t>(field);
 }
 
-/// What stands before a field: "X min".
+/// The caption before a field, such as "X min".
 std::u16string_view CaptionOf(RangeField field);
 
-/// The bound that a field is about.
-double& BoundOf(PlotRange& range, RangeField field);
+/// The member of PlotRange that `field` holds.
+constexpr double PlotRange::*BoundOf(RangeField field) {
+  constexpr std::array kBounds{&PlotRange::xMin, &PlotRange::xMax, &PlotRange::yMin,
+                               &PlotRange::yMax};
+  return kBounds[IndexOf(field)];
+}
 
-/// The fields as finite numbers, in whatever order those are; why the first that is none is
-/// refused.
+/// The fields as finite numbers, which may be in the wrong order; or the first field that holds no
+/// such number.
 Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts);
 
-/// Why `range` cannot be plotted, with the upper bound of its first pair that is out of order;
-/// nullopt where it can.
+/// The RangeRefusal of `range`, with the upper bound of x if x is wrong, else that of y; nullopt if
+/// there is none.
 std::optional<Refusal<RangeField>> RefuseRange(const PlotRange& range);
 
 }  // namespace kav

@@ -1,11 +1,14 @@
 // What the user is told about a file that could not be read or written.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "settings/file_error.h"
 
 namespace kav {
+
+inline constexpr std::u16string_view kDiskFails = u"the disk reports an error; check the disk";
 
 /// Why, and what to do: a clause that goes on after "...: " and ends without a point.
 inline std::u16string_view ReasonAndRemedy(FileError error) {
@@ -28,7 +31,29 @@ inline std::u16string_view ReasonAndRemedy(FileError error) {
     case FileError::Device:
       break;
   }
-  return u"the disk reports an error; check the disk";
+  return kDiskFails;
+}
+
+/// Why a file that the user chose could not be read, and what to do: a clause as above.
+inline std::u16string_view ReasonOfReading(FileError error) {
+  switch (error) {
+    case FileError::NotThere:
+      return u"there is no such file; check its name";
+    case FileError::BadPath:
+      return u"a folder on the way there is none; check the path";
+    case FileError::NotAFile:
+      return u"a folder or a device has this name; choose a file";
+    case FileError::NoPermission:
+      return u"there is no permission; check who owns the file, and who may read it";
+    default:
+      return kDiskFails;
+  }
+}
+
+/// The sentence "`what` `path`: `reason`.", for example with "The data cannot be saved in ".
+inline std::u16string FileFailure(std::u16string_view what, std::u16string_view path,
+                                  std::u16string_view reason) {
+  return std::u16string(what).append(path).append(u": ").append(reason).append(u".");
 }
 
 }  // namespace kav

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <string_view>
 
-#include "common/expected.h"
 #include "common/number_text.h"
 #include "display/number_input.h"
 #include "statistics/statistics_texts.h"
@@ -11,7 +10,7 @@
 namespace kav {
 namespace {
 
-/// The number in the field called `name`, or what it must be.
+/// The number in the field called `name`, or what that field takes.
 Expected<double, std::u16string> ReadValue(std::u16string_view text, std::u16string_view name) {
   const auto value = ReadShownNumber(Narrow(text));
   if (!value) return ValueIsNoNumber(name);
@@ -28,8 +27,7 @@ std::optional<std::int32_t> ReadCount(std::u16string_view text) {
   return static_cast<std::int32_t>(*value);
 }
 
-std::variant<FieldNumbers, Refusal<DataField>> ReadTypedRow(const TypedRow& typed,
-                                                            DataShape shape) {
+Expected<FieldNumbers, Refusal<DataField>> ReadTypedRow(const TypedRow& typed, DataShape shape) {
   FieldNumbers numbers;
   const auto x = ReadValue(typed.x, kXName);
   if (!x) return Refusal<DataField>{x.error(), DataField::X};

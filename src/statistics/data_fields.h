@@ -1,11 +1,13 @@
 // The fields that rows are typed into.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <variant>
+#include <string_view>
 
+#include "common/expected.h"
 #include "common/refusal.h"
 #include "statistics/data_list.h"
 
@@ -13,7 +15,7 @@ namespace kav {
 
 enum class DataField { X, Y, Count };
 
-/// What stands in the fields; a screen of one variable has no `y`.
+/// The texts of the fields. A screen of one variable has no `y`.
 struct TypedRow {
   std::u16string x;
   std::u16string y;
@@ -22,18 +24,24 @@ struct TypedRow {
   bool operator==(const TypedRow&) const = default;
 };
 
-/// The numbers that the fields hold: finite ones, and a count from kLeastCount to kLargestCount.
-/// `y` is 0 for one variable.
+/// The member of TypedRow that is the text of `field`.
+constexpr std::u16string TypedRow::*TextOf(DataField field) {
+  constexpr std::array kTexts{&TypedRow::x, &TypedRow::y, &TypedRow::count};
+  return kTexts[static_cast<std::size_t>(field)];
+}
+
+/// The values of the fields: finite numbers, and a count from kLeastCount to kLargestCount. `y` is
+/// 0 for one variable.
 struct FieldNumbers {
   double x = 0;
   double y = 0;
-  std::int32_t count = 1;
+  std::int32_t count = kLeastCount;
 };
 
-/// The whole number in a field for a count, within the same bounds; nullopt for anything else.
+/// `text` as a count from kLeastCount to kLargestCount; nullopt if it is anything else.
 std::optional<std::int32_t> ReadCount(std::u16string_view text);
 
-/// What `typed` holds, or what the first field that holds no such number must be, from the top.
-std::variant<FieldNumbers, Refusal<DataField>> ReadTypedRow(const TypedRow& typed, DataShape shape);
+/// The values of `typed`, or the first of its fields that has none and what that field takes.
+Expected<FieldNumbers, Refusal<DataField>> ReadTypedRow(const TypedRow& typed, DataShape shape);
 
 }  // namespace kav

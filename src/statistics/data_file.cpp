@@ -15,17 +15,16 @@
 #include "settings/file_descriptor.h"
 #include "statistics/data_reader.h"
 #include "statistics/data_texts.h"
-#include "statistics/progress_clock.h"
 
 namespace kav {
 namespace {
 
 constexpr std::size_t kBlockSize = std::size_t{1} << 16U;
-/// How many rows are printed between two looks at the clock.
+/// The rows that are printed between two looks at the clock.
 constexpr std::size_t kRowsAtOnce = 1024;
 
 using Loaded = std::variant<DataList, WorkFailed, WorkCancelled>;
-using NotSaved = std::variant<WorkFailed, WorkCancelled>;
+using Saved = std::variant<DataSaved, WorkFailed, WorkCancelled>;
 
 /// An open file, read from its start to its end.
 class DataSource {
@@ -33,7 +32,7 @@ class DataSource {
   explicit DataSource(const std::string& path)
       : file_(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)) {}
 
-  /// nullopt: it is a file that can be read.
+  /// Why the file cannot be read; nullopt if it can.
   std::optional<FileError> Check() {
     struct stat status {};
     if (!file_.IsOpen() || fstat(file_.Number(), &status) != 0) return FileErrorFromErrno(errno);
@@ -42,7 +41,7 @@ class DataSource {
     return std::nullopt;
   }
 
-  /// The next bytes, none at the end.
+  /// The next bytes, valid until the next call; none at the end of the file.
   Expected<std::string_view, FileError> Next() {
     ssize_t got = 0;
     do {
@@ -53,7 +52,9 @@ class DataSource {
     return std::string_view(block_.data(), static_cast<std::size_t>(got));
   }
 
+  /// Whether less was read than the file had when it was opened.
   bool HasShrunk() const { return position_ < size_; }
+  /// The part of the file that was read, 0 to 1.
   double Done() const {
     if (position_ >= size_) return 1;
     return static_cast<double>(position_) / static_cast<double>(size_);
@@ -66,24 +67,6 @@ class DataSource {
   std::uint64_t position_ = 0;
 };
 
-/// Why the rows of `source` are not in the list, a clause; or that nobody wants them any more.
-using Unread = std::variant<std::u16string, WorkCancelled>;
-
-std::optional<Unread> ReadAll(DataSource& source, DataReader& reader,
-                              const WorkProgress& progress) {
-  ProgressClock clock(progress);
-  while (true) {
-    if (!clock.GoesOn(source.Done())) return WorkCancelled{};
-    const auto block = source.Next();
-    if (!block) return std::u16string(ReasonOfReading(block.error()));
-    const auto fault = block->empty() ? reader.Finish() : reader.Read(*block);
-    if (fault) return ReasonOf(fault->refusal, fault->line);
-    if (!block->empty()) continue;
-    if (source.HasShrunk()) return std::u16string(kFileHasShrunk);
-    return std::nullopt;
-  }
-}
-
 Loaded NotLoaded(const std::string& path, std::u16string_view reason) {
   return WorkFailed{DataCannotBeLoaded(Widen(path), reason)};
 }
@@ -94,25 +77,31 @@ Loaded LoadRows(const std::string& path, DataShape shape, const WorkProgress& pr
   DataList list(shape);
   DataReader reader(shape,
                     [&list](std::span<const DataRow> rows) { return list.AppendRows(rows); });
-  if (const auto unread = ReadAll(source, reader, progress)) {
-    if (std::holds_alternative<WorkCancelled>(*unread)) return WorkCancelled{};
-    return NotLoaded(path, std::get<std::u16string>(*unread));
+  ProgressClock clock(progress);
+  while (true) {
+    if (!clock.GoesOn(source.Done())) return WorkCancelled{};
+    const auto block = source.Next();
+    if (!block) return NotLoaded(path, ReasonOfReading(block.error()));
+    const auto fault = block->empty() ? reader.Finish() : reader.Read(*block);
+    if (fault) return NotLoaded(path, ReasonOf(fault->refusal, fault->line));
+    if (!block->empty()) continue;
+    if (source.HasShrunk()) return NotLoaded(path, kFileHasShrunk);
+    return list;
   }
-  return list;
 }
 
-NotSaved NotSavedFor(const std::string& path, std::u16string_view reason) {
+Saved NotSaved(const std::string& path, std::u16string_view reason) {
   return WorkFailed{DataCannotBeSaved(Widen(path), reason)};
 }
 
 void AppendRow(std::string& text, const DataList& list, std::size_t row) {
-  for (std::size_t i = 0; i < static_cast<std::size_t>(list.Shape()); ++i) {
+  for (std::size_t i = 0; i < VariablesOf(list.Shape()); ++i) {
     text.append(list.ValueText(row, i)) += '\t';
   }
   text.append(list.CountText(row)).append("\r\n");
 }
 
-/// At least as many bytes as the rows take.
+/// At least as many bytes as the rows of `list` take as text.
 std::size_t SizeBound(const DataList& list) {
   constexpr std::size_t kRest = std::string_view("\t\t-2147483648\r\n").size();
   std::size_t size = 0;
@@ -122,7 +111,7 @@ std::size_t SizeBound(const DataList& list) {
   return size;
 }
 
-/// nullopt: given up.
+/// The rows of `list` as text; nullopt if that is cancelled.
 std::optional<std::string> PrintAll(const DataList& list, const WorkProgress& progress) {
   ProgressClock clock(progress);
   const auto rows = static_cast<double>(list.RowCount());
@@ -137,13 +126,12 @@ std::optional<std::string> PrintAll(const DataList& list, const WorkProgress& pr
   return text;
 }
 
-std::optional<NotSaved> SaveRows(const std::string& path, const DataList& list,
-                                 const WorkProgress& progress) {
+Saved SaveRows(const std::string& path, const DataList& list, const WorkProgress& progress) {
   const auto text = PrintAll(list, progress);
   if (!text) return WorkCancelled{};
   const auto error = SaveFile(path, *text);
-  if (error) return NotSavedFor(path, ReasonAndRemedy(*error));
-  return std::nullopt;
+  if (error) return NotSaved(path, ReasonAndRemedy(*error));
+  return DataSaved{};
 }
 
 }  // namespace
@@ -152,16 +140,15 @@ Loaded LoadDataFile(const std::string& path, DataShape shape, const WorkProgress
   try {
     return LoadRows(path, shape, progress);
   } catch (const std::bad_alloc&) {
-    return NotLoaded(path, ReasonOf(DataRefusal::NoMemory, 0));
+    return NotLoaded(path, kNoMemoryForRows);
   }
 }
 
-std::optional<NotSaved> SaveDataFile(const std::string& path, const DataList& list,
-                                     const WorkProgress& progress) {
+Saved SaveDataFile(const std::string& path, const DataList& list, const WorkProgress& progress) {
   try {
     return SaveRows(path, list, progress);
   } catch (const std::bad_alloc&) {
-    return NotSavedFor(path, kNoMemoryToSave);
+    return NotSaved(path, kNoMemoryToSave);
   }
 }
 

@@ -32,7 +32,7 @@ std::string DataList::CountText(std::size_t row) const {
   return rows_[row].IsComplete() ? PrintInteger(rows_[row].count) : std::string();
 }
 
-/// Whether the texts of `row` fit, and its count in the place of `replacedCount`.
+/// Whether the texts of `row` fit, and its count instead of `replacedCount`.
 inline std::optional<DataRefusal> DataList::Check(const DataRow& row,
                                                   std::int64_t replacedCount) const {
   for (std::size_t i = 0; i < Variables(); ++i) {
@@ -47,27 +47,30 @@ inline std::optional<DataRefusal> DataList::CheckNew(const DataRow& row) const {
   return Check(row, 0);
 }
 
-/// Makes `stored` the row, with its texts behind all others; false where there is no room for them.
-/// It is written where it stays: a copy of it would be read in another width than it was written
-/// in, for which the processor waits.
-inline bool DataList::Store(const DataRow& row, StoredRow& stored) {
-  const std::string_view second = Variables() == 2 ? row.values[1] : std::string_view();
-  try {
-    if (!texts_.MakeRoom(row.values[0].size() + second.size())) return false;
-  } catch (const std::bad_alloc&) {
-    return false;
-  }
-  stored.place = texts_.PutInRoom(row.values[0], second);
-  stored.lengths[0] = static_cast<std::uint16_t>(row.values[0].size());
-  stored.lengths[1] = static_cast<std::uint16_t>(second.size() | (row.count ? 0U : kNoCount));
-  stored.count = row.count.value_or(0);
-  return true;
-}
-
 inline void DataList::Tally(const StoredRow& row) {
   total_ += row.count;
   completeRows_ += row.IsComplete() ? 1U : 0U;
   textLength_ += row.TextLength();
+}
+
+/// Writes `row` into the StoredRow that `makeRow` answers, once there is room for its texts. The
+/// row is written in its place: to copy it there would read it in wider pieces than it was written
+/// in, and the processor would wait for the writes.
+template <class MakeRow>
+inline std::optional<DataRefusal> DataList::Store(const DataRow& row, MakeRow makeRow) {
+  const std::string_view second = Variables() == 2 ? row.values[1] : std::string_view();
+  try {
+    if (!texts_.MakeRoom(row.values[0].size() + second.size())) return DataRefusal::NoMemory;
+    StoredRow& stored = makeRow();
+    stored.place = texts_.PutInRoom(row.values[0], second);
+    stored.lengths[0] = static_cast<std::uint16_t>(row.values[0].size());
+    stored.lengths[1] = static_cast<std::uint16_t>(second.size() | (row.count ? 0U : kNoCount));
+    stored.count = row.count.value_or(0);
+    Tally(stored);
+    return std::nullopt;
+  } catch (const std::bad_alloc&) {
+    return DataRefusal::NoMemory;
+  }
 }
 
 void DataList::Untally(const StoredRow& row) {
@@ -78,32 +81,12 @@ void DataList::Untally(const StoredRow& row) {
 
 std::optional<DataRefusal> DataList::InsertTop(const DataRow& row) {
   if (auto refusal = CheckNew(row)) return refusal;
-  try {
-    rows_.emplace_front();
-  } catch (const std::bad_alloc&) {
-    return DataRefusal::NoMemory;
-  }
-  if (!Store(row, rows_.front())) {
-    rows_.pop_front();
-    return DataRefusal::NoMemory;
-  }
-  Tally(rows_.front());
-  return std::nullopt;
+  return Store(row, [this]() -> StoredRow& { return rows_.emplace_front(); });
 }
 
 inline std::optional<DataRefusal> DataList::AppendOne(const DataRow& row) {
   if (auto refusal = CheckNew(row)) return refusal;
-  try {
-    rows_.emplace_back();
-  } catch (const std::bad_alloc&) {
-    return DataRefusal::NoMemory;
-  }
-  if (!Store(row, rows_.back())) {
-    rows_.pop_back();
-    return DataRefusal::NoMemory;
-  }
-  Tally(rows_.back());
-  return std::nullopt;
+  return Store(row, [this]() -> StoredRow& { return rows_.emplace_back(); });
 }
 
 TakenRows DataList::AppendRows(std::span<const DataRow> rows) {
@@ -144,16 +127,22 @@ std::optional<DataRefusal> DataList::InsertCopies(const DataList& rows) {
 
 std::optional<DataRefusal> DataList::Rewrite(std::size_t row, const DataRow& with) {
   if (auto refusal = Check(with, rows_[row].count)) return refusal;
-  StoredRow stored;
-  if (!Store(with, stored)) return DataRefusal::NoMemory;
-  Untally(rows_[row]);
-  Tally(rows_[row] = stored);
+  const auto emptied = [this, row]() -> StoredRow& {
+    Untally(rows_[row]);
+    return rows_[row];
+  };
+  if (auto refusal = Store(with, emptied)) return refusal;
   CompactTexts();
   return std::nullopt;
 }
 
+std::optional<DataRefusal> DataList::CheckErase(std::size_t row) const {
+  if (IsInt32(std::int64_t{total_} - rows_[row].count)) return std::nullopt;
+  return DataRefusal::TotalOutOfRange;
+}
+
 std::optional<DataRefusal> DataList::Erase(std::size_t row) {
-  if (!IsInt32(std::int64_t{total_} - rows_[row].count)) return DataRefusal::TotalOutOfRange;
+  if (auto refusal = CheckErase(row)) return refusal;
   Untally(rows_[row]);
   rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(row));
   CompactTexts();
@@ -164,8 +153,8 @@ void DataList::Clear() {
   *this = DataList(shape_);
 }
 
-/// Copies the texts that rows have into a new arena when they are less than half of it. Without
-/// the memory for that, all stays as it is.
+/// Copies the texts of all rows into a new arena once more than half of the old one is waste.
+/// Without the memory for that, all stays as it is.
 void DataList::CompactTexts() {
   if (texts_.Size() < TextArena::kBlockSize || textLength_ > texts_.Size() / 2) return;
   try {
@@ -203,7 +192,7 @@ void DataList::SortBy(std::size_t column, Before before) {
     std::transform(keyed.begin(), keyed.end(), rows_.begin(),
                    [](const KeyedRow& sorted) { return sorted.row; });
   } catch (const std::bad_alloc&) {
-    // Slower, because each comparison reads two texts, but without any memory.
+    // Slower, because each comparison reads two texts, but it needs no memory.
     std::sort(rows_.begin(), rows_.end(), [&](const StoredRow& a, const StoredRow& b) {
       return before(Key(a, column), Key(b, column));
     });

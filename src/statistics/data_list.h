@@ -15,41 +15,45 @@
 
 namespace kav {
 
-/// How many variables a row has, besides its count.
+/// What the rows of a list hold besides their counts.
 enum class DataShape { OneVariable = 1, TwoVariables = 2 };
 
 inline constexpr std::size_t kMostVariables = 2;
+constexpr std::size_t VariablesOf(DataShape shape) {
+  return static_cast<std::size_t>(shape);
+}
 
-/// The counts that users give rows; files may hold others.
+/// The bounds of the counts that users type and paste; files may hold any other 32-bit integer.
 inline constexpr std::int32_t kLeastCount = 1;
 inline constexpr std::int32_t kLargestCount = 10'000;
 
-/// A row as it is put into the list; of a list of one variable only the first value counts.
-/// Values are 8-bit texts, kept as they stand. Without a count it is a row that a file left
-/// unfinished: it reads as count 0.
+/// A row to be put into a list. The list keeps the texts of the values as they are.
 struct DataRow {
+  /// X and Y as 8-bit texts, not owned. A list of one variable ignores the second.
   std::array<std::string_view, kMostVariables> values;
+  /// nullopt for a row that a file leaves unfinished; it counts as 0.
   std::optional<std::int32_t> count;
 
-  /// The number that opens the text.
+  /// The number at the start of the text of variable 0 (X) or 1 (Y).
   double Value(std::size_t variable) const { return ReadDataNumber(values[variable]); }
 };
 
-/// Why a row was not taken; the list is as it was.
+/// Why a list refuses a change. The list is then as it was.
 enum class DataRefusal {
-  TotalOutOfRange,  ///< the total would not be a 32-bit integer
-  TooManyRows,
-  ValueTooLong,
+  TotalOutOfRange,  ///< the total would be no 32-bit integer
+  TooManyRows,      ///< more than DataList::kMostRows
+  ValueTooLong,     ///< more than DataList::kLongestValue
   NoMemory,
 };
 
-/// How many of some rows were taken, from the first on, and why the next one was not.
+/// How many of some rows were taken, from the first on, and why the next one was refused: nullopt if
+/// all were taken.
 struct TakenRows {
   std::size_t count;
-  std::optional<DataRefusal> refusal;  ///< nullopt: that is all of them
+  std::optional<DataRefusal> refusal;
 };
 
-/// Rows count from 0 at the top. Its memory is 12 bytes a row beside the texts.
+/// Rows are numbered from 0 at the top. A row takes 12 bytes and its texts.
 class DataList {
  public:
   static constexpr std::size_t kMostRows = 20'000'000;
@@ -59,46 +63,52 @@ class DataList {
 
   DataShape Shape() const { return shape_; }
   std::size_t RowCount() const { return rows_.size(); }
-  /// The rows that have a count.
+  /// The number of rows that have a count.
   std::size_t CompleteRowCount() const { return completeRows_; }
-  /// The sum of all counts.
+  /// The sum of the counts of all rows.
   std::int32_t Total() const { return total_; }
 
-  /// Of variable 0 (X) or 1 (Y).
+  /// The text of variable 0 (X) or 1 (Y), empty if the row lacks it. Valid until the list changes.
   std::string_view ValueText(std::size_t row, std::size_t variable) const;
-  double Value(std::size_t row, std::size_t variable) const;  ///< the number that opens the text
+  /// The number at the start of that text, 0 if there is none.
+  double Value(std::size_t row, std::size_t variable) const;
   std::int32_t Count(std::size_t row) const { return rows_[row].count; }
-  std::string CountText(std::size_t row) const;  ///< empty where there is none
+  /// Empty for a row without a count.
+  std::string CountText(std::size_t row) const;
 
-  /// Calls `use(value, count)` for a variable of each row, from the top.
+  /// Calls `use(double value, std::int32_t count)` for a variable of each row, from the top.
   template <class Use>
   void ForEachValue(std::size_t variable, Use use) const {
     for (const StoredRow& row : rows_) use(ReadDataNumber(TextOf(row, variable)), row.count);
   }
 
-  // What is refused changes nothing.
+  // Each answers why it is refused, or nullopt when it is done.
   std::optional<DataRefusal> InsertTop(const DataRow& row);
-  std::optional<DataRefusal> Append(const DataRow& row) { return AppendRows({&row, 1}).refusal; }
-  /// One by one, up to the first that is refused.
-  TakenRows AppendRows(std::span<const DataRow> rows);
-  std::optional<DataRefusal> Rewrite(std::size_t row, const DataRow& with);
-  /// All rows of `rows`, which has the same shape, in their order above the first.
+  /// Inserts all rows of `rows`, a list of the same shape, above the first row, in their order.
   std::optional<DataRefusal> InsertTop(const DataList& rows);
-  /// Refused where the counts of the others do not make a total.
+  std::optional<DataRefusal> Append(const DataRow& row) { return AppendRows({&row, 1}).refusal; }
+  std::optional<DataRefusal> Rewrite(std::size_t row, const DataRow& with);
   std::optional<DataRefusal> Erase(std::size_t row);
+  /// Why Erase would be refused: a file can hold negative counts, without which the total of the
+  /// others is out of range.
+  std::optional<DataRefusal> CheckErase(std::size_t row) const;
+
+  /// Appends row by row, up to the first that is refused.
+  TakenRows AppendRows(std::span<const DataRow> rows);
   void Clear();
 
   enum class Direction { Ascending, Descending };
-  /// By the numbers of a column: 0 (X), 1 (Y, or the count), 2 (the count).
+  /// Sorts by the numbers of a column: the variables from 0, then the count. The order of equal
+  /// rows is not specified.
   void Sort(std::size_t column, Direction direction);
 
  private:
-  /// Set in the length of the last text where a row has no count.
+  /// A bit of the second length, set for a row without a count.
   static constexpr std::uint16_t kNoCount = 0x8000;
   static_assert(kLongestValue < kNoCount);
   static_assert(kMostVariables * kLongestValue <= TextArena::kBlockSize);
 
-  /// Where a row's texts stand, one behind the other, and how long they are.
+  /// A row: the place of its first text, which the second follows, and the lengths of both.
   struct StoredRow {
     std::uint32_t place = 0;
     std::array<std::uint16_t, kMostVariables> lengths{};
@@ -109,7 +119,7 @@ class DataList {
     bool IsComplete() const { return (lengths[1] & kNoCount) == 0; }
   };
 
-  std::size_t Variables() const { return static_cast<std::size_t>(shape_); }
+  std::size_t Variables() const { return VariablesOf(shape_); }
   double Key(const StoredRow& row, std::size_t column) const;
   std::string_view TextOf(const StoredRow& row, std::size_t variable) const {
     const std::size_t length = row.Length(variable);
@@ -118,7 +128,8 @@ class DataList {
   }
   std::optional<DataRefusal> Check(const DataRow& row, std::int64_t replacedCount) const;
   std::optional<DataRefusal> CheckNew(const DataRow& row) const;
-  bool Store(const DataRow& row, StoredRow& stored);
+  template <class MakeRow>
+  std::optional<DataRefusal> Store(const DataRow& row, MakeRow makeRow);
   std::optional<DataRefusal> AppendOne(const DataRow& row);
   std::optional<DataRefusal> InsertCopies(const DataList& rows);
   void Tally(const StoredRow& row);
@@ -130,9 +141,8 @@ class DataList {
   DataShape shape_;
   std::int32_t total_ = 0;
   std::size_t completeRows_ = 0;
-  std::size_t textLength_ = 0;  ///< of all rows; what else the texts hold is waste
-  // In chunks, so that it grows at both ends without holding a row twice.
-  std::deque<StoredRow> rows_;
+  std::size_t textLength_ = 0;  ///< of all rows; what else `texts_` holds is waste
+  std::deque<StoredRow> rows_;  ///< grows at both ends without copying rows
   TextArena texts_;
 };
 

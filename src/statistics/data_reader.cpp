@@ -9,9 +9,9 @@
 namespace kav {
 namespace {
 
-/// What of a count is read.
+/// The characters of a count that are read.
 constexpr std::size_t kCountLength = 30;
-/// Digits that no integer of 32 bits is too small for.
+/// Every number of so many digits fits into an integer of 32 bits.
 constexpr std::size_t kSmallDigits = 9;
 
 constexpr std::array<bool, 256> MakeNumberCharacters() {
@@ -41,7 +41,7 @@ std::size_t LeadingLength(std::string_view text) {
   return static_cast<std::size_t>(end - text.begin());
 }
 
-/// How much of `text` there is before the number characters at its end.
+/// The length of `text` without the number characters at its end.
 std::size_t LengthBeforeLast(std::string_view text) {
   std::size_t length = text.size();
   while (length > 0 && IsNumberCharacter(text[length - 1])) --length;
@@ -51,7 +51,7 @@ std::size_t LengthBeforeLast(std::string_view text) {
 }  // namespace
 
 DataReader::DataReader(DataShape shape, RowsTaker take)
-    : take_(std::move(take)), variables_(static_cast<std::size_t>(shape)) {}
+    : take_(std::move(take)), variables_(VariablesOf(shape)) {}
 
 std::optional<DataFault> DataReader::Read(std::string_view block) {
   if (auto fault = ReadTokens(block)) return fault;
@@ -60,7 +60,7 @@ std::optional<DataFault> DataReader::Read(std::string_view block) {
   return std::nullopt;
 }
 
-/// Gives the rows away that are whole.
+/// Passes on the rows that are whole.
 std::optional<DataFault> DataReader::HandRowsOver() {
   if (whole_ == 0) return std::nullopt;
   const TakenRows taken = take_({rows_.data(), whole_});
@@ -71,7 +71,7 @@ std::optional<DataFault> DataReader::HandRowsOver() {
   return std::nullopt;
 }
 
-/// The fault of a value that is too long, unless one of the rows before it has one.
+/// The fault of a value that is too long, or that of a row before it.
 std::optional<DataFault> DataReader::RefuseValue() {
   if (auto fault = HandRowsOver()) return fault;
   return DataFault{DataRefusal::ValueTooLong, line_};
@@ -91,7 +91,7 @@ inline std::optional<DataFault> DataReader::TakeToken(std::string_view token) {
   return std::nullopt;
 }
 
-/// The same for a token that is whole at last.
+/// Takes the carried token, now that its end has come.
 std::optional<DataFault> DataReader::TakeCarried() {
   std::string_view token = carried_;
   if (!ExpectsCount()) token = kept_[field_].assign(carried_);
@@ -113,7 +113,7 @@ std::optional<DataFault> DataReader::ReadTokens(std::string_view block) {
   return Carry(block.substr(whole));
 }
 
-/// Takes tokens that all end before `end`, so that the end of each need not be looked out for.
+/// Takes tokens that all end before `end`, so that the loop over a token needs no check for `end`.
 std::optional<DataFault> DataReader::ReadWholeTokens(const char* at, const char* end) {
   while (true) {
     for (; at != end && !IsNumberCharacter(*at); ++at) line_ += *at == '\n' ? 1U : 0U;
@@ -125,7 +125,7 @@ std::optional<DataFault> DataReader::ReadWholeTokens(const char* at, const char*
   }
 }
 
-/// Keeps what of a token counts until its end comes.
+/// Keeps a piece of a token, as far as it is read, until the end of the token comes.
 std::optional<DataFault> DataReader::Carry(std::string_view piece) {
   const std::size_t most = ExpectsCount() ? kCountLength : DataList::kLongestValue;
   const bool fits = carried_.size() + piece.size() <= most;
@@ -134,7 +134,7 @@ std::optional<DataFault> DataReader::Carry(std::string_view piece) {
   return std::nullopt;
 }
 
-/// Copies the values of an unfinished row, whose block is about to go.
+/// Copies the values of an unfinished row, because the block that they are in goes.
 void DataReader::KeepValues() {
   for (std::size_t i = 0; i < field_; ++i) {
     std::string_view& value = rows_[0].values[i];

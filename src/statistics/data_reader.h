@@ -1,4 +1,4 @@
-// Rows from the bytes of a file, however they are cut into blocks.
+// Reads rows from the bytes of a file, which come in blocks of any size.
 #pragma once
 
 #include <array>
@@ -16,22 +16,23 @@
 
 namespace kav {
 
-/// Where and why reading ended before its time.
+/// Why reading ended before the end of the file, and in which line.
 struct DataFault {
   DataRefusal refusal;
   std::uint64_t line;  ///< counted from 1
 };
 
-/// Takes tokens of the digits and '.', 'e', '+', '-' and whatever stands between them: for each row
-/// its values and its count in turn. A count is the number that opens its first 30 characters,
-/// truncated, modulo 2^32. A token that nothing ends is none. Its memory does not grow.
+/// Tokens consist of digits and '.', 'e', '+', '-'; all other characters separate them. A row is
+/// its values and then its count. A count is the number at the start of the token's first 30
+/// characters, truncated, modulo 2^32. A token at the end of the file with no separator behind it
+/// is ignored. The memory in use does not grow with the file.
 class DataReader {
  public:
-  /// Gets some rows at once; what they view lasts for the call. A refusal ends the reading.
+  /// Gets some rows at once, whose texts are valid during the call. A refusal ends the reading.
   using RowsTaker = std::function<TakenRows(std::span<const DataRow>)>;
 
   DataReader(DataShape shape, RowsTaker take);
-  /// `take` gets them one by one and answers std::optional<DataRefusal>.
+  /// `take` gets the rows one by one and answers std::optional<DataRefusal>.
   template <std::invocable<const DataRow&> RowTaker>
   DataReader(DataShape shape, RowTaker take)
       : DataReader(
@@ -45,14 +46,14 @@ class DataReader {
   DataReader(const DataReader&) = delete;
   DataReader& operator=(const DataReader&) = delete;
 
-  /// Takes the next bytes. After a fault there is nothing more to be called.
+  /// Takes the next bytes. Nothing may be called after a fault.
   std::optional<DataFault> Read(std::string_view block);
 
-  /// At the end of the file: a row without a count is one only where it is the first.
+  /// Takes the end of the file. An unfinished row is taken only if it is the first.
   std::optional<DataFault> Finish();
 
  private:
-  /// Few enough to stay in the fastest memory until they are taken.
+  /// Few enough to stay in the processor's cache until they are taken.
   static constexpr std::size_t kRowsAtOnce = 64;
 
   std::optional<DataFault> ReadTokens(std::string_view block);
@@ -67,12 +68,12 @@ class DataReader {
 
   RowsTaker take_;
   std::size_t variables_;
-  std::size_t field_ = 0;  ///< of the row that is being read, from 0
-  std::size_t whole_ = 0;  ///< rows that wait to be taken; behind them the one that is being read
+  std::size_t field_ = 0;  ///< the next field of the row that is being read, from 0
+  std::size_t whole_ = 0;  ///< rows that wait to be taken; the one that is being read follows them
   std::array<DataRow, kRowsAtOnce> rows_;
-  std::array<std::uint64_t, kRowsAtOnce> lines_{};  ///< in which they end
+  std::array<std::uint64_t, kRowsAtOnce> lines_{};  ///< in which the rows end
   std::array<std::string, kMostVariables> kept_;    ///< values whose block is gone
-  std::string carried_;                             ///< a token whose end is in another block
+  std::string carried_;                             ///< a token whose end is in a later block
   bool hasRows_ = false;
   std::uint64_t line_ = 1;
 };

@@ -1,4 +1,4 @@
-// Sums, mean and standard deviations of a variable.
+// The sums, the mean and the standard deviations of a variable.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@ namespace kav {
 
 enum class Moment { Sum, SumOfSquares, Mean, SampleDeviation, PopulationDeviation };
 
-/// Sums over rows of the value x and the count c, in the order in which they are added.
+/// Sums over rows of a value x and a count c. Their last digits depend on the order of the rows.
 struct WeightedSums {
   double sum = 0;      ///< of c * x
   double squares = 0;  ///< of (x * x) * c
@@ -20,11 +20,13 @@ struct WeightedSums {
   }
 };
 
-/// The moment of values with these sums and the total count `total`. The deviations take the
-/// one-pass form, which can cancel; what is not a number comes out as such.
+/// The moment of values with these sums; `total` is the sum of their counts. Deviations are
+/// computed in one pass from the sum of squares less n times the squared mean, which loses digits
+/// if values are large and differ by little. The result is not a number if that difference is
+/// negative.
 double MomentOf(const WeightedSums& sums, std::int32_t total, Moment moment);
 
-/// The moment of a variable of `list`, from its texts, from the top.
+/// The moment of variable 0 (X) or 1 (Y) of `list`, summed from the top.
 double MomentOf(const DataList& list, std::size_t variable, Moment moment);
 
 }  // namespace kav

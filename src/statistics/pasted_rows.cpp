@@ -11,14 +11,14 @@
 
 #include "common/number_text.h"
 #include "display/number_input.h"
+#include "statistics/data_fields.h"
 #include "statistics/data_texts.h"
-#include "statistics/progress_clock.h"
 #include "statistics/statistics_texts.h"
 
 namespace kav {
 namespace {
 
-// The digits of the smallest double, written in full, are somewhat fewer.
+// A little more than the smallest double has when written in full.
 constexpr std::size_t kLongestNumber = 1100;
 constexpr std::size_t kLongestQuote = 20;
 constexpr std::size_t kFaultsTold = 3;
@@ -42,10 +42,10 @@ char16_t SeparatorOf(std::u16string_view line) {
   return u' ';
 }
 
-/// The columns of a line without the empty ones at its end.
+/// The columns of a line, without the empty ones at its end.
 struct Columns {
   std::array<std::u16string_view, kMostColumns> cells;
-  std::size_t count = 0;  ///< may be more than there is room for
+  std::size_t count = 0;  ///< of the line; `cells` has the first kMostColumns
 };
 
 Columns Split(std::u16string_view line) {
@@ -54,7 +54,7 @@ Columns Split(std::u16string_view line) {
   std::size_t column = 0;
   while (!line.empty()) {
     const std::u16string_view cell = TrimBlanks(TakeUpTo(separator, line));
-    // Any number of blanks separates only once.
+    // Several blanks separate only once.
     if (cell.empty() && separator == u' ') continue;
     if (!cell.empty()) columns.count = column + 1;
     if (column < kMostColumns) columns.cells[column] = cell;
@@ -69,12 +69,9 @@ std::optional<double> ReadNumber(std::u16string_view cell) {
   return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
-std::optional<std::int32_t> ReadCount(std::u16string_view cell) {
+std::optional<std::int32_t> ReadCountCell(std::u16string_view cell) {
   if (cell.empty()) return kLeastCount;
-  const auto number = ReadNumber(cell);
-  if (!number || *number < kLeastCount || *number > kLargestCount) return std::nullopt;
-  if (std::trunc(*number) != *number) return std::nullopt;
-  return static_cast<std::int32_t>(*number);
+  return cell.size() > kLongestNumber ? std::nullopt : ReadCount(cell);
 }
 
 std::u16string Quoted(std::u16string_view cell) {
@@ -85,9 +82,9 @@ std::u16string Quoted(std::u16string_view cell) {
 class LineTaker {
  public:
   LineTaker(DataShape shape, DisplayFormat format)
-      : variables_(static_cast<std::size_t>(shape)), format_(format), rows_(shape) {}
+      : variables_(VariablesOf(shape)), format_(format), rows_(shape) {}
 
-  /// Why nothing can be taken any more.
+  /// Takes a line, good or bad. Answers why no more lines can be taken, or nullopt if they can.
   std::optional<DataRefusal> Take(std::u16string_view line) {
     ++line_;
     const Columns columns = Split(line);
@@ -100,7 +97,7 @@ class LineTaker {
       if (!number) return Refuse(LacksNumber(kHeadings[i], Quoted(columns.cells[i])));
       texts[i] = *FormatForInsertion(*number, format_);
     }
-    const auto count = ReadCount(columns.cells[variables_]);
+    const auto count = ReadCountCell(columns.cells[variables_]);
     if (!count) return Refuse(HasBadCount(Quoted(columns.cells[variables_])));
     return rows_.Append({{texts[0], texts[1]}, count});
   }
@@ -114,11 +111,11 @@ class LineTaker {
   }
 
  private:
-  /// That one line is bad ends nothing.
+  /// Notes a bad line, which does not end the taking.
   std::nullopt_t Refuse(const std::u16string& fault) {
     ++refused_;
     if (faults_.size() < kFaultsTold) {
-      faults_.push_back(u"line " + Widen(PrintInteger(static_cast<std::int64_t>(line_))) + fault);
+      faults_.push_back(u"line " + IntegerText(static_cast<std::int64_t>(line_)) + fault);
     }
     return std::nullopt;
   }
@@ -132,7 +129,7 @@ class LineTaker {
   std::vector<std::u16string> faults_;
 };
 
-Pasted Refused(std::u16string_view reason) {
+Pasted NotPasted(std::u16string_view reason) {
   return WorkFailed{RowsCannotBePasted(reason)};
 }
 
@@ -146,7 +143,7 @@ Pasted ReadLines(std::u16string_view text, LineTaker lines, const WorkProgress& 
     }
     std::u16string_view line = TakeUpTo(u'\n', text);
     if (line.ends_with(u'\r')) line.remove_suffix(1);
-    if (const auto refusal = lines.Take(line)) return Refused(ReasonOf(*refusal, lines.Line()));
+    if (const auto refusal = lines.Take(line)) return NotPasted(ReasonOf(*refusal, lines.Line()));
   }
   return std::move(lines).Result();
 }
@@ -155,11 +152,11 @@ Pasted ReadLines(std::u16string_view text, LineTaker lines, const WorkProgress& 
 
 Pasted ReadPastedRows(std::u16string_view text, DataShape shape, DisplayFormat format,
                       const WorkProgress& progress) {
-  if (text.size() > kLongestPastedText) return Refused(kPastedTextIsTooLong);
+  if (text.size() > kLongestPastedText) return NotPasted(kPastedTextIsTooLong);
   try {
     return ReadLines(text, LineTaker(shape, format), progress);
   } catch (const std::bad_alloc&) {
-    return Refused(ReasonOf(DataRefusal::NoMemory, 0));
+    return NotPasted(kNoMemoryForRows);
   }
 }
 
@@ -170,7 +167,7 @@ std::u16string PrintRows(const DataList& list, std::span<const std::size_t> indi
     text += end;
   };
   for (const std::size_t row : indices) {
-    for (std::size_t i = 0; i < static_cast<std::size_t>(list.Shape()); ++i) {
+    for (std::size_t i = 0; i < VariablesOf(list.Shape()); ++i) {
       append(list.ValueText(row, i), u'\t');
     }
     append(list.CountText(row), u'\n');

@@ -22,7 +22,8 @@ bool TakesLogarithmOfY(RegressionModel model) {
          model == RegressionModel::Exponential;
 }
 
-/// Elimination without exchanges: a pivot of zero makes all infinite or not a number.
+/// Gauss-Jordan elimination without exchanging rows. If a pivot is zero, all unknowns are infinite
+/// or not a number.
 std::array<double, 3> Solve(NormalEquations a, std::size_t unknowns) {
   for (std::size_t p = 0; p < unknowns; ++p) {
     const double pivot = a[p][p];
@@ -36,7 +37,8 @@ std::array<double, 3> Solve(NormalEquations a, std::size_t unknowns) {
   return {a[0][unknowns], a[1][unknowns], a[2][unknowns]};
 }
 
-Coefficients Map(RegressionModel model, const std::array<double, 3>& beta) {
+/// The coefficients of the curve from the solution of its normal equations, lowest power first.
+Coefficients CoefficientsOf(RegressionModel model, const std::array<double, 3>& beta) {
   switch (model) {
     case RegressionModel::Inverse: {
       const double b = std::exp(-beta[1]);
@@ -51,7 +53,8 @@ Coefficients Map(RegressionModel model, const std::array<double, 3>& beta) {
   }
 }
 
-/// The sum of squares or of products `sum` around the means of sums `x` and `y` over `n`.
+/// The sum of products `sum` taken around the means of the factors, whose sums over n are `y` and
+/// `x`.
 double Centred(double sum, double y, double x, double n) {
   return sum - y * x / n;
 }
@@ -72,7 +75,7 @@ void RegressionSums::Add(double x, double y, std::int32_t count) {
   const double u = TakesLogarithmOfX(model_) ? std::log(x) : x;
   const double v = TakesLogarithmOfY(model_) ? std::log(y) : y;
   const std::size_t unknowns = UnknownsOf(model_);
-  // Entries of the same power are the same sum.
+  // Entry (i, j) of the equations is the sum of c * u^(i + j).
   std::array<double, 5> weighted{c, c * u};
   for (std::size_t power = 2; power < 2 * unknowns - 1; ++power) {
     weighted[power] = c * std::pow(u, static_cast<double>(power));
@@ -84,7 +87,8 @@ void RegressionSums::Add(double x, double y, std::int32_t count) {
 }
 
 Coefficients RegressionSums::Fit(std::int32_t total) const {
-  if (model_ != RegressionModel::Linear) return Map(model_, Solve(normal_, UnknownsOf(model_)));
+  if (model_ != RegressionModel::Linear)
+    return CoefficientsOf(model_, Solve(normal_, UnknownsOf(model_)));
   const double n = total;
   const double a = Centred(products_, y_.sum, x_.sum, n) / Centred(x_.squares, x_.sum, x_.sum, n);
   return {a, y_.sum / n - a * (x_.sum / n), 0};

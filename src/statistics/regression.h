@@ -11,24 +11,24 @@
 
 namespace kav {
 
-/// By their numbers in the menu.
+/// The curves, with their numbers in the menu.
 enum class RegressionModel {
-  Linear = 1,
-  Power,
-  Inverse,
-  Logarithmic,
-  Exponential,
-  Quadratic,
+  Linear = 1,   ///< Y = A X + B
+  Power,        ///< Y = A X^B
+  Inverse,      ///< Y = A / X + B
+  Logarithmic,  ///< Y = A ln(X) + B
+  Exponential,  ///< Y = A e^(B X)
+  Quadratic,    ///< Y = A X^2 + B X + C
 };
 
-/// What a model does not have is 0.
+/// A, B and C of a curve; those that its model lacks are 0.
 struct Coefficients {
   double a = 0;
   double b = 0;
   double c = 0;
 };
 
-/// What a model needs of the rows, added one by one in their order.
+/// The sums that a model is fitted by. Their last digits depend on the order of the rows.
 class RegressionSums {
  public:
   explicit RegressionSums(RegressionModel model) : model_(model) {}
@@ -39,33 +39,36 @@ class RegressionSums {
   const WeightedSums& Y() const { return y_; }
   double Products() const { return products_; }  ///< of (c * y) * x
 
-  /// `total` is the sum of all counts. What the data do not allow comes out infinite or as not a
-  /// number.
+  // `total` is the sum of all counts. A value that the data do not allow, such as one that needs
+  // the logarithm of a number below 0, is infinite or not a number.
   Coefficients Fit(std::int32_t total) const;
-  double Correlation(std::int32_t total) const;  ///< r of the linear model
+  /// r of the linear model, -1 to 1 but for rounding.
+  double Correlation(std::int32_t total) const;
 
  private:
   RegressionModel model_;
   WeightedSums x_;
   WeightedSums y_;
   double products_ = 0;
-  std::array<std::array<double, 4>, 3> normal_{};  ///< augmented normal equations
+  /// The normal equations, a row for each unknown, with their right sides in the last column.
+  std::array<std::array<double, 4>, 3> normal_{};
 };
 
-/// The sums over the rows of `list`, which has two variables, from the top.
+/// The sums over the rows of a list of two variables, from the top.
 RegressionSums SumUp(const DataList& list, RegressionModel model);
 
-// Values of the fitted curve and of its inverse.
+/// The value of the fitted curve at `x`.
 double EstimateY(RegressionModel model, const Coefficients& fitted, double x);
-double EstimateX(RegressionModel model, const Coefficients& fitted, double y);  ///< not quadratic
-/// The two x of the quadratic model: the root is added in the first.
+/// The x at which the fitted curve has the value `y`; not a number for Quadratic.
+double EstimateX(RegressionModel model, const Coefficients& fitted, double y);
+/// Both x of the quadratic model: (-B + root) / 2A and (-B - root) / 2A.
 struct TwoEstimates {
   double first;
   double second;
 };
 TwoEstimates EstimateQuadraticX(const Coefficients& fitted, double y);
 
-/// The equation of the curve in "X", the coefficients written in display type "Floating Point".
+/// The equation of the curve in "X", with the coefficients as FormatForInsertion writes them.
 std::string EquationText(RegressionModel model, const Coefficients& fitted, DisplayFormat format);
 
 }  // namespace kav

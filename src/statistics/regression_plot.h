@@ -1,4 +1,4 @@
-// The data of a list and the curve fitted to them, as a graph.
+// The graph of a list's data and of the curve fitted to them.
 #pragma once
 
 #include <string>
@@ -17,10 +17,10 @@ struct FittedCurve {
   Coefficients coefficients;
 };
 
-/// The rows of `list`, which has two variables and at least one row, as points, whatever their
-/// counts, and `curve` through them, in a range that leaves room around the points. The message to
-/// be told where the points do not spread in x or in y, or are too far apart, and where the curve
-/// has no equation, because a coefficient is no finite number.
+/// The graph of `curve` and of the rows of `list`, which has two variables and at least one row.
+/// Each row is one point, whatever its count. The range leaves room around the points. Failures, as
+/// texts for the user: all points have the same x or the same y, the points are too far apart, a
+/// coefficient is no finite number, or memory is short.
 Expected<GraphInput, std::u16string> BuildRegressionPlot(const DataList& list,
                                                          const FittedCurve& curve,
                                                          DisplayFormat format, AngleUnit angle);

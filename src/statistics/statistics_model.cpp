@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <utility>
 
 #include "common/number_text.h"
 #include "line/shown_number.h"
 #include "settings/keys.h"
+#include "statistics/data_file.h"
 #include "statistics/pasted_rows.h"
 #include "statistics/statistics_menus.h"
 #include "statistics/statistics_texts.h"
@@ -15,16 +15,12 @@
 namespace kav {
 namespace {
 
-/// Results are of a spread, which a single row does not have.
+/// A single row has no spread to show.
 constexpr std::size_t kRowsForResults = 2;
 
 /// A number as lists, fields and memory variables hold it.
 std::u16string PlainText(double value, DisplayFormat format) {
   return InsertedNumber(value, format, BaseMode::Decimal);
-}
-
-std::u16string IntegerText(std::int32_t value) {
-  return Widen(PrintInteger(value));
 }
 
 /// Calls `use` with the row that holds `numbers` as texts.
@@ -35,16 +31,18 @@ std::optional<DataRefusal> WithRow(const FieldNumbers& numbers, DisplayFormat fo
   return use(DataRow{{x, y}, numbers.count});
 }
 
-/// What a button answers whose row was not taken: another count may help against a total that is
-/// out of range.
+/// What a button answers if its row was not taken. If the total is out of range, another count may
+/// help.
 StatisticsRequest AnswerTo(DataRefusal refusal) {
   if (refusal != DataRefusal::TotalOutOfRange) return TellStop{WhyRowsDoNotFit(refusal)};
   return FieldRefusal{WhyRowsDoNotFit(refusal), DataField::Count};
 }
 
-bool IsInt32(std::int64_t value) {
-  return value >= std::numeric_limits<std::int32_t>::min() &&
-         value <= std::numeric_limits<std::int32_t>::max();
+/// What the user is told about a work that ended so: why it failed, if it did.
+template <class Outcome>
+std::optional<std::u16string> FailureOf(const Outcome& outcome) {
+  if (const auto* failed = std::get_if<WorkFailed>(&outcome)) return failed->text;
+  return std::nullopt;
 }
 
 }  // namespace
@@ -59,8 +57,8 @@ void StatisticsModel::SetFields(TypedRow fields) {
 void StatisticsModel::Select(std::optional<std::size_t> row) {
   if (IsEditing()) return;
   if (row && *row >= list_.RowCount()) row.reset();
-  // A row that was deleted took its selection along and left the buttons as they were: that there
-  // is none now is no change.
+  // Deleting a row removes the selection but leaves the buttons as they are. They stay so when the
+  // table reports that nothing is selected.
   if (row == selected_ && !row) return;
   selected_ = row;
   enabled_.ofSelection = row.has_value();
@@ -146,23 +144,24 @@ StatisticsRequest StatisticsModel::Perform(StatisticsKey key) {
   }
 }
 
-std::variant<FieldNumbers, FieldRefusal> StatisticsModel::ReadFields() const {
-  return ReadTypedRow(fields_, Shape());
+StatisticsRequest StatisticsModel::PressResult(StatisticsKey key) {
+  const auto shown = MomentOf(key);
+  return shown ? Show(MomentOf(list_, shown->variable, shown->moment)) : Nothing{};
 }
 
 StatisticsRequest StatisticsModel::AddRow() {
-  const auto read = ReadFields();
-  if (const auto* refused = std::get_if<FieldRefusal>(&read)) return *refused;
+  auto typed = ReadTypedRow(fields_, Shape());
+  if (!typed) return std::move(typed).error();
   const std::size_t before = list_.RowCount();
-  const auto refusal = WithRow(std::get<FieldNumbers>(read), format_,
-                               [this](const DataRow& row) { return list_.InsertTop(row); });
+  const auto refusal =
+      WithRow(*typed, format_, [this](const DataRow& row) { return list_.InsertTop(row); });
   if (refusal) return AnswerTo(*refusal);
   EnableGrown(before);
   MarkChanged();
   return FocusField{DataField::X};
 }
 
-/// The list has grown at its top from `before` rows, as if by one row after the other.
+/// Keeps selection and buttons right after rows were inserted above the `before` rows of the list.
 void StatisticsModel::EnableGrown(std::size_t before) {
   const std::size_t now = list_.RowCount();
   if (selected_) *selected_ += now - before;
@@ -186,10 +185,10 @@ StatisticsRequest StatisticsModel::BeginEdit() {
 }
 
 StatisticsRequest StatisticsModel::ApplyEdit() {
-  const auto read = ReadFields();
-  if (const auto* refused = std::get_if<FieldRefusal>(&read)) return *refused;
-  const auto refusal = WithRow(std::get<FieldNumbers>(read), format_,
-                               [this](const DataRow& row) { return list_.Rewrite(*edited_, row); });
+  auto typed = ReadTypedRow(fields_, Shape());
+  if (!typed) return std::move(typed).error();
+  const auto refusal =
+      WithRow(*typed, format_, [this](const DataRow& row) { return list_.Rewrite(*edited_, row); });
   if (refusal) return AnswerTo(*refusal);
   EndEdit();
   MarkChanged();
@@ -204,10 +203,7 @@ void StatisticsModel::EndEdit() {
 
 StatisticsRequest StatisticsModel::AskDelete() const {
   if (!selected_) return TellStop{std::u16string(kNoRowIsSelected)};
-  // Files may hold negative counts, without which the others can be too many.
-  if (!IsInt32(std::int64_t{list_.Total()} - list_.Count(*selected_))) {
-    return TellStop{WhyRowsDoNotFit(DataRefusal::TotalOutOfRange)};
-  }
+  if (const auto refusal = list_.CheckErase(*selected_)) return TellStop{WhyRowsDoNotFit(*refusal)};
   return AskFirst<StatisticsKey>{StatisticsKey::Delete, kDeleteRowQuestion};
 }
 
@@ -223,7 +219,7 @@ void StatisticsModel::ClearRows() {
   if (!IsEditing()) TakeRows(DataList(Shape()));
 }
 
-/// Makes `rows`, which are nowhere but in a file if at all, the list.
+/// Makes `rows` the list, which then needs no saving.
 void StatisticsModel::TakeRows(DataList rows) {
   list_ = std::move(rows);
   selected_.reset();
@@ -250,30 +246,15 @@ StatisticsRequest StatisticsModel::Choose(StatisticsKey key, int id) {
 }
 
 StatisticsRequest StatisticsModel::TakeVariable(std::u16string_view value) {
-  std::u16string text = PlainText(ReadLeadingNumber(Narrow(value)), format_);
-  switch (focused_) {
-    case DataField::X:
-      fields_.x = std::move(text);
-      break;
-    case DataField::Y:
-      fields_.y = std::move(text);
-      break;
-    case DataField::Count:
-      fields_.count = std::move(text);
-      break;
-  }
+  fields_.*TextOf(focused_) = PlainText(ReadLeadingNumber(Narrow(value)), format_);
   return FocusField{focused_};
 }
 
 std::optional<std::u16string> StatisticsModel::SaveTo(const std::string& path,
                                                       const WorkProgress& progress) {
-  const auto problem = SaveDataFile(path, list_, progress);
-  if (!problem) {
-    isModified_ = false;
-    return std::nullopt;
-  }
-  if (const auto* failed = std::get_if<WorkFailed>(&*problem)) return failed->text;
-  return std::nullopt;
+  const auto outcome = SaveDataFile(path, list_, progress);
+  if (std::holds_alternative<DataSaved>(outcome)) isModified_ = false;
+  return FailureOf(outcome);
 }
 
 std::optional<std::u16string> StatisticsModel::LoadFrom(const std::string& path,
@@ -281,8 +262,7 @@ std::optional<std::u16string> StatisticsModel::LoadFrom(const std::string& path,
   if (IsEditing()) return std::nullopt;
   auto loaded = LoadDataFile(path, Shape(), progress);
   if (auto* rows = std::get_if<DataList>(&loaded)) TakeRows(std::move(*rows));
-  if (const auto* failed = std::get_if<WorkFailed>(&loaded)) return failed->text;
-  return std::nullopt;
+  return FailureOf(loaded);
 }
 
 std::optional<std::u16string_view> StatisticsModel::QuestionBeforeLeaving() const {
@@ -295,10 +275,11 @@ void StatisticsModel::TakeDisplaySettings() {
   if (hasResult_) Show(lastResult_);
 }
 
-void StatisticsModel::Show(double value) {
+StatisticsRequest StatisticsModel::Show(double value) {
   lastResult_ = value;
   hasResult_ = true;
   resultText_ = ShownNumber(value, format_, BaseMode::Decimal);
+  return Nothing{};
 }
 
 AngleUnit StatisticsModel::Angle() const {
@@ -306,7 +287,7 @@ AngleUnit StatisticsModel::Angle() const {
 }
 
 void StatisticsModel::SortBy(std::size_t column) {
-  if (IsEditing() || column > static_cast<std::size_t>(Shape())) return;
+  if (IsEditing() || column > VariablesOf(Shape())) return;
   list_.Sort(column, nextDirection_);
   nextDirection_ = nextDirection_ == DataList::Direction::Ascending
                        ? DataList::Direction::Descending
@@ -322,9 +303,8 @@ std::optional<std::u16string> StatisticsModel::PasteRows(std::u16string_view tex
                                                          const WorkProgress& progress) {
   if (IsEditing()) return std::nullopt;
   auto read = ReadPastedRows(text, Shape(), format_, progress);
-  if (const auto* failed = std::get_if<WorkFailed>(&read)) return failed->text;
   auto* pasted = std::get_if<PastedRows>(&read);
-  if (pasted == nullptr) return std::nullopt;
+  if (pasted == nullptr) return FailureOf(read);
   const std::size_t before = list_.RowCount();
   if (const auto refusal = list_.InsertTop(pasted->rows)) return WhyRowsDoNotFit(*refusal);
   EnableGrown(before);

@@ -1,4 +1,4 @@
-// A statistics screen without its pixels: fields, list, editing, files, results.
+// A statistics screen without its widgets: fields, list, editing, files, results.
 #pragma once
 
 #include <optional>
@@ -12,17 +12,18 @@
 #include "line/screen_menus.h"
 #include "settings/settings_store.h"
 #include "statistics/data_fields.h"
-#include "statistics/data_file.h"
 #include "statistics/data_list.h"
 #include "statistics/statistics_keypad.h"
 #include "statistics/statistics_request.h"
+#include "statistics/work_progress.h"
 
 namespace kav {
 
-/// Holds the whole state of a screen. What the fields hold is handed in before each command by
-/// SetFields, and the selected rows by Select. The store must outlive it.
+/// The whole state of a screen. The class itself is that of one-variable statistics. Before each
+/// command the screen hands over the texts of its fields (SetFields) and the selected row (Select).
 class StatisticsModel {
  public:
+  /// `store` must outlive the model.
   StatisticsModel(DataShape shape, SettingsStore& store);
   StatisticsModel(const StatisticsModel&) = delete;
   StatisticsModel& operator=(const StatisticsModel&) = delete;
@@ -30,32 +31,31 @@ class StatisticsModel {
 
   const DataList& List() const { return list_; }
   DataShape Shape() const { return list_.Shape(); }
-  /// Counts the changes of the list, for whoever shows it.
+  /// Grows with each change of the list.
   unsigned Revision() const { return revision_; }
 
   const TypedRow& Fields() const { return fields_; }
   void SetFields(TypedRow fields);
-  /// The field that had the focus last: what is recalled goes there.
+  /// The field that had the focus last. A recalled value goes there.
   DataField FocusedField() const { return focused_; }
   void SetFocusedField(DataField field) { focused_ = field; }
 
-  /// The selected row, the first if there are several; nullopt for none.
+  /// The selected row, the first of several; nullopt for none.
   void Select(std::optional<std::size_t> row);
   std::optional<std::size_t> Selected() const { return selected_; }
 
   const std::u16string& ResultText() const { return resultText_; }
   std::u16string TotalText() const;
   bool IsEditing() const { return edited_.has_value(); }
-  bool IsModified() const { return isModified_; }
 
   // The buttons.
   virtual std::u16string_view Caption(StatisticsKey key) const;
   virtual bool IsVisible(StatisticsKey key) const;
   virtual bool IsEnabled(StatisticsKey key) const;
-  /// A disabled or hidden one does nothing.
+  /// Presses a button. A disabled or hidden one does nothing.
   StatisticsRequest Press(StatisticsKey key);
 
-  // What questions, menus and dialogs bring back.
+  // What the user answered to questions, menus and dialogs.
   void DeleteRow();
   void ClearRows();
   /// The menu that `key` opens now; empty for a key without one.
@@ -64,36 +64,35 @@ class StatisticsModel {
   virtual StatisticsRequest Choose(StatisticsKey key, int id);
   /// Writes a recalled value into the field that had the focus, which gets it.
   StatisticsRequest TakeVariable(std::u16string_view value);
-  /// Both: what is to be told; nullopt where nothing is.
+  // Both answer what the user is told: why the work failed, or nothing.
   std::optional<std::u16string> SaveTo(const std::string& path, const WorkProgress& progress);
   std::optional<std::u16string> LoadFrom(const std::string& path, const WorkProgress& progress);
-  /// Before another screen takes its place: to be asked, on Yes as AskSaveFile.
+  /// The question to ask before another screen takes the place of this one, if any. Yes means
+  /// AskSaveFile.
   std::optional<std::u16string_view> QuestionBeforeLeaving() const;
   void TakeDisplaySettings();
 
-  // The list.
-  /// A click on the heading of a column.
+  /// A click on the heading of a column: sorts by it, upwards and downwards in turn. Columns are
+  /// numbered as in DataList::Sort.
   void SortBy(std::size_t column);
-  /// The rows at `rows` as lines for spreadsheets.
+  /// The rows at the indices `rows` as text for spreadsheets.
   std::u16string CopyRows(std::span<const std::size_t> rows) const;
-  /// Puts the rows of `text` on top of the list; what is to be told.
+  /// Inserts the rows of `text` at the top of the list. Answers what the user is told, if anything.
   std::optional<std::u16string> PasteRows(std::u16string_view text, const WorkProgress& progress);
 
  protected:
-  /// A result button that is enabled was pressed.
-  virtual StatisticsRequest PressResult(StatisticsKey key) = 0;
-  /// The rows have changed, or the model has.
+  /// Presses a result button, which is enabled. Here it is one that shows a moment.
+  virtual StatisticsRequest PressResult(StatisticsKey key);
+  /// Called after each change of the rows, other than sorting.
   virtual void Forget() {}
-  /// Shows `value` and keeps it as the last result.
-  void Show(double value);
-  /// The numbers in the fields, or why they are none.
-  std::variant<FieldNumbers, FieldRefusal> ReadFields() const;
+  /// Shows `value` and keeps it as the last result. Answers Nothing.
+  StatisticsRequest Show(double value);
   DisplayFormat Format() const { return format_; }
   AngleUnit Angle() const;
 
  private:
-  /// The buttons that are enabled and disabled together, step by step: what happens to the list
-  /// says which, not what it holds.
+  /// The buttons that are enabled and disabled together. This depends on what was done to the list,
+  /// not only on what it holds.
   struct EnabledButtons {
     bool ofSelection = false;  ///< "Edit" and "Delete"
     bool ofRows = false;       ///< "Clear" and "Save"
@@ -121,7 +120,7 @@ class StatisticsModel {
   EnabledButtons enabled_;
   std::u16string resultText_ = u"0";
   double lastResult_ = 0;
-  bool hasResult_ = false;  ///< else the text is what a fresh screen shows
+  bool hasResult_ = false;  ///< else `resultText_` is what a new screen shows
   bool isModified_ = false;
   DataList::Direction nextDirection_ = DataList::Direction::Ascending;
   unsigned revision_ = 0;

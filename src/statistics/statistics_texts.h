@@ -1,4 +1,4 @@
-// What the user reads on the statistics screens beside the captions of their buttons.
+// What the user reads on the statistics screens, except the captions of their buttons.
 #pragma once
 
 #include <cstddef>
@@ -28,19 +28,32 @@ inline constexpr std::u16string_view kCountName = u"Count";
 inline constexpr std::u16string_view kTotalName = u"Total";
 inline constexpr std::u16string_view kDataListName = u"Data";
 
-// Questions, and what is told where there is nothing to do.
+// Questions, and what is told if there is nothing to do.
 inline constexpr std::u16string_view kSaveDataQuestion = u"Do you want to save changes to Data?";
 inline constexpr std::u16string_view kDeleteRowQuestion =
     u"Are you sure you want to delete the selected data?";
 inline constexpr std::u16string_view kClearRowsQuestion =
     u"Are you sure you want to delete all data?";
 inline constexpr std::u16string_view kNoRowIsSelected = u"No items were selected!";
-inline constexpr std::u16string_view kXMaximumIsNotBigger =
-    u"The maximum value of X should be bigger than the minimum value of X.";
-inline constexpr std::u16string_view kYMaximumIsNotBigger =
-    u"The maximum value of Y should be bigger than the minimum value of Y.";
 
-// What fields take. `name` is that of the field.
+inline std::u16string IntegerText(std::int64_t number) {
+  return Widen(PrintInteger(number));
+}
+
+/// What a count has to be.
+inline std::u16string WholeCount() {
+  return u"whole number from " + IntegerText(kLeastCount) + u" to " + IntegerText(kLargestCount);
+}
+/// The totals that a list can have.
+inline constexpr std::u16string_view kTotalBounds = u"-2147483648 to 2147483647";
+inline std::u16string MostRowsText() {
+  return IntegerText(static_cast<std::int64_t>(DataList::kMostRows));
+}
+inline std::u16string LongestValueText() {
+  return IntegerText(static_cast<std::int64_t>(DataList::kLongestValue));
+}
+
+// What fields take. `name` is the name of the field.
 inline std::u16string ValueIsNoNumber(std::u16string_view name) {
   return std::u16string(name).append(u" must be a number such as -12.5 or 1.5e-3.");
 }
@@ -49,27 +62,20 @@ inline std::u16string ValueIsTooLarge(std::u16string_view name) {
       u" is too large: it must be a number from -1.79e308 to 1.79e308.");
 }
 inline std::u16string CountIsOutOfRange() {
-  return std::u16string(kCountName)
-      .append(u" must be a whole number from ")
-      .append(Widen(PrintInteger(kLeastCount)))
-      .append(u" to ")
-      .append(Widen(PrintInteger(kLargestCount)))
-      .append(u".");
+  return std::u16string(kCountName).append(u" must be a ").append(WholeCount()).append(u".");
 }
 
-/// Why rows are not put into a list.
+/// Why rows typed or pasted are not put into a list.
 inline std::u16string WhyRowsDoNotFit(DataRefusal refusal) {
   switch (refusal) {
     case DataRefusal::TotalOutOfRange:
-      return u"The total of all counts must be from -2147483648 to 2147483647. The list was not "
-             u"changed.";
+      return std::u16string(u"The total of all counts must be from ")
+          .append(kTotalBounds)
+          .append(u". The list was not changed.");
     case DataRefusal::TooManyRows:
-      return u"A list holds up to " +
-             Widen(PrintInteger(static_cast<std::int64_t>(DataList::kMostRows))) +
-             u" rows. The list was not changed.";
+      return u"A list holds up to " + MostRowsText() + u" rows. The list was not changed.";
     case DataRefusal::ValueTooLong:
-      return u"A value holds up to " +
-             Widen(PrintInteger(static_cast<std::int64_t>(DataList::kLongestValue))) +
+      return u"A value holds up to " + LongestValueText() +
              u" characters. The list was not changed.";
     case DataRefusal::NoMemory:
       break;
@@ -77,7 +83,7 @@ inline std::u16string WhyRowsDoNotFit(DataRefusal refusal) {
   return u"There is not enough memory for more rows. The list was not changed.";
 }
 
-// The regression models: in their menu, and on the button that opens it.
+// The regression models, in their menu and on the button that opens it.
 inline constexpr std::u16string_view kLinearItem = u"Linear : A*X+B";
 inline constexpr std::u16string_view kPowerItem = u"Power : A*X^B";
 inline constexpr std::u16string_view kInverseItem = u"Inverse : A/X+B";
@@ -91,7 +97,7 @@ inline constexpr std::u16string_view kLogarithmicCaption = u"Log";
 inline constexpr std::u16string_view kExponentialCaption = u"Exp";
 inline constexpr std::u16string_view kQuadraticCaption = u"Quad";
 
-/// A coefficient that is no number makes the text unreadable: beside `message` it tells which.
+/// `message` is the engine's. The equation behind it shows which coefficient is no number.
 inline std::u16string EquationIsUnreadable(std::u16string_view message,
                                            std::u16string_view equation) {
   return std::u16string(message).append(u"\n").append(equation);
@@ -99,13 +105,10 @@ inline std::u16string EquationIsUnreadable(std::u16string_view message,
 inline constexpr std::u16string_view kNoMemoryForGraph =
     u"There is not enough memory for the graph. Close other programs.";
 
-/// The curve of a plot; its equation follows.
-inline constexpr std::u16string_view kFittedCurvePrefix = u"R:F1(X)=";
-
-// The list and the boxes over it, as the screens show them.
-/// `key` is the number that sorts by a column together with Alt.
+// The list, and the boxes over it.
+/// `key` is the digit that sorts by a column when pressed with Alt.
 inline std::u16string SortHint(int key) {
-  return std::u16string(u"Sorts the rows (Alt+").append(Widen(PrintInteger(key))).append(u")");
+  return std::u16string(u"Sorts the rows (Alt+").append(IntegerText(key)).append(u")");
 }
 inline constexpr std::u16string_view kLoadingData = u"Loading Data...";
 inline constexpr std::u16string_view kSavingData = u"Saving Data...";

@@ -1,4 +1,4 @@
-// Short texts, one behind the other, in blocks that never move.
+// Many short texts in blocks of memory that never move.
 #pragma once
 
 #include <cstddef>
@@ -11,22 +11,22 @@
 
 namespace kav {
 
-/// Its memory grows block by block, so that it never holds a text twice.
+/// Memory grows block by block, so no text is ever copied to make room.
 class TextArena {
  public:
   static constexpr std::size_t kBlockSize = std::size_t{1} << 18U;
-  /// The room that a place of 32 bits can address.
+  /// As many as a place of 32 bits can address.
   static constexpr std::size_t kMostBlocks = (std::size_t{1} << 32U) / kBlockSize;
 
-  /// Puts `first` and `second`, at most kBlockSize characters together, behind all others and
-  /// answers where they begin, 0 for no characters at all; nullopt where there is no room. Throws
+  /// Appends `first` and `second`, at most kBlockSize characters together. Answers the place of the
+  /// first character, 0 if there is none; nullopt if there are kMostBlocks already. Throws
   /// std::bad_alloc.
   std::optional<std::uint32_t> Put(std::string_view first, std::string_view second) {
     if (!MakeRoom(first.size() + second.size())) return std::nullopt;
     return PutInRoom(first, second);
   }
 
-  /// The two steps of Put.
+  // Put in two steps: the first can fail, the second cannot.
   bool MakeRoom(std::size_t length) { return length <= kBlockSize - lastBlock_ || BeginBlock(); }
   std::uint32_t PutInRoom(std::string_view first, std::string_view second) {
     const std::size_t length = first.size() + second.size();
@@ -40,14 +40,15 @@ class TextArena {
     return static_cast<std::uint32_t>(place);
   }
 
+  /// The text of `length` characters at `place`, valid as long as the arena.
   std::string_view At(std::uint32_t place, std::size_t length) const {
     return {blocks_[place / kBlockSize].data() + place % kBlockSize, length};
   }
 
-  /// The characters that it holds.
+  /// The number of characters in it.
   std::size_t Size() const { return size_; }
 
-  /// Where it ends, and the way back there.
+  /// An end of the texts; CutTo removes all that was put since.
   struct Mark {
     std::size_t blocks;
     std::size_t lastBlock;
@@ -57,10 +58,11 @@ class TextArena {
   void CutTo(const Mark& mark);
 
  private:
-  /// false: there may be no more.
+  /// Answers false if there are kMostBlocks already.
   bool BeginBlock();
 
-  /// Two copies that overlap do for most texts: a copy of a fixed length needs no call.
+  /// Copies `text` as two overlapping pieces of Half characters: a copy of a fixed length needs no
+  /// call.
   template <std::size_t Half>
   static void CopyEnds(std::string_view text, char* to) {
     char ends[2 * Half];
@@ -76,7 +78,7 @@ class TextArena {
   }
 
   std::vector<std::string> blocks_;     ///< each of kBlockSize characters
-  std::size_t lastBlock_ = kBlockSize;  ///< how many of the last one are in use
+  std::size_t lastBlock_ = kBlockSize;  ///< characters of the last block that are in use
   std::size_t size_ = 0;
 };
 

@@ -54,25 +54,18 @@ StatisticsRequest TwoVariableModel::PressResult(StatisticsKey key) {
     case StatisticsKey::EstimateX2:
     case StatisticsKey::EstimateY:
       return Estimate(key);
-    default:
-      Show(ValueOf(key));
-      return Nothing{};
-  }
-}
-
-double TwoVariableModel::ValueOf(StatisticsKey key) {
-  if (const auto shown = MomentOf(key)) return MomentOf(List(), shown->variable, shown->moment);
-  switch (key) {
     case StatisticsKey::Products:
-      return SumUp(List(), RegressionModel::Linear).Products();
+      return Show(SumUp(List(), RegressionModel::Linear).Products());
     case StatisticsKey::Correlation:
-      return Fitted().correlation;
+      return Show(Fitted().correlation);
     case StatisticsKey::A:
-      return Fitted().coefficients.a;
+      return Show(Fitted().coefficients.a);
     case StatisticsKey::B:
-      return Fitted().coefficients.b;
+      return Show(Fitted().coefficients.b);
+    case StatisticsKey::C:
+      return Show(Fitted().coefficients.c);
     default:
-      return Fitted().coefficients.c;
+      return StatisticsModel::PressResult(key);
   }
 }
 
@@ -86,25 +79,19 @@ const TwoVariableModel::Fit& TwoVariableModel::Fitted() {
 }
 
 StatisticsRequest TwoVariableModel::Estimate(StatisticsKey key) {
-  const auto read = ReadFields();
-  if (const auto* refused = std::get_if<FieldRefusal>(&read)) return *refused;
-  const auto& typed = std::get<FieldNumbers>(read);
+  auto typed = ReadTypedRow(Fields(), Shape());
+  if (!typed) return std::move(typed).error();
   const Coefficients& fitted = Fitted().coefficients;
   switch (key) {
     case StatisticsKey::EstimateX:
-      Show(kav::EstimateX(model_, fitted, typed.y));
-      break;
+      return Show(kav::EstimateX(model_, fitted, typed->y));
     case StatisticsKey::EstimateX1:
-      Show(EstimateQuadraticX(fitted, typed.y).first);
-      break;
+      return Show(EstimateQuadraticX(fitted, typed->y).first);
     case StatisticsKey::EstimateX2:
-      Show(EstimateQuadraticX(fitted, typed.y).second);
-      break;
+      return Show(EstimateQuadraticX(fitted, typed->y).second);
     default:
-      Show(kav::EstimateY(model_, fitted, typed.x));
-      break;
+      return Show(kav::EstimateY(model_, fitted, typed->x));
   }
-  return Nothing{};
 }
 
 StatisticsRequest TwoVariableModel::Plot() {

@@ -1,4 +1,4 @@
-// The screen of two-variable statistics without its pixels: that of one variable, with regression.
+// The screen of two-variable statistics without its widgets: a statistics screen with regression.
 #pragma once
 
 #include <optional>
@@ -23,8 +23,8 @@ class TwoVariableModel final : public StatisticsModel {
   StatisticsRequest Choose(StatisticsKey key, int id) override;
 
  private:
-  /// What is kept of the data until they or the model change. Sorting is no such change, though
-  /// sums depend on the order of the rows in their last digits.
+  /// The curve fitted last, kept until the rows or the model change. Sorting keeps it, although the
+  /// last digits of sums depend on the order of the rows.
   struct Fit {
     Coefficients coefficients;
     double correlation;
@@ -33,7 +33,6 @@ class TwoVariableModel final : public StatisticsModel {
   StatisticsRequest PressResult(StatisticsKey key) override;
   void Forget() override { fit_.reset(); }
   const Fit& Fitted();
-  double ValueOf(StatisticsKey key);
   StatisticsRequest Estimate(StatisticsKey key);
   StatisticsRequest Plot();
 

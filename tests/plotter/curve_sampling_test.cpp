@@ -31,7 +31,7 @@ CurveRows Curve(std::string_view formula, const PlotRange& range = kRange, PlotR
   return SampleCurve(FormulaOf(formula), range, unit, area);
 }
 
-/// The rows from sample `first` on.
+/// The rows of the samples from `first` on.
 Rows Some(const CurveRows& curve, std::size_t first, std::size_t count) {
   return {std::next(curve.begin(), static_cast<std::ptrdiff_t>(first)),
           std::next(curve.begin(), static_cast<std::ptrdiff_t>(first + count))};
@@ -49,7 +49,7 @@ bool IsOneStroke(const CurveRows& curve) {
   return true;
 }
 
-/// The sampling once more, as plainly as it can be said.
+/// The sampling once more, written as plainly as possible.
 Rows Plainly(const CheckedFormula& formula, const PlotRange& range, AngleUnit unit, PlotRows area) {
   const double step = (range.xMax - range.xMin) * 0.004366812227074236;
   const double top = area.top;
@@ -81,7 +81,7 @@ Rows Plainly(const CheckedFormula& formula, const PlotRange& range, AngleUnit un
 TEST(CurveSampling, TheSamplesRunFromOneBorderOfTheRangeToTheOther) {
   EXPECT_EQ(SampleX(kRange, 0), -10);
   EXPECT_EQ(SampleX(kRange, kLast), 10);
-  // 229 * 0.004366812227074236 is 1 in double, too.
+  // In double, 229 * 0.004366812227074236 is 1 too.
   EXPECT_EQ(SampleX({0, 1, 0, 1}, kLast), 1);
   EXPECT_EQ(SampleX({0, 229, 0, 1}, 1), 229 * 0.004366812227074236);
 }
@@ -92,7 +92,7 @@ TEST(CurveSampling, TheDiagonalGoesDownwardsInRowsByOneASample) {
   EXPECT_EQ(curve[kLast], 0);
   for (std::size_t i = 0; i < curve.size(); ++i) {
     ASSERT_TRUE(curve[i]) << i;
-    // 229 - i but for the last digits of double, which truncation may turn into one row more.
+    // 229 - i but for rounding, which truncation can turn into one row more.
     EXPECT_NEAR(*curve[i], 229 - static_cast<double>(i), 1) << i;
   }
   EXPECT_TRUE(IsOneStroke(curve));
@@ -167,7 +167,7 @@ TEST(CurveSampling, ASampleThatFailsIsAGap) {
   const CurveRows curve = Curve("1/x", {0, 10, -10, 10});
   EXPECT_EQ(curve[0], std::nullopt);
   EXPECT_FALSE(curve.IsJoinedToNext(0));
-  // 22.9 and 11.45 are outside, though evaluated; 7.633 is inside.
+  // 22.9 and 11.45 are values outside; 7.633 is inside.
   EXPECT_EQ(Some(curve, 1, 3), (Rows{std::nullopt, 0, 27}));
 }
 
@@ -219,7 +219,7 @@ TEST(CurveSampling, ACurveThatLeavesRunsToTheBorderOnce) {
 }
 
 TEST(CurveSampling, TheBorderOfEntryIsThatOnTheSideOfTheNewRow) {
-  // From -100 to 5 at once: it comes from below, and yet is drawn from above.
+  // It jumps from -100 to 5: it comes from below, but is drawn from above.
   const CurveRows high = Curve("5+105*int(x)", {-1.5, 0.5, -10, 10});
   EXPECT_EQ(Some(high, 56, 4), (Rows{std::nullopt, 0, 57, 57}));
   // -5 is below the middle.
@@ -233,13 +233,13 @@ TEST(CurveSampling, ACurveThatEntersInTheMiddleHasNoPointOnTheBorder) {
 }
 
 TEST(CurveSampling, TheMiddleIsHalvedTowardTop) {
-  // Of 10 to 21 it is 15, of -3 to 0 it is -2: rows of an odd number of steps.
+  // Of 10 to 21 it is 15, of -3 to 0 it is -2.
   struct Case {
     PlotRows area;
     double y;
     Row before;
   };
-  // A row's place is bottom - (bottom - top) * y where y is from 0 to 1.
+  // The row of y, from 0 to 1, is bottom - (bottom - top) * y.
   const Case cases[] = {
       {{10, 21}, 6.5 / 11, 10},            // row 14
       {{10, 21}, 5.5 / 11, std::nullopt},  // row 15

@@ -66,8 +66,8 @@ TEST(DiscCover, CornersOfTheAreaAreTaken) {
 }
 
 TEST(DiscCover, AmidstItsNeighboursADiscIsNotSeen) {
-  // Discs of radius 2 on the eight pixels around, and on those around these: nothing is left of the
-  // one in the middle.
+  // Discs of radius 2 on the eight pixels around it, and on those around these, cover all of the
+  // disc in the middle.
   DiscCover cover(kArea, 2);
   for (int row = 98; row <= 102; ++row) {
     for (int column = 98; column <= 102; ++column) {
@@ -78,7 +78,7 @@ TEST(DiscCover, AmidstItsNeighboursADiscIsNotSeen) {
   EXPECT_FALSE(cover.Add(100, 100));
 }
 
-/// Whether a point, in parts of pixels from the middle of pixel (0, 0), is in a disc.
+/// Whether a disc holds a point, whose distance from the middle of pixel (0, 0) is in pixels.
 bool IsInDisc(double x, double y, std::pair<int, int> centre, double radius) {
   const double dx = x - centre.first;
   const double dy = y - centre.second;

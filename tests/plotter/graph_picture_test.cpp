@@ -53,7 +53,7 @@ std::optional<GraphText> TextOf(const GraphPicture& picture, std::u16string_view
   return std::nullopt;
 }
 
-/// The columns and rows of the axes' lines; negative ones stand for none.
+/// The column and the row of the axes; negative if there is none.
 struct Axes {
   double row = -1;
   double column = -1;
@@ -139,7 +139,7 @@ TEST(GraphPicture, AxesStandWhereTheirFormulasPutThem) {
       {{-1, 3, -6, 2}, {57, 57}},
       // 229 - 229 / 3 * 1 = 152.67; 2 / 3 * 228 = 152
       {{-2, 1, -1, 2}, {152, 152}},
-      // Neither touches its border only.
+      // An axis on the border is not drawn.
       {{0, 10, 0, 10}, {-1, -1}},
       {{-10, 0, -10, 0}, {-1, -1}},
       {{1, 2, -1, 1}, {114, -1}},
@@ -235,7 +235,7 @@ TEST(GraphPicture, AReciprocalIsTwoStrokes) {
 }
 
 TEST(GraphPicture, AGapParts) {
-  // ln(x) and ln(-x) have no value at the sample 0 in the middle.
+  // ln(x) and ln(-x) have no value at 0, the sample in the middle.
   const auto strokes =
       All<GraphStroke>(BuildPicture(ModelOf({"ln(abs(x))"}, {-114, 115, -10, 10})));
   ASSERT_EQ(strokes.size(), 2U);
@@ -248,7 +248,7 @@ TEST(GraphPicture, WithoutLinesEachPointIsADot) {
   const GraphPicture picture = BuildPicture(ModelOf({"1/x", "ln(x)"}, {}, {false, false, false}));
   EXPECT_TRUE(All<GraphStroke>(picture).empty());
   const auto dots = All<GraphDot>(picture);
-  // All of the one curve, 115 of the other but for those below -10, which are none.
+  // All 230 samples of one curve and 115 of the other, none of which is below -10.
   ASSERT_EQ(dots.size(), 230U + 115U);
   EXPECT_EQ(dots[114].colour, 0xFF0000U);
   EXPECT_EQ(dots[114].place.column, 114);

@@ -28,7 +28,7 @@ TEST(PlotterOptionsModel, HandsBackWhatWasTyped) {
 }
 
 TEST(PlotterOptionsModel, ABoundWhoseFieldWasLeftAsItWasKeepsItsValue) {
-  // Each shows less digits than it has.
+  // Each field shows fewer digits than its bound has.
   const PlotRange range{0.1 + 0.2, 1.0 / 3 + 1, 1.23456789012e-14, 2.0 / 3};
   const PlotterOptionsModel model = ModelOf(range);
   const auto accepted = model.Accept(model.Fields(), {});

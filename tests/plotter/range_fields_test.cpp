@@ -17,7 +17,7 @@ TEST(RangeFields, AreCalledAsTheScreenShowsThem) {
 TEST(RangeFields, EachIsAboutItsBound) {
   PlotRange range;
   double value = 1;
-  for (const RangeField field : kRangeFields) BoundOf(range, field) = value++;
+  for (const RangeField field : kRangeFields) range.*BoundOf(field) = value++;
   EXPECT_EQ(range, (PlotRange{1, 2, 3, 4}));
 }
 

@@ -1,4 +1,4 @@
-// The table of a data list: what it shows, and that a long list makes it no slower.
+// The table of a data list: what it shows, and that it is as fast with a long list.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -56,7 +56,7 @@ class DataTableTest : public testing::Test {
     Settle();
     return table;
   }
-  /// How often the model was asked since the last call, all paintings included.
+  /// How often the model was asked since the last call, including by painting.
   int Asked() {
     Settle();
     return std::exchange(counting_.asked, 0);
@@ -74,7 +74,7 @@ class DataTableTest : public testing::Test {
   std::unique_ptr<DataTableView> table_;
 };
 
-/// For each cell of 20 rows a dozen roles, and that for some paintings.
+/// Enough for some paintings of 20 rows, each with a dozen roles a cell.
 constexpr int kFewQuestions = 5'000;
 
 TEST_F(DataTableTest, ShowsTheTextsOfTheRows) {

@@ -1,4 +1,4 @@
-// Works the graph on the screen as its user does.
+// Uses the graph on the screen as a user does.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -37,8 +37,8 @@ inline GraphInput LabelledGraphOf(std::initializer_list<std::string_view> formul
   return input;
 }
 
-/// A graph over a window of its own. What a test does in it stands in the function that it hands
-/// to Open, since the graph is modal.
+/// A graph over a window of its own. The graph is modal, so a test hands Open a function that uses
+/// it.
 class GraphScreen : public testing::Test {
  protected:
   ~GraphScreen() override { EXPECT_TRUE(BoxWatch::Instance().TakeSeen().empty()); }
@@ -98,7 +98,7 @@ class GraphScreen : public testing::Test {
     QTest::mouseRelease(&Plot(), Qt::LeftButton, {}, to);
   }
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    // After a dialog, the window has to become the active one first.
+    // After a dialog, the window has to become active first.
     dlg_->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(dlg_));
     QTest::keyClick(dlg_->focusWidget(), key, modifiers);
@@ -124,7 +124,7 @@ class GraphScreen : public testing::Test {
     return line.mid(4).remove(',').toDouble();
   }
   double TappedX() { return X().text().remove(',').toDouble(); }
-  /// The range of the plot, found out by tapping its corners.
+  /// The range of the plot, read by tapping its corners.
   PlotRange Range() {
     const QRect area = Area();
     PlotRange range;
@@ -133,7 +133,7 @@ class GraphScreen : public testing::Test {
     range.yMax = TappedY();
     TapPlot(area.bottomRight());
     range.xMax = TappedX();
-    // The lowest row is shown as the first of so many parts above y min as there are rows.
+    // A tap in the lowest row shows y min plus the height of a row.
     range.yMin = TappedY() - (range.yMax - TappedY()) / (area.height() - 1);
     return range;
   }
@@ -146,7 +146,7 @@ class GraphScreen : public testing::Test {
     EXPECT_NEAR(range.yMax, expected.yMax, tolerance);
   }
 
-  /// Runs `act`, which is to be answered by a box with a stop icon that says `text`.
+  /// Runs `act`, and expects a box with a stop icon that says `text`.
   void ExpectStop(std::u16string_view text, const std::function<void()>& act) {
     BoxWatch::Instance().Expect(QMessageBox::Ok);
     act();
@@ -156,7 +156,7 @@ class GraphScreen : public testing::Test {
     EXPECT_EQ(seen.front().icon, QMessageBox::Critical);
   }
 
-  /// What is seen of the plot; the margin, where the focus shows, is left black.
+  /// The plot as it is seen. The margin, where the focus is shown, is left black.
   QImage Picture() {
     const QImage seen = Plot().grab().toImage();
     QImage picture(seen.size(), QImage::Format_RGB32);
@@ -166,7 +166,7 @@ class GraphScreen : public testing::Test {
   }
 
   QString Path(const QString& name) { return folder_.filePath(name); }
-  /// The next dialog is to be one that asks for a file; `path` is typed into it.
+  /// Expects a dialog that asks for a file, and types `path` into it.
   static void ExpectFile(const QString& path) {
     BoxWatch::Instance().ExpectDialog([path](QDialog& dialog) {
       auto* name = dialog.findChild<QLineEdit*>();

@@ -1,4 +1,4 @@
-// Whether the graph has room for all its parts at any size, and how a keyboard gets to them.
+// The graph has room for all its parts at every size, and the keyboard reaches them.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -28,7 +28,7 @@ TEST_F(GraphLayoutTest, EverythingHasRoomAtEverySize) {
         [&, this] {
           EXPECT_EQ(Dlg().size(), PortraitArea(size).size());
           Calculate("-1.2345678");
-          // A selector shows as much of an equation as it has room for.
+          // The selector may cut an equation.
           for (int i = 0; i < 3; ++i) Selector().setItemText(i, "R:F1");
           ExpectRoomForAll(Dlg());
         },

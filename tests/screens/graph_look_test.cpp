@@ -1,4 +1,4 @@
-// What a graph looks like, pixel by pixel, in the picture that is saved.
+// The saved picture of a graph, pixel by pixel.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -19,7 +19,7 @@ constexpr QRgb kWhite = qRgb(255, 255, 255);
 constexpr QRgb kGrid = qRgb(192, 192, 192);
 constexpr QRgb kAxis = qRgb(0, 130, 132);
 
-/// Whether some red stroke covers a pixel, be it in part, on paper.
+/// Whether a red stroke covers a pixel of paper at least in part.
 bool IsReddish(QRgb pixel) {
   return qRed(pixel) > qGreen(pixel) + 20 && qRed(pixel) > qBlue(pixel) + 20;
 }
@@ -117,13 +117,13 @@ TEST_F(GraphLookTest, TheGridIsNineLinesEachWayInTenthsOfTheArea) {
     EXPECT_NEAR(columns[at], plot.left + (i + 1) * 229 / 10., 1);
     EXPECT_NEAR(rows[at], plot.top + (i + 1) * (plot.Bottom() - plot.top) / 10., 1);
   }
-  // Sharp: besides grid and frame there is nothing but paper.
+  // Lines are sharp: all but grid and frame is paper.
   EXPECT_EQ(plot.Count(kGrid) + plot.Count(kBlack) + plot.Count(kWhite),
             plot.image.width() * plot.image.height());
 }
 
 TEST_F(GraphLookTest, WithoutTheGridThereIsNone) {
-  // No axes either, whose labels have greys of their own.
+  // Without axes too: their labels have other greys.
   EXPECT_EQ(PlotOf(Bare({"0*x+20"}, {1, 11, 1, 11})).Count(kGrid), 0);
 }
 
@@ -172,7 +172,7 @@ TEST_F(GraphLookTest, YIsXRunsThroughItsSamplesWithoutAStep) {
     const int column = plot.left + i;
     const double y = -10 + i * 20 / 229.;
     const int row = plot.RowOf(y);
-    // Sample and stroke may each lose a bit of y in the last place, and so a row.
+    // Rounding of y in the sample or in the stroke can move it by a row.
     const bool isThere = plot.At(column, row) == kRed || plot.At(column, row - 1) == kRed ||
                          plot.At(column, row + 1) == kRed;
     ASSERT_TRUE(isThere) << i;
@@ -201,7 +201,7 @@ TEST_F(GraphLookTest, ALargePlotShowsNoStaircase) {
   const double scale = image.width() / 234.;
   const int left = qRound(2 * scale);
   const int right = image.width() - 1 - left;
-  // The middle of the stroke in a column, each pixel counted by how much of it is covered.
+  // The middle of the stroke in a column: each pixel is weighted by the covered part of it.
   const auto middleOf = [&](int column) {
     double sum = 0;
     double weight = 0;
@@ -222,7 +222,7 @@ TEST_F(GraphLookTest, ALargePlotShowsNoStaircase) {
     if (fromAxis > 10) {
       ASSERT_GT(before - middle, 0) << column;
       ASSERT_LE(before - middle, 1.1) << column;
-      // On the straight line itself, as near as whole rows of samples allow.
+      // On the straight line, as nearly as whole rows allow.
       ASSERT_NEAR(middle, image.height() - 1 - qRound(3 * scale) - slope * (column - left), 1.2);
     }
     before = middle;
@@ -277,7 +277,7 @@ TEST_F(GraphLookTest, ATangentIsNotJoinedAcrossItsPoles) {
   const Plotted plot = PlotOf(Bare({"tan(x)"}));
   for (const double pole : {-2.5, -1.5, -0.5, 0.5, 1.5, 2.5}) {
     const int column = plot.ColumnOf(pole * std::numbers::pi);
-    // tan is beyond 2 from 0.46 before a pole to 0.46 behind it: 5 columns.
+    // tan is beyond 2 from 0.46 before a pole to 0.46 after it: 5 columns.
     EXPECT_FALSE(
         plot.HasRed(QRect(QPoint(column - 3, plot.RowOf(2)), QPoint(column + 3, plot.RowOf(-2)))))
         << pole;

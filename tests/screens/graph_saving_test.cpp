@@ -7,6 +7,8 @@
 #include <QSvgRenderer>
 
 #include "screens/graph_driver.h"
+#include "screens/plotter/graph_painter_view.h"
+#include "screens/plotter/graph_saving_view.h"
 
 namespace kav::test {
 namespace {
@@ -24,7 +26,7 @@ class GraphSavingTest : public GraphScreen {
     file.write(content);
   }
   QStringList Files() { return QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden); }
-  /// As SaveTo, with the filter that is `row` entries below the preset one.
+  /// Like SaveTo, with the filter `row` entries below the preset one.
   void SaveAs(int row, const QString& path) {
     BoxWatch::Instance().ExpectDialog([row, path](QDialog& dialog) {
       auto* filters = dialog.findChild<QComboBox*>("fileTypeCombo");
@@ -73,6 +75,7 @@ TEST_F(GraphSavingTest, ABmpHasItsHeadersAndItsRows) {
     const std::uint32_t row = (width * 3 + 3) / 4 * 4;
     EXPECT_EQ(bytes.left(2), "BM");
     EXPECT_EQ(NumberAt(bytes, 2, 4), 14 + 40 + row * height);
+    EXPECT_EQ(NumberAt(bytes, 6, 4), 0U);
     EXPECT_EQ(NumberAt(bytes, 10, 4), 14U + 40U);
     EXPECT_EQ(NumberAt(bytes, 14, 4), 40U);
     EXPECT_EQ(NumberAt(bytes, 18, 4), width);
@@ -80,8 +83,38 @@ TEST_F(GraphSavingTest, ABmpHasItsHeadersAndItsRows) {
     EXPECT_EQ(NumberAt(bytes, 26, 2), 1U);
     EXPECT_EQ(NumberAt(bytes, 28, 2), 24U);
     EXPECT_EQ(NumberAt(bytes, 30, 4), 0U);
+    EXPECT_EQ(NumberAt(bytes, 34, 4), row * height);
+    // 72 pixels an inch are 2834.6 a metre.
+    EXPECT_EQ(NumberAt(bytes, 38, 4), 2835U);
+    EXPECT_EQ(NumberAt(bytes, 42, 4), 2835U);
+    EXPECT_EQ(NumberAt(bytes, 46, 4), 0U);
+    EXPECT_EQ(NumberAt(bytes, 50, 4), 0U);
     EXPECT_EQ(bytes.size(), 14 + 40 + row * height);
   });
+}
+
+// Rows of four consecutive widths are filled up with 0 to 3 bytes.
+TEST(GraphSaving, TheRowsOfABmpStandFromTheBottomAndAreFilledUp) {
+  GraphModel model(LabelledGraphOf({"x^2", "10*sin(x)", "1/x"}));
+  for (const QSize size : {QSize(234, 236), QSize(235, 301), QSize(236, 57), QSize(237, 236),
+                           QSize(1080, 900), QSize(4, 6)}) {
+    model.SetArea(AreaWithin(size));
+    QImage drawn;
+    DrawGraph(model, drawn);
+    const QByteArray bytes = QByteArray::fromStdString(PrintGraph(model, GraphFile::Bmp));
+    const int rowSize = (drawn.width() * 3 + 3) / 4 * 4;
+    ASSERT_EQ(bytes.size(), 54 + rowSize * drawn.height());
+    QImage read(drawn.size(), drawn.format());
+    for (int row = 0; row < read.height(); ++row) {
+      const int start = 54 + (read.height() - 1 - row) * rowSize;
+      for (int column = 0; column < read.width(); ++column) {
+        read.setPixel(column, row, 0xFF000000U | NumberAt(bytes, start + 3 * column, 3));
+      }
+      const int filling = rowSize - 3 * drawn.width();
+      ASSERT_EQ(bytes.mid(start + 3 * drawn.width(), filling), QByteArray(filling, '\0'));
+    }
+    EXPECT_EQ(read, drawn);
+  }
 }
 
 TEST_F(GraphSavingTest, ThePictureIsWhatIsSeenFromTwoPixelsLeftAndThreeAboveThePlot) {

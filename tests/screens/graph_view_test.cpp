@@ -1,4 +1,4 @@
-// The graph on the screen: what its controls, its menu, its keys and taps do.
+// The graph on the screen: its controls, menu, keys, boxes and options.
 #include "screens/plotter/graph_view.h"
 
 #include <gtest/gtest.h>
@@ -60,7 +60,7 @@ struct ChangeRow {
   const char16_t* entry;
   Qt::Key key;
   Qt::KeyboardModifiers modifiers;
-  PlotRange range;  ///< of -10 to 10
+  PlotRange range;  ///< what it makes of -10 to 10
 };
 
 const ChangeRow kChanges[] = {
@@ -260,7 +260,7 @@ TEST_F(GraphViewTest, TheBoxIsSeenWhileItIsDrawn) {
 }
 
 TEST_F(GraphViewTest, ABoxWithoutAWidthOrAHeightInNumbersIsRefused) {
-  // Between its bounds there is no other double: every place reads as one of the two.
+  // There is no double between its bounds: every place reads as one of the two.
   constexpr double kNext = 1 + std::numeric_limits<double>::epsilon();
   struct Row {
     PlotRange range;
@@ -278,214 +278,6 @@ TEST_F(GraphViewTest, ABoxWithoutAWidthOrAHeightInNumbersIsRefused) {
       EXPECT_FALSE(CanUndo());
     });
   }
-}
-
-// Taps and "Cal".
-
-TEST_F(GraphViewTest, ATapShowsThePlaceThatWasTouched) {
-  GraphInput input = LabelledGraphOf({"x", "x^2"});
-  input.range = {0, 229, -10, 10};
-  Open(input, [this] {
-    TapPlot(Area().topLeft());
-    EXPECT_EQ(X().text(), "0");
-    EXPECT_EQ(Lines(), Texts{u"y = 10"});
-    EXPECT_EQ(SelectedLine(), std::nullopt);
-    TapPlot(Area().bottomLeft() + QPoint(100, 0));
-    EXPECT_EQ(X().text(), "100");
-    ASSERT_EQ(Lines().size(), 1U);
-    EXPECT_NEAR(TappedY(), -10 + 20. / Area().height(), 1e-9);
-  });
-}
-
-TEST_F(GraphViewTest, ATapBesideThePlotShowsNothing) {
-  Open(LabelledGraphOf({"x"}), [this] {
-    for (const QPoint place : {QPoint(0, 50), QPoint(50, 1), QPoint(Plot().width() - 1, 50)}) {
-      TapPlot(place);
-    }
-    EXPECT_EQ(X().text(), "");
-    EXPECT_EQ(Lines(), Texts{});
-  });
-}
-
-TEST_F(GraphViewTest, NumbersAreShownInTheChosenFormat) {
-  GraphInput input = LabelledGraphOf({"1000*x"});
-  input.format = {DisplayType::FixedPoint, 2};
-  input.range = {0, 229, 0, 1};
-  Open(input, [this] {
-    TapPlot(Area().topLeft() + QPoint(2, 0));
-    EXPECT_EQ(X().text(), "2.00");
-    EXPECT_EQ(Lines(), Texts{u"y = 1.00"});
-    Calculate("2");
-    EXPECT_EQ(Lines(), Texts{u"R:F1(X) = 2000.00"});
-  });
-}
-
-TEST_F(GraphViewTest, CalShowsTheValueOfEachCurve) {
-  Open(LabelledGraphOf({"2*x", "1/x", "x^2"}), [this] {
-    Calculate("1.5");
-    EXPECT_EQ(X().text(), "1.5");
-    EXPECT_EQ(Lines(), (Texts{u"R:F1(X) = 3", u"G:F2(X) = 0.666666666667", u"B:F3(X) = 2.25"}));
-    EXPECT_EQ(SelectedLine(), 0);
-  });
-}
-
-TEST_F(GraphViewTest, CalTakesAnEmptyFieldForZeroAndTellsWhereACurveHasNoValue) {
-  Open(LabelledGraphOf({"x+1", "1/x", "log(x)"}), [this] {
-    TapKey(u"Cal");
-    EXPECT_EQ(X().text(), "0");
-    EXPECT_EQ(Lines(),
-              (Texts{u"R:F1(X) = 1", u"G:F2(X) = Out of range", u"B:F3(X) = Out of range"}));
-  });
-}
-
-TEST_F(GraphViewTest, CalRefusesWhatIsNoNumberAndGoesBackToTheField) {
-  Open(LabelledGraphOf({"x"}), [this] {
-    Calculate("2");
-    for (const char* text : {"abc", "1,5", "inf", "1e999", "--1"}) {
-      SCOPED_TRACE(text);
-      BoxWatch::Instance().Expect(QMessageBox::Ok);
-      Calculate(text);
-      const auto seen = BoxWatch::Instance().TakeSeen();
-      ASSERT_EQ(seen.size(), 1U);
-      EXPECT_EQ(seen.front().icon, QMessageBox::Critical);
-      EXPECT_NE(seen.front().text.find(u"\"X =\" takes a decimal number"), std::u16string::npos);
-      EXPECT_EQ(X().text(), text);
-      EXPECT_EQ(Dlg().focusWidget(), &X());
-      EXPECT_EQ(X().selectedText(), text);
-      EXPECT_EQ(Lines(), Texts{u"R:F1(X) = 2"});
-    }
-  });
-}
-
-TEST_F(GraphViewTest, EnterInTheFieldCalculates) {
-  Open(LabelledGraphOf({"x^2"}), [this] {
-    X().setFocus();
-    QTest::keyClicks(&X(), "-3");
-    Key(Qt::Key_Return);
-    EXPECT_EQ(Lines(), Texts{u"R:F1(X) = 9"});
-    EXPECT_TRUE(Dlg().isVisible());
-  });
-}
-
-TEST_F(GraphViewTest, TheLineOfTheChosenCurveIsSelected) {
-  Open(LabelledGraphOf({"x", "2*x", "3*x"}), [this] {
-    Selector().setFocus();
-    Key(Qt::Key_Down);
-    EXPECT_EQ(SelectedLine(), std::nullopt);
-    Calculate("1");
-    EXPECT_EQ(SelectedLine(), 1);
-    Selector().setFocus();
-    Key(Qt::Key_Down);
-    EXPECT_EQ(SelectedLine(), 2);
-  });
-}
-
-TEST_F(GraphViewTest, AnotherCurveLeavesWhatIsBeingTyped) {
-  Open(LabelledGraphOf({"x", "2*x"}), [this] {
-    Calculate("1");
-    X().setText("12");
-    Selector().setFocus();
-    Key(Qt::Key_Down);
-    EXPECT_EQ(X().text(), "12");
-  });
-}
-
-// Trace.
-
-TEST_F(GraphViewTest, ATapWhileTracingCalculatesAtItsColumn) {
-  GraphInput input = LabelledGraphOf({"x", "2*x"});
-  input.range = {0, 229, -10, 10};
-  Open(input, [this] {
-    TapKey(u"Trace");
-    TapPlot(Area().topLeft() + QPoint(100, 30));
-    EXPECT_EQ(X().text(), "100");
-    EXPECT_EQ(Lines(), (Texts{u"R:F1(X) = 100", u"G:F2(X) = 200"}));
-    EXPECT_EQ(SelectedLine(), 0);
-  });
-}
-
-TEST_F(GraphViewTest, ADragWhileTracingMovesTheMarkerAndDoesNotZoom) {
-  GraphInput input = LabelledGraphOf({"x"});
-  input.range = {0, 229, 0, 229};
-  Open(input, [this] {
-    TapKey(u"Trace");
-    const QPoint from = Area().topLeft() + QPoint(20, 20);
-    QTest::mousePress(&Plot(), Qt::LeftButton, {}, from);
-    EXPECT_EQ(X().text(), "20");
-    QTest::mouseMove(&Plot(), from + QPoint(60, 50));
-    EXPECT_EQ(X().text(), "80");
-    QTest::mouseMove(&Plot(), {1000, 50});
-    EXPECT_EQ(X().text(), "229");
-    QTest::mouseRelease(&Plot(), Qt::LeftButton, {}, {1000, 50});
-    EXPECT_EQ(Lines(), Texts{u"R:F1(X) = 229"});
-    EXPECT_FALSE(CanUndo());
-  });
-}
-
-TEST_F(GraphViewTest, TheMarkerIsSeenWhileTracing) {
-  GraphInput input = LabelledGraphOf({"x"});
-  input.range = {0, 229, 0, 229};
-  Open(input, [this] {
-    const QImage plain = Picture();
-    TapKey(u"Trace");
-    EXPECT_EQ(Picture(), plain);
-    const QPoint place = Area().topLeft() + QPoint(100, 5);
-    TapPlot(place);
-    const QImage traced = Picture();
-    EXPECT_NE(traced.pixel(place), plain.pixel(place));
-    EXPECT_NE(traced.pixel(place + QPoint(0, 60)), plain.pixel(place + QPoint(0, 60)));
-    EXPECT_EQ(traced.pixel(place + QPoint(20, 0)), plain.pixel(place + QPoint(20, 0)));
-    TapKey(u"Trace");
-    EXPECT_EQ(Picture(), plain);
-  });
-}
-
-TEST_F(GraphViewTest, ArrowKeysStepTheMarkerWhileTracing) {
-  GraphInput input = LabelledGraphOf({"x", "2*x"});
-  input.range = {0, 229, -10, 10};
-  Open(input, [this] {
-    TapKey(u"Trace");
-    TapPlot(Area().topLeft() + QPoint(100, 30));
-    Plot().setFocus();
-    Key(Qt::Key_Right);
-    EXPECT_EQ(X().text(), "101");
-    Key(Qt::Key_Left);
-    Key(Qt::Key_Left);
-    EXPECT_EQ(Lines(), (Texts{u"R:F1(X) = 99", u"G:F2(X) = 198"}));
-    Key(Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_EQ(X().text(), "109");
-    for (int i = 0; i < 20; ++i) Key(Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_EQ(X().text(), "229");
-    EXPECT_FALSE(CanUndo());
-  });
-}
-
-TEST_F(GraphViewTest, TheKeyboardAloneBeginsATrace) {
-  GraphInput input = LabelledGraphOf({"x"});
-  input.range = {0, 229, -10, 10};
-  Open(input, [this] {
-    Trace().setFocus();
-    Key(Qt::Key_Space);
-    Plot().setFocus();
-    Key(Qt::Key_Right);
-    EXPECT_EQ(X().text(), "115");
-  });
-}
-
-TEST_F(GraphViewTest, UpAndDownGoFromCurveToCurveWhileTracing) {
-  Open(LabelledGraphOf({"x", "2*x", "3*x"}), [this] {
-    TapKey(u"Trace");
-    TapPlot(Area().center());
-    Plot().setFocus();
-    Key(Qt::Key_Down);
-    EXPECT_EQ(Selector().currentIndex(), 1);
-    EXPECT_EQ(SelectedLine(), 1);
-    Key(Qt::Key_Down);
-    Key(Qt::Key_Down);
-    EXPECT_EQ(Selector().currentIndex(), 2);
-    for (int i = 0; i < 5; ++i) Key(Qt::Key_Up);
-    EXPECT_EQ(SelectedLine(), 0);
-  });
 }
 
 // Options.

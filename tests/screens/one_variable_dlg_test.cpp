@@ -1,4 +1,4 @@
-// The screen of one-variable statistics as its user meets it: fields, list, editing, results.
+// The screen of one-variable statistics, used as a user does: fields, list, editing, results.
 #include <gtest/gtest.h>
 
 #include "screens/statistics_driver.h"
@@ -237,7 +237,7 @@ TEST_F(OneVariableDlgTest, DeleteWithoutASelectionSaysSo) {
   AddRows("1;2;3");
   ClickRow(0);
   Answer(u"Delete", u"Are you sure you want to delete the selected data?", QMessageBox::Yes);
-  // The row took its selection along, and left the key as it was.
+  // Deleting a row removes the selection and leaves the key enabled.
   ExpectRefusal(u"Delete", u"No items were selected!");
   EXPECT_EQ(Rows(), "2 1;1 1");
 }

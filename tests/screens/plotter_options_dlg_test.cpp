@@ -1,4 +1,4 @@
-// The options of a graph: the fields typed into, the boxes ticked, the buttons pressed.
+// The options dialog of a graph: its fields, boxes and buttons.
 #include "screens/plotter/plotter_options_dlg.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ class PlotterOptionsDlgTest : public testing::Test {
   PlotterOptionsDlgTest() { Show(screen_); }
   ~PlotterOptionsDlgTest() override { EXPECT_TRUE(BoxWatch::Instance().TakeSeen().empty()); }
 
-  /// Opens the dialog, runs `use` in it, which is to close it, and hands back what it made.
+  /// Opens the dialog and runs `use`, which closes it. Answers what the dialog does.
   std::optional<PlotterOptions> Run(const PlotterOptions& options,
                                     const std::function<void()>& use) {
     BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) {
@@ -50,7 +50,7 @@ class PlotterOptionsDlgTest : public testing::Test {
   void Tap(std::u16string_view captions) { test::Tap(*dlg_, captions); }
   bool HasFocus(const char* name) { return dlg_->focusWidget() == &Field(name); }
 
-  /// Taps "OK", which is to be refused with `text`.
+  /// Taps "OK", and expects that it is refused with `text`.
   void ExpectRefusal(std::u16string_view text) {
     BoxWatch::Instance().Expect(QMessageBox::Ok);
     Tap(u"OK");

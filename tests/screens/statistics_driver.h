@@ -1,4 +1,4 @@
-// A screen of statistics in a frame of its own, worked as its user does.
+// A statistics screen in a frame of its own, used as a user does.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -34,7 +34,7 @@ class StatisticsDriver : public testing::Test {
 
   // The keys.
   void Tap(std::u16string_view captions) { test::Tap(*dlg_, captions); }
-  /// The key alone: for captions with a blank in them.
+  /// For captions with a blank in them.
   void TapKey(std::u16string_view caption) {
     QAbstractButton* key = FindKey(*dlg_, caption);
     ASSERT_NE(key, nullptr) << test::ToQt(caption).toStdString();
@@ -45,7 +45,7 @@ class StatisticsDriver : public testing::Test {
     QAbstractButton* key = FindKey(*dlg_, caption);
     return key != nullptr && key->isEnabled();
   }
-  /// Those of `captions`, separated by ';', that are enabled.
+  /// The enabled ones of `captions`, separated by ';'.
   std::string OnesOn(const char* captions) {
     QStringList on;
     for (const QString& caption : QString(captions).split(';')) {
@@ -87,7 +87,7 @@ class StatisticsDriver : public testing::Test {
     return "not there";
   }
 
-  // The list; rows and columns count from 0.
+  // The list. Rows and columns are numbered from 0.
   QTableView& Table() { return *dlg_->findChild<QTableView*>(); }
   std::string Rows() {
     QStringList rows;
@@ -120,7 +120,7 @@ class StatisticsDriver : public testing::Test {
   }
   bool ListHasFocus() { return QApplication::focusWidget() == &Table(); }
 
-  // The keyboard; after a dialog, the window has to become the active one first.
+  // The keyboard. After a dialog, the window has to become active first.
   QWidget& Focused() {
     if (QWidget* menu = QApplication::activePopupWidget()) return *menu;
     dlg_->activateWindow();
@@ -144,7 +144,7 @@ class StatisticsDriver : public testing::Test {
     EXPECT_EQ(seen.front().text, text);
     EXPECT_EQ(seen.front().icon, icon);
   }
-  /// A key that is refused with `text`.
+  /// Presses a key, which is refused with `text`.
   void ExpectRefusal(std::u16string_view caption, std::u16string_view text) {
     SCOPED_TRACE(test::ToQt(text).toStdString());
     ExpectBox();
@@ -152,7 +152,7 @@ class StatisticsDriver : public testing::Test {
     ExpectSeen(text, QMessageBox::Critical);
     Focused();
   }
-  /// The answer to the question that a key asks.
+  /// Presses a key and answers its question.
   void Answer(std::u16string_view caption, std::u16string_view question,
               QMessageBox::StandardButton answer) {
     ExpectBox(answer);

@@ -12,7 +12,7 @@ constexpr const char16_t* kSaveQuestion = u"Do you want to save changes to Data?
 
 class StatisticsFilesTest : public OneVariableScreen {
  protected:
-  /// Loads `name`, which is refused in words that name it and begin with `beginning`.
+  /// Loads `name`, which is refused with a text that begins with `beginning` and names the file.
   void ExpectLoadRefused(const QString& name, std::u16string_view beginning) {
     SCOPED_TRACE(name.toStdString());
     ExpectFile(Path(name));

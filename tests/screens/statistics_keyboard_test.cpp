@@ -1,4 +1,4 @@
-// The statistics screens by the keyboard, by their Edit menu, and with memory variables.
+// The statistics screens used by keyboard and by their Edit menu, and their memory variables.
 #include <gtest/gtest.h>
 
 #include "screens/statistics_driver.h"
@@ -74,7 +74,7 @@ TEST_F(StatisticsKeyboardTest, ANegativeSumUnderTheRootShowsTheMessageAndCannotB
   frame_.dialogs.storeVariable = [](QWidget*, const std::u16string&) {};
   frame_.dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
   Open();
-  // With counts below 0, as files may hold them: N = -1, and the sum is 2e18 / -1.
+  // Files can hold counts below 0: N = -1, and the sum is 2e18 / -1.
   Load("1.0e+9\t1\r\n1.0e+9\t-3\r\n0\t1\r\n");
   TapKey(u"σ(n) of X");
   EXPECT_EQ(Answer(), u"Out of range(overflow or underflow)");

@@ -1,4 +1,4 @@
-// How the statistics screens look at every size of window, and as a screen reader finds them.
+// The statistics screens at every size of window, and what screen readers find.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -51,7 +51,7 @@ class StatisticsLayoutTest : public StatisticsDriver {
       EXPECT_LT(heading.horizontalAdvance(text), Table().columnWidth(column));
     }
   }
-  /// That a screen has room for all it holds, at every size.
+  /// Expects that a screen has room for all its parts at every size.
   void ExpectRoomAtAnySize() {
     std::vector<QSize> sizes(std::begin(kScreenSizes), std::end(kScreenSizes));
     sizes.insert(sizes.end(), std::begin(kOddSizes), std::end(kOddSizes));

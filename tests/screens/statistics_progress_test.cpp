@@ -1,4 +1,4 @@
-// Long works on the data: how far they are is shown, and they can be given up.
+// Long work on the data shows its progress and can be cancelled.
 #include <gtest/gtest.h>
 
 #include "screens/dialog_layout.h"
@@ -10,12 +10,12 @@ namespace {
 
 using std::chrono_literals::operator""ms;
 
-/// A screen whose user is out of patience from the beginning: every work is a long one.
+/// A screen without patience: it shows the progress of all work.
 class StatisticsProgressTest : public StatisticsDriver {
  protected:
   StatisticsProgressTest() { Open(std::make_unique<COneVariableDlg>(frame_, 0ms)); }
 
-  /// The next box shows the progress of a work; `use` leaves it as it is or closes it.
+  /// Expects the box that shows progress; `use` leaves it open or closes it.
   void ExpectProgress(const QString& title, const std::function<void(QDialog&)>& use) {
     BoxWatch::Instance().ExpectDialog([title, use](QDialog& dialog) {
       EXPECT_EQ(dialog.windowTitle(), title);
@@ -54,7 +54,7 @@ TEST_F(StatisticsProgressTest, ASaveThatIsGivenUpLeavesTheOldFile) {
   Write("a.txt", "old");
   AddRows("1 2");
   ExpectFile(Path("a.txt"));
-  ExpectBox(QMessageBox::Yes);  // there is a file of that name
+  ExpectBox(QMessageBox::Yes);  // the file exists
   ExpectCancelled("Saving Data...");
   Tap(u"Save");
   EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
@@ -116,7 +116,7 @@ TEST(WorkProgressViewTest, ShowsTheDonePartAndGoesWithItsWork) {
   int shown = -1;
   BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) {
     shown = dialog.findChild<QProgressBar*>()->value();
-    // It stays open as long as the work lasts.
+    // The box stays open until the work is done.
     QTimer::singleShot(0, &dialog, &QDialog::reject);
     dialog.setVisible(false);
   });

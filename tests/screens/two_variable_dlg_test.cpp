@@ -1,4 +1,4 @@
-// The screen of two-variable statistics as its user meets it: what it has beyond one variable.
+// The screen of two-variable statistics, used as a user does: what one-variable statistics lacks.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -154,7 +154,7 @@ TEST_F(TwoVariableDlgTest, AParabolaIsFitted) {
 TEST_F(TwoVariableDlgTest, AnExponentialIsFitted) {
   AddRows("1 2.718281828459045;2 7.38905609893065");
   ChooseModel(u"Lin", u"Exponential : A*exp(B*X)");
-  // Cells hold no more than 12 decimals of e.
+  // Cells hold only 12 decimals of e.
   EXPECT_NEAR(std::stod(ToQt(A()).toStdString()), 1, 1e-12);
   EXPECT_NEAR(std::stod(ToQt(B()).toStdString()), 1, 1e-12);
 }

@@ -1,5 +1,4 @@
-// Data with certified results: how many of their digits the sums reach. docs/statistics.md has the
-// table.
+// How many digits of certified results the sums reach. docs/statistics.md has the table.
 #include "support/certified_data.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +33,7 @@ DataList ListOf(std::string_view numbers, DataShape shape) {
   return list;
 }
 
-/// How many decimal digits of `certified` the value has, at most those that are certified.
+/// The number of correct decimal digits of a value, at most those of `certified`.
 double Digits(double value, double certified) {
   const double error = std::fabs(value - certified) / std::fabs(certified);
   return error == 0 ? kCertifiedDigits : std::min(kCertifiedDigits, -std::log10(error));
@@ -46,7 +45,7 @@ struct UnivariateSet {
   std::size_t size;
   double mean;
   double deviation;
-  double meanDigits;  ///< that are reached at least
+  double meanDigits;  ///< the fewest that must be reached
   double deviationDigits;
 };
 
@@ -73,7 +72,7 @@ TEST(CertifiedData, MeansAndSampleDeviationsHaveTheseDigits) {
 TEST(CertifiedData, OfNumAcc4TheSquaresLeaveNoDeviation) {
   const DataList list = ListOf(test::NumAcc("10000000"), DataShape::OneVariable);
   EXPECT_GE(Digits(MomentOf(list, 0, Moment::Mean), 10000000.2), 14);
-  // A negative number under the root.
+  // The root of a negative number.
   EXPECT_TRUE(std::isnan(MomentOf(list, 0, Moment::SampleDeviation)));
 }
 

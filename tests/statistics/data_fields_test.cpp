@@ -10,8 +10,8 @@
 namespace kav {
 namespace {
 
-std::variant<FieldNumbers, Refusal<DataField>> Read(std::u16string_view x, std::u16string_view y,
-                                                    std::u16string_view count) {
+Expected<FieldNumbers, Refusal<DataField>> Read(std::u16string_view x, std::u16string_view y,
+                                                std::u16string_view count) {
   return ReadTypedRow({std::u16string(x), std::u16string(y), std::u16string(count)},
                       DataShape::TwoVariables);
 }
@@ -32,11 +32,10 @@ TEST(DataFields, NumbersAreReadAsTheyAreTypedAndShown) {
        {Row{u"0", 0}, Row{u"-12.5", -12.5}, Row{u"1.5e-3", 0.0015}, Row{u"1.5E3", 1500},
         Row{u"  7  ", 7}, Row{u"+.5", 0.5}, Row{u"1,234,567.5", 1234567.5}, Row{u"1e308", 1e308}}) {
     const auto read = Read(row.text, row.text, u"3");
-    ASSERT_TRUE(std::holds_alternative<FieldNumbers>(read)) << Narrow(row.text);
-    const auto& numbers = std::get<FieldNumbers>(read);
-    EXPECT_EQ(numbers.x, row.value) << Narrow(row.text);
-    EXPECT_EQ(numbers.y, row.value) << Narrow(row.text);
-    EXPECT_EQ(numbers.count, 3);
+    ASSERT_TRUE(read) << Narrow(row.text);
+    EXPECT_EQ(read->x, row.value) << Narrow(row.text);
+    EXPECT_EQ(read->y, row.value) << Narrow(row.text);
+    EXPECT_EQ(read->count, 3);
   }
 }
 
@@ -44,27 +43,25 @@ TEST(DataFields, WhatIsNoNumberIsRefusedWithTheNameOfItsField) {
   for (const std::u16string_view text :
        {u"", u" ", u"abc", u"1,5", u"1 2", u"1e", u"--1", u"inf", u"nan", u"0x10", u"\u0663"}) {
     const auto x = Read(text, u"1", u"1");
-    ASSERT_TRUE(std::holds_alternative<Refusal<DataField>>(x)) << Narrow(text);
-    EXPECT_EQ(std::get<Refusal<DataField>>(x).text, u"X must be a number such as -12.5 or 1.5e-3.");
-    EXPECT_EQ(std::get<Refusal<DataField>>(x).focus, DataField::X);
+    ASSERT_FALSE(x) << Narrow(text);
+    EXPECT_EQ(x.error().text, u"X must be a number such as -12.5 or 1.5e-3.");
+    EXPECT_EQ(x.error().focus, DataField::X);
 
     const auto y = Read(u"1", text, u"1");
-    ASSERT_TRUE(std::holds_alternative<Refusal<DataField>>(y)) << Narrow(text);
-    EXPECT_EQ(std::get<Refusal<DataField>>(y).text, u"Y must be a number such as -12.5 or 1.5e-3.");
-    EXPECT_EQ(std::get<Refusal<DataField>>(y).focus, DataField::Y);
+    ASSERT_FALSE(y) << Narrow(text);
+    EXPECT_EQ(y.error().text, u"Y must be a number such as -12.5 or 1.5e-3.");
+    EXPECT_EQ(y.error().focus, DataField::Y);
   }
 }
 
 TEST(DataFields, NumbersBeyondThoseOfTheMachineAreRefused) {
   for (const std::u16string_view text : {u"1e309", u"-1e309"}) {
     const auto x = Read(text, u"1", u"1");
-    ASSERT_TRUE(std::holds_alternative<Refusal<DataField>>(x));
-    EXPECT_EQ(std::get<Refusal<DataField>>(x).text,
-              u"X is too large: it must be a number from -1.79e308 to 1.79e308.");
+    ASSERT_FALSE(x);
+    EXPECT_EQ(x.error().text, u"X is too large: it must be a number from -1.79e308 to 1.79e308.");
     const auto y = Read(u"1", text, u"1");
-    ASSERT_TRUE(std::holds_alternative<Refusal<DataField>>(y));
-    EXPECT_EQ(std::get<Refusal<DataField>>(y).text,
-              u"Y is too large: it must be a number from -1.79e308 to 1.79e308.");
+    ASSERT_FALSE(y);
+    EXPECT_EQ(y.error().text, u"Y is too large: it must be a number from -1.79e308 to 1.79e308.");
   }
 }
 
@@ -81,25 +78,24 @@ TEST(DataFields, CountsAreWholeNumbersFromOneToTenThousand) {
        {u"0", u"10001", u"-1", u"1.5", u"0.9999", u"10000.0001", u"", u"x", u"1e309", u"inf"}) {
     EXPECT_FALSE(ReadCount(text)) << Narrow(text);
     const auto read = Read(u"1", u"2", text);
-    ASSERT_TRUE(std::holds_alternative<Refusal<DataField>>(read)) << Narrow(text);
-    EXPECT_EQ(std::get<Refusal<DataField>>(read).text,
-              u"Count must be a whole number from 1 to 10000.");
-    EXPECT_EQ(std::get<Refusal<DataField>>(read).focus, DataField::Count);
+    ASSERT_FALSE(read) << Narrow(text);
+    EXPECT_EQ(read.error().text, u"Count must be a whole number from 1 to 10000.");
+    EXPECT_EQ(read.error().focus, DataField::Count);
   }
 }
 
 TEST(DataFields, FirstBadFieldIsTheOneThatIsRefused) {
-  EXPECT_EQ(std::get<Refusal<DataField>>(Read(u"", u"", u"")).focus, DataField::X);
-  EXPECT_EQ(std::get<Refusal<DataField>>(Read(u"1", u"", u"")).focus, DataField::Y);
-  EXPECT_EQ(std::get<Refusal<DataField>>(Read(u"1", u"1", u"")).focus, DataField::Count);
+  EXPECT_EQ(Read(u"", u"", u"").error().focus, DataField::X);
+  EXPECT_EQ(Read(u"1", u"", u"").error().focus, DataField::Y);
+  EXPECT_EQ(Read(u"1", u"1", u"").error().focus, DataField::Count);
 }
 
 TEST(DataFields, OneVariableHasNoY) {
   const auto read = ReadTypedRow({u"2.5", u"not asked", u"4"}, DataShape::OneVariable);
-  ASSERT_TRUE(std::holds_alternative<FieldNumbers>(read));
-  EXPECT_EQ(std::get<FieldNumbers>(read).x, 2.5);
-  EXPECT_EQ(std::get<FieldNumbers>(read).y, 0);
-  EXPECT_EQ(std::get<FieldNumbers>(read).count, 4);
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->x, 2.5);
+  EXPECT_EQ(read->y, 0);
+  EXPECT_EQ(read->count, 4);
 }
 
 }  // namespace

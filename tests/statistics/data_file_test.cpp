@@ -13,24 +13,17 @@
 #include "support/effort.h"
 #include "support/locales.h"
 #include "support/random.h"
+#include "support/spelled_list.h"
 #include "support/temporary_folder.h"
 
 namespace kav {
 namespace {
 
+using test::Spelled;
+
 constexpr uid_t kNobody = 65534;
 
-std::string Spelled(const DataList& list) {
-  std::string text;
-  for (std::size_t row = 0; row < list.RowCount(); ++row) {
-    text.append(list.ValueText(row, 0)) += ' ';
-    if (list.Shape() == DataShape::TwoVariables) text.append(list.ValueText(row, 1)) += ' ';
-    text += list.CountText(row) + ";";
-  }
-  return text;
-}
-
-/// What loading the file `path` gives: the rows and the total, or the message.
+/// Loads the file `path`: its rows and their total, or the message.
 std::string Load(const std::string& path, DataShape shape = DataShape::OneVariable) {
   const auto loaded = LoadDataFile(path, shape, {});
   if (const auto* failed = std::get_if<WorkFailed>(&loaded)) return Narrow(failed->text);
@@ -52,9 +45,9 @@ DataList ListOf(DataShape shape, const std::vector<DataRow>& rows) {
 }
 
 std::string Save(const std::string& path, const DataList& list) {
-  const auto failure = SaveDataFile(path, list, {});
-  if (!failure) return "";
-  return Narrow(std::get<WorkFailed>(*failure).text);
+  const auto outcome = SaveDataFile(path, list, {});
+  if (std::holds_alternative<DataSaved>(outcome)) return "";
+  return Narrow(std::get<WorkFailed>(outcome).text);
 }
 
 TEST(LoadDataFile, TheRowsKeepTheirOrderAndTheirTexts) {
@@ -160,7 +153,7 @@ TEST(LoadDataFile, NulBytesTabsAndHugeCountsHaveTheirReading) {
   EXPECT_EQ(LoadText("1\0005\0002\0006\000"s), "1 5;2 6; 11");
   EXPECT_EQ(LoadText(std::string(10'000'000, '\t') + "1\t5\n"), "1 5; 5");
   EXPECT_EQ(LoadText("7\t1e300\r\n8\t2\r\n"), "7 0;8 2; 2");
-  // The first thirty of them: a multiple of 2^44, as doubles of this size are.
+  // Only thirty digits are read. Doubles of this size are multiples of 2^44, and so 0 modulo 2^32.
   EXPECT_EQ(LoadText("7\t" + std::string(100'000, '1') + "\r\n8\t2\r\n"), "7 0;8 2; 2");
 }
 
@@ -264,8 +257,7 @@ TEST(SaveDataFile, GivenUpItLeavesTheFile) {
   PutFile(folder.File("a"), "old");
   const DataList list = ListOf(DataShape::OneVariable, {{{"1", {}}, 2}});
   const auto outcome = SaveDataFile(folder.File("a"), list, [](double) { return false; });
-  ASSERT_TRUE(outcome);
-  EXPECT_TRUE(std::holds_alternative<WorkCancelled>(*outcome));
+  EXPECT_TRUE(std::holds_alternative<WorkCancelled>(outcome));
   EXPECT_EQ(FileContent(folder.File("a")), "old");
   EXPECT_EQ(folder.Names(), std::vector<std::string>{"a"});
 }
@@ -280,7 +272,7 @@ TEST(SaveDataFile, WhatWasLoadedIsSavedAsItWasAndLoadedAgain) {
     const auto shape = random.Below(2) == 0 ? DataShape::OneVariable : DataShape::TwoVariables;
     PutFile(folder.File("a"), text);
     const auto loaded = LoadDataFile(folder.File("a"), shape, {});
-    if (!std::holds_alternative<DataList>(loaded)) continue;  // a total beyond all bounds
+    if (!std::holds_alternative<DataList>(loaded)) continue;  // the total is out of range
     ASSERT_EQ(Save(folder.File("b"), std::get<DataList>(loaded)), "");
     ASSERT_EQ(Load(folder.File("b"), shape), Load(folder.File("a"), shape)) << text;
   }

@@ -1,4 +1,4 @@
-// The memory that a list takes, and what it does without.
+// The memory that a list takes, and what it does if there is none.
 #include <gtest/gtest.h>
 #include <malloc.h>
 
@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::size_t kUnlimited = std::numeric_limits<std::size_t>::max();
 
-// Everything that this program takes by new.
+// Counts what this program takes by new.
 std::size_t taken = 0;
 std::size_t mostTaken = 0;
 std::size_t allowed = kUnlimited;
@@ -61,7 +61,7 @@ void operator delete[](void* block, std::size_t) noexcept {
 namespace kav {
 namespace {
 
-/// While it lives, `more` bytes are left to take.
+/// Leaves only `more` bytes to take while it lives.
 class Shortage {
  public:
   explicit Shortage(std::size_t more) { allowed = taken + more; }
@@ -78,7 +78,7 @@ DataList ListOf(std::int64_t rows) {
   return list;
 }
 
-/// Appends until there is no memory for it; answers how many rows there are then.
+/// Appends rows until memory is used up. Answers the number of rows then.
 std::size_t Fill(DataList& list, std::string_view value) {
   while (true) {
     const auto refusal = list.Append({{value, {}}, 1});
@@ -140,7 +140,7 @@ TEST(DataListMemory, ARewriteWithoutMemoryLeavesTheRow) {
   ASSERT_EQ(list.Append({{"5", {}}, 3}), std::nullopt);
   const Shortage shortage(0);
   std::optional<DataRefusal> refusal;
-  // What is left of the first block takes a few of them.
+  // The rest of the first block has room for a few of them.
   for (int i = 0; i < 20 && !refusal; ++i) {
     refusal = list.Rewrite(0, {{longText, {}}, 4});
     if (!refusal) refusal = list.Rewrite(0, {{"6", {}}, 5});
@@ -192,13 +192,13 @@ TEST(DataListMemory, SavingWithoutMemoryLeavesTheFile) {
   const std::string path = folder.File("data.txt");
   PutFile(path, "old");
   const DataList list = ListOf(50'000);
-  std::optional<std::variant<WorkFailed, WorkCancelled>> failure;
+  std::variant<DataSaved, WorkFailed, WorkCancelled> outcome;
   {
     const Shortage shortage(100'000);
-    failure = SaveDataFile(path, list, {});
+    outcome = SaveDataFile(path, list, {});
   }
-  ASSERT_TRUE(failure && std::holds_alternative<WorkFailed>(*failure));
-  EXPECT_TRUE(std::get<WorkFailed>(*failure).text.ends_with(
+  ASSERT_TRUE(std::holds_alternative<WorkFailed>(outcome));
+  EXPECT_TRUE(std::get<WorkFailed>(outcome).text.ends_with(
       u": there is not enough memory; close other programs."));
   EXPECT_EQ(FileContent(path), "old");
 }

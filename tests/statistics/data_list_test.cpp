@@ -13,9 +13,12 @@
 #include "common/number_text.h"
 #include "support/effort.h"
 #include "support/random.h"
+#include "support/spelled_list.h"
 
 namespace kav {
 namespace {
+
+using test::Spelled;
 
 constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
 constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
@@ -27,17 +30,6 @@ DataRow One(std::string_view x, std::optional<std::int32_t> count = 1) {
 
 DataRow Two(std::string_view x, std::string_view y, std::optional<std::int32_t> count = 1) {
   return {{x, y}, count};
-}
-
-/// All rows as "X Y Cnt;...", or "X Count;...".
-std::string Spelled(const DataList& list) {
-  std::string text;
-  for (std::size_t row = 0; row < list.RowCount(); ++row) {
-    text.append(list.ValueText(row, 0)) += ' ';
-    if (list.Shape() == DataShape::TwoVariables) text.append(list.ValueText(row, 1)) += ' ';
-    text += list.CountText(row) + ";";
-  }
-  return text;
 }
 
 DataList ListOf(std::initializer_list<std::pair<std::string_view, std::int32_t>> rows) {
@@ -240,7 +232,7 @@ TEST(DataList, AListMayBeInsertedIntoItself) {
 TEST(DataList, TwentyMillionRowsAreTheMost) {
   DataList list(DataShape::OneVariable);
   EXPECT_EQ(list.Append(One("", 0)), std::nullopt);
-  // Doubling is the shortest way there.
+  // Doubling the list gets there fastest.
   while (2 * list.RowCount() <= 20'000'000) ASSERT_EQ(list.InsertTop(list), std::nullopt);
   EXPECT_EQ(list.InsertTop(list), DataRefusal::TooManyRows);
   DataList rest(DataShape::OneVariable);
@@ -278,7 +270,7 @@ TEST(DataList, TheSecondColumnIsYWhereThereIsOne) {
   EXPECT_EQ(Spelled(list), "3 20 7;2 10 9;1 30 5;");
 }
 
-/// The rows of `list` as pairs, which tell whether one list is a permutation of another.
+/// The rows of `list` as pairs, to see whether one list is a permutation of another.
 std::vector<std::pair<std::string, std::int32_t>> RowsOf(const DataList& list) {
   std::vector<std::pair<std::string, std::int32_t>> rows;
   for (std::size_t row = 0; row < list.RowCount(); ++row) {
@@ -329,87 +321,6 @@ TEST(DataList, NoOrderOfAMillionRowsOverflowsTheStackOrTakesLong) {
     for (std::size_t row = 1; row < list.RowCount(); row += 97) {
       ASSERT_LE(list.Value(row - 1, 0), list.Value(row, 0)) << name;
     }
-  }
-}
-
-/// A row of the plain vector that the list is held against.
-struct PlainRow {
-  std::string x;
-  std::string y;
-  std::optional<std::int32_t> count;
-};
-
-std::string Spelled(const std::vector<PlainRow>& rows) {
-  std::string text;
-  for (const PlainRow& row : rows) {
-    text += row.x + ' ' + row.y + ' ' + (row.count ? std::to_string(*row.count) : "") + ';';
-  }
-  return text;
-}
-
-/// The same random changes made to a list and to a vector.
-class TwoLists {
- public:
-  explicit TwoLists(std::uint64_t seed) : random_(seed) {}
-
-  void Change() {
-    const PlainRow made{
-        Text(), Text(),
-        random_.Below(9) == 0 ? std::nullopt : std::optional<std::int32_t>(random_.Below(100))};
-    const DataRow row{{made.x, made.y}, made.count};
-    const std::size_t at = plain_.empty() ? 0 : random_.Below(plain_.size());
-    const auto place = plain_.begin() + static_cast<std::ptrdiff_t>(at);
-    switch (random_.Below(plain_.empty() ? 2 : 5)) {
-      case 0:
-        EXPECT_EQ(list_.InsertTop(row), std::nullopt);
-        plain_.insert(plain_.begin(), made);
-        break;
-      case 1:
-        EXPECT_EQ(list_.Append(row), std::nullopt);
-        plain_.push_back(made);
-        break;
-      case 2:
-        EXPECT_EQ(list_.Erase(at), std::nullopt);
-        plain_.erase(place);
-        break;
-      default:
-        EXPECT_EQ(list_.Rewrite(at, row), std::nullopt);
-        *place = made;
-    }
-  }
-
-  void Compare() const {
-    std::int64_t total = 0;
-    std::size_t complete = 0;
-    for (const PlainRow& row : plain_) {
-      total += row.count.value_or(0);
-      complete += row.count ? 1U : 0U;
-    }
-    ASSERT_EQ(Spelled(list_), Spelled(plain_));
-    ASSERT_EQ(list_.Total(), total);
-    ASSERT_EQ(list_.CompleteRowCount(), complete);
-  }
-
- private:
-  /// Long enough for the texts to be compacted again and again.
-  std::string Text() {
-    return std::string(random_.Below(8) * random_.Below(400),
-                       static_cast<char>('0' + random_.Below(10)));
-  }
-
-  test::Random random_;
-  DataList list_{DataShape::TwoVariables};
-  std::vector<PlainRow> plain_;
-};
-
-TEST(DataList, ChangesAtRandomLeaveWhatTheyLeaveInAVector) {
-  for (std::uint64_t seed = 0; seed < 4; ++seed) {
-    TwoLists lists(seed);
-    for (int i = 0; i < test::Tries(5000); ++i) {
-      lists.Change();
-      if (i % 50 == 0) lists.Compare();
-    }
-    lists.Compare();
   }
 }
 

@@ -18,7 +18,7 @@ std::string Spelled(const DataRow& row, DataShape shape) {
   return text + (row.count ? std::to_string(*row.count) : "") + ';';
 }
 
-/// What a reader makes of blocks: the rows, and the fault behind them.
+/// The rows that a reader reads from blocks, and then its fault.
 class Reading {
  public:
   explicit Reading(DataShape shape)
@@ -135,7 +135,7 @@ TEST(DataReader, CountsAreTruncatedModulo2To32) {
 }
 
 TEST(DataReader, OfACountTheFirst30CharactersAreRead) {
-  // Ones behind them would make another number.
+  // With the ones behind them it would be another number.
   EXPECT_EQ(OneOf("1 " + std::string(28, '0') + "12 "), "1 12;");
   EXPECT_EQ(OneOf("1 " + std::string(28, '0') + "123 "), "1 12;");
   EXPECT_EQ(OneOf("1 " + std::string(27, '0') + "2e12 "), "1 20;");
@@ -189,7 +189,7 @@ TEST(DataReader, ARefusalEndsTheReadingInItsLine) {
   EXPECT_EQ(taken, 3);
 }
 
-/// `rows` lines with a row each.
+/// A text of `rows` lines, each with a row.
 std::string Lines(int rows) {
   std::string text;
   for (int i = 0; i < rows; ++i) text += "1.5\t2\r\n";
@@ -277,7 +277,7 @@ TEST(DataReader, ALoneRowMayBeRefusedAsWell) {
   EXPECT_EQ(fault->refusal, DataRefusal::TooManyRows);
 }
 
-/// A text of which most is rows and the rest anything.
+/// A text that is mostly rows, with random characters between.
 std::string AnyText(test::Random& random) {
   static constexpr std::string_view kCharacters = "0123456789.e+-0123456789\t\n\t\n\r E,x\0\xff";
   std::string text;
@@ -296,7 +296,7 @@ TEST(DataReader, BlocksMayBeCutAnywhere) {
     const auto shape = random.Below(2) == 0 ? DataShape::OneVariable : DataShape::TwoVariables;
     Reading cut(shape);
     for (std::size_t at = 0; at < text.size();) {
-      // A block of its own, so that a view into one that is gone shows under the sanitizers.
+      // Each block is a copy that is freed, so that the sanitizers find a view into an old one.
       const std::string block = text.substr(at, random.Below(3) == 0 ? 1 : random.Below(60));
       cut.Read(block);
       at += block.size();

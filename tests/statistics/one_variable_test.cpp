@@ -45,7 +45,7 @@ TEST(OneVariableSums, TextsThatAreNoNumbersReadAs0AndRowsWithoutACountCountNothi
 }
 
 TEST(OneVariableSums, SumsAreAddedFromTheTop) {
-  // 1e16 swallows a 1 that is added to it, and not a 2.
+  // 1e16 + 1 is rounded to 1e16, but 1e16 + 2 is exact.
   const DataList down = ListOf({{{"1e16", {}}, 1}, {{"1", {}}, 1}, {{"1", {}}, 1}});
   const DataList up = ListOf({{{"1", {}}, 1}, {{"1", {}}, 1}, {{"1e16", {}}, 1}});
   EXPECT_EQ(MomentOf(down, 0, Moment::Sum), 1e16);
@@ -60,7 +60,7 @@ TEST(OneVariableSums, SquaresAreMultipliedBeforeTheyAreWeighted) {
 }
 
 TEST(OneVariableSums, DeviationsMultiplyTheTotalByTheMeanTwiceFromTheLeft) {
-  // With this sum of squares nothing would be left if the mean were squared first.
+  // With this sum of squares the difference would be 0 if the mean were squared first.
   WeightedSums sums;
   sums.sum = 0.9;
   const double mean = sums.sum / 3;

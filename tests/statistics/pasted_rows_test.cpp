@@ -10,23 +10,16 @@
 #include "support/effort.h"
 #include "support/locales.h"
 #include "support/random.h"
+#include "support/spelled_list.h"
 
 namespace kav {
 namespace {
 
+using test::Spelled;
+
 constexpr DisplayFormat kFormat;
 
-std::string Spelled(const DataList& list) {
-  std::string text;
-  for (std::size_t row = 0; row < list.RowCount(); ++row) {
-    text.append(list.ValueText(row, 0)) += ' ';
-    if (list.Shape() == DataShape::TwoVariables) text.append(list.ValueText(row, 1)) += ' ';
-    text += list.CountText(row) + ";";
-  }
-  return text;
-}
-
-/// The rows of `text`, and behind them what is told.
+/// The rows of `text`, and then what the user is told.
 std::string Paste(std::u16string_view text, DataShape shape, DisplayFormat format = kFormat) {
   const auto pasted = ReadPastedRows(text, shape, format, {});
   if (const auto* failed = std::get_if<WorkFailed>(&pasted)) return Narrow(failed->text);
@@ -81,7 +74,7 @@ TEST(PastedRows, ColumnsOfTwoVariablesAreXAndYAndTheCount) {
 
 TEST(PastedRows, ValuesAreWrittenAsIntoLists) {
   EXPECT_EQ(PasteOne(u"1.50\n0.30000000000000004\n1e3\n1E-3\n"), "1.5 1;0.3 1;1000 1;0.001 1;");
-  // Only in the exponent form the precision counts.
+  // The precision matters only in exponent form.
   EXPECT_EQ(Paste(u"1e20\n0.125\n", DataShape::OneVariable, {DisplayType::FixedPoint, 2}),
             "1.00e+20 1;0.125 1;");
   EXPECT_EQ(Paste(u"1234567\n", DataShape::OneVariable, {DisplayType::Thousands, 7}), "1234567 1;");
@@ -141,7 +134,7 @@ TEST(PastedRows, ATotalBeyond32BitsIsRefused) {
 }
 
 TEST(PastedRows, ATextOfMoreThan400MillionCharactersIsNotRead) {
-  // Memory that is never touched takes none.
+  // Memory that is never touched costs nothing.
   constexpr std::size_t kLength = 400'000'001;
   void* const map = mmap(nullptr, kLength * sizeof(char16_t), PROT_READ,
                          MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
@@ -188,7 +181,7 @@ TEST(PrintRows, RowsAreLinesWithTabsInTheGivenOrder) {
   EXPECT_EQ(PrintRows(two, std::vector<std::size_t>{0}), u"1\t\u00ff\t3\n");
 }
 
-/// A number of few digits: the noise behind many is rounded away anew each time.
+/// A number of few digits. One of many digits would be rounded again each time it is written.
 double Short(test::Random& random) {
   return (static_cast<double>(random.Below(2'000'001)) - 1e6) / 1000;
 }

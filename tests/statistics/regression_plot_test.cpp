@@ -112,7 +112,7 @@ TEST(RegressionPlot, DataThatDoNotSpreadAreRefused) {
   }
 }
 
-// The equation is not looked at before the data spread.
+// Data without a spread are refused before the equation is checked.
 TEST(RegressionPlot, DataThatDoNotSpreadAreToldBeforeABadEquation) {
   const auto plot =
       BuildRegressionPlot(ListOf({{"1", "2"}, {"1", "4"}}),
@@ -129,7 +129,7 @@ TEST(RegressionPlot, EquationThatTheEngineCannotReadIsToldWithTheEnginesMessage)
   EXPECT_FALSE(PlotOf(RegressionModel::Quadratic, {1, 1, -INFINITY}));
 }
 
-// What a model does not have is not in its equation.
+// Coefficients that a model lacks are not in its equation.
 TEST(RegressionPlot, CoefficientThatAModelLacksDoesNotMatter) {
   EXPECT_TRUE(PlotOf(RegressionModel::Linear, {1, 2, NAN}));
 }
@@ -146,7 +146,7 @@ TEST(RegressionPlot, DataThatAreTooFarApartAreRefused) {
   }
 }
 
-// The data are not, but the room around them is.
+// The data are in the range of double, but the range with room around them is not.
 TEST(RegressionPlot, DataThatLeaveNoRoomAroundThemAreRefused) {
   const auto plot = BuildRegressionPlot(ListOf({{"-1e308", "1"}, {"7e307", "2"}}), kLine, kFormat,
                                         AngleUnit::Radians);

@@ -95,7 +95,7 @@ TEST(Regression, TheInverseModelIsFittedOnTheLogarithms) {
   const double b = std::exp(-beta1);
   const Coefficients fitted = Fit(Model::Inverse, {{1, 3}, {2, 2}});
   ExpectNear(fitted, std::exp(beta0) - b, b, 0, 1e-12);
-  // The curve A/x + B through them would have these.
+  // These would be the coefficients of the curve A/x + B through the points.
   EXPECT_GT(std::fabs(fitted.a - 2), 0.1);
   EXPECT_GT(std::fabs(fitted.b - 1), 0.1);
 }
@@ -142,7 +142,7 @@ TEST(Regression, ACoefficientsTotalIsTheOneHandedIn) {
   EXPECT_EQ(sums.Fit(4).b, 1 - (4 / 2.75) * 0.75);
 }
 
-/// The fit as the description has it: every entry of the array summed by powers, whatever it costs.
+/// The fit by its definition: every entry of the equations is a sum of powers of its own.
 std::array<double, 3> PlainSolution(const std::vector<Point>& rows, std::size_t unknowns) {
   double a[3][4] = {};
   for (std::size_t i = 0; i < unknowns; ++i) {
@@ -277,7 +277,7 @@ TEST(Estimates, EachModelHasItsOwn) {
 }
 
 TEST(Estimates, TheFirstXOfAParabolaHasTheRootAdded) {
-  // X^2 - 4 = Y, upside down as well.
+  // Y = X^2 - 4, and the same upside down.
   const TwoEstimates up = EstimateQuadraticX({1, 0, -4}, 5);
   EXPECT_EQ(up.first, 3);
   EXPECT_EQ(up.second, -3);

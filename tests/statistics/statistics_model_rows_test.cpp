@@ -1,16 +1,16 @@
-// What becomes of the rows of a statistics screen: editing, deleting, clearing, sorting.
+// Editing, deleting, clearing and sorting the rows of a statistics screen.
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "statistics/one_variable_model.h"
+#include "statistics/statistics_model.h"
 #include "statistics/two_variable_model.h"
 #include "support/statistics_fixture.h"
 
 namespace kav {
 namespace {
 
-using OneVariableRows = test::StatisticsFixture<OneVariableModel>;
+using OneVariableRows = test::StatisticsFixture<StatisticsModel>;
 using TwoVariableRows = test::StatisticsFixture<TwoVariableModel>;
 
 constexpr std::u16string_view kFresh = u"Add|Load|MEM";
@@ -69,12 +69,12 @@ TEST_F(OneVariableRows, OkRewritesTheRowAndTheTotal) {
 TEST_F(OneVariableRows, OkMarksTheListAsModified) {
   Add(u"2", u"3");
   ASSERT_FALSE(model_->SaveTo(folder_.File("data.txt"), {}));
-  ASSERT_FALSE(model_->IsModified());
+  ASSERT_FALSE(AsksToSave());
   model_->Select(0);
   Press(u"Edit");
-  EXPECT_FALSE(model_->IsModified());
+  EXPECT_FALSE(AsksToSave());
   Press(u"Ok");
-  EXPECT_TRUE(model_->IsModified());
+  EXPECT_TRUE(AsksToSave());
 }
 
 TEST_F(OneVariableRows, EditWithoutAnotherCountLeavesCountAndTotal) {
@@ -183,11 +183,11 @@ TEST_F(OneVariableRows, DeletingAsksFirst) {
 TEST_F(OneVariableRows, DeletingMarksTheListAsModified) {
   ASSERT_FALSE(Load("1\t2\r\n3\t4\r\n"));
   Delete(0);
-  EXPECT_TRUE(model_->IsModified());
+  EXPECT_TRUE(AsksToSave());
 }
 
-// Deleting a row names the buttons that it disables, and Edit and Delete are not among them: they
-// wait for the next choice of a row.
+// Deleting a row does not disable Edit and Delete: they stay enabled until the next choice of a
+// row.
 TEST_F(OneVariableRows, DeletingOnceMoreTellsThatNothingIsSelected) {
   Add(u"1", u"1");
   Add(u"2", u"1");
@@ -222,7 +222,7 @@ TEST_F(OneVariableRows, ClearingAsksAndMakesACleanList) {
   EXPECT_EQ(model_->ResultText(), u"10");
   EXPECT_EQ(Enabled(), kFresh);
   EXPECT_FALSE(model_->Selected());
-  EXPECT_FALSE(model_->IsModified());
+  EXPECT_FALSE(AsksToSave());
 }
 
 // Sorting.
@@ -268,7 +268,7 @@ TEST_F(OneVariableRows, SortingIsNoModification) {
   model_->SortBy(0);
   EXPECT_EQ(Rows(), "1 2; 3 4");
   EXPECT_EQ(model_->TotalText(), u"6");
-  EXPECT_FALSE(model_->IsModified());
+  EXPECT_FALSE(AsksToSave());
   EXPECT_NE(model_->Revision(), revision);
 }
 

@@ -1,4 +1,4 @@
-// A statistics screen as its list grows: adding, the total, selection, buttons.
+// A statistics screen whose list grows: adding, total, selection, buttons.
 #include "statistics/statistics_model.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,6 @@
 #include <string>
 #include <vector>
 
-#include "statistics/one_variable_model.h"
 #include "statistics/statistics_texts.h"
 #include "statistics/two_variable_model.h"
 #include "support/effort.h"
@@ -18,7 +17,7 @@
 namespace kav {
 namespace {
 
-using OneVariable = test::StatisticsFixture<OneVariableModel>;
+using OneVariable = test::StatisticsFixture<StatisticsModel>;
 using TwoVariables = test::StatisticsFixture<TwoVariableModel>;
 
 constexpr std::u16string_view kFresh = u"Add|Load|MEM";
@@ -42,7 +41,6 @@ TEST_F(OneVariable, FreshScreenIsEmpty) {
   EXPECT_EQ(model_->FocusedField(), DataField::X);
   EXPECT_EQ(Enabled(), kFresh);
   EXPECT_FALSE(model_->IsEditing());
-  EXPECT_FALSE(model_->IsModified());
   EXPECT_FALSE(model_->Selected());
   EXPECT_FALSE(model_->QuestionBeforeLeaving());
 }
@@ -62,7 +60,7 @@ TEST_F(OneVariable, NewestRowIsOnTop) {
   Add(u"4", u"1");
   EXPECT_EQ(Rows(), "4 1; 2 3");
   EXPECT_EQ(model_->TotalText(), u"4");
-  EXPECT_TRUE(model_->IsModified());
+  EXPECT_TRUE(AsksToSave());
 }
 
 TEST_F(TwoVariables, RowsHaveBothValuesAndTheCount) {
@@ -128,7 +126,7 @@ TEST_F(TwoVariables, YIsAskedForBetweenXAndCount) {
   EXPECT_EQ(Told(request), u"Y must be a number such as -12.5 or 1.5e-3.");
   EXPECT_EQ(std::get<FieldRefusal>(request).focus, DataField::Y);
   EXPECT_EQ(Rows(), "");
-  EXPECT_FALSE(model_->IsModified());
+  EXPECT_FALSE(AsksToSave());
 }
 
 TEST_F(OneVariable, OneRowEnablesClearAndSaveAndTheSecondTheResults) {
@@ -179,7 +177,7 @@ TEST_F(OneVariable, ButtonsOfTheOtherScreenAreHidden) {
   EXPECT_EQ(model_->ResultText(), u"0");
 }
 
-// A total beyond 32 bits needs a file: no user adds that many rows.
+// Only a file gives a total beyond 32 bits: no user adds that many rows.
 TEST_F(OneVariable, TotalBeyondThirtyTwoBitsIsRefused) {
   ASSERT_FALSE(Load("1\t2147483640\r\n2\t3\r\n"));
   Type(u"5", u"5");
@@ -190,7 +188,7 @@ TEST_F(OneVariable, TotalBeyondThirtyTwoBitsIsRefused) {
   ASSERT_TRUE(std::holds_alternative<FieldRefusal>(request));
   EXPECT_EQ(std::get<FieldRefusal>(request).focus, DataField::Count);
   EXPECT_EQ(Rows(), "1 2147483640; 2 3");
-  EXPECT_FALSE(model_->IsModified());
+  EXPECT_FALSE(AsksToSave());
   Add(u"5", u"4");
   EXPECT_EQ(model_->TotalText(), u"2147483647");
 }
@@ -222,7 +220,7 @@ TEST_F(OneVariable, DeletingTheRowThatKeepsTheTotalInRangeIsRefused) {
             u"changed.");
   model_->DeleteRow();
   EXPECT_EQ(model_->List().RowCount(), 3U);
-  EXPECT_FALSE(model_->IsModified());
+  EXPECT_FALSE(AsksToSave());
 }
 
 TEST(StatisticsTexts, RowsThatDoNotFitAreToldWhatAListHolds) {
@@ -262,7 +260,7 @@ TEST_F(OneVariable, SelectedRowStaysSelectedUnderANewOne) {
   EXPECT_EQ(model_->List().ValueText(*model_->Selected(), 0), "2");
 }
 
-// Whatever is done in whatever order, total and buttons are those of the steps.
+// After any steps in any order, total and buttons are what the steps made them.
 
 struct Steps {
   std::vector<std::pair<int, int>> rows;

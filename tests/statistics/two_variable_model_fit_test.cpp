@@ -12,7 +12,7 @@ namespace {
 
 class TwoVariableFit : public test::StatisticsFixture<TwoVariableModel> {
  protected:
-  /// The buttons of the current model that are visible and enabled, of those that depend on it.
+  /// Of the buttons that depend on the model, those that are visible and enabled.
   std::u16string ModelButtons() const {
     std::u16string text;
     for (const StatisticsKey key :
@@ -91,9 +91,9 @@ TEST_F(TwoVariableFit, ItemsThatAreNotOfferedChangeNothing) {
   }
 }
 
-// Coefficients are kept until the data or the model change. Rows whose sums depend on their order
-// tell: from the top, the sums of y and of x*y are 2 and 6, so that A is (6 - 2*8/4) / 2; sorted by
-// y, the large values take the small ones along, and all is 0.
+// Coefficients are kept until the data or the model change. The sums of these rows depend on their
+// order: from the top, the sums of y and of x*y are 2 and 6, so that A is (6 - 2*8/4) / 2. Sorted
+// by y, the small values are lost in the large ones, and both sums are 0.
 class KeptCoefficients : public TwoVariableFit {
  protected:
   void SetUp() override {

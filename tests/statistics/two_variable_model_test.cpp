@@ -87,7 +87,7 @@ TEST_F(TwoVariableScreen, PowerModel) {
   EXPECT_NEAR(Number(u"X'"), 3, 1e-9);
 }
 
-// The logarithms are fitted, not 1/x.
+// The model fits logarithms, not 1/x.
 TEST_F(TwoVariableScreen, InverseModel) {
   Fill({{u"1", u"3"}, {u"2", u"2"}});
   model_->Choose(StatisticsKey::Model, 3);
@@ -174,7 +174,7 @@ TEST_F(TwoVariableScreen, LevelLineHasNoXAndNoCorrelation) {
   EXPECT_EQ(Result(u"Y'"), u"2");
 }
 
-// Lines that are exact in binary come out exactly, forwards and backwards.
+// Lines with exact binary coefficients give exact results, for Y' and for X'.
 TEST_F(TwoVariableScreen, RandomLinesAreFound) {
   test::Random random(42);
   for (int i = 0; i < test::Tries(500); ++i) {

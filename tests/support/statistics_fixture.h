@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
@@ -24,7 +25,14 @@ class StatisticsFixture : public testing::Test {
  protected:
   StatisticsFixture() { Open(); }
 
-  void Open() { model_ = std::make_unique<Model>(store_); }
+  /// Makes a fresh screen. A StatisticsModel is that of one variable.
+  void Open() {
+    if constexpr (std::is_same_v<Model, StatisticsModel>) {
+      model_ = std::make_unique<Model>(DataShape::OneVariable, store_);
+    } else {
+      model_ = std::make_unique<Model>(store_);
+    }
+  }
 
   void Set(std::string_view name, std::int32_t value) {
     store_.Set(SettingKey<std::int32_t>{"Config", name, 0}, value);
@@ -40,7 +48,7 @@ class StatisticsFixture : public testing::Test {
     ADD_FAILURE() << "no button shows " << Narrow(caption);
     return Nothing{};
   }
-  /// Presses a button of a result; what the result line then shows.
+  /// Presses a result button. Answers what the result line then shows.
   std::u16string Result(std::u16string_view caption) {
     EXPECT_TRUE(std::holds_alternative<Nothing>(Press(caption))) << Narrow(caption);
     return model_->ResultText();
@@ -64,7 +72,7 @@ class StatisticsFixture : public testing::Test {
       Add((*point)[0], (*point)[1], std::u16string_view(u"1"));
     }
   }
-  /// Loads a file of this content; what is told.
+  /// Loads a file of this content. Answers what the user is told.
   std::optional<std::u16string> Load(const std::string& content) {
     PutFile(folder_.File("load.txt"), content);
     return model_->LoadFrom(folder_.File("load.txt"), {});
@@ -87,13 +95,16 @@ class StatisticsFixture : public testing::Test {
     model_->ClearRows();
   }
 
+  /// Whether leaving the screen asks to save: the list was changed, and its total is above 1.
+  bool AsksToSave() const { return model_->QuestionBeforeLeaving().has_value(); }
+
   /// The cells from the top, such as "4 1; 2 3".
   std::string Rows() const {
     const DataList& list = model_->List();
     std::string text;
     for (std::size_t row = 0; row < list.RowCount(); ++row) {
       if (row > 0) text += "; ";
-      for (std::size_t i = 0; i < static_cast<std::size_t>(list.Shape()); ++i) {
+      for (std::size_t i = 0; i < VariablesOf(list.Shape()); ++i) {
         text.append(list.ValueText(row, i)).append(" ");
       }
       text += list.CountText(row).empty() ? "-" : list.CountText(row);
@@ -112,7 +123,7 @@ class StatisticsFixture : public testing::Test {
     return text;
   }
 
-  /// What is told with the stop icon; empty for other requests.
+  /// What the user is told with the stop icon; empty for other requests.
   static std::u16string Told(const StatisticsRequest& request) {
     if (const auto* told = std::get_if<TellStop>(&request)) return told->text;
     if (const auto* refused = std::get_if<FieldRefusal>(&request)) return refused->text;

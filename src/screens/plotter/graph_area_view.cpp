@@ -16,7 +16,7 @@ namespace kav {
 namespace {
 
 // In pixels of a plot 230 pixels wide.
-constexpr double kTapRadius = 3;  // a finger never lifts quite where it went down
+constexpr double kTapRadius = 3;  // a finger lifts a little beside the place where it went down
 
 constexpr int kNotch = 120;
 constexpr int kLargeStep = 10;
@@ -76,7 +76,7 @@ void GraphAreaView::resizeEvent(QResizeEvent*) {
 }
 
 void GraphAreaView::paintEvent(QPaintEvent*) {
-  FitArea();  // the window may have come to a display with another resolution
+  FitArea();  // the window may be on another display now, with another resolution
   if (!std::exchange(isCurrent_, true)) DrawGraph(model_, picture_);
   QPainter painter(this);
   painter.save();

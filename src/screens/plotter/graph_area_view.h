@@ -12,39 +12,39 @@ namespace kav {
 
 /// What the user does to the plot.
 struct GraphAreaHooks {
-  /// A tap; while tracing, each place of a drag as well.
+  /// A tap. While tracing, also each place of a drag.
   std::function<void(GraphPlace)> tap;
-  /// A drag, however short, while not tracing.
+  /// A drag while not tracing.
   std::function<void(GraphPlace from, GraphPlace to)> box;
   std::function<void(RangeChange)> change;
-  // While tracing: the marker goes by so many columns, or to the curve so many after the selected.
+  // While tracing: moves the marker by columns, or selects the curve so many places further.
   std::function<void(int columns)> step;
   std::function<void(int curves)> goToCurve;
 };
 
 /// Shows a graph in the pixels of the display. A drag draws a box, the wheel zooms, the arrow keys
-/// move the range; while tracing, taps, drags and the arrow keys move the marker, with Shift by ten
+/// move the range. While tracing, taps, drags and the arrow keys move the marker, with Shift by ten
 /// columns.
 class GraphAreaView final : public QWidget {
  public:
-  /// `model` has to outlive the widget, which sets its area.
+  /// The widget sets the area of `model`, which must outlive it.
   GraphAreaView(GraphModel& model, GraphAreaHooks hooks);
 
-  /// Range or options of the model are others.
+  /// To be called when range or options of the model have changed.
   void Redraw();
-  /// Its marker stands elsewhere.
+  /// To be called when only its marker has.
   void MoveMarker();
 
-  /// What stands beside it gives way until it is `pixels` high.
+  /// Sets the height, in pixels, below which the layout does not shrink it.
   void KeepHeight(int pixels);
   QSize minimumSizeHint() const override { return {0, keptHeight_}; }
 
  private:
-  /// From where the button or the stylus went down to where it is.
+  /// From the place where the button or the stylus went down to the place where it is now.
   struct Drag {
     QPointF from;
     QPointF to;
-    bool isTap;  ///< it has not left its beginning yet
+    bool isTap;  ///< has stayed near `from`
   };
 
   void paintEvent(QPaintEvent* event) override;
@@ -63,16 +63,16 @@ class GraphAreaView final : public QWidget {
 
   GraphPlace PlaceOf(QPointF point) const;
   GraphPlace NearestInPlot(QPointF point) const;
-  /// How many units of the widget one pixel of a plot 230 pixels wide is.
+  /// The size of a pixel of a plot 230 pixels wide, in units of the widget.
   double Unit() const;
 
   GraphModel& model_;
   GraphAreaHooks hooks_;
   int keptHeight_ = 0;
   QImage picture_;
-  bool isCurrent_ = false;  // whether the picture is that of the model
+  bool isCurrent_ = false;  ///< `picture_` shows the model as it is
   std::optional<Drag> drag_;
-  int wheel_ = 0;  // 120ths of notches that were turned and have not zoomed yet
+  int wheel_ = 0;  ///< how far the wheel was turned without zooming yet, in 120ths of a notch
 };
 
 }  // namespace kav

@@ -18,13 +18,13 @@ constexpr double kPictureWidth = kSampleCount + 2 * kSideMargin;
 constexpr double kTextHeight = 11;
 constexpr double kDescent = 2.75;
 
-// Lines grow more slowly than the plot: as wide in proportion, they would look coarse.
+// Lines grow more slowly than the plot: in proportion to it they would look coarse.
 constexpr double kStrokeGrowth = 0.65;
 constexpr double kRuleGrowth = 0.5;
-// The narrowest stroke that covers pixels in its middle wholly, whatever its slope is (the square
-// root of 2 and a little), so that they have its very colour.
+// A little more than the square root of 2: a stroke of any slope then covers the pixels in its
+// middle wholly, and they have its exact colour.
 constexpr double kNarrowestStroke = 1.5;
-// To paint a path takes time that grows faster than the path.
+// The time to paint a path grows faster than its length.
 constexpr qsizetype kSegmentsAtOnce = 8;
 
 QColor ColourOf(GraphColour colour) {
@@ -44,13 +44,13 @@ int Pixels(double length) {
   return std::max(static_cast<int>(std::lround(length)), 1);
 }
 
-/// Paints one shape after the other.
+/// Paints each shape that it is called with.
 class ShapePainter {
  public:
   ShapePainter(QPainter& painter, const PlotArea& area)
       : painter_(painter), area_(area), scale_(area.Scale()) {
     QFont font = ScreenFont(Pixels(kTextHeight * scale_));
-    // Coloured fringes belong to one screen: the picture may be shown on any.
+    // The coloured fringes of subpixels suit one screen only, and a saved picture is shown on any.
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
     painter_.setFont(font);
   }
@@ -71,7 +71,7 @@ class ShapePainter {
     const QRect line = QRect(PixelAt(rule.from), PixelAt(rule.to)).normalized();
     const int before = Line() / 2;
     const int after = Line() - 1 - before;
-    // The frame stays whole.
+    // The frame is not painted over.
     const QRect wide = line.width() > line.height()
                            ? line.adjusted(Line(), -before, -Line(), after)
                            : line.adjusted(-before, Line(), after, -Line());
@@ -87,7 +87,7 @@ class ShapePainter {
                          std::max(kNarrowestStroke, kStrokeGrowth * scale_), Qt::SolidLine,
                          Qt::SquareCap, Qt::RoundJoin));
     for (qsizetype i = 0; i + 1 < places.size(); i += kSegmentsAtOnce) {
-      // One segment more, so that no seam is seen.
+      // With one segment of the next piece, so that no seam is seen.
       const qsizetype count = std::min(kSegmentsAtOnce + 2, places.size() - i);
       painter_.drawPolyline(places.data() + i, static_cast<int>(count));
     }
@@ -114,7 +114,8 @@ class ShapePainter {
 
   void operator()(const GraphText& text) {
     painter_.setPen(ColourOf(graph_colour::kInk));
-    // Not what some faces keep free below: the text would leave the plot at its other end.
+    // Some faces have more room below the letters. With all of it the text would leave the plot at
+    // the top.
     const int descent = std::min(painter_.fontMetrics().descent(), Pixels(kDescent * scale_));
     painter_.drawText(PixelAt(text.place) - QPoint(0, descent), ToQt(text.text));
   }
@@ -141,7 +142,7 @@ PlotArea AreaWithin(QSize size) {
   const double scale = size.width() / kPictureWidth;
   const int side = Pixels(kSideMargin * scale);
   const int top = Pixels(kTopMargin * scale);
-  // A range has a width and a height, and so has the area that shows it.
+  // However small the picture, the area has two columns and two rows.
   return {side, top, std::max(size.width() - 1 - side, side + 1),
           std::max(size.height() - 1 - top, top + 1)};
 }

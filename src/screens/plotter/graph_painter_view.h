@@ -1,4 +1,4 @@
-// Paints graphs: the screen and picture files have one look.
+// Paints graphs, on the screen and into picture files alike.
 #pragma once
 
 #include <QImage>
@@ -10,21 +10,21 @@ class QPainter;
 
 namespace kav {
 
-/// The plot in a picture of `size` pixels: two pixels (of a plot 230 pixels wide) from its left and
-/// right, three from its top and bottom.
+/// The area of the plot in a picture of `size` pixels. The margins are two pixels (of a plot 230
+/// pixels wide) at the left and right, and three at the top and bottom.
 PlotArea AreaWithin(QSize size);
 
 /// The size of the picture around `area`, with the margins of AreaWithin.
 QSize SizeAround(const PlotArea& area);
 
-/// Paints `shapes`, made for `area`; the pixel (0, 0) is the upper left one of the painter. Curves,
-/// points and discs end at the area.
+/// Paints `shapes`, which were made for `area`. Places count from the upper left pixel of the
+/// painter. Curves, points and discs are clipped to the area.
 void PaintShapes(QPainter& painter, const GraphPicture& shapes, const PlotArea& area);
 
 /// Paints the picture of `model` and the paper below it.
 void PaintGraph(QPainter& painter, const GraphModel& model);
 
-/// Makes `image` the picture of `model`, in Format_RGB32. One of the right size is used again.
+/// Makes `image` the picture of `model`, in Format_RGB32. An image of the right size is drawn over.
 void DrawGraph(const GraphModel& model, QImage& image);
 
 }  // namespace kav

@@ -4,9 +4,7 @@
 #include <QPainter>
 #include <QSvgGenerator>
 #include <array>
-#include <vector>
 
-#include "plotter/bitmap_file.h"
 #include "plotter/plotter_texts.h"
 #include "screens/plotter/graph_painter_view.h"
 #include "screens/widgets/file_choice.h"
@@ -20,26 +18,16 @@ namespace {
 constexpr std::array kGraphFiles{FileKind{u"BMP(*.bmp)", u"bmp"}, FileKind{u"PNG(*.png)", u"png"},
                                  FileKind{u"SVG(*.svg)", u"svg"}};
 
-// Pixels in an inch as documents count them.
+// Pixels an inch, as documents count them.
 constexpr int kDocumentResolution = 96;
 
-std::string PrintBmp(const QImage& image) {
-  std::vector<std::uint32_t> pixels;
-  pixels.reserve(static_cast<std::size_t>(image.width()) *
-                 static_cast<std::size_t>(image.height()));
-  for (int row = 0; row < image.height(); ++row) {
-    const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(row));
-    for (int column = 0; column < image.width(); ++column) {
-      pixels.push_back(line[column] & RGB_MASK);
-    }
-  }
-  return PrintBitmap({image.width(), image.height(), pixels});
-}
+/// The resolution that BMP files tell: 72 pixels an inch, in pixels a metre.
+constexpr int kBmpResolution = 2835;
 
-std::string PrintPng(const QImage& image) {
+std::string PrintImage(const QImage& image, const char* format) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
-  image.save(&buffer, "PNG");
+  image.save(&buffer, format);
   return buffer.data().toStdString();
 }
 
@@ -63,7 +51,10 @@ std::string PrintGraph(const GraphModel& model, GraphFile file) {
   if (file == GraphFile::Svg) return PrintSvg(model);
   QImage image;
   DrawGraph(model, image);
-  return file == GraphFile::Png ? PrintPng(image) : PrintBmp(image);
+  if (file == GraphFile::Png) return PrintImage(image, "PNG");
+  image.setDotsPerMeterX(kBmpResolution);
+  image.setDotsPerMeterY(kBmpResolution);
+  return PrintImage(image, "BMP");
 }
 
 void SaveGraph(QWidget* parent, const GraphModel& model) {

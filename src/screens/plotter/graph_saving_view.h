@@ -1,4 +1,4 @@
-// The picture of a graph in a file.
+// Saves the picture of a graph.
 #pragma once
 
 #include <string>
@@ -12,10 +12,11 @@ namespace kav {
 /// What a graph is saved as: pixels, or shapes of any size.
 enum class GraphFile { Bmp, Png, Svg };
 
-/// The bytes of a file with the picture of `model`, of its area and the margins around it.
+/// The bytes of a file with the picture of `model`: its area and the margins of AreaWithin. A BMP
+/// has 24 bits a pixel and is not compressed.
 std::string PrintGraph(const GraphModel& model, GraphFile file);
 
-/// Asks for a file and writes the picture into it; says so where that cannot be done.
+/// Asks the user for a file and saves the picture in it. Tells the user if that fails.
 void SaveGraph(QWidget* parent, const GraphModel& model);
 
 }  // namespace kav

@@ -26,7 +26,7 @@
 namespace kav {
 namespace {
 
-/// An entry of the menu that changes the range, and its keys, the one that is shown first.
+/// A menu entry that changes the range, and its keys. The menu shows the first key.
 struct ChangeRow {
   RangeChange change;
   std::u16string_view text;
@@ -48,7 +48,7 @@ constexpr const char* kOptionsKey = "Ctrl+G";
 
 constexpr int kLinesOfResults = 3;
 
-/// Of the height of the whole, what the plot is to take at least.
+/// The least height of the plot, as a part of the window's.
 constexpr double kPlotShare = 0.585;
 
 QList<QKeySequence> Shortcuts(const ChangeRow& row) {
@@ -73,7 +73,7 @@ class CGraphView final : public Dialog {
   void OnOptions();
   void GoToCurve(int curves);
   void Select(int curve);
-  void Tell(RangeOutcome outcome);
+  void Tell(ChangeRefusal refusal);
   void Take(const std::optional<GraphReading>& reading);
   void Refresh();
 
@@ -100,7 +100,7 @@ CGraphView::CGraphView(QWidget* parent, GraphInput input)
       model_(std::move(input)),
       area_(new GraphAreaView(model_, Hooks())) {
   for (const GraphCurve& curve : model_.Input().curves) curves_->addItem(OneLine(curve.label));
-  // As wide as there is room, however long an equation is.
+  // However long the equations are, the selector is as wide as there is room.
   curves_->KeepRoomFor({kShortCurveNames.begin(), kShortCurveNames.end()});
   x_->setAccessibleName(ToQt(kTracedXName));
   MakeMenu();
@@ -191,16 +191,16 @@ void CGraphView::Select(int curve) {
   area_->MoveMarker();
 }
 
-void CGraphView::Tell(RangeOutcome outcome) {
+void CGraphView::Tell(ChangeRefusal refusal) {
   Refresh();
-  if (outcome) ShowStop(this, *outcome);
+  if (refusal) ShowStop(this, *refusal);
 }
 
 void CGraphView::Take(const std::optional<GraphReading>& reading) {
   if (!reading) return;
   reading_ = *reading;
   x_->setText(ToQt(reading_.x));
-  x_->home(false);  // where the digits are that matter most
+  x_->home(false);  // the first digits matter most
   results_->Write(reading_.lines, reading_.selected);
   area_->MoveMarker();
 }
@@ -212,11 +212,11 @@ void CGraphView::Refresh() {
 
 void CGraphView::SetTextHeight(int text) {
   Dialog::SetTextHeight(text);
-  // The plot is as wide as can be, and the menu bar, as on every screen, all of the width.
+  // The plot is as wide as possible, and the menu bar as wide as the window, as on every screen.
   layout()->setContentsMargins(0, 0, 0, 0);
   layout()->setSpacing(0);
   area_->KeepHeight(qRound(height() * kPlotShare));
-  // As wide as in any other face, however small this one's letters have to be.
+  // Not from `text`: the margin is the same in every face, however small its letters have to be.
   const int margin = TextPixels(height()) / 4;
   body_->setContentsMargins(margin, margin, margin, margin);
   const int line = results_->fontMetrics().height() + text / 6;

@@ -7,7 +7,7 @@ class QWidget;
 
 namespace kav {
 
-/// Shows the graph until it is closed. Nothing of `input` needs to outlive the call.
+/// Shows the graph until the user closes it.
 void RunGraphView(QWidget* parent, GraphInput input);
 
 }  // namespace kav

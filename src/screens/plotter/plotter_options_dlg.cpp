@@ -27,7 +27,7 @@ class CPlotterOptionsDlg final : public Dialog {
  public:
   CPlotterOptionsDlg(QWidget* parent, const PlotterOptions& options);
 
-  /// Once it was accepted.
+  /// What was chosen, once the dialog is accepted.
   const PlotterOptions& Accepted() const { return accepted_; }
 
  private:

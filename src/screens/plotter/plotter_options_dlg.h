@@ -1,4 +1,4 @@
-// The range and the options of a graph, to be changed.
+// The dialog that changes the range and the options of a graph.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,8 @@ class QWidget;
 
 namespace kav {
 
-/// What the user made of `options`, without a RangeRefusal; nullopt where the dialog was cancelled.
+/// The range and the options that the user chose, starting from `options`; the range has no
+/// RangeRefusal. nullopt if the user cancelled.
 std::optional<PlotterOptions> RunPlotterOptions(QWidget* parent, const PlotterOptions& options);
 
 }  // namespace kav

@@ -16,10 +16,10 @@
 namespace kav {
 namespace {
 
-/// Of a field's height, and of a caption's width.
+/// The part of a field's height, and of a caption's width, that the text may take.
 constexpr double kTextHeight = 0.55;
 constexpr double kTextWidth = 0.97;
-/// What a field keeps free beside its text, in pixels.
+/// The room that a field keeps beside its text, in pixels.
 constexpr int kBesideText = 3;
 
 }  // namespace
@@ -43,7 +43,7 @@ RangeFieldsView::RangeFieldsView(QWidget* screen,
 void RangeFieldsView::Show(const RangeTexts& texts) {
   for (const RangeField field : kRangeFields) {
     const QString text = OneLine(texts[IndexOf(field)]);
-    // Not while it is typed in: that would move the caret.
+    // Setting the same text again would move the caret while the user types.
     if (Of(field).text() == text) continue;
     Of(field).setText(text);
     Of(field).home(false);
@@ -64,7 +64,7 @@ int RangeFieldsView::FittingText(int most) const {
   }
   const QLineEdit& field = *fields_.front();
   const int highest = std::min(most, qRound(field.height() * kTextHeight));
-  // A number with its sign and six digits is seen whole.
+  // A number with a sign and six digits is shown whole.
   QStyleOptionFrame frame;
   frame.initFrom(&field);
   frame.fontMetrics = QFontMetrics(ScreenFont(highest));

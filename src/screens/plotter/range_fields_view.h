@@ -14,22 +14,22 @@ class QWidget;
 
 namespace kav {
 
-/// The fields and their captions, each a child of the screen, at the places of the table.
+/// The fields and their captions. The widgets are children of the screen.
 class RangeFieldsView {
  public:
-  /// `onEdited` is called when the user has changed the text of a field.
+  /// `onEdited` is called with the new text when the user changes a field.
   RangeFieldsView(QWidget* screen, const std::function<void(RangeField, std::u16string)>& onEdited);
 
   void Show(const RangeTexts& texts);
   void LayOut(const DialogUnits& units);
-  /// The size at which no caption is cut, at most `most` pixels.
+  /// The height of letters, in pixels, at which no caption is cut; at most `most`.
   int FittingText(int most) const;
   void SetFont(const QFont& font);
 
   QLineEdit& Of(RangeField field) const { return *fields_[IndexOf(field)]; }
   /// Whether `widget` is one of the fields.
   bool Has(const QWidget* widget) const;
-  /// Gives a field the focus, all of its text selected.
+  /// Gives a field the focus and selects its text.
   void Enter(RangeField field) const;
 
  private:

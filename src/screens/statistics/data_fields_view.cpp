@@ -11,23 +11,20 @@
 namespace kav {
 namespace {
 
-/// All there is to say about a field.
+/// What a field is called and where its widgets are.
 struct FieldRow {
   DataField field;
   std::u16string_view label;
   std::u16string_view name;  ///< for screen readers
-  std::u16string TypedRow::*text;
   LinePlace StatisticsPlaces::*labelPlace;
   LinePlace StatisticsPlaces::*place;
 };
 
 constexpr std::array kFields{
-    FieldRow{DataField::X, kXLabel, kXName, &TypedRow::x, &StatisticsPlaces::xLabel,
-             &StatisticsPlaces::x},
-    FieldRow{DataField::Y, kYLabel, kYName, &TypedRow::y, &StatisticsPlaces::yLabel,
-             &StatisticsPlaces::y},
-    FieldRow{DataField::Count, kCountLabel, kCountName, &TypedRow::count,
-             &StatisticsPlaces::countLabel, &StatisticsPlaces::count},
+    FieldRow{DataField::X, kXLabel, kXName, &StatisticsPlaces::xLabel, &StatisticsPlaces::x},
+    FieldRow{DataField::Y, kYLabel, kYName, &StatisticsPlaces::yLabel, &StatisticsPlaces::y},
+    FieldRow{DataField::Count, kCountLabel, kCountName, &StatisticsPlaces::countLabel,
+             &StatisticsPlaces::count},
 };
 
 const FieldRow& RowOf(DataField field) {
@@ -80,13 +77,13 @@ std::optional<DataField> DataFieldsView::FieldOf(const QObject* widget) const {
 
 TypedRow DataFieldsView::Typed() const {
   TypedRow typed;
-  for (const DataField field : all_) typed.*RowOf(field).text = TextOf(Line(field));
+  for (const DataField field : all_) typed.*TextOf(field) = TextOf(Line(field));
   return typed;
 }
 
 void DataFieldsView::Show(const TypedRow& typed) {
   for (const DataField field : all_) {
-    const std::u16string& text = typed.*RowOf(field).text;
+    const std::u16string& text = typed.*TextOf(field);
     if (text == TextOf(Line(field))) continue;
     Line(field).selectAll();
     Line(field).insert(ToQt(text));
@@ -98,12 +95,12 @@ void DataFieldsView::ShowTotal(const std::optional<std::u16string>& total) {
   if (!total || ToQt(*total) == total_->text()) return;
   total_->setText(ToQt(*total));
   total_->setAccessibleDescription(total_->text());
-  // Before the first layout there is no room to fit it into.
+  // Before the first layout the label has no width to fit the total into.
   if (screen_->isVisible()) FitTotal();
 }
 
 void DataFieldsView::FitTotal() {
-  // The largest totals have room only in smaller letters than their label.
+  // The largest totals fit only in smaller letters than those of their label.
   const int most = totalLabel_->font().pixelSize();
   total_->setFont(ScreenFont(FittingPixels({RoomOf(*total_)}, most, 1)));
 }

@@ -1,4 +1,4 @@
-// The fields that rows are typed into, and the total beside them, as widgets.
+// The widgets of the fields that rows are typed into, and of the total.
 #pragma once
 
 #include <optional>
@@ -14,7 +14,7 @@ class QLabel;
 
 namespace kav {
 
-/// Fields with their labels, and the label and the number of the total: all of them children of the
+/// The fields with their labels, and the total with its label. The widgets are children of the
 /// screen, which must outlive this.
 class DataFieldsView {
  public:
@@ -22,16 +22,16 @@ class DataFieldsView {
 
   /// From the top of the screen.
   const std::vector<DataField>& All() const { return all_; }
-  /// That of a field that the screen has.
+  /// The line of a field that the screen has.
   LineView& Line(DataField field) const;
   /// The field that a widget is; nullopt for any other widget.
   std::optional<DataField> FieldOf(const QObject* widget) const;
 
   TypedRow Typed() const;
-  /// What changes is one step for the undo of a field.
+  /// Undo in a field takes the change back in one step.
   void Show(const TypedRow& typed);
 
-  /// nullopt: there is no room for it.
+  /// Hides the total if it is nullopt.
   void ShowTotal(const std::optional<std::u16string>& total);
 
   void LayOut(const DialogUnits& units, const StatisticsPlaces& places);
@@ -48,7 +48,7 @@ class DataFieldsView {
   QLabel* total_;
 };
 
-/// Of the height of a field: that of its text, and of texts beside it.
+/// The height of the text in a field and beside it, as a part of the field's height.
 inline constexpr double kFieldText = 0.62;
 
 }  // namespace kav

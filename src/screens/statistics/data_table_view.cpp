@@ -18,15 +18,15 @@
 namespace kav {
 namespace {
 
-/// Of the height of a line of text.
+/// The height of a row, in heights of a line of text.
 constexpr double kRowHeight = 1.25;
 
-/// More characters than a column of any screen has room for: to measure a long text takes time.
+/// No column of any screen has room for more characters, and measuring a long text takes time.
 constexpr std::size_t kLongestShown = 400;
 
 }  // namespace
 
-/// The cells as the toolkit asks for them: made when they are to be seen.
+/// Makes the cells when they are to be shown.
 class DataTableView::Cells final : public QAbstractTableModel {
  public:
   Cells(QObject* parent, const DataList& list, std::span<const DataColumn> columns)
@@ -50,7 +50,7 @@ class DataTableView::Cells final : public QAbstractTableModel {
 
   QVariant data(const QModelIndex& index, int role) const override {
     const auto row = static_cast<std::size_t>(index.row());
-    // The list may be ahead of what is shown of it.
+    // The list may have changed since the last Reload.
     if (!index.isValid() || row >= list_.RowCount()) return {};
     if (role == Qt::TextAlignmentRole) return AlignmentOf(index.column());
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return TextOf(row, index.column());
@@ -119,7 +119,8 @@ DataTableView::DataTableView(QWidget* parent, const DataList& list,
 
 void DataTableView::setModel(QAbstractItemModel* model) {
   QTableView::setModel(model);
-  // A heading that shares the selection looks at each selected row whenever it is painted.
+  // A header that shared the selection of the rows would look at all of them whenever it is
+  // painted.
   horizontalHeader()->setSelectionModel(new QItemSelectionModel(model, this));
 }
 
@@ -130,7 +131,7 @@ void DataTableView::Reload() {
   SetRowHeight();
   cells_->Reload();
   updateGeometries();
-  // What is new stands at the top.
+  // New rows are at the top: show them.
   const int rows = model()->rowCount();
   const int added = std::max(rows - before, 0);
   verticalScrollBar()->setValue(added > 0 ? 0 : top);
@@ -187,7 +188,7 @@ void DataTableView::SetTextHeight(int pixels) {
 
 void DataTableView::FitHeadings() {
   QHeaderView& header = *horizontalHeader();
-  // At most: they shrink with the letters.
+  // This is the most that they take: they shrink with the letters.
   const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
   std::vector<SpacedText> headings;
   headings.reserve(columns_.size());
@@ -199,12 +200,12 @@ void DataTableView::FitHeadings() {
 }
 
 void DataTableView::SetRowHeight() {
-  // All rows together are as high as a number of pixels can be.
+  // The height of all rows together has to be an int.
   const auto rows = std::max<std::size_t>(list_.RowCount(), 1);
   const auto most = static_cast<int>(std::numeric_limits<int>::max() / rows);
   const int height = std::min(qRound(fontMetrics().height() * kRowHeight), most);
   if (verticalHeader()->defaultSectionSize() == height) return;
-  // Else each row would be told of.
+  // Otherwise the header would report each row.
   const QSignalBlocker quiet(verticalHeader());
   verticalHeader()->setMinimumSectionSize(1);
   verticalHeader()->setDefaultSectionSize(height);
@@ -258,7 +259,7 @@ bool DataTableView::DoCommand(const QKeyEvent& event) {
 
 void DataTableView::keyPressEvent(QKeyEvent* event) {
   if (DoCommand(*event)) return;
-  // Whoever types does not search the rows for it.
+  // Typing does not search the rows.
   const bool isTyped =
       !event->text().isEmpty() && event->text().front().isPrint() && event->key() != Qt::Key_Space;
   if (isTyped && !event->matches(QKeySequence::SelectAll)) return event->ignore();
@@ -266,7 +267,7 @@ void DataTableView::keyPressEvent(QKeyEvent* event) {
 }
 
 QModelIndex DataTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-  // Rows are whole here: Home and End are those of the list, not of a row.
+  // Home and End go to the ends of the list, not of a row.
   if (action == MoveHome) return model()->index(0, 0);
   if (action == MoveEnd) return model()->index(model()->rowCount() - 1, 0);
   return QTableView::moveCursor(action, modifiers);

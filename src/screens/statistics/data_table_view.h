@@ -1,4 +1,4 @@
-// The rows of a data list as a table.
+// The table that shows the rows of a data list.
 #pragma once
 
 #include <QTableView>
@@ -13,14 +13,12 @@
 
 namespace kav {
 
-/// A column by its heading; the columns of a table share its width out by the proportions of
-/// theirs.
 struct DataColumn {
   std::u16string_view heading;
-  int width;
+  int width;  ///< in any unit: the columns divide the width of the table in these proportions
 };
 
-/// What the table's user asks for; each may be empty.
+/// Called when the user does this to the table; each may be empty.
 struct DataTableHooks {
   std::function<void()> selectionChanged = {};
   std::function<void(std::size_t column)> headingPressed = {};
@@ -30,22 +28,22 @@ struct DataTableHooks {
   std::function<void()> paste = {};
 };
 
-/// Shows `list`, which must outlive it; a column for each variable and one for the count. Rows are
-/// selected as a whole, several of them if so wished. To show a list takes as long whatever its
-/// length, but for a few bytes a row.
+/// Shows `list`, which must outlive it, with a column for each variable and one for the count. One
+/// or several whole rows can be selected. Lists of any length take the same time to show.
 class DataTableView final : public QTableView {
  public:
   DataTableView(QWidget* parent, const DataList& list, std::span<const DataColumn> columns);
 
   void SetHooks(DataTableHooks hooks) { hooks_ = std::move(hooks); }
 
-  /// Shows the list as it is by now: at once after each change of it. Nothing is selected then.
+  /// Shows the list as it is now, with nothing selected. To be called after each change of the
+  /// list.
   void Reload();
-  /// Selects this row alone, or none, and calls no hook.
+  /// Selects only this row, or none. Calls no hook.
   void Select(std::optional<std::size_t> row);
 
   std::optional<std::size_t> FirstSelected() const;
-  /// From the top.
+  /// The indices of the selected rows, in ascending order.
   std::vector<std::size_t> SelectedRows() const;
 
   void SetTextHeight(int pixels);
@@ -62,10 +60,10 @@ class DataTableView final : public QTableView {
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void keyboardSearch(const QString&) override {}
 
-  /// Headings have the size of the rows, or a smaller one where a column is narrow.
+  /// Gives headings the letters of the rows, or smaller ones if a column is too narrow for them.
   void FitHeadings();
   void SetRowHeight();
-  /// `select` selects rows, or one to go on from, which are not to be brought into view.
+  /// Calls `select`, which selects rows, without scrolling to them.
   void WithoutScrolling(const std::function<void()>& select);
   bool DoCommand(const QKeyEvent& event);
 

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "statistics/one_variable_model.h"
 #include "statistics/statistics_texts.h"
 
 namespace kav {
@@ -14,7 +13,8 @@ constexpr std::array kColumns{DataColumn{kXHeading, 117}, DataColumn{kCountHeadi
 
 COneVariableDlg::COneVariableDlg(Frame& frame, std::chrono::milliseconds patience)
     : StatisticsScreen(frame, ScreenMode::OneVariable,
-                       std::make_unique<OneVariableModel>(frame.Store()), kColumns, patience) {}
+                       std::make_unique<StatisticsModel>(DataShape::OneVariable, frame.Store()),
+                       kColumns, patience) {}
 
 std::unique_ptr<QWidget> MakeOneVariableScreen(Frame& frame) {
   return std::make_unique<COneVariableDlg>(frame);

@@ -10,11 +10,11 @@ namespace kav {
 
 class COneVariableDlg final : public StatisticsScreen {
  public:
-  /// A work on the list that takes longer than `patience` shows its progress.
+  /// Work on the list that takes longer than `patience` shows its progress.
   explicit COneVariableDlg(Frame& frame, std::chrono::milliseconds patience = kProgressPatience);
 };
 
-/// The screen as the frame's table of screens has it.
+/// Makes the screen, for the table of screens of the frame.
 std::unique_ptr<QWidget> MakeOneVariableScreen(Frame& frame);
 
 }  // namespace kav

@@ -20,7 +20,8 @@
 namespace kav {
 namespace {
 
-/// Of the letters, so that a few rows are in sight in faces with high lines, too.
+/// The highest line, in heights of its letters. Some faces have higher lines, which would leave
+/// room for too few rows.
 constexpr double kHighestLine = 1.3;
 
 constexpr FileKind kDataFiles{u"TXT(*.txt)", u"txt"};
@@ -33,7 +34,7 @@ bool IsEnter(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-/// Whether a key that the focused widget has no use for is typing.
+/// Whether a key for which the focused widget has no use types something.
 bool IsForField(const QKeyEvent& event) {
   if ((event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
   return !event.text().isEmpty() && !IsEnter(event) && event.key() != Qt::Key_Escape;
@@ -216,7 +217,7 @@ bool StatisticsScreen::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn) {
     editsList_ = !field;
     if (field) model_->SetFocusedField(*field);
-    // Whoever comes by the Tab key writes over what is there.
+    // After the Tab key, typing replaces the text.
     if (field && IsByTab(*static_cast<QFocusEvent*>(event))) fields_.Line(*field).selectAll();
     result_->deselect();
   }
@@ -231,7 +232,7 @@ bool StatisticsScreen::OnFieldKey(const QKeyEvent& event) {
     OnKey(model_->IsEditing() ? StatisticsKey::Ok : StatisticsKey::Add);
     return true;
   }
-  // A field would write the letter of a key that is disabled and so does not answer to Alt.
+  // A disabled key does not take its Alt shortcut, and the field would insert the letter.
   return event.modifiers() == Qt::AltModifier;
 }
 
@@ -251,7 +252,7 @@ bool StatisticsScreen::MoveFocus(int key) {
   const std::vector<DataField>& all = fields_.All();
   const auto field = fields_.FieldOf(focusWidget());
   const auto from = field ? std::find(all.begin(), all.end(), *field) : all.end();
-  // Above the keys stand the fields.
+  // The fields are above the keys.
   if (from == all.end() && key == Qt::Key_Down) return false;
   if (from == all.begin() && key == Qt::Key_Up) return false;
   if (key == Qt::Key_Up) {

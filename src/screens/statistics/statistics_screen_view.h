@@ -1,4 +1,4 @@
-// What the two statistics screens have in common: the picture of a StatisticsModel.
+// What the two statistics screens have in common: the widgets of a StatisticsModel.
 #pragma once
 
 #include <QLineEdit>
@@ -19,13 +19,13 @@
 
 namespace kav {
 
-/// Enter in a field presses "Add", or "Ok" while a row is edited, which Esc gives up. What is typed
-/// goes to the field that had the focus last, unless the focused widget has a use for it. The Edit
-/// menu works on that field, on the list while that has the focus, or on what is selected of the
-/// result.
+/// Enter in a field presses "Add". While a row is edited, Enter presses "Ok" and Esc "Cancel".
+/// Typing goes to the field that had the focus last, unless the focused widget has a use for the
+/// key. The Edit menu works on the selection in the result if there is one, else on the list if it
+/// has the focus, else on that field.
 class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
  public:
-  /// A work on the list that takes longer than `patience` shows its progress.
+  /// Work on the list that takes longer than `patience` shows its progress.
   StatisticsScreen(Frame& frame, ScreenMode mode, std::unique_ptr<StatisticsModel> model,
                    std::span<const DataColumn> columns, std::chrono::milliseconds patience);
 
@@ -77,7 +77,7 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   DataTableView* table_;
   ResultView* result_;
   unsigned shown_;          ///< the revision of the list that the table shows
-  bool editsList_ = false;  ///< the list had the focus later than the fields
+  bool editsList_ = false;  ///< the list had the focus after the fields
 };
 
 }  // namespace kav

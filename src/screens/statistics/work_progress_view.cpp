@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kPercent = 100;
 
-/// Of the width of the screen that it lies over.
+/// The width of the box, as a part of the width of the screen below it.
 constexpr double kBoxWidth = 0.8;
 
 }  // namespace
@@ -34,7 +34,7 @@ class WorkProgressView::Box final : public QDialog {
     setModal(true);
     auto* cancel = new DialogButton(kCancelCaption);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(this, &QDialog::rejected, this, [this] { isGivenUp_ = true; });
+    connect(this, &QDialog::rejected, this, [this] { isCancelled_ = true; });
     bar_->setRange(0, kPercent);
     bar_->setAccessibleName(ToQt(title));
     auto* all = new QVBoxLayout(this);
@@ -48,7 +48,7 @@ class WorkProgressView::Box final : public QDialog {
     move(parent->window()->mapToGlobal(area.center()) - rect().center());
   }
 
-  bool IsGivenUp() const { return isGivenUp_; }
+  bool IsCancelled() const { return isCancelled_; }
 
   void ShowDone(double done) {
     bar_->setValue(static_cast<int>(std::lround(std::clamp(done, 0.0, 1.0) * kPercent)));
@@ -56,7 +56,7 @@ class WorkProgressView::Box final : public QDialog {
 
  private:
   QProgressBar* bar_ = new QProgressBar;
-  bool isGivenUp_ = false;
+  bool isCancelled_ = false;
 };
 
 WorkProgressView::WorkProgressView(QWidget* parent, std::u16string_view title,
@@ -73,11 +73,11 @@ bool WorkProgressView::Update(double done) {
     box_ = std::make_unique<Box>(parent_, title_);
     box_->show();
   }
-  if (box_->IsGivenUp()) return false;
+  if (box_->IsCancelled()) return false;
   box_->ShowDone(done);
-  // The box is modal: what else the user does reaches no other window.
+  // The box is modal, so that events of the user reach no other window.
   QCoreApplication::processEvents();
-  return !box_->IsGivenUp();
+  return !box_->IsCancelled();
 }
 
 }  // namespace kav

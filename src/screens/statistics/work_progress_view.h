@@ -1,4 +1,4 @@
-// How far a long work is, and the user's way out of it.
+// Shows the progress of long work, and lets the user cancel it.
 #pragma once
 
 #include <QElapsedTimer>
@@ -9,12 +9,12 @@
 
 namespace kav {
 
-/// How long a work may take before there is anything to be seen of it.
+/// How long work may take before its progress is shown.
 inline constexpr std::chrono::milliseconds kProgressPatience{300};
 
-/// To be asked now and then by a work that keeps the program from anything else. After `patience`,
-/// a modal box over `parent` shows how far the work is, with a button to give it up; from then on
-/// the program answers to that box, and to nothing else of the user's.
+/// For work that keeps the program busy and calls Update now and then. After `patience`, a modal
+/// box over `parent` shows the progress, with a button to cancel. From then on the user can reach
+/// that box, but nothing else of the program.
 class WorkProgressView {
  public:
   WorkProgressView(QWidget* parent, std::u16string_view title,
@@ -23,7 +23,8 @@ class WorkProgressView {
   WorkProgressView& operator=(const WorkProgressView&) = delete;
   ~WorkProgressView();
 
-  /// `done` is the part of the work that is done, 0 to 1; false once the user gave it up.
+  /// `done` is the part of the work that is done, 0 to 1. Answers false once the user has
+  /// cancelled.
   bool Update(double done);
 
  private:

@@ -1,4 +1,4 @@
-#include "statistics/one_variable_model.h"
+#include "statistics/statistics_model.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 namespace kav {
 namespace {
 
-class OneVariableScreen : public test::StatisticsFixture<OneVariableModel> {
+class OneVariableScreen : public test::StatisticsFixture<StatisticsModel> {
  protected:
   std::u16string Stored() {
     const auto request = model_->Choose(StatisticsKey::MemoryMenu, 1);
@@ -69,7 +69,7 @@ TEST_F(OneVariableScreen, FreshResultLineStaysWhenDisplaySettingsChange) {
 
 TEST_F(OneVariableScreen, ResultsReadTheTextsOfTheCells) {
   ASSERT_FALSE(Load("1.5e+3\t2\r\n2-3\t1\r\n-\t9\r\n"));
-  // "2-3" opens with 2, and "-" is no number.
+  // "2-3" starts with 2, and "-" is no number.
   EXPECT_EQ(Result(u"\u03A3X"), u"3,002");
   EXPECT_EQ(Result(u"\u03A3X^2"), u"4,500,004");
   EXPECT_EQ(model_->TotalText(), u"12");
@@ -131,7 +131,7 @@ TEST_F(OneVariableScreen, ResultThatCannotBeShownCannotBeStored) {
   Result(u"\u03A3X");
   EXPECT_EQ(model_->MenuOf(StatisticsKey::MemoryMenu), (Menu{{2, u"ReCall MemVar"}}));
   EXPECT_EQ(Stored(), u"nothing");
-  // A row that is added is no result.
+  // Adding a row is no result.
   Add(u"2", u"1");
   EXPECT_EQ(model_->MenuOf(StatisticsKey::MemoryMenu), (Menu{{2, u"ReCall MemVar"}}));
   Delete(2);
@@ -176,8 +176,8 @@ TEST_F(OneVariableScreen, EditedRowCanTakeARecalledValue) {
   EXPECT_EQ(Rows(), "2.5 3");
 }
 
-// Whatever the counts: the mean lies between the least and the largest value, and values that are
-// moved by a number move the mean by it and leave the deviations.
+// For all counts: the mean lies between the smallest and the largest value. Adding a number to all
+// values adds it to the mean and leaves the deviations as they are.
 TEST_F(OneVariableScreen, DeviationsDoNotDependOnWhereTheValuesLie) {
   test::Random random(41);
   for (int i = 0; i < test::Tries(500); ++i) {
@@ -199,7 +199,7 @@ TEST_F(OneVariableScreen, DeviationsDoNotDependOnWhereTheValuesLie) {
     Result(u"Arithmetic Mean of X");
     EXPECT_NEAR(ReadLeadingNumber(Narrow(Stored())), mean + 512, 1e-9);
     Result(u"\u03C3(n) of X");
-    if (deviation < 1e-3) continue;  // all values the same: only the rounding is left
+    if (deviation < 1e-3) continue;  // all values are the same: this is a rounding error
     EXPECT_NEAR(ReadLeadingNumber(Narrow(Stored())), deviation, 1e-6 * deviation);
   }
 }

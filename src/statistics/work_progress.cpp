@@ -1,4 +1,4 @@
-#include "statistics/progress_clock.h"
+#include "statistics/work_progress.h"
 
 namespace kav {
 

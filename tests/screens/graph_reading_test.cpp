@@ -1,0 +1,220 @@
+// What the graph on the screen tells of its curves: taps, "Cal" and the trace.
+#include <gtest/gtest.h>
+
+#include "screens/graph_driver.h"
+
+namespace kav::test {
+namespace {
+
+using GraphReadingTest = GraphScreen;
+
+// Taps and "Cal".
+
+TEST_F(GraphReadingTest, ATapShowsThePlaceThatWasTouched) {
+  GraphInput input = LabelledGraphOf({"x", "x^2"});
+  input.range = {0, 229, -10, 10};
+  Open(input, [this] {
+    TapPlot(Area().topLeft());
+    EXPECT_EQ(X().text(), "0");
+    EXPECT_EQ(Lines(), Texts{u"y = 10"});
+    EXPECT_EQ(SelectedLine(), std::nullopt);
+    TapPlot(Area().bottomLeft() + QPoint(100, 0));
+    EXPECT_EQ(X().text(), "100");
+    ASSERT_EQ(Lines().size(), 1U);
+    EXPECT_NEAR(TappedY(), -10 + 20. / Area().height(), 1e-9);
+  });
+}
+
+TEST_F(GraphReadingTest, ATapBesideThePlotShowsNothing) {
+  Open(LabelledGraphOf({"x"}), [this] {
+    for (const QPoint place : {QPoint(0, 50), QPoint(50, 1), QPoint(Plot().width() - 1, 50)}) {
+      TapPlot(place);
+    }
+    EXPECT_EQ(X().text(), "");
+    EXPECT_EQ(Lines(), Texts{});
+  });
+}
+
+TEST_F(GraphReadingTest, NumbersAreShownInTheChosenFormat) {
+  GraphInput input = LabelledGraphOf({"1000*x"});
+  input.format = {DisplayType::FixedPoint, 2};
+  input.range = {0, 229, 0, 1};
+  Open(input, [this] {
+    TapPlot(Area().topLeft() + QPoint(2, 0));
+    EXPECT_EQ(X().text(), "2.00");
+    EXPECT_EQ(Lines(), Texts{u"y = 1.00"});
+    Calculate("2");
+    EXPECT_EQ(Lines(), Texts{u"R:F1(X) = 2000.00"});
+  });
+}
+
+TEST_F(GraphReadingTest, CalShowsTheValueOfEachCurve) {
+  Open(LabelledGraphOf({"2*x", "1/x", "x^2"}), [this] {
+    Calculate("1.5");
+    EXPECT_EQ(X().text(), "1.5");
+    EXPECT_EQ(Lines(), (Texts{u"R:F1(X) = 3", u"G:F2(X) = 0.666666666667", u"B:F3(X) = 2.25"}));
+    EXPECT_EQ(SelectedLine(), 0);
+  });
+}
+
+TEST_F(GraphReadingTest, CalTakesAnEmptyFieldForZeroAndTellsWhereACurveHasNoValue) {
+  Open(LabelledGraphOf({"x+1", "1/x", "log(x)"}), [this] {
+    TapKey(u"Cal");
+    EXPECT_EQ(X().text(), "0");
+    EXPECT_EQ(Lines(),
+              (Texts{u"R:F1(X) = 1", u"G:F2(X) = Out of range", u"B:F3(X) = Out of range"}));
+  });
+}
+
+TEST_F(GraphReadingTest, CalRefusesWhatIsNoNumberAndGoesBackToTheField) {
+  Open(LabelledGraphOf({"x"}), [this] {
+    Calculate("2");
+    for (const char* text : {"abc", "1,5", "inf", "1e999", "--1"}) {
+      SCOPED_TRACE(text);
+      BoxWatch::Instance().Expect(QMessageBox::Ok);
+      Calculate(text);
+      const auto seen = BoxWatch::Instance().TakeSeen();
+      ASSERT_EQ(seen.size(), 1U);
+      EXPECT_EQ(seen.front().icon, QMessageBox::Critical);
+      EXPECT_NE(seen.front().text.find(u"\"X =\" takes a decimal number"), std::u16string::npos);
+      EXPECT_EQ(X().text(), text);
+      EXPECT_EQ(Dlg().focusWidget(), &X());
+      EXPECT_EQ(X().selectedText(), text);
+      EXPECT_EQ(Lines(), Texts{u"R:F1(X) = 2"});
+    }
+  });
+}
+
+TEST_F(GraphReadingTest, EnterInTheFieldCalculates) {
+  Open(LabelledGraphOf({"x^2"}), [this] {
+    X().setFocus();
+    QTest::keyClicks(&X(), "-3");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Lines(), Texts{u"R:F1(X) = 9"});
+    EXPECT_TRUE(Dlg().isVisible());
+  });
+}
+
+TEST_F(GraphReadingTest, TheLineOfTheChosenCurveIsSelected) {
+  Open(LabelledGraphOf({"x", "2*x", "3*x"}), [this] {
+    Selector().setFocus();
+    Key(Qt::Key_Down);
+    EXPECT_EQ(SelectedLine(), std::nullopt);
+    Calculate("1");
+    EXPECT_EQ(SelectedLine(), 1);
+    Selector().setFocus();
+    Key(Qt::Key_Down);
+    EXPECT_EQ(SelectedLine(), 2);
+  });
+}
+
+TEST_F(GraphReadingTest, AnotherCurveLeavesWhatIsBeingTyped) {
+  Open(LabelledGraphOf({"x", "2*x"}), [this] {
+    Calculate("1");
+    X().setText("12");
+    Selector().setFocus();
+    Key(Qt::Key_Down);
+    EXPECT_EQ(X().text(), "12");
+  });
+}
+
+// Trace.
+
+TEST_F(GraphReadingTest, ATapWhileTracingCalculatesAtItsColumn) {
+  GraphInput input = LabelledGraphOf({"x", "2*x"});
+  input.range = {0, 229, -10, 10};
+  Open(input, [this] {
+    TapKey(u"Trace");
+    TapPlot(Area().topLeft() + QPoint(100, 30));
+    EXPECT_EQ(X().text(), "100");
+    EXPECT_EQ(Lines(), (Texts{u"R:F1(X) = 100", u"G:F2(X) = 200"}));
+    EXPECT_EQ(SelectedLine(), 0);
+  });
+}
+
+TEST_F(GraphReadingTest, ADragWhileTracingMovesTheMarkerAndDoesNotZoom) {
+  GraphInput input = LabelledGraphOf({"x"});
+  input.range = {0, 229, 0, 229};
+  Open(input, [this] {
+    TapKey(u"Trace");
+    const QPoint from = Area().topLeft() + QPoint(20, 20);
+    QTest::mousePress(&Plot(), Qt::LeftButton, {}, from);
+    EXPECT_EQ(X().text(), "20");
+    QTest::mouseMove(&Plot(), from + QPoint(60, 50));
+    EXPECT_EQ(X().text(), "80");
+    QTest::mouseMove(&Plot(), {1000, 50});
+    EXPECT_EQ(X().text(), "229");
+    QTest::mouseRelease(&Plot(), Qt::LeftButton, {}, {1000, 50});
+    EXPECT_EQ(Lines(), Texts{u"R:F1(X) = 229"});
+    EXPECT_FALSE(CanUndo());
+  });
+}
+
+TEST_F(GraphReadingTest, TheMarkerIsSeenWhileTracing) {
+  GraphInput input = LabelledGraphOf({"x"});
+  input.range = {0, 229, 0, 229};
+  Open(input, [this] {
+    const QImage plain = Picture();
+    TapKey(u"Trace");
+    EXPECT_EQ(Picture(), plain);
+    const QPoint place = Area().topLeft() + QPoint(100, 5);
+    TapPlot(place);
+    const QImage traced = Picture();
+    EXPECT_NE(traced.pixel(place), plain.pixel(place));
+    EXPECT_NE(traced.pixel(place + QPoint(0, 60)), plain.pixel(place + QPoint(0, 60)));
+    EXPECT_EQ(traced.pixel(place + QPoint(20, 0)), plain.pixel(place + QPoint(20, 0)));
+    TapKey(u"Trace");
+    EXPECT_EQ(Picture(), plain);
+  });
+}
+
+TEST_F(GraphReadingTest, ArrowKeysStepTheMarkerWhileTracing) {
+  GraphInput input = LabelledGraphOf({"x", "2*x"});
+  input.range = {0, 229, -10, 10};
+  Open(input, [this] {
+    TapKey(u"Trace");
+    TapPlot(Area().topLeft() + QPoint(100, 30));
+    Plot().setFocus();
+    Key(Qt::Key_Right);
+    EXPECT_EQ(X().text(), "101");
+    Key(Qt::Key_Left);
+    Key(Qt::Key_Left);
+    EXPECT_EQ(Lines(), (Texts{u"R:F1(X) = 99", u"G:F2(X) = 198"}));
+    Key(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(X().text(), "109");
+    for (int i = 0; i < 20; ++i) Key(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(X().text(), "229");
+    EXPECT_FALSE(CanUndo());
+  });
+}
+
+TEST_F(GraphReadingTest, TheKeyboardAloneBeginsATrace) {
+  GraphInput input = LabelledGraphOf({"x"});
+  input.range = {0, 229, -10, 10};
+  Open(input, [this] {
+    Trace().setFocus();
+    Key(Qt::Key_Space);
+    Plot().setFocus();
+    Key(Qt::Key_Right);
+    EXPECT_EQ(X().text(), "115");
+  });
+}
+
+TEST_F(GraphReadingTest, UpAndDownGoFromCurveToCurveWhileTracing) {
+  Open(LabelledGraphOf({"x", "2*x", "3*x"}), [this] {
+    TapKey(u"Trace");
+    TapPlot(Area().center());
+    Plot().setFocus();
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Selector().currentIndex(), 1);
+    EXPECT_EQ(SelectedLine(), 1);
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Selector().currentIndex(), 2);
+    for (int i = 0; i < 5; ++i) Key(Qt::Key_Up);
+    EXPECT_EQ(SelectedLine(), 0);
+  });
+}
+
+}  // namespace
+}  // namespace kav::test
