@@ -9,6 +9,7 @@
 
 #include "display/number_format.h"
 #include "engine/expression_engine.h"
+#include "engine/fold_case.h"
 #include "support/effort.h"
 #include "support/plain_engine.h"
 #include "support/plain_format.h"

@@ -9,9 +9,9 @@
 #include <utility>
 
 #include "cli/cli_texts.h"
-#include "cli/descriptor.h"
 #include "common/number_text.h"
 #include "display/number_format.h"
+#include "settings/file_descriptor.h"
 
 namespace kav {
 namespace {

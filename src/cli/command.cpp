@@ -3,7 +3,7 @@
 #include <unistd.h>
 
 #include "cli/cli_texts.h"
-#include "cli/descriptor.h"
+#include "settings/file_descriptor.h"
 
 namespace kav {
 

@@ -2,16 +2,13 @@
 
 #include <algorithm>
 
-#include "engine/expression_engine.h"
+#include "common/ascii.h"
+#include "engine/fold_case.h"
 
 namespace kav {
 namespace {
 
 constexpr std::string_view kMacroMark = "M:";
-
-bool IsLetter(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
 
 /// The unfinished name at the end of `before`. The name of a macro begins with its mark and may
 /// hold anything but "(".

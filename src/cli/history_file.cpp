@@ -6,7 +6,6 @@
 
 #include "cli/answer_writer.h"
 #include "cli/cli_texts.h"
-#include "cli/descriptor.h"
 #include "settings/atomic_file.h"
 #include "settings/file_descriptor.h"
 

@@ -1,11 +1,11 @@
 #include "cli/key_sequence.h"
 
 #include <algorithm>
-#include <charconv>
 #include <limits>
 #include <utility>
 
 #include "cli/cli_texts.h"
+#include "common/ascii.h"
 #include "common/number_text.h"
 
 namespace kav {
@@ -18,12 +18,12 @@ bool IsQuoted(std::string_view step) {
 /// Removes a position from the front of `text`; nullopt if there is none. A number beyond all
 /// positions stands for the end of the line.
 std::optional<std::size_t> TakePosition(std::string_view& text) {
-  std::size_t position = 0;
-  const auto read = std::from_chars(text.data(), text.data() + text.size(), position);
-  if (read.ec == std::errc::invalid_argument) return std::nullopt;
-  if (read.ec != std::errc{}) position = std::numeric_limits<std::size_t>::max();
-  text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()));
-  return position;
+  const auto end = std::find_if_not(text.begin(), text.end(), IsDigit<char>);
+  const auto length = static_cast<std::size_t>(end - text.begin());
+  if (length == 0) return std::nullopt;
+  const auto position = ReadInteger<std::size_t>(text.substr(0, length));
+  text.remove_prefix(length);
+  return position.value_or(std::numeric_limits<std::size_t>::max());
 }
 
 /// The selection that "[A:B]" or "[A]" stands for; nullopt if `step` is neither.

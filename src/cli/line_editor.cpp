@@ -8,8 +8,8 @@
 #include <cstdio>
 
 #include "cli/cli_texts.h"
-#include "cli/descriptor.h"
 #include "cli/history_file.h"
+#include "settings/file_descriptor.h"
 
 namespace kav {
 namespace {

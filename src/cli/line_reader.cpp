@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cli/descriptor.h"
+#include "settings/file_descriptor.h"
 
 namespace kav {
 namespace {
@@ -46,10 +47,10 @@ bool LineReader::Fill() {
   if (isAtEnd_) return false;
   MakeRoom();
   if (WouldWait(descriptor_)) beforeWaiting_();
-  const ReadBlock block = ReadSome(descriptor_, &data_[end_], capacity_ - end_);
-  error_ = block.error;
-  end_ += block.size;
-  isAtEnd_ = block.size == 0;
+  const auto block = ReadSome(descriptor_, &data_[end_], capacity_ - end_);
+  error_ = block ? 0 : block.error();
+  isAtEnd_ = !block || *block == 0;
+  if (!isAtEnd_) end_ += *block;
   return !isAtEnd_;
 }
 

@@ -5,6 +5,7 @@
 #include "cli/command_line.h"
 #include "cli/commands.h"
 #include "cli/descriptor.h"
+#include "settings/file_descriptor.h"
 
 int main(int argc, char** argv) {
   kav::ReserveStandardFiles();

@@ -1,10 +1,8 @@
 #include "cli/commands.h"
 
 #include <array>
-#include <charconv>
 #include <optional>
 #include <string>
-#include <system_error>
 
 #include "cli/cli_texts.h"
 #include "cli/evaluation.h"
@@ -23,13 +21,9 @@ constexpr std::string_view kAll = "all";
 
 /// The index (from 0) of the variable whose number (from 1) is `text`; nullopt if there is none.
 std::optional<int> VariableCalled(std::string_view text) {
-  text = TrimBlanks(text);
-  const char* end = text.data() + text.size();
-  int number = 0;
-  const auto read = std::from_chars(text.data(), end, number);
-  const bool isOne =
-      read.ec == std::errc{} && read.ptr == end && number >= 1 && number <= MemoryVariables::kCount;
-  return isOne ? std::optional(number - 1) : std::nullopt;
+  const auto number = ReadInteger<int>(TrimBlanks(text));
+  if (!number || *number < 1 || *number > MemoryVariables::kCount) return std::nullopt;
+  return *number - 1;
 }
 
 Answer AnswerAll(const MemoryVariables& variables) {

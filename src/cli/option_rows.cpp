@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <string>
-#include <system_error>
 
 #include "common/number_text.h"
 #include "display/number_input.h"
@@ -91,17 +89,11 @@ bool TakeDisplay(std::string_view choices, std::string_view given, Options& opti
   return ReadChoice(choices, given, 0, options.display.type);
 }
 
-/// Reads the integer that the whole of `text` is.
-bool ReadInteger(std::string_view text, int& integer) {
-  const char* end = text.data() + text.size();
-  const auto read = std::from_chars(text.data(), end, integer);
-  return read.ec == std::errc{} && read.ptr == end;
-}
-
 bool TakePrecision(std::string_view, std::string_view given, Options& options) {
-  int& precision = options.display.precision;
-  return ReadInteger(given, precision) && precision >= 0 &&
-         precision <= DisplayFormat::kMaxPrecision;
+  const auto precision = ReadInteger<int>(given);
+  if (!precision || *precision < 0 || *precision > DisplayFormat::kMaxPrecision) return false;
+  options.display.precision = *precision;
+  return true;
 }
 
 bool TakeSettings(std::string_view, std::string_view given, Options& options) {
@@ -124,8 +116,12 @@ bool TakeRange(std::string_view values, std::string_view given, Options& options
 
 bool TakeArea(std::string_view values, std::string_view given, Options& options) {
   const auto words = Words(given);
-  return words.size() == Words(values).size() && ReadInteger(words[0], options.area.top) &&
-         ReadInteger(words[1], options.area.bottom);
+  if (words.size() != Words(values).size()) return false;
+  const auto top = ReadInteger<int>(words[0]);
+  const auto bottom = ReadInteger<int>(words[1]);
+  options.area.top = top.value_or(0);
+  options.area.bottom = bottom.value_or(0);
+  return top && bottom;
 }
 
 constexpr std::string_view kVariables = "x|xy|xyz";

@@ -9,6 +9,7 @@
 #include "cli/cli_texts.h"
 #include "cli/items.h"
 #include "cli/stored_settings.h"
+#include "common/ascii.h"
 #include "common/number_text.h"
 #include "engine/formula_checker.h"
 #include "plotter/curve_sampling.h"

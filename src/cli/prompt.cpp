@@ -7,7 +7,7 @@
 #include "cli/history_file.h"
 #include "cli/line_editor.h"
 #include "common/number_text.h"
-#include "engine/tokenizer.h"
+#include "engine/function_names.h"
 #include "store/settings_path.h"
 
 namespace kav {
@@ -20,7 +20,7 @@ std::vector<std::string> KnownNames(BaseMode base, const MacroStore& macros) {
   std::vector<std::string> names;
   if (base == BaseMode::Decimal) {
     names.emplace_back("pi");
-    for (const FunctionName& function : FunctionNames()) {
+    for (const FunctionName& function : kFunctionNames) {
       names.push_back(std::string(function.name) + "(");
     }
   }

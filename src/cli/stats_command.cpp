@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "cli/cli_texts.h"
-#include "cli/descriptor.h"
 #include "cli/items.h"
 #include "common/number_text.h"
 #include "settings/file_descriptor.h"
@@ -145,11 +144,11 @@ Answer AnswerData(int descriptor, std::string_view name, const Options& options)
   Summary summary(options.shape, options.model);
   DataReader reader(options.shape, [&](const DataRow& row) { return summary.Add(row); });
   while (true) {
-    const ReadBlock read = ReadSome(descriptor, block.data(), block.size());
-    if (read.error != 0) return CannotRead(name, read.error);
-    const auto fault = read.size == 0 ? reader.Finish() : reader.Read({block.data(), read.size});
+    const auto read = ReadSome(descriptor, block.data(), block.size());
+    if (!read) return CannotRead(name, read.error());
+    const auto fault = *read == 0 ? reader.Finish() : reader.Read({block.data(), *read});
     if (fault) return CannotLoad(name, ReasonOf(fault->refusal, fault->line));
-    if (read.size == 0) return SummaryRows(summary, options);
+    if (*read == 0) return SummaryRows(summary, options);
   }
 }
 

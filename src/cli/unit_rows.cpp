@@ -1,26 +1,16 @@
 #include "cli/unit_rows.h"
 
 #include <algorithm>
-#include <charconv>
 #include <span>
-#include <system_error>
 #include <utility>
 
+#include "common/ascii.h"
 #include "common/number_text.h"
 #include "converter/conversion.h"
 #include "converter/user_conversions.h"
 
 namespace kav {
 namespace {
-
-char Lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool IsSameInAnyCase(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return Lower(x) == Lower(y); });
-}
 
 /// The caption without the number at its start.
 std::string_view WithoutNumber(std::string_view caption) {
@@ -74,13 +64,10 @@ std::vector<UnitRow> RowsOfUser(const SettingsStore& settings) {
 }  // namespace
 
 const UnitCategory* FindCategory(std::string_view name) {
-  std::size_t number = 0;
-  const char* end = name.data() + name.size();
-  const auto read = std::from_chars(name.data(), end, number);
-  if (read.ec == std::errc{} && read.ptr == end) return CategoryNumbered(number);
+  if (const auto number = ReadInteger<std::size_t>(name)) return CategoryNumbered(*number);
   for (const UnitCategory& category : UnitCategories()) {
     const std::string caption = Narrow(category.caption);
-    if (IsSameInAnyCase(name, caption) || IsSameInAnyCase(name, WithoutNumber(caption))) {
+    if (EqualsIgnoringCase(name, caption) || EqualsIgnoringCase(name, WithoutNumber(caption))) {
       return &category;
     }
   }
@@ -109,7 +96,7 @@ Expected<std::size_t, NameFailure> FindRow(const std::vector<UnitRow>& rows,
   const auto exact =
       std::find_if(rows.begin(), rows.end(), [&](const UnitRow& row) { return row.name == name; });
   if (exact != rows.end()) return place(exact);
-  const auto isSame = [&](const UnitRow& row) { return IsSameInAnyCase(row.name, name); };
+  const auto isSame = [&](const UnitRow& row) { return EqualsIgnoringCase(row.name, name); };
   const auto first = std::find_if(rows.begin(), rows.end(), isSame);
   if (first == rows.end()) return NameFailure::Unknown;
   if (std::find_if(first + 1, rows.end(), isSame) != rows.end()) return NameFailure::Ambiguous;

@@ -4,6 +4,8 @@
 #include <bit>
 #include <cstring>
 
+#include "common/powers_of_ten.h"
+
 namespace kav {
 namespace {
 
@@ -13,12 +15,10 @@ constexpr int kMantissaBits = 52;
 constexpr int kExponentBias = 1023;
 constexpr int kMostPower = 22;  // 10^22 has 74 bits: with the 53 of a mantissa they fit in a Wide.
 
-constexpr std::array<Wide, kMostPower + 1> MakePowersOfTen() {
-  std::array<Wide, kMostPower + 1> powers{1};
-  for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
-  return powers;
+/// 10^`power`, 0 to kMostPower.
+Wide PowerOfTen(int power) {
+  return kPowersOfTen<Wide, kMostPower>[static_cast<std::size_t>(power)];
 }
-constexpr auto kPowersOfTen = MakePowersOfTen();
 
 /// A positive double as `mantissa` / 2^`shift`.
 struct BinaryFraction {
@@ -29,7 +29,8 @@ struct BinaryFraction {
 std::optional<BinaryFraction> Decompose(double magnitude) {
   const auto bits = std::bit_cast<std::uint64_t>(magnitude);
   const int shift = kExponentBias + kMantissaBits - static_cast<int>(bits >> kMantissaBits);
-  // A sign bit, infinities and not-a-number have larger exponents, subnormal numbers a smaller one.
+  // A sign bit, infinities and not-a-number make the shift negative; a subnormal number makes it
+  // too large.
   if (shift < 0 || shift > 127) return std::nullopt;
   constexpr std::uint64_t kHidden = std::uint64_t{1} << kMantissaBits;
   return BinaryFraction{(bits & (kHidden - 1)) | kHidden, shift};
@@ -60,22 +61,21 @@ constexpr auto kPairs = MakePairs();
 std::optional<std::uint64_t> ScaledToInteger(double magnitude, int power) {
   const auto fraction = Decompose(magnitude);
   if (!fraction || power < 0 || power > kMostPower) return std::nullopt;
-  return Rounded(fraction->mantissa * kPowersOfTen[static_cast<std::size_t>(power)],
-                 fraction->shift);
+  return Rounded(fraction->mantissa * PowerOfTen(power), fraction->shift);
 }
 
 std::optional<SignificantDigits> RoundToDigits(double magnitude, int count) {
   constexpr int kMostDigits = 17;
   const auto fraction = Decompose(magnitude);
   if (!fraction || count > kMostDigits) return std::nullopt;
-  // The decimal exponent of the power of two below the number: right, or one too small.
+  // The decimal exponent of the power of two below the number, by log10(2) as 1233 / 4096: right,
+  // or one too small.
   int exponent = ((kMantissaBits - fraction->shift) * 1233) >> 12;
-  const auto beyond = static_cast<std::uint64_t>(kPowersOfTen[static_cast<std::size_t>(count)]);
+  const auto beyond = static_cast<std::uint64_t>(PowerOfTen(count));
   for (;; ++exponent) {
     const int power = count - 1 - exponent;
     if (power < 0 || power > kMostPower) return std::nullopt;
-    const auto digits = Rounded(fraction->mantissa * kPowersOfTen[static_cast<std::size_t>(power)],
-                                fraction->shift);
+    const auto digits = Rounded(fraction->mantissa * PowerOfTen(power), fraction->shift);
     if (!digits) return std::nullopt;
     if (*digits < beyond) return SignificantDigits{*digits, exponent};
   }

@@ -7,8 +7,8 @@
 namespace kav {
 
 /// Holds a T (success) or an E (failure); T and E must differ. Ask with `if (answer)`, then read
-/// `*answer` or `answer.error()`; reading the side that is not there is undefined, as with a
-/// pointer.
+/// `*answer` or `answer.error()`. To read the one that is not there is undefined behaviour, as with
+/// a null pointer.
 template <class T, class E>
 class [[nodiscard]] Expected {
  public:

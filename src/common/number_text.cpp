@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -11,31 +10,13 @@
 namespace kav {
 namespace {
 
+using namespace std::string_view_literals;
+
 // The largest double has 309 digits before the point; 99 decimals, a sign and the point follow.
 constexpr std::size_t kLongestNumber = 512;
 constexpr char16_t kReplacement = 0xFFFD;
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
-/// What the characters of a number at the start of a text (no sign) say. The mantissa holds the
-/// digits as one integer, for as long as they fit.
-struct NumberScan {
-  std::size_t length = 0;  ///< 0: there is no number
-  std::uint64_t mantissa = 0;
-  std::size_t digits = 0;
-  std::size_t decimals = 0;
-  bool hasExponent = false;
-};
-
-void ScanDigits(std::string_view text, NumberScan& scan) {
-  for (; scan.length < text.size() && IsDigit(text[scan.length]); ++scan.length, ++scan.digits) {
-    scan.mantissa = scan.mantissa * 10 + static_cast<std::uint64_t>(text[scan.length] - '0');
-  }
-}
-
-/// Where the exponent at `start` ends; `start` itself where there is none.
+/// Where the exponent at `start` ends; `start` itself if there is none.
 std::size_t ExponentEnd(std::string_view text, std::size_t start) {
   std::size_t end = start;
   if (end == text.size() || (text[end] != 'e' && text[end] != 'E')) return start;
@@ -46,23 +27,7 @@ std::size_t ExponentEnd(std::string_view text, std::size_t start) {
   return end;
 }
 
-NumberScan ScanNumber(std::string_view text) {
-  NumberScan scan;
-  ScanDigits(text, scan);
-  if (scan.length < text.size() && text[scan.length] == '.') {
-    const std::size_t wholeDigits = scan.digits;
-    ++scan.length;
-    ScanDigits(text, scan);
-    scan.decimals = scan.digits - wholeDigits;
-  }
-  if (scan.digits == 0) return {};
-  const std::size_t end = ExponentEnd(text, scan.length);
-  scan.hasExponent = end != scan.length;
-  scan.length = end;
-  return scan;
-}
-
-/// Whether a number that does not fit a double is too large rather than too small: the decimal
+/// Whether a number beyond the range of double is too large rather than too small: the decimal
 /// place of its first significant digit tells.
 bool IsTooLarge(std::string_view number) {
   const std::size_t mantissaEnd = std::min(number.find_first_of("eE"), number.size());
@@ -74,26 +39,34 @@ bool IsTooLarge(std::string_view number) {
     std::string_view digits = number.substr(mantissaEnd + 1);
     const bool negative = digits.front() == '-';
     if (digits.front() == '+') digits.remove_prefix(1);
-    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
-    if (read.ec == std::errc::result_out_of_range) return !negative;
+    const auto read = ReadInteger<long long>(digits);
+    if (!read) return !negative;  // It has more digits than an integer can hold.
+    exponent = *read;
   }
   const auto place = static_cast<long long>(point) - static_cast<long long>(first);
   return exponent > -place;  // The sum could overflow.
 }
 
-double ReadUnsigned(std::string_view number) {
+double ConvertUnsigned(std::string_view number) {
   double value = 0;
   const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
   if (read.ec == std::errc{}) return value;
   return IsTooLarge(number) ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
-/// The value of what `scan` found at the start of `text`.
-double ValueOf(const NumberScan& scan, std::string_view text) {
-  if (scan.digits <= kExactDigits && !scan.hasExponent) {
-    return DecimalValue(scan.mantissa, scan.decimals);
-  }
-  return ReadUnsigned(text.substr(0, scan.length));
+struct UnsignedNumber {
+  double value;
+  std::size_t length;
+};
+
+/// The number without a sign that opens `text`.
+std::optional<UnsignedNumber> ReadUnsigned(std::string_view text) {
+  const PlainNumber plain = ReadPlainNumber(text.data(), text.data() + text.size());
+  if (plain.count == 0) return std::nullopt;
+  const auto length = static_cast<std::size_t>(plain.end - text.data());
+  const std::size_t end = ExponentEnd(text, length);
+  const bool isExact = plain.IsExact() && end == length;
+  return UnsignedNumber{isExact ? plain.Value() : ConvertUnsigned(text.substr(0, end)), end};
 }
 
 template <class... Format>
@@ -111,7 +84,7 @@ class BackwardText {
   void PutDigits(std::uint64_t value, int leastDigits) {
     begin_ = WriteDecimal(value, leastDigits, begin_);
   }
-  /// Puts a point so that `behind` characters stand behind it; none where that is 0.
+  /// Puts a point before the last `behind` characters; none if that is 0.
   void PutPoint(std::ptrdiff_t behind) {
     if (behind == 0) return;
     std::copy(begin_, End() - behind, begin_ - 1);
@@ -138,21 +111,17 @@ class BackwardText {
   bool isNegative_;
 };
 
-char AsciiLower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool EqualsIgnoringCase(std::string_view text, std::string_view lower) {
-  return std::equal(text.begin(), text.end(), lower.begin(), lower.end(),
-                    [](char a, char b) { return AsciiLower(a) == b; });
-}
-
 template <class View>
 View Trim(View text) {
   const auto isBlank = [](auto c) { return c == ' '; };
   while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
   return text;
+}
+
+std::string_view WithoutSign(std::string_view number) {
+  if (number.starts_with('-') || number.starts_with('+')) number.remove_prefix(1);
+  return number;
 }
 
 bool IsContinuation(char c) {
@@ -164,7 +133,7 @@ struct DecodedCharacter {
   std::size_t length;
 };
 
-/// The character that opens `text`; U+FFFD of length 1 where the bytes are not well formed.
+/// The character that opens `text`; U+FFFD of length 1 if the bytes are not well formed.
 DecodedCharacter Decode(std::string_view text) {
   constexpr DecodedCharacter kMalformed{kReplacement, 1};
   const auto lead = static_cast<unsigned char>(text.front());
@@ -208,34 +177,23 @@ void AppendUtf8(std::string& out, char32_t c) {
 
 }  // namespace
 
-double DecimalValue(std::uint64_t digits, std::size_t decimals) {
-  static constexpr std::array<double, kExactDigits + 1> kPowersOfTen{
-      1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-  const auto whole = static_cast<double>(digits);
-  // Of two exact doubles, so that the one rounding is the right one.
-  return decimals == 0 ? whole : whole / kPowersOfTen[decimals];
-}
-
-double ReadLeadingNumber(std::string_view text) {
+double ReadLeadingNumberSlowly(std::string_view text) {
   text = Trim(text);
-  const bool negative = !text.empty() && text.front() == '-';
-  if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
-  const NumberScan scan = ScanNumber(text);
-  if (scan.length == 0) return 0.0;
-  const double value = ValueOf(scan, text);
-  return negative ? -value : value;
+  const bool isNegative = text.starts_with('-');
+  const auto number = ReadUnsigned(WithoutSign(text));
+  if (!number) return 0.0;
+  return isNegative ? -number->value : number->value;
 }
 
 std::optional<double> ReadWholeNumber(std::string_view text) {
   text = Trim(text);
-  std::string_view number = text;
-  if (!number.empty() && (number.front() == '-' || number.front() == '+')) number.remove_prefix(1);
-  const double sign = !text.empty() && text.front() == '-' ? -1.0 : 1.0;
-  if (EqualsIgnoringCase(number, "inf")) return sign * std::numeric_limits<double>::infinity();
-  if (EqualsIgnoringCase(number, "nan")) return std::numeric_limits<double>::quiet_NaN();
-  const NumberScan scan = ScanNumber(number);
-  if (scan.length == 0 || scan.length != number.size()) return std::nullopt;
-  return sign * ValueOf(scan, number);
+  const std::string_view magnitude = WithoutSign(text);
+  const double sign = text.starts_with('-') ? -1.0 : 1.0;
+  const auto number = ReadUnsigned(magnitude);
+  if (number && number->length == magnitude.size()) return sign * number->value;
+  if (EqualsIgnoringCase(magnitude, "inf"sv)) return sign * std::numeric_limits<double>::infinity();
+  if (EqualsIgnoringCase(magnitude, "nan"sv)) return std::numeric_limits<double>::quiet_NaN();
+  return std::nullopt;
 }
 
 void AppendFixed(std::string& out, double value, int decimals) {

@@ -161,8 +161,7 @@ std::optional<double> ConverterModel::Convert(double value) const {
 std::u16string ConverterModel::ShownResult() const {
   const auto converted = Converted();
   if (!converted) return {};
-  const auto shown = FormatNumber(*converted, format_);
-  return Widen(shown ? *shown : shown.error().message);
+  return Widen(TextOrMessage(FormatNumber(*converted, format_)));
 }
 
 std::optional<std::u16string> ConverterModel::Result() const {

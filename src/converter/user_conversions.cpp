@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "converter/converter_texts.h"
-#include "engine/expression_engine.h"
+#include "engine/fold_case.h"
 #include "engine/tokenizer.h"
 #include "settings/stored_list_texts.h"
 
@@ -104,8 +104,7 @@ std::optional<double> ReadRate(std::u16string_view text) {
   const auto value = ReadWholeNumber(typed);
   if (!value || !std::isfinite(*value)) return std::nullopt;
   // What is a number may still be too long for the engine.
-  TokenArray tokens;
-  if (Tokenize(FoldCase(number, BaseMode::Decimal), tokens)) return std::nullopt;
+  if (!Tokenize(FoldCase(number, BaseMode::Decimal))) return std::nullopt;
   return value;
 }
 

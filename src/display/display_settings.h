@@ -16,8 +16,8 @@ struct IntegerRange {
   constexpr bool Contains(int value) const { return value >= least && value <= most; }
 };
 
-// What the user may choose. Beyond 15 decimals a number shows nothing but noise; a column narrower
-// than 10 pixels shows no digit, and one wider than 400 no neighbour.
+// What the user may choose. More than 15 decimals show nothing but noise. A column narrower than 10
+// pixels shows no digit, and one wider than 400 leaves no room for others.
 inline constexpr IntegerRange kPrecisionRange{0, 15};
 inline constexpr IntegerRange kColumnWidthRange{10, 400};
 inline constexpr IntegerRange kMatrixSizeRange{1, 10};
@@ -35,8 +35,8 @@ struct DisplaySettings {
   int columnWidth = 0;
 };
 
-/// The stored settings; an integer out of range is the nearest one in range, an unknown display
-/// type the default one.
+/// The stored settings. An integer out of range becomes the nearest one in range, an unknown
+/// display type the default one.
 DisplaySettings LoadDisplaySettings(const SettingsStore& store);
 
 /// Stores all of `settings` in one step.

@@ -1,9 +1,7 @@
 #include "display/display_settings_model.h"
 
 #include <array>
-#include <charconv>
 #include <cstdint>
-#include <system_error>
 
 #include "common/number_text.h"
 #include "display/display_settings_texts.h"
@@ -13,7 +11,7 @@ namespace {
 
 using DisplayRefusal = Refusal<DisplayField>;
 
-// Large enough to be grouped and small enough to need zeros; neither of a few decimals only.
+// One large enough to be grouped, one small enough to need zeros; both with many decimals.
 constexpr std::array kSamples{1234567.891, 0.000123456789};
 
 std::u16string PrintBox(int value) {
@@ -21,12 +19,8 @@ std::u16string PrintBox(int value) {
 }
 
 std::optional<int> ReadBox(std::u16string_view box, const IntegerRange& range) {
-  const std::string digits = Narrow(TrimBlanks(box));
-  const char* end = digits.data() + digits.size();
-  std::uint16_t value = 0;  // read without a sign
-  const auto read = std::from_chars(digits.data(), end, value);
-  const bool isNumber = read.ec == std::errc{} && read.ptr == end;
-  return isNumber && range.Contains(value) ? std::optional<int>(value) : std::nullopt;
+  const auto value = ReadInteger<std::uint16_t>(Narrow(TrimBlanks(box)));
+  return value && range.Contains(*value) ? value : std::nullopt;
 }
 
 std::u16string MustBe(std::u16string_view entry, const IntegerRange& range) {
@@ -79,13 +73,13 @@ DisplayFormat DisplaySettings::*DisplaySettingsModel::PageFormat() const {
 std::optional<DisplayFormat> DisplaySettingsModel::TypedFormat() const {
   const auto precision = ReadBox(precision_, kPrecisionRange);
   if (precision) return DisplayFormat{type_, *precision};
-  // What the samples look like doesn't depend on a precision that is not asked for.
+  // The samples do not depend on a precision that the type does not use.
   if (!TakesPrecision()) return DisplayFormat{type_, KeptFormat().precision};
   return std::nullopt;
 }
 
 std::optional<DisplayRefusal> DisplaySettingsModel::TakeOver() {
-  // A disabled precision box is checked as well: what it shows would be stored.
+  // A disabled precision box is checked as well, since what it shows would be stored.
   const auto precision = ReadBox(precision_, kPrecisionRange);
   const auto columnWidth = ReadBox(columnWidth_, kColumnWidthRange);
   std::optional<DisplayRefusal> refusal;

@@ -18,8 +18,8 @@ enum class DisplayPage { Normal, Matrix };
 /// Where the focus goes after a refusal.
 enum class DisplayField { Precision, ColumnWidth };
 
-/// What the boxes hold that both pages share, and what each page keeps while the other is shown.
-/// Nothing is stored before Accept.
+/// What the shared boxes hold, and what each page keeps while the other one is shown. Nothing is
+/// stored before Accept.
 class DisplaySettingsModel {
  public:
   DisplaySettingsModel(const SettingsStore& store, DisplayPage first);
@@ -48,11 +48,11 @@ class DisplaySettingsModel {
   void ChooseAlignment(CellAlignment alignment) { kept_.alignment = alignment; }
 
   /// A large and a small number, a line each, as the type and the precision in the boxes show them;
-  /// where the precision is none, what it may be.
+  /// if the precision box holds none, what it may hold.
   std::u16string Example() const;
 
-  // Both take the boxes over first. Where an entry is refused nothing else happens, but that the
-  // boxes of numbers show the last good ones again.
+  // Both take the boxes over first. If an entry is refused, the number boxes show the last accepted
+  // numbers again and nothing else happens.
   /// Shows `page`.
   std::optional<Refusal<DisplayField>> TurnTo(DisplayPage page);
   /// Stores all settings.

@@ -31,7 +31,7 @@ inline constexpr std::u16string_view kSizeSign = u"X";
 inline constexpr std::u16string_view kAlignmentCaption = u"Text Align :";
 inline constexpr std::array<std::u16string_view, 2> kAlignments{u"Left", u"Right"};
 
-// What a screen reader calls what has no caption of its own.
+// What a screen reader calls the boxes that have no caption of their own.
 inline constexpr std::u16string_view kDefaultRowsName = u"Default Matrix Rows";
 inline constexpr std::u16string_view kDefaultColumnsName = u"Default Matrix Columns";
 

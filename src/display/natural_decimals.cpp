@@ -8,6 +8,7 @@
 
 #include "common/exact_decimal.h"
 #include "common/number_text.h"
+#include "common/powers_of_ten.h"
 
 namespace kav {
 namespace {
@@ -18,14 +19,8 @@ constexpr int kReliableDigits = 15;
 constexpr int kFewDecimals = 11;
 constexpr int kScannedDecimals = 13;
 
-constexpr auto kPowersOfTen = [] {
-  std::array<std::uint64_t, kReliableDigits + 1> powers{1};
-  for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
-  return powers;
-}();
-
 std::uint64_t PowerOfTen(int exponent) {
-  return kPowersOfTen[static_cast<std::size_t>(exponent)];
+  return kPowersOfTen<std::uint64_t, kReliableDigits>[static_cast<std::size_t>(exponent)];
 }
 
 /// An integer divided by 10^`decimals`.
@@ -35,16 +30,17 @@ struct ScaledNumber {
 };
 
 ScaledNumber RoundToDecimals(double magnitude, int decimals) {
-  // There is an integer for every magnitude that needs one: 1000 has 16 digits in thirteen
-  // decimals.
+  // Every magnitude that gets here has such an integer: 1000 in thirteen decimals has 16 digits.
   return {ScaledToInteger(magnitude, decimals).value_or(0), decimals};
 }
 
-/// The reliable digits of `magnitude`, where they have few decimals; these digits need no search.
+/// The reliable digits of `magnitude`, if they have few decimals: then there is no noise to look
+/// for.
 std::optional<ScaledNumber> FindFewDecimals(double magnitude) {
   const auto reliable = RoundToDigits(magnitude, kReliableDigits);
-  // Where this is not known `magnitude` is 0 or less than 2^-26: its first eleven decimals have
-  // four digits at most, with no gap or nines to be taken for noise, and the search finds the same.
+  // If these are not known, `magnitude` is 0 or less than 2^-26: its first eleven decimals have at
+  // most four significant digits, no gap or nines can pass for noise, and the search finds the
+  // same.
   if (!reliable) return std::nullopt;
   const int decimals = kReliableDigits - 1 - reliable->exponent;
   if (decimals <= kFewDecimals) return ScaledNumber{reliable->digits, decimals};
@@ -55,8 +51,8 @@ std::optional<ScaledNumber> FindFewDecimals(double magnitude) {
   return ScaledNumber{reliable->digits / surplus, kFewDecimals};
 }
 
-/// The places behind the point that have certain digits: bit 0 stands for the first decimal. Those
-/// that are not 0 are the lower half, the nines the upper one.
+/// The decimal places of certain digits; bit 0 stands for the first decimal. The lower half of the
+/// bits tells the digits that are not 0, the upper half the nines.
 class DecimalPlaces {
  public:
   constexpr unsigned NonZeros() const { return bits_ & 0xFFFFU; }
@@ -110,8 +106,8 @@ struct Run {
   int length;
 };
 
-/// The nines behind the last other digit, zeros and the last decimal of all not counted as one; the
-/// last of them where zeros part them.
+/// The last run of nines after the last other digit. Neither a zero nor the last decimal of all
+/// counts as another digit, but a zero ends a run.
 Run LastNines(DecimalPlaces places) {
   constexpr unsigned kLastDecimal = 1U << (kScannedDecimals - 1);
   const unsigned others = places.NonZeros() & ~places.Nines() & ~kLastDecimal;
@@ -124,12 +120,12 @@ Run LastNines(DecimalPlaces places) {
 /// `scanned` with a decimal less: what `magnitude` itself rounds to.
 ScaledNumber DropLastDecimal(std::uint64_t scanned, double magnitude) {
   constexpr int kRest = kScannedDecimals - 1;
-  // Having been rounded once, a last digit of 5 does not tell on which side of the half it was.
+  // A last digit of 5 was rounded once: it does not tell on which side of the half the number was.
   if (scanned % 10 == 5) return RoundToDecimals(magnitude, kRest);
   return {(scanned + 5) / 10, kRest};
 }
 
-/// Where the nines begin that stand for a carry; nothing where none do.
+/// The place of the first of the nines that stand for a carry; nullopt if there are none.
 std::optional<int> FindCarry(DecimalPlaces places, int previous) {
   const unsigned pairs = places.Nines() & places.Nines() >> 1U;
   if ((pairs & pairs >> 2U) == 0) return std::nullopt;  // Mostly: nowhere are there four.
@@ -144,7 +140,7 @@ std::optional<int> FindCarry(DecimalPlaces places, int previous) {
 
 /// `magnitude`, which has the scanned decimals `scanned`, without the noise in these.
 ScaledNumber RemoveNoise(double magnitude, std::uint64_t scanned) {
-  constexpr int kGap = 3;  // A digit farther than this behind the others is noise.
+  constexpr int kGap = 3;  // A digit that follows the others at a greater distance is noise.
   const DecimalPlaces places = FindPlaces(scanned);
   const int last = LastPlace(places.NonZeros());
   const int previous = last == kNoPlace ? last : LastPlace(places.NonZeros() & ~(1U << last));
@@ -156,14 +152,14 @@ ScaledNumber RemoveNoise(double magnitude, std::uint64_t scanned) {
   return isFull ? DropLastDecimal(scanned, magnitude) : ScaledNumber{scanned, kScannedDecimals};
 }
 
-/// Whether the scanned decimals tell that the reliable digits have more than few. Below 1000 these
-/// have at least twelve, so that few of them are within half a unit of the twelfth of `magnitude`.
+/// True only if the reliable digits have more than few decimals. Below 1000 they have at least
+/// twelve, so if few decimals are enough, the scanned ones end within half a unit of the twelfth.
 bool HasSurelyMany(std::uint64_t scanned) {
   const std::uint64_t tail = scanned % 100;
   return tail > 5 && tail < 95;
 }
 
-/// `magnitude` in its natural decimals, possibly with zeros behind them.
+/// `magnitude` in its natural decimals, perhaps with zeros at the end.
 ScaledNumber FindNatural(double magnitude) {
   const std::uint64_t scanned =
       magnitude < 1000 ? RoundToDecimals(magnitude, kScannedDecimals).digits : 0;
@@ -173,11 +169,11 @@ ScaledNumber FindNatural(double magnitude) {
   return RemoveNoise(magnitude, scanned);
 }
 
-/// `scaled` as a double, for the magnitude that it was made from.
+/// `scaled`, which was made from `magnitude`, as a double.
 double ValueOf(ScaledNumber scaled, double magnitude) {
   constexpr std::uint64_t kMostExact = std::uint64_t{1} << 53U;
-  // Steps of the last decimal are finer there than those of doubles: it was rounded by less than
-  // half the way to the next one.
+  // A step of the last decimal is smaller there than the distance of neighbouring doubles, so
+  // rounding moved the number by less than half of that distance.
   if (scaled.digits > kMostExact) return magnitude;
   return DecimalValue(scaled.digits, static_cast<std::size_t>(scaled.decimals));
 }

@@ -1,4 +1,4 @@
-// How many decimals a number is worth: all that were meant, and none that binary arithmetic left.
+// How many decimals a number is shown with: all that were meant, none that binary arithmetic added.
 #pragma once
 
 namespace kav {
@@ -7,7 +7,7 @@ namespace kav {
 /// a magnitude from 1e-12 to 1e12, or 0.
 int NaturalDecimals(double value);
 
-/// The number that `value`, as above, reads back as when it is printed with its natural decimals.
+/// The number that the text of `value` (in range as above) with its natural decimals reads back as.
 double RoundToNaturalDecimals(double value);
 
 }  // namespace kav

@@ -1,10 +1,11 @@
 #include "display/number_format.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
+#include "common/ascii.h"
 #include "common/number_text.h"
+#include "common/powers_of_ten.h"
 #include "settings/keys.h"
 
 namespace kav {
@@ -17,15 +18,15 @@ constexpr int kEngineeringDecimals = 15;
 
 bool NeedsExponent(double value) {
   const double magnitude = std::fabs(value);
-  // Well inside the limits there is no need to ask for the logarithm.
+  // Well inside the limits the logarithm is not needed.
   if ((magnitude > 1e-11 && magnitude < 1e11) || magnitude == 0) return false;
   const double places = std::log10(magnitude);
   return magnitude >= 1 ? places > kMostPlaces : places < -kMostPlaces;
 }
 
-/// The exponent of ten that engineering notation starts from. From 1 on it is taken from the
-/// logarithm, below 1 from the text of 15 decimals; just under a power of ten the two disagree, and
-/// the mantissa then shows it.
+/// The exponent of ten that engineering notation starts from: for magnitudes from 1 on that of the
+/// logarithm, below 1 that of the text of 15 decimals. Just under a power of ten the logarithm
+/// disagrees with the text that the mantissa is taken from, and the result shows it.
 int EngineeringExponent(double value, std::string_view exponentText) {
   const double magnitude = std::fabs(value);
   return static_cast<int>(magnitude >= 1 ? std::log10(magnitude) : ReadLeadingNumber(exponentText));
@@ -33,14 +34,13 @@ int EngineeringExponent(double value, std::string_view exponentText) {
 
 std::string PrintEngineering(double value, int precision) {
   if (value == 0) return PrintScientific(0, precision);
-  constexpr std::array kPowersOfTen{1.0, 10.0, 100.0};
   const std::string text = PrintScientific(value, kEngineeringDecimals);
   const auto mark = text.find('e');
   const int exponent = EngineeringExponent(value, std::string_view(text).substr(mark + 1));
   const int remainder = exponent % 3;
   const int shift = remainder < 0 ? remainder + 3 : remainder;
   const double mantissa = ReadLeadingNumber(std::string_view(text).substr(0, mark)) *
-                          kPowersOfTen[static_cast<std::size_t>(shift)];
+                          kPowersOfTen<double, kExactDigits>[static_cast<std::size_t>(shift)];
   const std::string digits = PrintInteger(std::abs(exponent - shift));
   return PrintFixed(mantissa, precision) + (exponent < shift ? "E-" : "E+") +
          std::string(3 - std::min<std::size_t>(digits.size(), 3), '0') + digits;
@@ -66,7 +66,7 @@ std::string PrintDecimal(double value, DisplayFormat format) {
 std::string PrintInBase(double value, BaseMode base) {
   const int radix = base == BaseMode::Hexadecimal ? 16 : base == BaseMode::Binary ? 2 : 8;
   std::string digits = PrintInRadix(static_cast<std::uint32_t>(ToInt32(value)), radix);
-  for (char& c : digits) c = c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c;
+  for (char& c : digits) c = UpperCase(c);
   return digits;
 }
 

@@ -26,14 +26,14 @@ constexpr bool IsDisplayType(std::int32_t stored) {
   return stored >= 0 && stored <= static_cast<std::int32_t>(DisplayType::EngineeringNotation);
 }
 
-/// Whether the type prints the number of decimals that the user chose, and not as many as the value
+/// Whether the type prints as many decimals as the user chose, rather than as many as the value
 /// has.
 constexpr bool UsesPrecision(DisplayType type) {
   return type != DisplayType::FloatingPoint && type != DisplayType::Thousands;
 }
 
-/// How numbers are shown. `precision` counts digits after the point where the type prints a fixed
-/// number of them: 0 to kMaxPrecision.
+/// How numbers are shown. `precision`, 0 to kMaxPrecision, is the number of digits after the point
+/// if the type prints a fixed number of them.
 struct DisplayFormat {
   static constexpr int kMaxPrecision = 99;
 
@@ -41,8 +41,8 @@ struct DisplayFormat {
   int precision = 7;
 };
 
-/// The format that stored integers stand for; an unknown type is the default one, a precision out
-/// of range the nearest one in range.
+/// The format that stored integers stand for. An unknown type becomes the default one, a precision
+/// out of range the nearest one in range.
 DisplayFormat DisplayFormatFromSettings(std::int32_t type, std::int32_t precision);
 
 /// The format of the scientific screen's results as the user has set it.
@@ -54,9 +54,9 @@ DisplayFormat LoadDisplayFormat(const SettingsStore& store);
 CalcResult<std::string> FormatNumber(double value, DisplayFormat format,
                                      BaseMode base = BaseMode::Decimal);
 
-/// `value` as every number that is handed to another dialog or inserted into a line: in display
-/// type "Floating Point" whatever the type of `format`, whose separators would not read back; with
-/// the precision of `format` where it takes the exponent form.
+/// `value` as it is handed to another dialog or inserted into a line: always in display type
+/// "Floating Point", since the separators of another type would not read back; in exponent form
+/// with the precision of `format`. Fails as FormatNumber does.
 CalcResult<std::string> FormatForInsertion(double value, DisplayFormat format,
                                            BaseMode base = BaseMode::Decimal);
 
@@ -64,7 +64,7 @@ CalcResult<std::string> FormatForInsertion(double value, DisplayFormat format,
 /// Point" with `precision`. Makes no text from 1e-12 to 1e12.
 double RoundAsShown(double value, int precision);
 
-/// A decimal text with "," between each three digits of its integer part.
+/// The decimal number `text` with a "," between each three digits of its integer part.
 std::string GroupThousands(std::string_view text);
 
 }  // namespace kav

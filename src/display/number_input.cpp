@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "common/ascii.h"
 #include "common/number_text.h"
 
 namespace kav {
@@ -10,12 +11,8 @@ namespace {
 
 constexpr char kSeparator = ',';
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
-/// Whether `whole`, an integer part, is one to three digits, not from 0 on, and then separators
-/// with three digits behind each.
+/// Whether the integer part `whole` is one to three digits, the first not 0, and then groups of a
+/// separator and three digits.
 bool IsGrouped(std::string_view whole) {
   constexpr std::size_t kGroup = 3;
   const std::size_t first = whole.find(kSeparator);
@@ -33,7 +30,7 @@ std::optional<double> ReadShownNumber(std::string_view text) {
   text = TrimBlanks(text);
   const std::size_t start = text.find_first_not_of("+-");
   if (start > 1) return std::nullopt;  // Or there is nothing else.
-  // What is written with letters is no number that is shown.
+  // No number is shown in letters.
   if (!IsDigit(text[start]) && text[start] != '.') return std::nullopt;
   const std::size_t end = std::min(text.find_first_of(".eE"), text.size());
   const std::string_view whole = text.substr(start, end - start);

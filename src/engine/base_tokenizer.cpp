@@ -1,14 +1,16 @@
 #include "engine/base_tokenizer.h"
 
 #include <array>
+#include <optional>
 
+#include "common/ascii.h"
 #include "engine/token_reader.h"
 
 namespace kav {
 namespace {
 
 struct BaseRules {
-  double radix;
+  int radix;
   std::size_t mostDigits;
   std::string_view tooLong;
 };
@@ -28,22 +30,15 @@ constexpr std::array kWordOperators{
     WordOperator{"xnor", 'y'}, WordOperator{"not", 'n'},
 };
 
-/// The symbol of the operator that `word` is.
+/// The symbol of the operator `word`; nullopt if it is none.
 std::optional<char> SymbolOf(std::string_view word, BaseMode base) {
-  // In hexadecimal a lower-case "and" reads as the number A and a word "nd", so that the operator
-  // comes in capitals there.
+  // In hexadecimal a lower-case "and" reads as the number A and a word "nd", so the operator comes
+  // in capitals there.
   if (base == BaseMode::Hexadecimal && word == "AND") return 'a';
   for (const WordOperator& row : kWordOperators) {
     if (row.word == word) return row.symbol;
   }
   return std::nullopt;
-}
-
-/// The value of a digit, or the radix or more where `c` is none.
-double DigitValue(char c) {
-  constexpr double kNoDigit = 16;
-  if (IsDecimalDigit(c)) return c - '0';
-  return c >= 'a' && c <= 'f' ? c - 'a' + 10 : kNoDigit;
 }
 
 std::optional<CalcError> ReadNumber(TokenReader& reader, const BaseRules& rules,
@@ -93,14 +88,11 @@ std::optional<CalcError> ReadToken(TokenReader& reader, BaseMode base, const Bas
 
 }  // namespace
 
-std::optional<CalcError> TokenizeInBase(std::string_view text, BaseMode base, TokenArray& tokens) {
+CalcResult<TokenArray> TokenizeInBase(std::string_view text, BaseMode base) {
   const BaseRules rules = RulesOf(base);
-  TokenReader reader(text);
-  for (reader.SkipBlanks(); !reader.AtEnd(); reader.SkipBlanks()) {
-    if (tokens.IsFull()) return MakeError(CalcErrorCode::LengthLimit);
-    if (auto error = ReadToken(reader, base, rules, tokens)) return error;
-  }
-  return std::nullopt;
+  return ReadTokens(text, [&](TokenReader& reader, TokenArray& tokens) {
+    return ReadToken(reader, base, rules, tokens);
+  });
 }
 
 }  // namespace kav

@@ -1,7 +1,6 @@
 // Cuts text of the binary, octal and hexadecimal modes into tokens.
 #pragma once
 
-#include <optional>
 #include <string_view>
 
 #include "engine/calc_error.h"
@@ -10,10 +9,10 @@
 
 namespace kav {
 
-/// Cuts `text` (not empty) into `tokens` by the digits of `base` (not decimal): numbers, the four
+/// Cuts `text` into tokens by the digits of `base` (not decimal): numbers, the four
 /// operators, shifts, parentheses and the words "and", "or", "xor", "xnor", "not". In hexadecimal
 /// the letters a to f read as digits first, so "and" has to be written "AND" there. Fails as
 /// Tokenize does.
-std::optional<CalcError> TokenizeInBase(std::string_view text, BaseMode base, TokenArray& tokens);
+CalcResult<TokenArray> TokenizeInBase(std::string_view text, BaseMode base);
 
 }  // namespace kav

@@ -4,13 +4,14 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "common/expected.h"
 
 namespace kav {
 
-/// The causes, with the numbers they have always had. The comments give the message; NAME is the
-/// subject handed over where the error is raised.
+/// The causes, by their fixed numbers. The comments give the message; NAME is the subject that
+/// whoever raises the error hands over.
 enum class CalcErrorCode : std::uint8_t {
   OutOfRange = 0,        ///< "Out of range(overflow or underflow)"
   UnmatchedParentheses,  ///< "Not matched '(' and ')'."
@@ -33,10 +34,21 @@ struct CalcError {
   bool operator==(const CalcError&) const = default;
 };
 
-/// The error `code` with its message about `name` (ignored where the message names nothing).
+/// The error `code` with its message about `name` (ignored if the message names nothing).
 CalcError MakeError(CalcErrorCode code, std::string_view name = {});
 
 template <class T>
 using CalcResult = Expected<T, CalcError>;
+
+/// The message of an answer that failed; empty for any other. Valid as long as `answer` is.
+template <class T>
+std::string_view MessageOf(const CalcResult<T>& answer) {
+  return answer ? std::string_view() : std::string_view(answer.error().message);
+}
+
+/// What is shown of `text`: itself or, if there is none, the message in its place.
+inline std::string TextOrMessage(CalcResult<std::string> text) {
+  return text ? *std::move(text) : std::move(text).error().message;
+}
 
 }  // namespace kav

@@ -16,7 +16,7 @@ constexpr AngleUnit AngleUnitFromSetting(std::int32_t stored) {
   return stored == 1 ? AngleUnit::Degrees : AngleUnit::Radians;
 }
 
-/// What the angle key switches to from `unit`.
+/// The unit that the angle key switches to from `unit`.
 constexpr AngleUnit OtherAngleUnit(AngleUnit unit) {
   return unit == AngleUnit::Degrees ? AngleUnit::Radians : AngleUnit::Degrees;
 }

@@ -1,13 +1,14 @@
 // The engine's fixed array of tokens: what a text is cut into and what reduction consumes in place.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 
 namespace kav {
 
-/// What a token is. The numbers are the engine's own vocabulary; 0 stands for operands.
+/// What a token is, by fixed numbers; 0 stands for operands.
 enum class TokenKind : std::int32_t { Operand = 0, Operator = 10, Function = 40, Parenthesis = 50 };
 
 /// The functions by their codes; a token that is no function has code 0.
@@ -54,7 +55,15 @@ class TokenArray {
   static constexpr int kLimit = 150;
   static constexpr int kCapacity = kLimit + 1;
 
-  void Clear() { count_ = 0; }
+  TokenArray() = default;
+  TokenArray(const TokenArray& other) { *this = other; }
+  TokenArray& operator=(const TokenArray& other) {
+    std::copy_n(other.slots_.begin(), other.count_, slots_.begin());
+    count_ = other.count_;
+    return *this;
+  }
+  ~TokenArray() = default;
+
   bool IsFull() const { return count_ > kLimit; }
   int Count() const { return count_; }
 
@@ -65,7 +74,7 @@ class TokenArray {
   const CalcToken& operator[](int index) const { return slots_[static_cast<std::size_t>(index)]; }
 
  private:
-  std::array<CalcToken, kCapacity> slots_;  // Filled up to count_; clearing 5 KB a time would cost.
+  std::array<CalcToken, kCapacity> slots_;  // Up to count_; to clear or copy all 5 KB would cost.
   int count_ = 0;
 };
 

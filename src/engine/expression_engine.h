@@ -1,8 +1,6 @@
 // From the text of a line to its value.
 #pragma once
 
-#include <optional>
-#include <string>
 #include <string_view>
 
 #include "engine/calc_error.h"
@@ -11,39 +9,38 @@
 
 namespace kav {
 
-/// Evaluates text in the base and angle unit that were set, or a checked formula; keeps the last
-/// value or the last error. Made for one evaluation, and good for any number of them.
+/// The value, always finite, of `text`, folded as FoldCase does it; fails with the first thing
+/// wrong with its words, their order or the calculation.
+CalcResult<double> EvaluateFolded(std::string_view text, CalcModes modes);
+
+/// The value of `text` as the user typed it: its case is folded here.
+CalcResult<double> Evaluate(std::string_view text, CalcModes modes);
+
+/// The value of `formula` with its variables set to `at`.
+CalcResult<double> EvaluateFormula(const CheckedFormula& formula, const VariableValues& at,
+                                   AngleUnit unit);
+
+/// Evaluates texts and formulas in the modes that were set, and keeps what came of the last one.
 class ExpressionEngine {
  public:
   void SetAngleUnit(AngleUnit unit) { modes_.angleUnit = unit; }
   void SetBaseMode(BaseMode base) { modes_.baseMode = base; }
 
-  /// Evaluates `text`, folded as FoldCase does it.
-  void Evaluate(std::string_view text);
-
-  /// Evaluates `formula` with its variables set to `at`. Formulas are decimal whatever the base.
-  void EvaluateTokens(const CheckedFormula& formula, const VariableValues& at);
+  void Evaluate(std::string_view text) { answer_ = EvaluateFolded(text, modes_); }
+  /// Formulas are decimal whatever the base.
+  void EvaluateTokens(const CheckedFormula& formula, const VariableValues& at) {
+    answer_ = EvaluateFormula(formula, at, modes_.angleUnit);
+  }
 
   /// The value of the last evaluation; 0 after a failed one.
-  double GetResult() const { return result_; }
-  bool HasError() const { return error_.has_value(); }
-  /// The finished message of the first error of the last evaluation; empty where there was none.
-  std::string_view GetErrorText() const;
-  const std::optional<CalcError>& Error() const { return error_; }
+  double GetResult() const { return answer_ ? *answer_ : 0; }
+  bool HasError() const { return !answer_; }
+  /// The finished message of the last evaluation; empty if it did not fail.
+  std::string_view GetErrorText() const { return MessageOf(answer_); }
 
  private:
-  void Take(CalcResult<double> answer);
-
   CalcModes modes_;
-  double result_ = 0;
-  std::optional<CalcError> error_;
+  CalcResult<double> answer_ = 0.0;
 };
-
-/// `text` as the engine and the checker take it: A to Z in lower case; in hexadecimal every "and"
-/// as "AND", since "a" and "d" are digits there.
-std::string FoldCase(std::string_view text, BaseMode base);
-
-/// The value of `text` as the user typed it (its case is folded here).
-CalcResult<double> Evaluate(std::string_view text, CalcModes modes);
 
 }  // namespace kav

@@ -1,16 +1,15 @@
 #include "engine/formula_checker.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "engine/expression_engine.h"
+#include "engine/fold_case.h"
 #include "engine/reducer.h"
 #include "engine/token_order.h"
 
 namespace kav {
 
-void CheckedFormula::Take(TokenArray& tokens) {
-  useCount_ = 0;
-  slotCount_ = tokens.Count();
+CheckedFormula::CheckedFormula(TokenArray tokens) : slotCount_(tokens.Count()) {
   for (int i = 0; i < slotCount_; ++i) {
     const CalcToken& token = tokens[i];
     values_[static_cast<std::size_t>(i)] = token.value;
@@ -18,7 +17,7 @@ void CheckedFormula::Take(TokenArray& tokens) {
     uses_[static_cast<std::size_t>(useCount_++)] = {static_cast<std::uint8_t>(i),
                                                     static_cast<std::uint8_t>(token.symbol - 'x')};
   }
-  Reduce(tokens, BaseMode::Decimal, steps_);
+  steps_ = Reduce(tokens, BaseMode::Decimal);
 }
 
 Expected<double, StepFailure> CheckedFormula::At(const VariableValues& at, AngleUnit unit) const {
@@ -36,28 +35,19 @@ std::optional<int> CheckedFormula::VariableIn(int slot) const {
   return use == end ? std::nullopt : std::optional<int>(use->variable);
 }
 
-void FormulaChecker::CheckFormula(std::string_view text, VariableType type) {
-  error_ = Check(text, type);
+CalcResult<CheckedFormula> CheckTokens(const TokenArray& tokens) {
+  if (auto error = CheckOrder(tokens, BaseMode::Decimal)) return *std::move(error);
+  return CheckedFormula(tokens);
 }
 
-std::optional<CalcError> FormulaChecker::Check(std::string_view text, VariableType type) {
-  if (text.empty()) return MakeError(CalcErrorCode::NullExpression);
-  TokenArray tokens;
-  if (auto error = TokenizeFormula(text, type, tokens)) return error;
-  if (auto error = CheckOrder(tokens, BaseMode::Decimal)) return error;
-  formula_.Take(tokens);
-  return std::nullopt;
-}
-
-std::string_view FormulaChecker::GetErrorText() const {
-  return error_ ? std::string_view(error_->message) : std::string_view();
+CalcResult<CheckedFormula> CheckFoldedFormula(std::string_view text, VariableType type) {
+  auto tokens = TokenizeFormula(text, type);
+  if (!tokens) return std::move(tokens).error();
+  return CheckTokens(*tokens);
 }
 
 CalcResult<CheckedFormula> CheckFormula(std::string_view text, VariableType type) {
-  FormulaChecker checker;
-  checker.CheckFormula(FoldCase(text, BaseMode::Decimal), type);
-  if (checker.HasError()) return *checker.Error();
-  return checker.Formula();
+  return CheckFoldedFormula(FoldCase(text, BaseMode::Decimal), type);
 }
 
 }  // namespace kav

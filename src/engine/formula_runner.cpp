@@ -13,8 +13,8 @@ constexpr std::uint16_t kVariables = 3;
 
 using Handler = RunnerInstruction::Handler;
 
-// The instructions. None is long enough, nor a formula, for the calls to be too many where a
-// compiler does not make jumps of them.
+// The instructions. Formulas are short, so the stack holds the calls even if a compiler does not
+// turn them into jumps.
 
 double Next(const RunnerInstruction* self, RunnerState& state, double accumulator) {
   return self[1].handler(self + 1, state, accumulator);
@@ -93,7 +93,7 @@ struct ValueStep {
   std::uint16_t left;
   std::uint16_t right;
   std::uint16_t result;
-  bool isChecked;  ///< whether its operands are held to the range of numbers
+  bool isChecked;  ///< whether its operands are checked to be finite
 };
 
 /// Whether a result that is finite proves both operands finite: infinities and not-a-number survive
@@ -108,7 +108,7 @@ bool ChecksOperands(Operation operation) {
   return operation != Operation::Factorial && MayRaise(operation, CalcErrorCode::OutOfRange);
 }
 
-/// Whether `operation` may raise an error that being out of range must not overtake.
+/// Whether `operation` may raise an error that must come before one of being out of range.
 bool RaisesOtherErrors(Operation operation) {
   for (int code = 0; code <= static_cast<int>(CalcErrorCode::Free); ++code) {
     const auto error = static_cast<CalcErrorCode>(code);
@@ -117,8 +117,8 @@ bool RaisesOtherErrors(Operation operation) {
   return false;
 }
 
-/// The steps of `formula`, on `values`: the variables and the formula's numbers, to which a place
-/// for each result is added.
+/// The steps of `formula` on `values`, which is filled: the variables, the formula's numbers, and a
+/// place for each result.
 std::vector<ValueStep> OnValues(const CheckedFormula& formula, std::vector<double>& values) {
   // Where the value of each of the formula's slots is at this point of the calculation.
   std::vector<std::uint16_t> home;
@@ -153,7 +153,7 @@ void DropImpliedChecks(std::vector<ValueStep>& steps, std::size_t valueCount) {
 }
 
 /// How an operation is done without its function. `mirrored` does it with the right operand in the
-/// accumulator, where that is possible.
+/// accumulator; null if that is not possible.
 struct OwnHandler {
   Handler handler;
   Handler mirrored;
@@ -210,7 +210,7 @@ class InstructionWriter {
     Emit(handler, step.operation, second);
   }
 
-  /// Sees to it that the accumulator holds `value`; what it held is waited for and not lost.
+  /// Brings `value` into the accumulator and saves what it held.
   void Bring(std::uint16_t value) {
     if (held_ == value) return;
     if (held_) Emit(Save, Operation::Finish, *held_);

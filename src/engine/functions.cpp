@@ -10,24 +10,24 @@
 namespace kav {
 namespace {
 
-// The factors that the engine has always used; 180/pi and pi/180 rounded to double, and the
-// reciprocals of 90 and of pi/2. Results depend on their last bit.
+// 180/pi and pi/180 rounded to double, and the reciprocals of 90 and of pi/2. Results depend on
+// their last bit, so these never change.
 constexpr double kDegreesPerRadian = 57.29577951308232;
 constexpr double kRadiansPerDegree = 0.017453292519943295;
 constexpr double kRightAnglesPerDegree = 0.011111111111111112;
 constexpr double kRightAnglesPerRadian = 0.6366197723675814;
 
-/// Whether `x` is farther from every whole number than rounding can have carried it; false says
-/// nothing. Adding 1.5 * 2^52 rounds to whole numbers.
+/// True only if `x` is farther from every whole number than rounding can have carried it. Adding
+/// 1.5 * 2^52 rounds to whole numbers.
 bool IsSurelyNotWhole(double x) {
   constexpr double kRounder = 6755399441055744.0;
-  constexpr double kLargestJudged = 1048576.0;  // of which a unit in the last place is 2^-32
+  constexpr double kLargestJudged = 1048576.0;  // its unit in the last place is 2^-32
   constexpr double kMoreThanRounding = 1e-9;
   const double nearest = (x + kRounder) - kRounder;
   return std::fabs(x) < kLargestJudged && std::fabs(x - nearest) > kMoreThanRounding;
 }
 
-/// fmod(x, divisor) == 0, where `reciprocal` is 1/divisor; most values need no fmod to tell.
+/// fmod(x, divisor) == 0; `reciprocal` is 1/divisor. Most values need no fmod to tell.
 bool IsMultipleOf(double x, double divisor, double reciprocal) {
   return !IsSurelyNotWhole(x * reciprocal) && std::fmod(x, divisor) == 0;
 }
@@ -52,9 +52,9 @@ double InRadians(double angle, AngleUnit unit) {
   return unit == AngleUnit::Degrees ? angle * kRadiansPerDegree : angle;
 }
 
-/// The largest error of a rounded result `y` that proves pow would have rounded to `y` too: 0.45 of
-/// a unit in its last place, where pow itself errs by less than 0.05. NaN (which no error is below)
-/// where `y`, or the square of it, is too near the ends of the range for the residue to be exact.
+/// The largest error of a rounded result `y` that proves that pow would have rounded to `y` too:
+/// 0.45 of a unit in the last place, since pow itself errs by less than 0.05. NaN, which no error
+/// is below, if `y` or its square is too near the ends of the range for the residue to be exact.
 double ProvableError(double y) {
   constexpr std::uint64_t kExponentMask = 0x7FF0000000000000U;
   constexpr double kTiny = 1e-125;
@@ -64,8 +64,8 @@ double ProvableError(double y) {
   return powerOfTwo * (0.45 * std::numeric_limits<double>::epsilon());
 }
 
-/// pow itself. Compilers that know an exponent to be 2 write x*x for it, the last bit of which is
-/// another one.
+/// pow itself. A compiler that knows the exponent to be 2 would write x*x, whose last bit may
+/// differ.
 double PowCall(double x, double y) {
   const volatile double exponent = y;
   return std::pow(x, exponent);

@@ -5,7 +5,7 @@
 
 namespace kav {
 
-/// x^y with the bits of the C library's pow, by cheaper means where they provably agree.
+/// x^y, bit for bit that of the C library's pow; computed by cheaper means if they provably agree.
 double Power(double x, double y);
 
 /// Whether sin of `angle` is exactly 0: a whole multiple of 180 degrees.
@@ -26,7 +26,7 @@ double Tangent(double angle, AngleUnit unit);
 /// `radians` in `unit`: what asin, acos and atan answer.
 double InAngleUnit(double radians, AngleUnit unit);
 
-/// n! as a product from n downward; -1 where `n` is negative or not whole; infinity from 171 on.
+/// n! as a product from n downward; -1 if `n` is negative or not whole; infinity from 171 on.
 double Factorial(double n);
 
 /// `left` shifted by `count` bits as 32-bit integers; a count outside 0..31 shifts everything out,

@@ -2,12 +2,14 @@
 
 #include <array>
 
+#include "engine/function_names.h"
+
 namespace kav {
 namespace {
 
 constexpr int kNone = -1;
 
-/// The sweeps that a symbol takes part in, one bit each; a range without any of them needs no walk.
+/// The sweeps that a symbol takes part in, one bit each. A range without any of them is skipped.
 using Sweeps = std::uint8_t;
 constexpr Sweeps kBareFunctions = 1U << 0U;
 constexpr Sweeps kComplements = 1U << 1U;
@@ -36,7 +38,7 @@ constexpr SymbolRow kDecimalSymbols[] = {
     {'p', Operation::Permutation, kSelections},
     {'c', Operation::Combination, kSelections},
     {'!', Operation::Factorial, kFactorials},
-    {'F', Operation::Finish, kBareFunctions},  // its operation depends on the function's code
+    {'F', Operation::Finish, kBareFunctions},  // the function's code tells its operation
 };
 constexpr SymbolRow kBaseSymbols[] = {
     {'+', Operation::Add, kSigns | kSums},  {'-', Operation::Subtract, kSigns | kSums},
@@ -47,7 +49,7 @@ constexpr SymbolRow kBaseSymbols[] = {
     {'n', Operation::Not, kComplements},
 };
 
-/// The rows of a family, found by symbol.
+/// The rows of a family of bases, by symbol.
 struct SymbolTable {
   std::array<Operation, 128> operations{};
   std::array<Sweeps, 128> sweeps{};
@@ -63,18 +65,7 @@ struct SymbolTable {
 constexpr SymbolTable kDecimal(kDecimalSymbols);
 constexpr SymbolTable kInteger(kBaseSymbols);
 
-constexpr Operation kFunctionOperations[] = {
-    Operation::Sin,  Operation::Cos,  Operation::Tan,  Operation::Asin,
-    Operation::Acos, Operation::Atan, Operation::Log,  Operation::Ln,
-    Operation::Exp,  Operation::Sinh, Operation::Cosh, Operation::Tanh,
-    Operation::Sqrt, Operation::Abs,  Operation::Int,  Operation::Frac,
-};
-
-Operation OperationOf(FunctionCode code) {
-  return kFunctionOperations[static_cast<int>(code) - static_cast<int>(FunctionCode::Sin)];
-}
-
-/// Tokens from `first` to `last`, both included; empty where `last` is before `first`.
+/// Tokens from `first` to `last`, both included; none if `last` is before `first`.
 struct Range {
   int first;
   int last;
@@ -93,7 +84,7 @@ class Reduction {
   }
 
  private:
-  // Every stage below answers whether reduction goes on; it does not once a step fails.
+  // Every stage below answers whether reduction goes on; it ends at the first step that fails.
 
   bool ReduceGroup(int close) {
     int open = close;
@@ -127,7 +118,7 @@ class Reduction {
            ((sweeps & kPowers) == 0 || SweepPowers(range));
   }
 
-  /// Applies the function at `function` to what `range` behind it comes to.
+  /// Applies the function at `function` to the value of `range`, which follows it.
   bool ApplyFunction(int function, Range range) {
     if (!ReduceTightOperators(range, SweepsIn(range))) return false;
     const int argument = NextOperand(range.first, range.last);
@@ -152,8 +143,8 @@ class Reduction {
     return true;
   }
 
-  /// The whole sweep ends at the first '-' that has an operand before it: signs to the right of it
-  /// stay, and 2-3*-4 fails for want of an operand.
+  /// The sweep ends at the first '-' that has an operand before it. Signs to the right of it stay,
+  /// so 2-3*-4 fails for want of an operand.
   bool SweepMinus(Range range) {
     for (int i = range.first; i <= range.last; ++i) {
       if (tokens_[i].symbol != '-') continue;
@@ -190,7 +181,7 @@ class Reduction {
     return true;
   }
 
-  /// One sweep over the operators of a level, which are equal in precedence.
+  /// One sweep over the operators of a level, which have the same precedence.
   bool SweepBinary(Range range, Sweeps level) {
     for (int i = range.first; i <= range.last; ++i) {
       const CalcToken& token = tokens_[i];
@@ -219,7 +210,7 @@ class Reduction {
     return true;
   }
 
-  /// Whether the nearest live token before a sign makes it an operator between two operands.
+  /// Whether the nearest live token before a sign makes it a binary operator.
   bool IsBinarySign(int sign, Range range) const {
     for (int i = sign - 1; i >= range.first; --i) {
       if (tokens_[i].isNumber != 0 || tokens_[i].symbol == '!') return true;
@@ -246,7 +237,7 @@ class Reduction {
     return sweeps;
   }
 
-  /// The answer is the one value that is left.
+  /// The answer is the only value left.
   void Finish() {
     const int last = tokens_.Count() - 1;
     const int answer = NextOperand(0, last);
@@ -273,9 +264,10 @@ class Reduction {
 
 }  // namespace
 
-void Reduce(TokenArray& tokens, BaseMode base, StepList& steps) {
-  steps.Clear();
+StepList Reduce(TokenArray& tokens, BaseMode base) {
+  StepList steps;
   Reduction(tokens, base == BaseMode::Decimal ? kDecimal : kInteger, steps).ReduceAll();
+  return steps;
 }
 
 }  // namespace kav

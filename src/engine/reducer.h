@@ -7,11 +7,11 @@
 
 namespace kav {
 
-/// Walks `tokens` (in checked order) as reduction consumes them, in place: innermost parentheses
-/// first, and inside them one sweep a level of precedence. What is done to the values is written
-/// into `steps` instead of being done; which tokens live on never depends on it. Ends with Finish,
-/// or with a failing step where an operator finds no live operand or more than one value is left.
-/// Afterwards no token but the answer's is live; the values are untouched.
-void Reduce(TokenArray& tokens, BaseMode base, StepList& steps);
+/// Consumes `tokens` (in checked order) in place: innermost parentheses first, and inside them one
+/// sweep for each level of precedence. Answers what is done to the values as steps instead of doing
+/// it; which tokens stay live never depends on the values. The last step is Finish, or one that
+/// fails if an operator finds no live operand or more than one value is left. Afterwards no token
+/// but the answer's is live; the values are untouched.
+StepList Reduce(TokenArray& tokens, BaseMode base);
 
 }  // namespace kav

@@ -22,10 +22,10 @@ double FractionalPart(double x) {
   return std::modf(x, &whole);
 }
 
-// The shapes that operations have. Each is an ApplyFunction; operands have to be finite before
-// anything else is asked of them.
+// The shapes that operations have. Each is an ApplyFunction; it first checks that its operands are
+// finite.
 
-/// A binary operation that all numbers have.
+/// A binary operation defined for all numbers.
 template <auto kFunction>
 Outcome Fold(double& left, double right, AngleUnit /*unit*/) {
   if (!std::isfinite(left) || !std::isfinite(right)) return OutOfRange;
@@ -50,7 +50,7 @@ Outcome FoldBits(double& left, double right, AngleUnit /*unit*/) {
   return kDone;
 }
 
-/// A function that all numbers have.
+/// A function defined for all numbers.
 template <auto kFunction>
 Outcome Map(double& x, double /*right*/, AngleUnit /*unit*/) {
   if (!std::isfinite(x)) return OutOfRange;
@@ -58,7 +58,7 @@ Outcome Map(double& x, double /*right*/, AngleUnit /*unit*/) {
   return kDone;
 }
 
-/// A function that positive numbers have.
+/// A function defined for positive numbers.
 template <auto kFunction>
 Outcome MapPositive(double& x, double /*right*/, AngleUnit /*unit*/) {
   if (!std::isfinite(x)) return OutOfRange;
@@ -91,8 +91,8 @@ Outcome Unchecked(double& left, double right, AngleUnit /*unit*/) {
   return kDone;
 }
 
-/// Arranging or choosing r of n things. Where the factorials overflow, their quotient is not a
-/// number, which is out of range wherever it is used.
+/// Arranging or choosing r of n things. If the factorials overflow, their quotient is not-a-number,
+/// which the next operation finds out of range.
 template <auto kCount>
 Outcome Select(double& n, double r, AngleUnit /*unit*/) {
   if (!(r <= n && n >= 0 && r >= 0)) return CalculationLimit;
@@ -135,8 +135,8 @@ constexpr unsigned kRangeOrLimit = Raises(OutOfRange, CalculationLimit);
 constexpr unsigned kRangeOrNotWhole = Raises(OutOfRange, NotInteger);
 constexpr unsigned kLimitOrNotWhole = Raises(CalculationLimit, NotInteger);
 
-/// All facts of an operation. In `form` L stands for the target's slot and R for the right one;
-/// `name` is what messages call it, `shortName` where they speak of a value that is not whole.
+/// All facts of an operation. In `form`, L stands for the target's slot and R for the right one.
+/// `name` is what messages call it, `shortName` is for messages about values that are not whole.
 struct OperationRow {
   Operation operation;
   std::string_view form;
@@ -202,6 +202,10 @@ constexpr OperationRow kOperations[] = {
     {Operation::Finish, "answer L", "", "", kRange, ApplyFinish},
 };
 
+constexpr const OperationRow& RowOf(Operation operation) {
+  return kOperations[static_cast<std::size_t>(operation)];
+}
+
 constexpr bool RowsAreInOrder() {
   std::size_t index = 0;
   for (const OperationRow& row : kOperations) {
@@ -210,10 +214,6 @@ constexpr bool RowsAreInOrder() {
   return true;
 }
 static_assert(RowsAreInOrder(), "the table is read by the number of the operation");
-
-const OperationRow& RowOf(Operation operation) {
-  return kOperations[static_cast<std::size_t>(operation)];
-}
 
 }  // namespace
 

@@ -1,4 +1,4 @@
-// The order of a calculation, written down once, and running it.
+// The steps of a calculation in their order, and running them.
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@ enum class Operation : std::uint8_t {
   Permutation,
   Combination,
   Power,
-  LastPower,  ///< the last of a sweep: only its operands are held to the range of numbers
+  LastPower,  ///< the last of a sweep: only its operands are checked to be finite
   Multiply,
   Divide,
   Remainder,
@@ -49,28 +49,27 @@ enum class Operation : std::uint8_t {
   Int,
   Frac,
   FailExpression,     ///< an operator or function found no live operand, or values are left over
-  FailNeedsArgument,  ///< '!' found none
+  FailNeedsArgument,  ///< '!' found no live operand
   Finish,             ///< `target` holds the answer
 };
 
 /// One step: slot `target` takes the result of the operation on slots `target` and `right` (the
-/// latter only where the operation has two operands). A slot has the number of its token.
+/// latter only if the operation has two operands). A slot has the number of its token.
 struct Step {
   Operation operation;
   std::uint8_t target;
   std::uint8_t right;
 };
 
-/// The values of all tokens of a text, by slot; meaningless where the token is no operand.
+/// The values of all tokens of a text, by slot; meaningless if the token is no operand.
 using SlotValues = std::array<double, TokenArray::kCapacity>;
 
-/// The steps of one calculation. The last one finishes or fails, and no other does.
+/// The steps of one calculation, at least one. Only the last one finishes or fails.
 class StepList {
  public:
   // Every step but the last uses up a token.
   static constexpr int kCapacity = TokenArray::kCapacity + 1;
 
-  void Clear() { count_ = 0; }
   int Count() const { return count_; }
   void Append(Step step) { steps_[static_cast<std::size_t>(count_++)] = step; }
   Step& operator[](int index) { return steps_[static_cast<std::size_t>(index)]; }
@@ -84,7 +83,8 @@ class StepList {
   int count_ = 0;
 };
 
-/// Which error ended a run, and the operation that it names; small, for runs by the thousand.
+/// Which error ended a run, and the operation that it names. Small, since runs come by the
+/// thousand.
 struct StepFailure {
   CalcErrorCode code;
   Operation operation;
@@ -95,7 +95,8 @@ struct StepFailure {
 /// The same as an error with its message.
 CalcError MakeError(StepFailure failure);
 
-/// How an operation ends: done, or the code of an error. One byte, since every step answers it.
+/// How an operation ends: done, or with the code of an error. One byte, since every step answers
+/// it.
 class Outcome {
  public:
   constexpr Outcome() = default;
@@ -103,15 +104,15 @@ class Outcome {
       : byte_(static_cast<std::uint8_t>(static_cast<unsigned>(code) + 1U)) {}
 
   constexpr explicit operator bool() const { return byte_ == 0; }
-  /// Only of an outcome that is an error.
+  /// Only if the outcome is an error.
   constexpr CalcErrorCode Code() const { return static_cast<CalcErrorCode>(byte_ - 1U); }
 
  private:
   std::uint8_t byte_ = 0;
 };
 
-/// Replaces `left` by the result of an operation on it and, where that has two operands, `right`.
-/// Where it fails `left` is meaningless.
+/// Replaces `left` by the result of an operation on it and, if that has two operands, `right`.
+/// After a failure `left` is meaningless.
 using ApplyFunction = Outcome (*)(double& left, double right, AngleUnit unit);
 
 ApplyFunction FunctionFor(Operation operation);
@@ -119,11 +120,12 @@ ApplyFunction FunctionFor(Operation operation);
 /// Whether some values make `operation` end with `code`.
 bool MayRaise(Operation operation, CalcErrorCode code);
 
-/// Runs `steps` (not empty) on `values`, which are overwritten. Fails at the first step that cannot
-/// be done; an operand or an answer that is not finite is out of range.
+/// Runs `steps` (not empty) on `values`, which are overwritten, and answers a finite value. Fails
+/// at the first step that cannot be done; an operand or an answer that is not finite is out of
+/// range.
 Expected<double, StepFailure> RunSteps(const StepList& steps, SlotValues& values, AngleUnit unit);
 
-/// One line about `step` for a reader: its slots, its operation, and the messages it may end with.
+/// A line that explains `step`: its slots, its operation, and the messages it may end with.
 std::string DescribeStep(const Step& step);
 
 }  // namespace kav

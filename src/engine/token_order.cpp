@@ -7,8 +7,8 @@
 namespace kav {
 namespace {
 
-// What a token is to its neighbours, one letter each: the symbol of an operator or parenthesis, 'F'
-// for a function, '0' for a number or variable, '.' for nothing, beyond either end.
+// What a token is to its neighbours, one character each: the symbol of an operator or parenthesis,
+// 'F' for a function, '0' for a number or variable, '.' for what lies beyond either end.
 constexpr std::string_view kRoles = "0F()+-*/^!%pc<>aoxyn.";
 constexpr char kNumber = '0';
 constexpr char kNothing = '.';
@@ -36,9 +36,9 @@ struct OrderRow {
   RoleSet after;
 };
 
-// There is no multiplication without a sign, and functions may stand anywhere: what is wrong about
-// them shows in their neighbours. A '/' stands unexamined behind an operator that may be followed
-// by it, so that 4*/2 passes here and fails when it is reduced.
+// There is no multiplication without a sign. Functions may stand anywhere: what is wrong about them
+// shows in their neighbours. A '/' may follow another operator, so that 4*/2 passes here and fails
+// when it is reduced.
 constexpr OrderRow kDecimalOrder[] = {
     {"0", AllBut(")"), AllBut("(F")},
     {"(", AllBut(")"), AllBut(")")},

@@ -9,8 +9,8 @@
 
 namespace kav {
 
-/// The first thing wrong with the order of `tokens`: unequal counts of parentheses, else a token
-/// whose neighbours it cannot have; nullopt where there is none.
+/// The first thing wrong with the order of `tokens`: unequal counts of '(' and ')', else a token
+/// that cannot have its neighbours; nullopt if there is none.
 std::optional<CalcError> CheckOrder(const TokenArray& tokens, BaseMode base);
 
 }  // namespace kav

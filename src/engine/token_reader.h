@@ -1,23 +1,19 @@
-// What both tokenizers share: a place in a text, and how words, shifts and odd characters are read.
+// What the tokenizers share: a position in a text, and how words, shifts and unknown characters are
+// read.
 #pragma once
 
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <utility>
 
+#include "common/ascii.h"
 #include "engine/calc_error.h"
 #include "engine/calc_token.h"
 
 namespace kav {
 
-constexpr bool IsDecimalDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-constexpr bool IsLetter(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
-/// A place in a text that is read from the left.
+/// A position in a text that is read from the left. The text must outlive it.
 class TokenReader {
  public:
   explicit TokenReader(std::string_view text) : next_(text.data()), end_(next_ + text.size()) {}
@@ -29,6 +25,7 @@ class TokenReader {
   /// The next character; not at the end.
   char Peek() const { return *next_; }
   void Skip() { ++next_; }
+  void SkipTo(const char* next) { next_ = next; }
 
   /// Takes the characters up to the first that `belongs` refuses.
   template <class Belongs>
@@ -37,7 +34,7 @@ class TokenReader {
     while (next_ != end_ && belongs(*next_)) ++next_;
     return {start, static_cast<std::size_t>(next_ - start)};
   }
-  std::string_view TakeWord() { return TakeWhile(IsLetter); }
+  std::string_view TakeWord() { return TakeWhile(IsLetter<char>); }
 
   /// All that is not read yet.
   std::string_view Rest() const { return {next_, static_cast<std::size_t>(end_ - next_)}; }
@@ -47,10 +44,26 @@ class TokenReader {
   const char* end_;
 };
 
-/// Reads a run of '<' and '>': exactly "<<" or ">>" is a shift.
+/// Cuts `text` into tokens. `readToken(reader, tokens)` appends the token that comes next or
+/// answers why it cannot. Fails if `text` is empty, with what `readToken` answers, or with a token
+/// too many.
+template <class ReadToken>
+CalcResult<TokenArray> ReadTokens(std::string_view text, ReadToken readToken) {
+  CalcResult<TokenArray> tokens = TokenArray();  // Returned as it is, never copied.
+  std::optional<CalcError> error;
+  if (text.empty()) error = MakeError(CalcErrorCode::NullExpression);
+  TokenReader reader(text);
+  for (reader.SkipBlanks(); !error && !reader.AtEnd(); reader.SkipBlanks()) {
+    error = tokens->IsFull() ? MakeError(CalcErrorCode::LengthLimit) : readToken(reader, *tokens);
+  }
+  if (error) tokens = *std::move(error);
+  return tokens;
+}
+
+/// Reads a run of '<' and '>': exactly "<<" or ">>" is a shift, any other run is not supported.
 std::optional<CalcError> ReadShift(TokenReader& reader, TokenArray& tokens);
 
-/// The error about the character that comes next, named whole where it is not ASCII.
+/// The error about the character that comes next, which may have several bytes.
 CalcError UnsupportedCharacter(const TokenReader& reader);
 
 }  // namespace kav

@@ -2,25 +2,18 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
+#include "common/ascii.h"
 #include "common/number_text.h"
+#include "engine/function_names.h"
 #include "engine/token_reader.h"
 
 namespace kav {
 namespace {
 
 constexpr double kPi = 3.141592653589793;
-
-constexpr std::array kFunctions{
-    FunctionName{"sin", FunctionCode::Sin},   FunctionName{"cos", FunctionCode::Cos},
-    FunctionName{"tan", FunctionCode::Tan},   FunctionName{"asin", FunctionCode::Asin},
-    FunctionName{"acos", FunctionCode::Acos}, FunctionName{"atan", FunctionCode::Atan},
-    FunctionName{"sinh", FunctionCode::Sinh}, FunctionName{"cosh", FunctionCode::Cosh},
-    FunctionName{"tanh", FunctionCode::Tanh}, FunctionName{"log", FunctionCode::Log},
-    FunctionName{"ln", FunctionCode::Ln},     FunctionName{"exp", FunctionCode::Exp},
-    FunctionName{"sqrt", FunctionCode::Sqrt}, FunctionName{"abs", FunctionCode::Abs},
-    FunctionName{"int", FunctionCode::Int},   FunctionName{"frac", FunctionCode::Frac},
-};
 
 CalcError FreeError(std::string_view message) {
   return MakeError(CalcErrorCode::Free, message);
@@ -58,13 +51,10 @@ class Variables {
   std::array<bool, 3> used_{};
 };
 
-/// The characters of a number: digits, '.', 'e', and a sign right behind an 'e'. `digits` holds
-/// those before any 'e' as one integer, for as long as they fit.
+/// The characters of a number: digits, '.', 'e', and a sign right after an 'e'.
 struct NumberText {
   std::string_view text;
-  std::uint64_t digits = 0;
-  std::size_t decimals = 0;
-  std::size_t points = 0;
+  int points = 0;
   int exponentMarks = 0;
   bool hasPointInExponent = false;
 };
@@ -73,15 +63,12 @@ NumberText TakeNumber(TokenReader& reader) {
   NumberText number;
   char before = 0;
   number.text = reader.TakeWhile([&](char c) {
-    if (IsDecimalDigit(c)) {
-      number.digits = number.digits * 10 + static_cast<std::uint64_t>(c - '0');
-      number.decimals += number.points;
-    } else if (c == '.') {
+    if (c == '.') {
       ++number.points;
       number.hasPointInExponent = number.exponentMarks != 0;
     } else if (c == 'e') {
       ++number.exponentMarks;
-    } else if (before != 'e' || (c != '+' && c != '-')) {
+    } else if (!IsDigit(c) && (before != 'e' || (c != '+' && c != '-'))) {
       return false;
     }
     before = c;
@@ -90,23 +77,35 @@ NumberText TakeNumber(TokenReader& reader) {
   return number;
 }
 
+/// Whether `c` after the digits and the point of a number belongs to it.
+bool GoesOnWith(char c) {
+  return c == '.' || c == 'e';
+}
+
 std::optional<CalcError> ReadNumber(TokenReader& reader, TokenArray& tokens) {
   constexpr std::size_t kLongestNumber = 30;
+  const std::string_view rest = reader.Rest();
+  const char* const end = rest.data() + rest.size();
+  const PlainNumber plain = ReadPlainNumber(rest.data(), end);
+  // Most numbers are short and plain.
+  if (plain.IsExact() && (plain.end == end || !GoesOnWith(*plain.end))) {
+    reader.SkipTo(plain.end);
+    tokens.Append(NumberToken(plain.Value()));
+    return std::nullopt;
+  }
   const NumberText number = TakeNumber(reader);
   if (number.exponentMarks > 1 || number.points > 1) return MakeError(CalcErrorCode::Expression);
   if (number.text.size() > kLongestNumber) return MakeError(CalcErrorCode::LengthLimit);
   if (number.hasPointInExponent) return MakeError(CalcErrorCode::Expression);
-  const bool isShort = number.exponentMarks == 0 && number.text.size() <= kExactDigits;
-  tokens.Append(NumberToken(isShort ? DecimalValue(number.digits, number.decimals)
-                                    : ReadLeadingNumber(number.text)));
+  tokens.Append(NumberToken(ReadLeadingNumber(number.text)));
   return std::nullopt;
 }
 
 std::optional<CalcError> ReadFunction(std::string_view word, TokenReader& reader,
                                       TokenArray& tokens) {
-  const auto* found = std::find_if(kFunctions.begin(), kFunctions.end(),
+  const auto* found = std::find_if(kFunctionNames.begin(), kFunctionNames.end(),
                                    [&](const FunctionName& row) { return row.name == word; });
-  if (found == kFunctions.end()) return MakeError(CalcErrorCode::NotSupported, word);
+  if (found == kFunctionNames.end()) return MakeError(CalcErrorCode::NotSupported, word);
   reader.SkipBlanks();
   if (reader.AtEnd()) return MakeError(CalcErrorCode::NeedsArgument, word);
   tokens.Append(FunctionToken(found->code));
@@ -132,7 +131,7 @@ std::optional<CalcError> ReadWord(TokenReader& reader, TokenArray& tokens, Varia
 
 std::optional<CalcError> ReadToken(TokenReader& reader, TokenArray& tokens, Variables& variables) {
   const char c = reader.Peek();
-  if (IsDecimalDigit(c) || c == '.') return ReadNumber(reader, tokens);
+  if (IsDigit(c) || c == '.') return ReadNumber(reader, tokens);
   if (IsLetter(c)) return ReadWord(reader, tokens, variables);
   switch (c) {
     case '(':
@@ -158,31 +157,25 @@ std::optional<CalcError> ReadToken(TokenReader& reader, TokenArray& tokens, Vari
   return std::nullopt;
 }
 
-std::optional<CalcError> ReadAll(std::string_view text, TokenArray& tokens, Variables& variables) {
-  TokenReader reader(text);
-  for (reader.SkipBlanks(); !reader.AtEnd(); reader.SkipBlanks()) {
-    if (tokens.IsFull()) return MakeError(CalcErrorCode::LengthLimit);
-    if (auto error = ReadToken(reader, tokens, variables)) return error;
-  }
-  return std::nullopt;
+CalcResult<TokenArray> ReadAll(std::string_view text, Variables& variables) {
+  return ReadTokens(text, [&](TokenReader& reader, TokenArray& tokens) {
+    return ReadToken(reader, tokens, variables);
+  });
 }
 
 }  // namespace
 
-std::span<const FunctionName> FunctionNames() {
-  return kFunctions;
-}
-
-std::optional<CalcError> Tokenize(std::string_view text, TokenArray& tokens) {
+CalcResult<TokenArray> Tokenize(std::string_view text) {
   Variables none;
-  return ReadAll(text, tokens, none);
+  return ReadAll(text, none);
 }
 
-std::optional<CalcError> TokenizeFormula(std::string_view text, VariableType type,
-                                         TokenArray& tokens) {
+CalcResult<TokenArray> TokenizeFormula(std::string_view text, VariableType type) {
   Variables variables(type);
-  if (auto error = ReadAll(text, tokens, variables)) return error;
-  return variables.CheckAllUsed();
+  auto tokens = ReadAll(text, variables);
+  auto missing = tokens ? variables.CheckAllUsed() : std::nullopt;
+  if (missing) tokens = *std::move(missing);
+  return tokens;
 }
 
 }  // namespace kav

@@ -1,8 +1,6 @@
 // Cuts decimal text into tokens.
 #pragma once
 
-#include <optional>
-#include <span>
 #include <string_view>
 
 #include "engine/calc_error.h"
@@ -10,23 +8,15 @@
 
 namespace kav {
 
-/// The variables a formula may use, by the numbers of its type.
+/// The variables of a formula, by the numbers of its type.
 enum class VariableType { X = 0, XY = 1, XYZ = 2 };
 
-/// A function by the name that a text calls it by.
-struct FunctionName {
-  std::string_view name;
-  FunctionCode code;
-};
-std::span<const FunctionName> FunctionNames();
-
-/// Cuts `text` (not empty, lower case) into `tokens`. Fails with the first number, word or
-/// character that cannot stand, or with the 152nd token; what was cut before it stays.
-std::optional<CalcError> Tokenize(std::string_view text, TokenArray& tokens);
+/// Cuts `text` (in lower case) into tokens. Fails if it is empty, or with the first number, word or
+/// character that cannot stand, or with the 152nd token.
+CalcResult<TokenArray> Tokenize(std::string_view text);
 
 /// The same for a formula: "x", "y" and "z" become variable tokens. A variable that `type` lacks is
 /// refused where it stands, one that `type` has and the formula does not use at the end.
-std::optional<CalcError> TokenizeFormula(std::string_view text, VariableType type,
-                                         TokenArray& tokens);
+CalcResult<TokenArray> TokenizeFormula(std::string_view text, VariableType type);
 
 }  // namespace kav

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "common/ascii.h"
 #include "common/number_text.h"
 #include "line/expression_line.h"
 #include "line/shown_number.h"
@@ -47,17 +48,14 @@ int RadixOf(char16_t letter) {
 
 /// What a character is worth as a digit; hexadecimal letters count only in radix 16. A character
 /// that is none keeps its place and is worth 0.
-int DigitValue(char16_t c, int radix) {
-  if (c >= u'0' && c <= u'9') return c - u'0';
-  if (radix != 16) return 0;
-  if (c >= u'a' && c <= u'f') return c - u'a' + 10;
-  if (c >= u'A' && c <= u'F') return c - u'A' + 10;
-  return 0;
+int RecordedDigit(char16_t c, int radix) {
+  const int value = DigitValue(LowerCase(c));
+  return value < std::max(radix, 10) ? value : 0;
 }
 
 double ReadInRadix(std::u16string_view digits, int radix) {
   double value = 0;
-  for (const char16_t c : digits) value = value * radix + DigitValue(c, radix);
+  for (const char16_t c : digits) value = value * radix + RecordedDigit(c, radix);
   return value;
 }
 

@@ -10,15 +10,16 @@
 
 namespace kav {
 
-/// Why a line has no value. `message` is what the result line shows.
+/// Why a line has no value: it is empty, a macro call in it is wrong, or it cannot be evaluated.
+/// `message` is what the result line shows.
 struct LineFailure {
   enum class Cause { EmptyLine, MacroCall, Evaluation };
   Cause cause;
   std::string message;
 };
 
-/// The value, always finite, of `line` (UTF-8, as typed): blanks around it taken off, macro calls
-/// expanded, case folded, evaluated in `modes`.
+/// The value, always finite, of `line` (UTF-8, as typed) in `modes`. Blanks around it are taken
+/// off, macro calls are expanded and case is folded first.
 Expected<double, LineFailure> EvaluateLine(std::string_view line, CalcModes modes,
                                            const MacroStore& macros);
 

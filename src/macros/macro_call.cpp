@@ -9,7 +9,7 @@
 namespace kav {
 namespace {
 
-/// The places for the arguments that a call of a macro leaves behind its first one.
+/// What follows the first argument in a call: the places of the others, and the end.
 std::u16string_view ArgumentPlaces(VariableType type) {
   switch (type) {
     case VariableType::X:

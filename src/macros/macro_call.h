@@ -13,16 +13,16 @@
 
 namespace kav {
 
-/// What the wish for a macro opens: the list to choose one from or, where there is none, the editor
-/// to make one. `store` is where `macros` are, and takes over what other programs stored.
+/// What opens if the user asks for a macro: the list to choose one from or, if there are none, the
+/// editor to make one. `store`, which holds `macros`, first takes over what other programs stored.
 std::variant<OpenMacroEditor, OpenMacroList> RequestMacro(SettingsStore& store,
                                                           const MacroStore& macros);
 
-/// Writes the call of macro `index` around the selection of `line`, which becomes its first
-/// argument; nothing where there is no such macro.
+/// Writes the call of macro `index` around the selection of `line`, which becomes the first
+/// argument. Does nothing if there is no such macro.
 void WriteMacroCall(int index, const MacroStore& macros, ExpressionLine& line);
 
-/// EvaluateLine, which then also knows the macros that other programs stored in `store` until now.
+/// EvaluateLine, after `store`, which holds `macros`, has taken over what other programs stored.
 Expected<double, LineFailure> EvaluateTypedLine(std::u16string_view line, CalcModes modes,
                                                 SettingsStore& store, const MacroStore& macros);
 

@@ -24,7 +24,7 @@ struct Call {
   std::string_view behind;  ///< the rest of the line
 };
 
-/// The ')' that closes the '(' which opens `text`; npos where none does.
+/// The position of the ')' that closes the '(' at the start of `text`; npos if none does.
 std::size_t ClosingParenthesis(std::string_view text) {
   std::size_t open = 0;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -34,7 +34,7 @@ std::size_t ClosingParenthesis(std::string_view text) {
   return std::string_view::npos;
 }
 
-/// Takes the call that opens `text`, its mark already taken off, apart.
+/// The parts of the call at the start of `text`, from which the mark is taken off.
 Expected<Call, std::string> ReadCall(std::string_view text) {
   const std::size_t open = text.find('(');
   if (open == std::string_view::npos) return std::string(kMacroNameUnknown);
@@ -48,8 +48,8 @@ Expected<Call, std::string> ReadCall(std::string_view text) {
   return call;
 }
 
-/// The values of the texts between the commas of `arguments`, as many as `type` has variables. A
-/// comma inside parentheses separates too.
+/// The values of the texts between the commas of `arguments`; nullopt unless there are as many as
+/// `type` has variables and all can be evaluated. A comma inside parentheses separates too.
 std::optional<VariableValues> ReadArguments(std::string_view arguments, VariableType type,
                                             CalcModes modes) {
   std::array<double, 3> values{};
@@ -65,28 +65,16 @@ std::optional<VariableValues> ReadArguments(std::string_view arguments, Variable
   return VariableValues{values[0], values[1], values[2]};
 }
 
-/// The checker's verdict on a formula, in the words of a call: a text that cannot be cut into
-/// tokens is an invalid formula, a wrong order of tokens is an error of the calculation itself.
-std::string FormulaFailure(const std::string& formula, VariableType type, const CalcError& error) {
-  const std::string folded = FoldCase(formula, BaseMode::Decimal);
-  TokenArray tokens;
-  const bool isInvalid = folded.empty() || TokenizeFormula(folded, type, tokens).has_value();
-  return isInvalid ? std::string(kMacroFormulaInvalid) : error.message;
-}
-
 Expected<double, std::string> ValueOf(const Call& call, CalcModes modes, const MacroStore& macros) {
   const auto index = macros.Find(call.name);
   if (!index) return std::string(kMacroNameUnknown);
-  const Macro& macro = macros.At(*index);
-  const auto values = ReadArguments(call.arguments, macro.type, modes);
+  const auto values = ReadArguments(call.arguments, macros.At(*index).type, modes);
   if (!values) return std::string(kMacroArgumentsWrong);
   const auto& formula = macros.Checked(*index);
-  if (!formula) return FormulaFailure(macro.formula, macro.type, formula.error());
-  ExpressionEngine engine;
-  engine.SetAngleUnit(modes.angleUnit);
-  engine.EvaluateTokens(*formula, *values);
-  if (engine.HasError()) return std::string(engine.GetErrorText());
-  return engine.GetResult();
+  if (!formula) return std::string(formula.error());
+  auto value = EvaluateFormula(*formula, *values, modes.angleUnit);
+  if (!value) return std::move(value).error().message;
+  return *value;
 }
 
 }  // namespace
@@ -99,8 +87,8 @@ Expected<ExpandedLine, std::string> ExpandMacros(std::string_view line, CalcMode
                                                  const MacroStore& macros) {
   ExpandedLine expanded;
   std::string& text = expanded.text;
-  // What stands before a call is never looked at again: a value holds no call, and none can begin
-  // in one part and end in the other.
+  // What stands before a call is never read again: a value holds no call, and no call begins in one
+  // part and ends in the other.
   for (std::size_t mark; (mark = line.find(kCallMark)) != std::string_view::npos;) {
     text += line.substr(0, mark);
     if (!text.empty() && kMayStandBefore.find(text.back()) == std::string_view::npos) {

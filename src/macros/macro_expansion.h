@@ -14,8 +14,8 @@ namespace kav {
 /// Whether a macro call begins anywhere in `line`.
 bool HoldsMacroCall(std::string_view line);
 
-/// A line whose macro calls are replaced by their values in six decimals. Where the whole line was
-/// one call, `wholeValue` is that call's value with all its digits.
+/// A line whose macro calls are replaced by their values in six decimals. If the whole line was one
+/// call, `wholeValue` is the value of that call with all its digits.
 struct ExpandedLine {
   std::string text;
   std::optional<double> wholeValue;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "common/number_text.h"
+#include "engine/fold_case.h"
 #include "macros/macros_texts.h"
 #include "settings/keys.h"
 
@@ -25,6 +26,16 @@ Macro StoredMacro(const SettingsStore& settings, int index) {
 
 bool IsEmpty(const Macro& macro) {
   return macro.name.empty() && macro.formula.empty();
+}
+
+/// A text that cannot be cut into tokens is an invalid formula; a wrong order of tokens is an error
+/// of the calculation itself.
+Expected<CheckedFormula, std::string> Check(const Macro& macro) {
+  const auto tokens = TokenizeFormula(FoldCase(macro.formula, BaseMode::Decimal), macro.type);
+  if (!tokens) return std::string(kMacroFormulaInvalid);
+  auto formula = CheckTokens(*tokens);
+  if (!formula) return std::move(formula).error().message;
+  return *std::move(formula);
 }
 
 }  // namespace
@@ -52,11 +63,10 @@ std::optional<int> MacroStore::Find(std::string_view name) const {
   return static_cast<int>(found - all.begin());
 }
 
-const CalcResult<CheckedFormula>& MacroStore::Checked(int index) const {
+const Expected<CheckedFormula, std::string>& MacroStore::Checked(int index) const {
   const Entry& entry = All()[static_cast<std::size_t>(index)];
   if (!entry.checked) {
-    entry.checked = std::make_unique<CalcResult<CheckedFormula>>(
-        CheckFormula(entry.macro.formula, entry.macro.type));
+    entry.checked = std::make_unique<Expected<CheckedFormula, std::string>>(Check(entry.macro));
   }
   return *entry.checked;
 }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/expected.h"
 #include "engine/formula_checker.h"
 #include "engine/tokenizer.h"
 #include "settings/settings_store.h"
@@ -23,9 +24,9 @@ struct Macro {
   bool operator==(const Macro&) const = default;
 };
 
-/// The stored macros, numbered from 0 without gaps. Always shows what the settings hold, which must
-/// outlive it. A stored count that is wrong is mended by what is there: it neither hides a macro
-/// that stands in its place nor shows places at the end that are empty.
+/// The stored macros, numbered from 0 without gaps. Always shows what the settings hold; these must
+/// outlive it. A wrong stored count is corrected by what is stored: a macro beyond it is shown, and
+/// empty places at the end are not.
 class MacroStore {
  public:
   static constexpr int kCapacity = 60;
@@ -34,25 +35,25 @@ class MacroStore {
 
   /// 0 to kCapacity.
   int Count() const { return static_cast<int>(All().size()); }
-  /// The first macro called `name` (case counts), nullopt where there is none.
+  /// The first macro called `name`, exactly as spelled; nullopt if there is none.
   std::optional<int> Find(std::string_view name) const;
 
   /// The macro `index`, from 0 to Count() - 1; valid until the settings change.
   const Macro& At(int index) const { return All()[static_cast<std::size_t>(index)].macro; }
-  /// Its formula as the checker finds it, which is asked only once; valid until the settings
-  /// change.
-  const CalcResult<CheckedFormula>& Checked(int index) const;
+  /// Its formula or, if that is no good, the message for whoever calls the macro. Checked only
+  /// once; valid until the settings change.
+  const Expected<CheckedFormula, std::string>& Checked(int index) const;
 
  private:
   struct Entry {
     Macro macro;
-    mutable std::unique_ptr<CalcResult<CheckedFormula>> checked;
+    mutable std::unique_ptr<Expected<CheckedFormula, std::string>> checked;
   };
 
   const std::vector<Entry>& All() const;
 
   const SettingsStore& settings_;
-  // What the settings held when they were last looked at: a line may call a macro many times.
+  // What the settings held when they were last read; a line may call a macro many times.
   mutable std::vector<Entry> entries_;
   mutable std::optional<std::uint64_t> revision_;
 };

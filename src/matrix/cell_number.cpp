@@ -32,8 +32,7 @@ double ReadCell(std::u16string_view text) {
 }
 
 std::u16string CellText(double value) {
-  const auto text = FormatNumber(value, kCellFormat);
-  const std::string& ascii = text ? *text : text.error().message;
+  const std::string ascii = TextOrMessage(FormatNumber(value, kCellFormat));
   return {ascii.begin(), ascii.end()};
 }
 

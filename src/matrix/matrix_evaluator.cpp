@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "common/number_text.h"
-#include "engine/expression_engine.h"
+#include "engine/fold_case.h"
 #include "matrix/matrix_order.h"
 #include "matrix/matrix_reducer.h"
 #include "matrix/matrix_tokenizer.h"

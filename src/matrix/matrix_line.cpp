@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "common/ascii.h"
 #include "matrix/matrix_functions.h"
 #include "matrix/matrix_texts.h"
 
@@ -11,20 +12,11 @@ namespace {
 
 constexpr std::u16string_view kMacroMark = u"M:";
 
-char16_t LowerOf(char16_t c) {
-  return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c - u'A' + u'a') : c;
-}
-
-bool IsLetter(char16_t c) {
-  return LowerOf(c) >= u'a' && LowerOf(c) <= u'z';
-}
-
 /// Whether `word` is the name of a matrix function.
 bool IsFunction(std::u16string_view word) {
   const auto functions = MatrixFunctions();
   return std::any_of(functions.begin(), functions.end(), [&](const MatrixFunctionRow& row) {
-    return std::equal(word.begin(), word.end(), row.name.begin(), row.name.end(),
-                      [](char16_t a, char b) { return LowerOf(a) == static_cast<char16_t>(b); });
+    return EqualsIgnoringCase(word, row.name);
   });
 }
 
@@ -41,7 +33,8 @@ bool NamesFunction(std::u16string_view text) {
 
 bool Names(std::u16string_view line, std::u16string_view matrix) {
   return std::search(line.begin(), line.end(), matrix.begin(), matrix.end(),
-                     [](char16_t a, char16_t b) { return LowerOf(a) == LowerOf(b); }) != line.end();
+                     [](char16_t a, char16_t b) { return LowerCase(a) == LowerCase(b); }) !=
+         line.end();
 }
 
 }  // namespace

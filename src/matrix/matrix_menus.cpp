@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "common/number_text.h"
-#include "engine/tokenizer.h"
+#include "engine/function_names.h"
 #include "matrix/matrix_functions.h"
 #include "matrix/matrix_texts.h"
 #include "matrix/matrix_value.h"
@@ -64,12 +64,12 @@ Menu NumberedMenu(const Choices& choices, TextOf textOf) {
 }  // namespace
 
 Menu BuildFunctionMenu() {
-  return NumberedMenu(FunctionNames(),
+  return NumberedMenu(kFunctionNames,
                       [](const FunctionName& function) { return Widen(function.name); });
 }
 
 std::u16string FunctionPrefix(int id) {
-  return Widen(FunctionNames()[PlaceOf(id)].name) + u"(";
+  return Widen(kFunctionNames[PlaceOf(id)].name) + u"(";
 }
 
 Menu BuildToolsMenu() {

@@ -25,7 +25,7 @@ std::string_view TakeNumber(TokenReader& reader) {
   char before = 0;
   return reader.TakeWhile([&](char c) {
     const bool belongs =
-        IsDecimalDigit(c) || c == '.' || c == 'e' || (before == 'e' && (c == '+' || c == '-'));
+        IsDigit(c) || c == '.' || c == 'e' || (before == 'e' && (c == '+' || c == '-'));
     before = c;
     return belongs;
   });
@@ -77,7 +77,7 @@ CalcResult<MatrixToken> ReadSymbol(TokenReader& reader) {
 
 CalcResult<MatrixToken> ReadToken(TokenReader& reader) {
   const char c = reader.Peek();
-  if (IsDecimalDigit(c) || c == '.') return ReadNumber(reader);
+  if (IsDigit(c) || c == '.') return ReadNumber(reader);
   if (IsLetter(c)) return ReadFunction(reader);
   if (c == '[') return ReadMatrixName(reader);
   return ReadSymbol(reader);

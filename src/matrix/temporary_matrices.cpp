@@ -101,20 +101,11 @@ bool IsThere(const FileDescriptor& folder, const std::string& path) {
          opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
-bool WriteAll(int file, std::string_view content) {
-  while (!content.empty()) {
-    const ssize_t written = write(file, content.data(), content.size());
-    if (written < 0 && errno != EINTR) return false;
-    if (written > 0) content.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
-
 bool WriteFile(const std::string& path, std::string_view content) {
   constexpr int kFlags = O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC;
   const int file = open(path.c_str(), kFlags, S_IRUSR | S_IWUSR);
   if (file < 0) return false;
-  const bool isWritten = WriteAll(file, content);
+  const bool isWritten = WriteAll(file, content) == 0;
   // Some file systems report only here that no space was left.
   return close(file) == 0 && isWritten;
 }

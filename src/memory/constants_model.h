@@ -1,4 +1,4 @@
-// The dialog of the constants: a table, a filter over it and the row that is selected.
+// The dialog of the constants: a table, a filter and the selected row.
 #pragma once
 
 #include <cstddef>
@@ -18,10 +18,11 @@ class ConstantsModel {
   /// Loads the table from the first of `folders` that has it.
   explicit ConstantsModel(const std::vector<std::string>& folders);
 
-  /// Why there is no table, to be told once; nullopt where there is one.
+  /// Why there is no table, to be told once; nullopt if there is one.
   const std::optional<std::u16string>& LoadFailure() const { return failure_; }
 
-  /// Shows the rows that `filter` looks for, see Matches. The selection stays where its row does.
+  /// Shows the rows that match `filter`, see Matches. The selected row stays selected if it is
+  /// shown.
   void SetFilter(std::u16string_view filter);
 
   std::size_t ShownCount() const { return shown_.size(); }
@@ -30,12 +31,12 @@ class ConstantsModel {
   /// How many of how many rows are shown: "12 of 250".
   std::u16string CountText() const;
 
-  /// nullopt for none, as at the start.
+  /// nullopt if no row is selected, as at the start.
   std::optional<std::size_t> SelectedRow() const;
   /// A row that is not shown selects none.
   void Select(std::optional<std::size_t> row);
-  /// Moves the selection by `rows`, up where it is negative, but not past the first and the last.
-  /// From none, it goes to the first or, upwards, to the last.
+  /// Moves the selection down by `rows`, up if that is negative, but not past the first and the
+  /// last row. Without a selection it selects the first row or, if moving up, the last.
   void Move(std::ptrdiff_t rows);
 
   /// The texts of the selected row; empty without one.

@@ -6,6 +6,7 @@
 #include <optional>
 #include <system_error>
 
+#include "common/ascii.h"
 #include "memory/memory_texts.h"
 
 namespace kav {
@@ -13,8 +14,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The installed data, seen from the folder of the executable, so that an installation may stand
-/// anywhere.
+/// The folder of the installed data, relative to that of the executable, so that an installation
+/// may stand anywhere.
 constexpr std::string_view kInstalledData = "../share/kav-calculator";
 
 std::u16string Characters(std::string_view bytes) {
@@ -24,7 +25,7 @@ std::u16string Characters(std::string_view bytes) {
   return text;
 }
 
-/// `text` is what stands before the ']' of the name.
+/// The group in `text`, which ends before the ']'.
 std::string_view GroupIn(std::string_view text) {
   const std::size_t open = text.rfind('[');
   return open == std::string_view::npos ? std::string_view() : text.substr(open + 1);
@@ -42,11 +43,10 @@ std::optional<Constant> ParseRecord(std::string_view record) {
                   Characters(record.substr(equals + 1))};
 }
 
-/// Lower case for the letters that a byte of the file can be.
+/// Lower case of the letters up to U+00FF, which are all that a byte of the file can be.
 char16_t Folded(char16_t c) {
-  const bool isPlain = c >= u'A' && c <= u'Z';
   const bool isAccented = c >= u'\u00C0' && c <= u'\u00DE' && c != u'\u00D7';
-  return isPlain || isAccented ? static_cast<char16_t>(c + 0x20) : c;
+  return isAccented ? static_cast<char16_t>(c + 0x20) : LowerCase(c);
 }
 
 bool Contains(std::u16string_view text, std::u16string_view word) {
@@ -55,8 +55,8 @@ bool Contains(std::u16string_view text, std::u16string_view word) {
          std::search(text.begin(), text.end(), word.begin(), word.end(), isEqual) != text.end();
 }
 
-/// The bytes of the file `path`, of which there may be one more than the limit; nullopt where it
-/// cannot be opened. Pipes and devices, which could keep the program waiting, are no such files.
+/// The bytes of the file `path`, at most one more than the limit; nullopt if it cannot be opened,
+/// or if it is a pipe or a device, which could keep the program waiting.
 std::optional<std::string> ReadBytes(const fs::path& path) {
   std::error_code error;
   if (!fs::is_regular_file(path, error)) return std::nullopt;

@@ -7,7 +7,7 @@
 namespace kav {
 namespace {
 
-/// A cleared variable is stored as this, and not removed: it is what the user made of it.
+/// What a cleared variable is stored as; it is not removed.
 constexpr std::string_view kCleared = "0";
 
 std::u16string NumberShown(int index) {

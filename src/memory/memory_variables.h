@@ -8,8 +8,8 @@
 
 namespace kav {
 
-/// Twenty texts, numbered from 0 here and from 1 where the user sees them. They are neither checked
-/// nor converted. Always shows what the settings hold, which must outlive it.
+/// Twenty texts, numbered from 0 here and from 1 for the user. They are neither checked nor
+/// converted. Always shows what the settings hold; these must outlive it.
 class MemoryVariables {
  public:
   static constexpr int kCount = 20;

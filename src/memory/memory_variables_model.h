@@ -1,4 +1,4 @@
-// The dialog of the memory variables: one of the list is chosen, and stored into or recalled.
+// The dialog of the memory variables: the user selects one and stores into it or recalls it.
 #pragma once
 
 #include <optional>
@@ -12,15 +12,16 @@
 
 namespace kav {
 
-// What the dialog was opened for: `value` goes into as many variables as the user likes, or the
-// value of one is wanted.
+// What the dialog was opened for: to store `value` into as many variables as the user likes, or to
+// recall the value of one.
 struct StoreMode {
   std::u16string value;
 };
 struct RecallMode {};
 using VariablesMode = std::variant<StoreMode, RecallMode>;
 
-// What came of the action: it needs a selection first, the dialog goes on, or it ends with a value.
+// What the action did: nothing for want of a selection; it stored, and the dialog goes on; or it
+// recalled, and the dialog ends with the value.
 struct VariableMissing {
   std::u16string_view text;
 };
@@ -30,8 +31,8 @@ struct VariableRecalled {
 };
 using VariableOutcome = std::variant<VariableMissing, VariableStored, VariableRecalled>;
 
-/// Shows what all programs that share the settings stored before it was made; what it changes is
-/// stored at once.
+/// Shows what all programs that share the settings have stored before it is made; its own changes
+/// are stored at once.
 class MemoryVariablesModel {
  public:
   /// `settings` must outlive it.
@@ -40,17 +41,17 @@ class MemoryVariablesModel {
   /// All variables, in order: "Mem01 = 0".
   std::vector<std::u16string> Lines() const;
 
-  /// The line that is marked, counted from 0; nullopt for none, as at the start. Stays what it is
-  /// whatever is stored or cleared.
+  /// The selected line, counted from 0; nullopt for none, as at the start. Storing and clearing do
+  /// not change it.
   std::optional<int> Selected() const { return selected_; }
-  /// A line that there is not selects none.
+  /// A line that does not exist selects none.
   void Select(std::optional<int> line);
 
   std::u16string_view ActionCaption() const;
   /// Stores into the selected variable, or recalls it.
   VariableOutcome Act();
 
-  /// To be asked before Clear; nullopt where nothing is selected and so nothing to be cleared.
+  /// To be asked before Clear; nullopt if nothing is selected.
   std::optional<std::u16string_view> ClearQuestion() const;
   /// The selected variable, if any, becomes 0.
   void Clear();

@@ -19,7 +19,7 @@
 namespace kav {
 namespace {
 
-// The name of a new file is the old one's, this, and some characters that make it unique.
+// The name of a new file is the old name, this mark, and some characters that make it unique.
 constexpr std::string_view kNewMark = ".new-";
 constexpr std::string_view kUniquePart = "XXXXXX";
 constexpr std::string_view kDamagedMark = ".damaged";
@@ -39,23 +39,14 @@ std::string OpenableFolderOf(std::string_view path) {
   return folder.empty() ? "." : folder;
 }
 
-/// Whether anything has this name, even a link that leads nowhere.
+/// Whether anything has this name, if only a link that leads nowhere.
 bool IsTaken(const std::string& path) {
   struct stat status {};
   return lstat(path.c_str(), &status) == 0;
 }
 
-bool WriteAll(const FileDescriptor& file, std::string_view content) {
-  while (!content.empty()) {
-    const ssize_t written = write(file.Number(), content.data(), content.size());
-    if (written < 0 && errno != EINTR) return false;
-    if (written > 0) content.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
-
-/// Gives `file` the owner and the permissions of the file it is to replace, if there is one.
-/// Another owner can be set only by who may; for everybody else the file has the right one already.
+/// Gives `file` the owner and the permissions of the file that it replaces, if there is one. If
+/// this user may not set another owner, only the permissions of the owner are taken over.
 bool TakeOverRights(const std::string& replaced, const FileDescriptor& file) {
   struct stat status {};
   if (stat(replaced.c_str(), &status) != 0) return true;
@@ -64,13 +55,12 @@ bool TakeOverRights(const std::string& replaced, const FileDescriptor& file) {
   return fchmod(file.Number(), mode) == 0;
 }
 
-/// Whether a file of this name was made read-only, which the renaming of another over it would
-/// ignore.
+/// Whether the file `path` is read-only: renaming another file to its name would ignore that.
 bool IsWriteProtected(const std::string& path) {
   return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0 && errno != ENOENT;
 }
 
-/// Puts a rename in `path`'s folder on the disk. Without effect where folders cannot be flushed.
+/// Flushes a rename in `path`'s folder to the disk. Without effect if folders cannot be flushed.
 void FlushFolderOf(const std::string& path) {
   const FileDescriptor folder(
       open(OpenableFolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -102,14 +92,14 @@ Expected<std::string, FileError> ReadWholeFile(const std::string& path, std::siz
   if (!file.IsOpen() || fstat(file.Number(), &status) != 0) return FileErrorFromErrno(errno);
   if (!S_ISREG(status.st_mode)) return FileError::NotAFile;
   if (static_cast<std::uintmax_t>(status.st_size) > limit) return FileError::TooLarge;
-  // One byte more than the size tells the end in the same call, and finds a file that just grew.
+  // With one byte more than the size the first read also tells whether the file just grew.
   std::string content(static_cast<std::size_t>(status.st_size) + 1, '\0');
   std::size_t filled = 0;
   while (true) {
-    const ssize_t got = read(file.Number(), &content[filled], content.size() - filled);
-    if (got < 0 && errno != EINTR) return FileErrorFromErrno(errno);
-    if (got == 0) break;
-    if (got > 0) filled += static_cast<std::size_t>(got);
+    const auto got = ReadSome(file.Number(), &content[filled], content.size() - filled);
+    if (!got) return FileErrorFromErrno(got.error());
+    if (*got == 0) break;
+    filled += *got;
     if (filled > limit) return FileError::TooLarge;
     if (filled == content.size()) content.resize(std::min(2 * filled, limit + 1));
   }
@@ -130,8 +120,8 @@ std::optional<FileError> ReplaceFile(const std::string& path, std::string_view c
   newPath.append(kNewMark).append(kUniquePart);
   const FileDescriptor file(mkostemp(newPath.data(), O_CLOEXEC));
   if (!file.IsOpen()) return FileErrorFromErrno(errno);
-  if (!TakeOverRights(path, file) || !WriteAll(file, content) || fsync(file.Number()) != 0 ||
-      rename(newPath.c_str(), path.c_str()) != 0) {
+  if (!TakeOverRights(path, file) || WriteAll(file.Number(), content) != 0 ||
+      fsync(file.Number()) != 0 || rename(newPath.c_str(), path.c_str()) != 0) {
     const FileError error = FileErrorFromErrno(errno);
     unlink(newPath.c_str());
     return error;

@@ -1,9 +1,14 @@
-// An open file of the operating system that closes itself.
+// An open file of the operating system that closes itself; reading and writing that no signal and
+// no slow partner interrupts.
 #pragma once
 
 #include <unistd.h>
 
+#include <cstddef>
+#include <string_view>
 #include <utility>
+
+#include "common/expected.h"
 
 namespace kav {
 
@@ -29,5 +34,12 @@ class FileDescriptor {
  private:
   int descriptor_;
 };
+
+/// Writes all of `text`, waiting if the other side is slow. Answers 0 or the system's error.
+int WriteAll(int descriptor, std::string_view text);
+
+/// Reads up to `size` bytes into `data`, waiting until there are any. Answers how many there were,
+/// 0 at the end of the input; fails with the system's error.
+Expected<std::size_t, int> ReadSome(int descriptor, char* data, std::size_t size);
 
 }  // namespace kav

@@ -1,15 +1,15 @@
-// Why a file could not be read or written, as far as the user can do something about it.
+// Why a file could not be read or written, told apart by what the user can do about it.
 #pragma once
 
 namespace kav {
 
 enum class FileError {
   NotThere,      ///< nothing has this name
-  BadPath,       ///< what should be a folder on the way there is none, or cannot be made
+  BadPath,       ///< a folder of the path is no folder, or cannot be made
   NotAFile,      ///< a folder, a device or the like has this name
   TooLarge,      ///< more than may be read
   Busy,          ///< another program keeps it locked
-  NoPermission,  ///< belongs to somebody else
+  NoPermission,  ///< this user may not
   ReadOnly,      ///< the whole disk cannot be written
   Full,          ///< no space, or no more of it for this user
   Device,        ///< anything else: the disk itself fails

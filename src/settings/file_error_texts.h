@@ -10,7 +10,7 @@ namespace kav {
 
 inline constexpr std::u16string_view kDiskFails = u"the disk reports an error; check the disk";
 
-/// Why, and what to do: a clause that goes on after "...: " and ends without a point.
+/// Why, and what to do: a clause to follow "...: ", without a full stop at its end.
 inline std::u16string_view ReasonAndRemedy(FileError error) {
   switch (error) {
     case FileError::NotThere:

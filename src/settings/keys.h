@@ -1,4 +1,4 @@
-// Every setting there is, with its default. Spellings are those of users' files and never change.
+// All settings, with their defaults. Their spellings are those of users' files and never change.
 #pragma once
 
 #include <cstdint>
@@ -12,8 +12,8 @@ namespace kav {
 using IntegerKey = SettingKey<std::int32_t>;
 using TextKey = SettingKey<std::string_view>;
 
-// The application: the screen to open, and the version that wrote the settings last. No screen
-// stored means a first start.
+// The application: the screen to open, and the version that wrote the settings last. If no screen
+// is stored, this is the first start.
 inline constexpr std::int32_t kNoModeStored = -100;
 inline constexpr IntegerKey kMode{"Config", "Mode", kNoModeStored};
 inline constexpr TextKey kVersion{"Config", "Version", ""};
@@ -24,8 +24,8 @@ inline constexpr IntegerKey kBaseType{"Config", "Base Type", 1};
 inline constexpr IntegerKey kDisplayType{"Config", "Display Type", 3};
 inline constexpr IntegerKey kPrecision{"Config", "Precision", 7};
 
-// The same of the matrix screen's cells, and what a new matrix is like: rows and columns (1 to 10),
-// the alignment of its cells (0 left, 1 right) and the width of its columns in pixels.
+// The same for the cells of the matrix screen, and the defaults of a new matrix: rows and columns
+// (1 to 10), the alignment of its cells (0 left, 1 right) and the width of its columns in pixels.
 inline constexpr IntegerKey kMatrixDisplayType{"Config", "Matrix Display Type", 0};
 inline constexpr IntegerKey kMatrixPrecision{"Config", "Matrix Precision", 12};
 inline constexpr IntegerKey kMatrixRows{"Config", "Matrix Default Row", 3};
@@ -45,8 +45,8 @@ inline NumberedKey CalMHistoryEntry(int number) {
   return {"MHistory", "CalMHistory" + std::to_string(number), ""};
 }
 
-// The function plotter: its equations (0 to 3), numbered from 0, the texts of its four fields, and
-// its history as that of the scientific screen.
+// The function plotter: its equations (0 to 3), numbered from 0; the texts of its four fields; and
+// its history, stored like that of the scientific screen.
 inline constexpr IntegerKey kEquationCount{"Grapher", "Grapher FunTotalNumber", 0};
 inline NumberedKey StoredEquation(int index) {
   return {"Grapher", "Fun" + std::to_string(index), ""};
@@ -97,8 +97,8 @@ inline NumberedKey MemoryVariable(int index) {
   return {"MemoryVar", "Var" + std::to_string(index), "0"};
 }
 
-// The window's place and size on the desktop ("x y width height", with " maximized" behind it where
-// the window was), shared by all screens.
+// The position and size of the window on the desktop, shared by all screens: "x y width height",
+// followed by " maximized" if the window was maximized.
 inline constexpr TextKey kWindowGeometry{"Config", "Window Geometry", ""};
 
 }  // namespace kav

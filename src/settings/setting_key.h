@@ -1,4 +1,4 @@
-// A setting's address and default, as one value.
+// The address of a setting and its default, as one value.
 #pragma once
 
 #include <cstdint>
@@ -7,8 +7,8 @@
 
 namespace kav {
 
-/// One setting: the section and the name it is stored under, spelled as users' files have them, and
-/// the value it has where none is stored. Value is std::int32_t for an integer setting and
+/// One setting: the section and the name it is stored under, spelled as in users' files, and the
+/// value it has if none is stored. Value is std::int32_t for an integer setting and
 /// std::string_view for a text setting (UTF-8, any characters, any length).
 template <class Value>
 struct SettingKey {
@@ -17,8 +17,8 @@ struct SettingKey {
   Value fallback;
 };
 
-/// A setting that is one of a numbered family, such as the entries of a history, and so has to be
-/// spelled when it is used. Always a text setting.
+/// A text setting of a numbered family, such as the entries of a history; its address is spelled
+/// when it is used.
 struct NumberedKey {
   std::string section;
   std::string name;

@@ -40,10 +40,6 @@ void SettingsStore::Put(std::string_view section, std::string_view name, StoredS
   MarkChanged();
 }
 
-bool MemorySettingsStore::Holds(std::string_view section, std::string_view name) const {
-  return Read(section, name).has_value();
-}
-
 std::optional<StoredSetting> MemorySettingsStore::Read(std::string_view section,
                                                        std::string_view name) const {
   const auto found = settings_.find({std::string(section), std::string(name)});

@@ -17,8 +17,8 @@ namespace kav {
 /// A setting as it is stored: a signed 32-bit integer or a UTF-8 text.
 using StoredSetting = std::variant<std::int32_t, std::string>;
 
-/// The user's settings as every model sees them. Reads and writes are in memory and never fail; it
-/// is the owner of the store who saves it to disk, or does not.
+/// The user's settings as models see them. Reads and writes are in memory and never fail; the owner
+/// of the store decides whether it is saved to disk.
 class SettingsStore {
  public:
   SettingsStore() = default;
@@ -26,9 +26,9 @@ class SettingsStore {
   SettingsStore& operator=(const SettingsStore&) = delete;
   virtual ~SettingsStore() = default;
 
-  /// The stored integer; the key's default where nothing or no integer is stored.
+  /// The stored integer; the key's default if nothing or no integer is stored.
   std::int32_t Get(const SettingKey<std::int32_t>& key) const;
-  /// The stored text; the key's default where nothing or no text is stored.
+  /// The stored text; the key's default if nothing or no text is stored.
   std::string Get(const SettingKey<std::string_view>& key) const;
   std::string Get(const NumberedKey& key) const;
 
@@ -37,20 +37,19 @@ class SettingsStore {
   void Set(const NumberedKey& key, std::string_view value);
 
   /// Runs `change`, which reads and writes settings of this store, as one step for all programs
-  /// that share them: it finds what the others stored before and none of them stores anything until
-  /// all is kept. For changes whose result depends on what is stored, such as the next free number.
-  /// Not to be called within another change. False where it could only be made in memory.
+  /// that share them: `change` finds what the others stored before, and none of them stores
+  /// anything until all is kept. For changes whose result depends on what is stored, such as the
+  /// next free number. Not to be called within another change. False if it was made in memory only.
   virtual bool Change(const std::function<void()>& change);
 
-  /// Takes over what other programs stored since; what this one changed and has not saved yet
-  /// stays.
+  /// Takes over what other programs have stored; what this one has changed and not saved yet stays.
   virtual void Refresh() {}
 
-  /// Differs from what it was before wherever any setting may have changed in between.
+  /// A number that changes whenever any setting may have changed.
   std::uint64_t Revision() const { return revision_; }
 
  protected:
-  /// To be called where settings change otherwise than by Set.
+  /// To be called when settings change otherwise than by Set.
   void MarkChanged() { ++revision_; }
 
  private:
@@ -64,10 +63,6 @@ class SettingsStore {
 
 /// Settings that live as long as the object: for tests, and for a run without a place to keep them.
 class MemorySettingsStore final : public SettingsStore {
- public:
-  /// Whether anything is stored at the address.
-  bool Holds(std::string_view section, std::string_view name) const;
-
  private:
   std::optional<StoredSetting> Read(std::string_view section, std::string_view name) const override;
   void Write(std::string_view section, std::string_view name, StoredSetting value) override;

@@ -43,13 +43,10 @@ class DataSource {
 
   /// The next bytes, valid until the next call; none at the end of the file.
   Expected<std::string_view, FileError> Next() {
-    ssize_t got = 0;
-    do {
-      got = read(file_.Number(), block_.data(), block_.size());
-    } while (got < 0 && errno == EINTR);
-    if (got < 0) return FileErrorFromErrno(errno);
-    position_ += static_cast<std::uint64_t>(got);
-    return std::string_view(block_.data(), static_cast<std::size_t>(got));
+    const auto got = ReadSome(file_.Number(), block_.data(), block_.size());
+    if (!got) return FileErrorFromErrno(got.error());
+    position_ += *got;
+    return std::string_view(block_.data(), *got);
   }
 
   /// Whether less was read than the file had when it was opened.

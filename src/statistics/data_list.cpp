@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <limits>
 #include <new>
 #include <span>
 #include <utility>
@@ -11,21 +10,14 @@
 #include "common/number_text.h"
 
 namespace kav {
-namespace {
-
-bool IsInt32(std::int64_t value) {
-  return value >= std::numeric_limits<std::int32_t>::min() &&
-         value <= std::numeric_limits<std::int32_t>::max();
-}
-
-}  // namespace
+namespace {}  // namespace
 
 std::string_view DataList::ValueText(std::size_t row, std::size_t variable) const {
   return TextOf(rows_[row], variable);
 }
 
 double DataList::Value(std::size_t row, std::size_t variable) const {
-  return ReadDataNumber(TextOf(rows_[row], variable));
+  return ReadLeadingNumber(TextOf(rows_[row], variable));
 }
 
 std::string DataList::CountText(std::size_t row) const {
@@ -174,7 +166,7 @@ void DataList::CompactTexts() {
 }
 
 double DataList::Key(const StoredRow& row, std::size_t column) const {
-  return column < Variables() ? ReadDataNumber(TextOf(row, column)) : row.count;
+  return column < Variables() ? ReadLeadingNumber(TextOf(row, column)) : row.count;
 }
 
 template <class Before>

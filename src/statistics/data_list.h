@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "statistics/data_number.h"
+#include "common/number_text.h"
 #include "statistics/text_arena.h"
 
 namespace kav {
@@ -35,7 +35,7 @@ struct DataRow {
   std::optional<std::int32_t> count;
 
   /// The number at the start of the text of variable 0 (X) or 1 (Y).
-  double Value(std::size_t variable) const { return ReadDataNumber(values[variable]); }
+  double Value(std::size_t variable) const { return ReadLeadingNumber(values[variable]); }
 };
 
 /// Why a list refuses a change. The list is then as it was.
@@ -79,7 +79,7 @@ class DataList {
   /// Calls `use(double value, std::int32_t count)` for a variable of each row, from the top.
   template <class Use>
   void ForEachValue(std::size_t variable, Use use) const {
-    for (const StoredRow& row : rows_) use(ReadDataNumber(TextOf(row, variable)), row.count);
+    for (const StoredRow& row : rows_) use(ReadLeadingNumber(TextOf(row, variable)), row.count);
   }
 
   // Each answers why it is refused, or nullopt when it is done.

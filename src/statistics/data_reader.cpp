@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "common/number_text.h"
-#include "statistics/data_number.h"
 
 namespace kav {
 namespace {

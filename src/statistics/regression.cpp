@@ -60,8 +60,7 @@ double Centred(double sum, double y, double x, double n) {
 }
 
 std::string Spelled(double coefficient, DisplayFormat format) {
-  const auto text = FormatForInsertion(coefficient, format);
-  return text ? *text : text.error().message;
+  return TextOrMessage(FormatForInsertion(coefficient, format));
 }
 
 }  // namespace

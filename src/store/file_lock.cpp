@@ -16,8 +16,7 @@ constexpr std::chrono::milliseconds kBetweenTries{2};
 
 Expected<FileLock, FileError> FileLock::Acquire(const std::string& path,
                                                 std::chrono::milliseconds patience) {
-  // Never through a link that somebody may have laid in a shared folder, and never held up by a
-  // pipe.
+  // Follows no link, which somebody may have put into a shared folder, and waits for no pipe.
   constexpr int kFlags = O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
   FileDescriptor file(open(path.c_str(), kFlags, S_IRUSR | S_IWUSR));
   if (!file.IsOpen()) return FileErrorFromErrno(errno);

@@ -11,13 +11,13 @@
 
 namespace kav {
 
-/// Holds the exclusive lock of a lock file for as long as it lives; the end of the process, however
-/// it comes, ends it too. The lock file itself stays: removing it would let two processes lock two
-/// files of one name.
+/// Holds the exclusive lock of a lock file as long as it lives; any end of the process ends the
+/// lock too. The lock file itself stays: if it were removed, two processes could lock two files of
+/// one name.
 class FileLock {
  public:
-  /// Locks the file `path`, made where it is missing (readable by its owner only). Waits up to
-  /// `patience` for the process that has it; FileError::Busy when that was not enough.
+  /// Locks the file `path`, which is made if it is missing (readable by its owner only). Waits up
+  /// to `patience` for a process that holds the lock, then fails with FileError::Busy.
   static Expected<FileLock, FileError> Acquire(const std::string& path,
                                                std::chrono::milliseconds patience);
 

@@ -25,7 +25,8 @@ std::string HomeOfUser() {
   return found != nullptr && found->pw_dir != nullptr ? found->pw_dir : "";
 }
 
-/// The file `name` of ours below the folder that `variable` names, or `belowHome` without one.
+/// Our file `name` in the folder that `variable` names or, without one, in `belowHome` of the home
+/// folder; empty if there is none.
 std::string InUserFolder(const char* variable, const char* belowHome, std::string_view name) {
   std::string folder = PathFromEnvironment(variable);
   if (folder.empty()) {

@@ -1,4 +1,4 @@
-// Where the user's files stand unless somebody says otherwise.
+// The default places of the user's files.
 #pragma once
 
 #include <string>
@@ -6,13 +6,14 @@
 
 namespace kav {
 
-/// "kav-calculator/settings.toml" in the user's folder for settings: $XDG_CONFIG_HOME where that is
-/// an absolute path, ".config" in the home folder otherwise, which is $HOME or, where that is not
-/// set, the one in the system's list of users. Empty where there is no home folder either.
+/// "kav-calculator/settings.toml" in the user's folder for settings: $XDG_CONFIG_HOME if that is an
+/// absolute path, else ".config" in the home folder. The home folder is $HOME if that is an
+/// absolute path, else the one in the system's list of users. Empty if there is no home folder
+/// either.
 std::string DefaultSettingsPath();
 
-/// "kav-calculator/" and `name` in the user's folder for what programs remember from one run to the
-/// next: $XDG_STATE_HOME, or ".local/state" in the home folder. Otherwise as above.
+/// "kav-calculator/" and `name` in the user's folder for what programs remember between runs:
+/// $XDG_STATE_HOME, or ".local/state" in the home folder; found in the same way.
 std::string StatePath(std::string_view name);
 
 }  // namespace kav

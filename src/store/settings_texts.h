@@ -1,4 +1,4 @@
-// What the user is told about the settings on disk: what happened, where, and what to do.
+// What the user is told about the settings on disk: what happened, to which file, and what to do.
 #pragma once
 
 #include <string>

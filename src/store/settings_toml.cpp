@@ -12,8 +12,8 @@
 namespace kav {
 namespace {
 
-// The most levels of tables and arrays. Well below what the parser takes at most, since a level may
-// be written in more than one way.
+// The most levels of tables and arrays. Well below the most that the parser takes: a level may be
+// written in more than one way.
 constexpr int kDeepest = 32;
 
 constexpr std::string_view kFirstLine =
@@ -53,7 +53,7 @@ std::optional<StoredSetting> SettingOf(const toml::node& node) {
   return std::nullopt;
 }
 
-/// The table of this name in `root`, put there in place of anything else.
+/// The table `name` in `root`; put there, in place of anything else, if it is missing.
 toml::table& SectionIn(toml::table& root, std::string_view name) {
   toml::node* found = root.get(name);
   if (found == nullptr || !found->is_table()) {
@@ -63,7 +63,7 @@ toml::table& SectionIn(toml::table& root, std::string_view name) {
   return *found->as_table();
 }
 
-/// Whether it had to be changed.
+/// Gives the setting `name` of `section` the value; answers whether it had another one.
 bool Put(toml::table& section, std::string_view name, const StoredSetting& value) {
   const toml::node* present = section.get(name);
   if (present != nullptr && SettingOf(*present) == value) return false;

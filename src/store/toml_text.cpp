@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "common/ascii.h"
+
 namespace kav {
 namespace {
 
@@ -11,7 +13,7 @@ bool IsControl(char c) {
   return byte < 0x20 || byte == 0x7F;
 }
 
-/// The letter that stands behind a backslash for `c`, 0 where there is none.
+/// The letter that stands for `c` after a backslash; 0 if there is none.
 char EscapeLetter(char c) {
   switch (c) {
     case '\b':
@@ -44,23 +46,19 @@ void AppendEscaped(std::string& out, char c) {
 }
 
 bool IsBareKeyCharacter(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' ||
-         c == '_';
+  return IsLetter(c) || IsDigit(c) || c == '-' || c == '_';
 }
 
-bool StartsWith(std::string_view text, std::string_view start) {
-  return text.substr(0, start.size()) == start;
-}
-
-/// The length of the string literal that opens `toml`, of any of the four kinds; all of `toml`
-/// where it does not end. A string on one line that meets the end of the line is not TOML.
+/// The length of the string literal of any of the four kinds that opens `toml`; that of all of
+/// `toml` if the string does not end. A one-line string that runs into the end of its line is not
+/// TOML, so it does not matter here.
 std::size_t StringLength(std::string_view toml) {
   const char quote = toml.front();
   const std::string_view three = quote == '"' ? R"(""")" : "'''";
-  const bool isLong = StartsWith(toml, three);
+  const bool isLong = toml.starts_with(three);
   const std::string_view end = isLong ? three : three.substr(0, 1);
   std::size_t i = end.size();
-  while (i < toml.size() && !StartsWith(toml.substr(i), end)) {
+  while (i < toml.size() && !toml.substr(i).starts_with(end)) {
     i += quote == '"' && toml[i] == '\\' ? 2 : 1;
   }
   i += end.size();

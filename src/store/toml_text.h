@@ -1,4 +1,4 @@
-// TOML as text: how a key and a string are written, and which texts are worth reading at all.
+// TOML as text: how a key and a string are written, and which texts are safe to read.
 #pragma once
 
 #include <string>
@@ -6,10 +6,10 @@
 
 namespace kav {
 
-/// Adds `text` (UTF-8) in quotes on one line, so that any characters read back as they are.
+/// Adds `text` (UTF-8) to `out`, in quotes and on one line; all characters read back as they are.
 void AppendTomlString(std::string& out, std::string_view text);
 
-/// Adds `key` bare where TOML allows that, in quotes otherwise.
+/// Adds `key` (UTF-8) to `out`: bare if TOML allows that, in quotes otherwise.
 void AppendTomlKey(std::string& out, std::string_view key);
 
 /// The most dots in one dotted key that a modest document has.
@@ -17,10 +17,10 @@ inline constexpr int kMostDotsInAKey = 32;
 /// The most marks of structure (= , . [ {) outside strings and comments that a modest document has.
 inline constexpr int kMostTomlMarks = 50'000;
 
-/// Whether reading `toml` takes stack, memory and time within reason. Each dot of a key is a level
-/// of tables to recurse through, and each mark may cost memory and a search through those before
-/// it; the parser puts no bound to either. Settings have some hundred marks and keys without dots.
-/// Promises nothing about a text that is not TOML.
+/// Whether `toml` can be read with little stack, memory and time. Each dot of a key is a level of
+/// tables to recurse through, and each mark may cost memory and a search through those before it;
+/// the parser limits neither. Settings have some hundred marks and keys without dots. Promises
+/// nothing about a text that is not TOML.
 bool IsModestToml(std::string_view toml);
 
 }  // namespace kav

@@ -26,7 +26,7 @@ class Writer {
     return node.is_table() && !node.as_table()->is_inline();
   }
 
-  /// Headings below bring a table without values of its own with them.
+  /// A table without values of its own is made by the headings of the tables in it.
   static bool NeedsHeading(const toml::table& table) {
     return table.empty() || !std::all_of(table.begin(), table.end(), [](const auto& entry) {
              return HasHeading(entry.second);
@@ -87,16 +87,16 @@ class Writer {
     out_ += array.empty() ? "[]" : "]";
   }
 
-  void Print(const toml::value<std::string>& value) { AppendTomlString(out_, value.get()); }
-  void Print(const toml::value<std::int64_t>& value) { out_ += PrintInteger(value.get()); }
-  void Print(const toml::value<bool>& value) { out_ += value.get() ? "true" : "false"; }
-  void Print(const toml::value<double>& value) { Print(value.get()); }
-  void Print(const toml::value<toml::date>& value) { Print(value.get()); }
-  void Print(const toml::value<toml::time>& value) { Print(value.get()); }
-  void Print(const toml::value<toml::date_time>& value) { Print(value.get()); }
+  template <class Plain>
+  void Print(const toml::value<Plain>& value) {
+    Print(value.get());
+  }
+  void Print(const std::string& text) { AppendTomlString(out_, text); }
+  void Print(std::int64_t integer) { out_ += PrintInteger(integer); }
+  void Print(bool isTrue) { out_ += isTrue ? "true" : "false"; }
 
-  /// Few digits where few are enough, no endless zeros for a very large or small one, and always a
-  /// sign that it is not an integer.
+  /// With as few digits as read back if it is of everyday size, else with an exponent; always in a
+  /// form that is not an integer.
   void Print(double value) {
     const double magnitude = std::abs(value);
     const bool isPlain = value == 0 || (magnitude >= 1e-5 && magnitude < 1e17);

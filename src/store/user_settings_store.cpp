@@ -17,23 +17,32 @@ namespace {
 constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
 constexpr std::chrono::milliseconds kPatience{2000};
 
-/// The content of a settings file, empty where there is no file yet; nullopt where the file is too
-/// large to be one.
-Expected<std::optional<std::string>, FileError> ReadFile(const std::string& path) {
+/// A file that is too large to hold settings.
+struct TooLarge {};
+using FileContent = std::variant<std::string, TooLarge, FileError>;
+
+/// The content of a settings file; empty if there is no file yet.
+FileContent ReadFile(const std::string& path) {
   auto content = ReadWholeFile(path, kLargestFile);
-  if (content) return std::optional(*std::move(content));
+  if (content) return *std::move(content);
   switch (content.error()) {
     case FileError::NotThere:
     case FileError::BadPath:
-      return std::optional(std::string());
+      return std::string();
     case FileError::TooLarge:
-      return std::optional<std::string>();
+      return TooLarge{};
     default:
       return content.error();
   }
 }
 
-/// What cannot be read back is not written.
+/// The settings in what was read; nullopt if they are damaged or cannot be read.
+std::optional<SettingsTable> SettingsIn(const FileContent& content) {
+  const auto* toml = std::get_if<std::string>(&content);
+  return toml == nullptr ? std::nullopt : ReadSettings(*toml);
+}
+
+/// The settings in `toml`, which is about to be written; nullopt if it would not read back.
 std::optional<SettingsTable> ReadBack(std::string_view toml) {
   return toml.size() > kLargestFile ? std::nullopt : ReadSettings(toml);
 }
@@ -66,7 +75,7 @@ void UserSettingsStore::Write(std::string_view section, std::string_view name,
     changed.insert_or_assign(std::string(name), std::move(value));
     return;
   }
-  // Back to what the file holds: no change of ours, so another process may have its own.
+  // Set back to what the file holds: no change of ours, so that of another process may stand.
   if (const auto found = changed.find(name); found != changed.end()) changed.erase(found);
   if (changed.empty()) changes_.erase(std::string(section));
 }
@@ -74,13 +83,11 @@ void UserSettingsStore::Write(std::string_view section, std::string_view name,
 const SettingsTable& UserSettingsStore::Stored() const {
   if (stored_) return *stored_;
   stored_.emplace();
-  const auto content = ReadFile(path_);
-  if (!content) {
-    Tell(SettingsCannotBeRead(path_, content.error()));
-    return *stored_;
-  }
-  if (auto settings = *content ? ReadSettings(**content) : std::nullopt) {
+  const FileContent content = ReadFile(path_);
+  if (auto settings = SettingsIn(content)) {
     stored_ = std::move(settings);
+  } else if (const auto* error = std::get_if<FileError>(&content)) {
+    Tell(SettingsCannotBeRead(path_, *error));
   } else {
     Tell(SettingsAreDamaged(path_));
   }
@@ -89,9 +96,7 @@ const SettingsTable& UserSettingsStore::Stored() const {
 
 void UserSettingsStore::Refresh() {
   if (!stored_) return;
-  const auto content = ReadFile(path_);
-  if (!content || !*content) return;
-  auto settings = ReadSettings(**content);
+  auto settings = SettingsIn(ReadFile(path_));
   if (!settings || settings == stored_) return;
   stored_ = std::move(settings);
   MarkChanged();
@@ -129,8 +134,8 @@ std::optional<std::u16string> UserSettingsStore::TakeBackUnsaved() {
   return failure_;
 }
 
-/// Does `action` on the file behind all links while no other process saves; answers its failure or
-/// that to get the lock.
+/// Does `action` on the file that all links lead to while no other process saves; answers why it or
+/// the locking failed.
 std::optional<std::u16string> UserSettingsStore::WithLock(
     const std::function<std::optional<std::u16string>(const std::string& file)>& action) {
   if (path_.empty()) return SettingsCannotBeSaved(path_, FileError::BadPath);
@@ -138,7 +143,7 @@ std::optional<std::u16string> UserSettingsStore::WithLock(
   MakeFoldersFor(file);
   const auto lock = FileLock::Acquire(file + ".lock", patience_);
   if (!lock) {
-    // Whoever hangs with the lock in hand is waited for once, not at every save.
+    // A process that hangs while it holds the lock is waited for once, not at every save.
     if (lock.error() == FileError::Busy) patience_ = std::chrono::milliseconds(0);
     return SettingsCannotBeSaved(path_, lock.error());
   }
@@ -146,11 +151,14 @@ std::optional<std::u16string> UserSettingsStore::WithLock(
   return action(file);
 }
 
-/// With the lock in hand.
+/// Only while the lock is held.
 std::optional<std::u16string> UserSettingsStore::SaveOver(const std::string& file) {
-  const auto current = ReadFile(file);
-  if (!current) return SettingsCannotBeRead(path_, current.error());
-  auto merged = *current ? WithChanges(**current, changes_) : std::nullopt;
+  const FileContent content = ReadFile(file);
+  if (const auto* error = std::get_if<FileError>(&content)) {
+    return SettingsCannotBeRead(path_, *error);
+  }
+  const auto* current = std::get_if<std::string>(&content);
+  auto merged = current != nullptr ? WithChanges(*current, changes_) : std::nullopt;
   const bool isDamaged = !merged;
   if (isDamaged) {
     Tell(SettingsAreDamaged(path_));
@@ -161,7 +169,8 @@ std::optional<std::u16string> UserSettingsStore::SaveOver(const std::string& fil
   RemoveLeftovers(file);
   std::optional<FileError> error;
   if (isDamaged) error = KeepAside(file);
-  if (!error && merged != *current) error = ReplaceFile(file, *merged);
+  const bool isSame = current != nullptr && *merged == *current;
+  if (!error && !isSame) error = ReplaceFile(file, *merged);
   if (error) return SettingsCannotBeSaved(path_, *error);
   stored_ = std::move(readBack);
   changes_.clear();
@@ -169,7 +178,7 @@ std::optional<std::u16string> UserSettingsStore::SaveOver(const std::string& fil
   return std::nullopt;
 }
 
-/// Everything this process knows: what it read, and what it changed.
+/// All settings that this process knows: what it has read, and what it has changed.
 SettingsTable UserSettingsStore::All() const {
   SettingsTable all = Stored();
   Lay(all, changes_);

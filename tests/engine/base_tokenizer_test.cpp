@@ -15,9 +15,8 @@ namespace {
 using test::Spelled;
 
 std::string Cut(std::string_view text, BaseMode base) {
-  TokenArray tokens;
-  const auto error = TokenizeInBase(text, base, tokens);
-  return error ? error->message : Spelled(tokens);
+  const auto tokens = TokenizeInBase(text, base);
+  return tokens ? Spelled(*tokens) : tokens.error().message;
 }
 
 using Rows = std::vector<std::pair<std::string, std::string>>;
@@ -27,6 +26,10 @@ void ExpectCuts(BaseMode base, const Rows& rows) {
 }
 
 constexpr BaseMode kBases[] = {BaseMode::Binary, BaseMode::Octal, BaseMode::Hexadecimal};
+
+TEST(BaseTokenizer, AnEmptyTextIsNone) {
+  for (const BaseMode base : kBases) EXPECT_EQ(Cut("", base), "Expression is null.");
+}
 
 TEST(BaseTokenizer, ReadsTheDigitsOfItsBase) {
   ExpectCuts(BaseMode::Binary, {
@@ -73,9 +76,9 @@ TEST(BaseTokenizer, NumbersHaveAMostNumberOfDigits) {
   for (const LimitRow& row : kLimits) {
     const std::string longest(row.mostDigits, row.largestDigit);
     EXPECT_EQ(Cut(longest, row.base), row.largestValue);
-    TokenArray tokens;
-    EXPECT_EQ(TokenizeInBase(longest + row.largestDigit, row.base, tokens),
-              MakeError(CalcErrorCode::Free, row.message));
+    const auto tooLong = TokenizeInBase(longest + row.largestDigit, row.base);
+    ASSERT_FALSE(tooLong);
+    EXPECT_EQ(tooLong.error(), MakeError(CalcErrorCode::Free, row.message));
     EXPECT_EQ(Cut("0" + longest, row.base), row.message) << "leading zeros count";
     EXPECT_EQ(Cut(std::string(row.mostDigits, '0'), row.base), "0");
     EXPECT_EQ(Cut(longest + " " + longest, row.base), row.largestValue + " " + row.largestValue);
@@ -142,19 +145,16 @@ TEST(BaseTokenizer, HexadecimalReadsASmallAndAsANumberAndAWord) {
   EXPECT_EQ(Cut("and 1", BaseMode::Hexadecimal), "nd is not supported.");
   EXPECT_EQ(Cut("f and f", BaseMode::Hexadecimal), "nd is not supported.");
   EXPECT_EQ(Cut("and", BaseMode::Hexadecimal), "Expression error.");
-  TokenArray tokens;
-  EXPECT_TRUE(TokenizeInBase("and 1", BaseMode::Hexadecimal, tokens));
-  EXPECT_EQ(Spelled(tokens), "10");
+  EXPECT_EQ(Cut("aor 1", BaseMode::Hexadecimal), "10 o 1");
 }
 
 TEST(BaseTokenizer, AWordAtTheEndIsAnErrorWhateverItSays) {
   for (const BaseMode base : kBases) {
     for (const std::string word : {"or", "xor", "xnor", "not", "foo", "sin", "AND"}) {
-      TokenArray tokens;
-      const auto error = TokenizeInBase("1 " + word, base, tokens);
-      ASSERT_TRUE(error) << word;
-      EXPECT_EQ(error->code, CalcErrorCode::Expression) << word;
-      EXPECT_EQ(error->message, "Expression error.") << word;
+      const auto tokens = TokenizeInBase("1 " + word, base);
+      ASSERT_FALSE(tokens) << word;
+      EXPECT_EQ(tokens.error().code, CalcErrorCode::Expression) << word;
+      EXPECT_EQ(tokens.error().message, "Expression error.") << word;
     }
   }
   EXPECT_EQ(Cut("1 and", BaseMode::Binary), "Expression error.");
@@ -171,9 +171,9 @@ TEST(BaseTokenizer, The151stTokenIsStoredAndThe152ndRefused) {
   for (const BaseMode base : kBases) {
     std::string text;
     for (int i = 0; i < 151; ++i) text += "1 ";
-    TokenArray tokens;
-    EXPECT_FALSE(TokenizeInBase(text, base, tokens));
-    EXPECT_EQ(tokens.Count(), 151);
+    const auto tokens = TokenizeInBase(text, base);
+    ASSERT_TRUE(tokens);
+    EXPECT_EQ(tokens->Count(), 151);
     for (const std::string last : {"1", "(", "$", "or", "<"}) {
       EXPECT_EQ(Cut(text + last, base), "number exceeded length limit.") << last;
     }

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "engine/fold_case.h"
 #include "support/effort.h"
 #include "support/locales.h"
 #include "support/plain_engine.h"

@@ -45,13 +45,18 @@ TEST(ExpressionEngine, EveryEvaluationStartsAfresh) {
   EXPECT_TRUE(engine.HasError());
   EXPECT_EQ(engine.GetErrorText(), "Division exceeded calculation limit.");
   EXPECT_EQ(engine.GetResult(), 0);
-  ASSERT_TRUE(engine.Error());
-  EXPECT_EQ(engine.Error()->code, CalcErrorCode::CalculationLimit);
   engine.Evaluate("1+1");
   EXPECT_FALSE(engine.HasError());
   EXPECT_EQ(engine.GetErrorText(), "");
   EXPECT_EQ(engine.GetResult(), 2);
-  EXPECT_FALSE(engine.Error());
+}
+
+TEST(EvaluateFolded, AnswersWhatTheEngineKeeps) {
+  EXPECT_DOUBLE_EQ(*EvaluateFolded("2*sin(30)", kDegrees), 1);
+  const auto failed = EvaluateFolded("1/0", kDegrees);
+  ASSERT_FALSE(failed);
+  EXPECT_EQ(failed.error().code, CalcErrorCode::CalculationLimit);
+  EXPECT_EQ(Shown(EvaluateFolded("SIN(30)", kDegrees)), "SIN is not supported.");
 }
 
 TEST(ExpressionEngine, KeepsItsModes) {
@@ -326,32 +331,6 @@ TEST(Evaluate, BasesOverflowAsWell) {
   for (int i = 0; i < 40; ++i) product += "*" + std::string(8, 'f');
   EXPECT_EQ(Shown(product, kHexadecimal), "Out of range(overflow or underflow)");
   EXPECT_EQ(Shown("1 or " + product, kHexadecimal), "Out of range(overflow or underflow)");
-}
-
-TEST(FoldCase, TakesTheLettersOfAsciiDown) {
-  EXPECT_EQ(FoldCase("2*SIN(PI)+Ans\xC3\x84", BaseMode::Decimal), "2*sin(pi)+ans\xC3\x84");
-  EXPECT_EQ(FoldCase("1 AND 1 Or 0", BaseMode::Binary), "1 and 1 or 0");
-  EXPECT_EQ(FoldCase("@[`{", BaseMode::Octal), "@[`{");
-  EXPECT_EQ(FoldCase("", BaseMode::Hexadecimal), "");
-}
-
-// The a and d of a small "and" are digits there.
-TEST(FoldCase, HandsOverAndInCapitalsInHexadecimal) {
-  const std::vector<std::pair<std::string_view, std::string_view>> rows{
-      {"FF AND F", "ff AND f"},
-      {"ff and f", "ff AND f"},
-      {"f And(f)", "f AND(f)"},
-      {"and", "AND"},
-      {"andand", "ANDAND"},
-      {"1AND1AND1", "1AND1AND1"},
-      {"XOR XNOR NOT", "xor xnor not"},
-      {"an d", "an d"},
-      {"DAND", "dAND"},
-  };
-  for (const auto& [text, folded] : rows) {
-    EXPECT_EQ(FoldCase(text, BaseMode::Hexadecimal), folded);
-  }
-  EXPECT_EQ(FoldCase("FF AND F", BaseMode::Decimal), "ff and f");
 }
 
 TEST(Evaluate, FoldsWhatTheUserTyped) {

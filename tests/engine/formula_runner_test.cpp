@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "engine/function_names.h"
 #include "support/effort.h"
 #include "support/random_text.h"
 
@@ -74,7 +75,7 @@ void ExpectAgreement(const CheckedFormula& formula, FormulaRunner& runner, const
 
 TEST(FormulaRunner, AgreesOnEveryOperationAtEveryKindOfArgument) {
   std::vector<std::string> texts{"x", "-x", "x!", "+x*y+0", "(x)"};
-  for (const FunctionName& function : FunctionNames()) {
+  for (const FunctionName& function : kFunctionNames) {
     texts.push_back(std::string(function.name) + "(x)");
     texts.push_back(std::string(function.name) + " x*y");
     texts.push_back("y/" + std::string(function.name) + "(x)");

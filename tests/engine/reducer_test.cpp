@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "engine/base_tokenizer.h"
+#include "engine/function_names.h"
 #include "engine/tokenizer.h"
 #include "support/effort.h"
 #include "support/random.h"
@@ -20,13 +21,8 @@ using test::Spelled;
 
 /// The steps of a text that can be cut; the numbers are those of its tokens, from 0.
 std::string StepsOf(std::string_view text, BaseMode base) {
-  TokenArray tokens;
-  const auto error =
-      base == BaseMode::Decimal ? Tokenize(text, tokens) : TokenizeInBase(text, base, tokens);
-  EXPECT_FALSE(error) << text;
-  StepList steps;
-  Reduce(tokens, base, steps);
-  return Spelled(steps);
+  auto tokens = base == BaseMode::Decimal ? Tokenize(text) : TokenizeInBase(text, base);
+  return tokens ? Spelled(Reduce(*tokens, base)) : tokens.error().message;
 }
 
 using Rows = std::vector<std::pair<std::string_view, std::string_view>>;
@@ -104,7 +100,7 @@ TEST(Reducer, FunctionsTakeTheirGroup) {
 }
 
 TEST(Reducer, EveryFunctionHasItsStep) {
-  for (const FunctionName& function : FunctionNames()) {
+  for (const FunctionName& function : kFunctionNames) {
     const std::string name(function.name);
     EXPECT_EQ(StepsOf(name + "(1)", BaseMode::Decimal), name + " 2; finish 2");
     EXPECT_EQ(StepsOf(name + " 1", BaseMode::Decimal), name + " 1; finish 1");
@@ -190,11 +186,9 @@ TEST(Reducer, AGroupThatIsNotOpenedFails) {
 }
 
 TEST(Reducer, AUsedUpVariableIsNoOperator) {
-  TokenArray tokens;
-  ASSERT_FALSE(TokenizeFormula("(x*x)-x", VariableType::X, tokens));
-  StepList steps;
-  Reduce(tokens, BaseMode::Decimal, steps);
-  EXPECT_EQ(Spelled(steps), "mul 1 3; sub 1 6; finish 1");
+  auto tokens = TokenizeFormula("(x*x)-x", VariableType::X);
+  ASSERT_TRUE(tokens);
+  EXPECT_EQ(Spelled(Reduce(*tokens, BaseMode::Decimal)), "mul 1 3; sub 1 6; finish 1");
 }
 
 TEST(Reducer, BitOperatorsShareTheLevelOfSums) {
@@ -225,12 +219,12 @@ TEST(Reducer, SignsInABaseEndTheSameWay) {
 }
 
 TEST(Reducer, LeavesOnlyTheAnswerAlive) {
-  TokenArray tokens;
-  ASSERT_FALSE(Tokenize("-2*sin(30)+3!-(4^5)p 6", tokens));
+  auto cut = Tokenize("-2*sin(30)+3!-(4^5)p 6");
+  ASSERT_TRUE(cut);
+  TokenArray& tokens = *cut;
   std::vector<double> values;
   for (int i = 0; i < tokens.Count(); ++i) values.push_back(tokens[i].value);
-  StepList steps;
-  Reduce(tokens, BaseMode::Decimal, steps);
+  const StepList steps = Reduce(tokens, BaseMode::Decimal);
   ASSERT_EQ(steps.Last().operation, Operation::Finish);
   for (int i = 0; i < tokens.Count(); ++i) {
     EXPECT_EQ(tokens[i].isNumber, i == steps.Last().target ? 1 : 0) << i;
@@ -239,32 +233,19 @@ TEST(Reducer, LeavesOnlyTheAnswerAlive) {
   }
 }
 
-TEST(Reducer, ForgetsTheStepsOfTheTextBefore) {
-  StepList steps;
-  for (int i = 0; i < 3; ++i) {
-    TokenArray tokens;
-    ASSERT_FALSE(Tokenize("1+2", tokens));
-    Reduce(tokens, BaseMode::Decimal, steps);
-    EXPECT_EQ(Spelled(steps), "add 0 2; finish 0");
-  }
-}
-
 // No text leads here: where '!' stands, the order has found a value before it.
 TEST(Reducer, AFactorialWithoutAnOperandNeedsAnArgument) {
   TokenArray tokens;
   tokens.Append(OperatorToken('!'));
-  StepList steps;
-  Reduce(tokens, BaseMode::Decimal, steps);
-  EXPECT_EQ(Spelled(steps), "fail!");
+  EXPECT_EQ(Spelled(Reduce(tokens, BaseMode::Decimal)), "fail!");
 }
 
 TEST(Reducer, FullArraysHaveRoomForTheirSteps) {
   EXPECT_EQ(StepsOf(std::string(75, '(') + "1" + std::string(75, ')'), BaseMode::Decimal),
             "finish 75");
-  TokenArray tokens;
-  ASSERT_FALSE(Tokenize(std::string(150, '-') + "1", tokens));
-  StepList steps;
-  Reduce(tokens, BaseMode::Decimal, steps);
+  auto tokens = Tokenize(std::string(150, '-') + "1");
+  ASSERT_TRUE(tokens);
+  const StepList steps = Reduce(*tokens, BaseMode::Decimal);
   EXPECT_EQ(steps.Count(), 151);
   EXPECT_EQ(Spelled(steps.Last()), "finish 150");
 }
@@ -282,8 +263,7 @@ TEST(Reducer, StaysInsideItsTokensWhateverTheirOrder) {
                     : symbol == '(' || symbol == ')' ? ParenthesisToken(symbol)
                                                      : OperatorToken(symbol));
     }
-    StepList steps;
-    Reduce(tokens, run % 2 == 0 ? BaseMode::Decimal : BaseMode::Octal, steps);
+    const StepList steps = Reduce(tokens, run % 2 == 0 ? BaseMode::Decimal : BaseMode::Octal);
     ASSERT_GE(steps.Count(), 1);
     ASSERT_LE(steps.Count(), StepList::kCapacity);
     for (const Step& step : steps) {

@@ -16,13 +16,11 @@ namespace {
 using test::PlainToken;
 using test::PlainTokens;
 
-/// The message about the order of `text`, which can be cut; "" where it passes.
+/// The message about the order of `text`, which can be cut; "" if it passes.
 std::string OrderOf(std::string_view text, BaseMode base) {
-  TokenArray tokens;
-  const auto unreadable =
-      base == BaseMode::Decimal ? Tokenize(text, tokens) : TokenizeInBase(text, base, tokens);
-  EXPECT_FALSE(unreadable) << text;
-  const auto error = CheckOrder(tokens, base);
+  const auto tokens = base == BaseMode::Decimal ? Tokenize(text) : TokenizeInBase(text, base);
+  if (!tokens) return "not cut: " + tokens.error().message;
+  const auto error = CheckOrder(*tokens, base);
   return error ? error->message : "";
 }
 
@@ -236,12 +234,12 @@ TEST(Order, EveryShortLineIsJudgedByTheRules) {
 }
 
 TEST(Order, VariablesCountAsNumbers) {
-  TokenArray tokens;
-  ASSERT_FALSE(TokenizeFormula("2*x+y", VariableType::XY, tokens));
-  EXPECT_FALSE(CheckOrder(tokens, kDecimal));
-  TokenArray called;
-  ASSERT_FALSE(TokenizeFormula("x(2)", VariableType::X, called));
-  EXPECT_EQ(CheckOrder(called, kDecimal)->message, kWrong);
+  const auto tokens = TokenizeFormula("2*x+y", VariableType::XY);
+  ASSERT_TRUE(tokens);
+  EXPECT_FALSE(CheckOrder(*tokens, kDecimal));
+  const auto called = TokenizeFormula("x(2)", VariableType::X);
+  ASSERT_TRUE(called);
+  EXPECT_EQ(CheckOrder(*called, kDecimal)->message, kWrong);
 }
 
 }  // namespace

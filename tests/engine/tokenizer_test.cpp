@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "engine/function_names.h"
 #include "support/spelled_tokens.h"
 
 namespace kav {
@@ -18,15 +19,13 @@ using test::Spelled;
 
 /// The tokens of `text`, or the message.
 std::string Cut(std::string_view text) {
-  TokenArray tokens;
-  const auto error = Tokenize(text, tokens);
-  return error ? error->message : Spelled(tokens);
+  const auto tokens = Tokenize(text);
+  return tokens ? Spelled(*tokens) : tokens.error().message;
 }
 
 std::string CutFormula(std::string_view text, VariableType type) {
-  TokenArray tokens;
-  const auto error = TokenizeFormula(text, type, tokens);
-  return error ? error->message : Spelled(tokens);
+  const auto tokens = TokenizeFormula(text, type);
+  return tokens ? Spelled(*tokens) : tokens.error().message;
 }
 
 using Rows = std::vector<std::pair<std::string, std::string>>;
@@ -145,11 +144,11 @@ TEST(Tokenizer, KnowsEveryFunctionByItsName) {
       {"sinh", 50}, {"cosh", 51}, {"tanh", 52}, {"log", 47},  {"ln", 48},   {"exp", 49},
       {"sqrt", 53}, {"abs", 54},  {"int", 55},  {"frac", 56},
   };
-  ASSERT_EQ(FunctionNames().size(), functions.size());
+  ASSERT_EQ(kFunctionNames.size(), functions.size());
   for (std::size_t i = 0; i < functions.size(); ++i) {
     const auto& [name, code] = functions[i];
-    EXPECT_EQ(FunctionNames()[i].name, name);
-    EXPECT_EQ(static_cast<int>(FunctionNames()[i].code), code);
+    EXPECT_EQ(kFunctionNames[i].name, name);
+    EXPECT_EQ(static_cast<int>(kFunctionNames[i].code), code);
     EXPECT_EQ(Cut(name + "1"), "F" + std::to_string(code) + " 1");
     EXPECT_EQ(Cut(name), "(" + name + ") needs an argument.");
     EXPECT_EQ(Cut(name + "x(1)"), name + "x is not supported.");
@@ -213,32 +212,31 @@ std::string Repeated(std::string_view piece, int count) {
 
 TEST(Tokenizer, The151stTokenIsStoredAndThe152ndRefused) {
   for (const int count : {150, 151}) {
-    TokenArray tokens;
-    EXPECT_FALSE(Tokenize(Repeated("1 ", count), tokens)) << count;
-    EXPECT_EQ(tokens.Count(), count);
+    const auto tokens = Tokenize(Repeated("1 ", count));
+    ASSERT_TRUE(tokens) << count;
+    EXPECT_EQ(tokens->Count(), count);
   }
   for (const std::string last : {"1", "(", "$", "1.2.3", "foo", "sin", "<"}) {
     EXPECT_EQ(Cut(Repeated("1 ", 151) + last), "number exceeded length limit.") << last;
   }
-  TokenArray tokens;
-  EXPECT_FALSE(Tokenize(Repeated("(", 151) + "    ", tokens));
-  EXPECT_EQ(tokens.Count(), 151);
+  const auto tokens = Tokenize(Repeated("(", 151) + "    ");
+  ASSERT_TRUE(tokens);
+  EXPECT_EQ(tokens->Count(), 151);
 }
 
-TEST(Tokenizer, KeepsWhatItCutBeforeAnError) {
-  TokenArray tokens;
-  EXPECT_TRUE(Tokenize("1+2$3", tokens));
-  EXPECT_EQ(Spelled(tokens), "1 + 2");
+TEST(Tokenizer, AnEmptyTextIsNone) {
+  EXPECT_EQ(Cut(""), "Expression is null.");
+  EXPECT_EQ(CutFormula("", VariableType::X), "Expression is null.");
 }
 
 TEST(FormulaTokenizer, VariablesAreOperands) {
-  TokenArray tokens;
-  EXPECT_FALSE(TokenizeFormula("x^2+y z", VariableType::XYZ, tokens));
-  EXPECT_EQ(Spelled(tokens), "x ^ 2 + y z");
+  const auto tokens = TokenizeFormula("x^2+y z", VariableType::XYZ);
+  ASSERT_TRUE(tokens);
+  EXPECT_EQ(Spelled(*tokens), "x ^ 2 + y z");
   for (const int i : {0, 4, 5}) {
-    EXPECT_EQ(tokens[i].isNumber, 1);
-    EXPECT_EQ(tokens[i].value, 0);
-    EXPECT_EQ(tokens[i].kind, TokenKind::Operand);
+    EXPECT_EQ((*tokens)[i].isNumber, 1);
+    EXPECT_EQ((*tokens)[i].value, 0);
+    EXPECT_EQ((*tokens)[i].kind, TokenKind::Operand);
   }
   EXPECT_EQ(CutFormula("2x", VariableType::X), "2 x");
   EXPECT_EQ(CutFormula("sinx", VariableType::X), "sinx is not supported.");
@@ -286,10 +284,11 @@ TEST(FormulaTokenizer, VariablesAreThoseOfTheType) {
 }
 
 TEST(FormulaTokenizer, MissingAndForbiddenVariablesAreFreeMessages) {
-  TokenArray tokens;
-  EXPECT_EQ(TokenizeFormula("y", VariableType::X, tokens)->code, CalcErrorCode::Free);
-  TokenArray others;
-  EXPECT_EQ(TokenizeFormula("1", VariableType::X, others)->code, CalcErrorCode::Free);
+  for (const std::string_view text : {"y", "1"}) {
+    const auto tokens = TokenizeFormula(text, VariableType::X);
+    ASSERT_FALSE(tokens) << text;
+    EXPECT_EQ(tokens.error().code, CalcErrorCode::Free) << text;
+  }
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/is_stored.h"
+
 namespace kav {
 namespace {
 
@@ -98,8 +100,8 @@ TEST(History, SavedEntriesAreNumberedFromOneTheNewestLast) {
   EXPECT_EQ(store.Get(Entry(1)), "7");
   EXPECT_EQ(store.Get(Entry(2)), "8");
   EXPECT_EQ(store.Get(Entry(3)), "9");
-  EXPECT_FALSE(store.Holds("History", "CalHistory0"));
-  EXPECT_FALSE(store.Holds("History", "CalHistory4"));
+  EXPECT_FALSE(test::IsStored(store, "History", "CalHistory0"));
+  EXPECT_FALSE(test::IsStored(store, "History", "CalHistory4"));
 }
 
 TEST(History, MatrixEntriesAreNumberedFromZeroInASectionOfTheirOwn) {
@@ -109,8 +111,8 @@ TEST(History, MatrixEntriesAreNumberedFromZeroInASectionOfTheirOwn) {
   EXPECT_EQ(store.Get(NumberedKey{"MHistory", "CalMHistory0", ""}), "7");
   EXPECT_EQ(store.Get(NumberedKey{"MHistory", "CalMHistory1", ""}), "8");
   EXPECT_EQ(store.Get(NumberedKey{"MHistory", "CalMHistory2", ""}), "9");
-  EXPECT_FALSE(store.Holds("MHistory", "CalMHistory3"));
-  EXPECT_FALSE(store.Holds("History", "CalHistoryCount"));
+  EXPECT_FALSE(test::IsStored(store, "MHistory", "CalMHistory3"));
+  EXPECT_FALSE(test::IsStored(store, "History", "CalHistoryCount"));
   EXPECT_EQ(History::Load(store, kMatrixHistory).Entries(),
             (std::vector<std::u16string>{u"7", u"8", u"9"}));
   EXPECT_TRUE(History::Load(store, kCalculatorHistory).IsEmpty());

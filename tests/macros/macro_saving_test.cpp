@@ -9,6 +9,7 @@
 #include "common/number_text.h"
 #include "macros/macro_store.h"
 #include "store/user_settings_store.h"
+#include "support/is_stored.h"
 #include "support/stored_macros.h"
 #include "support/temporary_folder.h"
 
@@ -278,7 +279,7 @@ TEST_F(MacroSaving, RemovingMovesThoseBehindUpAndBlanksTheLastSection) {
   EXPECT_EQ(TextsOf(store_, 2), MacroTexts{});
   EXPECT_EQ(store_.Get(kCount), 2);
   for (const char* name : {"Name", "Type", "Formula"}) {
-    EXPECT_TRUE(store_.Holds("Macro2", name)) << name << " is blank, not gone";
+    EXPECT_TRUE(test::IsStored(store_, "Macro2", name)) << name << " is blank, not gone";
   }
 }
 

@@ -145,16 +145,16 @@ TEST(MacroStore, FormulasComeCheckedByTheirOwnType) {
                       {"empty", "TYPE1 : F(X)", ""}});
   const MacroStore macros(store);
   const auto message = [&](int i) {
-    return macros.Checked(i) ? std::string() : macros.Checked(i).error().message;
+    return macros.Checked(i) ? std::string() : macros.Checked(i).error();
   };
   ASSERT_TRUE(macros.Checked(0));
   EXPECT_EQ(*macros.Checked(0)->At({3, 0, 0}, AngleUnit::Radians), 9.0);
   ASSERT_TRUE(macros.Checked(1));
   EXPECT_EQ(*macros.Checked(1)->At({3, 4, 0}, AngleUnit::Radians), 7.0);
-  EXPECT_EQ(message(2), "Argument error : Missing variable Y");
-  EXPECT_EQ(message(3), "Can not use variable Y");
+  EXPECT_EQ(message(2), "Macro formula is invalid");
+  EXPECT_EQ(message(3), "Macro formula is invalid");
   EXPECT_EQ(message(4), "Expression error.");
-  EXPECT_EQ(message(5), "Expression is null.");
+  EXPECT_EQ(message(5), "Macro formula is invalid");
 }
 
 TEST(MacroStore, AFormulaIsCheckedOnceUntilTheSettingsChange) {

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <random>
 
+#include "support/is_stored.h"
 #include "support/matrix_screen.h"
 #include "support/stored_macros.h"
 #include "support/temporary_folder.h"
@@ -69,7 +70,7 @@ TEST_F(MatrixScreen, ScreenIsSavedUnderItsKeys) {
   EXPECT_EQ(Stored("MHistory", "CalMHistoryCount"), 2);
   EXPECT_EQ(store_.Get(NumberedKey{"MHistory", "CalMHistory0", ""}), "[M1]");
   EXPECT_EQ(store_.Get(NumberedKey{"MHistory", "CalMHistory1", ""}), "[M1]*2");
-  EXPECT_FALSE(store_.Holds("MHistory", "CalMHistory2"));
+  EXPECT_FALSE(test::IsStored(store_, "MHistory", "CalMHistory2"));
 }
 
 TEST_F(MatrixScreen, FreshScreenIsSavedAsTheDefaults) {
@@ -101,8 +102,8 @@ TEST_F(MatrixScreen, IntegersThatTheScreenOnlyReadsAreSavedAsTheyWere) {
 TEST_F(MatrixScreen, NothingIsStoredBeforeSave) {
   Evaluate(u"[M1]");
   Press(u"DEG");
-  EXPECT_FALSE(store_.Holds("MHistory", "CalMHistoryCount"));
-  EXPECT_FALSE(store_.Holds("Config", "Angle Type"));
+  EXPECT_FALSE(test::IsStored(store_, "MHistory", "CalMHistoryCount"));
+  EXPECT_FALSE(test::IsStored(store_, "Config", "Angle Type"));
 }
 
 TEST_F(MatrixScreen, HistoryOutlivesTheScreen) {

@@ -5,12 +5,13 @@
 #include <string>
 
 #include "store/user_settings_store.h"
+#include "support/is_stored.h"
 #include "support/temporary_folder.h"
 
 namespace kav {
 namespace {
 
-/// Puts `value` where users' files have the variable `number`, counted from 0.
+/// Stores `value` as the variable `number`, counted from 0, at the address of users' files.
 void PutByHand(SettingsStore& store, int number, std::string_view value) {
   store.Set(NumberedKey{"MemoryVar", "Var" + std::to_string(number), ""}, value);
 }
@@ -24,7 +25,7 @@ TEST(MemoryVariables, FreshSettingsHoldTwentyZeros) {
   const MemoryVariables variables(store);
   ASSERT_EQ(MemoryVariables::kCount, 20);
   for (int i = 0; i < 20; ++i) EXPECT_EQ(variables.Get(i), "0") << i;
-  EXPECT_FALSE(store.Holds("MemoryVar", "Var0"));
+  EXPECT_FALSE(test::IsStored(store, "MemoryVar", "Var0"));
 }
 
 TEST(MemoryVariables, LinesCountFromOneInTwoDigits) {

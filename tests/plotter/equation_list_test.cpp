@@ -6,6 +6,8 @@
 #include <limits>
 #include <string>
 
+#include "support/is_stored.h"
+
 namespace kav {
 namespace {
 
@@ -76,7 +78,7 @@ TEST(EquationList, SavesItsEquationsInTheirOrder) {
   EXPECT_EQ(store.Get(kCount), 2);
   EXPECT_EQ(store.Get(Fun(0)), "sin(x)");
   EXPECT_EQ(store.Get(Fun(1)), "x");
-  EXPECT_FALSE(store.Holds("Grapher", "Fun2"));
+  EXPECT_FALSE(test::IsStored(store, "Grapher", "Fun2"));
 }
 
 TEST(EquationList, WhatWasDeletedIsNotLeftInTheSettings) {

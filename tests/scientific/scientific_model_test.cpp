@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <random>
 
+#include "support/is_stored.h"
 #include "support/scientific_screen.h"
 #include "support/stored_macros.h"
 
@@ -197,8 +198,8 @@ TEST_F(Screen, FreshScreenIsSavedAsTheDefaults) {
 
 TEST_F(Screen, NothingIsStoredBeforeSave) {
   Evaluate(u"1+1");
-  EXPECT_FALSE(store_.Holds("History", "CalHistoryCount"));
-  EXPECT_FALSE(store_.Holds("Config", "Base Type"));
+  EXPECT_FALSE(test::IsStored(store_, "History", "CalHistoryCount"));
+  EXPECT_FALSE(test::IsStored(store_, "Config", "Base Type"));
 }
 
 TEST_F(Screen, HistoryAngleUnitAndBaseComeBack) {

@@ -9,6 +9,7 @@
 #include "screens/dialog_layout.h"
 #include "screens/macro_editor_driver.h"
 #include "store/user_settings_store.h"
+#include "support/is_stored.h"
 #include "support/macro_fields.h"
 #include "support/temporary_folder.h"
 
@@ -215,7 +216,7 @@ TEST_F(MacroEditorDlgTest, DeletingFromTheMiddleMovesTheRestUpAndBlanksTheLast) 
   });
   EXPECT_EQ(TextsOf(store_, 1), (MacroTexts{"vol", "TYPE3 : F(X,Y,Z)", "x*y*z"}));
   EXPECT_EQ(TextsOf(store_, 2), MacroTexts{});
-  EXPECT_TRUE(store_.Holds("Macro2", "Name"));
+  EXPECT_TRUE(test::IsStored(store_, "Macro2", "Name"));
   EXPECT_EQ(store_.Get(SettingKey<std::int32_t>{"MacroInfo", "TotalNumber", 0}), 2);
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "settings/setting_key.h"
+#include "support/is_stored.h"
 
 namespace kav {
 namespace {
@@ -27,8 +28,8 @@ TEST(SettingsStore, AskingStoresNothing) {
   const MemorySettingsStore store;
   store.Get(kNumber);
   store.Get(kText);
-  EXPECT_FALSE(store.Holds("Section", "A Number"));
-  EXPECT_FALSE(store.Holds("Section", "A Text"));
+  EXPECT_FALSE(test::IsStored(store, "Section", "A Number"));
+  EXPECT_FALSE(test::IsStored(store, "Section", "A Text"));
 }
 
 TEST(SettingsStore, IntegersOfTheWholeRangeComeBack) {
@@ -54,7 +55,7 @@ TEST(SettingsStore, AnEmptyTextIsStoredAndNotTheDefault) {
   MemorySettingsStore store;
   store.Set(kText, "");
   EXPECT_EQ(store.Get(kText), "");
-  EXPECT_TRUE(store.Holds("Section", "A Text"));
+  EXPECT_TRUE(test::IsStored(store, "Section", "A Text"));
 }
 
 TEST(SettingsStore, AValueOfTheOtherTypeReadsAsTheDefault) {

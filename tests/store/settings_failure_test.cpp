@@ -281,7 +281,7 @@ TEST(SettingsFailure, WithoutSpaceTheFileStaysAndTheNextSaveHasAll) {
   EXPECT_EQ(reader.Get(NumberedKey{"History", "Long", ""}).size(), 20'000U);
 }
 
-/// Runs `work` with a disk of its own mounted at `folder`; -2 where this user may mount none.
+/// Runs `work` with a disk of its own mounted at `folder`; -2 if this user may mount none.
 template <class Work>
 int WithADisk(const std::string& folder, const char* options, Work work) {
   const int result = InAnotherProcess([&] {

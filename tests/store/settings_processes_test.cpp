@@ -1,5 +1,5 @@
-// The user's settings between processes: nobody's entry is lost, and whoever is killed harms
-// nothing.
+// The user's settings between processes: no entry is lost, and a process that is killed does no
+// harm.
 #include <gtest/gtest.h>
 #include <signal.h>
 

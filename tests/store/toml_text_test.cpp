@@ -85,7 +85,7 @@ TEST(IsModestToml, FiftyThousandMarksAreModestAndOneMoreIsNot) {
   EXPECT_FALSE(IsModestToml(std::string(50'001, ',')));
 }
 
-// Each holds more dots and marks than a modest document has, none of which is one.
+// Each holds more dots and marks than a modest document may have, but only in strings and comments.
 TEST(IsModestToml, StringsAndCommentsDoNotCount) {
   const std::string dots(100'000, '.');
   const std::string marks = Times(20'000, "=,.[{\n");

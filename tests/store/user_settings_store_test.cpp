@@ -13,33 +13,13 @@
 #include <string_view>
 #include <vector>
 
-#include "settings/setting_key.h"
-#include "support/temporary_folder.h"
+#include "store/user_settings_fixture.h"
 
 namespace kav {
 namespace {
 
 using std::string_literals::operator""s;
 using Names = std::vector<std::string>;
-
-constexpr SettingKey<std::int32_t> kNumber{"Config", "Angle Type", 42};
-constexpr SettingKey<std::string_view> kText{"History", "CalHistory1", "as ever"};
-
-/// The settings of a test, in a folder that is not there yet.
-class UserSettingsStoreTest : public testing::Test {
- protected:
-  std::string ReadText() const { return UserSettingsStore(path).Get(kText); }
-  std::int32_t ReadNumber() const { return UserSettingsStore(path).Get(kNumber); }
-
-  /// The settings as `toml`, as if written by hand.
-  void PutByHand(const std::string& toml) {
-    mkdir(folder.File("sub").c_str(), 0755);
-    PutFile(path, toml);
-  }
-
-  const TemporaryFolder folder;
-  const std::string path = folder.File("sub/settings.toml");
-};
 
 TEST_F(UserSettingsStoreTest, WhatIsNotStoredHasItsDefaultAndMakesNoFile) {
   UserSettingsStore store(path);
@@ -151,16 +131,17 @@ TEST_F(UserSettingsStoreTest, BytesThatAreNotUtf8BecomeReplacementCharacters) {
   EXPECT_EQ(ReadText(), stored);
 }
 
+const std::vector<std::string> kPieces{
+    " ",   "\n",   "\r", "=", "#", ";", "\"", "'", "\\", "[", "]",        ".",
+    "\0"s, "\x7F", "{",  "}", ",", "u", "\t", "0", "-",  "A", "\xC3\xA4", "\xF0\x9F\x98\x80"};
+
 TEST_F(UserSettingsStoreTest, RandomSettingsComeBack) {
   std::mt19937 random(20240607);
   const auto upTo = [&](unsigned most) { return static_cast<unsigned>(random()) % (most + 1); };
-  const std::vector<std::string> pieces{
-      " ",   "\n",   "\r", "=", "#", ";", "\"", "'", "\\", "[", "]",        ".",
-      "\0"s, "\x7F", "{",  "}", ",", "u", "\t", "0", "-",  "A", "\xC3\xA4", "\xF0\x9F\x98\x80"};
   const auto text = [&] {
     std::string made;
     for (unsigned length = upTo(12); length > 0; --length) {
-      made += pieces[upTo(static_cast<unsigned>(pieces.size()) - 1)];
+      made += kPieces[upTo(static_cast<unsigned>(kPieces.size()) - 1)];
     }
     return made;
   };
@@ -253,57 +234,6 @@ TEST_F(UserSettingsStoreTest, WhatAnotherStoreWroteToTheSameEffectIsNotWrittenAg
   EXPECT_EQ(StatusOf(path).st_ino, file);
 }
 
-TEST_F(UserSettingsStoreTest, TwoStoresOnOneFileLoseNothing) {
-  UserSettingsStore first(path);
-  UserSettingsStore second(path);
-  for (int i = 0; i < 20; ++i) {
-    const std::string number = std::to_string(i);
-    first.Set(NumberedKey{"First", "Entry" + number, ""}, "1." + number);
-    second.Set(NumberedKey{"Second", "Entry" + number, ""}, "2." + number);
-    second.Set(NumberedKey{"First", "Other" + number, ""}, "3." + number);
-    ASSERT_TRUE(first.Save());
-    ASSERT_TRUE(second.Save());
-  }
-  const UserSettingsStore reader(path);
-  for (int i = 0; i < 20; ++i) {
-    const std::string number = std::to_string(i);
-    EXPECT_EQ(reader.Get(NumberedKey{"First", "Entry" + number, ""}), "1." + number);
-    EXPECT_EQ(reader.Get(NumberedKey{"Second", "Entry" + number, ""}), "2." + number);
-    EXPECT_EQ(reader.Get(NumberedKey{"First", "Other" + number, ""}), "3." + number);
-  }
-}
-
-TEST_F(UserSettingsStoreTest, OnlyWhatThisStoreChangedGoesOverWhatOthersWrote) {
-  PutByHand("[Config]\n\"Angle Type\" = 1\nPrecision = 7\nVersion = 'old'");
-  constexpr SettingKey<std::int32_t> kDigits{"Config", "Precision", 0};
-  constexpr SettingKey<std::string_view> kVersionText{"Config", "Version", ""};
-  UserSettingsStore store(path);
-  store.Set(kNumber, 1);  // as it is stored: no change
-  store.Set(kDigits, 9);  // there
-  store.Set(kDigits, 7);  // and back: no change
-  store.Set(kVersionText, "new");
-  PutByHand("[Config]\n\"Angle Type\" = 2\nPrecision = 3\nVersion = 'other'");
-  ASSERT_TRUE(store.Save());
-  EXPECT_EQ(store.Get(kNumber), 2) << "after a save the others' settings hold here too";
-  EXPECT_EQ(store.Get(kDigits), 3);
-  EXPECT_EQ(store.Get(kVersionText), "new");
-  const UserSettingsStore reader(path);
-  EXPECT_EQ(reader.Get(kNumber), 2);
-  EXPECT_EQ(reader.Get(kDigits), 3);
-  EXPECT_EQ(reader.Get(kVersionText), "new");
-}
-
-TEST_F(UserSettingsStoreTest, WhatWasSavedOnceIsNoChangeAnyMore) {
-  UserSettingsStore store(path);
-  store.Set(kNumber, 2);
-  ASSERT_TRUE(store.Save());
-  PutByHand("[Config]\n\"Angle Type\" = 3");
-  store.Set(kText, "new");
-  ASSERT_TRUE(store.Save());
-  EXPECT_EQ(store.Get(kNumber), 3);
-  EXPECT_EQ(ReadNumber(), 3);
-}
-
 TEST_F(UserSettingsStoreTest, WhatIsWrittenByHandSurvivesWhateverItIs) {
   PutByHand("mine = [1, 2.5]\n[Config]\nextra = 1979-05-27\n[Own.Table]\nx = true\n");
   UserSettingsStore store(path);
@@ -316,92 +246,6 @@ TEST_F(UserSettingsStoreTest, WhatIsWrittenByHandSurvivesWhateverItIs) {
       "mine = [1, 2.5]\n"
       "\n[Config]\n\"Angle Type\" = 2\nextra = 1979-05-27\n"
       "\n[Own.Table]\nx = true\n");
-}
-
-TEST_F(UserSettingsStoreTest, RefreshShowsWhatOthersSavedAndKeepsWhatIsNotSavedYet) {
-  UserSettingsStore store(path);
-  store.Set(kNumber, 2);
-  PutByHand("[Config]\n\"Angle Type\" = 5\n[History]\nCalHistory1 = 'theirs'");
-  EXPECT_EQ(store.Get(kText), "as ever");
-  store.Refresh();
-  EXPECT_EQ(store.Get(kText), "theirs");
-  EXPECT_EQ(store.Get(kNumber), 2);
-  ASSERT_TRUE(store.Save());
-  EXPECT_EQ(ReadNumber(), 2);
-}
-
-TEST_F(UserSettingsStoreTest, RefreshFromWhatCannotBeReadChangesNothing) {
-  PutByHand("[Config]\n\"Angle Type\" = 5");
-  UserSettingsStore store(path);
-  EXPECT_EQ(store.Get(kNumber), 5);
-  PutByHand("?");
-  store.Refresh();
-  EXPECT_EQ(store.Get(kNumber), 5);
-  ASSERT_EQ(truncate(path.c_str(), (64 << 20) + 1), 0);
-  store.Refresh();
-  EXPECT_EQ(store.Get(kNumber), 5);
-  unlink(path.c_str());
-  mkdir(path.c_str(), 0700);
-  store.Refresh();
-  EXPECT_EQ(store.Get(kNumber), 5);
-  EXPECT_EQ(store.TakeNotice(), std::nullopt);
-}
-
-TEST_F(UserSettingsStoreTest, AChangeFindsWhatOthersStoredAndIsOnTheDiskAtOnce) {
-  UserSettingsStore store(path);
-  EXPECT_EQ(store.Get(kNumber), 42);
-  PutByHand("[Config]\n\"Angle Type\" = 7");
-  EXPECT_TRUE(store.Change([&] { store.Set(kNumber, store.Get(kNumber) + 1); }));
-  EXPECT_EQ(store.Get(kNumber), 8);
-  EXPECT_EQ(UserSettingsStore(path).Get(kNumber), 8);
-}
-
-TEST_F(UserSettingsStoreTest, AChangeTakesAlongWhatWasNotSavedYet) {
-  UserSettingsStore store(path);
-  constexpr SettingKey<std::string_view> kVersionText{"Config", "Version", ""};
-  store.Set(kVersionText, "unsaved");
-  EXPECT_TRUE(store.Change([&] { store.Set(kNumber, 3); }));
-  const UserSettingsStore reader(path);
-  EXPECT_EQ(reader.Get(kVersionText), "unsaved");
-  EXPECT_EQ(reader.Get(kNumber), 3);
-}
-
-TEST_F(UserSettingsStoreTest, AChangeThatChangesNothingWritesNothing) {
-  UserSettingsStore store(path);
-  EXPECT_TRUE(store.Change([] {}));
-  EXPECT_FALSE(Exists(path));
-}
-
-TEST_F(UserSettingsStoreTest, TheRevisionTellsOfWhatOthersStored) {
-  UserSettingsStore store(path);
-  EXPECT_EQ(store.Get(kNumber), 42);
-  const auto before = store.Revision();
-  PutByHand("[Config]\n\"Angle Type\" = 7");
-  store.Refresh();
-  EXPECT_NE(store.Revision(), before);
-  const auto refreshed = store.Revision();
-  PutByHand("[Config]\n\"Angle Type\" = 8");
-  EXPECT_TRUE(store.Change([] {}));
-  EXPECT_NE(store.Revision(), refreshed);
-}
-
-TEST_F(UserSettingsStoreTest, RefreshBeforeTheFirstSettingTouchesNothing) {
-  PutByHand("?");
-  UserSettingsStore store(path);
-  store.Refresh();
-  PutByHand("[Config]\n\"Angle Type\" = 5");
-  EXPECT_EQ(store.Get(kNumber), 5);
-  EXPECT_EQ(store.TakeNotice(), std::nullopt);
-}
-
-TEST_F(UserSettingsStoreTest, AFileThatSomebodyDeletedIsMadeAgainFromWhatChangedSince) {
-  PutByHand("[Config]\n\"Angle Type\" = 5\n[History]\nCalHistory1 = 'old'");
-  UserSettingsStore store(path);
-  store.Set(kText, "new");
-  unlink(path.c_str());
-  ASSERT_TRUE(store.Save());
-  EXPECT_EQ(ReadText(), "new");
-  EXPECT_EQ(ReadNumber(), 42);
 }
 
 TEST_F(UserSettingsStoreTest, ALinkStaysALinkAndItsTargetIsWritten) {

@@ -33,7 +33,7 @@ struct DeliveredRow {
   std::string name;
   std::string text;
   Real value;
-  Real halfDigit;  ///< half a unit of the last digit; 0 where the text is all there is
+  Real halfDigit;  ///< half a unit of the last digit; 0 if the text is exact
 };
 
 /// The groups whose numbers were agreed on and so have no further digits.

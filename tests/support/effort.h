@@ -19,7 +19,7 @@ inline constexpr bool kIsFast = true;
 inline constexpr bool kIsFast = true;
 #endif
 
-/// `count` tries, fewer where each of them is slow.
+/// `count` tries, fewer if each of them is slow.
 constexpr int Tries(int count) {
   return kIsFast ? count : count / 10;
 }

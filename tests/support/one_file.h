@@ -10,10 +10,10 @@
 
 namespace kav::test {
 
-/// Chooses the tests of `tests/NAME.cpp` where the first argument that is left is a NAME, such as
-/// "engine/tokenizer_test"; without one, or with a --gtest_filter, as a process that a test starts to
-/// see it die has, the choice stays as it is. False, and a line on stderr, if that file
-/// has none: a test that runs nothing must not pass. To be called after InitGoogleTest.
+/// Chooses the tests of `tests/NAME.cpp` if the first argument left is a NAME, such as
+/// "engine/tokenizer_test". Without one, or with a --gtest_filter (which the child process of a
+/// death test has), all stays as it is. False, with a line on stderr, if that file has no tests: a
+/// test that runs nothing must not pass. To be called after InitGoogleTest.
 inline bool ChooseTestsOfOneFile(int argc, const char* const* argv) {
   if (argc < 2 || testing::GTEST_FLAG(filter) != "*") return true;
   const std::string ending = std::string("tests/") + argv[1] + ".cpp";

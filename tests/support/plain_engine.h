@@ -1,4 +1,4 @@
-// The engine a second time, as plainly as its rules read: values are reduced where they stand, one
+// The engine a second time, as plainly as its rules read: values are reduced in place, one
 // sweep after another. Slow and easy to compare with the rules; what tests hold the engine against.
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace kav::test {
 
-/// `message` is empty where there is a value.
+/// `message` is empty if there is a value.
 struct PlainAnswer {
   double value = 0;
   std::string message;

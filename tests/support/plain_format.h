@@ -14,7 +14,7 @@ std::string PlainPrint(const char* format, int precision, double value);
 
 int PlainNaturalDecimals(double value);
 
-/// The text of `value`, or the message where it is not finite.
+/// The text of `value`, or the message if it is not finite.
 std::string PlainFormat(double value, DisplayFormat format, BaseMode base);
 
 }  // namespace kav::test

@@ -14,10 +14,10 @@ bool PlainSineZero(double x, AngleUnit unit);
 bool PlainCosineZero(double x, AngleUnit unit);
 bool PlainTangentPole(double x, AngleUnit unit);
 
-/// n! from n downward; -1 where `n` is negative or not whole.
+/// n! from n downward; -1 if `n` is negative or not whole.
 double PlainFactorial(double n);
 
-/// Truncated toward zero and taken modulo 2^32 into the signed range; 0 where it is not finite.
+/// Truncated toward zero and taken modulo 2^32 into the signed range; 0 if it is not finite.
 std::int32_t PlainInt32(double x);
 
 double PlainShiftLeft(double left, double right);

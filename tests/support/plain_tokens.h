@@ -26,7 +26,7 @@ inline constexpr std::array kPlainFunctions{"sin",  "cos",  "tan",  "asin", "aco
 /// The values of x, y and z, in this order.
 using PlainVariables = std::array<double, 3>;
 
-/// The tokens of a text up to the first error, and its message; empty where there is none.
+/// The tokens of a text up to the first error, and its message; empty if there is none.
 struct PlainText {
   PlainTokens tokens;
   std::string message;
@@ -41,7 +41,7 @@ PlainText ReadPlainTokens(std::string_view text, BaseMode base,
 /// for the ends of the text.
 bool PlainMayStand(char before, char symbol, char after, BaseMode base);
 
-/// The message about the order of `tokens`, empty where it is right.
+/// The message about the order of `tokens`, empty if it is right.
 std::string PlainOrderMessage(const PlainTokens& tokens, BaseMode base);
 
 }  // namespace kav::test

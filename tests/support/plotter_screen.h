@@ -52,7 +52,7 @@ class PlotterScreen : public testing::Test {
   static bool Is(const PlotterRequest& request) {
     return std::holds_alternative<Request>(request);
   }
-  /// What a request refuses; empty where it is another one.
+  /// What a request refuses; empty if it is another one.
   static std::u16string Told(const PlotterRequest& request) {
     const auto* refusal = std::get_if<PlotterRefusal>(&request);
     return refusal == nullptr ? std::u16string() : refusal->text;

@@ -80,7 +80,7 @@ pid_t StartProcess(Work work) {
   return child;
 }
 
-/// The number that a process ended with; -1 where it was killed.
+/// The number that a process ended with; -1 if it was killed.
 inline int ResultOf(pid_t child) {
   int status = 0;
   waitpid(child, &status, 0);
