@@ -67,7 +67,7 @@ function path_of(unit) {
   return sprintf("%s/unit_%02d.cpp", folder, unit)
 }
 
-BEGIN { most = 16 }
+BEGIN { most = 32 }
 
 /^ *"directory": / { directory = $0 }
 

@@ -17,6 +17,10 @@ mkdir -p "$folder"
 exec {lock}>"$folder/.lock"
 flock "$lock"
 
+# All presets compile the same sources, so they share what was compiled: by paths from here on, which
+# are the same in each folder of theirs.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=yes CCACHE_ABSSTDERR=yes
+
 configure() {
   cmake --preset "$preset" "$@" </dev/null >/dev/null
 }

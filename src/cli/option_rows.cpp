@@ -8,7 +8,7 @@
 
 #include "common/number_text.h"
 #include "display/number_input.h"
-#include "engine/expression_engine.h"
+#include "engine/fold_case.h"
 
 namespace kav {
 namespace {

@@ -46,8 +46,8 @@ enum class DataRefusal {
   NoMemory,
 };
 
-/// How many of some rows were taken, from the first on, and why the next one was refused: nullopt if
-/// all were taken.
+/// How many of some rows were taken, from the first on, and why the next one was refused: nullopt
+/// if all were taken.
 struct TakenRows {
   std::size_t count;
   std::optional<DataRefusal> refusal;

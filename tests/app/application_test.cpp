@@ -12,7 +12,7 @@
 
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::application_test {
 namespace {
 
 using std::chrono::milliseconds;
@@ -157,4 +157,4 @@ TEST_F(ApplicationTest, TheToolkitsOwnArgumentsAreNotRefused) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::application_test

@@ -8,7 +8,7 @@
 #include "screens/screen_driver.h"
 #include "settings/keys.h"
 
-namespace kav::test {
+namespace kav::test::frame_window_test {
 namespace {
 
 /// What happened to screens, in order: "make 1", "show 1", "close 1", "destroy 1".
@@ -369,4 +369,4 @@ TEST_F(FrameWindowTest, EqualsSavesTheStoreThroughTheFrame) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::frame_window_test

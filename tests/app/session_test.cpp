@@ -14,7 +14,7 @@
 #include "settings/keys.h"
 #include "support/temporary_folder.h"
 
-namespace kav::test {
+namespace kav::test::session_test {
 namespace {
 
 constexpr const char* kPathVariable = "KAV_TEST_SETTINGS";
@@ -216,4 +216,4 @@ TEST(EndSignals, AreHeldInThreadsThatStartLater) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::session_test

@@ -14,7 +14,7 @@
 
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::single_instance_test {
 namespace {
 
 using std::chrono::milliseconds;
@@ -265,4 +265,4 @@ TEST_F(MeetingFolderTest, MayHaveAPathLongerThanASocketsAddress) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::single_instance_test

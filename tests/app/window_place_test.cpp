@@ -5,7 +5,7 @@
 #include <array>
 #include <vector>
 
-namespace kav {
+namespace kav::window_place_test {
 namespace {
 
 TEST(WindowPlace, PrintsFourNumbersAndMaximized) {
@@ -57,4 +57,4 @@ TEST(WindowPlace, FirstWindowsAreInTheMiddleAndNeverLargerThanTheDesktop) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::window_place_test

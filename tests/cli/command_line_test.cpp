@@ -5,7 +5,7 @@
 #include "cli/commands.h"
 #include "cli/option_rows.h"
 
-namespace kav {
+namespace kav::command_line_test {
 namespace {
 
 using Arguments = std::vector<const char*>;
@@ -204,4 +204,4 @@ TEST(CommandLine, HelpAndVersionEndWithStatus0) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::command_line_test

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace kav {
+namespace kav::completion_test {
 namespace {
 
 using Names = std::vector<std::string>;
@@ -51,4 +51,4 @@ TEST(Completion, InsertsWhatIsSureAndListsTheRest) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::completion_test

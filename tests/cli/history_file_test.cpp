@@ -6,7 +6,7 @@
 
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::history_file_test {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -79,4 +79,4 @@ TEST_F(HistoryFileTest, AFolderInItsPlaceIsToldOnceAndLeft) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::history_file_test

@@ -10,7 +10,7 @@
 #include <thread>
 #include <vector>
 
-namespace kav {
+namespace kav::line_reader_test {
 namespace {
 
 constexpr std::size_t kBlock = 65536;
@@ -156,4 +156,4 @@ TEST(LineReader, AFailureEndsTheLinesAndIsKept) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::line_reader_test

@@ -5,7 +5,7 @@
 #include "cli/terminal.h"
 #include "support/temporary_folder.h"
 
-namespace kav::test {
+namespace kav::test::prompt_test {
 namespace {
 
 constexpr const char* kUp = "\x1b[A";
@@ -222,4 +222,4 @@ TEST_F(Prompt, AnUnknownTerminalWillDo) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::prompt_test

@@ -11,7 +11,7 @@
 #include "common/number_text.h"
 #include "settings/keys.h"
 
-namespace kav {
+namespace kav::unit_rows_test {
 namespace {
 
 std::u16string_view CaptionOf(std::string_view name) {
@@ -153,4 +153,4 @@ TEST(FindRow, WhatIsSeveralOrNoneIsNotGuessed) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::unit_rows_test

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-namespace kav {
+namespace kav::ascii_test {
 namespace {
 
 constexpr std::string_view kLower = "abcdefghijklmnopqrstuvwxyz";
@@ -50,4 +50,4 @@ TEST(EqualsIgnoringCase, ComparesWholeTextsOfBothKinds) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::ascii_test

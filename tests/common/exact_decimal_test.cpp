@@ -12,7 +12,7 @@
 
 #include "common/number_text.h"
 
-namespace kav {
+namespace kav::exact_decimal_test {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -168,4 +168,4 @@ TEST(ExactDecimal, AllTextsAreThoseOfTheCLibrary) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::exact_decimal_test

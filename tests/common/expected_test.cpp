@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-namespace kav {
+namespace kav::expected_test {
 namespace {
 
 using Answer = Expected<int, std::string>;
@@ -61,4 +61,4 @@ TEST(Expected, AssignmentTurnsASuccessIntoAFailureAndBack) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::expected_test

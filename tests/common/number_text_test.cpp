@@ -14,7 +14,7 @@
 #include "support/plain_format.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::number_text_test {
 namespace {
 
 using test::BitsOf;
@@ -309,4 +309,4 @@ TEST(Numbers, AreReadAndPrintedWithAPointInEveryLocale) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::number_text_test

@@ -10,7 +10,7 @@
 #include "support/effort.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::plain_number_test {
 namespace {
 
 using test::BitsOf;
@@ -142,4 +142,4 @@ TEST(IsInt32, KnowsTheEndsOfTheRange) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::plain_number_test

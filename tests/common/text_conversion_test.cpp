@@ -10,7 +10,7 @@
 #include "support/effort.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::text_conversion_test {
 namespace {
 
 using test::Random;
@@ -162,4 +162,4 @@ TEST(Shortened, NeverCutsACharacter) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::text_conversion_test

@@ -14,7 +14,7 @@
 #include "support/random.h"
 #include "support/unit_figures.h"
 
-namespace kav {
+namespace kav::conversion_test {
 namespace {
 
 using test::BitsOf;
@@ -260,4 +260,4 @@ TEST(ConvertByRate, MultipliesByTheRate) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::conversion_test

@@ -13,7 +13,7 @@
 #include "support/stored_conversions.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::converter_model_test {
 namespace {
 
 using test::StoreConversions;
@@ -394,4 +394,4 @@ TEST(ConverterModel, ListsWhatAnotherProgramStoredBeforeItOpened) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::converter_model_test

@@ -12,7 +12,7 @@
 #include "support/effort.h"
 #include "support/unit_figures.h"
 
-namespace kav {
+namespace kav::unit_tables_test {
 namespace {
 
 using test::BitsOf;
@@ -139,4 +139,4 @@ TEST(UnitTables, OldSpellingsStay) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::unit_tables_test

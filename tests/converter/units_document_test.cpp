@@ -16,7 +16,7 @@
 #include "support/effort.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::units_document_test {
 namespace {
 
 using test::BitsOf;
@@ -102,4 +102,4 @@ TEST(UnitsDocument, NamesRatesThatAreMoreThanOnePartInAMillionOff) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::units_document_test

@@ -13,7 +13,7 @@
 #include "support/stored_conversions.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::user_conversion_model_test {
 namespace {
 
 using test::kConversionCount;
@@ -371,4 +371,4 @@ TEST_F(UserConversionEditorOfTwo, DeletingWhatIsGoneDeletesNothingElse) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::user_conversion_model_test

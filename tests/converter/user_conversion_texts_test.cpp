@@ -7,7 +7,7 @@
 #include "common/number_text.h"
 #include "converter/user_conversions.h"
 
-namespace kav {
+namespace kav::user_conversion_texts_test {
 namespace {
 
 TEST(UserConversionText, IsSplitAtItsFirstArrow) {
@@ -124,4 +124,4 @@ TEST(ReadingRates, TakesNothingElse) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::user_conversion_texts_test

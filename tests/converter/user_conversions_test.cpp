@@ -11,7 +11,7 @@
 #include "support/stored_conversions.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::user_conversions_test {
 namespace {
 
 using test::kConversionCount;
@@ -383,4 +383,4 @@ TEST_F(UserConversionsOfTwo, RemovingFindsWhatTheOtherAdded) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::user_conversions_test

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace kav {
+namespace kav::display_settings_model_test {
 namespace {
 
 const std::u16string kPrecisionMessage = u"The precision must be a whole number from 0 to 15.";
@@ -257,4 +257,4 @@ TEST_F(DisplaySettingsModelTest, TheExampleIsThatOfThePage) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::display_settings_model_test

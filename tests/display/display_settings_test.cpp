@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <limits>
 
-namespace kav {
+namespace kav::display_settings_test {
 namespace {
 
 constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
@@ -115,4 +115,4 @@ TEST(DisplaySettings, AllEightAreStored) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::display_settings_test

@@ -12,7 +12,7 @@
 #include "support/plain_format.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::natural_decimals_test {
 namespace {
 
 using test::Random;
@@ -175,4 +175,4 @@ TEST(NaturalDecimals, AreThoseOfTheRules) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::natural_decimals_test

@@ -15,7 +15,7 @@
 #include "support/plain_format.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::number_format_test {
 namespace {
 
 using test::Random;
@@ -384,4 +384,4 @@ TEST(UsesPrecision, FloatingPointAndThousandsShowWhatTheValueHas) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::number_format_test

@@ -10,7 +10,7 @@
 
 #include "display/number_format.h"
 
-namespace kav {
+namespace kav::number_input_test {
 namespace {
 
 using namespace std::string_view_literals;
@@ -146,4 +146,4 @@ TEST(ReadShownNumber, ReadsBackWhatEveryDisplayTypeShows) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::number_input_test

@@ -9,7 +9,7 @@
 
 #include "support/spelled_tokens.h"
 
-namespace kav {
+namespace kav::base_tokenizer_test {
 namespace {
 
 using test::Spelled;
@@ -181,4 +181,4 @@ TEST(BaseTokenizer, The151stTokenIsStoredAndThe152ndRefused) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::base_tokenizer_test

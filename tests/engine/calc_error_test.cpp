@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace kav {
+namespace kav::calc_error_test {
 namespace {
 
 struct MessageRow {
@@ -72,4 +72,4 @@ TEST(CalcError, AreEqualWhereCodeAndMessageAre) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::calc_error_test

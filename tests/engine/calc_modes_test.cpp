@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace kav {
+namespace kav::calc_modes_test {
 namespace {
 
 TEST(CalcModes, HaveTheNumbersOfTheSettings) {
@@ -43,4 +43,4 @@ TEST(BaseModeFromSetting, UnknownNumbersAreDecimal) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::calc_modes_test

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-namespace kav {
+namespace kav::calc_token_test {
 namespace {
 
 TEST(CalcToken, KindsAndFunctionsHaveTheirNumbers) {
@@ -64,4 +64,4 @@ TEST(SymbolIndex, StaysInItsTableForEveryCharacter) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::calc_token_test

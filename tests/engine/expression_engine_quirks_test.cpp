@@ -7,7 +7,7 @@
 #include "support/effort.h"
 #include "support/engine_tables.h"
 
-namespace kav {
+namespace kav::expression_engine_quirks_test {
 namespace {
 
 using test::BitsOf;
@@ -228,4 +228,4 @@ TEST(Quirks, NegativeZeroComesAsItIsCalculated) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::expression_engine_quirks_test

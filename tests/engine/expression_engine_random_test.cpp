@@ -16,7 +16,7 @@
 #include "support/random_text.h"
 #include "support/shown.h"
 
-namespace kav {
+namespace kav::expression_engine_random_test {
 namespace {
 
 using test::BitsOf;
@@ -213,4 +213,4 @@ TEST(LongText, Of151TokensIsCalculatedAndOf152Refused) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::expression_engine_random_test

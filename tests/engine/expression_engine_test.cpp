@@ -10,7 +10,7 @@
 
 #include "support/engine_tables.h"
 
-namespace kav {
+namespace kav::expression_engine_test {
 namespace {
 
 using test::ExpectMessages;
@@ -351,4 +351,4 @@ TEST(ExpressionEngine, TakesTextsAsTheyStand) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::expression_engine_test

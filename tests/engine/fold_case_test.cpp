@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-namespace kav {
+namespace kav::fold_case_test {
 namespace {
 
 TEST(FoldCase, TakesTheLettersOfAsciiDown) {
@@ -50,4 +50,4 @@ TEST(IsFolded, IsTrueOfSmallTextsThatFoldCaseLeavesAsTheyAre) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::fold_case_test

@@ -14,7 +14,7 @@
 #include "support/random_text.h"
 #include "support/spelled_steps.h"
 
-namespace kav {
+namespace kav::formula_checker_test {
 namespace {
 
 using test::BitsOf;
@@ -226,4 +226,4 @@ TEST(CheckedFormula, GivesTheAnswerOfTheRules) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::formula_checker_test

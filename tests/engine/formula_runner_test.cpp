@@ -13,7 +13,7 @@
 #include "support/effort.h"
 #include "support/random_text.h"
 
-namespace kav {
+namespace kav::formula_runner_test {
 namespace {
 
 using test::BitsOf;
@@ -248,4 +248,4 @@ TEST(FormulaRunner, AgreesOnRandomFormulas) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::formula_runner_test

@@ -12,7 +12,7 @@
 #include "support/plain_functions.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::functions_test {
 namespace {
 
 using test::BitsOf;
@@ -323,4 +323,4 @@ TEST(Shift, AgreesWithMultiplyingAndDividing) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::functions_test

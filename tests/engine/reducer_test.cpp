@@ -14,7 +14,7 @@
 #include "support/random.h"
 #include "support/spelled_steps.h"
 
-namespace kav {
+namespace kav::reducer_test {
 namespace {
 
 using test::Spelled;
@@ -277,4 +277,4 @@ TEST(Reducer, StaysInsideItsTokensWhateverTheirOrder) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::reducer_test

@@ -14,7 +14,7 @@
 #include "common/number_text.h"
 #include "support/spelled_steps.h"
 
-namespace kav {
+namespace kav::steps_test {
 namespace {
 
 using enum Operation;
@@ -366,4 +366,4 @@ TEST(StepList, HoldsItsStepsInOrder) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::steps_test

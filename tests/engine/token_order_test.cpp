@@ -10,7 +10,7 @@
 #include "engine/tokenizer.h"
 #include "support/plain_tokens.h"
 
-namespace kav {
+namespace kav::token_order_test {
 namespace {
 
 using test::PlainToken;
@@ -243,4 +243,4 @@ TEST(Order, VariablesCountAsNumbers) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::token_order_test

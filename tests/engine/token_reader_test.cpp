@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace kav {
+namespace kav::token_reader_test {
 namespace {
 
 using std::string_view_literals::operator""sv;
@@ -98,4 +98,4 @@ TEST(UnsupportedCharacter, NamesACharacterWhole) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::token_reader_test

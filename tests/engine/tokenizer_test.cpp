@@ -11,7 +11,7 @@
 #include "engine/function_names.h"
 #include "support/spelled_tokens.h"
 
-namespace kav {
+namespace kav::tokenizer_test {
 namespace {
 
 using std::string_view_literals::operator""sv;
@@ -292,4 +292,4 @@ TEST(FormulaTokenizer, MissingAndForbiddenVariablesAreFreeMessages) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::tokenizer_test

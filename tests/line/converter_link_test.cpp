@@ -4,7 +4,7 @@
 
 #include "support/marked_line.h"
 
-namespace kav {
+namespace kav::converter_link_test {
 namespace {
 
 using test::Marked;
@@ -61,4 +61,4 @@ TEST(ConverterLink, ResultReplacesTheSelectionAndTheRestIsTakenInAnyCase) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::converter_link_test

@@ -6,7 +6,7 @@
 
 #include "support/marked_line.h"
 
-namespace kav {
+namespace kav::expression_line_test {
 namespace {
 
 using test::Marked;
@@ -261,4 +261,4 @@ TEST(ShownText, IsOneLineOfAThousandCharactersAtMost) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::expression_line_test

@@ -4,7 +4,7 @@
 
 #include "support/is_stored.h"
 
-namespace kav {
+namespace kav::history_test {
 namespace {
 
 const SettingKey<std::int32_t> kCount{"History", "CalHistoryCount", 0};
@@ -250,4 +250,4 @@ TEST(History, LabelsHoldNoHalfOfACharacter) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::history_test

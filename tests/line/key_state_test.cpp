@@ -8,7 +8,7 @@
 
 #include "common/number_text.h"
 
-namespace kav {
+namespace kav::key_state_test {
 namespace {
 
 constexpr BaseMode kBases[] = {BaseMode::Decimal, BaseMode::Hexadecimal, BaseMode::Binary,
@@ -200,4 +200,4 @@ TEST(KeyState, VisibleCaptionsAreAllDifferent) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::key_state_test

@@ -7,7 +7,7 @@
 #include "common/number_text.h"
 #include "support/marked_line.h"
 
-namespace kav {
+namespace kav::keypad_test {
 namespace {
 
 using test::Marked;
@@ -268,4 +268,4 @@ TEST(Keypad, LinesStandAboveTheKeys) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::keypad_test

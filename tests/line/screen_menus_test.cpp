@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace kav {
+namespace kav::screen_menus_test {
 namespace {
 
 TEST(ScreenMenus, HistoryMenuShowsTheNewestOnTop) {
@@ -80,4 +80,4 @@ TEST(ScreenMenus, SeparatorsAreNotOffered) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::screen_menus_test

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace kav {
+namespace kav::shown_number_test {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -50,4 +50,4 @@ TEST(ShownNumber, WhatIsNotFiniteGivesTheMessageInEveryBase) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::shown_number_test

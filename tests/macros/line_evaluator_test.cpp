@@ -27,7 +27,7 @@ void operator delete(void* memory, std::size_t) noexcept {
   std::free(memory);
 }
 
-namespace kav {
+namespace kav::line_evaluator_test {
 namespace {
 
 using Cause = LineFailure::Cause;
@@ -142,4 +142,4 @@ TEST_F(LineEvaluator, LineWithoutAMacroCostsNoAllocationBeyondTheEngine) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::line_evaluator_test

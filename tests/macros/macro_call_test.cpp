@@ -10,7 +10,7 @@
 #include "support/marked_line.h"
 #include "support/stored_macros.h"
 
-namespace kav {
+namespace kav::macro_call_test {
 namespace {
 
 using test::Marked;
@@ -106,4 +106,4 @@ TEST(MacroCall, LineWithoutACallDoesNotAskOtherPrograms) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::macro_call_test

@@ -9,7 +9,7 @@
 #include "support/macro_function_rows.h"
 #include "support/marked_line.h"
 
-namespace kav {
+namespace kav::macro_editor_formula_test {
 namespace {
 
 using test::Fields;
@@ -89,4 +89,4 @@ TEST_F(MacroEditorFormula, AValueReplacesTheSelectionAsItIs) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::macro_editor_formula_test

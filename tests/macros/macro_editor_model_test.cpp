@@ -11,7 +11,7 @@
 #include "support/macro_fields.h"
 #include "support/stored_macros.h"
 
-namespace kav {
+namespace kav::macro_editor_model_test {
 namespace {
 
 using test::Fields;
@@ -357,4 +357,4 @@ TEST_F(MacroEditorOfLongTexts, ANameThatNobodyTouchedStaysWhole) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::macro_editor_model_test

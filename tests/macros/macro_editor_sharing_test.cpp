@@ -11,7 +11,7 @@
 #include "support/stored_macros.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::macro_editor_sharing_test {
 namespace {
 
 using test::Fields;
@@ -92,4 +92,4 @@ TEST_F(MacroEditorOfTwo, DeletingTakesTheSelectedMacroNotTheOneThatMovedToItsPla
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::macro_editor_sharing_test

@@ -7,7 +7,7 @@
 
 #include "support/stored_macros.h"
 
-namespace kav {
+namespace kav::macro_expansion_test {
 namespace {
 
 constexpr CalcModes kDegrees{AngleUnit::Degrees, BaseMode::Decimal};
@@ -308,4 +308,4 @@ TEST_F(MacroExpansion, RandomLinesAreExpandedOrRefusedAndAlwaysTheSameWay) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::macro_expansion_test

@@ -6,7 +6,7 @@
 #include "support/stored_macros.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::macro_list_model_test {
 namespace {
 
 using test::StoreMacros;
@@ -103,4 +103,4 @@ TEST_F(MacroList, WhatAnotherProgramStoredIsThereWhenItIsMade) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::macro_list_model_test

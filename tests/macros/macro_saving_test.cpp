@@ -13,7 +13,7 @@
 #include "support/stored_macros.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::macro_saving_test {
 namespace {
 
 using test::MacroNames;
@@ -361,4 +361,4 @@ TEST_F(MacroSavingOfTwo, AnEditFindsItsMacroAfterTheOtherRemovedOneBeforeIt) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::macro_saving_test

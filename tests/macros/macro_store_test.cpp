@@ -6,7 +6,7 @@
 #include "support/stored_macros.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::macro_store_test {
 namespace {
 
 using test::MacroNames;
@@ -189,4 +189,4 @@ TEST(MacroStore, LabelsShowTheArguments) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::macro_store_test

@@ -13,7 +13,7 @@
 #include "support/plain_matrix.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::cell_number_test {
 namespace {
 
 using test::BitsOf;
@@ -224,4 +224,4 @@ TEST(AsCell, TheTextsAreThoseOfTheCLibrary) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::cell_number_test

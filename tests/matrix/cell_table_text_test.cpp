@@ -8,7 +8,7 @@
 #include "common/number_text.h"
 #include "support/matrix_table.h"
 
-namespace kav {
+namespace kav::cell_table_text_test {
 namespace {
 
 using test::MatrixOf;
@@ -145,4 +145,4 @@ TEST(Overwritten, NumbersComeInAndTheMatrixGrowsForThem) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::cell_table_text_test

@@ -12,7 +12,7 @@
 #include "support/expect_matrix.h"
 #include "support/matrix_table.h"
 
-namespace kav {
+namespace kav::matrix_arithmetic_test {
 namespace {
 
 using test::Combined;
@@ -23,7 +23,7 @@ using test::kColumn;
 using test::kOutOfRange;
 using test::kSquare;
 using test::kWide;
-using test::MatrixOf;
+using test::MatrixOfRows;
 using enum MatrixOperator;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -140,7 +140,7 @@ TEST(CombineOperands, SizesMustBeEqualToSubtract) {
 }
 
 TEST(CombineOperands, SumsAndDifferencesGoCellByCell) {
-  const MatrixValue other = MatrixOf({{"10", "0.5"}, {"-3", "1e3"}});
+  const MatrixValue other = MatrixOfRows({{"10", "0.5"}, {"-3", "1e3"}});
   ExpectRows(Combined(kSquare, Add, other), {{"11", "2.5"}, {"0", "1004"}});
   ExpectRows(Combined(kSquare, Subtract, other), {{"-9", "1.5"}, {"6", "-996"}});
 }
@@ -152,22 +152,23 @@ TEST(CombineOperands, CellsAreTwelveDecimalsWhateverTheDisplayIs) {
 }
 
 TEST(CombineOperands, OutOfRangeBetweenMatricesIsTheTextOfItsCell) {
-  const MatrixValue huge = MatrixOf({{"1e308", "1"}, {"1", "-1e308"}});
+  const MatrixValue huge = MatrixOfRows({{"1e308", "1"}, {"1", "-1e308"}});
   ExpectRows(Combined(huge, Add, huge), {{kOutOfRange, "2"}, {"2", kOutOfRange}});
-  ExpectRows(Combined(huge, Subtract, MatrixOf({{"-1e308", "0"}, {"0", "1e308"}})),
+  ExpectRows(Combined(huge, Subtract, MatrixOfRows({{"-1e308", "0"}, {"0", "1e308"}})),
              {{kOutOfRange, "1"}, {"1", kOutOfRange}});
-  ExpectRows(Combined(huge, Multiply, MatrixOf({{"10"}, {"0"}})), {{kOutOfRange}, {"10"}});
+  ExpectRows(Combined(huge, Multiply, MatrixOfRows({{"10"}, {"0"}})), {{kOutOfRange}, {"10"}});
 }
 
 TEST(CombineOperands, TheMessageOfACellReadsAsZero) {
-  const MatrixValue message = MatrixOf(test::PlainRows{{kOutOfRange}});
+  const MatrixValue message = MatrixOfRows(test::PlainRows{{kOutOfRange}});
   ExpectRows(Combined(message, Add, Matrix("7")), {{"7"}});
   ExpectRows(MatrixDeterminant(message), {{"0"}});
 }
 
 TEST(CombineOperands, ACellIsTheNumberThatOpensIt) {
-  ExpectRows(Combined(MatrixOf({{"2 apples", "x", ""}}), Add, MatrixOf({{" 3", "+4", "5."}})),
-             {{"5", "4", "5"}});
+  ExpectRows(
+      Combined(MatrixOfRows({{"2 apples", "x", ""}}), Add, MatrixOfRows({{" 3", "+4", "5."}})),
+      {{"5", "4", "5"}});
 }
 
 TEST(CombineOperands, ANumberIsCombinedWithEachCell) {
@@ -178,12 +179,12 @@ TEST(CombineOperands, ANumberIsCombinedWithEachCell) {
 }
 
 TEST(CombineOperands, AZeroHasNoSign) {
-  ExpectRows(Combined(MatrixOf({{"0", "-0"}}), Multiply, -1.0), {{"0", "0"}});
+  ExpectRows(Combined(MatrixOfRows({{"0", "-0"}}), Multiply, -1.0), {{"0", "0"}});
 }
 
 TEST(CombineOperands, OutOfRangeBetweenAMatrixAndANumberIsAFailure) {
-  const MatrixValue huge = MatrixOf({{"1", "1e308"}});
-  const MatrixValue low = MatrixOf({{"1", "-1e308"}});
+  const MatrixValue huge = MatrixOfRows({{"1", "1e308"}});
+  const MatrixValue low = MatrixOfRows({{"1", "-1e308"}});
   ExpectError(Combined(huge, Add, 1e308), CalcErrorCode::OutOfRange, kOutOfRange);
   ExpectError(Combined(huge, Subtract, -1e308), CalcErrorCode::OutOfRange, kOutOfRange);
   ExpectError(Combined(1e308, Subtract, low), CalcErrorCode::OutOfRange, kOutOfRange);
@@ -192,4 +193,4 @@ TEST(CombineOperands, OutOfRangeBetweenAMatrixAndANumberIsAFailure) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_arithmetic_test

@@ -6,7 +6,7 @@
 #include "support/matrix_table.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::matrix_board_test {
 namespace {
 
 using test::MatrixOf;
@@ -303,4 +303,4 @@ TEST_F(Board, SaveThatFailsIsTold) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_board_test

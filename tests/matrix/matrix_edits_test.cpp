@@ -7,7 +7,7 @@
 #include "common/number_text.h"
 #include "support/matrix_table.h"
 
-namespace kav {
+namespace kav::matrix_edits_test {
 namespace {
 
 using test::MatrixOf;
@@ -120,4 +120,4 @@ TEST(MatrixEdits, LastStepIsKeptHoweverLong) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_edits_test

@@ -4,7 +4,7 @@
 
 #include "matrix/matrix_texts.h"
 
-namespace kav {
+namespace kav::matrix_error_test {
 namespace {
 
 TEST(MatrixError, EachHasItsMessage) {
@@ -39,4 +39,4 @@ TEST(MatrixError, TheExponentHasAMessageOfItsOwnUnderTheCodeOfIntegers) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_error_test

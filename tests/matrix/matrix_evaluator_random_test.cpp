@@ -16,10 +16,11 @@
 #include "support/random.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::matrix_evaluator_random_test {
 namespace {
 
 using test::MatrixOf;
+using test::MatrixOfRows;
 using test::PlainRows;
 using test::RowsOf;
 using test::Spelled;
@@ -52,7 +53,7 @@ Value ChangedCells(const MatrixValue& matrix, Change change) {
       cell = test::PlainCell(value);
     }
   }
-  return MatrixOf(rows);
+  return MatrixOfRows(rows);
 }
 
 bool HaveOneSize(const MatrixValue& a, const MatrixValue& b) {
@@ -65,7 +66,7 @@ Value Sum(const Value& a, const Value& b) {
   if (NumberIn(a)) return Sum(b, a);
   if (NumberIn(b)) return ChangedCells(*MatrixIn(a), [&](double x) { return x + *NumberIn(b); });
   if (!HaveOneSize(*MatrixIn(a), *MatrixIn(b))) return std::nullopt;
-  return MatrixOf(test::PlainSum(RowsOf(*MatrixIn(a)), RowsOf(*MatrixIn(b))));
+  return MatrixOfRows(test::PlainSum(RowsOf(*MatrixIn(a)), RowsOf(*MatrixIn(b))));
 }
 
 Value Difference(const Value& a, const Value& b) {
@@ -74,7 +75,7 @@ Value Difference(const Value& a, const Value& b) {
   if (NumberIn(a)) return ChangedCells(*MatrixIn(b), [&](double x) { return *NumberIn(a) - x; });
   if (NumberIn(b)) return ChangedCells(*MatrixIn(a), [&](double x) { return x - *NumberIn(b); });
   if (!HaveOneSize(*MatrixIn(a), *MatrixIn(b))) return std::nullopt;
-  return MatrixOf(test::PlainDifference(RowsOf(*MatrixIn(a)), RowsOf(*MatrixIn(b))));
+  return MatrixOfRows(test::PlainDifference(RowsOf(*MatrixIn(a)), RowsOf(*MatrixIn(b))));
 }
 
 Value Product(const Value& a, const Value& b) {
@@ -237,4 +238,4 @@ TEST(MatrixEvaluator, RandomExpressionsHaveTheValueOfTheSecondEvaluation) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_evaluator_random_test

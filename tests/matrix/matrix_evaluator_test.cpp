@@ -8,7 +8,7 @@
 #include "support/matrix_table.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::matrix_evaluator_test {
 namespace {
 
 using test::MatrixOf;
@@ -162,4 +162,4 @@ TEST_F(MatrixEvaluatorTest, TheLongestExpressionOfTheLargestMatricesAnswersAtOnc
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_evaluator_test

@@ -10,7 +10,7 @@
 #include "support/matrix_table.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::matrix_file_test {
 namespace {
 
 using test::MatrixOf;
@@ -102,4 +102,4 @@ TEST(SaveMatrixFile, WithoutSpaceTheOldFileSurvives) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_file_test

@@ -4,7 +4,7 @@
 
 #include "support/matrix_table.h"
 
-namespace kav {
+namespace kav::matrix_functions_test {
 namespace {
 
 using test::MatrixOf;
@@ -75,4 +75,4 @@ TEST(ApplyMatrixFunction, ANumberOrAMissingMatrixIsAnArgumentError) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_functions_test

@@ -8,7 +8,7 @@
 #include "common/number_text.h"
 #include "support/marked_line.h"
 
-namespace kav {
+namespace kav::matrix_keypad_test {
 namespace {
 
 using test::Marked;
@@ -165,4 +165,4 @@ TEST(MatrixKeypad, NothingOverlapsAndAllIsOnTheScreen) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_keypad_test

@@ -4,7 +4,7 @@
 
 #include "support/matrix_table.h"
 
-namespace kav {
+namespace kav::matrix_line_test {
 namespace {
 
 using test::MatrixOf;
@@ -102,4 +102,4 @@ TEST(MatrixIsInvalid, NamesTheMatrix) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_line_test

@@ -8,7 +8,7 @@
 #include "common/number_text.h"
 #include "macros/line_evaluator.h"
 
-namespace kav {
+namespace kav::matrix_menus_test {
 namespace {
 
 std::vector<std::u16string> TextsOf(const Menu& menu) {
@@ -78,4 +78,4 @@ TEST(MatrixMenus, VariablesAreTheFourMatrices) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_menus_test

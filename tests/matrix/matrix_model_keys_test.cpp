@@ -5,7 +5,7 @@
 #include "support/stored_macros.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::matrix_model_keys_test {
 namespace {
 
 using test::MatrixScreen;
@@ -292,4 +292,4 @@ TEST_F(MatrixScreen, CopiedAndPastedCellsUndoAndRedoThroughTheScreen) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_model_keys_test

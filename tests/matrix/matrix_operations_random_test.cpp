@@ -14,11 +14,11 @@
 #include "support/plain_matrix.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::matrix_operations_random_test {
 namespace {
 
 using test::Combined;
-using test::MatrixOf;
+using test::MatrixOfRows;
 using test::PlainRows;
 using test::Random;
 using test::RowsOf;
@@ -78,11 +78,12 @@ TEST(MatrixOperationsRandom, SumsAndProductsAreThoseOfTexts) {
     const PlainRows a = RandomRows(random, rows, columns);
     const PlainRows b = RandomRows(random, rows, columns);
     const PlainRows c = RandomRows(random, columns, RandomSize(random));
-    ExpectRows(Combined(MatrixOf(a), MatrixOperator::Add, MatrixOf(b)), test::PlainSum(a, b), a);
-    ExpectRows(Combined(MatrixOf(a), MatrixOperator::Subtract, MatrixOf(b)),
+    ExpectRows(Combined(MatrixOfRows(a), MatrixOperator::Add, MatrixOfRows(b)),
+               test::PlainSum(a, b), a);
+    ExpectRows(Combined(MatrixOfRows(a), MatrixOperator::Subtract, MatrixOfRows(b)),
                test::PlainDifference(a, b), a);
-    ExpectRows(MultiplyMatrices(MatrixOf(a), MatrixOf(c)), test::PlainProduct(a, c), a);
-    ExpectRows(TransposeMatrix(MatrixOf(a)), test::PlainTranspose(a), a);
+    ExpectRows(MultiplyMatrices(MatrixOfRows(a), MatrixOfRows(c)), test::PlainProduct(a, c), a);
+    ExpectRows(TransposeMatrix(MatrixOfRows(a)), test::PlainTranspose(a), a);
   }
 }
 
@@ -92,7 +93,7 @@ TEST(MatrixOperationsRandom, PowersAreThoseOfTexts) {
     const std::size_t size = 1 + random.Below(3);
     const PlainRows a = RandomRows(random, size, size);
     const int exponent = static_cast<int>(random.Below(20));
-    ExpectRows(RaiseMatrix(MatrixOf(a), exponent), test::PlainPower(a, exponent), a);
+    ExpectRows(RaiseMatrix(MatrixOfRows(a), exponent), test::PlainPower(a, exponent), a);
   }
 }
 
@@ -105,7 +106,7 @@ TEST(MatrixOperationsRandom, PowersThatComeBackAreThoseOfTexts) {
       for (auto& cell : row) cell = random.Of(std::vector<std::string>{"0", "1", "-1", "0.5"});
     }
     const int exponent = static_cast<int>(random.Below(100));
-    ExpectRows(RaiseMatrix(MatrixOf(a), exponent), test::PlainPower(a, exponent), a);
+    ExpectRows(RaiseMatrix(MatrixOfRows(a), exponent), test::PlainPower(a, exponent), a);
   }
 }
 
@@ -115,11 +116,11 @@ TEST(MatrixOperationsRandom, EliminationsAreThoseOfTexts) {
     const std::size_t size = RandomSize(random);
     const PlainRows a = RandomRows(random, size, size);
     const PlainRows b = RandomRows(random, size, 1);
-    const MatrixValue matrix = MatrixOf(a);
+    const MatrixValue matrix = MatrixOfRows(a);
     ExpectRows(InvertMatrix(matrix), test::PlainInverse(a), a);
     ExpectRows(MatrixDeterminant(matrix), test::PlainDeterminant(a), a);
     ExpectRows(TriangularMatrix(matrix), test::PlainTriangular(a), a);
-    ExpectRows(SolveLinearEquation(matrix, MatrixOf(b)), test::PlainLinearEquation(a, b), a);
+    ExpectRows(SolveLinearEquation(matrix, MatrixOfRows(b)), test::PlainLinearEquation(a, b), a);
   }
 }
 
@@ -133,7 +134,7 @@ MatrixValue WellConditioned(Random& random, std::size_t size) {
       rows[i][j] = test::PlainCell((i == j ? 4 : 0) + (random.Fraction() - 0.5));
     }
   }
-  return MatrixOf(rows);
+  return MatrixOfRows(rows);
 }
 
 double NumberAt(const MatrixValue& matrix, int row, int column) {
@@ -186,7 +187,7 @@ TEST(MatrixOperationsRandom, TheDeterminantIsNearTheDiagonalOfTheTriangularForm)
 TEST(MatrixOperationsRandom, TransposedTwiceItIsTheSameMatrix) {
   Random random(58);
   for (int i = 0; i < Tries(500); ++i) {
-    const MatrixValue a = MatrixOf(RandomRows(random, RandomSize(random), RandomSize(random)));
+    const MatrixValue a = MatrixOfRows(RandomRows(random, RandomSize(random), RandomSize(random)));
     EXPECT_TRUE(SameMatrix(TransposeMatrix(TransposeMatrix(a)), a));
   }
 }
@@ -209,4 +210,4 @@ TEST(MatrixOperationsRandom, ASystemInTheRankedOrderIsSolved) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_operations_random_test

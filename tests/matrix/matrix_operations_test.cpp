@@ -7,7 +7,7 @@
 
 #include "support/expect_matrix.h"
 
-namespace kav {
+namespace kav::matrix_operations_test {
 namespace {
 
 using test::ExpectMessage;
@@ -15,7 +15,7 @@ using test::ExpectRows;
 using test::kColumn;
 using test::kSquare;
 using test::kWide;
-using test::MatrixOf;
+using test::MatrixOfRows;
 using test::PlainRows;
 
 TEST(MultiplyMatrices, NeedsAsManyColumnsAsTheSecondHasRows) {
@@ -41,7 +41,7 @@ TEST(MultiplyMatrices, HasTheRowsOfTheFirstAndTheColumnsOfTheSecond) {
 }
 
 TEST(MultiplyMatrices, RoundsItsCells) {
-  const MatrixValue thirds = MatrixOf({{"0.333333333333"}});
+  const MatrixValue thirds = MatrixOfRows({{"0.333333333333"}});
   ExpectRows(MultiplyMatrices(thirds, thirds), {{"0.111111111111"}});
 }
 
@@ -49,18 +49,18 @@ TEST(MultiplyMatrices, AProductIsRoundedOnceForEachCell) {
   // If each product were rounded, it would be 1.123456789012, and the sum would end in 48.
   const PlainRows terms{
       {"1.12345678901235", "1.12345678901235", "1.12345678901235", "1.12345678901235"}};
-  ExpectRows(MultiplyMatrices(MatrixOf(terms), MatrixOf({{"1"}, {"1"}, {"1"}, {"1"}})),
+  ExpectRows(MultiplyMatrices(MatrixOfRows(terms), MatrixOfRows({{"1"}, {"1"}, {"1"}, {"1"}})),
              {{"4.493827156049"}});
   // In the order of the index: 1e16 + 1 is 1e16.
-  const MatrixValue ones = MatrixOf({{"1"}, {"1"}, {"1"}});
-  ExpectRows(MultiplyMatrices(MatrixOf({{"1e16", "1", "-1e16"}}), ones), {{"0"}});
-  ExpectRows(MultiplyMatrices(MatrixOf({{"1e16", "-1e16", "1"}}), ones), {{"1"}});
+  const MatrixValue ones = MatrixOfRows({{"1"}, {"1"}, {"1"}});
+  ExpectRows(MultiplyMatrices(MatrixOfRows({{"1e16", "1", "-1e16"}}), ones), {{"0"}});
+  ExpectRows(MultiplyMatrices(MatrixOfRows({{"1e16", "-1e16", "1"}}), ones), {{"1"}});
 }
 
 TEST(TransposeMatrix, TurnsRowsIntoColumnsAndKeepsTheTexts) {
   ExpectRows(TransposeMatrix(kWide), {{"1", "4"}, {"2", "5"}, {"3", "6"}});
-  ExpectRows(TransposeMatrix(MatrixOf({{"1.50", "x", "+2"}})), {{"1.50"}, {"x"}, {"+2"}});
+  ExpectRows(TransposeMatrix(MatrixOfRows({{"1.50", "x", "+2"}})), {{"1.50"}, {"x"}, {"+2"}});
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_operations_test

@@ -6,7 +6,7 @@
 
 #include "matrix/matrix_tokenizer.h"
 
-namespace kav {
+namespace kav::matrix_order_test {
 namespace {
 
 /// What is wrong with the order of the tokens of `text`; empty if nothing.
@@ -134,4 +134,4 @@ TEST(CheckMatrixOrder, NeighboursThatCannotBe) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_order_test

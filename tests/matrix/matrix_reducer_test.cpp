@@ -9,7 +9,7 @@
 #include "support/matrix_table.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::matrix_reducer_test {
 namespace {
 
 using test::MatrixOf;
@@ -201,4 +201,4 @@ TEST(ReduceMatrixTokens, LeavesNoFileBehind) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_reducer_test

@@ -8,7 +8,7 @@
 #include "support/matrix_table.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::matrix_text_test {
 namespace {
 
 using std::string_literals::operator""s;
@@ -135,4 +135,4 @@ TEST(ReadMatrix, ReadsWhatPrintMatrixWrites) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_text_test

@@ -7,7 +7,7 @@
 #include <string>
 #include <variant>
 
-namespace kav {
+namespace kav::matrix_tokenizer_test {
 namespace {
 
 /// What a token is: 'n' for a number, 'm' for a slot, 'F' for a function, else its character.
@@ -162,4 +162,4 @@ TEST(TokenizeMatrixExpression, ThereIsRoomFor71Tokens) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_tokenizer_test

@@ -4,7 +4,7 @@
 
 #include "support/matrix_table.h"
 
-namespace kav {
+namespace kav::matrix_value_test {
 namespace {
 
 using test::MatrixOf;
@@ -51,7 +51,8 @@ TEST(Resized, SizesAreFromOneToTen) {
     int madeColumns;
   };
   for (const Row& row : {Row{2, 3, 2, 3}, Row{0, -7, 1, 1}, Row{11, 2147483647, 10, 10}}) {
-    const MatrixValue matrix = Resized({}, row.rows, row.columns);
+    const MatrixValue none;
+    const MatrixValue matrix = Resized(none, row.rows, row.columns);
     EXPECT_EQ(matrix.rows, row.madeRows);
     EXPECT_EQ(matrix.columns, row.madeColumns);
     EXPECT_EQ(matrix.At(0, 0), u"");
@@ -124,4 +125,4 @@ TEST(HasEmptyCell, AMatrixWithoutRowsHasNone) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::matrix_value_test

@@ -13,7 +13,7 @@
 #include "support/matrix_table.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::temporary_matrices_test {
 namespace {
 
 using test::MatrixOf;
@@ -277,4 +277,4 @@ TEST(TemporaryMatrices, SignalsDoNotInterruptAWriter) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::temporary_matrices_test

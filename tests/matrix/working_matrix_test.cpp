@@ -6,10 +6,10 @@
 
 #include "support/plain_matrix.h"
 
-namespace kav {
+namespace kav::working_matrix_test {
 namespace {
 
-using test::MatrixOf;
+using test::MatrixOfRows;
 using test::PlainRows;
 using test::RowsOf;
 
@@ -22,7 +22,7 @@ TEST(WorkingMatrix, TheIdentityHasOnesOnItsDiagonal) {
 }
 
 TEST(WorkingMatrix, ReadsTheNumbersOfTexts) {
-  const MatrixValue texts = MatrixOf({{"1.50", "x"}});
+  const MatrixValue texts = MatrixOfRows({{"1.50", "x"}});
   const WorkingMatrix matrix(texts);
   EXPECT_EQ(matrix.Rows(), 1);
   EXPECT_EQ(matrix.Columns(), 2);
@@ -31,7 +31,7 @@ TEST(WorkingMatrix, ReadsTheNumbersOfTexts) {
 }
 
 TEST(WorkingMatrix, ACellThatNothingIsStoredInKeepsItsText) {
-  const MatrixValue texts = MatrixOf({{"1.50", "x"}});
+  const MatrixValue texts = MatrixOfRows({{"1.50", "x"}});
   WorkingMatrix matrix(texts);
   matrix.Store(0, 1, 2.5);
   EXPECT_EQ(RowsOf(matrix.Texts()), (PlainRows{{"1.50", "2.5"}}));
@@ -48,7 +48,7 @@ TEST(WorkingMatrix, WhatIsStoredIsRounded) {
 }
 
 TEST(WorkingMatrix, RowsAreExchangedWithTheirTexts) {
-  const MatrixValue texts = MatrixOf({{"1.0", "2"}, {"x", "4"}, {"5", "6"}});
+  const MatrixValue texts = MatrixOfRows({{"1.0", "2"}, {"x", "4"}, {"5", "6"}});
   WorkingMatrix matrix(texts);
   matrix.ExchangeRows(0, 1);
   matrix.ExchangeRows(2, 2);
@@ -57,13 +57,13 @@ TEST(WorkingMatrix, RowsAreExchangedWithTheirTexts) {
 }
 
 TEST(WorkingMatrix, IsTheSameByItsNumbersAndSize) {
-  const MatrixValue one = MatrixOf({{"1", "2"}});
-  const MatrixValue same = MatrixOf({{"1.0", "2x"}});
-  const MatrixValue other = MatrixOf({{"1", "3"}});
+  const MatrixValue one = MatrixOfRows({{"1", "2"}});
+  const MatrixValue same = MatrixOfRows({{"1.0", "2x"}});
+  const MatrixValue other = MatrixOfRows({{"1", "3"}});
   EXPECT_TRUE(WorkingMatrix(one).IsSame(WorkingMatrix(same)));
   EXPECT_FALSE(WorkingMatrix(one).IsSame(WorkingMatrix(other)));
   EXPECT_FALSE(WorkingMatrix(1, 2).IsSame(WorkingMatrix(2, 1)));
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::working_matrix_test

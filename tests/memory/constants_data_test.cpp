@@ -14,7 +14,7 @@
 #include "memory/constants_table.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::constants_data_test {
 namespace {
 
 std::string DeliveredBytes() {
@@ -111,4 +111,4 @@ TEST(DeliveredConstants, AConstantWorksInsideOfAnExpression) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::constants_data_test

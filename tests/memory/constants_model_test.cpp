@@ -8,7 +8,7 @@
 
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::constants_model_test {
 namespace {
 
 using Names = std::vector<std::u16string>;
@@ -178,4 +178,4 @@ TEST(ConstantsModelWithEqualNames, TheSelectionIsOfOneRow) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::constants_model_test

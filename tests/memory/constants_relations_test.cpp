@@ -13,7 +13,7 @@
 
 #include "support/constant_relations.h"
 
-namespace kav::test {
+namespace kav::test::constants_relations_test {
 namespace {
 
 /// What the arithmetic of Real itself may be off by, in relation to a value.
@@ -117,4 +117,4 @@ TEST(ConstantsRelations, AWrongDigitInARowIsSeen) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::constants_relations_test

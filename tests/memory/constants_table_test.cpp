@@ -9,7 +9,7 @@
 
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::constants_table_test {
 namespace {
 
 using std::string_literals::operator""s;
@@ -223,4 +223,4 @@ TEST(ConstantsFolders, AreTheFolderOfTheProgramAndTheDataInstalledBesideIt) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::constants_table_test

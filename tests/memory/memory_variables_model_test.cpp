@@ -9,7 +9,7 @@
 #include "store/user_settings_store.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::memory_variables_model_test {
 namespace {
 
 std::string Stored(const SettingsStore& store, int number) {
@@ -147,4 +147,4 @@ TEST(MemoryVariablesModel, OpeningShowsWhatAnotherProgramStored) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::memory_variables_model_test

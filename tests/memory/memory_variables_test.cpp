@@ -8,7 +8,7 @@
 #include "support/is_stored.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::memory_variables_test {
 namespace {
 
 /// Stores `value` as the variable `number`, counted from 0, at the address of users' files.
@@ -126,4 +126,4 @@ TEST(MemoryVariables, TwoProgramsOnOneFileLoseNothingOfEachOther) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::memory_variables_test

@@ -13,7 +13,7 @@
 #include "support/graph_inputs.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::curve_sampling_test {
 namespace {
 
 using test::FormulaOf;
@@ -369,4 +369,4 @@ TEST(CurveSampling, OnlyPointsAreJoinedAndOnlyPointsOnBordersAreNot) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::curve_sampling_test

@@ -10,7 +10,7 @@
 #include "support/effort.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::disc_cover_test {
 namespace {
 
 using test::Random;
@@ -129,4 +129,4 @@ TEST(DiscCover, NoMoreAreSeenThanTheAreaHasRoomFor) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::disc_cover_test

@@ -8,7 +8,7 @@
 
 #include "support/is_stored.h"
 
-namespace kav {
+namespace kav::equation_list_test {
 namespace {
 
 using Equations = std::vector<std::u16string>;
@@ -162,4 +162,4 @@ TEST(EquationList, CurvesAreCalledByTheirColours) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::equation_list_test

@@ -10,7 +10,7 @@
 #include "support/graph_inputs.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::graph_model_test {
 namespace {
 
 using test::FormulaOf;
@@ -316,4 +316,4 @@ TEST(GraphModel, RangeLabelsAreShownByTheNumberFormatter) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::graph_model_test

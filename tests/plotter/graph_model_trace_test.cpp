@@ -8,7 +8,7 @@
 #include "plotter/graph_model.h"
 #include "support/graph_inputs.h"
 
-namespace kav {
+namespace kav::graph_model_trace_test {
 namespace {
 
 using test::GraphOf;
@@ -333,4 +333,4 @@ TEST(GraphModelTrace, AMarkerCanBeSteppedWhereTheDisplayShowsNoDifference) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::graph_model_trace_test

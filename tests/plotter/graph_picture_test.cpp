@@ -11,7 +11,7 @@
 #include "support/graph_inputs.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::graph_picture_test {
 namespace {
 
 using test::GraphOf;
@@ -392,4 +392,4 @@ TEST(GraphPicture, TheMarkerIsACrossWithADiscOnTheCurve) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::graph_picture_test

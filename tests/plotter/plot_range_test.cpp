@@ -6,7 +6,7 @@
 
 #include "support/random.h"
 
-namespace kav {
+namespace kav::plot_range_test {
 namespace {
 
 using Text = std::optional<std::u16string_view>;
@@ -99,4 +99,4 @@ TEST(PlotRange, WhatIsTakenFromTheUserCanBeDrawn) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::plot_range_test

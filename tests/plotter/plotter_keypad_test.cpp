@@ -9,7 +9,7 @@
 #include "common/number_text.h"
 #include "support/marked_line.h"
 
-namespace kav {
+namespace kav::plotter_keypad_test {
 namespace {
 
 using test::Marked;
@@ -244,4 +244,4 @@ TEST(PlotterKeypad, FieldsOfAnAxisStandInARow) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::plotter_keypad_test

@@ -4,7 +4,7 @@
 #include "support/plotter_screen.h"
 #include "support/stored_macros.h"
 
-namespace kav {
+namespace kav::plotter_model_keys_test {
 namespace {
 
 using test::PlotterScreen;
@@ -176,4 +176,4 @@ TEST_F(PlotterScreen, WhatIsInsertedIsOneLine) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::plotter_model_keys_test

@@ -3,7 +3,7 @@
 
 #include "support/plotter_screen.h"
 
-namespace kav {
+namespace kav::plotter_model_plot_test {
 namespace {
 
 using test::PlotterScreen;
@@ -154,4 +154,4 @@ TEST_F(PlotterModelPlot, NoCharacterIsHalved) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::plotter_model_plot_test

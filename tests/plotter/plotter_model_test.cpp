@@ -7,7 +7,7 @@
 #include "support/plotter_screen.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::plotter_model_test {
 namespace {
 
 using test::PlotterScreen;
@@ -256,4 +256,4 @@ TEST_F(PlotterScreen, AnyKeysLeaveAScreenThatHoldsItsRules) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::plotter_model_test

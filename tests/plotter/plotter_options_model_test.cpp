@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace kav {
+namespace kav::plotter_options_model_test {
 namespace {
 
 PlotterOptionsModel ModelOf(const PlotRange& range) {
@@ -70,4 +70,4 @@ TEST(PlotterOptionsModel, EqualAndReversedBoundsAreRefused) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::plotter_options_model_test

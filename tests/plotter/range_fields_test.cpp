@@ -4,7 +4,7 @@
 
 #include "common/number_text.h"
 
-namespace kav {
+namespace kav::range_fields_test {
 namespace {
 
 TEST(RangeFields, AreCalledAsTheScreenShowsThem) {
@@ -113,4 +113,4 @@ TEST(RangeFields, BoundsWhoseDistanceIsNoNumberAreRefusedAtTheirAxis) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::range_fields_test

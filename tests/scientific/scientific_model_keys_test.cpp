@@ -4,7 +4,7 @@
 
 #include "support/scientific_screen.h"
 
-namespace kav {
+namespace kav::scientific_model_keys_test {
 namespace {
 
 using test::kBinaryItem;
@@ -229,4 +229,4 @@ TEST_F(Screen, LogicKeysCalculateInTheBase) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::scientific_model_keys_test

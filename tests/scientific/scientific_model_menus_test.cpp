@@ -5,7 +5,7 @@
 #include "support/scientific_screen.h"
 #include "support/stored_macros.h"
 
-namespace kav {
+namespace kav::scientific_model_menus_test {
 namespace {
 
 using test::kBinaryItem;
@@ -331,4 +331,4 @@ TEST_F(Screen, ConverterResultIsInsertedAndItsStateTakenBackEitherWay) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::scientific_model_menus_test

@@ -9,7 +9,7 @@
 #include "support/scientific_screen.h"
 #include "support/stored_macros.h"
 
-namespace kav {
+namespace kav::scientific_model_test {
 namespace {
 
 using test::kDecimalItem;
@@ -317,4 +317,4 @@ TEST(ScreenProperties, MegabyteLineHasItsMessage) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::scientific_model_test

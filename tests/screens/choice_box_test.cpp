@@ -9,7 +9,7 @@
 #include "screens/screen_driver.h"
 #include "screens/widgets/look.h"
 
-namespace kav::test {
+namespace kav::test::choice_box_test {
 namespace {
 
 /// The room for a text in a list `width` pixels wide.
@@ -60,4 +60,4 @@ TEST(ChoiceBoxTest, AnEntryThatIsTooLongIsSeenToBe) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::choice_box_test

@@ -14,7 +14,7 @@
 
 #include "screens/constants_driver.h"
 
-namespace kav::test {
+namespace kav::test::constants_dlg_test {
 namespace {
 
 using ConstantsDlgTest = ConstantsDriver;
@@ -330,4 +330,4 @@ TEST_F(ConstantsDlgTest, EverythingIsInSightAtEverySize) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::constants_dlg_test

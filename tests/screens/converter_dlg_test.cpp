@@ -17,7 +17,7 @@
 #include "settings/keys.h"
 #include "support/stored_conversions.h"
 
-namespace kav::test {
+namespace kav::test::converter_dlg_test {
 namespace {
 
 constexpr ConverterPositions kCelsiusToFahrenheit{11, 0, -1};
@@ -346,4 +346,4 @@ TEST_F(ConverterDlgTest, EverythingHasRoomAtEverySize) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::converter_dlg_test

@@ -10,7 +10,7 @@
 #include "screens/converter_driver.h"
 #include "support/stored_conversions.h"
 
-namespace kav::test {
+namespace kav::test::converter_user_conversions_test {
 namespace {
 
 using WithUserConversions = ConverterDriver;
@@ -111,4 +111,4 @@ TEST_F(WithoutUserConversions, ARememberedCategoryThatIsEmptyOpensNothingUntilIt
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::converter_user_conversions_test

@@ -11,7 +11,7 @@
 #include "screens/screen_driver.h"
 #include "screens/statistics/data_table_view.h"
 
-namespace kav::test {
+namespace kav::test::data_table_test {
 namespace {
 
 constexpr std::array kColumns{DataColumn{u"X", 117}, DataColumn{u"Count", 45}};
@@ -309,4 +309,4 @@ TEST_F(DataTableTest, AScreenReaderFindsNameHeadingsAndCells) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::data_table_test

@@ -11,7 +11,7 @@
 #include "screens/box_watch.h"
 #include "screens/screen_driver.h"
 
-namespace kav::test {
+namespace kav::test::dialog_test {
 namespace {
 
 class SampleDialog final : public Dialog {
@@ -172,4 +172,4 @@ TEST(OneLine, CutsWhatNoScreenHasRoomFor) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::dialog_test

@@ -17,7 +17,7 @@
 #include "screens/dialog_layout.h"
 #include "screens/display_settings_driver.h"
 
-namespace kav::test {
+namespace kav::test::display_settings_dlg_test {
 namespace {
 
 constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
@@ -357,4 +357,4 @@ TEST_F(DisplaySettingsDlgTest, ChangingThePageMovesNothing) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::display_settings_dlg_test

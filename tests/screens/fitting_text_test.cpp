@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-namespace kav::test {
+namespace kav::test::fitting_text_test {
 namespace {
 
 int WidthOf(const QWidget& widget, const QString& text) {
@@ -69,4 +69,4 @@ TEST(FittingTextTest, AWiderPlaceGivesTheLettersTheirSizeBack) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::fitting_text_test

@@ -11,7 +11,7 @@
 #include "screens/screen_layout.h"
 #include "screens/widgets/look.h"
 
-namespace kav::test {
+namespace kav::test::graph_layout_test {
 namespace {
 
 class GraphLayoutTest : public GraphScreen {
@@ -166,4 +166,4 @@ TEST_F(GraphLayoutTest, TheFocusIsSeenOnThePlot) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::graph_layout_test

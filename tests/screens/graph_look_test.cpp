@@ -8,7 +8,7 @@
 
 #include "screens/graph_driver.h"
 
-namespace kav::test {
+namespace kav::test::graph_look_test {
 namespace {
 
 constexpr QRgb kRed = qRgb(255, 0, 0);
@@ -378,4 +378,4 @@ TEST_F(GraphLookTest, LettersHaveNoColouredFringes) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::graph_look_test

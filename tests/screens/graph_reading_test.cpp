@@ -3,7 +3,7 @@
 
 #include "screens/graph_driver.h"
 
-namespace kav::test {
+namespace kav::test::graph_reading_test {
 namespace {
 
 using GraphReadingTest = GraphScreen;
@@ -217,4 +217,4 @@ TEST_F(GraphReadingTest, UpAndDownGoFromCurveToCurveWhileTracing) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::graph_reading_test

@@ -10,7 +10,7 @@
 #include "screens/plotter/graph_painter_view.h"
 #include "screens/plotter/graph_saving_view.h"
 
-namespace kav::test {
+namespace kav::test::graph_saving_test {
 namespace {
 
 class GraphSavingTest : public GraphScreen {
@@ -264,4 +264,4 @@ TEST_F(GraphSavingTest, NothingIsWrittenIntoAFolderThatMayNotBeWritten) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::graph_saving_test

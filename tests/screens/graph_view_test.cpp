@@ -9,7 +9,7 @@
 
 #include "screens/graph_driver.h"
 
-namespace kav::test {
+namespace kav::test::graph_view_test {
 namespace {
 
 using GraphViewTest = GraphScreen;
@@ -324,4 +324,4 @@ TEST_F(GraphViewTest, ACurveThatFailsEverywhereIsDrawnAsNothing) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::graph_view_test

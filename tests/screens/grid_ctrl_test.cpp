@@ -10,7 +10,7 @@
 
 #include "screens/grid_driver.h"
 
-namespace kav::test {
+namespace kav::test::grid_ctrl_test {
 namespace {
 
 class GridCtrlTest : public GridScreen {};
@@ -299,4 +299,4 @@ TEST_F(GridMemoryTest, ATextForWhichThereIsNoMemoryIsNotTaken) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::grid_ctrl_test

@@ -8,7 +8,7 @@
 
 #include "screens/grid_driver.h"
 
-namespace kav::test {
+namespace kav::test::grid_keys_test {
 namespace {
 
 constexpr auto kShift = Qt::ShiftModifier;
@@ -272,4 +272,4 @@ TEST_F(GridKeysTest, OfAColumnWiderThanItsRoomTheBeginningIsInView) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::grid_keys_test

@@ -6,7 +6,7 @@
 
 #include "screens/grid_driver.h"
 
-namespace kav::test {
+namespace kav::test::grid_look_test {
 namespace {
 
 class GridLookTest : public GridScreen {
@@ -273,4 +273,4 @@ TEST_F(GridLookTest, NothingIsPaintedOutsideOfTheGrid) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::grid_look_test

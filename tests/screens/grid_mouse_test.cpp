@@ -5,7 +5,7 @@
 
 #include "screens/grid_driver.h"
 
-namespace kav::test {
+namespace kav::test::grid_mouse_test {
 namespace {
 
 constexpr auto kShift = Qt::ShiftModifier;
@@ -328,4 +328,4 @@ TEST_F(GridMouseTest, TheFocusStaysWhereItIsWhileTheWheelTurns) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::grid_mouse_test

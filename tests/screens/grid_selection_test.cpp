@@ -10,7 +10,7 @@
 #include "support/effort.h"
 #include "support/random.h"
 
-namespace kav::test {
+namespace kav::test::grid_selection_test {
 namespace {
 
 constexpr GridCell kNone{-1, -1};
@@ -379,4 +379,4 @@ TEST_F(GridSelectionTest, EveryCallSelectsWhatItShould) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::grid_selection_test

@@ -6,7 +6,7 @@
 
 #include "screens/screen_driver.h"
 
-namespace kav::test {
+namespace kav::test::label_list_test {
 namespace {
 
 Texts LabelsOf(const LabelList& list) {
@@ -53,4 +53,4 @@ TEST(LabelListTest, LongLabelsStayInOneLineAndWithinTheList) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::label_list_test

@@ -8,7 +8,7 @@
 
 #include "screens/test_fonts.h"
 
-namespace kav {
+namespace kav::look_test {
 namespace {
 
 TEST(Look, AScreenStandsUprightInItsWindow) {
@@ -96,4 +96,4 @@ TEST(Look, ALineIsNoHigherThanItsRoom) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::look_test

@@ -13,7 +13,7 @@
 #include "support/macro_fields.h"
 #include "support/temporary_folder.h"
 
-namespace kav::test {
+namespace kav::test::macro_editor_dlg_test {
 namespace {
 
 using Names = std::vector<std::string>;
@@ -394,4 +394,4 @@ TEST_F(MacroEditorDlgTest, EverythingHasRoomAtEverySize) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::macro_editor_dlg_test

@@ -6,7 +6,7 @@
 #include "screens/macro_editor_driver.h"
 #include "support/macro_function_rows.h"
 
-namespace kav::test {
+namespace kav::test::macro_editor_formula_test {
 namespace {
 
 class MacroEditorFormulaTest : public MacroEditorDriver {
@@ -191,4 +191,4 @@ TEST_F(MacroEditorFormulaTest, NoKeyBreaksTheLine) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::macro_editor_formula_test

@@ -16,7 +16,7 @@
 #include "support/stored_macros.h"
 #include "support/temporary_folder.h"
 
-namespace kav::test {
+namespace kav::test::macro_list_dlg_test {
 namespace {
 
 class MacroListDlgTest : public testing::Test {
@@ -195,4 +195,4 @@ TEST_F(MacroListDlgTest, TheLongestFormulaIsSeenWhole) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::macro_list_dlg_test

@@ -7,7 +7,7 @@
 
 #include "screens/matrix_driver.h"
 
-namespace kav::test {
+namespace kav::test::matrix_files_test {
 namespace {
 
 class MatrixFilesTest : public MatrixScreen {
@@ -110,4 +110,4 @@ TEST_F(MatrixFilesTest, WhenNoFileIsChosenNothingHappens) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::matrix_files_test

@@ -9,7 +9,7 @@
 #include "screens/screen_layout.h"
 #include "settings/keys.h"
 
-namespace kav::test {
+namespace kav::test::matrix_layout_test {
 namespace {
 
 class MatrixLayoutTest : public MatrixScreen {
@@ -107,4 +107,4 @@ TEST_F(MatrixLayoutTest, TheSizeDialogHasRoomForAllAtAnySize) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::matrix_layout_test

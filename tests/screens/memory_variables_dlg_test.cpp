@@ -15,7 +15,7 @@
 #include "store/user_settings_store.h"
 #include "support/temporary_folder.h"
 
-namespace kav::test {
+namespace kav::test::memory_variables_dlg_test {
 namespace {
 
 using Recalled = std::optional<std::u16string>;
@@ -343,4 +343,4 @@ TEST_F(MemoryVariablesDlgTest, AllHasRoomAtEverySize) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::memory_variables_dlg_test

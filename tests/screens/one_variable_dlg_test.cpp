@@ -4,7 +4,7 @@
 #include "screens/statistics_driver.h"
 #include "settings/keys.h"
 
-namespace kav::test {
+namespace kav::test::one_variable_dlg_test {
 namespace {
 
 using OneVariableDlgTest = OneVariableScreen;
@@ -307,4 +307,4 @@ TEST_F(OneVariableDlgTest, TheModeMenuLeadsToTheOtherScreens) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::one_variable_dlg_test

@@ -6,7 +6,7 @@
 #include "screens/plotter_driver.h"
 #include "support/stored_macros.h"
 
-namespace kav::test {
+namespace kav::test::plotter_dlg_test {
 namespace {
 
 class PlotterDlgTest : public PlotterScreen {};
@@ -365,4 +365,4 @@ TEST_F(PlotterDlgTest, TheModeMenuLeadsToTheOtherScreens) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::plotter_dlg_test

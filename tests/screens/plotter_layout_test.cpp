@@ -9,7 +9,7 @@
 #include "screens/plotter_driver.h"
 #include "screens/screen_layout.h"
 
-namespace kav::test {
+namespace kav::test::plotter_layout_test {
 namespace {
 
 class PlotterLayoutTest : public PlotterScreen {
@@ -157,4 +157,4 @@ TEST_F(PlotterLayoutTest, TabGoesFromTheInputThroughListAndRangeToTheKeys) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::plotter_layout_test

@@ -11,7 +11,7 @@
 #include "screens/screen_driver.h"
 #include "screens/screen_layout.h"
 
-namespace kav::test {
+namespace kav::test::plotter_options_dlg_test {
 namespace {
 
 class PlotterOptionsDlgTest : public testing::Test {
@@ -161,4 +161,4 @@ TEST_F(PlotterOptionsDlgTest, HasRoomForAllAtAnySize) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::plotter_options_dlg_test

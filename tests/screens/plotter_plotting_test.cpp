@@ -3,7 +3,7 @@
 
 #include "screens/plotter_driver.h"
 
-namespace kav::test {
+namespace kav::test::plotter_plotting_test {
 namespace {
 
 class PlotterPlottingTest : public PlotterScreen {};
@@ -131,4 +131,4 @@ TEST_F(PlotterPlottingTest, TheBoxesSwitchTheirOptionsAndLeaveTheFocus) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::plotter_plotting_test

@@ -6,7 +6,7 @@
 #include "screens/screen_driver.h"
 #include "settings/keys.h"
 
-namespace kav::test {
+namespace kav::test::scientific_dlg_test {
 namespace {
 
 class ScientificDlgTest : public ScientificScreen {};
@@ -380,4 +380,4 @@ TEST_F(ScientificDlgTest, AResultThatFitsAtNoSizeShowsItsBeginningAndIsToldWhole
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::scientific_dlg_test

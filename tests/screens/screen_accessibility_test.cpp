@@ -6,7 +6,7 @@
 
 #include "screens/screen_driver.h"
 
-namespace kav::test {
+namespace kav::test::screen_accessibility_test {
 namespace {
 
 class ScreenAccessibilityTest : public ScientificScreen {
@@ -96,4 +96,4 @@ TEST_F(ScreenAccessibilityTest, TheMenusAreNamed) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::screen_accessibility_test

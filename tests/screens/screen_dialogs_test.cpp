@@ -15,7 +15,7 @@
 #include "support/stored_macros.h"
 #include "support/temporary_folder.h"
 
-namespace kav::test {
+namespace kav::test::screen_dialogs_test {
 namespace {
 
 /// A frame over a settings file, as the program's own is.
@@ -341,4 +341,4 @@ TEST_F(ScreenDialogsTest, AUnitThatWasDefinedInTheEditorIsOfferedByTheConverter)
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::screen_dialogs_test

@@ -6,7 +6,7 @@
 
 #include "screens/screen_driver.h"
 
-namespace kav::test {
+namespace kav::test::screen_keyboard_test {
 namespace {
 
 class ScreenKeyboardTest : public ScientificScreen {
@@ -320,4 +320,4 @@ TEST_F(ScreenKeyboardTest, OnlyOneOfTheTwoLinesShowsWhatIsCopied) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::screen_keyboard_test

@@ -5,7 +5,7 @@
 
 #include "screens/screen_layout.h"
 
-namespace kav::test {
+namespace kav::test::screen_layout_test {
 namespace {
 
 class ScreenLayoutTest : public ScientificScreen {
@@ -204,4 +204,4 @@ TEST_F(ScreenLayoutTest, AKeyShowsThatItIsPressedAndThatItHasTheFocus) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::screen_layout_test

@@ -6,7 +6,7 @@
 #include "settings/keys.h"
 #include "support/stored_macros.h"
 
-namespace kav::test {
+namespace kav::test::screen_requests_test {
 namespace {
 
 class ScreenRequestsTest : public ScientificScreen {
@@ -184,4 +184,4 @@ TEST_F(ScreenRequestsTest, ExitAsksTheFrameToEnd) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::screen_requests_test

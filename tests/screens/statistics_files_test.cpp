@@ -5,7 +5,7 @@
 
 #include "screens/statistics_driver.h"
 
-namespace kav::test {
+namespace kav::test::statistics_files_test {
 namespace {
 
 constexpr const char16_t* kSaveQuestion = u"Do you want to save changes to Data?";
@@ -303,4 +303,4 @@ TEST_F(StatisticsFilesTest, NothingIsPastedFromAnEmptyClipboard) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::statistics_files_test

@@ -3,7 +3,7 @@
 
 #include "screens/statistics_driver.h"
 
-namespace kav::test {
+namespace kav::test::statistics_keyboard_test {
 namespace {
 
 using StatisticsKeyboardTest = OneVariableScreen;
@@ -192,4 +192,4 @@ TEST_F(StatisticsKeyboardTest, AltAndALetterWritesNothingWhereTheKeyIsDisabled) 
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::statistics_keyboard_test

@@ -9,7 +9,7 @@
 #include "screens/screen_layout.h"
 #include "screens/statistics_driver.h"
 
-namespace kav::test {
+namespace kav::test::statistics_layout_test {
 namespace {
 
 class StatisticsLayoutTest : public StatisticsDriver {
@@ -177,4 +177,4 @@ TEST_F(StatisticsLayoutTest, ATapLeavesTheFocusInTheField) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::statistics_layout_test

@@ -5,7 +5,7 @@
 #include "screens/screen_layout.h"
 #include "screens/statistics_driver.h"
 
-namespace kav::test {
+namespace kav::test::statistics_progress_test {
 namespace {
 
 using std::chrono_literals::operator""ms;
@@ -136,4 +136,4 @@ TEST(WorkProgressViewTest, WaitsForItsPatienceToEnd) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::statistics_progress_test

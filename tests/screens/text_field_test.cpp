@@ -4,7 +4,7 @@
 
 #include "screens/screen_driver.h"
 
-namespace kav::test {
+namespace kav::test::text_field_test {
 namespace {
 
 constexpr int kLong = 200;
@@ -53,4 +53,4 @@ TEST_F(TextFieldTest, TextsOfAnyLengthEndSomewhere) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::text_field_test

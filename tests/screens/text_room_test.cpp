@@ -29,7 +29,7 @@
 #include "support/stored_conversions.h"
 #include "support/stored_macros.h"
 
-namespace kav::test {
+namespace kav::test::text_room_test {
 namespace {
 
 /// The screens that there were and are, upright and on their side, and the smallest window.
@@ -313,4 +313,4 @@ TEST_F(TextRoomTest, TheMenusOfAScreen) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::text_room_test

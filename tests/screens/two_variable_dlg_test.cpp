@@ -5,7 +5,7 @@
 
 #include "screens/statistics_driver.h"
 
-namespace kav::test {
+namespace kav::test::two_variable_dlg_test {
 namespace {
 
 constexpr QMessageBox::Icon kStop = QMessageBox::Critical;
@@ -296,4 +296,4 @@ TEST_F(TwoVariableDlgTest, PastedRowsNeedAnXAndAY) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::two_variable_dlg_test

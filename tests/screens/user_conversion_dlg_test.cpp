@@ -12,7 +12,7 @@
 #include "store/user_settings_store.h"
 #include "support/temporary_folder.h"
 
-namespace kav::test {
+namespace kav::test::user_conversion_dlg_test {
 namespace {
 
 const std::u16string kMaximum = u"Maximum of user-define unit convert is 60";
@@ -368,4 +368,4 @@ TEST_F(UserConversionDlgTest, EverythingHasRoomAtEverySize) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::user_conversion_dlg_test

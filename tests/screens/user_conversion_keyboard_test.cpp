@@ -4,7 +4,7 @@
 #include "screens/dialog_layout.h"
 #include "screens/user_conversion_driver.h"
 
-namespace kav::test {
+namespace kav::test::user_conversion_keyboard_test {
 namespace {
 
 using UserConversionKeyboardTest = UserConversionDriver;
@@ -128,4 +128,4 @@ TEST_F(UserConversionKeyboardTest, WhatWasShownBeforeDoesNotComeBackByUndo) {
 }
 
 }  // namespace
-}  // namespace kav::test
+}  // namespace kav::test::user_conversion_keyboard_test

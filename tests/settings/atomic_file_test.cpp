@@ -11,7 +11,7 @@
 
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::atomic_file_test {
 namespace {
 
 using std::string_literals::operator""s;
@@ -291,4 +291,4 @@ TEST(KeepAside, AMissingFileIsRefused) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::atomic_file_test

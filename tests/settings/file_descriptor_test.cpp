@@ -9,7 +9,7 @@
 #include <thread>
 #include <utility>
 
-namespace kav {
+namespace kav::file_descriptor_test {
 namespace {
 
 struct Pipe {
@@ -79,4 +79,4 @@ TEST(ReadSome, TellsTheEndFromAnError) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::file_descriptor_test

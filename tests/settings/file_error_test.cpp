@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-namespace kav {
+namespace kav::file_error_test {
 namespace {
 
 TEST(FileError, EachCauseThatTheUserCanActOnIsToldApart) {
@@ -24,4 +24,4 @@ TEST(FileError, EachCauseThatTheUserCanActOnIsToldApart) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::file_error_test

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace kav {
+namespace kav::keys_test {
 namespace {
 
 struct IntegerRow {
@@ -112,4 +112,4 @@ TEST(Keys, NoTwoShareAnAddress) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::keys_test

@@ -11,7 +11,7 @@
 #include "settings/setting_key.h"
 #include "support/is_stored.h"
 
-namespace kav {
+namespace kav::settings_store_test {
 namespace {
 
 constexpr SettingKey<std::int32_t> kNumber{"Section", "A Number", 42};
@@ -125,4 +125,4 @@ TEST(SettingsStore, TheRevisionTellsWhereSomethingMayHaveChanged) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::settings_store_test

@@ -4,7 +4,7 @@
 
 #include "support/stored_notes.h"
 
-namespace kav {
+namespace kav::stored_entries_test {
 namespace {
 
 using test::kThree;
@@ -110,4 +110,4 @@ TEST_F(StoredEntries, WhatIsGoneIsNotRemoved) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::stored_entries_test

@@ -8,7 +8,7 @@
 #include "support/stored_notes.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::stored_list_editor_test {
 namespace {
 
 using test::AddNote;
@@ -336,4 +336,4 @@ TEST_F(EditorOfTwo, WhatTheOtherRemovedIsNeitherEditedNorDeleted) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::stored_list_editor_test

@@ -6,7 +6,7 @@
 #include "support/stored_notes.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::stored_list_test {
 namespace {
 
 using test::AddNote;
@@ -63,4 +63,4 @@ TEST(StoredListOfTwoPrograms, KnowsWhatTheOtherStoredBefore) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::stored_list_test

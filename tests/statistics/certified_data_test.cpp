@@ -10,7 +10,7 @@
 #include "statistics/one_variable.h"
 #include "statistics/regression.h"
 
-namespace kav {
+namespace kav::certified_data_test {
 namespace {
 
 constexpr double kCertifiedDigits = 15;
@@ -97,4 +97,4 @@ TEST(CertifiedData, TheParabolaThroughPontiusHasTheseDigits) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::certified_data_test

@@ -7,7 +7,7 @@
 
 #include "common/number_text.h"
 
-namespace kav {
+namespace kav::data_fields_test {
 namespace {
 
 Expected<FieldNumbers, Refusal<DataField>> Read(std::u16string_view x, std::u16string_view y,
@@ -99,4 +99,4 @@ TEST(DataFields, OneVariableHasNoY) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::data_fields_test

@@ -16,7 +16,7 @@
 #include "support/spelled_list.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::data_file_test {
 namespace {
 
 using test::Spelled;
@@ -279,4 +279,4 @@ TEST(SaveDataFile, WhatWasLoadedIsSavedAsItWasAndLoadedAgain) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::data_file_test

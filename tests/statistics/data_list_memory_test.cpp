@@ -58,7 +58,7 @@ void operator delete[](void* block, std::size_t) noexcept {
   Give(block);
 }
 
-namespace kav {
+namespace kav::data_list_memory_test {
 namespace {
 
 /// Leaves only `more` bytes to take while it lives.
@@ -215,4 +215,4 @@ TEST(DataListMemory, APasteTooLargeForTheMemoryIsRefused) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::data_list_memory_test

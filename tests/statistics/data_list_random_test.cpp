@@ -10,7 +10,7 @@
 #include "support/random.h"
 #include "support/spelled_list.h"
 
-namespace kav {
+namespace kav::data_list_random_test {
 namespace {
 
 using test::Spelled;
@@ -97,4 +97,4 @@ TEST(DataListRandom, ChangesAtRandomLeaveWhatTheyLeaveInAVector) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::data_list_random_test

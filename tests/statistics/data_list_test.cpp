@@ -15,7 +15,7 @@
 #include "support/random.h"
 #include "support/spelled_list.h"
 
-namespace kav {
+namespace kav::data_list_test {
 namespace {
 
 using test::Spelled;
@@ -325,4 +325,4 @@ TEST(DataList, NoOrderOfAMillionRowsOverflowsTheStackOrTakesLong) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::data_list_test

@@ -9,7 +9,7 @@
 #include "support/effort.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::data_reader_test {
 namespace {
 
 std::string Spelled(const DataRow& row, DataShape shape) {
@@ -306,4 +306,4 @@ TEST(DataReader, BlocksMayBeCutAnywhere) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::data_reader_test

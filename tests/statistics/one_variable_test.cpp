@@ -11,7 +11,7 @@
 #include "support/effort.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::one_variable_test {
 namespace {
 
 DataList ListOf(const std::vector<DataRow>& rows, DataShape shape = DataShape::OneVariable) {
@@ -128,4 +128,4 @@ TEST(OneVariableSums, SumsOfRandomDataAreNearThoseOfMoreDigits) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::one_variable_test

@@ -12,7 +12,7 @@
 #include "support/random.h"
 #include "support/spelled_list.h"
 
-namespace kav {
+namespace kav::pasted_rows_test {
 namespace {
 
 using test::Spelled;
@@ -204,4 +204,4 @@ TEST(PrintRows, WhatIsPrintedIsPastedAgain) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::pasted_rows_test

@@ -7,7 +7,7 @@
 
 #include "common/number_text.h"
 
-namespace kav {
+namespace kav::regression_plot_test {
 namespace {
 
 constexpr DisplayFormat kFormat{DisplayType::Thousands, 7};
@@ -163,4 +163,4 @@ TEST(RegressionPlot, DataThatAreFarApartAreShown) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::regression_plot_test

@@ -11,7 +11,7 @@
 #include "support/effort.h"
 #include "support/random.h"
 
-namespace kav {
+namespace kav::regression_test {
 namespace {
 
 using Model = RegressionModel;
@@ -320,4 +320,4 @@ TEST(EquationText, ACoefficientThatCannotBeShownIsTheMessage) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::regression_test

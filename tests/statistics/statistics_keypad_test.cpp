@@ -14,7 +14,7 @@
 #include "statistics/regression.h"
 #include "statistics/statistics_menus.h"
 
-namespace kav {
+namespace kav::statistics_keypad_test {
 namespace {
 
 constexpr DataShape kShapes[] = {DataShape::OneVariable, DataShape::TwoVariables};
@@ -314,4 +314,4 @@ TEST(StatisticsKeypad, MomentsAreThoseOfTheVariableInTheCaption) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::statistics_keypad_test

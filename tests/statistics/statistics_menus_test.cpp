@@ -4,7 +4,7 @@
 
 #include "common/number_text.h"
 
-namespace kav {
+namespace kav::statistics_menus_test {
 namespace {
 
 TEST(StatisticsMenus, ResultCanBeStoredAboveRecalling) {
@@ -43,4 +43,4 @@ TEST(StatisticsMenus, ItemsStandForModels) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::statistics_menus_test

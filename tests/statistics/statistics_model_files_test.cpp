@@ -8,7 +8,7 @@
 #include "statistics/two_variable_model.h"
 #include "support/statistics_fixture.h"
 
-namespace kav {
+namespace kav::statistics_model_files_test {
 namespace {
 
 constexpr std::u16string_view kQuestion = u"Do you want to save changes to Data?";
@@ -366,4 +366,4 @@ TEST_F(OneVariableFiles, CopiedRowsPasteAgain) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::statistics_model_files_test

@@ -9,7 +9,7 @@
 #include "support/random.h"
 #include "support/statistics_fixture.h"
 
-namespace kav {
+namespace kav::statistics_model_results_test {
 namespace {
 
 class OneVariableScreen : public test::StatisticsFixture<StatisticsModel> {
@@ -205,4 +205,4 @@ TEST_F(OneVariableScreen, DeviationsDoNotDependOnWhereTheValuesLie) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::statistics_model_results_test

@@ -7,7 +7,7 @@
 #include "statistics/two_variable_model.h"
 #include "support/statistics_fixture.h"
 
-namespace kav {
+namespace kav::statistics_model_rows_test {
 namespace {
 
 using OneVariableRows = test::StatisticsFixture<StatisticsModel>;
@@ -283,4 +283,4 @@ TEST_F(OneVariableRows, SortingNoRowsTurnsTheDirectionToo) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::statistics_model_rows_test

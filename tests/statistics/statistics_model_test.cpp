@@ -14,7 +14,7 @@
 #include "support/random.h"
 #include "support/statistics_fixture.h"
 
-namespace kav {
+namespace kav::statistics_model_test {
 namespace {
 
 using OneVariable = test::StatisticsFixture<StatisticsModel>;
@@ -314,4 +314,4 @@ TEST_F(OneVariable, TotalAndButtonsFollowEveryStep) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::statistics_model_test

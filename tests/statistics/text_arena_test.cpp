@@ -7,7 +7,7 @@
 
 #include "support/random.h"
 
-namespace kav {
+namespace kav::text_arena_test {
 namespace {
 
 TEST(TextArena, TheTwoTextsStandOneBehindTheOther) {
@@ -100,4 +100,4 @@ TEST(TextArena, CutToAMarkItIsAsItWasThere) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::text_arena_test

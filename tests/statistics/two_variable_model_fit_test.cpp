@@ -7,7 +7,7 @@
 #include "statistics/two_variable_model.h"
 #include "support/statistics_fixture.h"
 
-namespace kav {
+namespace kav::two_variable_model_fit_test {
 namespace {
 
 class TwoVariableFit : public test::StatisticsFixture<TwoVariableModel> {
@@ -210,4 +210,4 @@ TEST_F(TwoVariableFit, PlotIsThatOfTheChosenModel) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::two_variable_model_fit_test

@@ -10,7 +10,7 @@
 #include "support/random.h"
 #include "support/statistics_fixture.h"
 
-namespace kav {
+namespace kav::two_variable_model_test {
 namespace {
 
 constexpr std::u16string_view kOutOfRange = u"Out of range(overflow or underflow)";
@@ -236,4 +236,4 @@ TEST_F(TwoVariableScreen, ValueCanBeRecalledIntoY) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::two_variable_model_test

@@ -5,7 +5,7 @@
 #include <thread>
 #include <vector>
 
-namespace kav {
+namespace kav::work_progress_test {
 namespace {
 
 TEST(ProgressClock, ItAsksAtOnceAndThenAfterAPause) {
@@ -43,4 +43,4 @@ TEST(ProgressClock, WithoutAProgressItGoesOn) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::work_progress_test

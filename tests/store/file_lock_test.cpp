@@ -9,7 +9,7 @@
 
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::file_lock_test {
 namespace {
 
 using std::chrono::milliseconds;
@@ -88,4 +88,4 @@ TEST(FileLock, IsNotTakenThroughALinkOrInAMissingFolder) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::file_lock_test

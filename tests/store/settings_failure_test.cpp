@@ -23,7 +23,7 @@
 #include "store/user_settings_store.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::settings_failure_test {
 namespace {
 
 using std::string_literals::operator""s;
@@ -370,4 +370,4 @@ TEST(SettingsFailure, DifferentCausesAreEachTold) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::settings_failure_test

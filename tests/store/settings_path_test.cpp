@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-namespace kav {
+namespace kav::settings_path_test {
 namespace {
 
 /// Sets or unsets an environment variable, and puts it back at the end.
@@ -83,4 +83,4 @@ TEST(DefaultSettingsPath, WithoutHomeTheListOfUsersTellsIt) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::settings_path_test

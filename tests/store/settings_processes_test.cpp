@@ -15,7 +15,7 @@
 #include "store/user_settings_store.h"
 #include "support/temporary_folder.h"
 
-namespace kav {
+namespace kav::settings_processes_test {
 namespace {
 
 constexpr int kProcesses = 4;
@@ -121,4 +121,4 @@ TEST(SettingsProcesses, AReaderMeanwhileFindsAWholeFileEveryTime) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::settings_processes_test

@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace kav {
+namespace kav::settings_texts_test {
 namespace {
 
 TEST(SettingsTexts, DamageIsToldWithTheFileAndWhatBecomesOfIt) {
@@ -57,4 +57,4 @@ TEST(SettingsTexts, WithoutAPlaceTheUserIsToldHowToGiveOne) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::settings_texts_test

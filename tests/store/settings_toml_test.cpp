@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace kav {
+namespace kav::settings_toml_test {
 namespace {
 
 using std::string_literals::operator""s;
@@ -312,4 +312,4 @@ TEST(FindSetting, TellsSectionsAndNamesApart) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::settings_toml_test

@@ -9,7 +9,7 @@
 
 #include "store/user_settings_fixture.h"
 
-namespace kav {
+namespace kav::shared_settings_test {
 namespace {
 
 using SharedSettingsTest = UserSettingsStoreTest;
@@ -152,4 +152,4 @@ TEST_F(SharedSettingsTest, AFileThatSomebodyDeletedIsMadeAgainFromWhatChangedSin
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::shared_settings_test

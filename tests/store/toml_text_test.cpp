@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace kav {
+namespace kav::toml_text_test {
 namespace {
 
 using std::string_literals::operator""s;
@@ -139,4 +139,4 @@ TEST(IsModestToml, AStringThatNeverEndsIsReadToTheEndOnly) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::toml_text_test

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace kav {
+namespace kav::toml_writer_test {
 namespace {
 
 /// What `document` becomes when it is read and written.
@@ -97,4 +97,4 @@ TEST(PrintToml, ValuesComeFirstAndTablesUnderTheirHeadings) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::toml_writer_test

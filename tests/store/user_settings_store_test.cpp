@@ -15,7 +15,7 @@
 
 #include "store/user_settings_fixture.h"
 
-namespace kav {
+namespace kav::user_settings_store_test {
 namespace {
 
 using std::string_literals::operator""s;
@@ -297,4 +297,4 @@ TEST_F(UserSettingsStoreTest, ANameAloneIsAFileInTheWorkingFolder) {
 }
 
 }  // namespace
-}  // namespace kav
+}  // namespace kav::user_settings_store_test

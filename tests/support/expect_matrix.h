@@ -16,9 +16,9 @@ namespace kav::test {
 
 inline constexpr const char* kOutOfRange = "Out of range(overflow or underflow)";
 
-inline const MatrixValue kSquare = MatrixOf({{"1", "2"}, {"3", "4"}});
-inline const MatrixValue kWide = MatrixOf({{"1", "2", "3"}, {"4", "5", "6"}});
-inline const MatrixValue kColumn = MatrixOf({{"5"}, {"6"}});
+inline const MatrixValue kSquare = MatrixOfRows({{"1", "2"}, {"3", "4"}});
+inline const MatrixValue kWide = MatrixOfRows({{"1", "2", "3"}, {"4", "5", "6"}});
+inline const MatrixValue kColumn = MatrixOfRows({{"5"}, {"6"}});
 
 /// The matrix that an operator makes of operands, one of which is a matrix.
 inline CalcResult<MatrixValue> Combined(const MatrixOperand& left, MatrixOperator symbol,

@@ -9,7 +9,7 @@
 
 namespace kav::test {
 
-MatrixValue MatrixOf(const PlainRows& rows) {
+MatrixValue MatrixOfRows(const PlainRows& rows) {
   MatrixValue matrix;
   matrix.rows = static_cast<std::int32_t>(rows.size());
   matrix.columns = rows.empty() ? 0 : static_cast<std::int32_t>(rows[0].size());

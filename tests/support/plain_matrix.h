@@ -13,7 +13,7 @@ namespace kav::test {
 using PlainRows = std::vector<std::vector<std::string>>;
 
 /// `rows` as the calculator holds them, and back.
-MatrixValue MatrixOf(const PlainRows& rows);
+MatrixValue MatrixOfRows(const PlainRows& rows);
 PlainRows RowsOf(const MatrixValue& matrix);
 
 /// The text of a cell that takes `value`, and the number that it reads back as.

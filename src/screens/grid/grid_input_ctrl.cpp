@@ -50,7 +50,7 @@ const MoveKey* MoveOf(int key, Qt::KeyboardModifiers modifiers) {
   return nullptr;
 }
 
-bool IsTyping(const QKeyEvent& event) {
+bool TypesIntoCell(const QKeyEvent& event) {
   if ((event.modifiers() & kCommands) != 0) return false;
   return !event.text().isEmpty() && event.text().front().isPrint();
 }
@@ -102,7 +102,7 @@ bool CGridCtrl::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
     // A key of the grid is not to work as a shortcut of the screen around it.
-    const bool edits = isEditable_ && (AsksForEdit(key) || IsTyping(key));
+    const bool edits = isEditable_ && (AsksForEdit(key) || TypesIntoCell(key));
     if (edits || MoveOf(key.key(), key.modifiers()) != nullptr || IsSelectAll(key)) {
       event->accept();
       return true;
@@ -151,7 +151,7 @@ bool CGridCtrl::OnKey(const QKeyEvent& event) {
     SelectRange(kFirst, kLast);
     return true;
   }
-  const bool isTyping = IsTyping(event);
+  const bool isTyping = TypesIntoCell(event);
   if (!isEditable_ || !(isTyping || AsksForEdit(event))) return false;
   if (Focus().IsNone()) Select(kFirst, Reach::Focus);
   EditFocusCell();

@@ -20,7 +20,7 @@ namespace kav {
 namespace {
 
 // Enough for the longest formula.
-constexpr int kFormulaLines = 6;
+constexpr int kListedFormulaLines = 6;
 
 class CMacroListDlg final : public Dialog {
  public:
@@ -38,7 +38,7 @@ class CMacroListDlg final : public Dialog {
 
   MacroListModel model_;
   LabelList* list_ = new LabelList(kMacroListName);
-  FormulaView* formula_ = new FormulaView(kFormulaLines);
+  FormulaView* formula_ = new FormulaView(kListedFormulaLines);
   DialogButton* ok_ = new DialogButton(kOkCaption);
   DialogButton* cancel_ = new DialogButton(kCancelCaption);
 };

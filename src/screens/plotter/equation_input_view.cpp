@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kLines = 2;
 /// Of the height of the whole.
-constexpr double kTextHeight = 0.31;
+constexpr double kInputTextHeight = 0.31;
 
 }  // namespace
 
@@ -81,7 +81,7 @@ void EquationInputView::paintEvent(QPaintEvent*) {
 }
 
 void EquationInputView::resizeEvent(QResizeEvent*) {
-  const int most = qRound(height() * kTextHeight);
+  const int most = qRound(height() * kInputTextHeight);
   const int outline = std::max(2, most / 6);
   // Each line has its part of what outline and margins leave of the height.
   const int text = PixelsForLine(most, (height() - 2 * outline - most / 4.0) / kLines);

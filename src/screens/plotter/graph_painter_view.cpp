@@ -15,7 +15,7 @@ namespace {
 constexpr double kSideMargin = 2;
 constexpr double kTopMargin = 3;
 constexpr double kPictureWidth = kSampleCount + 2 * kSideMargin;
-constexpr double kTextHeight = 11;
+constexpr double kGraphTextHeight = 11;
 constexpr double kDescent = 2.75;
 
 // Lines grow more slowly than the plot: in proportion to it they would look coarse.
@@ -49,7 +49,7 @@ class ShapePainter {
  public:
   ShapePainter(QPainter& painter, const PlotArea& area)
       : painter_(painter), area_(area), scale_(area.Scale()) {
-    QFont font = ScreenFont(Pixels(kTextHeight * scale_));
+    QFont font = ScreenFont(Pixels(kGraphTextHeight * scale_));
     // The coloured fringes of subpixels suit one screen only, and a saved picture is shown on any.
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
     painter_.setFont(font);

@@ -17,7 +17,7 @@ namespace kav {
 namespace {
 
 /// The part of a field's height, and of a caption's width, that the text may take.
-constexpr double kTextHeight = 0.55;
+constexpr double kFieldTextHeight = 0.55;
 constexpr double kTextWidth = 0.97;
 /// The room that a field keeps beside its text, in pixels.
 constexpr int kBesideText = 3;
@@ -63,7 +63,7 @@ int RangeFieldsView::FittingText(int most) const {
     texts.push_back({caption->text(), static_cast<int>(caption->width() * kTextWidth)});
   }
   const QLineEdit& field = *fields_.front();
-  const int highest = std::min(most, qRound(field.height() * kTextHeight));
+  const int highest = std::min(most, qRound(field.height() * kFieldTextHeight));
   // A number with a sign and six digits is shown whole.
   QStyleOptionFrame frame;
   frame.initFrom(&field);

@@ -7,14 +7,14 @@
 namespace kav {
 namespace {
 
-constexpr std::array kColumns{DataColumn{kXHeading, 117}, DataColumn{kCountHeading, 45}};
+constexpr std::array kOneVariableColumns{DataColumn{kXHeading, 117}, DataColumn{kCountHeading, 45}};
 
 }  // namespace
 
 COneVariableDlg::COneVariableDlg(Frame& frame, std::chrono::milliseconds patience)
     : StatisticsScreen(frame, ScreenMode::OneVariable,
                        std::make_unique<StatisticsModel>(DataShape::OneVariable, frame.Store()),
-                       kColumns, patience) {}
+                       kOneVariableColumns, patience) {}
 
 std::unique_ptr<QWidget> MakeOneVariableScreen(Frame& frame) {
   return std::make_unique<COneVariableDlg>(frame);

@@ -9,14 +9,15 @@
 namespace kav {
 namespace {
 
-constexpr std::array kColumns{DataColumn{kXHeading, 85}, DataColumn{kYHeading, 85},
-                              DataColumn{kShortCountHeading, 40}};
+constexpr std::array kTwoVariableColumns{DataColumn{kXHeading, 85}, DataColumn{kYHeading, 85},
+                                         DataColumn{kShortCountHeading, 40}};
 
 }  // namespace
 
 CTwoVariableDlg::CTwoVariableDlg(Frame& frame, std::chrono::milliseconds patience)
     : StatisticsScreen(frame, ScreenMode::TwoVariable,
-                       std::make_unique<TwoVariableModel>(frame.Store()), kColumns, patience) {}
+                       std::make_unique<TwoVariableModel>(frame.Store()), kTwoVariableColumns,
+                       patience) {}
 
 void CTwoVariableDlg::Do(const OpenGraph& request) {
   RunGraphView(this, request.input);

@@ -12,11 +12,11 @@ inline constexpr std::u16string_view kLoading = u"Loading...";
 
 // The version that the settings and the about box name.
 inline constexpr std::string_view kVersionNumber = KAV_VERSION;
-inline constexpr std::u16string_view kAbout =
-    u"Kav Calculator " KAV_VERSION "\n\n"
-    u"A scientific calculator with an expression line,\n"
-    u"number bases, a history and macros.\n\n"
-    u"kavcalc is the same for the command line.";
+inline constexpr std::u16string_view kAbout = u"Kav Calculator " KAV_VERSION
+                                              "\n\n"
+                                              u"A scientific calculator with an expression line,\n"
+                                              u"number bases, a history and macros.\n\n"
+                                              u"kavcalc is the same for the command line.";
 
 // One per screen, as its window and the Mode menu call it.
 inline constexpr std::u16string_view kScientificScreen = u"Scientific Calculator";

@@ -13,7 +13,6 @@
 namespace kav {
 namespace {
 
-constexpr QSize kSmallest(180, 240);
 constexpr std::size_t kLongestLine = 400;
 
 /// The part of the desktop that a dialog opened by `opener` covers.
@@ -32,7 +31,7 @@ void SetMargins(QLayout* layout, int pixels) {
 Dialog::Dialog(QWidget* parent, std::u16string_view title) : QDialog(parent) {
   setWindowTitle(ToQt(title));
   setPalette(ScreenPalette());
-  setMinimumSize(kSmallest);
+  setMinimumSize(kSmallestWindow);
   setModal(true);
 }
 

@@ -1,6 +1,7 @@
 // A text that gets smaller letters if it is too long for its place.
 #pragma once
 
+#include <QResizeEvent>
 #include <QString>
 #include <algorithm>
 #include <vector>

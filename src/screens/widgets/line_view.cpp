@@ -16,7 +16,7 @@ constexpr double kLargestText = 0.68;
 constexpr double kSmallestText = 0.3;
 
 /// As long as a line can be; beyond, widths in pixels leave the range that Qt lays text out in.
-constexpr int kLongestLine = 1 << 20;
+constexpr int kLongestText = 1 << 20;
 
 /// Keeps the selection of a line, and its direction, over what the line does with it meanwhile.
 class SelectionKeeper {
@@ -51,7 +51,7 @@ class SelectionKeeper {
 LineView::LineView(QWidget* parent) : QLineEdit(parent) {
   setStyle(ScreenStyle());
   setFrame(false);
-  setMaxLength(kLongestLine);
+  setMaxLength(kLongestText);
 }
 
 void LineView::SetTextHeight(int pixels) {

@@ -48,6 +48,9 @@ QStyle* ScreenStyle();
 /// The free pixels before the text of a drop-down list.
 inline constexpr int kChoiceMargin = 1;
 
+/// No window is smaller, in logical pixels.
+inline constexpr QSize kSmallestWindow(180, 240);
+
 /// The part of a window of `window` pixels that a screen fills: all of it if it is upright, else a
 /// centred column.
 QRect PortraitArea(QSize window);

@@ -15,8 +15,6 @@
 namespace kav {
 namespace {
 
-constexpr QSize kSmallest(180, 240);
-
 void AddAction(QMenu* menu, const MenuEntry& entry) {
   QAction* action = menu->addAction(ToQt(entry.text));
   action->setShortcut(entry.shortcut);
@@ -84,7 +82,7 @@ Screen::Screen(Frame& frame, QSize size)
     : frame_(frame), size_(size), menuBar_(new BottomMenuBar(this)) {
   setWindowTitle(ToQt(kApplicationName));
   setPalette(ScreenPalette());
-  setMinimumSize(kSmallest);
+  setMinimumSize(kSmallestWindow);
 }
 
 void Screen::AddMenu(std::u16string_view title, const std::vector<MenuEntry>& entries) {

@@ -6,8 +6,8 @@ namespace kav {
 
 TextField::TextField(std::u16string_view name) {
   // Longer texts make it slow.
-  constexpr int kLongestText = 1 << 16;
-  setMaxLength(kLongestText);
+  constexpr int kLongestField = 1 << 16;
+  setMaxLength(kLongestField);
   setAccessibleName(ToQt(name));
 }
 
