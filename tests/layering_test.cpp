@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 #include <regex>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -192,6 +193,99 @@ TEST(Layering, EveryFolderIsOnOneFloor) {
   for (const auto& source : Sources()) {
     EXPECT_TRUE(FloorOf(UnitOf(source).room)) << source;
   }
+}
+
+/// The lines of docs/architecture.md.
+std::vector<std::string> LinesOfThePage() {
+  std::ifstream file(fs::path(KAV_SOURCE_FOLDER) / "docs" / "architecture.md");
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(file, line);) lines.push_back(line);
+  return lines;
+}
+
+/// The floors as the page draws them, from the ground up: from the line of the roof to that of the
+/// ground, each floor a line, and before some the name of the storey.
+std::vector<std::vector<std::string>> DrawnFloors() {
+  std::vector<std::vector<std::string>> floors;
+  bool inside = false;
+  for (const auto& line : LinesOfThePage()) {
+    inside = inside || line.starts_with("roof ");
+    if (!inside) continue;
+    if (line.starts_with("```")) break;
+    std::istringstream words(line.front() == ' ' ? line : line.substr(line.find(' ')));
+    floors.emplace_back();
+    for (std::string word; words >> word;) floors.back().push_back(word);
+  }
+  std::reverse(floors.begin(), floors.end());
+  return floors;
+}
+
+TEST(Layering, TheArchitecturePageDrawsTheseFloors) {
+  auto drawn = DrawnFloors();
+  auto floors = kFloors;
+  for (auto* all : {&drawn, &floors}) {
+    for (auto& floor : *all) std::sort(floor.begin(), floor.end());
+  }
+  EXPECT_EQ(drawn, floors);
+}
+
+TEST(Layering, TheArchitecturePageDescribesEachRoomOnce) {
+  static const std::regex kRow(R"re(^\| `([a-z/]+)/` \| .+ \|$)re");
+  std::vector<std::string> described;
+  for (const auto& line : LinesOfThePage()) {
+    std::smatch match;
+    if (std::regex_match(line, match, kRow)) described.push_back(match[1]);
+  }
+  std::vector<std::string> rooms;
+  for (const auto& floor : kFloors) rooms.insert(rooms.end(), floor.begin(), floor.end());
+  std::sort(described.begin(), described.end());
+  std::sort(rooms.begin(), rooms.end());
+  EXPECT_EQ(described, rooms);
+}
+
+/// For each source or header, without the extension: the others that it includes.
+using Graph = std::map<std::string, std::set<std::string>>;
+
+Graph IncludeGraph() {
+  Graph graph;
+  for (const auto& source : Sources()) {
+    const std::string from = UnitOf(source).stem;
+    for (const auto& include : IncludesIn(TextOf(source))) {
+      const std::string to = UnitOf(include.name).stem;
+      if (include.isOurs && to != from) graph[from].insert(to);
+    }
+  }
+  return graph;
+}
+
+/// All that `from` includes, directly or not.
+std::set<std::string> Reached(const Graph& graph, const std::string& from) {
+  std::set<std::string> reached;
+  std::vector<std::string> waiting{from};
+  while (!waiting.empty()) {
+    const auto next = graph.find(waiting.back());
+    waiting.pop_back();
+    if (next == graph.end()) continue;
+    for (const auto& to : next->second) {
+      if (reached.insert(to).second) waiting.push_back(to);
+    }
+  }
+  return reached;
+}
+
+TEST(Layering, NoFileIncludesItselfInACircle) {
+  const Graph graph = IncludeGraph();
+  EXPECT_GT(graph.size(), 50U) << "the sources were not found";
+  for (const auto& file : graph) {
+    EXPECT_FALSE(Reached(graph, file.first).contains(file.first)) << file.first;
+  }
+}
+
+TEST(Layering, ACircleIsSeen) {
+  const Graph graph{{"a", {"b"}}, {"b", {"c", "d"}}, {"c", {"a"}}, {"d", {"e"}}};
+  EXPECT_TRUE(Reached(graph, "a").contains("a"));
+  EXPECT_TRUE(Reached(graph, "c").contains("c"));
+  EXPECT_FALSE(Reached(graph, "d").contains("d"));
 }
 
 TEST(Layering, EverySourceOfTheLogicHasTheTestOfItsName) {
