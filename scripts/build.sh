@@ -18,8 +18,9 @@ exec {lock}>"$folder/.lock"
 flock "$lock"
 
 # All presets compile the same sources, so they share what was compiled: by paths from here on, which
-# are the same in each folder of theirs.
-export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=yes CCACHE_ABSSTDERR=yes
+# are the same in each folder of theirs. What is not there yet is compiled at once, instead of being
+# preprocessed first to be looked for.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=yes CCACHE_ABSSTDERR=yes CCACHE_DEPEND=yes
 
 configure() {
   cmake --preset "$preset" "$@" </dev/null >/dev/null
