@@ -10,7 +10,7 @@
 namespace kav {
 namespace {
 
-constexpr std::size_t kBlock = 65536;
+constexpr std::size_t kReadBlock = 65536;
 
 }  // namespace
 
@@ -18,8 +18,8 @@ LineReader::LineReader(int descriptor, std::size_t longest, std::function<void()
     : descriptor_(descriptor),
       longest_(longest),
       beforeWaiting_(std::move(beforeWaiting)),
-      data_(std::make_unique_for_overwrite<char[]>(kBlock)),
-      capacity_(kBlock) {}
+      data_(std::make_unique_for_overwrite<char[]>(kReadBlock)),
+      capacity_(kReadBlock) {}
 
 std::optional<std::string_view> LineReader::Next() {
   do {
@@ -58,7 +58,7 @@ void LineReader::MakeRoom() {
   std::copy(&data_[begin_], &data_[end_], data_.get());
   end_ -= std::exchange(begin_, 0);
   // Reads of less than half a block are not worth a call; a line that leaves no more gets room.
-  if (capacity_ - end_ < kBlock / 2) capacity_ / 2 >= longest_ ? Shorten() : Grow();
+  if (capacity_ - end_ < kReadBlock / 2) capacity_ / 2 >= longest_ ? Shorten() : Grow();
   scanned_ = end_;
 }
 

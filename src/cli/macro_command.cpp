@@ -30,13 +30,13 @@ int ListMacros(const CommandLine& line) {
 // The parts of an item to add. Those after the name may be missing.
 constexpr std::size_t kName = 0;
 constexpr std::size_t kFormula = 1;
-constexpr std::size_t kVariables = 2;
+constexpr std::size_t kVariablesPart = 2;
 constexpr std::size_t kParts = 3;
 
 /// Adds the macro of `parts`. Its variables are `usual` unless the parts name others.
 Answer AddMacro(const Parts& parts, VariableType usual, StoredSettings& settings) {
   TypedMacro macro{Widen(PartAt(parts, kName)), usual, Widen(PartAt(parts, kFormula))};
-  const std::string_view variables = PartAt(parts, kVariables);
+  const std::string_view variables = PartAt(parts, kVariablesPart);
   if (parts.size() == kParts) macro.type = VariablesCalled(variables);
   if (!macro.type && !variables.empty()) return Failure{NotVariables(variables)};
   const auto saved = SaveMacro(macro, std::nullopt, settings.Store());
@@ -63,7 +63,7 @@ bool RemoveCalled(std::string_view name, SettingsStore& settings) {
   return remove(name) || (trimmed != name && remove(trimmed));
 }
 
-Answer AnswerRemoval(std::string_view name, StoredSettings& settings) {
+Answer AnswerMacroRemoval(std::string_view name, StoredSettings& settings) {
   const bool isRemoved = RemoveCalled(name, settings.Store());
   if (auto failure = settings.TakeFailure()) return *std::move(failure);
   if (!isRemoved) return Failure{std::string(kMacroNameUnknown)};
@@ -73,7 +73,7 @@ Answer AnswerRemoval(std::string_view name, StoredSettings& settings) {
 int RemoveMacros(const CommandLine& line) {
   StoredSettings settings(line.options);
   return AnswerItems(line, LineReader::kAnyLength,
-                     [&](std::string_view name) { return AnswerRemoval(name, settings); });
+                     [&](std::string_view name) { return AnswerMacroRemoval(name, settings); });
 }
 
 }  // namespace

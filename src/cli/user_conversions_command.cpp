@@ -61,7 +61,7 @@ void TellLosing(const std::vector<UserConversion>& losing) {
   Tell(RatesLostDigits(texts));
 }
 
-Answer AnswerRemoval(std::string_view text, StoredSettings& settings) {
+Answer AnswerConversionRemoval(std::string_view text, StoredSettings& settings) {
   SettingsStore& store = settings.Store();
   store.Refresh();
   const auto stored = LoadUserConversions(store);
@@ -77,8 +77,9 @@ Answer AnswerRemoval(std::string_view text, StoredSettings& settings) {
 
 int RemoveConversions(const CommandLine& line) {
   StoredSettings settings(line.options);
-  return AnswerItems(line, LineReader::kAnyLength,
-                     [&](std::string_view text) { return AnswerRemoval(text, settings); });
+  return AnswerItems(line, LineReader::kAnyLength, [&](std::string_view text) {
+    return AnswerConversionRemoval(text, settings);
+  });
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ bool IsNumberCharacter(char c) {
   return kTable[static_cast<unsigned char>(c)];
 }
 
-std::int32_t ReadCount(std::string_view token) {
+std::int32_t ReadCountToken(std::string_view token) {
   if (token.size() <= kSmallDigits) {
     const char* const end = token.data() + token.size();
     const TakenDigits digits = TakeDigits(token.data(), end, 0);
@@ -84,7 +84,7 @@ inline std::optional<DataFault> DataReader::TakeToken(std::string_view token) {
     return std::nullopt;
   }
   field_ = 0;
-  row.count = ReadCount(token);
+  row.count = ReadCountToken(token);
   lines_[whole_++] = line_;
   if (whole_ == kRowsAtOnce) return HandRowsOver();
   return std::nullopt;
