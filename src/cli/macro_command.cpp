@@ -27,17 +27,20 @@ int ListMacros(const CommandLine& line) {
   return AnswerOnce(rows, line.options);
 }
 
-// The parts of an item to add. Those after the name may be missing.
+/// The parts of an item to add. Those after the name may be missing.
+namespace macro_part {
 constexpr std::size_t kName = 0;
 constexpr std::size_t kFormula = 1;
-constexpr std::size_t kVariablesPart = 2;
-constexpr std::size_t kParts = 3;
+constexpr std::size_t kVariables = 2;
+constexpr std::size_t kCount = 3;
+}  // namespace macro_part
 
 /// Adds the macro of `parts`. Its variables are `usual` unless the parts name others.
 Answer AddMacro(const Parts& parts, VariableType usual, StoredSettings& settings) {
-  TypedMacro macro{Widen(PartAt(parts, kName)), usual, Widen(PartAt(parts, kFormula))};
-  const std::string_view variables = PartAt(parts, kVariablesPart);
-  if (parts.size() == kParts) macro.type = VariablesCalled(variables);
+  TypedMacro macro{Widen(PartAt(parts, macro_part::kName)), usual,
+                   Widen(PartAt(parts, macro_part::kFormula))};
+  const std::string_view variables = PartAt(parts, macro_part::kVariables);
+  if (parts.size() == macro_part::kCount) macro.type = VariablesCalled(variables);
   if (!macro.type && !variables.empty()) return Failure{NotVariables(variables)};
   const auto saved = SaveMacro(macro, std::nullopt, settings.Store());
   if (auto failure = settings.TakeFailure()) return *std::move(failure);
@@ -47,7 +50,7 @@ Answer AddMacro(const Parts& parts, VariableType usual, StoredSettings& settings
 
 int AddMacros(const CommandLine& line) {
   StoredSettings settings(line.options);
-  return AnswerParts(line, kParts, LineReader::kAnyLength, [&](const Parts& parts) {
+  return AnswerParts(line, macro_part::kCount, LineReader::kAnyLength, [&](const Parts& parts) {
     return AddMacro(parts, line.options.variables, settings);
   });
 }

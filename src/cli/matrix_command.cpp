@@ -10,18 +10,10 @@
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_file.h"
 #include "matrix/matrix_line.h"
-#include "settings/keys.h"
+#include "matrix/matrix_value.h"
 
 namespace kav {
 namespace {
-
-/// Of any size: expressions that name a matrix with an empty cell fail, so its size never shows.
-MatrixValue EmptyMatrix() {
-  MatrixValue matrix;
-  matrix.rows = kMatrixRows.fallback;
-  matrix.columns = kMatrixColumns.fallback;
-  return matrix;
-}
 
 /// The matrices in the files of the options; those without a file are empty. Or why one cannot be
 /// loaded.
@@ -29,7 +21,8 @@ Expected<Matrices, std::string> LoadMatrices(const Options& options) {
   Matrices matrices;
   for (std::size_t i = 0; i < matrices.size(); ++i) {
     const std::string& path = options.matrixFiles[i];
-    auto loaded = path.empty() ? EmptyMatrix() : LoadMatrixFile(path);
+    // Expressions that name a matrix with an empty cell fail, so the size of this one never shows.
+    auto loaded = path.empty() ? MatrixOfSize(1, 1) : LoadMatrixFile(path);
     if (!loaded) return Narrow(loaded.error());
     matrices[i] = *std::move(loaded);
   }

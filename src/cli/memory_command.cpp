@@ -52,9 +52,9 @@ Answer StoreValue(const Parts& parts, Evaluation& evaluation) {
 }
 
 int StoreMemory(const CommandLine& line) {
-  constexpr std::size_t kStoredParts = 2;
+  constexpr std::size_t kNumberAndExpression = 2;
   Evaluation evaluation(line.options);
-  return AnswerParts(line, kStoredParts, kLongestExpression,
+  return AnswerParts(line, kNumberAndExpression, kLongestExpression,
                      [&](const Parts& parts) { return StoreValue(parts, evaluation); });
 }
 
