@@ -1,13 +1,10 @@
-// The functions of the engine: their names, their codes in tokens and their operations.
+// The functions of the engine: their names, and their codes in tokens.
 #pragma once
 
-#include <algorithm>
 #include <array>
-#include <cstddef>
 #include <string_view>
 
 #include "engine/calc_token.h"
-#include "engine/steps.h"
 
 namespace kav {
 
@@ -15,38 +12,18 @@ namespace kav {
 struct FunctionName {
   std::string_view name;
   FunctionCode code;
-  Operation operation;
 };
 
 /// All functions, in the order in which lists show them.
 inline constexpr std::array kFunctionNames{
-    FunctionName{"sin", FunctionCode::Sin, Operation::Sin},
-    FunctionName{"cos", FunctionCode::Cos, Operation::Cos},
-    FunctionName{"tan", FunctionCode::Tan, Operation::Tan},
-    FunctionName{"asin", FunctionCode::Asin, Operation::Asin},
-    FunctionName{"acos", FunctionCode::Acos, Operation::Acos},
-    FunctionName{"atan", FunctionCode::Atan, Operation::Atan},
-    FunctionName{"sinh", FunctionCode::Sinh, Operation::Sinh},
-    FunctionName{"cosh", FunctionCode::Cosh, Operation::Cosh},
-    FunctionName{"tanh", FunctionCode::Tanh, Operation::Tanh},
-    FunctionName{"log", FunctionCode::Log, Operation::Log},
-    FunctionName{"ln", FunctionCode::Ln, Operation::Ln},
-    FunctionName{"exp", FunctionCode::Exp, Operation::Exp},
-    FunctionName{"sqrt", FunctionCode::Sqrt, Operation::Sqrt},
-    FunctionName{"abs", FunctionCode::Abs, Operation::Abs},
-    FunctionName{"int", FunctionCode::Int, Operation::Int},
-    FunctionName{"frac", FunctionCode::Frac, Operation::Frac},
+    FunctionName{"sin", FunctionCode::Sin},   FunctionName{"cos", FunctionCode::Cos},
+    FunctionName{"tan", FunctionCode::Tan},   FunctionName{"asin", FunctionCode::Asin},
+    FunctionName{"acos", FunctionCode::Acos}, FunctionName{"atan", FunctionCode::Atan},
+    FunctionName{"sinh", FunctionCode::Sinh}, FunctionName{"cosh", FunctionCode::Cosh},
+    FunctionName{"tanh", FunctionCode::Tanh}, FunctionName{"log", FunctionCode::Log},
+    FunctionName{"ln", FunctionCode::Ln},     FunctionName{"exp", FunctionCode::Exp},
+    FunctionName{"sqrt", FunctionCode::Sqrt}, FunctionName{"abs", FunctionCode::Abs},
+    FunctionName{"int", FunctionCode::Int},   FunctionName{"frac", FunctionCode::Frac},
 };
-
-/// The operation of the function `code`, which is not None.
-constexpr Operation OperationOf(FunctionCode code) {
-  const auto place = static_cast<int>(code) - static_cast<int>(FunctionCode::Sin);
-  return static_cast<Operation>(place + static_cast<int>(Operation::Sin));
-}
-static_assert(std::all_of(kFunctionNames.begin(), kFunctionNames.end(),
-                          [](const FunctionName& row) {
-                            return OperationOf(row.code) == row.operation;
-                          }),
-              "codes and operations are enumerated in the same order");
 
 }  // namespace kav

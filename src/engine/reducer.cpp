@@ -2,8 +2,6 @@
 
 #include <array>
 
-#include "engine/function_names.h"
-
 namespace kav {
 namespace {
 

@@ -1,9 +1,11 @@
 #include "engine/steps.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string_view>
 
 #include "common/number_text.h"
+#include "engine/function_names.h"
 #include "engine/functions.h"
 
 namespace kav {
@@ -135,8 +137,9 @@ constexpr unsigned kRangeOrLimit = Raises(OutOfRange, CalculationLimit);
 constexpr unsigned kRangeOrNotWhole = Raises(OutOfRange, NotInteger);
 constexpr unsigned kLimitOrNotWhole = Raises(CalculationLimit, NotInteger);
 
-/// All facts of an operation. In `form`, L stands for the target's slot and R for the right one.
-/// `name` is what messages call it, `shortName` is for messages about values that are not whole.
+/// All facts of an operation. In `form`, L stands for the target's slot and R for the right one;
+/// that of a function is empty. `name` is what messages call it, `shortName` is for messages about
+/// values that are not whole.
 struct OperationRow {
   Operation operation;
   std::string_view form;
@@ -145,6 +148,12 @@ struct OperationRow {
   unsigned raises;
   ApplyFunction apply;
 };
+
+constexpr OperationRow Function(Operation operation, unsigned raises, ApplyFunction apply) {
+  const auto operationOf = [](const FunctionName& row) { return OperationOf(row.code); };
+  const auto* named = std::ranges::find(kFunctionNames, operation, operationOf);
+  return {operation, "", named->name, "", raises, apply};
+}
 
 constexpr OperationRow kOperations[] = {
     {Operation::Negate, "L * -1", "", "", kNoError,
@@ -175,28 +184,23 @@ constexpr OperationRow kOperations[] = {
      FoldBits<[](std::int32_t a, std::int32_t b) { return ~(a ^ b); }>},
     {Operation::Not, "not L", "", "", kNoError,
      Unchecked<[](double x, double) -> double { return ~ToInt32(x); }>},
-    {Operation::Sin, "sin(L)", "sin", "", kRange, MapAngle<Sine>},
-    {Operation::Cos, "cos(L)", "cos", "", kRange, MapAngle<Cosine>},
-    {Operation::Tan, "tan(L)", "tan", "", kRangeOrLimit, ApplyTangent},
-    {Operation::Asin, "asin(L)", "asin", "", kRangeOrLimit,
-     MapToAngle<[](double x) { return std::asin(x); }>},
-    {Operation::Acos, "acos(L)", "acos", "", kRangeOrLimit,
-     MapToAngle<[](double x) { return std::acos(x); }>},
-    {Operation::Atan, "atan(L)", "atan", "", kRange,
-     MapAngle<[](double x, AngleUnit unit) { return InAngleUnit(std::atan(x), unit); }>},
-    {Operation::Log, "log(L)", "log", "", kRangeOrLimit,
-     MapPositive<[](double x) { return std::log10(x); }>},
-    {Operation::Ln, "ln(L)", "ln", "", kRangeOrLimit,
-     MapPositive<[](double x) { return std::log(x); }>},
-    {Operation::Exp, "exp(L)", "exp", "", kRange, Map<[](double x) { return std::exp(x); }>},
-    {Operation::Sinh, "sinh(L)", "sinh", "", kRange, Map<[](double x) { return std::sinh(x); }>},
-    {Operation::Cosh, "cosh(L)", "cosh", "", kRange, Map<[](double x) { return std::cosh(x); }>},
-    {Operation::Tanh, "tanh(L)", "tanh", "", kRange, Map<[](double x) { return std::tanh(x); }>},
-    {Operation::Sqrt, "sqrt(L)", "sqrt", "", kRangeOrLimit,
-     MapPositive<[](double x) { return Power(x, 0.5); }>},
-    {Operation::Abs, "abs(L)", "abs", "", kRange, Map<[](double x) { return std::fabs(x); }>},
-    {Operation::Int, "int(L)", "int", "", kRange, Map<[](double x) { return std::trunc(x); }>},
-    {Operation::Frac, "frac(L)", "frac", "", kRange, Map<FractionalPart>},
+    Function(Operation::Sin, kRange, MapAngle<Sine>),
+    Function(Operation::Cos, kRange, MapAngle<Cosine>),
+    Function(Operation::Tan, kRangeOrLimit, ApplyTangent),
+    Function(Operation::Asin, kRangeOrLimit, MapToAngle<[](double x) { return std::asin(x); }>),
+    Function(Operation::Acos, kRangeOrLimit, MapToAngle<[](double x) { return std::acos(x); }>),
+    Function(Operation::Atan, kRange,
+             MapAngle<[](double x, AngleUnit unit) { return InAngleUnit(std::atan(x), unit); }>),
+    Function(Operation::Log, kRangeOrLimit, MapPositive<[](double x) { return std::log10(x); }>),
+    Function(Operation::Ln, kRangeOrLimit, MapPositive<[](double x) { return std::log(x); }>),
+    Function(Operation::Exp, kRange, Map<[](double x) { return std::exp(x); }>),
+    Function(Operation::Sinh, kRange, Map<[](double x) { return std::sinh(x); }>),
+    Function(Operation::Cosh, kRange, Map<[](double x) { return std::cosh(x); }>),
+    Function(Operation::Tanh, kRange, Map<[](double x) { return std::tanh(x); }>),
+    Function(Operation::Sqrt, kRangeOrLimit, MapPositive<[](double x) { return Power(x, 0.5); }>),
+    Function(Operation::Abs, kRange, Map<[](double x) { return std::fabs(x); }>),
+    Function(Operation::Int, kRange, Map<[](double x) { return std::trunc(x); }>),
+    Function(Operation::Frac, kRange, Map<FractionalPart>),
     {Operation::FailExpression, "fail", "", "", Raises(Expression), Fail<Expression>},
     {Operation::FailNeedsArgument, "fail", "!", "", Raises(NeedsArgument), Fail<NeedsArgument>},
     {Operation::Finish, "answer L", "", "", kRange, ApplyFinish},
@@ -240,12 +244,13 @@ Expected<double, StepFailure> RunSteps(const StepList& steps, SlotValues& values
 
 std::string DescribeStep(const Step& step) {
   const OperationRow& row = RowOf(step.operation);
+  const std::string form = row.form.empty() ? std::string(row.name) + "(L)" : std::string(row.form);
   const auto slot = [](std::uint8_t number) { return "#" + PrintInteger(number); };
   std::string line;
-  if (row.form.find('L') != row.form.npos && step.operation != Operation::Finish) {
+  if (form.find('L') != form.npos && step.operation != Operation::Finish) {
     line = slot(step.target) + " = ";
   }
-  for (const char c : row.form) {
+  for (const char c : form) {
     if (c == 'L' || c == 'R') {
       line += slot(c == 'L' ? step.target : step.right);
     } else {

@@ -53,6 +53,14 @@ enum class Operation : std::uint8_t {
   Finish,             ///< `target` holds the answer
 };
 
+/// The operation of the function `code`, which is not None.
+constexpr Operation OperationOf(FunctionCode code) {
+  const auto place = static_cast<int>(code) - static_cast<int>(FunctionCode::Sin);
+  return static_cast<Operation>(place + static_cast<int>(Operation::Sin));
+}
+static_assert(OperationOf(FunctionCode::Frac) == Operation::Frac,
+              "codes and operations are enumerated in the same order");
+
 /// One step: slot `target` takes the result of the operation on slots `target` and `right` (the
 /// latter only if the operation has two operands). A slot has the number of its token.
 struct Step {
