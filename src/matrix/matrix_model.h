@@ -55,7 +55,6 @@ class MatrixModel {
   // The keys and the menus that they open.
   std::u16string_view Caption(MatrixKey key) const;
   bool IsEnabled(MatrixKey key) const;
-  static bool IsVisible(MatrixKey) { return true; }
   MatrixRequest Press(MatrixKey key);
   /// The menu that `key` opens now; empty for a key without one.
   Menu MenuOf(MatrixKey key) const;
@@ -112,9 +111,6 @@ class MatrixModel {
     return board_.SaveTo(path);
   }
   std::optional<std::u16string> LoadFrom(const std::string& path) { return board_.LoadFrom(path); }
-
-  AngleUnit Angle() const { return angle_; }
-  const History& PastLines() const { return history_; }
 
  private:
   void Write(MatrixKey key);

@@ -72,9 +72,6 @@ class PlotterModel {
   /// Inserts the formula of macro `index` into the input; nothing if there is no such macro.
   void TakeMacro(int index);
 
-  AngleUnit Angle() const { return angle_; }
-  const History& PastEquations() const { return history_; }
-
  private:
   void Change(PlotterKey key);
   void Insert(std::u16string_view text);

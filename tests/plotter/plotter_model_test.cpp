@@ -22,7 +22,7 @@ TEST_F(PlotterScreen, FreshScreenHasTheDefaultRangeAndNoEquations) {
   EXPECT_TRUE(List().empty());
   EXPECT_EQ(model_->Range(), (RangeTexts{u"-10", u"10", u"-10", u"10"}));
   EXPECT_EQ(model_->Options(), (GraphOptions{true, true, true}));
-  EXPECT_EQ(model_->Angle(), AngleUnit::Degrees);
+  EXPECT_EQ(model_->Caption(PlotterKey::Deg), u"DEG");
   EXPECT_TRUE(IsEnabled(PlotterKey::Add));
   EXPECT_FALSE(IsEnabled(PlotterKey::DeleteEquation));
   EXPECT_FALSE(IsEnabled(PlotterKey::PlayBack));
@@ -241,7 +241,7 @@ TEST_F(PlotterScreen, AnyKeysLeaveAScreenThatHoldsItsRules) {
       model_->Choose(PlotterKey::PlayBack, static_cast<int>(random.Below(22)));
     if (model_->Input().Text().size() > 200) Press(u"CLR");
     ASSERT_LE(List().size(), 3U);
-    ASSERT_LE(Entries().size(), 20U);
+    ASSERT_LE(model_->MenuOf(PlotterKey::PlayBack).size(), 20U);
     ASSERT_EQ(IsEnabled(PlotterKey::Add), List().size() < 3);
     ASSERT_EQ(IsEnabled(PlotterKey::DeleteEquation), !List().empty());
     ASSERT_EQ(model_->Equations().Selected().has_value(), !List().empty());

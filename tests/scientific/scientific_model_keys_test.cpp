@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "support/scientific_screen.h"
 
 namespace kav::scientific_model_keys_test {
@@ -45,18 +47,17 @@ TEST_F(Screen, AnswerIsWrappedByTheNextKeyBecauseTheLineIsSelected) {
 
 TEST_F(Screen, ShiftStaysUntilItIsPressedAgain) {
   Press(*model_, u"Shift ASIN 1 = ACOS 1 BS CLR");
-  EXPECT_EQ(model_->Shift(), ShiftState::On);
+  EXPECT_TRUE(IsShiftOn());
   EXPECT_EQ(model_->Caption(Key::Sin), u"ASIN");
   Press(*model_, u"Shift");
-  EXPECT_EQ(model_->Shift(), ShiftState::Off);
+  EXPECT_FALSE(IsShiftOn());
   EXPECT_EQ(model_->Caption(Key::Sin), u"SIN");
   Press(*model_, u"Shift Shift Shift");
-  EXPECT_EQ(model_->Shift(), ShiftState::On);
+  EXPECT_TRUE(IsShiftOn());
 }
 
 TEST_F(Screen, AngleKeyTogglesAndShowsTheUnitInForce) {
   Press(*model_, u"DEG");
-  EXPECT_EQ(model_->Angle(), AngleUnit::Radians);
   EXPECT_EQ(model_->Caption(Key::Deg), u"RAD");
   Evaluate(u"sin(Pi/2)");
   EXPECT_EQ(Result(), u"1");
@@ -83,11 +84,10 @@ TEST_F(Screen, DeletingKeysDeleteACharacterOrTheSelection) {
   EXPECT_EQ(MarkedNow(), u"|14");
 }
 
-TEST_F(Screen, ClearTakesTheLineIntoTheExpressionBeforeItEmptiesIt) {
+TEST_F(Screen, ClearEmptiesTheLineAndKeepsTheAnswer) {
   Evaluate(u"1+1");
   SetMarked(u" 2+[3]");
   Press(*model_, u"CLR");
-  EXPECT_EQ(model_->Expression(), u" 2+3");
   EXPECT_EQ(MarkedNow(), u"|");
   EXPECT_EQ(Result(), u"2");
 }
@@ -105,22 +105,25 @@ TEST_F(Screen, SignGoesOneCharacterBehindTheSelection) {
 }
 
 TEST_F(Screen, EnabledKeysWriteTheFaceTheyShowAndOthersDoNothing) {
-  for (const int base : {kDecimalItem, kHexadecimalItem, kBinaryItem, kOctalItem}) {
+  for (const auto& [item, base] :
+       {std::pair(kDecimalItem, BaseMode::Decimal),
+        std::pair(kHexadecimalItem, BaseMode::Hexadecimal),
+        std::pair(kBinaryItem, BaseMode::Binary), std::pair(kOctalItem, BaseMode::Octal)}) {
     for (const ShiftState shift : {ShiftState::Off, ShiftState::On}) {
       for (const KeyPlace& place : KeyPlaces()) {
         Open();
         if (shift == ShiftState::On) Press(*model_, u"Shift");
-        model_->Choose(Key::Dec, base);
+        model_->Choose(Key::Dec, item);
         SetMarked(u"1[23]45");
         ExpressionLine expected = model_->Line();
-        const KeyFace& face = FaceShown(place.key, model_->Base(), shift);
+        const KeyFace& face = FaceShown(place.key, base, shift);
         const bool writes = face.selected.has_value();
         if (!writes && model_->IsEnabled(place.key)) continue;
         if (model_->IsEnabled(place.key)) ApplyFace(face, expected);
         const auto request = model_->Press(place.key);
         EXPECT_EQ(MarkedNow(), Marked(expected));
         EXPECT_TRUE(std::holds_alternative<Nothing>(request));
-        EXPECT_EQ(model_->Shift(), shift);
+        EXPECT_EQ(IsShiftOn(), shift == ShiftState::On);
       }
     }
   }
@@ -186,7 +189,7 @@ TEST_F(Screen, BaseInForceChosenAgainChangesNothing) {
 
 TEST_F(Screen, ItemsThatAreNoBaseChangeNothing) {
   for (const int id : {0, -1, 2, 32804, 32809}) model_->Choose(Key::Dec, id);
-  EXPECT_EQ(model_->Base(), BaseMode::Decimal);
+  EXPECT_EQ(model_->Caption(Key::Dec), u"DEC");
 }
 
 TEST_F(Screen, ShiftThatIsOnOutlivesBaseChanges) {
@@ -203,12 +206,12 @@ TEST_F(Screen, ShiftSwitchedOffInHexadecimalLeavesTheLogicKeys) {
   Press(*model_, u"Shift");
   model_->Choose(Key::Dec, kHexadecimalItem);
   Press(*model_, u"Shift");
-  EXPECT_EQ(model_->Shift(), ShiftState::Off);
+  EXPECT_FALSE(IsShiftOn());
   EXPECT_FALSE(model_->IsEnabled(Key::Shift));
   EXPECT_EQ(model_->Caption(Key::Log), u"XOR");
   EXPECT_EQ(model_->Caption(Key::Tanh), u"<<");
   model_->Press(Key::Shift);
-  EXPECT_EQ(model_->Shift(), ShiftState::Off);
+  EXPECT_FALSE(IsShiftOn());
   model_->Choose(Key::Dec, kDecimalItem);
   EXPECT_EQ(model_->Caption(Key::Log), u"LOG");
   EXPECT_EQ(model_->Caption(Key::Tanh), u"TANH");

@@ -105,15 +105,15 @@ TEST_F(Screen, MemoryAddsSubtractsRecallsAndClears) {
   Evaluate(u"5");
   model_->Choose(Key::MemoryMenu, 9);
   model_->Choose(Key::MemoryMenu, 9);
-  EXPECT_EQ(model_->Memory(), 10);
+  EXPECT_EQ(Memory(), 10);
   Evaluate(u"3");
   model_->Choose(Key::MemoryMenu, 8);
-  EXPECT_EQ(model_->Memory(), 7);
+  EXPECT_EQ(Memory(), 7);
   SetMarked(u"2*|");
   model_->Choose(Key::MemoryMenu, 7);
   EXPECT_EQ(MarkedNow(), u"2*7|");
   model_->Choose(Key::MemoryMenu, 6);
-  EXPECT_EQ(model_->Memory(), 0);
+  EXPECT_EQ(Memory(), 0);
 }
 
 TEST_F(Screen, MemoryIsRecalledWithoutSeparatorsAndInTheBase) {
@@ -133,7 +133,7 @@ TEST_F(Screen, MemoryIsNotKeptBetweenRuns) {
   model_->Choose(Key::MemoryMenu, 9);
   model_->Save();
   Open();
-  EXPECT_EQ(model_->Memory(), 0);
+  EXPECT_EQ(Memory(), 0);
   EXPECT_EQ(model_->LastAnswer(), 0);
   EXPECT_EQ(Result(), u"0");
 }
@@ -156,7 +156,7 @@ TEST_F(Screen, MemoryMenuOffersNothingOfTheAnswerAfterAFailure) {
     for (const int id : {9, 8, 3}) {
       EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Choose(Key::MemoryMenu, id))) << id;
     }
-    EXPECT_EQ(model_->Memory(), 5);
+    EXPECT_EQ(Memory(), 5);
   }
   Evaluate(u"1");
   EXPECT_EQ(model_->MenuOf(Key::MemoryMenu).size(), 9U);
@@ -168,7 +168,7 @@ TEST_F(Screen, ItemsTheMemoryMenuDoesNotHaveDoNothing) {
     EXPECT_TRUE(std::holds_alternative<Nothing>(model_->Choose(Key::MemoryMenu, id))) << id;
   }
   EXPECT_EQ(MarkedNow(), u"[5]");
-  EXPECT_EQ(model_->Memory(), 0);
+  EXPECT_EQ(Memory(), 0);
 }
 
 std::u16string StoredValue(const ScientificRequest& request) {
@@ -322,11 +322,11 @@ TEST_F(Screen, ConverterResultIsInsertedAndItsStateTakenBackEitherWay) {
   SetMarked(u"2*[3]");
   model_->TakeConverter({u"39.37", {6, 1, 2}, 8});
   EXPECT_EQ(MarkedNow(), u"2*39.37|");
-  EXPECT_EQ(model_->Memory(), 8);
+  EXPECT_EQ(Memory(), 8);
   EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).positions, (ConverterPositions{6, 1, 2}));
   model_->TakeConverter({std::nullopt, {7, 3, 4}, 9});
   EXPECT_EQ(MarkedNow(), u"2*39.37|");
-  EXPECT_EQ(model_->Memory(), 9);
+  EXPECT_EQ(Memory(), 9);
   EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).positions, (ConverterPositions{7, 3, 4}));
 }
 

@@ -85,7 +85,18 @@ class MatrixScreen : public testing::Test {
   }
   std::u16string Shown() const { return TableOf(model_->ShownMatrix()); }
   bool IsEnabled(MatrixKey key) const { return model_->IsEnabled(key); }
-  const std::vector<std::u16string>& Entries() const { return model_->PastLines().Entries(); }
+  /// What the items of the history's menu write into an empty line, the oldest first.
+  std::vector<std::u16string> Entries() {
+    const ExpressionLine line = model_->Line();
+    std::vector<std::u16string> entries;
+    for (const MenuItem& item : model_->MenuOf(MatrixKey::PlayBack)) {
+      model_->SetLine({}, {});
+      model_->Choose(MatrixKey::PlayBack, item.id);
+      entries.insert(entries.begin(), model_->Line().Text());
+    }
+    model_->SetLine(line.Text(), line.Selected());
+    return entries;
+  }
 
   MemorySettingsStore store_;
   std::unique_ptr<MatrixModel> model_;

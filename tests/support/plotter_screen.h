@@ -79,7 +79,18 @@ class PlotterScreen : public testing::Test {
   }
 
   const Equations& List() const { return model_->Equations().All(); }
-  const Equations& Entries() const { return model_->PastEquations().Entries(); }
+  /// What the items of the history's menu write into an empty input, the oldest first.
+  Equations Entries() {
+    const ExpressionLine input = model_->Input();
+    Equations entries;
+    for (const MenuItem& item : model_->MenuOf(PlotterKey::PlayBack)) {
+      model_->SetInput({});
+      model_->Choose(PlotterKey::PlayBack, item.id);
+      entries.insert(entries.begin(), model_->Input().Text());
+    }
+    model_->SetInput(input);
+    return entries;
+  }
   bool IsEnabled(PlotterKey key) const { return model_->IsEnabled(key); }
 
   MemorySettingsStore store_;

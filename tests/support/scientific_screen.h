@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "scientific/scientific_model.h"
@@ -50,6 +51,9 @@ class Screen : public testing::Test {
   }
   std::u16string MarkedNow() const { return Marked(model_->Line()); }
   std::u16string Result() const { return model_->ResultText(); }
+  bool IsShiftOn() const { return model_->IsVisible(Key::ShiftActive); }
+  /// The register M, as the converter is told it.
+  double Memory() { return std::get<OpenConverter>(model_->Press(Key::Converter)).input.memory; }
   const Texts& History() const { return model_->PastLines().Entries(); }
 
   MemorySettingsStore store_;

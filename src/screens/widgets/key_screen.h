@@ -92,7 +92,10 @@ class KeyScreenOf : public Base {
   void RefreshKeys() {
     this->Keys().Refresh([this](int number) {
       const Key key = static_cast<Key>(number);
-      return KeyState{model_.Caption(key), model_.IsEnabled(key), model_.IsVisible(key)};
+      KeyState state{model_.Caption(key), model_.IsEnabled(key)};
+      // A model that hides none of its keys does not say which are visible.
+      if constexpr (requires { model_.IsVisible(key); }) state.isVisible = model_.IsVisible(key);
+      return state;
     });
   }
 
