@@ -41,10 +41,8 @@ class MemoryVariablesModel {
   /// All variables, in order: "Mem01 = 0".
   std::vector<std::u16string> Lines() const;
 
-  /// The selected line, counted from 0; nullopt for none, as at the start. Storing and clearing do
-  /// not change it.
-  std::optional<int> Selected() const { return selected_; }
-  /// A line that does not exist selects none.
+  /// Selects a line, counted from 0; nullopt, as at the start, or a line that does not exist
+  /// selects none. Storing and clearing do not change it.
   void Select(std::optional<int> line);
 
   std::u16string_view ActionCaption() const;

@@ -141,10 +141,6 @@ std::optional<DataRefusal> DataList::Erase(std::size_t row) {
   return std::nullopt;
 }
 
-void DataList::Clear() {
-  *this = DataList(shape_);
-}
-
 /// Copies the texts of all rows into a new arena once more than half of the old one is waste.
 /// Without the memory for that, all stays as it is.
 void DataList::CompactTexts() {

@@ -95,7 +95,6 @@ class DataList {
 
   /// Appends row by row, up to the first that is refused.
   TakenRows AppendRows(std::span<const DataRow> rows);
-  void Clear();
 
   enum class Direction { Ascending, Descending };
   /// Sorts by the numbers of a column: the variables from 0, then the count. The order of equal

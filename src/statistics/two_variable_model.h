@@ -18,7 +18,6 @@ class TwoVariableModel final : public StatisticsModel {
   bool IsVisible(StatisticsKey key) const override;
   bool IsEnabled(StatisticsKey key) const override;
 
-  RegressionModel Model() const { return model_; }
   Menu MenuOf(StatisticsKey key) const override;
   StatisticsRequest Choose(StatisticsKey key, int id) override;
 

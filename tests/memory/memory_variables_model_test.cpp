@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "store/user_settings_store.h"
@@ -21,6 +22,10 @@ std::optional<std::u16string> Recalled(VariableOutcome outcome) {
   return recalled != nullptr ? std::optional(recalled->value) : std::nullopt;
 }
 
+bool HasSelection(const MemoryVariablesModel& model) {
+  return model.ClearQuestion().has_value();
+}
+
 TEST(MemoryVariablesModel, AFreshInstallationListsTwentyZeros) {
   MemorySettingsStore store;
   const MemoryVariablesModel model(RecallMode{}, store);
@@ -30,7 +35,7 @@ TEST(MemoryVariablesModel, AFreshInstallationListsTwentyZeros) {
                                          u"Mem09 = 0", u"Mem10 = 0", u"Mem11 = 0", u"Mem12 = 0",
                                          u"Mem13 = 0", u"Mem14 = 0", u"Mem15 = 0", u"Mem16 = 0",
                                          u"Mem17 = 0", u"Mem18 = 0", u"Mem19 = 0", u"Mem20 = 0"}));
-  EXPECT_EQ(model.Selected(), std::nullopt);
+  EXPECT_FALSE(HasSelection(model));
 }
 
 TEST(MemoryVariablesModel, TheActionIsNamedAfterTheMode) {
@@ -41,19 +46,26 @@ TEST(MemoryVariablesModel, TheActionIsNamedAfterTheMode) {
 
 TEST(MemoryVariablesModel, OnlyLinesThatThereAreCanBeSelected) {
   MemorySettingsStore store;
+  const std::pair<int, std::u16string> values[] = {{0, u"5"}, {1, u"6"}, {19, u"7"}};
+  for (const auto& [line, value] : values) {
+    MemoryVariablesModel storing(StoreMode{value}, store);
+    storing.Select(line);
+    storing.Act();
+  }
   MemoryVariablesModel model(RecallMode{}, store);
-  for (const int line : {0, 1, 19}) {
+  for (const auto& [line, value] : values) {
     model.Select(line);
-    EXPECT_EQ(model.Selected(), line);
+    EXPECT_EQ(Recalled(model.Act()), value);
   }
   for (const int line : {-1, 20, 2147483647, -2147483647 - 1}) {
     model.Select(0);
     model.Select(line);
-    EXPECT_EQ(model.Selected(), std::nullopt) << line;
+    EXPECT_FALSE(HasSelection(model)) << line;
+    EXPECT_EQ(Recalled(model.Act()), std::nullopt) << line;
   }
   model.Select(0);
   model.Select(std::nullopt);
-  EXPECT_EQ(model.Selected(), std::nullopt);
+  EXPECT_FALSE(HasSelection(model));
 }
 
 TEST(MemoryVariablesModel, TheActionNeedsASelection) {
@@ -74,7 +86,7 @@ TEST(MemoryVariablesModel, OneValueIsStoredIntoAsManyVariablesAsWanted) {
   for (const int line : {0, 19}) {
     model.Select(line);
     EXPECT_TRUE(std::holds_alternative<VariableStored>(model.Act()));
-    EXPECT_EQ(model.Selected(), line);
+    EXPECT_TRUE(HasSelection(model));
     EXPECT_EQ(Stored(store, line), "2.5");
   }
   EXPECT_EQ(model.Lines()[0], u"Mem01 = 2.5");
@@ -116,7 +128,8 @@ TEST(MemoryVariablesModel, ClearingIsAskedForAndTakesTheSelectedVariableOnly) {
   model.Clear();
   EXPECT_EQ(Stored(store, 2), "9");
   EXPECT_EQ(Stored(store, 3), "0");
-  EXPECT_EQ(model.Selected(), 3);
+  model.Act();
+  EXPECT_EQ(Stored(store, 3), "9");
 }
 
 TEST(MemoryVariablesModel, WithoutASelectionThereIsNothingToClear) {

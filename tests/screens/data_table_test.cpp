@@ -220,7 +220,7 @@ TEST_F(DataTableTest, TheArrowsGoOnFromWhereARowWasDeleted) {
 TEST_F(DataTableTest, AListThatIsAheadOfTheTableDoesNoHarm) {
   AppendMany(10);
   DataTableView& table = Open();
-  list_.Clear();
+  list_ = DataList(list_.Shape());
   EXPECT_EQ(At(table, 9, 0), "");
   table.viewport()->repaint();
   table.Reload();

@@ -123,18 +123,6 @@ TEST(DataList, AnErasedRowTakesItsCountOutOfTheTotal) {
   EXPECT_EQ(list.Total(), 0);
 }
 
-TEST(DataList, AClearedListKeepsItsShapeAlone) {
-  DataList list(DataShape::TwoVariables);
-  EXPECT_EQ(list.Append(Two("1", "2", 3)), std::nullopt);
-  list.Clear();
-  EXPECT_EQ(list.RowCount(), 0U);
-  EXPECT_EQ(list.CompleteRowCount(), 0U);
-  EXPECT_EQ(list.Total(), 0);
-  EXPECT_EQ(list.Shape(), DataShape::TwoVariables);
-  EXPECT_EQ(list.Append(Two("4", "5", 6)), std::nullopt);
-  EXPECT_EQ(Spelled(list), "4 5 6;");
-}
-
 TEST(DataList, ATotalBeyond32BitsIsRefusedAndNeverWrapped) {
   DataList list = ListOf({{"1", kMost - 1}});
   EXPECT_EQ(list.Append(One("2", 2)), DataRefusal::TotalOutOfRange);

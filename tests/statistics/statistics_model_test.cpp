@@ -49,7 +49,6 @@ TEST_F(TwoVariables, FreshScreenIsEmptyAndLinear) {
   EXPECT_EQ(Enabled(), kFresh);
   EXPECT_EQ(model_->TotalText(), u"0");
   EXPECT_EQ(model_->ResultText(), u"0");
-  EXPECT_EQ(model_->Model(), RegressionModel::Linear);
   EXPECT_EQ(model_->Caption(StatisticsKey::Model), u"Lin");
 }
 
