@@ -7,21 +7,13 @@
 #include <utility>
 #include <vector>
 
+#include "common/unit_positions.h"
 #include "converter/unit_tables.h"
 #include "converter/user_conversions.h"
 #include "display/number_format.h"
 #include "settings/settings_store.h"
 
 namespace kav {
-
-/// What is selected in the lists, from 0; -1 for nothing.
-struct UnitPositions {
-  int category = -1;
-  int input = -1;   ///< a unit, or a conversion if the category lists conversions
-  int output = -1;  ///< a unit; nothing if the category lists conversions
-
-  bool operator==(const UnitPositions&) const = default;
-};
 
 /// Everything follows what is chosen and typed at that moment. The user's own conversions are read
 /// when the model is made, and by RereadUserConversions.

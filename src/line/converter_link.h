@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "common/unit_positions.h"
 #include "line/expression_line.h"
 #include "line/key_request.h"
 #include "settings/settings_store.h"
@@ -21,7 +22,7 @@ struct ConverterLink {
   /// Takes what the converter left; a result goes into `line` in place of the selection.
   void Take(const ConverterOutcome& outcome, ExpressionLine& line);
 
-  ConverterPositions positions;
+  UnitPositions positions;
   double memory = 0;
 };
 

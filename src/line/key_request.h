@@ -6,27 +6,20 @@
 #include <string>
 #include <string_view>
 
+#include "common/unit_positions.h"
+
 namespace kav {
-
-/// The positions in the unit converter's lists that it opens with; -1 for none.
-struct ConverterPositions {
-  int category = -1;
-  int input = -1;
-  int output = -1;
-
-  bool operator==(const ConverterPositions&) const = default;
-};
 
 /// What the unit converter is opened with, and what it leaves; `memory` is the register M. `result`
 /// is the converted text, if the converter was closed with OK.
 struct ConverterInput {
   std::u16string value;
-  ConverterPositions positions;
+  UnitPositions positions;
   double memory = 0;
 };
 struct ConverterOutcome {
   std::optional<std::u16string> result;
-  ConverterPositions positions;
+  UnitPositions positions;
   double memory = 0;
 };
 

@@ -12,10 +12,13 @@
 #include "store/user_settings_store.h"
 #include "support/stored_conversions.h"
 #include "support/temporary_folder.h"
+#include "support/unit_places.h"
 
 namespace kav::converter_model_test {
 namespace {
 
+using test::Places;
+using test::PlacesOf;
 using test::StoreConversions;
 using Texts = std::vector<std::u16string>;
 
@@ -158,7 +161,7 @@ TEST_F(ConverterModelTest, ANumberBeyondTheRangeCannotBeShown) {
 
 TEST_F(ConverterModelTest, WithNothingSelectedItClosesWithoutAResult) {
   ConverterModel model = Model(u"5");
-  EXPECT_EQ(model.Positions(), UnitPositions{});
+  EXPECT_EQ(PlacesOf(model.Positions()), (Places{-1, -1, -1}));
   EXPECT_EQ(model.Inputs(), Texts{});
   EXPECT_EQ(model.Outputs(), Texts{});
   EXPECT_FALSE(model.CanSwap());
@@ -202,7 +205,7 @@ TEST_F(ConverterModelTest, AUnitConvertedToItselfIsUnchanged) {
 TEST_F(ConverterModelTest, ACategoryLoadsBothListsAndSelectsTheirFirstUnits) {
   ConverterModel model = Miles(u"1");
   EXPECT_EQ(model.ChooseCategory(5), std::nullopt);
-  EXPECT_EQ(model.Positions(), (UnitPositions{5, 0, 0}));
+  EXPECT_EQ(PlacesOf(model.Positions()), (Places{5, 0, 0}));
   EXPECT_EQ(model.Inputs(), (Texts{u"Dynes", u"Kilograms Force", u"Kilonewtons", u"Kips",
                                    u"Meganewtons", u"Newtons", u"Poundals", u"Pounds Force",
                                    u"Tonnes Force", u"Tons Force (UK)", u"Tons Force (US)"}));
@@ -213,14 +216,14 @@ TEST_F(ConverterModelTest, ACategoryLoadsBothListsAndSelectsTheirFirstUnits) {
 TEST_F(ConverterModelTest, TheCategoryThatIsChosenAlreadyStaysAsItIs) {
   ConverterModel model = Miles(u"1");
   EXPECT_EQ(model.ChooseCategory(kLength), std::nullopt);
-  EXPECT_EQ(model.Positions(), (UnitPositions{kLength, 18, 14}));
+  EXPECT_EQ(PlacesOf(model.Positions()), (Places{kLength, 18, 14}));
 }
 
 TEST_F(ConverterModelTest, ACategoryThatThereIsNotSelectsNothing) {
   for (const int category : {-1, 15, INT_MIN, INT_MAX}) {
     ConverterModel model = Miles(u"1");
     EXPECT_EQ(model.ChooseCategory(category), std::nullopt);
-    EXPECT_EQ(model.Positions(), UnitPositions{});
+    EXPECT_EQ(PlacesOf(model.Positions()), (Places{-1, -1, -1}));
     EXPECT_EQ(model.Inputs(), Texts{});
   }
 }
@@ -243,17 +246,18 @@ TEST_F(ConverterModelTest, RememberedPositionsThatThereAreNotSelectNothing) {
       {{kTemperature, 6, -1}, {kTemperature, -1, -1}},
       {{kUserDefined, 0, -1}, {kUserDefined, -1, -1}},
   };
-  for (const auto& row : rows) EXPECT_EQ(Model(u"1", row.remembered).Positions(), row.selected);
+  for (const auto& row : rows)
+    EXPECT_EQ(PlacesOf(Model(u"1", row.remembered).Positions()), PlacesOf(row.selected));
 }
 
 TEST_F(ConverterModelTest, SwappingExchangesTheUnits) {
   ConverterModel model = Miles(u"1.609344");
   ASSERT_TRUE(model.CanSwap());
   model.Swap();
-  EXPECT_EQ(model.Positions(), (UnitPositions{kLength, 14, 18}));
+  EXPECT_EQ(PlacesOf(model.Positions()), (Places{kLength, 14, 18}));
   EXPECT_EQ(model.ShownResult(), u"1");
   model.Swap();
-  EXPECT_EQ(model.Positions(), (UnitPositions{kLength, 18, 14}));
+  EXPECT_EQ(PlacesOf(model.Positions()), (Places{kLength, 18, 14}));
 }
 
 TEST_F(ConverterModelTest, OneUnitAloneIsNotSwapped) {
@@ -261,7 +265,7 @@ TEST_F(ConverterModelTest, OneUnitAloneIsNotSwapped) {
     ConverterModel model = Model(u"1", one);
     EXPECT_FALSE(model.CanSwap());
     model.Swap();
-    EXPECT_EQ(model.Positions(), one);
+    EXPECT_EQ(PlacesOf(model.Positions()), PlacesOf(one));
     EXPECT_EQ(model.Result(), std::nullopt);
   }
 }
@@ -275,7 +279,7 @@ TEST_F(ConverterModelTest, TemperatureIsOneListOfConversions) {
             (Texts{u"Celsius -> Fahrenheit", u"Celsius -> Kelvin", u"Fahrenheit -> Celsius",
                    u"Fahrenheit -> Kelvin", u"Kelvin -> Celsius", u"Kelvin -> Fahrenheit"}));
   EXPECT_EQ(model.Outputs(), Texts{});
-  EXPECT_EQ(model.Positions(), (UnitPositions{kTemperature, 0, -1}));
+  EXPECT_EQ(PlacesOf(model.Positions()), (Places{kTemperature, 0, -1}));
 }
 
 TEST_F(ConverterModelTest, SwappingAConversionOfTemperaturesIsTheWayBack) {
@@ -284,7 +288,7 @@ TEST_F(ConverterModelTest, SwappingAConversionOfTemperaturesIsTheWayBack) {
     ConverterModel model = Model(u"1", {kTemperature, i, -1});
     ASSERT_TRUE(model.CanSwap());
     model.Swap();
-    EXPECT_EQ(model.Positions(), (UnitPositions{kTemperature, reverse[i], -1}));
+    EXPECT_EQ(PlacesOf(model.Positions()), (Places{kTemperature, reverse[i], -1}));
   }
 }
 
@@ -306,7 +310,7 @@ TEST_F(UserDefinedCategory, ListsTheUsersConversions) {
   EXPECT_EQ(model.Inputs(), (Texts{u"inch -> cm", u"mile -> km", u"cm -> inch", u"same -> same",
                                    u"text without arrow"}));
   EXPECT_EQ(model.Outputs(), Texts{});
-  EXPECT_EQ(model.Positions(), (UnitPositions{kUserDefined, 0, -1}));
+  EXPECT_EQ(PlacesOf(model.Positions()), (Places{kUserDefined, 0, -1}));
   EXPECT_EQ(model.Result(), u"25.4");
   model.ChooseInput(1);
   EXPECT_EQ(model.Result(), u"16.09344");
@@ -323,7 +327,7 @@ TEST_F(UserDefinedCategory, AConversionIsSwappedIfThereIsOneBack) {
     ConverterModel model = Model(u"10", {kUserDefined, row.selected, -1});
     EXPECT_EQ(model.CanSwap(), row.canSwap) << row.selected;
     model.Swap();
-    EXPECT_EQ(model.Positions(), (UnitPositions{kUserDefined, row.swapped, -1}));
+    EXPECT_EQ(PlacesOf(model.Positions()), (Places{kUserDefined, row.swapped, -1}));
   }
 }
 
@@ -334,10 +338,11 @@ TEST_F(UserDefinedCategory, SwappingUsesTheRateOfTheWayBack) {
 }
 
 TEST_F(UserDefinedCategory, APositionThatNoLongerExistsSelectsNothing) {
-  EXPECT_EQ(Model(u"1", {kUserDefined, 4, -1}).Positions(), (UnitPositions{kUserDefined, 4, -1}));
+  EXPECT_EQ(PlacesOf(Model(u"1", {kUserDefined, 4, -1}).Positions()),
+            (Places{kUserDefined, 4, -1}));
   for (const int gone : {5, 60, INT_MIN}) {
     ConverterModel model = Model(u"1", {kUserDefined, gone, -1});
-    EXPECT_EQ(model.Positions(), (UnitPositions{kUserDefined, -1, -1}));
+    EXPECT_EQ(PlacesOf(model.Positions()), (Places{kUserDefined, -1, -1}));
     EXPECT_EQ(model.OkRefusal(), std::nullopt);
   }
 }
@@ -359,7 +364,7 @@ TEST_F(ConverterModelTest, RatesAtTheLimitsOfNumbers) {
 TEST_F(ConverterModelTest, WithoutConversionsOfHisOwnTheUserIsToldWhenHeChoosesThem) {
   ConverterModel model = Miles(u"1");
   EXPECT_EQ(model.ChooseCategory(kUserDefined), u"Not exist saved user-define unit convert");
-  EXPECT_EQ(model.Positions(), (UnitPositions{kUserDefined, -1, -1}));
+  EXPECT_EQ(PlacesOf(model.Positions()), (Places{kUserDefined, -1, -1}));
   // And again when he chooses them again.
   EXPECT_EQ(model.ChooseCategory(kUserDefined), u"Not exist saved user-define unit convert");
 }
@@ -368,7 +373,7 @@ TEST_F(ConverterModelTest, WithoutConversionsOfHisOwnItGoesOnWithTheFirstCategor
   ConverterModel model = Miles(u"1");
   ASSERT_NE(model.ChooseCategory(kUserDefined), std::nullopt);
   model.RereadUserConversions();
-  EXPECT_EQ(model.Positions(), (UnitPositions{0, 0, 0}));
+  EXPECT_EQ(PlacesOf(model.Positions()), (Places{0, 0, 0}));
   EXPECT_EQ(model.Inputs().front(), u"Acres");
 }
 
@@ -377,7 +382,7 @@ TEST_F(ConverterModelTest, ConversionsThatTheUserWroteMeanwhileAreListed) {
   ASSERT_NE(model.ChooseCategory(kUserDefined), std::nullopt);
   StoreConversions(store_, {{"dozen -> piece", "12"}});
   model.RereadUserConversions();
-  EXPECT_EQ(model.Positions(), (UnitPositions{kUserDefined, 0, -1}));
+  EXPECT_EQ(PlacesOf(model.Positions()), (Places{kUserDefined, 0, -1}));
   EXPECT_EQ(model.Inputs(), Texts{u"dozen -> piece"});
   EXPECT_EQ(model.Result(), u"24");
 }

@@ -3,12 +3,15 @@
 #include <gtest/gtest.h>
 
 #include "support/marked_line.h"
+#include "support/unit_places.h"
 
 namespace kav::converter_link_test {
 namespace {
 
 using test::Marked;
 using test::MarkedLine;
+using test::Places;
+using test::PlacesOf;
 
 const SettingKey<std::int32_t> kClass{"Convert", "ClassPos", -99};
 const SettingKey<std::int32_t> kInput{"Convert", "InputTypePos", -99};
@@ -17,7 +20,7 @@ const SettingKey<std::int32_t> kOutput{"Convert", "OutputTypePos", -99};
 TEST(ConverterLink, NothingIsChosenOnAFirstStart) {
   const MemorySettingsStore store;
   const ConverterLink link(store);
-  EXPECT_EQ(link.positions, (ConverterPositions{-1, -1, -1}));
+  EXPECT_EQ(PlacesOf(link.positions), (Places{-1, -1, -1}));
   EXPECT_EQ(link.memory, 0);
 }
 
@@ -31,7 +34,7 @@ TEST(ConverterLink, PositionsOutliveARun) {
   EXPECT_EQ(store.Get(kInput), 1);
   EXPECT_EQ(store.Get(kOutput), 2);
   const ConverterLink next(store);
-  EXPECT_EQ(next.positions, (ConverterPositions{6, 1, 2}));
+  EXPECT_EQ(PlacesOf(next.positions), (Places{6, 1, 2}));
   EXPECT_EQ(next.memory, 0);
 }
 
@@ -42,7 +45,7 @@ TEST(ConverterLink, RequestHandsOverValuePositionsAndMemory) {
   link.memory = -4.5;
   const OpenConverter request = link.Request(u"25.4");
   EXPECT_EQ(request.input.value, u"25.4");
-  EXPECT_EQ(request.input.positions, (ConverterPositions{3, 2, 1}));
+  EXPECT_EQ(PlacesOf(request.input.positions), (Places{3, 2, 1}));
   EXPECT_EQ(request.input.memory, -4.5);
 }
 
@@ -52,11 +55,11 @@ TEST(ConverterLink, ResultReplacesTheSelectionAndTheRestIsTakenInAnyCase) {
   ExpressionLine line = MarkedLine(u"1+[2]");
   link.Take({u"39.37", {6, 1, 2}, 8}, line);
   EXPECT_EQ(Marked(line), u"1+39.37|");
-  EXPECT_EQ(link.positions, (ConverterPositions{6, 1, 2}));
+  EXPECT_EQ(PlacesOf(link.positions), (Places{6, 1, 2}));
   EXPECT_EQ(link.memory, 8);
   link.Take({std::nullopt, {7, 3, 4}, 9}, line);
   EXPECT_EQ(Marked(line), u"1+39.37|");
-  EXPECT_EQ(link.positions, (ConverterPositions{7, 3, 4}));
+  EXPECT_EQ(PlacesOf(link.positions), (Places{7, 3, 4}));
   EXPECT_EQ(link.memory, 9);
 }
 

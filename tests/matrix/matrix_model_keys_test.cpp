@@ -4,11 +4,14 @@
 #include "support/matrix_screen.h"
 #include "support/stored_macros.h"
 #include "support/temporary_folder.h"
+#include "support/unit_places.h"
 
 namespace kav::matrix_model_keys_test {
 namespace {
 
 using test::MatrixScreen;
+using test::Places;
+using test::PlacesOf;
 
 TEST_F(MatrixScreen, WritingKeysEditTheLine) {
   struct Row {
@@ -161,13 +164,13 @@ TEST_F(MatrixScreen, ConverterGetsBackWhatItLeft) {
   Set("Convert", "OutputTypePos", 1);
   Open();
   const ConverterInput first = InputOf(Choose(MatrixKey::Tools, u"Converter"));
-  EXPECT_EQ(first.positions, (ConverterPositions{3, 2, 1}));
+  EXPECT_EQ(PlacesOf(first.positions), (Places{3, 2, 1}));
   EXPECT_EQ(first.memory, 0);
   SetMarked(u"2*[5]");
   model_->TakeConverter({u"39.37", {6, 1, 2}, 8});
   EXPECT_EQ(MarkedNow(), u"2*39.37|");
   const ConverterInput second = InputOf(Choose(MatrixKey::Tools, u"Converter"));
-  EXPECT_EQ(second.positions, (ConverterPositions{6, 1, 2}));
+  EXPECT_EQ(PlacesOf(second.positions), (Places{6, 1, 2}));
   EXPECT_EQ(second.memory, 8);
 }
 

@@ -4,6 +4,7 @@
 
 #include "support/scientific_screen.h"
 #include "support/stored_macros.h"
+#include "support/unit_places.h"
 
 namespace kav::scientific_model_menus_test {
 namespace {
@@ -12,6 +13,8 @@ using test::kBinaryItem;
 using test::kDecimalItem;
 using test::kHexadecimalItem;
 using test::kOctalItem;
+using test::Places;
+using test::PlacesOf;
 using test::Press;
 using test::Screen;
 using test::Texts;
@@ -306,7 +309,7 @@ TEST_F(Screen, ConverterTakesOneWhereThereIsNoAnswer) {
 }
 
 TEST_F(Screen, ConverterOpensWithTheStoredPositionsAndTheMemory) {
-  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).positions, (ConverterPositions{-1, -1, -1}));
+  EXPECT_EQ(PlacesOf(InputOf(Press(*model_, u"Cnv")).positions), (Places{-1, -1, -1}));
   Set("Convert", "ClassPos", 6);
   Set("Convert", "InputTypePos", 2);
   Set("Convert", "OutputTypePos", 14);
@@ -314,7 +317,7 @@ TEST_F(Screen, ConverterOpensWithTheStoredPositionsAndTheMemory) {
   Evaluate(u"5");
   model_->Choose(Key::MemoryMenu, 9);
   const ConverterInput input = InputOf(Press(*model_, u"Cnv"));
-  EXPECT_EQ(input.positions, (ConverterPositions{6, 2, 14}));
+  EXPECT_EQ(PlacesOf(input.positions), (Places{6, 2, 14}));
   EXPECT_EQ(input.memory, 5);
 }
 
@@ -323,11 +326,11 @@ TEST_F(Screen, ConverterResultIsInsertedAndItsStateTakenBackEitherWay) {
   model_->TakeConverter({u"39.37", {6, 1, 2}, 8});
   EXPECT_EQ(MarkedNow(), u"2*39.37|");
   EXPECT_EQ(Memory(), 8);
-  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).positions, (ConverterPositions{6, 1, 2}));
+  EXPECT_EQ(PlacesOf(InputOf(Press(*model_, u"Cnv")).positions), (Places{6, 1, 2}));
   model_->TakeConverter({std::nullopt, {7, 3, 4}, 9});
   EXPECT_EQ(MarkedNow(), u"2*39.37|");
   EXPECT_EQ(Memory(), 9);
-  EXPECT_EQ(InputOf(Press(*model_, u"Cnv")).positions, (ConverterPositions{7, 3, 4}));
+  EXPECT_EQ(PlacesOf(InputOf(Press(*model_, u"Cnv")).positions), (Places{7, 3, 4}));
 }
 
 }  // namespace

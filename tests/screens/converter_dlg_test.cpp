@@ -16,11 +16,12 @@
 #include "screens/dialog_layout.h"
 #include "settings/keys.h"
 #include "support/stored_conversions.h"
+#include "support/unit_places.h"
 
 namespace kav::test::converter_dlg_test {
 namespace {
 
-constexpr ConverterPositions kCelsiusToFahrenheit{11, 0, -1};
+constexpr UnitPositions kCelsiusToFahrenheit{11, 0, -1};
 
 double MillisecondsSince(std::clock_t start) {
   return 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
@@ -92,7 +93,7 @@ TEST_F(ConverterDlgTest, ACategoryBringsItsUnitsAndSelectsTheFirst) {
     EXPECT_EQ(ResultText(), u"1");
     Tap(u"Cancel");
   });
-  EXPECT_EQ(outcome.positions, (ConverterPositions{5, 0, 0}));
+  EXPECT_EQ(PlacesOf(outcome.positions), (Places{5, 0, 0}));
 }
 
 TEST_F(ConverterDlgTest, SwapsTheUnits) {
@@ -104,7 +105,7 @@ TEST_F(ConverterDlgTest, SwapsTheUnits) {
     EXPECT_EQ(ResultText(), u"1");
     Tap(u"OK");
   });
-  EXPECT_EQ(outcome.positions, (ConverterPositions{6, 14, 18}));
+  EXPECT_EQ(PlacesOf(outcome.positions), (Places{6, 14, 18}));
   EXPECT_EQ(outcome.result, u"1");
 }
 
@@ -122,7 +123,7 @@ TEST_F(ConverterDlgTest, TemperaturesAreOneListOfConversions) {
     EXPECT_EQ(ResultText(), u"-40");
     Tap(u"OK");
   });
-  EXPECT_EQ(outcome.positions, (ConverterPositions{11, 2, -1}));
+  EXPECT_EQ(PlacesOf(outcome.positions), (Places{11, 2, -1}));
   EXPECT_EQ(outcome.result, u"-40");
 }
 
@@ -147,7 +148,7 @@ TEST_F(ConverterDlgTest, BeginsWithNothingSelectedAndThenHasNothingToGive) {
     EXPECT_FALSE(dlg_->isVisible());
   });
   EXPECT_EQ(outcome.result, std::nullopt);
-  EXPECT_EQ(outcome.positions, ConverterPositions{});
+  EXPECT_EQ(PlacesOf(outcome.positions), (Places{-1, -1, -1}));
   EXPECT_EQ(outcome.memory, 7);
 }
 
@@ -159,7 +160,7 @@ TEST_F(ConverterDlgTest, PositionsThatThereAreNotSelectNothing) {
     EXPECT_EQ(ResultText(), u"");
     Tap(u"Cancel");
   });
-  EXPECT_EQ(outcome.positions, (ConverterPositions{6, -1, -1}));
+  EXPECT_EQ(PlacesOf(outcome.positions), (Places{6, -1, -1}));
 }
 
 TEST_F(ConverterDlgTest, OkHandsOverTheResultAndCancelOnlyThePositions) {
@@ -169,7 +170,7 @@ TEST_F(ConverterDlgTest, OkHandsOverTheResultAndCancelOnlyThePositions) {
     Tap(u"OK");
   });
   EXPECT_EQ(taken.result, u"1609344");
-  EXPECT_EQ(taken.positions, (ConverterPositions{6, 18, 16}));
+  EXPECT_EQ(PlacesOf(taken.positions), (Places{6, 18, 16}));
   EXPECT_EQ(taken.memory, -1.5);
   for (const bool byKey : {false, true}) {
     const auto left = Run({u"1000", kMilesToKilometers, 2.5}, [&, this] {
@@ -181,7 +182,7 @@ TEST_F(ConverterDlgTest, OkHandsOverTheResultAndCancelOnlyThePositions) {
       }
     });
     EXPECT_EQ(left.result, std::nullopt);
-    EXPECT_EQ(left.positions, (ConverterPositions{6, 18, 16}));
+    EXPECT_EQ(PlacesOf(left.positions), (Places{6, 18, 16}));
     EXPECT_EQ(left.memory, 2.5);
   }
 }
@@ -331,8 +332,8 @@ TEST_F(ConverterDlgTest, EverythingHasRoomAtEverySize) {
     SCOPED_TRACE(size.width());
     Show(screen_, size);
     // The widest unit names, and the longest result.
-    for (const ConverterPositions& chosen :
-         {ConverterPositions{9, 8, 17}, ConverterPositions{4, 5, 7}, kCelsiusToFahrenheit}) {
+    for (const UnitPositions& chosen :
+         {UnitPositions{9, 8, 17}, UnitPositions{4, 5, 7}, kCelsiusToFahrenheit}) {
       Run({u"1e308", chosen, 0}, [&, this] {
         EXPECT_EQ(dlg_->size(), size);
         ExpectRoomForAll(*dlg_);

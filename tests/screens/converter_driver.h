@@ -15,7 +15,7 @@
 
 namespace kav::test {
 
-inline constexpr ConverterPositions kMilesToKilometers{6, 18, 14};
+inline constexpr UnitPositions kMilesToKilometers{6, 18, 14};
 
 /// The converter on a screen of its own. What a test does in it stands in the function that it
 /// hands to Run, since the converter is modal.

@@ -9,6 +9,7 @@
 #include "screens/box_watch.h"
 #include "screens/converter_driver.h"
 #include "support/stored_conversions.h"
+#include "support/unit_places.h"
 
 namespace kav::test::converter_user_conversions_test {
 namespace {
@@ -27,7 +28,7 @@ TEST_F(WithUserConversions, ListsTheUsersConversions) {
     EXPECT_EQ(ResultText(), u"120");
     Tap(u"OK");
   });
-  EXPECT_EQ(outcome.positions, (ConverterPositions{14, 1, -1}));
+  EXPECT_EQ(PlacesOf(outcome.positions), (Places{14, 1, -1}));
   EXPECT_EQ(outcome.result, u"120");
 }
 
@@ -70,7 +71,7 @@ TEST_F(WithoutUserConversions, TheEditorOpensAndWithoutAnyTheFirstCategoryFollow
     EXPECT_EQ(ResultText(), u"1");
     Tap(u"Cancel");
   });
-  EXPECT_EQ(outcome.positions, (ConverterPositions{0, 0, 0}));
+  EXPECT_EQ(PlacesOf(outcome.positions), (Places{0, 0, 0}));
 }
 
 TEST_F(WithoutUserConversions, TheKeyboardIsToldOnceToo) {
@@ -96,7 +97,7 @@ TEST_F(WithoutUserConversions, WhatIsWrittenInTheEditorIsListedAtOnce) {
     EXPECT_EQ(ResultText(), u"12");
     Tap(u"OK");
   });
-  EXPECT_EQ(outcome.positions, (ConverterPositions{14, 0, -1}));
+  EXPECT_EQ(PlacesOf(outcome.positions), (Places{14, 0, -1}));
   EXPECT_EQ(outcome.result, u"12");
 }
 

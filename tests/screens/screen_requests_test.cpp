@@ -5,6 +5,7 @@
 #include "screens/screen_driver.h"
 #include "settings/keys.h"
 #include "support/stored_macros.h"
+#include "support/unit_places.h"
 
 namespace kav::test::screen_requests_test {
 namespace {
@@ -98,12 +99,12 @@ TEST_F(ScreenRequestsTest, TheConverterGetsTheAnswerAndItsResultReplacesTheSelec
   OpenAnew();
   Tap(u"Cnv");
   EXPECT_EQ(given.value, u"1") << "an answer of 0 is handed over as 1";
-  EXPECT_EQ(given.positions, (ConverterPositions{-1, -1, -1}));
+  EXPECT_EQ(PlacesOf(given.positions), (Places{-1, -1, -1}));
   EXPECT_EQ(Line(), u"25.4|");
   Evaluate("1000*2");
   Tap(u"Cnv");
   EXPECT_EQ(given.value, u"2000") << "no thousands separators";
-  EXPECT_EQ(given.positions, (ConverterPositions{1, 2, 3}));
+  EXPECT_EQ(PlacesOf(given.positions), (Places{1, 2, 3}));
   EXPECT_EQ(given.memory, 7);
   EXPECT_EQ(Line(), u"25.4|");
 }

@@ -57,10 +57,7 @@ class CConverterDlg final : public Dialog {
 };
 
 CConverterDlg::CConverterDlg(QWidget* parent, SettingsStore& store, const ConverterInput& input)
-    : Dialog(parent, kConverterTitle),
-      store_(store),
-      model_(store, input.value,
-             {input.positions.category, input.positions.input, input.positions.output}) {
+    : Dialog(parent, kConverterTitle), store_(store), model_(store, input.value, input.positions) {
   value_->setAccessibleName(ToQt(kInputValueName));
   result_->setReadOnly(true);
   result_->setAccessibleName(ToQt(kConverterResultName));
@@ -175,10 +172,7 @@ void CConverterDlg::OnAccept() {
 }
 
 ConverterOutcome CConverterDlg::Outcome(const ConverterInput& input) const {
-  const UnitPositions& left = model_.Positions();
-  return {result() == Accepted ? model_.Result() : std::nullopt,
-          {left.category, left.input, left.output},
-          input.memory};
+  return {result() == Accepted ? model_.Result() : std::nullopt, model_.Positions(), input.memory};
 }
 
 }  // namespace
