@@ -7,15 +7,22 @@
 #include <fstream>
 #include <map>
 #include <optional>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "support/source_files.h"
+
+namespace kav::layering_test {
 namespace {
 
 namespace fs = std::filesystem;
+using test::Include;
+using test::IncludesIn;
+using test::SourceFiles;
+using test::SourceFolder;
+using test::TextOf;
 
 /// The folders below src from the ground up. A file may name files of its own folder and of the
 /// floors below; folders on one floor do not know each other.
@@ -94,23 +101,6 @@ bool MayName(const Unit& from, const Unit& to) {
   return fromFloor && toFloor && *toFloor < *fromFloor && !IsHidden(from, to);
 }
 
-/// An `#include` line: what it names, and whether in quotes (ours) or brackets (installed).
-struct Include {
-  std::string name;
-  bool isOurs;
-};
-
-std::vector<Include> IncludesIn(const std::string& text) {
-  static const std::regex kInclude(R"re(^\s*#\s*include\s*(["<])([^">]+)[">])re");
-  std::vector<Include> includes;
-  std::istringstream lines(text);
-  for (std::string line; std::getline(lines, line);) {
-    std::smatch match;
-    if (std::regex_search(line, match, kInclude)) includes.push_back({match[2], match[1] == "\""});
-  }
-  return includes;
-}
-
 bool IsQt(const std::string& header) {
   return header.front() == 'Q';
 }
@@ -134,34 +124,13 @@ std::string Fault(const Unit& from, const Include& include) {
   return MayName(from, UnitOf(path)) ? "" : "climbs";
 }
 
-fs::path SourceFolder() {
-  return fs::path(KAV_SOURCE_FOLDER) / "src";
-}
 fs::path TestFolder() {
   return fs::path(KAV_SOURCE_FOLDER) / "tests";
 }
 
-/// Every source and header below src, relative to it, in order.
-std::vector<fs::path> Sources() {
-  std::vector<fs::path> sources;
-  for (const auto& entry : fs::recursive_directory_iterator(SourceFolder())) {
-    const auto extension = entry.path().extension();
-    if (extension == ".h" || extension == ".cpp") {
-      sources.push_back(entry.path().lexically_relative(SourceFolder()));
-    }
-  }
-  std::sort(sources.begin(), sources.end());
-  return sources;
-}
-
-std::string TextOf(const fs::path& relative) {
-  std::ifstream file(SourceFolder() / relative, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
 TEST(Layering, NoIncludeClimbs) {
   std::size_t checked = 0;
-  for (const auto& source : Sources()) {
+  for (const auto& source : SourceFiles()) {
     for (const auto& include : IncludesIn(TextOf(source))) {
       EXPECT_EQ(Fault(UnitOf(source), include), "") << source << " includes " << include.name;
       ++checked;
@@ -171,7 +140,7 @@ TEST(Layering, NoIncludeClimbs) {
 }
 
 TEST(Layering, EveryIncludeInQuotesIsAFileOfOurs) {
-  for (const auto& source : Sources()) {
+  for (const auto& source : SourceFiles()) {
     for (const auto& include : IncludesIn(TextOf(source))) {
       if (!include.isOurs) continue;
       // One that the build makes stands there as its pattern.
@@ -190,7 +159,7 @@ TEST(Layering, EveryFolderIsOnOneFloor) {
       EXPECT_TRUE(fs::is_directory(SourceFolder() / room)) << room;
     }
   }
-  for (const auto& source : Sources()) {
+  for (const auto& source : SourceFiles()) {
     EXPECT_TRUE(FloorOf(UnitOf(source).room)) << source;
   }
 }
@@ -230,11 +199,12 @@ TEST(Layering, TheArchitecturePageDrawsTheseFloors) {
 }
 
 TEST(Layering, TheArchitecturePageDescribesEachRoomOnce) {
-  static const std::regex kRow(R"re(^\| `([a-z/]+)/` \| .+ \|$)re");
   std::vector<std::string> described;
   for (const auto& line : LinesOfThePage()) {
-    std::smatch match;
-    if (std::regex_match(line, match, kRow)) described.push_back(match[1]);
+    const std::size_t end = line.find("/` | ");
+    if (line.starts_with("| `") && end != std::string::npos && line.ends_with(" |")) {
+      described.push_back(line.substr(3, end - 3));
+    }
   }
   std::vector<std::string> rooms;
   for (const auto& floor : kFloors) rooms.insert(rooms.end(), floor.begin(), floor.end());
@@ -248,7 +218,7 @@ using Graph = std::map<std::string, std::set<std::string>>;
 
 Graph IncludeGraph() {
   Graph graph;
-  for (const auto& source : Sources()) {
+  for (const auto& source : SourceFiles()) {
     const std::string from = UnitOf(source).stem;
     for (const auto& include : IncludesIn(TextOf(source))) {
       const std::string to = UnitOf(include.name).stem;
@@ -289,7 +259,7 @@ TEST(Layering, ACircleIsSeen) {
 }
 
 TEST(Layering, EverySourceOfTheLogicHasTheTestOfItsName) {
-  for (const auto& source : Sources()) {
+  for (const auto& source : SourceFiles()) {
     const Unit unit = UnitOf(source);
     if (source.extension() != ".cpp") continue;
     if (unit.kind != Kind::Logic && unit.kind != Kind::Store) continue;
@@ -298,7 +268,7 @@ TEST(Layering, EverySourceOfTheLogicHasTheTestOfItsName) {
 }
 
 TEST(Layering, EveryHeaderIsIncludedOnce) {
-  for (const auto& source : Sources()) {
+  for (const auto& source : SourceFiles()) {
     if (source.extension() != ".h") continue;
     EXPECT_NE(TextOf(source).find("#pragma once\n"), std::string::npos) << source;
   }
@@ -387,3 +357,4 @@ TEST(Layering, IncludesAreReadAsTheCompilerReadsThem) {
 }
 
 }  // namespace
+}  // namespace kav::layering_test

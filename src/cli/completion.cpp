@@ -1,6 +1,7 @@
 #include "cli/completion.h"
 
 #include <algorithm>
+#include <cstddef>
 
 #include "common/ascii.h"
 #include "engine/fold_case.h"

@@ -1,8 +1,10 @@
 // The lines typed at the prompt, kept from one run to the next.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kav {

@@ -1,5 +1,7 @@
 #include "engine/calc_error.h"
 
+#include <cstddef>
+
 namespace kav {
 namespace {
 

@@ -1,6 +1,7 @@
 #include "grid/grid_model.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <new>
 
 namespace kav {

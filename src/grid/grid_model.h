@@ -1,6 +1,7 @@
 // The cells of a grid and its shape, without its pixels on a screen.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory_resource>
 #include <string>

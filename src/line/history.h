@@ -1,6 +1,7 @@
 // The lines that were evaluated, and their answers.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
+#include <cstddef>
 
 #include "converter/unit_tables.h"
 #include "screens/widgets/dialog.h"

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <algorithm>
+#include <cmath>
 #include <array>
 #include <memory>
 

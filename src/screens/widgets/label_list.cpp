@@ -2,6 +2,7 @@
 
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
+#include <cstddef>
 
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/qt_text.h"
