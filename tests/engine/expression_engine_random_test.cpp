@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <ctime>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,6 +12,7 @@
 #include "support/effort.h"
 #include "support/locales.h"
 #include "support/plain_engine.h"
+#include "support/processor_time.h"
 #include "support/random_text.h"
 #include "support/shown.h"
 
@@ -148,9 +148,9 @@ std::string Repeated(std::string_view piece, std::size_t count) {
 double Milliseconds(const std::string& text, CalcModes modes) {
   double least = 1e9;
   for (int i = 0; i < 5; ++i) {
-    const std::clock_t start = std::clock();
+    const test::ProcessorTime time;
     const auto answer = Evaluate(text, modes);
-    least = std::min(least, 1e3 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+    least = std::min(least, time.Milliseconds());
     EXPECT_EQ(Shown(answer), Shown(Evaluate(text, modes)));
   }
   return least;

@@ -9,12 +9,12 @@
 #include <QListWidget>
 #include <algorithm>
 #include <climits>
-#include <ctime>
 
 #include "screens/box_watch.h"
 #include "screens/converter_driver.h"
 #include "screens/dialog_layout.h"
 #include "settings/keys.h"
+#include "support/processor_time.h"
 #include "support/stored_conversions.h"
 #include "support/unit_places.h"
 
@@ -22,10 +22,6 @@ namespace kav::test::converter_dlg_test {
 namespace {
 
 constexpr UnitPositions kCelsiusToFahrenheit{11, 0, -1};
-
-double MillisecondsSince(std::clock_t start) {
-  return 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
 
 using ConverterDlgTest = ConverterDriver;
 
@@ -310,15 +306,15 @@ TEST_F(ConverterDlgTest, OpensWithin50MillisecondsAndAnswersAKeyWithin5) {
   double opening = 0;
   double keystroke = 0;
   for (int i = 0; i < 5; ++i) {
-    const std::clock_t start = std::clock();
+    const ProcessorTime time;
     Run({u"1", {14, 59, -1}, 0}, [&, this] {
       dlg_->repaint();
-      opening = std::max(opening, MillisecondsSince(start));
+      opening = std::max(opening, time.Milliseconds());
       for (int key = 0; key < 10; ++key) {
-        const std::clock_t typed = std::clock();
+        const ProcessorTime answering;
         Type("2");
         dlg_->repaint();
-        keystroke = std::max(keystroke, MillisecondsSince(typed));
+        keystroke = std::max(keystroke, answering.Milliseconds());
       }
       Tap(u"Cancel");
     });
