@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <new>
+#include <numeric>
 
 namespace kav {
 
@@ -96,9 +97,12 @@ int GridModel::GetColumnWidth(int column) const {
   return widths_[static_cast<std::size_t>(column)];
 }
 
-int GridModel::GetRowHeight(int row) const {
-  if (row < 0 || row >= RowCount()) return 0;
-  return heights_[static_cast<std::size_t>(row)];
+int GridModel::Left(int column) const {
+  return std::accumulate(widths_.begin(), widths_.begin() + column, 0);
+}
+
+int GridModel::Top(int row) const {
+  return std::accumulate(heights_.begin(), heights_.begin() + row, 0);
 }
 
 bool GridModel::IsFixed(GridCell cell) const {

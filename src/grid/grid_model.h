@@ -107,9 +107,10 @@ class GridModel {
 
   /// Brings `width` into the range from kLeastWidth to kMostWidth.
   bool SetColumnWidth(int column, int width);
-  // 0 if there is no such column or row.
-  int GetColumnWidth(int column) const;
-  int GetRowHeight(int row) const;
+  int GetColumnWidth(int column) const;  ///< 0 if there is no such column
+  // The pixels before a column or row that is there, or the sum of all for the count of them.
+  int Left(int column) const;
+  int Top(int row) const;
 
   bool IsThere(GridCell cell) const;
   bool IsFixed(GridCell cell) const;

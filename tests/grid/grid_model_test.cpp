@@ -84,7 +84,7 @@ TEST(GridShape, WhatIsNewIsEmptyAndOfTheDefaultSize) {
   EXPECT_EQ(model.ColumnCount(), 3);
   EXPECT_EQ(model.FixedRowCount(), 1);
   EXPECT_EQ(model.FixedColumnCount(), 1);
-  for (int row = 0; row < 2; ++row) EXPECT_EQ(model.GetRowHeight(row), GridModel::kDefaultHeight);
+  for (int i = 0; i <= 2; ++i) EXPECT_EQ(model.Top(i), i * GridModel::kDefaultHeight);
   for (int i = 0; i < 3; ++i) EXPECT_EQ(model.GetColumnWidth(i), GridModel::kDefaultWidth);
   for (int row = 0; row < 2; ++row) {
     for (int column = 0; column < 3; ++column) {
@@ -261,15 +261,22 @@ TEST_F(Grid, CellThatIsNotThereIsEmptyAndStaysSo) {
   EXPECT_EQ(PlainOf(model_), before);
 }
 
-TEST_F(Grid, RowsAndColumnsThatAreNotThereHaveNoSize) {
+TEST_F(Grid, ColumnsThatAreNotThereHaveNoWidth) {
   const PlainGrid before = PlainOf(model_);
   for (const int place : {-1, 5, INT_MAX, INT_MIN}) {
     EXPECT_EQ(model_.GetColumnWidth(place), 0);
-    EXPECT_EQ(model_.GetRowHeight(place), 0);
     EXPECT_FALSE(model_.SetColumnWidth(place, 50));
   }
-  EXPECT_EQ(model_.GetRowHeight(4), 0);
   EXPECT_EQ(PlainOf(model_), before);
+}
+
+TEST_F(Grid, PlacesAreTheSumsOfWhatIsBefore) {
+  ASSERT_TRUE(model_.SetColumnWidth(0, 10) && model_.SetColumnWidth(1, 200));
+  EXPECT_EQ(model_.Left(0), 0);
+  EXPECT_EQ(model_.Left(1), 10);
+  EXPECT_EQ(model_.Left(2), 210);
+  EXPECT_EQ(model_.Left(5) - model_.Left(4), model_.GetColumnWidth(4));
+  EXPECT_EQ(model_.Top(4), 4 * 18);
 }
 
 TEST_F(Grid, WidthsAreBroughtIntoTheirRange) {

@@ -139,7 +139,7 @@ inline PlainGrid PlainOf(const GridModel& grid) {
   plain.fixedRows = grid.FixedRowCount();
   plain.fixedColumns = grid.FixedColumnCount();
   for (int i = 0; i < grid.RowCount(); ++i) {
-    plain.heights.at(static_cast<std::size_t>(i)) = grid.GetRowHeight(i);
+    plain.heights.at(static_cast<std::size_t>(i)) = grid.Top(i + 1) - grid.Top(i);
   }
   for (int i = 0; i < grid.ColumnCount(); ++i) {
     plain.widths.at(static_cast<std::size_t>(i)) = grid.GetColumnWidth(i);

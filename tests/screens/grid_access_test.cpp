@@ -17,9 +17,6 @@ TEST_F(GridAccessTest, StatesSayWhatCanBeDoneWithACell) {
   EXPECT_FALSE(Cell(0, 0).state().readOnly);
   EXPECT_FALSE(Cell(0, 0).state().disabled);
   EXPECT_FALSE(Cell(0, 0).state().invisible);
-  grid_.SetEditable(false);
-  EXPECT_FALSE(Cell(0, 0).state().editable);
-  EXPECT_TRUE(Cell(0, 0).state().readOnly);
   grid_.setEnabled(false);
   EXPECT_TRUE(Cell(0, 0).state().disabled);
   grid_.hide();
@@ -134,14 +131,6 @@ TEST_F(GridAccessTest, ACellIsFocusedAndEditedByActions) {
   EXPECT_EQ(Text({3, 2}), u"5");
   actions->doAction(QAccessibleActionInterface::toggleAction());
   EXPECT_FALSE(grid_.IsEditing()) << "there is no such action";
-}
-
-TEST_F(GridAccessTest, WhereCellsCannotBeEditedThatIsNoAction) {
-  grid_.SetEditable(false);
-  QAccessibleActionInterface* actions = Cell(0, 0).actionInterface();
-  EXPECT_EQ(actions->actionNames(), QStringList{QAccessibleActionInterface::setFocusAction()});
-  actions->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_FALSE(grid_.IsEditing());
 }
 
 }  // namespace

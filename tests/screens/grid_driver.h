@@ -48,8 +48,7 @@ class GridScreen : public testing::Test {
   static constexpr int kVisibleRows = 7;
 
   explicit GridScreen(std::pmr::memory_resource* memory = std::pmr::get_default_resource())
-      : grid_(*new CGridCtrl(&window_, memory)) {
-    OfferGridsToScreenReaders();
+      : grid_((OfferGridsToScreenReaders(), *new CGridCtrl(&window_, memory))) {
     before_.setGeometry(0, 0, 400, 20);
     grid_.setGeometry(10, 30, 320, kRowHeight * (1 + kVisibleRows));
     after_.setGeometry(0, 260, 400, 20);
@@ -64,8 +63,7 @@ class GridScreen : public testing::Test {
                     },
                     [this](int column, int width) {
                       Note("width " + std::to_string(column) + " " + std::to_string(width));
-                    },
-                    [this] { Note("selection"); }});
+                    }});
   }
 
   /// Makes a grid of `rows` by `columns` empty cells with numbered headers, by the calls that the

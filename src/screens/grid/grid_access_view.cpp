@@ -81,8 +81,7 @@ class CellAccess final : public QAccessibleInterface,
     state.focusable = true;
     state.selectable = true;
     state.extSelectable = true;
-    state.editable = grid->IsEditable();
-    state.readOnly = !grid->IsEditable();
+    state.editable = true;
     state.selected = isSelected();
     state.focused = grid->hasFocus() && grid->Focus() == cell_;
     return state;
@@ -123,10 +122,7 @@ class CellAccess final : public QAccessibleInterface,
 
   // What can be done with it.
   QStringList actionNames() const override {
-    if (IsHeader()) return {};
-    QStringList names{setFocusAction()};
-    if (Grid()->IsEditable()) names.push_back(pressAction());
-    return names;
+    return IsHeader() ? QStringList() : QStringList{setFocusAction(), pressAction()};
   }
   void doAction(const QString& name) override {
     if (!actionNames().contains(name)) return;
@@ -154,7 +150,7 @@ class CellAccess final : public QAccessibleInterface,
 /// holds one never holds a dead one.
 class GridAccess final : public QAccessibleWidget, public QAccessibleTableInterface {
  public:
-  explicit GridAccess(CGridCtrl& grid) : QAccessibleWidget(&grid, QAccessible::Table) {}
+  explicit GridAccess(GridTable& table) : QAccessibleWidget(&table, QAccessible::Table) {}
   GridAccess(const GridAccess&) = delete;
   GridAccess& operator=(const GridAccess&) = delete;
   ~GridAccess() override {
@@ -241,7 +237,7 @@ class GridAccess final : public QAccessibleWidget, public QAccessibleTableInterf
   bool unselectColumn(int) override { return false; }
 
  private:
-  /// Null while the widget is being destroyed: then it is no grid any more.
+  /// Null while the widget is being made or destroyed: then it is no grid yet or any more.
   CGridCtrl* Grid() const { return dynamic_cast<CGridCtrl*>(object()); }
   const GridModel& Model() const {
     static const GridModel kNothing;
@@ -285,8 +281,9 @@ class GridAccess final : public QAccessibleWidget, public QAccessibleTableInterf
 };
 
 QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
-  auto* grid = dynamic_cast<CGridCtrl*>(object);
-  return grid != nullptr ? new GridAccess(*grid) : nullptr;
+  // The toolkit asks while the grid is being made, and keeps what it gets.
+  auto* table = dynamic_cast<GridTable*>(object);
+  return table != nullptr ? new GridAccess(*table) : nullptr;
 }
 
 }  // namespace

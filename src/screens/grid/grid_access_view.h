@@ -3,7 +3,8 @@
 
 namespace kav {
 
-/// From here on every grid is a table to screen readers. Further calls do nothing.
+/// Every grid that is made from here on is a table to screen readers: one that listens asks for the
+/// grid while it is being made. Further calls do nothing.
 void OfferGridsToScreenReaders();
 
 }  // namespace kav

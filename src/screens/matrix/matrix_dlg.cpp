@@ -29,13 +29,18 @@ constexpr FileKind kMatrixFiles{u"TXT(*.txt)", u"txt"};
 /// The grid's header row and column stand before the cells of the matrix.
 constexpr int kHeaders = 1;
 
+CGridCtrl* NewGrid(QWidget* parent) {
+  OfferGridsToScreenReaders();
+  return new CGridCtrl(parent);
+}
+
 }  // namespace
 
 CMatrixDlg::CMatrixDlg(Frame& frame)
     : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), SpotsOf(MatrixKeyRows())),
       model_(frame.Store()),
       tabs_(new MatrixTabs(this)),
-      grid_(new CGridCtrl(this)) {
+      grid_(NewGrid(this)) {
   connect(tabs_, &QTabBar::currentChanged, this, &CMatrixDlg::OnTab);
   MakeGrid();
   setTabOrder(&Result(), tabs_);
@@ -53,7 +58,6 @@ CMatrixDlg::~CMatrixDlg() {
 }
 
 void CMatrixDlg::MakeGrid() {
-  OfferGridsToScreenReaders();
   grid_->setStyle(ScreenStyle());
   grid_->setAccessibleName(ToQt(kMatrixGridName));
   grid_->installEventFilter(this);
