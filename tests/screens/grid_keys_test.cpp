@@ -53,6 +53,7 @@ TEST_F(GridKeysTest, KeysMoveTheFocus) {
     EXPECT_EQ(Focus(), row.focus) << row.key;
     EXPECT_EQ(Selection(), row.focus) << row.key;
   }
+  EXPECT_EQ(Told(), Log{});
 }
 
 TEST_F(GridKeysTest, AtTheBorderKeysStay) {
@@ -66,6 +67,8 @@ TEST_F(GridKeysTest, AtTheBorderKeysStay) {
     Key(key);
     EXPECT_EQ(Focus(), "2,2") << key;
   }
+  EXPECT_EQ(Selection(), "2,2");
+  EXPECT_EQ(Told(), Log{});
   EXPECT_TRUE(window_.keys.empty());
 }
 
@@ -91,6 +94,7 @@ TEST_F(GridKeysTest, WithShiftKeysSelectAndTheFocusStays) {
     EXPECT_EQ(Selection(), row.focus) << row.key;
     EXPECT_EQ(Focus(), Written(row.from)) << row.key;
   }
+  EXPECT_EQ(Told(), Log{});
 }
 
 TEST_F(GridKeysTest, TheSelectionGrowsShrinksAndTurnsAroundTheFocus) {

@@ -23,6 +23,7 @@ TEST_F(GridMouseTest, AClickFocusesACellAndGivesTheGridTheKeys) {
   EXPECT_EQ(Selection(), "2,3");
   ClickCell({2, 3});
   EXPECT_EQ(Selection(), "2,3") << "it is selected already";
+  EXPECT_EQ(Told(), Log{});
 }
 
 TEST_F(GridMouseTest, AClickTakesTheCellWhoseLastPixelItHits) {

@@ -26,7 +26,7 @@ void CGridCtrl::SetFocusCell(GridCell cell) {
 
 void CGridCtrl::SelectTo(GridCell cell) {
   GiveUpEdit();
-  Mark(SelectionTo(Model(), {Focus(), SelectionEnd()}, cell, GridReach::Selection));
+  Mark(SelectionTo(Model(), Marked(), cell, GridReach::Selection));
   selector_.TellFocus();
 }
 

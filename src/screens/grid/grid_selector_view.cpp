@@ -3,8 +3,7 @@
 namespace kav {
 
 void GridSelector::Select(GridCell cell, GridReach reach, GridLines lines) {
-  const GridSelection old{table_.Focus(), table_.SelectionEnd()};
-  Take(SelectionTo(table_.Model(), old, cell, reach, lines));
+  Take(SelectionTo(table_.Model(), table_.Marked(), cell, reach, lines));
   // Of a whole column or row, what shows stays in view.
   if (lines == GridLines::Columns) cell.row = table_.FirstShown().row;
   if (lines == GridLines::Rows) cell.column = table_.FirstShown().column;
@@ -26,9 +25,9 @@ bool GridSelector::GoByTab(GridCell from, int step) {
 }
 
 void GridSelector::Take(const GridSelection& selection) {
-  const GridSelection old{table_.Focus(), table_.SelectionEnd()};
+  if (selection == table_.Marked()) return;
   table_.Mark(selection);
-  if (selection != old) TellFocus();
+  TellFocus();
 }
 
 void GridSelector::TellFocus() {

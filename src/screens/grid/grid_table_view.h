@@ -46,13 +46,15 @@ class GridTable : public QTableView {
   GridCell Focus() const { return selection_.focus; }
   GridRange Selection() const { return selection_.Range(); }
   GridCell SelectionEnd() const { return selection_.end; }  ///< the corner opposite to the focus
+  const GridSelection& Marked() const { return selection_; }
   void Mark(const GridSelection& selection);
   /// Scrolls a cell into view; does nothing for none.
   void Reveal(GridCell cell);
   /// Tells screen readers of a cell, if it is there.
   void Tell(QAccessible::Event type, GridCell cell);
 
-  /// May lie outside of the grid or under the headers, if scrolled away.
+  /// May lie outside of the grid or under the headers, if scrolled away. Empty if there is no such
+  /// cell.
   QRect CellArea(GridCell cell) const;
   /// Fixed cells included; none beside the cells.
   GridCell CellAt(QPoint place) const;
