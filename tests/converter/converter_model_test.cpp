@@ -17,9 +17,7 @@
 namespace kav::converter_model_test {
 namespace {
 
-using test::Places;
-using test::PlacesOf;
-using test::StoreConversions;
+using test::Places, test::PlacesOf, test::StoreConversions;
 using Texts = std::vector<std::u16string>;
 
 constexpr int kLength = 6;
