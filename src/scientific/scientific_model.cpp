@@ -87,6 +87,7 @@ void ScientificModel::Change(Key key) {
     case Key::Delete:
       return line_.DeleteForward();
     case Key::Clear:
+      expression_ = line_.Text();
       return line_.Clear();
     case Key::Equals:
       return Evaluate();
@@ -108,7 +109,8 @@ ScientificRequest ScientificModel::ConverterRequest() const {
 }
 
 void ScientificModel::Evaluate() {
-  const auto value = EvaluateTypedLine(line_.Text(), modes_, store_, macros_);
+  expression_ = line_.Text();
+  const auto value = EvaluateTypedLine(expression_, modes_, store_, macros_);
   if (value) {
     Answer(*value);
   } else {
@@ -121,16 +123,16 @@ void ScientificModel::Answer(double value) {
   lastAnswer_ = value;
   errorText_.clear();
   ShowAnswer();
-  if (history_.NewestIs(line_.Text())) return;
+  if (history_.NewestIs(expression_)) return;
   history_.Add(AnswerEntry(resultText_, modes_.baseMode));
-  history_.Add(line_.Text());
+  history_.Add(expression_);
 }
 
 void ScientificModel::Fail(const LineFailure& failure) {
   lastAnswer_ = 0;
   resultText_ = Widen(failure.message);
   errorText_ = failure.cause == LineFailure::Cause::EmptyLine ? kNoExpression : resultText_;
-  if (failure.cause == LineFailure::Cause::Evaluation) history_.Add(line_.Text());
+  if (failure.cause == LineFailure::Cause::Evaluation) history_.Add(expression_);
 }
 
 void ScientificModel::ShowAnswer() {

@@ -69,6 +69,8 @@ class ScientificModel {
   const History& PastLines() const { return history_; }
   /// The message of the last "="; empty if that had an answer, and before the first "=".
   const std::u16string& ErrorText() const { return errorText_; }
+  /// The line as it was when "=" or CLR was last pressed.
+  const std::u16string& Expression() const { return expression_; }
 
  private:
   void Change(Key key);
@@ -90,6 +92,7 @@ class ScientificModel {
   History history_;
   ExpressionLine line_;
   ShiftState shift_ = ShiftState::Off;
+  std::u16string expression_;
   std::u16string errorText_;
   std::u16string resultText_;
   double lastAnswer_ = 0;

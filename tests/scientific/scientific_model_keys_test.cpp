@@ -84,10 +84,11 @@ TEST_F(Screen, DeletingKeysDeleteACharacterOrTheSelection) {
   EXPECT_EQ(MarkedNow(), u"|14");
 }
 
-TEST_F(Screen, ClearEmptiesTheLineAndKeepsTheAnswer) {
+TEST_F(Screen, ClearTakesTheLineIntoTheExpressionBeforeItEmptiesIt) {
   Evaluate(u"1+1");
   SetMarked(u" 2+[3]");
   Press(*model_, u"CLR");
+  EXPECT_EQ(model_->Expression(), u" 2+3");
   EXPECT_EQ(MarkedNow(), u"|");
   EXPECT_EQ(Result(), u"2");
 }

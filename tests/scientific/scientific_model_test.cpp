@@ -91,6 +91,7 @@ TEST_F(Screen, AnswerIsShownKeptAndRemembered) {
   EXPECT_EQ(model_->ErrorText(), u"");
   EXPECT_EQ(MarkedNow(), u"[1234.5*2]");
   EXPECT_EQ(History(), (Texts{u"=[D]2,469", u"1234.5*2"}));
+  EXPECT_EQ(model_->Expression(), u"1234.5*2");
   EXPECT_TRUE(model_->IsEnabled(Key::PlayBack));
 }
 
