@@ -35,6 +35,9 @@ class BoxWatch final : public QObject {
   /// The next to open is a box, answered by this button; left open for NoButton.
   void Expect(QMessageBox::StandardButton answer) { expected_.emplace_back(answer); }
 
+  /// The next to open is a box, answered by its button of this caption.
+  void ExpectAnswer(const QString& caption) { expected_.emplace_back(caption); }
+
   /// The next to open is a dialog, on which `use` is run; it must leave it closed.
   void ExpectDialog(std::function<void(QDialog&)> use) { expected_.emplace_back(std::move(use)); }
 
@@ -55,7 +58,7 @@ class BoxWatch final : public QObject {
     if (dialog == nullptr || event->type() != QEvent::Show || event->spontaneous()) return false;
     auto* box = qobject_cast<QMessageBox*>(dialog);
     const bool isExpected =
-        !expected_.empty() && (box == nullptr ? 1U : 0U) == expected_.front().index();
+        !expected_.empty() && (box == nullptr) == std::holds_alternative<Use>(expected_.front());
     if (!isExpected) {
       const QString text = box != nullptr ? box->text() : dialog->windowTitle();
       ADD_FAILURE() << "a modal box opened unasked: " << text.toStdString();
@@ -65,17 +68,28 @@ class BoxWatch final : public QObject {
     auto next = std::move(expected_.front());
     expected_.pop_front();
     if (box != nullptr) {
-      Answer(*box, std::get<QMessageBox::StandardButton>(next));
+      Answer(*box, ButtonOf(*box, next));
     } else {
       Run(*dialog, std::get<Use>(std::move(next)));
     }
     return false;
   }
 
-  void Answer(QMessageBox& box, QMessageBox::StandardButton answer) {
+  using Expected = std::variant<QMessageBox::StandardButton, QString, Use>;
+
+  static QAbstractButton* ButtonOf(const QMessageBox& box, const Expected& answer) {
+    const auto* caption = std::get_if<QString>(&answer);
+    if (caption == nullptr) return box.button(std::get<QMessageBox::StandardButton>(answer));
+    for (QAbstractButton* button : box.buttons()) {
+      if (button->text() == *caption) return button;
+    }
+    ADD_FAILURE() << "no such answer: " << caption->toStdString();
+    return box.button(QMessageBox::Cancel);
+  }
+
+  void Answer(QMessageBox& box, QAbstractButton* button) {
     seen_.push_back(
         {box.text().toStdU16String(), box.icon(), box.informativeText().toStdU16String()});
-    auto* button = box.button(answer);
     if (button != nullptr) QTimer::singleShot(0, button, &QAbstractButton::click);
   }
 
@@ -91,7 +105,7 @@ class BoxWatch final : public QObject {
     });
   }
 
-  std::deque<std::variant<QMessageBox::StandardButton, Use>> expected_;
+  std::deque<Expected> expected_;
   std::vector<SeenBox> seen_;
 };
 

@@ -4,7 +4,12 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
+#include <QPushButton>
 #include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "screens/widgets/app_texts.h"
@@ -37,6 +42,12 @@ class ScaledBox final : public QMessageBox {
     setStyle(ScreenStyle());
     for (QWidget* widget : findChildren<QWidget*>()) widget->setStyle(ScreenStyle());
     setIcon(icon);  // drawn anew, at the size that the style has by now
+  }
+
+  const QAbstractButton* AddAnswer(const QString& caption) {
+    QPushButton* button = addButton(caption, AcceptRole);
+    button->setStyle(ScreenStyle());
+    return button;
   }
 
  private:
@@ -128,6 +139,20 @@ void ShowNotice(QWidget* parent, std::u16string_view text) {
 bool AskYesNo(QWidget* parent, std::u16string_view question, std::u16string_view more) {
   return Show(parent, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No, more) ==
          QMessageBox::Yes;
+}
+
+std::optional<std::size_t> AskWhich(QWidget* parent, std::u16string_view question,
+                                    const std::vector<std::u16string>& answers) {
+  ScaledBox box(QMessageBox::Question, ToQt(question), {}, QMessageBox::Cancel, parent);
+  std::vector<const QAbstractButton*> buttons;
+  buttons.reserve(answers.size());
+  for (const std::u16string& answer : answers) {
+    buttons.push_back(box.AddAnswer(ToQt(answer)));
+  }
+  box.exec();
+  const auto chosen = std::find(buttons.begin(), buttons.end(), box.clickedButton());
+  if (chosen == buttons.end()) return std::nullopt;
+  return static_cast<std::size_t>(chosen - buttons.begin());
 }
 
 void ShowAbout(QWidget* parent) {

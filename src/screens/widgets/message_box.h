@@ -1,7 +1,11 @@
 // The message boxes. Each function returns when its box is closed.
 #pragma once
 
+#include <cstddef>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 class QWidget;
 
@@ -16,6 +20,11 @@ void ShowNotice(QWidget* parent, std::u16string_view text);
 /// Asks `question` and returns whether the answer was Yes. Closing the box is a No. `more`, if not
 /// empty, stands below the question.
 bool AskYesNo(QWidget* parent, std::u16string_view question, std::u16string_view more = {});
+
+/// Asks `question` with one button for each of `answers`, and Cancel. Returns the index of the
+/// answer; nullopt for Cancel and for closing the box.
+std::optional<std::size_t> AskWhich(QWidget* parent, std::u16string_view question,
+                                    const std::vector<std::u16string>& answers);
 
 /// Name, version and purpose of the program.
 void ShowAbout(QWidget* parent);

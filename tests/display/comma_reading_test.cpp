@@ -1,0 +1,105 @@
+#include "display/comma_reading.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kav::comma_reading_test {
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr CommaMeaning kPoint = CommaMeaning::DecimalPoint;
+constexpr CommaMeaning kGroups = CommaMeaning::Grouping;
+constexpr CommaMeaning kCells = CommaMeaning::Separator;
+
+using Meanings = std::vector<CommaMeaning>;
+
+TEST(QuestionOfCommas, AsksForWhatAllCommasOfATextCanMean) {
+  struct Row {
+    std::u16string_view text;
+    std::u16string_view number;
+    Meanings meanings;
+  };
+  const std::vector<Row> rows{
+      {u"1,5", u"1,5", {kPoint, kCells}},
+      {u",5", u",5", {kPoint, kCells}},
+      {u"-1,5e3", u"1,5", {kPoint, kCells}},
+      {u"1,234", u"1,234", {kPoint, kGroups, kCells}},
+      {u"0,234", u"0,234", {kPoint, kCells}},
+      {u"1.234,5", u"1.234,5", {kPoint, kCells}},
+      {u"1,234.5", u"1,234.5", {kGroups, kCells}},
+      {u"1,234,567", u"1,234,567", {kGroups, kCells}},
+      {u"1,5\n2\n3,25\n", u"1,5", {kPoint, kCells}},
+      {u"1,234\r\n5,678", u"1,234", {kPoint, kGroups, kCells}},
+      {u"1,234\t5,6", u"1,234", {kPoint, kCells}},
+      {u"7;2,5", u"2,5", {kPoint, kCells}},
+      {u"1, 2,5", u"2,5", {kPoint, kCells}},
+      {u"1,234.5\n1,5", u"1,234.5", {kCells}},
+      {u"1.234\n1,5", u"1,5", {kCells}},
+      {u"1.25\n1,5", u"1,5", {kPoint, kCells}},
+  };
+  for (const auto& [text, number, meanings] : rows) {
+    const auto question = QuestionOfCommas(text);
+    ASSERT_TRUE(question) << std::string(text.begin(), text.end());
+    EXPECT_EQ(question->number, number);
+    EXPECT_EQ(question->meanings, meanings) << std::string(text.begin(), text.end());
+  }
+}
+
+TEST(QuestionOfCommas, NothingIsAskedIfCommasCanOnlySeparate) {
+  for (const auto text :
+       {u""sv, u"1.5"sv, u"1;2"sv, u"1, 2"sv, u"1,"sv, u"a,b"sv, u"1,2,3"sv, u"1.5,2"sv,
+        u"1.5,2\n3,4"sv, u"3,4\n1.5,2"sv, u"1,5.2"sv, u"1,-5"sv, u"12,34,567"sv, u"."sv}) {
+    EXPECT_EQ(QuestionOfCommas(text), std::nullopt) << std::string(text.begin(), text.end());
+  }
+}
+
+TEST(WithCommas, ReadsEachNumberOfTheText) {
+  struct Row {
+    std::u16string_view text;
+    CommaMeaning meaning;
+    std::u16string_view read;
+  };
+  const std::vector<Row> rows{
+      {u"1,5\n2\n-3,25e2\n", kPoint, u"1.5\n2\n-3.25e2\n"},
+      {u"1.234,5\tx, y", kPoint, u"1234.5\tx, y"},
+      {u",5", kPoint, u".5"},
+      {u"1,234\n5,678.25", kGroups, u"1234\n5678.25"},
+      {u"1,5\n2,5", kCells, u"1,5\n2,5"},
+      {u"", kPoint, u""},
+      {u"1.25", kPoint, u"1.25"},
+  };
+  for (const auto& [text, meaning, read] : rows) EXPECT_EQ(WithCommas(text, meaning), read);
+}
+
+TEST(CommaMeaningText, SaysWhatTheNumberBecomes) {
+  EXPECT_EQ(CommaMeaningText(u"1,5", kPoint), u"1.5");
+  EXPECT_EQ(CommaMeaningText(u"1,234", kGroups), u"1234");
+  EXPECT_EQ(CommaMeaningText(u"1,234,567", kCells), u"1 | 234 | 567");
+  EXPECT_EQ(CommaQuestionText({u"1,5", {kPoint}}),
+            u"The comma in \"1,5\" can be read in more than one way. Which is meant?");
+}
+
+TEST(CommaRefusal, NamesANumberWhoseCommaCouldBeADecimalOne) {
+  EXPECT_EQ(CommaRefusal(u"1,5"),
+            u"The comma in \"1,5\" can be read in two ways. Write 1.5 or 15.");
+  EXPECT_EQ(CommaRefusal(u" -1,234 "),
+            u"The comma in \"1,234\" can be read in two ways. Write 1.234 or 1234.");
+  EXPECT_EQ(CommaRefusal(u"1.234,5"),
+            u"The comma in \"1.234,5\" can be read in two ways. Write 1234.5 or 1.2345.");
+  EXPECT_EQ(CommaRefusal(u",5"), u"The comma in \",5\" can be read in two ways. Write .5 or 5.");
+}
+
+TEST(CommaRefusal, OtherTextsAreNotItsMatter) {
+  for (const auto text : {u""sv, u"12"sv, u"1.5"sv, u"1,234.5"sv, u"1,234,567"sv, u"1,"sv, u"a,b"sv,
+                          u"1,5.2"sv, u"1,2,3"sv}) {
+    EXPECT_EQ(CommaRefusal(text), std::nullopt) << std::string(text.begin(), text.end());
+  }
+}
+
+}  // namespace
+}  // namespace kav::comma_reading_test
