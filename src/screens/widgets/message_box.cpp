@@ -1,5 +1,6 @@
 #include "screens/widgets/message_box.h"
 
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QLabel>
 #include <QLayout>
@@ -76,6 +77,10 @@ class ScaledBox final : public QMessageBox {
   void LayOut() {
     const int pixels = font().pixelSize();
     layout()->setContentsMargins(pixels, pixels, pixels, pixels);
+    auto* buttons = findChild<QDialogButtonBox*>();
+    if (buttons->sizeHint().width() > area_.width() - 2 * pixels) {
+      buttons->setOrientation(Qt::Vertical);
+    }
     const int most = area_.width() - kBesideText * pixels;
     SetLabelWidth(most);
     layout()->activate();
