@@ -190,8 +190,8 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
   const bool isUsersClose = event->type() == QEvent::Close && watched == Shown() && !isQuitting_;
   if (!isUsersClose) return QWidget::eventFilter(watched, event);
   event->ignore();
-  if (auto* screen = dynamic_cast<Screen*>(watched)) screen->Leaving();
-  Exit();
+  auto* screen = dynamic_cast<Screen*>(watched);
+  if (screen == nullptr || screen->MayLeave(LeaveReason::Ending)) Exit();
   return true;
 }
 

@@ -42,6 +42,9 @@ const std::vector<ScreenKind> kAllFive{
     {ScreenMode::Matrix, u"Matrix Calculator", MakeFake<ScreenMode::Matrix>},
 };
 
+/// Whether it may be left.
+bool mayLeave = true;
+
 /// Notes when its user leaves it.
 class AskingScreen final : public Screen {
  public:
@@ -49,7 +52,10 @@ class AskingScreen final : public Screen {
     AddFileMenu({});
     AddModeMenu(ScreenMode::Scientific);
   }
-  void Leaving() override { events.emplace_back("leaving"); }
+  bool MayLeave(LeaveReason reason) override {
+    events.emplace_back(reason == LeaveReason::Ending ? "ending" : "switching");
+    return mayLeave;
+  }
 
  private:
   void LayOut(const DialogUnits&) override {}
@@ -65,7 +71,10 @@ const std::vector<ScreenKind> kOneThatAsks{
 
 class FrameWindowTest : public testing::Test {
  protected:
-  FrameWindowTest() { events.clear(); }
+  FrameWindowTest() {
+    events.clear();
+    mayLeave = true;
+  }
 
   /// Makes the frame and waits for the first screen.
   void Start(const std::vector<ScreenKind>& screens = kAllFive) {
@@ -216,13 +225,13 @@ TEST_F(FrameWindowTest, AScreenIsToldBeforeItsUserLeavesItForAnother) {
   Start(kOneThatAsks);
   ChooseFrom(*frame_->Shown(), u"&Mode", u"Matrix Calculator");
   QCoreApplication::processEvents();
-  EXPECT_EQ(events, (std::vector<std::string>{"leaving", "make 5", "show 5"}));
+  EXPECT_EQ(events, (std::vector<std::string>{"switching", "make 5", "show 5"}));
 }
 
 TEST_F(FrameWindowTest, AScreenIsToldBeforeItsUserEndsTheProgram) {
   Start(kOneThatAsks);
   ChooseFrom(*frame_->Shown(), u"&File", u"E&xit");
-  EXPECT_EQ(events, std::vector<std::string>{"leaving"});
+  EXPECT_EQ(events, std::vector<std::string>{"ending"});
   QCoreApplication::processEvents();
   EXPECT_EQ(finished_, 1);
 }
@@ -230,9 +239,21 @@ TEST_F(FrameWindowTest, AScreenIsToldBeforeItsUserEndsTheProgram) {
 TEST_F(FrameWindowTest, AScreenIsToldBeforeItsUserClosesTheWindow) {
   Start(kOneThatAsks);
   frame_->Shown()->close();
-  EXPECT_EQ(events, std::vector<std::string>{"leaving"});
+  EXPECT_EQ(events, std::vector<std::string>{"ending"});
   QCoreApplication::processEvents();
   EXPECT_EQ(finished_, 1);
+}
+
+TEST_F(FrameWindowTest, AScreenThatMayNotBeLeftStays) {
+  Start(kOneThatAsks);
+  mayLeave = false;
+  ChooseFrom(*frame_->Shown(), u"&Mode", u"Matrix Calculator");
+  ChooseFrom(*frame_->Shown(), u"&File", u"E&xit");
+  frame_->Shown()->close();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(events, (std::vector<std::string>{"switching", "ending", "ending"}));
+  EXPECT_TRUE(frame_->Shown()->isVisible());
+  EXPECT_EQ(finished_, 0);
 }
 
 TEST_F(FrameWindowTest, AScreenThatIsClosedByTheEndOfAllIsNotAsked) {

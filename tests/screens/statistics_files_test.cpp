@@ -243,6 +243,51 @@ TEST_F(StatisticsFilesTest, LeavingAsksToSave) {
   EXPECT_EQ(frame_.modes, std::vector<ScreenMode>{ScreenMode::Matrix});
 }
 
+TEST_F(StatisticsFilesTest, CancelKeepsTheScreenThatWasToEnd) {
+  AddRows("1 2");
+  ExpectBox(QMessageBox::Cancel);
+  ChooseFrom(*dlg_, u"&File", u"E&xit");
+  ExpectSeen(kSaveQuestion, QMessageBox::Question);
+  EXPECT_EQ(frame_.exits, 0);
+  EXPECT_EQ(Rows(), "1 2");
+}
+
+TEST_F(StatisticsFilesTest, GivingUpToSaveStopsTheEndButNoOtherScreen) {
+  frame_.others = {{ScreenMode::Matrix, u"Matrix Calculator"}};
+  Open();
+  AddRows("1 2");
+  ExpectBox(QMessageBox::Yes);
+  ExpectNoFileChosen();
+  ChooseFrom(*dlg_, u"&File", u"E&xit");
+  ExpectSeen(kSaveQuestion, QMessageBox::Question);
+  EXPECT_EQ(frame_.exits, 0);
+  ExpectBox(QMessageBox::Yes);
+  ExpectNoFileChosen();
+  ChooseFrom(*dlg_, u"&Mode", u"Matrix Calculator");
+  ExpectSeen(kSaveQuestion, QMessageBox::Question);
+  EXPECT_EQ(frame_.modes, std::vector<ScreenMode>{ScreenMode::Matrix});
+}
+
+TEST_F(StatisticsFilesTest, NothingGoesOnAfterASaveThatFailed) {
+  frame_.others = {{ScreenMode::Matrix, u"Matrix Calculator"}};
+  Open();
+  AddRows("1 2");
+  const auto fail = [this](const std::function<void()>& leave) {
+    ExpectBox(QMessageBox::Yes);
+    ExpectFile("/proc/self/data.txt");
+    ExpectBox();
+    leave();
+    EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 2U);
+    Focused();
+  };
+  fail([this] { ChooseFrom(*dlg_, u"&File", u"E&xit"); });
+  fail([this] { ChooseFrom(*dlg_, u"&Mode", u"Matrix Calculator"); });
+  fail([this] { Tap(u"Load"); });
+  EXPECT_EQ(frame_.exits, 0);
+  EXPECT_EQ(frame_.modes.size(), 0U);
+  EXPECT_EQ(Rows(), "1 2");
+}
+
 TEST_F(StatisticsFilesTest, LeavingWithoutSavingIsTheUsersChoice) {
   AddRows("1 2");
   ExpectBox(QMessageBox::No);

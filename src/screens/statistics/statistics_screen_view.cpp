@@ -144,15 +144,22 @@ void StatisticsScreen::OnYes(StatisticsKey key) {
   model_->ClearRows();
 }
 
-void StatisticsScreen::Do(const AskSaveFile&) {
+SaveEnd StatisticsScreen::Save() {
   const auto path = AskFileToSave(this, kDataFiles);
-  if (!path) return;
-  Tell(Run(kSavingData,
-           [&](const WorkProgress& progress) { return model_->SaveTo(*path, progress); }));
+  if (!path) return SaveEnd::Cancelled;
+  const auto failure = Run(
+      kSavingData, [&](const WorkProgress& progress) { return model_->SaveTo(*path, progress); });
+  Tell(failure);
+  if (failure) return SaveEnd::Failed;
+  // Unless the user gave up while it was written.
+  return model_->QuestionBeforeLeaving() ? SaveEnd::Cancelled : SaveEnd::Saved;
 }
 
 void StatisticsScreen::Do(const AskLoadFile& request) {
-  if (!request.question.empty() && AskYesNo(this, request.question)) Do(AskSaveFile{});
+  const bool goesOn =
+      request.question.empty() ||
+      AskToSave(this, LeaveReason::Loading, request.question, [this] { return Save(); });
+  if (!goesOn) return;
   const auto path = AskFileToOpen(this, kDataFiles);
   if (!path) return;
   Tell(Run(kLoadingData,
@@ -174,11 +181,11 @@ std::optional<std::u16string> StatisticsScreen::Run(std::u16string_view title, c
   return work([&progress](double done) { return progress.Update(done); });
 }
 
-void StatisticsScreen::Leaving() {
+bool StatisticsScreen::MayLeave(LeaveReason reason) {
   const auto question = model_->QuestionBeforeLeaving();
-  if (!question || !AskYesNo(this, *question)) return;
+  if (!question) return true;
   TakeLine();
-  Do(AskSaveFile{});
+  return AskToSave(this, reason, *question, [this] { return Save(); });
 }
 
 QLineEdit& StatisticsScreen::Edited() const {

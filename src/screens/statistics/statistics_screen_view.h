@@ -29,7 +29,7 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   StatisticsScreen(Frame& frame, ScreenMode mode, std::unique_ptr<StatisticsModel> model,
                    std::span<const DataColumn> columns, std::chrono::milliseconds patience);
 
-  void Leaving() override;
+  bool MayLeave(LeaveReason reason) override;
 
  protected:
   using KeyScreenOf::Do;
@@ -52,10 +52,11 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   void OnYes(StatisticsKey key) override;
   void Do(const FieldRefusal& request);
   void Do(const FocusField& request);
-  void Do(const AskSaveFile& request);
+  void Do(const AskSaveFile&) { Save(); }
   void Do(const AskLoadFile& request);
   void Do(const RecallMemoryVariable& request);
   using Work = std::function<std::optional<std::u16string>(const WorkProgress&)>;
+  SaveEnd Save();
   void Tell(const std::optional<std::u16string>& text);
   std::optional<std::u16string> Run(std::u16string_view title, const Work& work);
 

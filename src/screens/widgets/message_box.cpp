@@ -146,6 +146,13 @@ bool AskYesNo(QWidget* parent, std::u16string_view question, std::u16string_view
          QMessageBox::Yes;
 }
 
+Decision AskYesNoCancel(QWidget* parent, std::u16string_view question) {
+  const int pressed = Show(parent, QMessageBox::Question, question,
+                           QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+  if (pressed == QMessageBox::Yes) return Decision::Yes;
+  return pressed == QMessageBox::No ? Decision::No : Decision::Cancel;
+}
+
 std::optional<std::size_t> AskWhich(QWidget* parent, std::u16string_view question,
                                     const std::vector<std::u16string>& answers) {
   ScaledBox box(QMessageBox::Question, ToQt(question), {}, QMessageBox::Cancel, parent);

@@ -98,8 +98,7 @@ void Screen::AddFileMenu(const FileCommands& commands) {
                       {kEditUnitsEntry, commands.editUnits},
                       {kEditMacroEntry, commands.editMacros},
                       {kExitEntry, [this] {
-                         Leaving();
-                         frame_.Exit();
+                         if (MayLeave(LeaveReason::Ending)) frame_.Exit();
                        }}});
 }
 
@@ -118,8 +117,7 @@ void Screen::AddModeMenu(ScreenMode own) {
   std::vector<MenuEntry> entries;
   for (const ScreenChoice& choice : frame_.ScreensBeside(own)) {
     entries.push_back({choice.caption, [this, mode = choice.mode] {
-                         Leaving();
-                         frame_.ChangeMode(mode);
+                         if (MayLeave(LeaveReason::Switching)) frame_.ChangeMode(mode);
                        }});
   }
   AddMenu(kModeMenu, entries);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "screens/widgets/frame.h"
+#include "screens/widgets/leaving.h"
 #include "screens/widgets/look.h"
 
 class QLineEdit;
@@ -51,7 +52,8 @@ class Screen : public QWidget {
   Screen(Frame& frame, QSize size);
 
   /// Called before the user goes to another screen or ends the program: asks whether to save.
-  virtual void Leaving() {}
+  /// Answers whether the screen may be left; if not, it stays.
+  virtual bool MayLeave(LeaveReason) { return true; }
 
  protected:
   /// Called whenever the body has a new size: places everything on it.
