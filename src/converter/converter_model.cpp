@@ -7,6 +7,7 @@
 #include "common/number_text.h"
 #include "converter/conversion.h"
 #include "converter/converter_texts.h"
+#include "display/comma_reading.h"
 #include "display/number_input.h"
 
 namespace kav {
@@ -133,12 +134,13 @@ void ConverterModel::Swap() {
   std::swap(positions_.input, positions_.output);
 }
 
-bool ConverterModel::TextIsNumber() const {
-  return ReadShownNumber(Narrow(text_)).has_value();
+std::optional<std::u16string> ConverterModel::TextRefusal() const {
+  auto value = ReadNumberField(text_, kValueIsNoNumber);
+  return value ? std::nullopt : std::optional(std::move(value).error());
 }
 
 std::optional<double> ConverterModel::Converted() const {
-  const auto value = ReadShownNumber(Narrow(text_));
+  const auto value = ReadNumberField(text_, kValueIsNoNumber);
   return value ? Convert(*value) : std::nullopt;
 }
 
@@ -171,10 +173,11 @@ std::optional<std::u16string> ConverterModel::Result() const {
   return result ? std::optional(Widen(*result)) : std::nullopt;
 }
 
-std::optional<std::u16string_view> ConverterModel::OkRefusal() const {
+std::optional<std::u16string> ConverterModel::OkRefusal() const {
+  if (auto comma = CommaRefusal(text_)) return comma;
   const auto converted = Converted();
   const bool cannotBeShown = converted && !std::isfinite(*converted);
-  if (!TextIsNumber() || cannotBeShown) return kConvertingFailed;
+  if (TextRefusal() || cannotBeShown) return std::u16string(kConvertingFailed);
   return std::nullopt;
 }
 

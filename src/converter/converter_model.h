@@ -50,7 +50,8 @@ class ConverterModel {
 
   const std::u16string& Text() const { return text_; }
   void SetText(std::u16string text) { text_ = std::move(text); }
-  bool TextIsNumber() const;
+  /// Why the text is no number; nullopt if it is one.
+  std::optional<std::u16string> TextRefusal() const;
 
   /// The result line: the converted value in the user's display format, or the reason why it cannot
   /// be shown. Empty if the text is no number or too little is selected.
@@ -59,7 +60,7 @@ class ConverterModel {
   /// it cannot be shown.
   std::optional<std::u16string> Result() const;
   /// Why the converter cannot be closed with OK; nullopt if it can.
-  std::optional<std::u16string_view> OkRefusal() const;
+  std::optional<std::u16string> OkRefusal() const;
 
  private:
   const UnitCategory* Category() const;

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "common/number_text.h"
+#include "display/comma_reading.h"
 #include "display/display_settings_texts.h"
 
 namespace kav {
@@ -23,8 +24,10 @@ std::optional<int> ReadBox(std::u16string_view box, const IntegerRange& range) {
   return value && range.Contains(*value) ? value : std::nullopt;
 }
 
-std::u16string MustBe(std::u16string_view entry, const IntegerRange& range) {
-  return NotInRange(entry, range.least, range.most);
+/// Why `box`, the box of `entry`, is refused.
+std::u16string WhyNot(std::u16string_view box, std::u16string_view entry,
+                      const IntegerRange& range) {
+  return CommaRefusal(box).value_or(NotInRange(entry, range.least, range.most));
 }
 
 std::u16string Samples(const DisplayFormat& format) {
@@ -49,7 +52,8 @@ std::u16string_view DisplaySettingsModel::GroupCaption() const {
 
 std::u16string DisplaySettingsModel::Example() const {
   const auto format = TypedFormat();
-  return format ? Samples(*format) : MustBe(kPrecisionEntry, kPrecisionRange);
+  return format ? Samples(*format)
+                : NotInRange(kPrecisionEntry, kPrecisionRange.least, kPrecisionRange.most);
 }
 
 std::optional<DisplayRefusal> DisplaySettingsModel::TurnTo(DisplayPage page) {
@@ -84,9 +88,10 @@ std::optional<DisplayRefusal> DisplaySettingsModel::TakeOver() {
   const auto columnWidth = ReadBox(columnWidth_, kColumnWidthRange);
   std::optional<DisplayRefusal> refusal;
   if (!precision) {
-    refusal = {MustBe(kPrecisionEntry, kPrecisionRange), DisplayField::Precision};
+    refusal = {WhyNot(precision_, kPrecisionEntry, kPrecisionRange), DisplayField::Precision};
   } else if (!columnWidth) {
-    refusal = {MustBe(kColumnWidthEntry, kColumnWidthRange), DisplayField::ColumnWidth};
+    refusal = {WhyNot(columnWidth_, kColumnWidthEntry, kColumnWidthRange),
+               DisplayField::ColumnWidth};
   } else {
     kept_.*PageFormat() = {type_, *precision};
     kept_.columnWidth = *columnWidth;

@@ -5,6 +5,7 @@
 
 #include "common/ascii.h"
 #include "common/number_text.h"
+#include "display/comma_reading.h"
 
 namespace kav {
 namespace {
@@ -39,6 +40,14 @@ std::optional<double> ReadShownNumber(std::string_view text) {
   std::string plain(text.substr(0, end));
   plain.erase(std::remove(plain.begin(), plain.end(), kSeparator), plain.end());
   return ReadWholeNumber(plain.append(text.substr(end)));
+}
+
+Expected<double, std::u16string> ReadNumberField(std::u16string_view field,
+                                                 std::u16string_view notANumber) {
+  if (auto refusal = CommaRefusal(field)) return *std::move(refusal);
+  const auto number = ReadShownNumber(Narrow(field));
+  if (!number) return std::u16string(notANumber);
+  return *number;
 }
 
 }  // namespace kav

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
+
+#include "common/expected.h"
 
 namespace kav {
 
@@ -12,5 +15,11 @@ namespace kav {
 /// refused. nullopt for any other text, "inf" and "nan" included. A magnitude beyond the range of
 /// double reads as infinity, one below it as 0.
 std::optional<double> ReadShownNumber(std::string_view text);
+
+/// The number that `field`, which takes one, holds: read as ReadShownNumber does. Fails with what
+/// the user is told: for a comma that could be a decimal one the text of CommaRefusal, else
+/// `notANumber`. Every field of the program is read by it.
+Expected<double, std::u16string> ReadNumberField(std::u16string_view field,
+                                                 std::u16string_view notANumber);
 
 }  // namespace kav

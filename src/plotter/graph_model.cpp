@@ -161,20 +161,31 @@ std::optional<GraphReading> GraphModel::Tap(GraphPlace place) {
   return ReadPoint(place);
 }
 
-GraphReading GraphModel::ReadPoint(GraphPlace place) const {
+GraphReading GraphModel::ReadPoint(GraphPlace place) {
   const double y = range_.yMin + (range_.yMax - range_.yMin) / (area_.bottom - area_.top + 1) *
                                      (area_.bottom - place.row + 1);
   GraphReading reading;
   reading.x = Shown(XAt(place.column), input_.format);
+  tappedX_ = reading.x;
   reading.lines.push_back(std::u16string(kTouchedYPrefix) + Shown(y, input_.format));
   return reading;
 }
 
 Expected<GraphReading, std::u16string> GraphModel::Calculate(std::u16string_view text) {
   const std::u16string_view typed = TrimBlanks(text).empty() ? std::u16string_view(u"0") : text;
-  const auto x = ReadShownNumber(Narrow(typed));
-  if (!x || !std::isfinite(*x)) return FieldTakesNumbers(kTracedXField, typed);
+  const std::u16string refusal = FieldTakesNumbers(kTracedXField, typed);
+  const auto x = ReadX(typed, refusal);
+  if (!x) return x.error();
+  if (!std::isfinite(*x)) return refusal;
   return ReadCurves(*x, typed);
+}
+
+Expected<double, std::u16string> GraphModel::ReadX(std::u16string_view typed,
+                                                   std::u16string_view refusal) const {
+  // Nobody is asked about the separators that a tap on the plot wrote.
+  const bool isShown = !tappedX_.empty() && typed == tappedX_;
+  if (isShown) return ReadShownNumber(Narrow(typed)).value_or(0);
+  return ReadNumberField(typed, refusal);
 }
 
 /// Shows x with all of its digits, so that "Cal" on the field shows the same values again.

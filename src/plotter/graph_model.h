@@ -116,7 +116,9 @@ class GraphModel {
   void Sample();
   bool IsInPlot(GraphPlace place) const;
   double XAt(double column) const;
-  GraphReading ReadPoint(GraphPlace place) const;
+  GraphReading ReadPoint(GraphPlace place);
+  Expected<double, std::u16string> ReadX(std::u16string_view typed,
+                                         std::u16string_view refusal) const;
   GraphReading Trace(double x);
   GraphReading ReadCurves(double x, std::u16string_view shown);
   std::u16string ValueLine(std::size_t index, double x) const;
@@ -131,6 +133,7 @@ class GraphModel {
   bool traces_ = false;
   bool canUndo_ = false;
   std::optional<double> tracedX_;
+  std::u16string tappedX_;  ///< as the last tap showed it; empty before the first
 };
 
 }  // namespace kav

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "common/number_text.h"
 #include "display/number_input.h"
 #include "plotter/plotter_texts.h"
 
@@ -22,10 +21,10 @@ Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts) {
   PlotRange range;
   for (const RangeField field : kRangeFields) {
     const std::u16string& text = texts[IndexOf(field)];
-    const std::optional<double> value = ReadShownNumber(Narrow(text));
-    if (!value || !std::isfinite(*value)) {
-      return Refusal<RangeField>{FieldTakesNumbers(CaptionOf(field), text), field};
-    }
+    const std::u16string refusal = FieldTakesNumbers(CaptionOf(field), text);
+    const auto value = ReadNumberField(text, refusal);
+    if (!value) return Refusal<RangeField>{value.error(), field};
+    if (!std::isfinite(*value)) return Refusal<RangeField>{refusal, field};
     range.*BoundOf(field) = *value;
   }
   return range;

@@ -2,8 +2,10 @@
 
 #include <cmath>
 #include <string_view>
+#include <utility>
 
 #include "common/number_text.h"
+#include "display/comma_reading.h"
 #include "display/number_input.h"
 #include "statistics/statistics_texts.h"
 
@@ -12,10 +14,9 @@ namespace {
 
 /// The number in the field called `name`, or what that field takes.
 Expected<double, std::u16string> ReadValue(std::u16string_view text, std::u16string_view name) {
-  const auto value = ReadShownNumber(Narrow(text));
-  if (!value) return ValueIsNoNumber(name);
-  if (!std::isfinite(*value)) return ValueIsTooLarge(name);
-  return *value;
+  auto value = ReadNumberField(text, ValueIsNoNumber(name));
+  if (value && !std::isfinite(*value)) return ValueIsTooLarge(name);
+  return value;
 }
 
 }  // namespace
@@ -36,6 +37,9 @@ Expected<FieldNumbers, Refusal<DataField>> ReadTypedRow(const TypedRow& typed, D
     const auto y = ReadValue(typed.y, kYName);
     if (!y) return Refusal<DataField>{y.error(), DataField::Y};
     numbers.y = *y;
+  }
+  if (auto comma = CommaRefusal(typed.count)) {
+    return Refusal<DataField>{*std::move(comma), DataField::Count};
   }
   const auto count = ReadCount(typed.count);
   if (!count) return Refusal<DataField>{CountIsOutOfRange(), DataField::Count};

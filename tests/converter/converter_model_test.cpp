@@ -115,24 +115,34 @@ TEST_F(ConverterModelTest, ReadsWhateverAnyDisplayTypeShows) {
   for (const auto& row : rows) {
     ConverterModel model = Model(row.text);
     Choose(model, u"07. Length", u"Meters", u"Miles");
-    EXPECT_TRUE(model.TextIsNumber());
+    EXPECT_EQ(model.TextRefusal(), std::nullopt);
     EXPECT_EQ(model.Result(), row.result);
   }
 }
 
 TEST_F(ConverterModelTest, ATextThatIsNoNumberGivesNoResultAndNotZero) {
-  const std::u16string texts[] = {u"",      u"   ", u"inf",  u"-inf",    u"nan",
-                                  u"0x10",  u"abc", u"-",    u"1e",      u"1 2",
-                                  u"1.2.3", u"2*3", u"1,5",  u"١",       u".",
-                                  u"1\n2",  u"--1", u"1e5x", u"1\u00a0", std::u16string(1, 0)};
+  const std::u16string texts[] = {u"",      u"   ", u"inf",   u"-inf",    u"nan",
+                                  u"0x10",  u"abc", u"-",     u"1e",      u"1 2",
+                                  u"1.2.3", u"2*3", u"1,5.2", u"١",       u".",
+                                  u"1\n2",  u"--1", u"1e5x",  u"1\u00a0", std::u16string(1, 0)};
   for (const auto& text : texts) {
     ConverterModel model = Miles(text);
-    EXPECT_FALSE(model.TextIsNumber());
+    EXPECT_EQ(model.TextRefusal(), u"Not a number");
     EXPECT_EQ(model.ShownResult(), u"");
     EXPECT_EQ(model.Result(), std::nullopt);
     EXPECT_EQ(model.OkRefusal(), kRefused);
     EXPECT_EQ(model.Text(), text);
   }
+}
+
+TEST_F(ConverterModelTest, ACommaThatCouldBeADecimalOneIsRefused) {
+  const std::u16string refusal = u"The comma in \"1,5\" can be read in two ways. Write 1.5 or 15.";
+  const ConverterModel model = Miles(u"1,5");
+  EXPECT_EQ(model.TextRefusal(), refusal);
+  EXPECT_EQ(model.OkRefusal(), refusal);
+  EXPECT_EQ(model.Result(), std::nullopt);
+  EXPECT_EQ(Miles(u"1,234").OkRefusal(),
+            u"The comma in \"1,234\" can be read in two ways. Write 1.234 or 1234.");
 }
 
 TEST_F(ConverterModelTest, ATextThatIsNoNumberIsRefusedAlsoWithNothingSelected) {
@@ -152,7 +162,7 @@ TEST_F(ConverterModelTest, AValueThatCannotBeShownIsSaidAndRefused) {
 
 TEST_F(ConverterModelTest, ANumberBeyondTheRangeCannotBeShown) {
   ConverterModel model = Miles(u"1e999");
-  EXPECT_TRUE(model.TextIsNumber());
+  EXPECT_EQ(model.TextRefusal(), std::nullopt);
   EXPECT_EQ(model.ShownResult(), kCannotBeShown);
   EXPECT_EQ(model.OkRefusal(), kRefused);
 }

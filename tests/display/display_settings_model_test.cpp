@@ -178,6 +178,18 @@ TEST_F(DisplaySettingsModelTest, OfTwoWrongNumbersThePrecisionIsNamed) {
   EXPECT_EQ(matrix.ColumnWidth(), u"60");
 }
 
+TEST_F(DisplaySettingsModelTest, ACommaThatCouldBeADecimalOneIsNamed) {
+  DisplaySettingsModel matrix(store, DisplayPage::Matrix);
+  matrix.TypePrecision(u"1,5");
+  ExpectRefusal(matrix.Accept(store),
+                u"The comma in \"1,5\" can be read in two ways. Write 1.5 or 15.",
+                DisplayField::Precision);
+  matrix.TypeColumnWidth(u"6,0");
+  ExpectRefusal(matrix.Accept(store),
+                u"The comma in \"6,0\" can be read in two ways. Write 6.0 or 60.",
+                DisplayField::ColumnWidth);
+}
+
 TEST_F(DisplaySettingsModelTest, ARefusalLeavesTheChosenTypeInItsBox) {
   model.ChooseType(DisplayType::FixedPoint);
   model.TypePrecision(u"x");

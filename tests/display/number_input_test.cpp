@@ -119,6 +119,21 @@ TEST(ReadShownNumber, BeyondTheRangeOfDoubleIsInfinityAndBelowItZero) {
   EXPECT_EQ(ReadShownNumber("1e-300"), 1e-300);
 }
 
+TEST(ReadNumberField, RefusesACommaThatCouldBeADecimalOneAndWhatIsNoNumber) {
+  constexpr auto kNone = u"none"sv;
+  EXPECT_EQ(*ReadNumberField(u" -1.5 ", kNone), -1.5);
+  EXPECT_EQ(*ReadNumberField(u"1,234.5", kNone), 1234.5);
+  EXPECT_EQ(*ReadNumberField(u"1,234,567", kNone), 1234567);
+  EXPECT_EQ(*ReadNumberField(u"1e999", kNone), kInfinity);
+  EXPECT_EQ(ReadNumberField(u"1,5", kNone).error(),
+            u"The comma in \"1,5\" can be read in two ways. Write 1.5 or 15.");
+  EXPECT_EQ(ReadNumberField(u"1,234", kNone).error(),
+            u"The comma in \"1,234\" can be read in two ways. Write 1.234 or 1234.");
+  for (const auto text : {u""sv, u"x"sv, u"1,2,3"sv, u"inf"sv}) {
+    EXPECT_EQ(ReadNumberField(text, kNone).error(), kNone);
+  }
+}
+
 TEST(ReadShownNumber, TextsMayBeOfAnyLength) {
   const std::string zeros(100000, '0');
   EXPECT_EQ(ReadShownNumber(zeros + "5"), 5.0);

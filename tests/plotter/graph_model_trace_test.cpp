@@ -152,12 +152,25 @@ TEST(GraphModelTrace, TheAngleUnitOfTheGraphCounts) {
   EXPECT_EQ(model.Calculate(u"30")->lines, Lines{u"R:F1(X) = 0.5"});
 }
 
+TEST(GraphModelTrace, ACommaThatCouldBeADecimalOneIsRefusedUnlessATapWroteIt) {
+  GraphInput input = GraphOf({"x"});
+  input.range = {0, 229000, 0, 229};
+  input.format = {DisplayType::Thousands, 7};
+  GraphModel model(std::move(input));
+  const auto typed = model.Calculate(u"2,000");
+  ASSERT_FALSE(typed);
+  EXPECT_EQ(typed.error(), u"The comma in \"2,000\" can be read in two ways. Write 2.000 or 2000.");
+  EXPECT_EQ(model.Tap({2, 10})->x, u"2,000");
+  EXPECT_EQ(model.Calculate(u"2,000")->lines, Lines{u"R:F1(X) = 2,000"});
+  EXPECT_FALSE(model.Calculate(u"3,000"));
+}
+
 TEST(GraphModelTrace, AFieldThatHoldsNoNumberIsToldWhatIsAllowed) {
   GraphModel model = PixelModel();
   constexpr std::u16string_view kAllowed =
       u"\"X =\" takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size, not ";
   for (const std::u16string_view text :
-       {u"abc", u"1,5", u"1e", u"2x", u"--1", u"inf", u"nan", u"1e999", u"-1e999", u"sin(1)"}) {
+       {u"abc", u"1,5.2", u"1e", u"2x", u"--1", u"inf", u"nan", u"1e999", u"-1e999", u"sin(1)"}) {
     const auto reading = model.Calculate(text);
     ASSERT_FALSE(reading);
     EXPECT_EQ(reading.error(), std::u16string(kAllowed).append(u"\"").append(text).append(u"\"."));

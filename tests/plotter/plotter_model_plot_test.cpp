@@ -35,7 +35,7 @@ TEST_F(PlotterModelPlot, TheGraphHasTheRangeTheAngleTheOptionsAndTheDisplayForma
   Set("Config", "Display Type", 2);
   Set("Config", "Precision", 3);
   Add(u"x");
-  SetRange({u"-1", u"2e1", u"-1,000", u" .5 "});
+  SetRange({u"-1", u"2e1", u"-1,000.0", u" .5 "});
   Press(u"DEG");
   model_->Toggle(PlotterOption::Grid);
   const GraphInput graph = Plotted();

@@ -22,7 +22,7 @@ TEST(PlotterOptionsModel, NumbersStandInTheFieldsWithoutSeparators) {
 
 TEST(PlotterOptionsModel, HandsBackWhatWasTyped) {
   const auto accepted =
-      ModelOf({}).Accept({u"-2.5", u"1e2", u"-1,000", u" 3 "}, {true, false, false});
+      ModelOf({}).Accept({u"-2.5", u"1e2", u"-1,000.0", u" 3 "}, {true, false, false});
   ASSERT_TRUE(accepted);
   EXPECT_EQ(*accepted, (PlotterOptions{{-2.5, 100, -1000, 3}, {true, false, false}}));
 }

@@ -49,6 +49,9 @@ TEST(RangeFields, WhatIsNoNumberIsRefusedWithWhatIsAllowed) {
       {{u"0", u"1", u"2*3", u"1"},
        RangeField::YMin,
        u"Y min takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size, not \"2*3\"."},
+      {{u"0", u"1,5", u"0", u"1"},
+       RangeField::XMax,
+       u"The comma in \"1,5\" can be read in two ways. Write 1.5 or 15."},
       {{u"0", u"1", u"0", u"1e999"},
        RangeField::YMax,
        u"Y max takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size, not "

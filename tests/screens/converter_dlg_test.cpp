@@ -195,15 +195,15 @@ TEST_F(ConverterDlgTest, TheUsersFormatIsShownAndNotHandedOver) {
 
 TEST_F(ConverterDlgTest, SeparatorsAreTakenOffWhatIsTyped) {
   UseMiles([this] {
-    Replace(" 1,000 ");
+    Replace(" 1,000.0 ");
     EXPECT_EQ(ResultText(), u"1,609.344");
-    EXPECT_EQ(Value().text(), " 1,000 ");
+    EXPECT_EQ(Value().text(), " 1,000.0 ");
   });
 }
 
 TEST_F(ConverterDlgTest, ATextThatIsNoNumberIsMarkedAndRefused) {
   UseMiles([this] {
-    for (const char* text : {"", "abc", "inf", "nan", "0x10", "1,5", "-"}) {
+    for (const char* text : {"", "abc", "inf", "nan", "0x10", "1,5.2", "-"}) {
       SCOPED_TRACE(text);
       Replace(text);
       EXPECT_EQ(ResultText(), u"");

@@ -41,7 +41,7 @@ TEST(DataFields, NumbersAreReadAsTheyAreTypedAndShown) {
 
 TEST(DataFields, WhatIsNoNumberIsRefusedWithTheNameOfItsField) {
   for (const std::u16string_view text :
-       {u"", u" ", u"abc", u"1,5", u"1 2", u"1e", u"--1", u"inf", u"nan", u"0x10", u"\u0663"}) {
+       {u"", u" ", u"abc", u"1,5.2", u"1 2", u"1e", u"--1", u"inf", u"nan", u"0x10", u"\u0663"}) {
     const auto x = Read(text, u"1", u"1");
     ASSERT_FALSE(x) << Narrow(text);
     EXPECT_EQ(x.error().text, u"X must be a number such as -12.5 or 1.5e-3.");
@@ -52,6 +52,17 @@ TEST(DataFields, WhatIsNoNumberIsRefusedWithTheNameOfItsField) {
     EXPECT_EQ(y.error().text, u"Y must be a number such as -12.5 or 1.5e-3.");
     EXPECT_EQ(y.error().focus, DataField::Y);
   }
+}
+
+TEST(DataFields, ACommaThatCouldBeADecimalOneIsRefused) {
+  const std::u16string refusal = u"The comma in \"1,5\" can be read in two ways. Write 1.5 or 15.";
+  EXPECT_EQ(Read(u"1,5", u"1", u"1").error().text, refusal);
+  EXPECT_EQ(Read(u"1", u"1,5", u"1").error().focus, DataField::Y);
+  EXPECT_EQ(Read(u"1", u"1,5", u"1").error().text, refusal);
+  EXPECT_EQ(Read(u"1", u"1", u"1,5").error().focus, DataField::Count);
+  EXPECT_EQ(Read(u"1", u"1", u"1,5").error().text, refusal);
+  EXPECT_EQ(Read(u"1", u"1", u"1,000").error().text,
+            u"The comma in \"1,000\" can be read in two ways. Write 1.000 or 1000.");
 }
 
 TEST(DataFields, NumbersBeyondThoseOfTheMachineAreRefused) {

@@ -145,9 +145,9 @@ void CConverterDlg::RefreshValue() {
   // Not the same text again: that would move the caret.
   const QString text = ToQt(model_.Text());
   if (value_->text() != text) value_->setText(text);
-  const bool isNumber = model_.TextIsNumber();
-  SetBase(*value_, isNumber ? QColor(Qt::white) : QColor(255, 208, 208));
-  value_->setAccessibleDescription(isNumber ? QString() : ToQt(kValueIsNoNumber));
+  const auto refusal = model_.TextRefusal();
+  SetBase(*value_, refusal ? QColor(255, 208, 208) : QColor(Qt::white));
+  value_->setAccessibleDescription(refusal ? ToQt(*refusal) : QString());
 }
 
 void CConverterDlg::OnCategory(int category) {
