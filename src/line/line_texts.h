@@ -28,6 +28,11 @@ inline constexpr std::u16string_view kHexadecimal = u"Hexadecimal";
 
 inline constexpr std::u16string_view kNoExpression = u"There is no expression.";
 
+// In place of a memory or a constant that no double can hold.
+inline constexpr std::u16string_view kRecalledIsTooLarge =
+    u"The recalled number is beyond 1.79e308 in size, the largest that can be calculated with. "
+    u"Nothing was inserted.";
+
 inline constexpr std::u16string_view kExpressionName = u"Expression";
 inline constexpr std::u16string_view kResultName = u"Result";
 inline constexpr std::u16string_view kShiftIsOn = u"on";

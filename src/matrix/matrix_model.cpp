@@ -1,6 +1,7 @@
 #include "matrix/matrix_model.h"
 
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <utility>
 
@@ -240,16 +241,19 @@ void MatrixModel::TakeMacro(int index) {
   WriteMacroCall(index, macros_, line_);
 }
 
-void MatrixModel::TakeVariable(std::u16string_view value) {
-  Insert(ReadLeadingNumber(Narrow(value)));
+MatrixRequest MatrixModel::TakeVariable(std::u16string_view value) {
+  return Insert(ReadLeadingNumber(Narrow(value)));
 }
 
-void MatrixModel::TakeConstant(std::u16string_view value) {
+MatrixRequest MatrixModel::TakeConstant(std::u16string_view value) {
   line_.InsertText(value);
+  return Nothing{};
 }
 
-void MatrixModel::Insert(double value) {
+MatrixRequest MatrixModel::Insert(double value) {
+  if (!std::isfinite(value)) return TellStop{std::u16string(kRecalledIsTooLarge)};
   line_.InsertText(InsertedNumber(value, settings_.normal, BaseMode::Decimal));
+  return Nothing{};
 }
 
 void MatrixModel::TakeDisplaySettings() {

@@ -61,11 +61,11 @@ class MatrixModel {
   /// An id that the menu of `key` does not offer does nothing.
   MatrixRequest Choose(MatrixKey key, int id);
 
-  // What dialogs bring back.
+  // What dialogs bring back. A number beyond the range of double is told, and not inserted.
   void TakeConverter(const ConverterOutcome& outcome);
   void TakeMacro(int index);
-  void TakeVariable(std::u16string_view value);
-  void TakeConstant(std::u16string_view value);
+  MatrixRequest TakeVariable(std::u16string_view value);
+  MatrixRequest TakeConstant(std::u16string_view value);
   /// Reads the display settings again after their dialog changed them; matrices keep their sizes.
   void TakeDisplaySettings();
 
@@ -118,7 +118,7 @@ class MatrixModel {
   void EvaluateNumber(std::u16string_view text);
   MatrixRequest EvaluateMatrix(std::u16string_view text);
   void ShowAnswer();
-  void Insert(double value);
+  MatrixRequest Insert(double value);
   MatrixRequest ChooseTool(int id);
   MatrixRequest ChooseMatrixTool(int id);
   MatrixRequest ConverterRequest() const;

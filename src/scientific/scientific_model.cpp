@@ -1,5 +1,6 @@
 #include "scientific/scientific_model.h"
 
+#include <cmath>
 #include <utility>
 
 #include "common/number_text.h"
@@ -184,8 +185,7 @@ ScientificRequest ScientificModel::ChooseMemory(int id) {
       converter_.memory = converter_.memory - lastAnswer_;
       break;
     case memory_item::kRecall:
-      Insert(converter_.memory);
-      break;
+      return Insert(converter_.memory);
     case memory_item::kClear:
       converter_.memory = 0;
       break;
@@ -210,17 +210,20 @@ void ScientificModel::TakeMacro(int index) {
   WriteMacroCall(index, macros_, line_);
 }
 
-void ScientificModel::TakeVariable(std::u16string_view value) {
-  Insert(ReadLeadingNumber(Narrow(value)));
+ScientificRequest ScientificModel::TakeVariable(std::u16string_view value) {
+  return Insert(ReadLeadingNumber(Narrow(value)));
 }
 
-void ScientificModel::TakeConstant(std::u16string_view value) {
-  if (modes_.baseMode == BaseMode::Decimal) return line_.InsertText(value);
-  Insert(ReadLeadingNumber(Narrow(value)));
+ScientificRequest ScientificModel::TakeConstant(std::u16string_view value) {
+  if (modes_.baseMode != BaseMode::Decimal) return Insert(ReadLeadingNumber(Narrow(value)));
+  line_.InsertText(value);
+  return Nothing{};
 }
 
-void ScientificModel::Insert(double value) {
+ScientificRequest ScientificModel::Insert(double value) {
+  if (!std::isfinite(value)) return TellStop{std::u16string(kRecalledIsTooLarge)};
   line_.InsertText(InsertedNumber(value, format_, modes_.baseMode));
+  return Nothing{};
 }
 
 void ScientificModel::TakeDisplaySettings() {

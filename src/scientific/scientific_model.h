@@ -22,7 +22,7 @@
 namespace kav {
 
 using ScientificRequest =
-    std::variant<Nothing, ShowMenu<Key>, OpenMacroEditor, OpenMacroList, OpenConverter,
+    std::variant<Nothing, ShowMenu<Key>, OpenMacroEditor, OpenMacroList, OpenConverter, TellStop,
                  StoreMemoryVariable, RecallMemoryVariable, OpenConstants>;
 
 /// Holds the whole state of the screen. The store must outlive it.
@@ -53,15 +53,15 @@ class ScientificModel {
   /// An id that the menu of `key` does not offer does nothing.
   ScientificRequest Choose(Key key, int id);
 
-  // What dialogs bring back.
+  // What dialogs bring back. A number beyond the range of double is told, and not inserted.
   /// Replaces the selection by the result, if there is one; keeps the positions and the register M.
   void TakeConverter(const ConverterOutcome& outcome);
   /// Writes the call of macro `index` around the selection; nothing if there is no such macro.
   void TakeMacro(int index);
   /// Inserts the text of a recalled memory variable.
-  void TakeVariable(std::u16string_view value);
+  ScientificRequest TakeVariable(std::u16string_view value);
   /// Inserts the text of a constant.
-  void TakeConstant(std::u16string_view value);
+  ScientificRequest TakeConstant(std::u16string_view value);
   /// Reads the display settings again after their dialog changed them.
   void TakeDisplaySettings();
 
@@ -78,7 +78,7 @@ class ScientificModel {
   void Answer(double value);
   void Fail(const LineFailure& failure);
   void ShowAnswer();
-  void Insert(double value);
+  ScientificRequest Insert(double value);
   void ChooseHistory(int id);
   void ChooseBase(int id);
   ScientificRequest ChooseMemory(int id);

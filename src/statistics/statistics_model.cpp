@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 #include "common/number_text.h"
+#include "line/line_texts.h"
 #include "line/shown_number.h"
 #include "settings/keys.h"
 #include "statistics/data_file.h"
@@ -246,7 +248,9 @@ StatisticsRequest StatisticsModel::Choose(StatisticsKey key, int id) {
 }
 
 StatisticsRequest StatisticsModel::TakeVariable(std::u16string_view value) {
-  fields_.*TextOf(focused_) = PlainText(ReadLeadingNumber(Narrow(value)), format_);
+  const double number = ReadLeadingNumber(Narrow(value));
+  if (!std::isfinite(number)) return TellStop{std::u16string(kRecalledIsTooLarge)};
+  fields_.*TextOf(focused_) = PlainText(number, format_);
   return FocusField{focused_};
 }
 

@@ -129,6 +129,8 @@ TEST_F(MatrixScreen, ConstantsAndVariablesAreAskedForAndInserted) {
   SetMarked(u"2*[3]");
   model_->TakeVariable(u"1234567.50");
   EXPECT_EQ(MarkedNow(), u"2*1234567.5|");
+  EXPECT_TRUE(std::holds_alternative<TellStop>(model_->TakeVariable(u"1e999")));
+  EXPECT_EQ(MarkedNow(), u"2*1234567.5|");
 }
 
 ConverterInput InputOf(const MatrixRequest& request) {

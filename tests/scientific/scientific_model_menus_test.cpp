@@ -141,14 +141,6 @@ TEST_F(Screen, MemoryIsNotKeptBetweenRuns) {
   EXPECT_EQ(Result(), u"0");
 }
 
-TEST_F(Screen, MemoryThatOverflowedIsRecalledAsTheMessage) {
-  Evaluate(u"1e308");
-  for (int i = 0; i < 2; ++i) model_->Choose(Key::MemoryMenu, 9);
-  SetMarked(u"|");
-  model_->Choose(Key::MemoryMenu, 7);
-  EXPECT_EQ(MarkedNow(), u"Out of range(overflow or underflow)|");
-}
-
 TEST_F(Screen, MemoryMenuOffersNothingOfTheAnswerAfterAFailure) {
   EXPECT_EQ(model_->MenuOf(Key::MemoryMenu).size(), 9U);
   Evaluate(u"5");
@@ -205,6 +197,25 @@ TEST_F(Screen, RecalledVariableIsWrittenInTheBase) {
   SetMarked(u"|");
   model_->TakeVariable(u"255.9");
   EXPECT_EQ(MarkedNow(), u"FF|");
+}
+
+TEST_F(Screen, WhatIsBeyondTheRangeOfDoubleIsToldAndNotRecalled) {
+  const std::u16string told =
+      u"The recalled number is beyond 1.79e308 in size, the largest that can be calculated with. "
+      u"Nothing was inserted.";
+  const auto expectTold = [&](const ScientificRequest& request) {
+    ASSERT_TRUE(std::holds_alternative<TellStop>(request));
+    EXPECT_EQ(std::get<TellStop>(request).text, told);
+    EXPECT_EQ(MarkedNow(), u"1+[2]");
+  };
+  Evaluate(u"9*10^307");
+  for (int i = 0; i < 2; ++i) model_->Choose(Key::MemoryMenu, 9);
+  SetMarked(u"1+[2]");
+  expectTold(model_->Choose(Key::MemoryMenu, 7));
+  expectTold(model_->TakeVariable(u"-1e999"));
+  model_->Choose(Key::Dec, kHexadecimalItem);
+  expectTold(model_->TakeConstant(u"1e999"));
+  EXPECT_TRUE(std::holds_alternative<Nothing>(model_->TakeVariable(u"255")));
 }
 
 TEST_F(Screen, ConstantIsInsertedAsItStandsInDecimalOnly) {

@@ -157,6 +157,8 @@ TEST_F(OneVariableScreen, RecalledValueReplacesTheFieldThatHadTheFocus) {
   ASSERT_TRUE(std::holds_alternative<FocusField>(request));
   EXPECT_EQ(std::get<FocusField>(request).field, DataField::X);
   EXPECT_EQ(model_->Fields(), (TypedRow{u"1234567.5", u"", u"7"}));
+  EXPECT_TRUE(std::holds_alternative<TellStop>(model_->TakeVariable(u"1e999")));
+  EXPECT_EQ(model_->Fields(), (TypedRow{u"1234567.5", u"", u"7"}));
 }
 
 TEST_F(OneVariableScreen, ValueCanBeRecalledIntoTheCount) {

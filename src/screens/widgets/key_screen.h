@@ -118,12 +118,12 @@ class KeyScreenOf : public Base {
     this->Refresh();
   }
   void Do(const RecallMemoryVariable&) {
-    if (const auto value = this->RecallVariable()) model_.TakeVariable(*value);
-    this->Refresh();
+    const auto value = this->RecallVariable();
+    Follow(value ? model_.TakeVariable(*value) : Request(Nothing{}));
   }
   void Do(const OpenConstants&) {
-    if (const auto value = this->Dialogs().constants(this)) model_.TakeConstant(*value);
-    this->Refresh();
+    const auto value = this->Dialogs().constants(this);
+    Follow(value ? model_.TakeConstant(*value) : Request(Nothing{}));
   }
 
  private:
