@@ -92,6 +92,7 @@ std::optional<std::string> KeySequence::CarryOut(const ScientificRequest& reques
                                                  std::string_view name) {
   if (std::holds_alternative<Nothing>(request)) return std::nullopt;
   if (const auto* editor = std::get_if<OpenMacroEditor>(&request)) return Narrow(editor->message);
+  if (const auto* refusal = std::get_if<TellStop>(&request)) return Narrow(refusal->text);
   if (const auto* menu = std::get_if<ShowMenu<Key>>(&request)) {
     menu_ = menu->key;
     return std::nullopt;
