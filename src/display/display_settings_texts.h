@@ -11,6 +11,7 @@ namespace kav {
 
 inline constexpr std::u16string_view kDisplaySettingsTitle = u"Display Settings";
 
+inline constexpr std::u16string_view kPagesName = u"Pages";
 inline constexpr std::u16string_view kNormalPage = u"Normal";
 inline constexpr std::u16string_view kMatrixPage = u"Matrix";
 inline constexpr std::u16string_view kNormalGroup = u"Normal Display Formatting";

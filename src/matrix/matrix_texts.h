@@ -85,5 +85,6 @@ inline constexpr std::u16string_view kColumnsName = u"Columns";
 
 // What screen readers call the grid, which has no caption.
 inline constexpr std::u16string_view kMatrixGridName = u"Cells";
+inline constexpr std::u16string_view kMatrixTabsName = u"Matrices";
 
 }  // namespace kav

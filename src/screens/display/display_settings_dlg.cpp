@@ -86,6 +86,7 @@ QWidget* CDisplaySettingsDlg::NewGroup() {
 }
 
 QLayout* CDisplaySettingsDlg::NewBottomRow() {
+  pages_->setAccessibleName(ToQt(kPagesName));
   pages_->setShape(QTabBar::RoundedSouth);
   pages_->setExpanding(false);
   // Both tabs must be visible. Without scroll arrows, they get the room for that.

@@ -58,6 +58,7 @@ void CMacroEditorDlg::OnVariables() {
 void CMacroEditorDlg::PopUp(EditorButton under, const PopUpTexts& items,
                             void (MacroEditorModel::*choose)(std::size_t)) {
   QMenu* menu = MakePopUp();
+  menu->setAccessibleName(ButtonOf(under).text());
   for (std::size_t i = 0; i < items.size(); ++i) {
     if (items[i].empty()) {
       menu->addSeparator();

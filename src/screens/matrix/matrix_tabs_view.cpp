@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "matrix/matrix_texts.h"
 #include "matrix/matrix_value.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
@@ -18,6 +19,7 @@ constexpr int kMargins = 4;
 
 MatrixTabs::MatrixTabs(QWidget* parent) : QTabBar(parent) {
   setStyle(ScreenStyle());
+  setAccessibleName(ToQt(kMatrixTabsName));
   setExpanding(true);
   setUsesScrollButtons(false);
   for (const auto name : kMatrixNames) addTab(ToQt(name));

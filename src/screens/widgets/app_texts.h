@@ -43,6 +43,10 @@ inline constexpr std::u16string_view kSelectAllEntry = u"Select &All";
 
 inline constexpr std::u16string_view kModeMenu = u"&Mode";
 
+// As screen readers call what has no caption.
+inline constexpr std::u16string_view kMenuBarName = u"Menus";
+inline constexpr std::u16string_view kKeysName = u"Keys";
+
 // Told on the standard error output of the program that was started.
 inline constexpr std::string_view kTakesNoArguments =
     "kav-calculator takes no arguments; kavcalc is the calculator for the command line\n";

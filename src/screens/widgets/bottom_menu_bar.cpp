@@ -1,15 +1,20 @@
 #include "screens/widgets/bottom_menu_bar.h"
 
+#include <QActionEvent>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
 
+#include "screens/widgets/app_texts.h"
 #include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
 
 namespace kav {
 BottomMenuBar::BottomMenuBar(QWidget* parent) : QMenuBar(parent) {
   setNativeMenuBar(false);  // the desktop's own would not stand at the bottom
   setStyle(ScreenStyle());
+  setAccessibleName(ToQt(kMenuBarName));
 }
 
 void BottomMenuBar::Enter() {
@@ -18,6 +23,13 @@ void BottomMenuBar::Enter() {
   QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::AltModifier);
   QCoreApplication::sendEvent(window(), &press);
   QCoreApplication::sendEvent(window(), &release);
+}
+
+void BottomMenuBar::actionEvent(QActionEvent* event) {
+  QMenuBar::actionEvent(event);
+  QMenu* menu = event->action()->menu();
+  if (event->type() != QEvent::ActionAdded || menu == nullptr) return;
+  menu->setAccessibleName(menu->title().remove(u'&'));
 }
 
 void BottomMenuBar::keyPressEvent(QKeyEvent* event) {

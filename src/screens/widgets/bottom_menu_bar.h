@@ -15,6 +15,7 @@ class BottomMenuBar final : public QMenuBar {
   void Enter();
 
  private:
+  void actionEvent(QActionEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 };

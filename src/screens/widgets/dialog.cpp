@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "common/number_text.h"
+#include "screens/widgets/access_view.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
 
@@ -29,6 +30,7 @@ void SetMargins(QLayout* layout, int pixels) {
 }  // namespace
 
 Dialog::Dialog(QWidget* parent, std::u16string_view title) : QDialog(parent) {
+  OfferWidgetsToScreenReaders();
   setWindowTitle(ToQt(title));
   setPalette(ScreenPalette());
   setMinimumSize(kSmallestWindow);

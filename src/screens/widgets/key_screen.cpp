@@ -26,6 +26,7 @@ void KeyScreen::AddKeys(std::vector<KeySpot> keys) {
 
 void KeyScreen::PopUp(const Menu& items, int key, const std::function<void(int)>& choose) {
   QMenu* menu = MakePopUp();
+  menu->setAccessibleName(keys_->KeyCaption(key));
   for (const MenuItem& item : items) {
     if (item.IsSeparator()) {
       menu->addSeparator();

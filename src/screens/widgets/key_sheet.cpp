@@ -8,6 +8,7 @@
 #include <limits>
 #include <utility>
 
+#include "screens/widgets/app_texts.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -36,6 +37,7 @@ QPoint DirectionOf(int key) {
 KeySheet::KeySheet(QWidget* parent, std::vector<KeySpot> spots,
                    const std::function<void(int)>& onKey)
     : QWidget(parent) {
+  setAccessibleName(ToQt(kKeysName));
   for (KeySpot& spot : spots) {
     const int id = spot.id;
     auto* view = new KeyView(std::move(spot), this);
@@ -84,9 +86,16 @@ void KeySheet::Enter() {
 }
 
 QRect KeySheet::KeyArea(int id) const {
-  const auto view = std::find_if(keys_.begin(), keys_.end(),
-                                 [id](const KeyView* v) { return v->Spot().id == id; });
-  return (*view)->geometry();
+  return KeyOf(id).geometry();
+}
+
+QString KeySheet::KeyCaption(int id) const {
+  return KeyOf(id).text();
+}
+
+const KeyView& KeySheet::KeyOf(int id) const {
+  return **std::find_if(keys_.begin(), keys_.end(),
+                        [id](const KeyView* v) { return v->Spot().id == id; });
 }
 
 void KeySheet::keyPressEvent(QKeyEvent* event) {

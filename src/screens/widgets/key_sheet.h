@@ -1,6 +1,7 @@
 // The keys of a screen as widgets.
 #pragma once
 
+#include <QString>
 #include <QWidget>
 #include <functional>
 #include <string_view>
@@ -37,11 +38,15 @@ class KeySheet final : public QWidget {
   /// Where a key is, in the coordinates of this widget.
   QRect KeyArea(int id) const;
 
+  /// What a key shows at the moment.
+  QString KeyCaption(int id) const;
+
   /// The text height that all keys share, in pixels.
   int TextHeight() const { return textHeight_; }
 
  private:
   void keyPressEvent(QKeyEvent* event) override;
+  const KeyView& KeyOf(int id) const;
   KeyView* Neighbour(const KeyView& from, QPoint direction) const;
 
   std::vector<KeyView*> keys_;

@@ -7,6 +7,7 @@
 #include <array>
 #include <utility>
 
+#include "screens/widgets/access_view.h"
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/bottom_menu_bar.h"
 #include "screens/widgets/message_box.h"
@@ -80,6 +81,7 @@ bool CanEditLine(const QLineEdit& line, EditCommand command) {
 
 Screen::Screen(Frame& frame, QSize size)
     : frame_(frame), size_(size), menuBar_(new BottomMenuBar(this)) {
+  OfferWidgetsToScreenReaders();
   setWindowTitle(ToQt(kApplicationName));
   setPalette(ScreenPalette());
   setMinimumSize(kSmallestWindow);

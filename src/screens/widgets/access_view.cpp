@@ -1,0 +1,105 @@
+#include "screens/widgets/access_view.h"
+
+#include <QAccessibleWidget>
+#include <QComboBox>
+#include <QLabel>
+#include <QTabBar>
+
+#include "screens/widgets/choice_access_view.h"
+#include "screens/widgets/shown_text_access_view.h"
+#include "screens/widgets/tabs_access_view.h"
+
+namespace kav {
+namespace {
+
+using Relations = QList<QPair<QAccessibleInterface*, QAccessible::Relation>>;
+
+/// A label. The toolkit's own does not tell its text if it has a name.
+class LabelAccess final : public QAccessibleWidget {
+ public:
+  explicit LabelAccess(QLabel& label)
+      : QAccessibleWidget(&label, QAccessible::StaticText), shown_([this] { return Shown(); }) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::TextInterface && !IsPicture()) {
+      return static_cast<QAccessibleTextInterface*>(&shown_);
+    }
+    return QAccessibleWidget::interface_cast(type);
+  }
+  QAccessible::Role role() const override {
+    return IsPicture() ? QAccessible::Graphic : QAccessible::StaticText;
+  }
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.readOnly = true;
+    return state;
+  }
+  QString text(QAccessible::Text kind) const override {
+    const QString own = QAccessibleWidget::text(kind);
+    const bool isText = kind == QAccessible::Value || (kind == QAccessible::Name && own.isEmpty());
+    return isText ? Shown() : own;
+  }
+  Relations relations(QAccessible::Relation match) const override {
+    Relations all = QAccessibleWidget::relations(match);
+    QWidget* buddy = Label() != nullptr ? Label()->buddy() : nullptr;
+    if (buddy != nullptr && (match & QAccessible::Labelled) != 0) {
+      all.emplace_back(QAccessible::queryAccessibleInterface(buddy), QAccessible::Labelled);
+    }
+    return all;
+  }
+
+ private:
+  QLabel* Label() const { return qobject_cast<QLabel*>(object()); }
+  bool IsPicture() const {
+    return Label() != nullptr && !Label()->pixmap(Qt::ReturnByValue).isNull();
+  }
+  QString Shown() const {
+    if (Label() == nullptr) return {};
+    QString text = Label()->text();
+    if (Label()->buddy() != nullptr) text.remove(u'&');
+    return text;
+  }
+
+  ShownTextAccess shown_;
+};
+
+/// A plain widget: a window, or a part of one.
+class WindowAccess final : public QAccessibleWidget {
+ public:
+  using QAccessibleWidget::QAccessibleWidget;
+
+  QAccessible::Role role() const override {
+    return widget()->isWindow() ? QAccessible::Window : QAccessibleWidget::role();
+  }
+};
+
+QAccessibleInterface* MakeWidgetAccess(const QString& kind, QObject* object) {
+  if (kind == QLatin1String("QComboBox")) {
+    auto* box = qobject_cast<QComboBox*>(object);
+    return box != nullptr && !box->isEditable() ? MakeChoiceAccess(*box) : nullptr;
+  }
+  if (kind == QLatin1String("QTabBar")) {
+    auto* tabs = qobject_cast<QTabBar*>(object);
+    return tabs != nullptr ? MakeTabsAccess(*tabs) : nullptr;
+  }
+  if (kind == QLatin1String("QLabel")) {
+    auto* label = qobject_cast<QLabel*>(object);
+    return label != nullptr ? new LabelAccess(*label) : nullptr;
+  }
+  if (kind == QLatin1String("QWidget") && object->metaObject() == &QWidget::staticMetaObject) {
+    return new WindowAccess(static_cast<QWidget*>(object));
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void OfferWidgetsToScreenReaders() {
+  static const bool kIsOffered = [] {
+    QAccessible::installFactory(MakeWidgetAccess);
+    return true;
+  }();
+  (void)kIsOffered;
+}
+
+}  // namespace kav
