@@ -35,9 +35,10 @@ class LabelAccess final : public QAccessibleWidget {
     return state;
   }
   QString text(QAccessible::Text kind) const override {
-    const QString own = QAccessibleWidget::text(kind);
-    const bool isText = kind == QAccessible::Value || (kind == QAccessible::Name && own.isEmpty());
-    return isText ? Shown() : own;
+    // Without a name of its own it is called by its text, not by the box that it stands in.
+    const bool isText = kind == QAccessible::Value ||
+                        (kind == QAccessible::Name && widget()->accessibleName().isEmpty());
+    return isText ? Shown() : QAccessibleWidget::text(kind);
   }
   Relations relations(QAccessible::Relation match) const override {
     Relations all = QAccessibleWidget::relations(match);
