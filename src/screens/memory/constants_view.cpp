@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "memory/memory_texts.h"
+#include "screens/widgets/access_view.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/qt_text.h"
 
@@ -110,6 +111,7 @@ ConstantsView::ConstantsView(ConstantsModel& model, std::function<void()> onSele
   header()->setMinimumSectionSize(1);
   connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &ConstantsView::OnSelection);
+  LetKeyboardFollow(*this);
 }
 
 void ConstantsView::Reload() {

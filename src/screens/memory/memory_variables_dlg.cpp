@@ -9,6 +9,7 @@
 
 #include "memory/memory_texts.h"
 #include "memory/memory_variables_model.h"
+#include "screens/widgets/access_view.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
 #include "screens/widgets/message_box.h"
@@ -73,6 +74,7 @@ CMemoryVariablesDlg::CMemoryVariablesDlg(QWidget* parent, VariablesMode mode, Se
       model_(std::move(mode), store),
       action_(new DialogButton(model_.ActionCaption())) {
   list_->setAccessibleName(ToQt(kVariableListName));
+  LetKeyboardFollow(*list_);
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   for (int i = 0; i < MemoryVariables::kCount; ++i) list_->addItem(QString());
   LayOut();

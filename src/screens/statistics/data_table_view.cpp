@@ -11,6 +11,7 @@
 #include <numeric>
 #include <utility>
 
+#include "screens/widgets/access_view.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
 #include "statistics/statistics_texts.h"
@@ -122,6 +123,7 @@ void DataTableView::setModel(QAbstractItemModel* model) {
   // A header that shared the selection of the rows would look at all of them whenever it is
   // painted.
   horizontalHeader()->setSelectionModel(new QItemSelectionModel(model, this));
+  LetKeyboardFollow(*this);
 }
 
 void DataTableView::Reload() {

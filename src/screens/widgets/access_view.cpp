@@ -1,5 +1,6 @@
 #include "screens/widgets/access_view.h"
 
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QComboBox>
 #include <QLabel>
@@ -101,6 +102,19 @@ void OfferWidgetsToScreenReaders() {
     return true;
   }();
   (void)kIsOffered;
+}
+
+void LetKeyboardFollow(QAbstractItemView& view) {
+  const auto follow = [&view] {
+    QItemSelectionModel& rows = *view.selectionModel();
+    const QItemSelection selected = rows.selection();
+    if (selected.size() != 1 || selected.front().height() != 1) return;
+    const QModelIndex row = selected.front().topLeft();
+    if (row.row() == rows.currentIndex().row()) return;
+    rows.setCurrentIndex(row, QItemSelectionModel::NoUpdate);
+    view.scrollTo(row);
+  };
+  QObject::connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, &view, follow);
 }
 
 }  // namespace kav

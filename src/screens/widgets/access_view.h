@@ -1,6 +1,8 @@
 // The toolkit's widgets as screen readers find them.
 #pragma once
 
+class QAbstractItemView;
+
 namespace kav {
 
 /// Every widget that is made from here on is called the same whatever it shows, and what it shows
@@ -8,5 +10,9 @@ namespace kav {
 /// besides. Windows say that they are windows. To be called before a window is filled: a screen
 /// reader that listens asks for widgets while they are being made. Further calls do nothing.
 void OfferWidgetsToScreenReaders();
+
+/// The keyboard goes on from the row that a screen reader selects in `view`, which is scrolled
+/// there: the toolkit selects the row alone. To be called when the view has its model.
+void LetKeyboardFollow(QAbstractItemView& view);
 
 }  // namespace kav

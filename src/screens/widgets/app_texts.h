@@ -46,6 +46,10 @@ inline constexpr std::u16string_view kModeMenu = u"&Mode";
 // As screen readers call what has no caption.
 inline constexpr std::u16string_view kMenuBarName = u"Menus";
 inline constexpr std::u16string_view kKeysName = u"Keys";
+inline constexpr std::u16string_view kStopSign = u"Error";
+inline constexpr std::u16string_view kWarningSign = u"Warning";
+inline constexpr std::u16string_view kQuestionSign = u"Question";
+inline constexpr std::u16string_view kInformationSign = u"Information";
 
 // Told on the standard error output of the program that was started.
 inline constexpr std::string_view kTakesNoArguments =

@@ -4,6 +4,7 @@
 #include <QStyledItemDelegate>
 #include <cstddef>
 
+#include "screens/widgets/access_view.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/qt_text.h"
 
@@ -28,6 +29,7 @@ LabelList::LabelList(std::u16string_view name) {
   setItemDelegate(new FittingDelegate(this));
   setTextElideMode(Qt::ElideMiddle);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  LetKeyboardFollow(*this);
 }
 
 std::optional<int> LabelList::Selected() const {

@@ -26,6 +26,13 @@ constexpr int kBesideText = 8;
 /// Letters are made smaller by this part of their height, until they are small enough.
 constexpr int kSteps = 16;
 
+/// What the sign beside a text says.
+std::u16string_view NameOfSign(QMessageBox::Icon icon) {
+  if (icon == QMessageBox::Critical) return kStopSign;
+  if (icon == QMessageBox::Warning) return kWarningSign;
+  return icon == QMessageBox::Question ? kQuestionSign : kInformationSign;
+}
+
 /// A box with letters as large as those of the screen that it speaks for. By itself a message box
 /// breaks its text at a width that knows nothing of their size.
 class ScaledBox final : public QMessageBox {
@@ -43,6 +50,8 @@ class ScaledBox final : public QMessageBox {
     setStyle(ScreenStyle());
     for (QWidget* widget : findChildren<QWidget*>()) widget->setStyle(ScreenStyle());
     setIcon(icon);  // drawn anew, at the size that the style has by now
+    auto* sign = findChild<QLabel*>("qt_msgboxex_icon_label");
+    if (sign != nullptr) sign->setAccessibleName(ToQt(NameOfSign(icon)));
   }
 
   const QAbstractButton* AddAnswer(const QString& caption) {
