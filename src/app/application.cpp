@@ -11,6 +11,7 @@
 #include "app/session.h"
 #include "app/single_instance.h"
 #include "screens/widgets/app_texts.h"
+#include "settings/file_descriptor.h"
 #include "store/settings_path.h"
 
 namespace kav {
@@ -40,6 +41,7 @@ int RefuseArguments() {
 
 int RunApplication(int argc, char** argv) {
   if (argc > 1 && IsMistake(argv[1])) return RefuseArguments();
+  SurviveSizeLimit();
   SingleInstance instance =
       SingleInstance::Claim(OpenMeetingFolder(Environment("XDG_RUNTIME_DIR"), "/tmp"), kPatience);
   if (instance.Result() == SingleInstance::Outcome::Called) return 0;

@@ -9,6 +9,7 @@
 
 int main(int argc, char** argv) {
   kav::ReserveStandardFiles();
+  kav::SurviveSizeLimit();
   const auto line = kav::ReadCommandLine({argv + (argc > 0 ? 1 : 0), argv + argc}, kav::Commands());
   if (line) return line->command->run(*line);
   const kav::EarlyEnd& end = line.error();

@@ -1,6 +1,7 @@
 #include "memory/constants_table.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <optional>

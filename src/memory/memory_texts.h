@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "common/number_text.h"
+#include "common/visible_text.h"
 
 namespace kav {
 
@@ -41,11 +41,11 @@ inline std::u16string ShownOfAll(std::u16string_view shown, std::u16string_view 
 inline constexpr std::u16string_view kNoConstantSelected = u"Please select a constant";
 
 inline std::u16string ConstantsNotFound(std::string_view path) {
-  return Widen(path) + u" file was not found.";
+  return ShownName(path) + u" file was not found.";
 }
 
 inline std::u16string ConstantsAreTooLarge(std::string_view path) {
-  return Widen(path) + u" file is larger than 4 MB: it is no table of constants.";
+  return ShownName(path) + u" file is larger than 4 MB: it is no table of constants.";
 }
 
 }  // namespace kav

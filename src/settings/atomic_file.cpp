@@ -2,6 +2,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -15,28 +16,24 @@
 #include <memory>
 
 #include "settings/file_descriptor.h"
+#include "settings/file_rights.h"
 
 namespace kav {
 namespace {
 
 // The name of a new file is the old name, this mark, and some characters that make it unique.
 constexpr std::string_view kNewMark = ".new-";
-constexpr std::string_view kUniquePart = "XXXXXX";
+constexpr std::size_t kUniqueLength = 6;
 constexpr std::string_view kDamagedMark = ".damaged";
 constexpr int kLongestChainOfLinks = 40;
 constexpr int kMostKeptAside = 10000;
-constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
+
+constexpr int kMostTries = 100;
 
 /// `path` up to and with its last '/'; empty for a name in the working folder.
-std::string FolderOf(std::string_view path) {
+std::string UpToName(std::string_view path) {
   const std::size_t slash = path.rfind('/');
   return std::string(slash == std::string_view::npos ? "" : path.substr(0, slash + 1));
-}
-
-/// The folder as a path that can be opened.
-std::string OpenableFolderOf(std::string_view path) {
-  std::string folder = FolderOf(path);
-  return folder.empty() ? "." : folder;
 }
 
 /// Whether anything has this name, if only a link that leads nowhere.
@@ -45,35 +42,75 @@ bool IsTaken(const std::string& path) {
   return lstat(path.c_str(), &status) == 0;
 }
 
-/// Gives `file` the owner and the permissions of the file that it replaces, if there is one. If
-/// this user may not set another owner, only the permissions of the owner are taken over.
-bool TakeOverRights(const std::string& replaced, const FileDescriptor& file) {
-  struct stat status {};
-  if (stat(replaced.c_str(), &status) != 0) return true;
-  const bool ownerKept = fchown(file.Number(), status.st_uid, status.st_gid) == 0;
-  const mode_t mode = status.st_mode & (ownerKept ? kPermissions : static_cast<mode_t>(S_IRWXU));
-  return fchmod(file.Number(), mode) == 0;
-}
-
 /// Whether the file `path` is read-only: renaming another file to its name would ignore that.
 bool IsWriteProtected(const std::string& path) {
   return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0 && errno != ENOENT;
 }
 
+std::string UniquePart() {
+  constexpr std::string_view kCharacters =
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_";
+  std::array<unsigned char, kUniqueLength> random{};
+  // Without random numbers all bytes are 0: then the first free name is the only one to be had.
+  static_cast<void>(getrandom(random.data(), random.size(), 0));
+  std::string part;
+  for (const unsigned char byte : random) part += kCharacters[byte % kCharacters.size()];
+  return part;
+}
+
+/// A new file, open for writing, and its path.
+struct NewFile {
+  std::string path;
+  FileDescriptor file;
+};
+
+/// Makes a file beside `path` with a name of its own. On failure it is not open, and errno tells
+/// why.
+NewFile MakeNewFile(const std::string& path, mode_t mode) {
+  constexpr int kHow = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+  NewFile made{{}, FileDescriptor(-1)};
+  for (int i = 0; i < kMostTries && !made.file.IsOpen(); ++i) {
+    made.path = path + std::string(kNewMark) + UniquePart();
+    made.file = FileDescriptor(open(made.path.c_str(), kHow, mode));  // NOLINT: the system's
+    if (!made.file.IsOpen() && errno != EEXIST) break;
+  }
+  return made;
+}
+
+/// Whether what was written is on the disk. What a file system cannot flush on demand, it writes
+/// when it likes.
+bool IsFlushed(const FileDescriptor& file) {
+  return fsync(file.Number()) == 0 || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+}
+
 /// Flushes a rename in `path`'s folder to the disk. Without effect if folders cannot be flushed.
 void FlushFolderOf(const std::string& path) {
-  const FileDescriptor folder(
-      open(OpenableFolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const FileDescriptor folder(open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (folder.IsOpen()) fsync(folder.Number());
 }
 
+/// The first name for what is kept aside of `path` that nothing has.
+std::optional<std::string> FreeNameAside(const std::string& path) {
+  const std::string aside = path + std::string(kDamagedMark);
+  for (int number = 1; number < kMostKeptAside; ++number) {
+    std::string name = number == 1 ? aside : aside + '-' + std::to_string(number);
+    if (!IsTaken(name)) return name;
+  }
+  return std::nullopt;
+}
+
 bool IsLeftoverOf(std::string_view fileName, std::string_view entry) {
-  if (entry.size() != fileName.size() + kNewMark.size() + kUniquePart.size()) return false;
+  if (entry.size() != fileName.size() + kNewMark.size() + kUniqueLength) return false;
   return entry.substr(0, fileName.size()) == fileName &&
          entry.substr(fileName.size(), kNewMark.size()) == kNewMark;
 }
 
 }  // namespace
+
+std::string FolderOf(std::string_view path) {
+  std::string folder = UpToName(path);
+  return folder.empty() ? "." : folder;
+}
 
 std::string FollowLinks(std::string path) {
   std::array<char, PATH_MAX> target{};
@@ -81,7 +118,7 @@ std::string FollowLinks(std::string path) {
     const ssize_t length = readlink(path.c_str(), target.data(), target.size());
     if (length <= 0) return path;
     const std::string_view next(target.data(), static_cast<std::size_t>(length));
-    path = next.front() == '/' ? std::string(next) : FolderOf(path).append(next);
+    path = next.front() == '/' ? std::string(next) : UpToName(path).append(next);
   }
   return path;
 }
@@ -108,22 +145,32 @@ Expected<std::string, FileError> ReadWholeFile(const std::string& path, std::siz
 }
 
 void MakeFoldersFor(const std::string& path) {
-  if (access(OpenableFolderOf(path).c_str(), F_OK) == 0) return;
+  if (access(FolderOf(path).c_str(), F_OK) == 0) return;
   for (std::size_t i = path.find('/', 1); i != std::string::npos; i = path.find('/', i + 1)) {
-    mkdir(path.substr(0, i).c_str(), S_IRWXU);
+    const std::string folder = path.substr(0, i);
+    if (mkdir(folder.c_str(), S_IRWXU) != 0) continue;
+    const FileDescriptor made(
+        open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    GiveToOwnerOf(FolderOf(folder), made);
   }
 }
 
-std::optional<FileError> ReplaceFile(const std::string& path, std::string_view content) {
+std::optional<FileError> ReplaceFile(const std::string& path, std::string_view content,
+                                     NewFileOwner owner) {
   if (IsWriteProtected(path)) return FileErrorFromErrno(errno);
-  std::string newPath = path;
-  newPath.append(kNewMark).append(kUniquePart);
-  const FileDescriptor file(mkostemp(newPath.data(), O_CLOEXEC));
-  if (!file.IsOpen()) return FileErrorFromErrno(errno);
-  if (!TakeOverRights(path, file) || WriteAll(file.Number(), content) != 0 ||
-      fsync(file.Number()) != 0 || rename(newPath.c_str(), path.c_str()) != 0) {
+  const bool isReplacing = IsTaken(path);
+  // While the rights of the old file are not taken over yet, nobody else may open the new one.
+  const NewFile made = MakeNewFile(path, isReplacing ? kOwnerOnly : kAsTheMaskGives);
+  if (!made.file.IsOpen()) return FileErrorFromErrno(errno);
+  if (isReplacing) {
+    TakeOverRights(path, made.file);
+  } else if (owner == NewFileOwner::OwnerOfFolder) {
+    GiveToOwnerOf(FolderOf(path), made.file);
+  }
+  if (WriteAll(made.file.Number(), content) != 0 || !IsFlushed(made.file) ||
+      rename(made.path.c_str(), path.c_str()) != 0) {
     const FileError error = FileErrorFromErrno(errno);
-    unlink(newPath.c_str());
+    unlink(made.path.c_str());
     return error;
   }
   FlushFolderOf(path);
@@ -137,10 +184,9 @@ std::optional<FileError> SaveFile(const std::string& path, std::string_view cont
 }
 
 void RemoveLeftovers(const std::string& path) {
-  const std::string folder = FolderOf(path);
+  const std::string folder = UpToName(path);
   const std::string_view fileName = std::string_view(path).substr(folder.size());
-  const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(OpenableFolderOf(path).c_str()),
-                                                    &closedir);
+  const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(FolderOf(path).c_str()), &closedir);
   if (!entries) return;
   while (const dirent* entry = readdir(entries.get())) {
     const std::string_view name = static_cast<const char*>(entry->d_name);
@@ -149,14 +195,24 @@ void RemoveLeftovers(const std::string& path) {
 }
 
 std::optional<FileError> KeepAside(const std::string& path) {
-  const std::string aside = path + std::string(kDamagedMark);
-  for (int number = 1; number < kMostKeptAside; ++number) {
-    const std::string name = number == 1 ? aside : aside + '-' + std::to_string(number);
-    if (IsTaken(name)) continue;
-    if (rename(path.c_str(), name.c_str()) == 0) return std::nullopt;
-    return FileErrorFromErrno(errno);
+  const auto name = FreeNameAside(path);
+  if (!name) return FileError::Full;
+  if (rename(path.c_str(), name->c_str()) != 0) return FileErrorFromErrno(errno);
+  return std::nullopt;
+}
+
+std::optional<FileError> ReplaceDamaged(const std::string& path, std::string_view content,
+                                        NewFileOwner owner) {
+  const auto name = FreeNameAside(path);
+  if (!name) return FileError::Full;
+  const bool hasBothNames = link(path.c_str(), name->c_str()) == 0;
+  if (!hasBothNames) {
+    // A disk without hard links.
+    if (const auto error = KeepAside(path)) return error;
   }
-  return FileError::Full;
+  const auto error = ReplaceFile(path, content, owner);
+  if (error && hasBothNames) unlink(name->c_str());
+  return error;
 }
 
 }  // namespace kav

@@ -3,6 +3,7 @@
 #include <poll.h>
 
 #include <cerrno>
+#include <csignal>
 
 namespace kav {
 namespace {
@@ -21,6 +22,10 @@ bool ShouldRetry(int error, int descriptor, short event) {
 }
 
 }  // namespace
+
+void SurviveSizeLimit() {
+  static_cast<void>(signal(SIGXFSZ, SIG_IGN));
+}
 
 int WriteAll(int descriptor, std::string_view text) {
   while (!text.empty()) {

@@ -35,6 +35,10 @@ class FileDescriptor {
   int descriptor_;
 };
 
+/// Lets a write beyond the limit on the size of files fail like one to a full disk. Without this, a
+/// signal ends the program there and then. To be called once, when the program starts.
+void SurviveSizeLimit();
+
 /// Writes all of `text`, waiting if the other side is slow. Answers 0 or the system's error.
 int WriteAll(int descriptor, std::string_view text);
 

@@ -9,9 +9,11 @@ FileError FileErrorFromErrno(int error) {
     case ENOENT:
       return FileError::NotThere;
     case ENOTDIR:
-    case ELOOP:
-    case ENAMETOOLONG:
       return FileError::BadPath;
+    case ELOOP:
+      return FileError::LinkLoop;
+    case ENAMETOOLONG:
+      return FileError::NameTooLong;
     case EISDIR:
     case ENXIO:
       return FileError::NotAFile;
@@ -22,8 +24,14 @@ FileError FileErrorFromErrno(int error) {
       return FileError::ReadOnly;
     case ENOSPC:
     case EDQUOT:
-    case EFBIG:
       return FileError::Full;
+    case EFBIG:
+      return FileError::SizeLimit;
+    case EMFILE:
+    case ENFILE:
+      return FileError::TooManyOpen;
+    case ENOMEM:
+      return FileError::NoMemory;
     default:
       return FileError::Device;
   }

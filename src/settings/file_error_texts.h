@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "common/visible_text.h"
 #include "settings/file_error.h"
 
 namespace kav {
@@ -16,6 +17,10 @@ inline std::u16string_view ReasonAndRemedy(FileError error) {
     case FileError::NotThere:
     case FileError::BadPath:
       return u"a folder on the way there is missing and cannot be made; check the path";
+    case FileError::LinkLoop:
+      return u"the links on the way there lead in a circle; check the path";
+    case FileError::NameTooLong:
+      return u"the path, or a name in it, is too long; choose a shorter one";
     case FileError::NotAFile:
       return u"a folder or a device has this name; move it away or choose another file";
     case FileError::TooLarge:
@@ -28,6 +33,12 @@ inline std::u16string_view ReasonAndRemedy(FileError error) {
       return u"the disk is read-only; make it writable or choose another place";
     case FileError::Full:
       return u"the disk is full or its quota is used up; free some space";
+    case FileError::SizeLimit:
+      return u"no file may grow so large here; raise the limit (ulimit -f) or choose another place";
+    case FileError::TooManyOpen:
+      return u"too many files are open; close other programs or raise the limit (ulimit -n)";
+    case FileError::NoMemory:
+      return u"there is not enough memory; close other programs";
     case FileError::Device:
       break;
   }
@@ -45,6 +56,11 @@ inline std::u16string_view ReasonOfReading(FileError error) {
       return u"a folder or a device has this name; choose a file";
     case FileError::NoPermission:
       return u"there is no permission; check who owns the file, and who may read it";
+    case FileError::LinkLoop:
+    case FileError::NameTooLong:
+    case FileError::TooManyOpen:
+    case FileError::NoMemory:
+      return ReasonAndRemedy(error);
     default:
       return kDiskFails;
   }
@@ -53,7 +69,11 @@ inline std::u16string_view ReasonOfReading(FileError error) {
 /// The sentence "`what` `path`: `reason`.", for example with "The data cannot be saved in ".
 inline std::u16string FileFailure(std::u16string_view what, std::u16string_view path,
                                   std::u16string_view reason) {
-  return std::u16string(what).append(path).append(u": ").append(reason).append(u".");
+  return std::u16string(what)
+      .append(WithVisibleControls(path))
+      .append(u": ")
+      .append(reason)
+      .append(u".");
 }
 
 }  // namespace kav

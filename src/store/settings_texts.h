@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "common/number_text.h"
+#include "common/visible_text.h"
 #include "settings/file_error_texts.h"
 
 namespace kav {
@@ -14,23 +15,32 @@ inline constexpr std::u16string_view kNoPlaceForSettings =
     u"folder to keep them in.";
 
 inline std::u16string SettingsAreDamaged(std::string_view path) {
-  return u"The settings in " + Widen(path) +
+  return u"The settings in " + ShownName(path) +
          u" are damaged, so everything starts with its default. Nothing is lost: when settings are "
          u"next saved, the damaged file is kept beside the new one with \".damaged\" after its "
          u"name, to be repaired or deleted.";
 }
 
+inline std::u16string SettingsAreTooLarge(std::string_view path) {
+  return u"The settings in " + ShownName(path) +
+         u" are larger than 4 MB, so everything starts with its default. Nothing is lost: when "
+         u"settings are next saved, the large file is kept beside the new one with \".damaged\" "
+         u"after its name, to be made smaller or deleted.";
+}
+
 inline std::u16string SettingsCannotBeRead(std::string_view path, FileError error) {
-  return u"The settings in " + Widen(path) + u" cannot be read: " +
+  return u"The settings in " + ShownName(path) + u" cannot be read: " +
          std::u16string(ReasonAndRemedy(error)) +
          u". Until then everything starts with its default, and nothing is saved.";
 }
 
 inline std::u16string SettingsCannotBeSaved(std::string_view path, FileError error) {
   if (path.empty()) return std::u16string(kNoPlaceForSettings);
-  return u"The settings cannot be saved in " + Widen(path) + u": " +
-         std::u16string(ReasonAndRemedy(error)) +
-         u". Until then they last as long as the calculator runs.";
+  return FileFailure(u"The settings cannot be saved in ", Widen(path), ReasonAndRemedy(error));
 }
+
+/// Follows SettingsCannotBeSaved in a program that goes on with them.
+inline constexpr std::u16string_view kUntilThenTheyLast =
+    u" Until then they last as long as the calculator runs.";
 
 }  // namespace kav

@@ -1,6 +1,7 @@
 #include "store/user_settings_store.h"
 
 #include <cstddef>
+#include <new>
 #include <utility>
 #include <variant>
 
@@ -13,13 +14,30 @@
 namespace kav {
 namespace {
 
-// Room for a history of lines of a megabyte each; a larger file is no settings file.
-constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
+// A larger file is no settings file: with all lists full, they are some hundred kilobytes, and each
+// save reads and writes all of them.
+constexpr std::size_t kLargestFile = std::size_t{4} << 20U;
 constexpr std::chrono::milliseconds kPatience{2000};
+// Long enough for a process that saves just then, short enough not to be felt.
+constexpr std::chrono::milliseconds kPatienceOfWindow{250};
+
+std::chrono::milliseconds PatienceOf(StoreUser user) {
+  return user == StoreUser::Window ? kPatienceOfWindow : kPatience;
+}
 
 /// A file that is too large to hold settings.
 struct TooLarge {};
 using FileContent = std::variant<std::string, TooLarge, FileError>;
+
+/// What `action` answers, or `otherwise` if the memory does not suffice for it.
+template <class Answer, class Action>
+Answer WithMemoryFor(const Action& action, const Answer& otherwise) {
+  try {
+    return action();
+  } catch (const std::bad_alloc&) {
+    return otherwise;
+  }
+}
 
 /// The content of a settings file; empty if there is no file yet.
 FileContent ReadFile(const std::string& path) {
@@ -28,6 +46,7 @@ FileContent ReadFile(const std::string& path) {
   switch (content.error()) {
     case FileError::NotThere:
     case FileError::BadPath:
+    case FileError::NameTooLong:
       return std::string();
     case FileError::TooLarge:
       return TooLarge{};
@@ -40,6 +59,21 @@ FileContent ReadFile(const std::string& path) {
 std::optional<SettingsTable> SettingsIn(const FileContent& content) {
   const auto* toml = std::get_if<std::string>(&content);
   return toml == nullptr ? std::nullopt : ReadSettings(*toml);
+}
+
+/// What a settings file holds, and what is to be told about it.
+struct ReadOutcome {
+  std::optional<SettingsTable> settings;
+  std::u16string notice;
+};
+
+ReadOutcome ReadStored(const std::string& path) {
+  const FileContent content = ReadFile(path);
+  if (const auto* error = std::get_if<FileError>(&content)) {
+    return {std::nullopt, SettingsCannotBeRead(path, *error)};
+  }
+  if (std::holds_alternative<TooLarge>(content)) return {std::nullopt, SettingsAreTooLarge(path)};
+  return {SettingsIn(content), SettingsAreDamaged(path)};
 }
 
 /// The settings in `toml`, which is about to be written; nullopt if it would not read back.
@@ -55,8 +89,8 @@ void Lay(SettingsTable& under, const SettingsTable& over) {
 
 }  // namespace
 
-UserSettingsStore::UserSettingsStore(std::string path)
-    : path_(std::move(path)), patience_(kPatience) {}
+UserSettingsStore::UserSettingsStore(std::string path, StoreUser user)
+    : path_(std::move(path)), user_(user), patience_(PatienceOf(user)) {}
 
 std::optional<StoredSetting> UserSettingsStore::Read(std::string_view section,
                                                      std::string_view name) const {
@@ -83,20 +117,21 @@ void UserSettingsStore::Write(std::string_view section, std::string_view name,
 const SettingsTable& UserSettingsStore::Stored() const {
   if (stored_) return *stored_;
   stored_.emplace();
-  const FileContent content = ReadFile(path_);
-  if (auto settings = SettingsIn(content)) {
-    stored_ = std::move(settings);
-  } else if (const auto* error = std::get_if<FileError>(&content)) {
-    Tell(SettingsCannotBeRead(path_, *error));
+  auto read =
+      WithMemoryFor([this] { return ReadStored(path_); },
+                    ReadOutcome{std::nullopt, SettingsCannotBeRead(path_, FileError::NoMemory)});
+  if (read.settings) {
+    stored_ = std::move(read.settings);
   } else {
-    Tell(SettingsAreDamaged(path_));
+    Tell(std::move(read.notice));
   }
   return *stored_;
 }
 
 void UserSettingsStore::Refresh() {
   if (!stored_) return;
-  auto settings = SettingsIn(ReadFile(path_));
+  auto settings =
+      WithMemoryFor([this] { return SettingsIn(ReadFile(path_)); }, std::optional<SettingsTable>());
   if (!settings || settings == stored_) return;
   stored_ = std::move(settings);
   MarkChanged();
@@ -104,12 +139,25 @@ void UserSettingsStore::Refresh() {
 
 bool UserSettingsStore::Save() {
   if (changes_.empty()) return true;
-  return Kept(WithLock([this](const std::string& file) { return SaveOver(file); }));
+  return Kept(WithLock(patience_, [this](const std::string& file) { return SaveOver(file); }));
+}
+
+bool UserSettingsStore::TrySave() {
+  if (changes_.empty()) return true;
+  auto hindrance = WithLock(std::chrono::milliseconds(0),
+                            [this](const std::string& file) { return SaveOver(file); });
+  if (hindrance && hindrance->isOtherProcess) return false;
+  Kept(std::move(hindrance));
+  return true;
+}
+
+void UserSettingsStore::TellBusy() const {
+  Tell(NotSaved(FileError::Busy));
 }
 
 bool UserSettingsStore::Change(const std::function<void()>& change) {
   bool isMade = false;
-  auto failure = WithLock([&](const std::string& file) -> std::optional<std::u16string> {
+  auto hindrance = WithLock(patience_, [&](const std::string& file) -> Outcome {
     Refresh();
     change();
     isMade = true;
@@ -117,13 +165,14 @@ bool UserSettingsStore::Change(const std::function<void()>& change) {
     return SaveOver(file);
   });
   if (!isMade) change();
-  return Kept(std::move(failure));
+  const bool isLeftForLater = hindrance && hindrance->isOtherProcess && user_ == StoreUser::Window;
+  return !isLeftForLater && Kept(std::move(hindrance));
 }
 
-bool UserSettingsStore::Kept(std::optional<std::u16string> failure) {
-  if (!failure) return true;
-  failure_ = *failure;
-  Tell(*std::move(failure));
+bool UserSettingsStore::Kept(Outcome hindrance) {
+  if (!hindrance) return true;
+  failure_ = hindrance->text;
+  Tell(std::move(hindrance->text));
   return false;
 }
 
@@ -134,46 +183,66 @@ std::optional<std::u16string> UserSettingsStore::TakeBackUnsaved() {
   return failure_;
 }
 
+std::u16string UserSettingsStore::NotSaved(FileError error) const {
+  std::u16string text = SettingsCannotBeSaved(path_, error);
+  if (user_ == StoreUser::Window && !path_.empty()) text += kUntilThenTheyLast;
+  return text;
+}
+
 /// Does `action` on the file that all links lead to while no other process saves; answers why it or
 /// the locking failed.
-std::optional<std::u16string> UserSettingsStore::WithLock(
-    const std::function<std::optional<std::u16string>(const std::string& file)>& action) {
-  if (path_.empty()) return SettingsCannotBeSaved(path_, FileError::BadPath);
+UserSettingsStore::Outcome UserSettingsStore::WithLock(
+    std::chrono::milliseconds patience,
+    const std::function<Outcome(const std::string& file)>& action) {
+  if (path_.empty()) return Hindrance{NotSaved(FileError::BadPath)};
   const std::string file = FollowLinks(path_);
+  // The name of a folder, which is not to be made only to be in the way then.
+  if (file.ends_with('/')) return Hindrance{NotSaved(FileError::NotAFile)};
   MakeFoldersFor(file);
-  const auto lock = FileLock::Acquire(file + ".lock", patience_);
+  const auto lock = FileLock::AcquireFor(file, patience);
   if (!lock) {
+    const bool isOtherProcess = lock.error() == FileError::Busy;
     // A process that hangs while it holds the lock is waited for once, not at every save.
-    if (lock.error() == FileError::Busy) patience_ = std::chrono::milliseconds(0);
-    return SettingsCannotBeSaved(path_, lock.error());
+    if (isOtherProcess) patience_ = std::chrono::milliseconds(0);
+    return Hindrance{NotSaved(lock.error()), isOtherProcess};
   }
-  patience_ = kPatience;
+  patience_ = PatienceOf(user_);
+  if (lock->IsHeld()) RemoveLeftovers(file);
   return action(file);
 }
 
 /// Only while the lock is held.
-std::optional<std::u16string> UserSettingsStore::SaveOver(const std::string& file) {
+UserSettingsStore::Outcome UserSettingsStore::SaveOver(const std::string& file) {
+  return WithMemoryFor([&] { return Merge(file); },
+                       Outcome(Hindrance{NotSaved(FileError::NoMemory)}));
+}
+
+/// SaveOver, if the memory suffices.
+UserSettingsStore::Outcome UserSettingsStore::Merge(const std::string& file) {
   const FileContent content = ReadFile(file);
   if (const auto* error = std::get_if<FileError>(&content)) {
-    return SettingsCannotBeRead(path_, *error);
+    return Hindrance{SettingsCannotBeRead(path_, *error)};
   }
   const auto* current = std::get_if<std::string>(&content);
   auto merged = current != nullptr ? WithChanges(*current, changes_) : std::nullopt;
   const bool isDamaged = !merged;
   if (isDamaged) {
-    Tell(SettingsAreDamaged(path_));
+    Tell(current != nullptr ? SettingsAreDamaged(path_) : SettingsAreTooLarge(path_));
     merged = WithChanges("", All());
   }
   auto readBack = merged ? ReadBack(*merged) : std::nullopt;
-  if (!readBack) return SettingsCannotBeSaved(path_, FileError::TooLarge);
-  RemoveLeftovers(file);
+  if (!readBack) return Hindrance{NotSaved(FileError::TooLarge)};
   std::optional<FileError> error;
-  if (isDamaged) error = KeepAside(file);
-  const bool isSame = current != nullptr && *merged == *current;
-  if (!error && !isSame) error = ReplaceFile(file, *merged);
-  if (error) return SettingsCannotBeSaved(path_, *error);
+  if (isDamaged) {
+    error = ReplaceDamaged(file, *merged, NewFileOwner::OwnerOfFolder);
+  } else if (*merged != *current) {
+    error = ReplaceFile(file, *merged, NewFileOwner::OwnerOfFolder);
+  }
+  if (error) return Hindrance{NotSaved(*error)};
   stored_ = std::move(readBack);
   changes_.clear();
+  // Should it fail again, that is news.
+  told_.clear();
   MarkChanged();
   return std::nullopt;
 }

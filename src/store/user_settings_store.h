@@ -9,10 +9,16 @@
 #include <string>
 #include <string_view>
 
+#include "settings/file_error.h"
 #include "settings/settings_store.h"
 #include "store/settings_toml.h"
 
 namespace kav {
+
+/// Who uses a store: a command, which waits for another process that is saving, and fails if it
+/// cannot save; or a window, whose user does not wait, and which goes on with what is not saved
+/// yet.
+enum class StoreUser { Command, Window };
 
 /// Settings kept in a TOML file. Several processes may have stores on one file: each saves only
 /// what it changed, and a reader finds the file as it was before or after a save, never between.
@@ -25,19 +31,26 @@ class UserSettingsStore final : public SettingsStore {
   /// Settings in the file `path` (DefaultSettingsPath unless the user named another); an empty path
   /// means that there is no place for them. Does not touch the disk: the file is read once, when
   /// the first setting is asked for or set. The file and its folders are made by the first save.
-  explicit UserSettingsStore(std::string path);
+  explicit UserSettingsStore(std::string path, StoreUser user = StoreUser::Command);
 
   /// Writes what this process has changed since the last save into the file, over what other
   /// processes have written, and takes over what they wrote. Writes nothing if nothing changed.
   /// Returns once all is on the disk; false if it could not be written, and then the changes stay
   /// for the next try. A damaged file is kept under another name first. Waits up to two seconds for
-  /// another process that is saving; after a wait in vain it waits no more until the file was free
-  /// once.
+  /// another process that is saving, for a window a quarter of a second; after a wait in vain it
+  /// waits no more until the file was free once.
   bool Save();
+
+  /// Save for a window, without any wait. False if another process is saving: nobody is told then,
+  /// and it is to be called again soon. True if it was saved, or could not be for another reason.
+  bool TrySave();
+
+  /// Tells that another process has kept the file for long.
+  void TellBusy() const;
 
   /// Locks the file, reads it again, makes the change and writes it, with all earlier changes, to
   /// the disk before it unlocks the file. If any of this fails, the change is made in memory, and
-  /// the next save tries again.
+  /// the next save tries again. In a window it is not told if another process just was saving.
   bool Change(const std::function<void()>& change) override;
 
   /// Takes back what was changed and could not be saved, for a caller that must not go on with what
@@ -49,23 +62,34 @@ class UserSettingsStore final : public SettingsStore {
   /// read or is damaged, and none before settings are first asked for, which reads them anyway.
   void Refresh() override;
 
-  /// The next thing to tell the user; nullopt if there is none. Each is told once in the life of
-  /// the store. To be asked after settings are first read, and after each save.
+  /// The next thing to tell the user; nullopt if there is none. Each is told once until settings
+  /// could be saved again. To be asked after settings are first read, and after each save.
   std::optional<std::u16string> TakeNotice();
+  bool HasNotice() const { return !notices_.empty(); }
 
  private:
   std::optional<StoredSetting> Read(std::string_view section, std::string_view name) const override;
   void Write(std::string_view section, std::string_view name, StoredSetting value) override;
 
+  /// Why settings could not be saved.
+  struct Hindrance {
+    std::u16string text;
+    bool isOtherProcess = false;
+  };
+  using Outcome = std::optional<Hindrance>;
+
   const SettingsTable& Stored() const;
-  bool Kept(std::optional<std::u16string> failure);
-  std::optional<std::u16string> WithLock(
-      const std::function<std::optional<std::u16string>(const std::string& file)>& action);
-  std::optional<std::u16string> SaveOver(const std::string& file);
+  bool Kept(Outcome hindrance);
+  std::u16string NotSaved(FileError error) const;
+  Outcome WithLock(std::chrono::milliseconds patience,
+                   const std::function<Outcome(const std::string& file)>& action);
+  Outcome SaveOver(const std::string& file);
+  Outcome Merge(const std::string& file);
   SettingsTable All() const;
   void Tell(std::u16string text) const;
 
   std::string path_;
+  StoreUser user_;
   std::chrono::milliseconds patience_;
   SettingsTable changes_;
   std::u16string failure_;  ///< why the last try to save them failed

@@ -4,11 +4,13 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <cstddef>
 #include <string>
 #include <vector>
 
+#include "settings/file_descriptor.h"
 #include "support/temporary_folder.h"
 
 namespace kav::atomic_file_test {
@@ -72,8 +74,8 @@ TEST(ReadWholeFile, RefusesWhatItCannotGive) {
       {folder.File("missing"), FileError::NotThere},
       {folder.File("missing/a"), FileError::NotThere},
       {folder.File("large/a"), FileError::BadPath},
-      {folder.File("loop"), FileError::BadPath},
-      {folder.File(std::string(300, 'n')), FileError::BadPath},
+      {folder.File("loop"), FileError::LinkLoop},
+      {folder.File(std::string(300, 'n')), FileError::NameTooLong},
       {folder.File("large"), FileError::TooLarge},
       {folder.Path(), FileError::NotAFile},
       {folder.File("pipe"), FileError::NotAFile},
@@ -121,12 +123,20 @@ TEST(MakeFoldersFor, LeavesFoldersThatAreThereAsTheyAre) {
   EXPECT_TRUE(Exists(folder.File("a/b")));
 }
 
-TEST(ReplaceFile, MakesAFileForTheOwnerOnly) {
-  const TemporaryFolder folder;
-  EXPECT_EQ(ReplaceFile(folder.File("a"), "content\0"s), std::nullopt);
-  EXPECT_EQ(FileContent(folder.File("a")), "content\0"s);
-  EXPECT_EQ(PermissionsOf(folder.File("a")), 0600U);
-  EXPECT_EQ(folder.Names(), Names{"a"});
+TEST(ReplaceFile, MakesAFileAsTheMaskOfTheUserGives) {
+  const struct {
+    mode_t mask;
+    unsigned permissions;
+  } rows[] = {{0, 0666}, {022, 0644}, {002, 0664}, {027, 0640}, {077, 0600}};
+  for (const auto& row : rows) {
+    const TemporaryFolder folder;
+    const mode_t before = umask(row.mask);
+    EXPECT_EQ(ReplaceFile(folder.File("a"), "content\0"s), std::nullopt);
+    umask(before);
+    EXPECT_EQ(FileContent(folder.File("a")), "content\0"s);
+    EXPECT_EQ(PermissionsOf(folder.File("a")), row.permissions);
+    EXPECT_EQ(folder.Names(), Names{"a"});
+  }
 }
 
 TEST(ReplaceFile, KeepsThePermissionsThatTheUserGave) {
@@ -191,8 +201,8 @@ TEST(ReplaceFile, WithoutSpaceTheOldContentStays) {
               signal(SIGXFSZ, SIG_IGN);
               const rlimit limit{4096, 4096};
               if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return 2;
-              return ReplaceFile(folder.File("a"), std::string(4097, 'x')) == FileError::Full ? 0
-                                                                                              : 1;
+              const auto error = ReplaceFile(folder.File("a"), std::string(4097, 'x'));
+              return error == FileError::SizeLimit ? 0 : 1;
             }),
             0);
   EXPECT_EQ(FileContent(folder.File("a")), "old");
@@ -283,6 +293,34 @@ TEST(KeepAside, ALinkThatLeadsNowhereIsNotOverwrittenEither) {
   PutFile(folder.File("a"), "damaged");
   EXPECT_EQ(KeepAside(folder.File("a")), std::nullopt);
   EXPECT_EQ(FileContent(folder.File("a.damaged-2")), "damaged");
+}
+
+TEST(ReplaceDamaged, KeepsTheOldFileAsideAndItsPermissions) {
+  const TemporaryFolder folder;
+  PutFile(folder.File("a.damaged"), "earlier");
+  PutFile(folder.File("a"), "?");
+  chmod(folder.File("a").c_str(), 0640);
+  EXPECT_EQ(ReplaceDamaged(folder.File("a"), "new", NewFileOwner::ThisUser), std::nullopt);
+  EXPECT_EQ(folder.Names(), (Names{"a", "a.damaged", "a.damaged-2"}));
+  EXPECT_EQ(FileContent(folder.File("a")), "new");
+  EXPECT_EQ(FileContent(folder.File("a.damaged-2")), "?");
+  EXPECT_EQ(FileContent(folder.File("a.damaged")), "earlier");
+  EXPECT_EQ(PermissionsOf(folder.File("a")), 0640U);
+}
+
+TEST(ReplaceDamaged, LeavesTheOldFileInItsPlaceIfTheNewCannotBeWritten) {
+  const TemporaryFolder folder;
+  PutFile(folder.File("a"), "?");
+  EXPECT_EQ(InAnotherProcess([&] {
+              SurviveSizeLimit();
+              const rlimit limit{0, 0};
+              if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return 2;
+              const auto error = ReplaceDamaged(folder.File("a"), "new", NewFileOwner::ThisUser);
+              return error == FileError::SizeLimit ? 0 : 1;
+            }),
+            0);
+  EXPECT_EQ(FileContent(folder.File("a")), "?");
+  EXPECT_EQ(folder.Names(), Names{"a"});
 }
 
 TEST(KeepAside, AMissingFileIsRefused) {

@@ -2,12 +2,15 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <array>
 #include <cerrno>
 #include <string>
 #include <thread>
 #include <utility>
+
+#include "support/temporary_folder.h"
 
 namespace kav::file_descriptor_test {
 namespace {
@@ -76,6 +79,18 @@ TEST(ReadSome, TellsTheEndFromAnError) {
   const auto failed = ReadSome(-1, block.data(), block.size());
   ASSERT_FALSE(failed);
   EXPECT_EQ(failed.error(), EBADF);
+}
+
+TEST(SurviveSizeLimit, AWriteBeyondTheLimitFailsAndTheProgramGoesOn) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(InAnotherProcess([&] {
+              SurviveSizeLimit();
+              const rlimit limit{10, 10};
+              if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return 2;
+              const FileDescriptor file(open(folder.File("a").c_str(), O_WRONLY | O_CREAT, 0600));
+              return WriteAll(file.Number(), "more than ten bytes") == EFBIG ? 0 : 1;
+            }),
+            0);
 }
 
 }  // namespace

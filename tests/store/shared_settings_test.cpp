@@ -84,7 +84,7 @@ TEST_F(SharedSettingsTest, RefreshFromWhatCannotBeReadChangesNothing) {
   PutByHand("?");
   store.Refresh();
   EXPECT_EQ(store.Get(kNumber), 5);
-  ASSERT_EQ(truncate(path.c_str(), (64 << 20) + 1), 0);
+  ASSERT_EQ(truncate(path.c_str(), (4 << 20) + 1), 0);
   store.Refresh();
   EXPECT_EQ(store.Get(kNumber), 5);
   unlink(path.c_str());

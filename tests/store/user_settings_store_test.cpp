@@ -13,6 +13,7 @@
 #include <string_view>
 #include <vector>
 
+#include "store/file_lock.h"
 #include "store/user_settings_fixture.h"
 
 namespace kav::user_settings_store_test {
@@ -182,13 +183,14 @@ TEST_F(UserSettingsStoreTest, TheDiskIsTouchedWhenTheFirstSettingIsAskedForAndOn
   EXPECT_EQ(store.Get(kNumber), 2);
 }
 
-TEST_F(UserSettingsStoreTest, FileAndFolderAreForTheUserOnly) {
+TEST_F(UserSettingsStoreTest, TheFolderIsForTheUserOnlyAndTheFileAsTheirMaskGives) {
   UserSettingsStore store(path);
   store.Set(kNumber, 2);
+  const mode_t before = umask(027);
   ASSERT_TRUE(store.Save());
+  umask(before);
   EXPECT_EQ(PermissionsOf(folder.File("sub")), 0700U);
-  EXPECT_EQ(PermissionsOf(path), 0600U);
-  EXPECT_EQ(PermissionsOf(path + ".lock"), 0600U);
+  EXPECT_EQ(PermissionsOf(path), 0640U);
 }
 
 TEST_F(UserSettingsStoreTest, PermissionsThatTheUserGaveAreKept) {
@@ -210,7 +212,6 @@ TEST_F(UserSettingsStoreTest, WithoutAChangeNothingIsWritten) {
   store.Set(kNumber, 2);
   EXPECT_TRUE(store.Save());
   EXPECT_EQ(FileContent(path), kMine);
-  EXPECT_FALSE(Exists(path + ".lock"));
 }
 
 TEST_F(UserSettingsStoreTest, WhatIsSavedAlreadyIsNotWrittenAgain) {
@@ -260,7 +261,9 @@ TEST_F(UserSettingsStoreTest, ALinkStaysALinkAndItsTargetIsWritten) {
   EXPECT_TRUE(S_ISLNK(StatusOf(path).st_mode));
   EXPECT_TRUE(S_ISREG(StatusOf(folder.File("dotfiles/kav.toml")).st_mode));
   EXPECT_EQ(ReadNumber(), 6);
-  EXPECT_TRUE(Exists(folder.File("dotfiles/kav.toml.lock"))) << "one lock for all links to a file";
+  const auto lock = FileLock::AcquireFor(folder.File("dotfiles/kav.toml"), {});
+  store.Set(kNumber, 7);
+  EXPECT_FALSE(store.TrySave()) << "one lock for all links to a file";
 }
 
 TEST_F(UserSettingsStoreTest, ALinkToAFileThatIsNotThereMakesTheFile) {

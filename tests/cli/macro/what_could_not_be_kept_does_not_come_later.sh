@@ -1,5 +1,5 @@
 cp "$FILES/macros.toml" mine.toml
-exec {lock}>mine.toml.lock
+exec {lock}<.
 flock "$lock"
 coproc kavcalc macro add --settings mine.toml
 ask() {
