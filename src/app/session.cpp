@@ -36,7 +36,8 @@ void HoldEndSignals() {
 }
 
 Session::Session(SingleInstance instance, std::string settingsPath)
-    : store_(std::move(settingsPath)),
+    : store_(std::move(settingsPath), StoreUser::Window),
+      saver_(store_, [this] { return TellNotices(); }),
       instance_(std::move(instance)),
       endSignals_(OpenEndSignals()) {
   const auto later = [this](void (Session::*what)()) {
@@ -47,7 +48,7 @@ Session::Session(SingleInstance instance, std::string settingsPath)
   };
   frame_ = std::make_unique<FrameWindow>(
       store_, AllScreens(), AllDialogs(store_),
-      FrameHooks{[this] { Save(); }, later(&Session::Started), later(&Session::End)});
+      FrameHooks{[this] { saver_.Save(); }, later(&Session::Started), later(&Session::End)});
   frame_->show();
   WatchSignals();
   WatchCalls();
@@ -55,7 +56,7 @@ Session::Session(SingleInstance instance, std::string settingsPath)
 
 Session::~Session() {
   frame_.reset();
-  store_.Save();
+  saver_.SaveAtLast();
 }
 
 void Session::WatchSignals() {
@@ -79,12 +80,7 @@ void Session::Started() {
   QApplication::setWindowIcon(QIcon(":/kav-calculator.png"));
   // Takes away what a run that was killed has left behind, whichever screen is shown.
   const TemporaryMatrices leftovers;
-  TellNotices();
-}
-
-void Session::Save() {
-  store_.Save();
-  TellNotices();
+  saver_.Tell();
 }
 
 void Session::End() {
@@ -92,14 +88,20 @@ void Session::End() {
   calls_.reset();
   instance_.StopListening();
   frame_.reset();
-  Save();
+  saver_.SaveAtLast();
+  TellNotices();
   QApplication::exit();
 }
 
-void Session::TellNotices() {
+bool Session::TellNotices() {
+  // A box over another one, or over an open menu, would come between the user and that.
+  const bool isUserBusy =
+      QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
+  if (isUserBusy) return !store_.HasNotice();
   while (const auto notice = store_.TakeNotice()) {
     ShowNotice(frame_ ? frame_->Shown() : nullptr, *notice);
   }
+  return true;
 }
 
 }  // namespace kav

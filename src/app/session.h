@@ -7,6 +7,7 @@
 #include <string>
 
 #include "app/frame_window.h"
+#include "app/settings_saver.h"
 #include "app/single_instance.h"
 #include "settings/file_descriptor.h"
 #include "store/user_settings_store.h"
@@ -20,7 +21,7 @@ void HoldEndSignals();
 
 /// Begins with the frame and ends with its last screen, or with a signal by which a desktop or a
 /// terminal asks a program to end; it then ends the event loop. Always saves the settings at its
-/// end, and tells the user once what is wrong with them.
+/// end, and tells the user what is wrong with them.
 class Session {
  public:
   /// Settings are kept in the file `settingsPath`. Calls that `instance` takes bring the screen to
@@ -34,11 +35,11 @@ class Session {
   void WatchSignals();
   void WatchCalls();
   void Started();
-  void Save();
   void End();
-  void TellNotices();
+  bool TellNotices();
 
   UserSettingsStore store_;
+  SettingsSaver saver_;
   SingleInstance instance_;
   FileDescriptor endSignals_;
   QObject context_;  // what is still to be called is forgotten with it

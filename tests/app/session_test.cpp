@@ -1,7 +1,9 @@
 // A whole run on settings on disk, in this process.
 #include "app/session.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 
 #include <array>
@@ -137,6 +139,23 @@ TEST_F(SessionTest, APlaceThatCannotBeWrittenIsToldOnceAndNothingElseSuffers) {
   Tap(TheScreen(), u"PB");
   EXPECT_EQ(Offered(OpenMenu()).size(), 4U);
   QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+  Close();
+}
+
+TEST_F(SessionTest, AnotherProgramThatKeepsTheSettingsHoldsUpNothing) {
+  Start();
+  FileDescriptor other(open(folder_.Path().c_str(), O_RDONLY));
+  ASSERT_EQ(flock(other.Number(), LOCK_EX), 0);
+  const auto start = std::chrono::steady_clock::now();
+  Tap(TheScreen(), u"6 * 7 =");
+  QCoreApplication::processEvents();
+  Tap(TheScreen(), u"1 + 1 =");
+  QCoreApplication::processEvents();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1500));
+  EXPECT_EQ(ResultOf(TheScreen()), u"2");
+  EXPECT_EQ(Stored().Get(kCalHistoryCount), 0);
+  other = FileDescriptor(-1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Stored().Get(kCalHistoryCount) == 4; }));
   Close();
 }
 

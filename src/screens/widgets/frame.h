@@ -50,7 +50,8 @@ class Frame {
   virtual const ScreenDialogs& Dialogs() const = 0;
   virtual std::vector<ScreenChoice> ScreensBeside(ScreenMode own) const = 0;
 
-  /// Writes the store to disk before it returns. If that fails, tells the user, once.
+  /// Writes the store to disk, at once unless another program keeps the file. If that fails, tells
+  /// the user, once.
   virtual void SaveStore() = 0;
 
   // Both end the calling screen, but not before the current event has been handled.
