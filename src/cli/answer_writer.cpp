@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "cli/cli_texts.h"
+#include "cli/visible_text.h"
 #include "common/number_text.h"
 #include "display/number_format.h"
 #include "settings/file_descriptor.h"
@@ -52,23 +53,23 @@ std::optional<CalcError> AppendShown(std::string& out, double value, const Optio
 }
 
 AnswerWriter::AnswerWriter(const Options& options)
-    : options_(options), flushAt_(isatty(STDOUT_FILENO) != 0 ? 1 : kBlock) {}
+    : options_(options), isTerminal_(isatty(STDOUT_FILENO) != 0) {}
 
 void AnswerWriter::Write(const Answer& answer) {
   if (const auto* number = std::get_if<double>(&answer)) {
     auto error = AppendShown(text_, *number, options_);
     error ? WriteFailure(error->message) : text_.push_back('\n');
   } else if (const auto* lines = std::get_if<std::string>(&answer)) {
-    text_ += *lines;
+    text_ += isTerminal_ ? Visible(*lines) : *lines;
   } else {
     WriteFailure(std::get_if<Failure>(&answer)->message);
   }
-  if (text_.size() >= flushAt_) Flush();
+  if (isTerminal_ || text_.size() >= kBlock) Flush();
 }
 
 void AnswerWriter::WriteFailure(std::string_view message) {
   isComplete_ = false;
-  text_.append(kFailureMark).append(Line(message));
+  text_.append(kFailureMark).append(Visible(Line(message)));
 }
 
 void AnswerWriter::Flush() {
@@ -89,8 +90,7 @@ int AnswerOnce(const Answer& answer, const Options& options) {
 }
 
 void Tell(std::string_view text) {
-  std::string line(kProgramName);
-  line.append(": ").append(text) += '\n';
+  const std::string line = std::string(kProgramName).append(": ").append(Visible(Line(text)));
   static_cast<void>(WriteAll(STDERR_FILENO, line));
 }
 

@@ -35,6 +35,7 @@ std::optional<CalcError> AppendShown(std::string& out, double value, const Optio
 
 /// Writes answers to standard output in blocks, or each at once if it is a terminal. Remembers
 /// whether every item was answered. Once a write has failed, nothing more is written or kept.
+/// Control characters are made visible in failures, and on a terminal everywhere.
 class AnswerWriter {
  public:
   /// `options` decide how numbers are shown. They must outlive the writer.
@@ -58,7 +59,7 @@ class AnswerWriter {
 
   const Options& options_;
   std::string text_;
-  std::size_t flushAt_;
+  bool isTerminal_;
   bool isComplete_ = true;
   int error_ = 0;  ///< errno of the write that failed, or 0
 };
@@ -67,7 +68,7 @@ class AnswerWriter {
 /// does.
 int AnswerOnce(const Answer& answer, const Options& options);
 
-/// Writes the program's name and `text` to standard error, as one line.
+/// Writes the program's name and `text` to standard error, as one line without control characters.
 void Tell(std::string_view text);
 
 /// The system's text for the errno `number`.

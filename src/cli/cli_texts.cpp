@@ -26,6 +26,10 @@ std::string SeeList(int number) {
   return "; kavcalc convert --list " + PrintInteger(number) + " shows all";
 }
 
+std::string NumbersOf(std::size_t count) {
+  return PrintInteger(static_cast<std::int64_t>(count)) + (count == 1 ? " number" : " numbers");
+}
+
 }  // namespace
 
 std::string VersionLine() {
@@ -85,6 +89,32 @@ std::string CannotKeepHistory(std::string_view path, std::string_view reason) {
 
 std::string RatesLostDigits(std::string_view conversions) {
   return Joined("all rates were stored with six decimals, and these lost digits:", conversions, "");
+}
+
+std::string InLine(std::uint64_t line, std::string_view start) {
+  std::string text = "line " + PrintInteger(static_cast<std::int64_t>(line));
+  if (!start.empty()) text.append(" (").append(Quoted(start)).append(")");
+  return text.append(": ");
+}
+
+std::string HasText(std::size_t numbers) {
+  if (numbers == 0) return "it has text and no number, and was left out";
+  return "it has text; " + NumbersOf(numbers) + (numbers == 1 ? " was" : " were") + " read from it";
+}
+
+std::string HasOtherNumbers(std::size_t numbers, std::size_t usual) {
+  const std::string usualText = PrintInteger(static_cast<std::int64_t>(usual));
+  return "it has " + NumbersOf(numbers) + " instead of " + usualText + "; each " + usualText +
+         " made a row, whatever the lines";
+}
+
+std::string ValueReadAs(std::string_view text, double number) {
+  return Quoted(text) + " is no number and was read as " + PrintRoundTrip(number);
+}
+
+std::string CountReadAs(std::string_view text, std::int32_t count) {
+  return "its count " + Quoted(text) + " is no whole number from 1 on; it was read as " +
+         PrintInteger(count);
 }
 
 std::string NoCategoryIs(std::string_view name) {

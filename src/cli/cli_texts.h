@@ -1,6 +1,8 @@
 // The texts of kavcalc, except its help and those of the calculator itself.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,6 +46,26 @@ inline constexpr std::string_view kTwoUnits = "a unit and the unit to convert it
 inline constexpr std::string_view kOneConversion = "one of its conversions";
 inline constexpr std::string_view kAreaIsEmpty =
     "the TOP of --area has to be a smaller number than its BOTTOM";
+// About lines of data that are read, but perhaps not as they are meant. They follow InLine.
+/// `line` is counted from 1, `start` are the first bytes of the line; without any it is not quoted.
+std::string InLine(std::uint64_t line, std::string_view start);
+inline constexpr std::string_view kHasByteOrderMark =
+    "it begins with a byte order mark, which was left out";
+/// `numbers` is how many numbers were read from the line.
+std::string HasText(std::size_t numbers);
+inline constexpr std::string_view kCommaSeparates =
+    "its comma separates two numbers, it is no decimal point";
+inline constexpr std::string_view kLargeESeparates =
+    "its \"E\" separates two numbers; an exponent is written with \"e\"";
+std::string HasOtherNumbers(std::size_t numbers, std::size_t usual);
+std::string ValueReadAs(std::string_view text, double number);
+std::string CountReadAs(std::string_view text, std::int32_t count);
+inline constexpr std::string_view kLastNumberIsLeftOut =
+    "its last number was left out, because nothing ends it";
+inline constexpr std::string_view kLastRowIsLeftOut =
+    "the last row was left out, because it has no count";
+inline constexpr std::string_view kOnlyRowLacksCount =
+    "the only row has no count, which was read as 0";
 std::string NoCategoryIs(std::string_view name);
 std::string CategoryTakes(std::string_view category, int number, std::string_view arguments);
 std::string HasNoUnit(std::string_view category, int number, std::string_view given);

@@ -2,7 +2,9 @@
 
 #include <unistd.h>
 
+#include "cli/answer_writer.h"
 #include "cli/cli_texts.h"
+#include "cli/visible_text.h"
 #include "settings/file_descriptor.h"
 
 namespace kav {
@@ -12,7 +14,7 @@ std::string UsageLine(const Command& command) {
 }
 
 std::string Complaint(std::string_view reason, const Command& command) {
-  return std::string(kProgramName).append(": ").append(reason) + "\n" + UsageLine(command);
+  return std::string(kProgramName).append(": ").append(Visible(Line(reason))) + UsageLine(command);
 }
 
 int Complain(std::string_view reason, const Command& command) {

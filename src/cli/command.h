@@ -35,7 +35,8 @@ struct CommandLine {
 /// The usage line of `command`, with its line end.
 std::string UsageLine(const Command& command);
 
-/// Two lines: the program's name with `reason`, and the usage line of `command`.
+/// Two lines without control characters: the program's name with `reason`, and the usage line of
+/// `command`.
 std::string Complaint(std::string_view reason, const Command& command);
 
 /// Writes the Complaint to standard error. For arguments that turn out to be unusable when the

@@ -9,6 +9,7 @@
 
 #include "cli/cli_texts.h"
 #include "cli/history_file.h"
+#include "cli/visible_text.h"
 #include "settings/file_descriptor.h"
 
 namespace kav {
@@ -26,7 +27,7 @@ char* PromptText(EditLine*) {
 /// Lists `names`, which must not be empty, below the line being typed.
 void List(const std::vector<std::string>& names) {
   std::string text = "\n";
-  for (const std::string& name : names) text.append(name).append("  ");
+  for (const std::string& name : names) text.append(Visible(name)).append("  ");
   text.replace(text.size() - 2, 2, "\n");
   static_cast<void>(WriteAll(STDOUT_FILENO, text));
 }

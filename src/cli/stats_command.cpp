@@ -12,11 +12,11 @@
 #include <vector>
 
 #include "cli/cli_texts.h"
+#include "cli/data_sums.h"
 #include "cli/items.h"
+#include "cli/unreadable.h"
 #include "common/number_text.h"
 #include "settings/file_descriptor.h"
-#include "settings/file_error.h"
-#include "statistics/data_reader.h"
 #include "statistics/data_texts.h"
 #include "statistics/regression.h"
 
@@ -39,39 +39,6 @@ constexpr std::array kMoments{
     MomentRow{"mean_", Moment::Mean},
     MomentRow{"sd_sample_", Moment::SampleDeviation},
     MomentRow{"sd_population_", Moment::PopulationDeviation},
-};
-
-/// The sums over the rows of a file. The rows themselves are not kept: there may be any number.
-class Summary {
- public:
-  Summary(DataShape shape, RegressionModel model) : shape_(shape), sums_(model) {}
-
-  std::optional<DataRefusal> Add(const DataRow& row) {
-    const std::int32_t count = row.count.value_or(0);
-    const std::int64_t total = std::int64_t{total_} + count;
-    if (total != static_cast<std::int32_t>(total)) return DataRefusal::TotalOutOfRange;
-    total_ = static_cast<std::int32_t>(total);
-    ++rows_;
-    const double x = row.Value(0);
-    if (shape_ == DataShape::OneVariable) {
-      x_.Add(x, count);
-    } else {
-      sums_.Add(x, row.Value(1), count);
-    }
-    return std::nullopt;
-  }
-
-  std::int64_t Rows() const { return rows_; }
-  std::int32_t Total() const { return total_; }
-  const WeightedSums& X() const { return shape_ == DataShape::OneVariable ? x_ : sums_.X(); }
-  const RegressionSums& Sums() const { return sums_; }
-
- private:
-  DataShape shape_;
-  std::int64_t rows_ = 0;
-  std::int32_t total_ = 0;
-  WeightedSums x_;  ///< of one variable; two have theirs in sums_
-  RegressionSums sums_;
 };
 
 /// With 17 significant digits, and "nan" without a sign.
@@ -130,32 +97,18 @@ std::string SummaryRows(const Summary& summary, const Options& options) {
   return rows;
 }
 
-Failure CannotLoad(std::string_view name, std::u16string_view reason) {
-  return {Narrow(DataCannotBeLoaded(Widen(name), reason))};
-}
-
-Failure CannotRead(std::string_view name, int error) {
-  return CannotLoad(name, ReasonOfReading(FileErrorFromErrno(error)));
-}
-
-/// Sums up the file `name`, open as `descriptor`, block by block.
+/// Sums up the file `name`, open as `descriptor`, and tells what is unusual in it.
 Answer AnswerData(int descriptor, std::string_view name, const Options& options) {
-  std::array<char, std::size_t{1} << 16U> block;
-  Summary summary(options.shape, options.model);
-  DataReader reader(options.shape, [&](const DataRow& row) { return summary.Add(row); });
-  while (true) {
-    const auto read = ReadSome(descriptor, block.data(), block.size());
-    if (!read) return CannotRead(name, read.error());
-    const auto fault = *read == 0 ? reader.Finish() : reader.Read({block.data(), *read});
-    if (fault) return CannotLoad(name, ReasonOf(fault->refusal, fault->line));
-    if (*read == 0) return SummaryRows(summary, options);
-  }
+  const DataSums data = SumUp(descriptor, {options.shape, options.model});
+  for (const Remark& remark : data.remarks) Tell(std::string(name) + ": " + remark.text);
+  if (data.fault.empty()) return SummaryRows(data.summary, options);
+  return Failure{Narrow(DataCannotBeLoaded(Widen(name), data.fault))};
 }
 
 Answer AnswerFile(const std::string& path, const Options& options) {
   const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
-  if (!file.IsOpen()) return CannotRead(path, errno);
-  return AnswerData(file.Number(), path, options);
+  if (file.IsOpen()) return AnswerData(file.Number(), path, options);
+  return Failure{Narrow(DataCannotBeLoaded(Widen(path), WhyUnreadable(errno)))};
 }
 
 bool LacksTwo(const Options& options) {

@@ -43,6 +43,8 @@ enum class DataRefusal {
   TotalOutOfRange,  ///< the total would be no 32-bit integer
   TooManyRows,      ///< more than DataList::kMostRows
   ValueTooLong,     ///< more than DataList::kLongestValue
+  CountOutOfRange,  ///< no 32-bit integer
+  NoNumber,         ///< a long stretch of a file without any
   NoMemory,
 };
 

@@ -1,6 +1,7 @@
 #include "statistics/data_reader.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "common/number_text.h"
@@ -8,30 +9,33 @@
 namespace kav {
 namespace {
 
-/// The characters of a count that are read.
-constexpr std::size_t kCountLength = 30;
 /// Every number of so many digits fits into an integer of 32 bits.
 constexpr std::size_t kSmallDigits = 9;
 
-constexpr std::array<bool, 256> MakeNumberCharacters() {
-  std::array<bool, 256> table{};
+/// What a byte of a file is. Those of a number have the last bit.
+constexpr unsigned char kUsualSeparator = 0;
+constexpr unsigned char kOfNumber = 1;
+constexpr unsigned char kUnusual = 2;
+
+constexpr std::array<unsigned char, 256> MakeKinds() {
+  std::array<unsigned char, 256> kinds{};
+  for (unsigned char& kind : kinds) kind = kUnusual;
+  for (const char c : std::string_view(" \t\r\n;"))
+    kinds[static_cast<unsigned char>(c)] = kUsualSeparator;
   for (const char c : std::string_view("0123456789.e+-"))
-    table[static_cast<unsigned char>(c)] = true;
-  return table;
+    kinds[static_cast<unsigned char>(c)] = kOfNumber;
+  return kinds;
+}
+constexpr auto kKinds = MakeKinds();
+
+unsigned char KindOf(char c) {
+  return kKinds[static_cast<unsigned char>(c)];
 }
 
-bool IsNumberCharacter(char c) {
-  static constexpr auto kTable = MakeNumberCharacters();
-  return kTable[static_cast<unsigned char>(c)];
-}
-
-std::int32_t ReadCountToken(std::string_view token) {
-  if (token.size() <= kSmallDigits) {
-    const char* const end = token.data() + token.size();
-    const TakenDigits digits = TakeDigits(token.data(), end, 0);
-    if (digits.end == end) return static_cast<std::int32_t>(digits.number);
-  }
-  return ToInt32(ReadLeadingNumber(token.substr(0, kCountLength)));
+bool IsCount(double number) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  // The fraction is truncated.
+  return number > Limits::min() - 1.0 && number < Limits::max() + 1.0;
 }
 
 /// Where the number characters at the start of `text` end.
@@ -49,10 +53,15 @@ std::size_t LengthBeforeLast(std::string_view text) {
 
 }  // namespace
 
-DataReader::DataReader(DataShape shape, RowsTaker take)
-    : take_(std::move(take)), variables_(VariablesOf(shape)) {}
+bool IsNumberCharacter(char c) {
+  return KindOf(c) == kOfNumber;
+}
+
+DataReader::DataReader(DataShape shape, RowsTaker take, Mistakes mistakes)
+    : take_(std::move(take)), variables_(VariablesOf(shape)), mistakes_(mistakes) {}
 
 std::optional<DataFault> DataReader::Read(std::string_view block) {
+  if (IsGapTooLong(block)) return Refuse(DataRefusal::NoNumber);
   if (auto fault = ReadTokens(block)) return fault;
   if (auto fault = HandRowsOver()) return fault;
   KeepValues();
@@ -70,21 +79,51 @@ std::optional<DataFault> DataReader::HandRowsOver() {
   return std::nullopt;
 }
 
-/// The fault of a value that is too long, or that of a row before it.
-std::optional<DataFault> DataReader::RefuseValue() {
+/// The fault in this line, or that of a row before it.
+std::optional<DataFault> DataReader::Refuse(DataRefusal refusal) {
   if (auto fault = HandRowsOver()) return fault;
-  return DataFault{DataRefusal::ValueTooLong, line_};
+  return DataFault{refusal, line_};
+}
+
+/// Whether there are too many bytes without a number, `block` included.
+bool DataReader::IsGapTooLong(std::string_view block) {
+  if (mistakes_ == Mistakes::Taken) return false;
+  // Mostly the first byte is one of a number.
+  const bool hasNumber = std::any_of(block.begin(), block.end(), IsNumberCharacter);
+  gap_ = hasNumber ? 0 : gap_ + block.size();
+  return gap_ > kLongestGap;
+}
+
+/// Reads a count that is more than a few digits.
+std::optional<DataFault> DataReader::TakeCount(std::string_view token) {
+  unusual_ = 1;
+  const bool refuses = mistakes_ == Mistakes::Refused;
+  if (refuses && token.size() > DataList::kLongestValue) return Refuse(DataRefusal::ValueTooLong);
+  const double number = ReadLeadingNumber(token.substr(0, kCountLength));
+  if (refuses && !IsCount(number)) return Refuse(DataRefusal::CountOutOfRange);
+  rows_[whole_].count = ToInt32(number);
+  return std::nullopt;
 }
 
 inline std::optional<DataFault> DataReader::TakeToken(std::string_view token) {
   DataRow& row = rows_[whole_];
   if (!ExpectsCount()) {
-    if (token.size() > DataList::kLongestValue) return RefuseValue();
+    if (token.size() > DataList::kLongestValue) return Refuse(DataRefusal::ValueTooLong);
+    if (field_ == 0) rowLine_ = line_;
     row.values[field_++] = token;
     return std::nullopt;
   }
+  const char* const end = token.data() + token.size();
+  const TakenDigits digits = TakeDigits(token.data(), end, 0);
+  if (digits.end == end && token.size() <= kSmallDigits) {
+    row.count = static_cast<std::int32_t>(digits.number);
+    unusual_ |= digits.number == 0 ? 1U : 0U;
+  } else if (auto fault = TakeCount(token)) {
+    return fault;
+  }
+  unusual_ |= (line_ ^ rowLine_) | (line_ ^ nextLine_);
+  nextLine_ = line_ + 1;
   field_ = 0;
-  row.count = ReadCountToken(token);
   lines_[whole_++] = line_;
   if (whole_ == kRowsAtOnce) return HandRowsOver();
   return std::nullopt;
@@ -96,6 +135,7 @@ std::optional<DataFault> DataReader::TakeCarried() {
   if (!ExpectsCount()) token = kept_[field_].assign(carried_);
   auto fault = TakeToken(token);
   carried_.clear();
+  carriedLength_ = 0;
   return fault;
 }
 
@@ -114,21 +154,28 @@ std::optional<DataFault> DataReader::ReadTokens(std::string_view block) {
 
 /// Takes tokens that all end before `end`, so that the loop over a token needs no check for `end`.
 std::optional<DataFault> DataReader::ReadWholeTokens(const char* at, const char* end) {
+  unsigned kinds = 0;
   while (true) {
-    for (; at != end && !IsNumberCharacter(*at); ++at) line_ += *at == '\n' ? 1U : 0U;
-    if (at == end) return std::nullopt;
+    for (; at != end && !IsNumberCharacter(*at); ++at) {
+      kinds |= KindOf(*at);
+      line_ += *at == '\n' ? 1U : 0U;
+    }
+    if (at == end) break;
     const char* const start = at;
     while (IsNumberCharacter(*at)) ++at;
     const std::string_view token(start, static_cast<std::size_t>(at - start));
     if (auto fault = TakeToken(token)) return fault;
   }
+  unusual_ |= kinds;
+  return std::nullopt;
 }
 
 /// Keeps a piece of a token, as far as it is read, until the end of the token comes.
 std::optional<DataFault> DataReader::Carry(std::string_view piece) {
   const std::size_t most = ExpectsCount() ? kCountLength : DataList::kLongestValue;
-  const bool fits = carried_.size() + piece.size() <= most;
-  if (!fits && !ExpectsCount()) return RefuseValue();
+  carriedLength_ += piece.size();
+  const bool refuses = !ExpectsCount() || mistakes_ == Mistakes::Refused;
+  if (refuses && carriedLength_ > DataList::kLongestValue) return Refuse(DataRefusal::ValueTooLong);
   carried_.append(piece.substr(0, most - carried_.size()));
   return std::nullopt;
 }

@@ -9,6 +9,7 @@
 
 #include "settings/file_error_texts.h"
 #include "statistics/data_list.h"
+#include "statistics/data_reader.h"
 #include "statistics/statistics_texts.h"
 
 namespace kav {
@@ -43,6 +44,12 @@ inline std::u16string ReasonOf(DataRefusal refusal, std::uint64_t line) {
     case DataRefusal::ValueTooLong:
       return inLine + u" is a number of more than " + LongestValueText() +
              u" characters; check that the file holds data";
+    case DataRefusal::CountOutOfRange:
+      return (inLine + u" is a count beyond ").append(kTotalBounds).append(u"; check the count");
+    case DataRefusal::NoNumber:
+      return inLine + u" are more than " +
+             IntegerText(static_cast<std::int64_t>(DataReader::kLongestGap)) +
+             u" characters without a number; check that the file holds data";
     case DataRefusal::NoMemory:
       break;
   }

@@ -77,6 +77,8 @@ inline std::u16string WhyRowsDoNotFit(DataRefusal refusal) {
     case DataRefusal::ValueTooLong:
       return u"A value holds up to " + LongestValueText() +
              u" characters. The list was not changed.";
+    case DataRefusal::CountOutOfRange:
+    case DataRefusal::NoNumber:
     case DataRefusal::NoMemory:
       break;
   }

@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/effort.h"
@@ -18,14 +19,23 @@ std::string Spelled(const DataRow& row, DataShape shape) {
   return text + (row.count ? std::to_string(*row.count) : "") + ';';
 }
 
+std::string NameOf(DataRefusal refusal) {
+  if (refusal == DataRefusal::CountOutOfRange) return " count in ";
+  if (refusal == DataRefusal::NoNumber) return " no number in ";
+  return refusal == DataRefusal::ValueTooLong ? " too long in " : " other in ";
+}
+
 /// The rows that a reader reads from blocks, and then its fault.
 class Reading {
  public:
-  explicit Reading(DataShape shape)
-      : reader_(shape, [this, shape](const DataRow& row) {
-          rows_ += Spelled(row, shape);
-          return std::optional<DataRefusal>();
-        }) {}
+  explicit Reading(DataShape shape, Mistakes mistakes = Mistakes::Taken)
+      : reader_(
+            shape,
+            [this, shape](const DataRow& row) {
+              rows_ += Spelled(row, shape);
+              return std::optional<DataRefusal>();
+            },
+            mistakes) {}
 
   Reading& Read(std::string_view block) {
     if (!fault_) fault_ = reader_.Read(block);
@@ -34,8 +44,7 @@ class Reading {
   std::string Finish() {
     if (!fault_) fault_ = reader_.Finish();
     if (!fault_) return rows_;
-    return rows_ + (fault_->refusal == DataRefusal::ValueTooLong ? " too long in " : " other in ") +
-           std::to_string(fault_->line);
+    return rows_ + NameOf(fault_->refusal) + std::to_string(fault_->line);
   }
 
  private:
@@ -132,6 +141,58 @@ TEST(DataReader, CountsAreTruncatedModulo2To32) {
       {"1 -0 ", "1 0;"},
   };
   for (const Row& row : table) EXPECT_EQ(OneOf(row.text), row.rows) << row.text;
+}
+
+TEST(DataReader, MistakesThatAreRefusedNameTheirLine) {
+  const std::vector<Row> table{
+      {"1 2147483647 ", "1 2147483647;"},
+      {"1 2147483647.9 ", "1 2147483647;"},
+      {"1 -2147483648.9 ", "1 -2147483648;"},
+      {"1 2.9 ", "1 2;"},
+      {"5 5\n1 2147483648 ", "5 5; count in 2"},
+      {"1 -2147483649 ", " count in 1"},
+      {"5 5\n1 1\n1 3000000000\n6 6\n", "5 5;1 1; count in 3"},
+      {"1 1e300 ", " count in 1"},
+      {"1 -1e9999 ", " count in 1"},
+      {"1 " + std::string(30'000, '1') + " ", " count in 1"},
+      {"1 " + std::string(30'000, '0') + " ", "1 0;"},
+      {"1 " + std::string(30'001, '0') + " ", " too long in 1"},
+  };
+  for (const Row& row : table) {
+    EXPECT_EQ(Reading(DataShape::OneVariable, Mistakes::Refused).Read(row.text).Finish(), row.rows)
+        << row.text.substr(0, 40);
+  }
+}
+
+TEST(DataReader, AnEndlessStretchWithoutNumbersIsRefused) {
+  Reading reading(DataShape::OneVariable, Mistakes::Refused);
+  const std::string block(65'536, '\0');
+  reading.Read("1 1\n");
+  for (int i = 0; i < 16; ++i) reading.Read(block);
+  reading.Read("2 2\n");
+  for (int i = 0; i < 17; ++i) reading.Read(block);
+  EXPECT_EQ(reading.Finish(), "1 1;2 2; no number in 3");
+  Reading zeros(DataShape::OneVariable, Mistakes::Refused);
+  for (int i = 0; i < 40'000; ++i) zeros.Read(i == 0 ? "5\t0" : "0");
+  EXPECT_EQ(zeros.Finish(), " too long in 1");
+}
+
+TEST(DataReader, WhatIsUnusualIsRemembered) {
+  const std::vector<std::pair<std::string, bool>> table{
+      {"2\t3\r\n4\t1\r\n", false}, {"2 3\n4;1\n", false},
+      {"2 3\n\n4 1\n", true},      {"2,3\n", true},
+      {"x\n2 3\n", true},          {"2 0\n", true},
+      {"2 1.5\n", true},           {"2 -1\n", true},
+      {"2 1234567890\n", true},    {"1\n2\n", true},
+      {"1 2 3 4\n", true},         {"1 2 3\n4\n5 6\n", true},
+  };
+  for (const auto& row : table) {
+    DataReader reader(DataShape::OneVariable,
+                      [](const DataRow&) { return std::optional<DataRefusal>(); });
+    EXPECT_EQ(reader.Read(row.first), std::nullopt);
+    EXPECT_EQ(reader.TakeUnusual(), row.second) << row.first;
+    EXPECT_FALSE(reader.TakeUnusual());
+  }
 }
 
 TEST(DataReader, OfACountTheFirst30CharactersAreRead) {
