@@ -91,6 +91,33 @@ std::string RatesLostDigits(std::string_view conversions) {
   return Joined("all rates were stored with six decimals, and these lost digits:", conversions, "");
 }
 
+std::string MatrixCannotBeLoaded(std::string_view path, std::string_view reason) {
+  return Joined("The matrix cannot be loaded from ", path, ": ").append(reason).append(".");
+}
+
+std::string TooLargeForAMatrix(std::size_t most) {
+  return "it has more than " + PrintInteger(static_cast<std::int64_t>(most)) +
+         " bytes; check that it is a matrix file";
+}
+
+std::string HasNoMatrixSize(int largest) {
+  return "line 1 is no size such as \"[2*3]\", rows and columns from 1 to " +
+         PrintInteger(largest) + "; check that it is a matrix file";
+}
+
+std::string HasOtherCells(int line) {
+  return "line " + PrintInteger(line) +
+         " has not as many cells as line 1 says; put a tab between two cells";
+}
+
+std::string LacksARow(int line) {
+  return "line " + PrintInteger(line) + " is missing; line 1 says that there are more rows";
+}
+
+std::string HasRowLeft(int line) {
+  return "line " + PrintInteger(line) + " is one more than line 1 says; correct the size there";
+}
+
 std::string InLine(std::uint64_t line, std::string_view start) {
   std::string text = "line " + PrintInteger(static_cast<std::int64_t>(line));
   if (!start.empty()) text.append(" (").append(Quoted(start)).append(")");

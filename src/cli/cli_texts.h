@@ -12,6 +12,10 @@ namespace kav {
 inline constexpr std::string_view kProgramName = "kavcalc";
 inline constexpr std::string_view kFailureMark = "error: ";
 inline constexpr std::string_view kPrompt = "> ";
+/// The argument that stands for standard input where a file may be named, and what messages call
+/// it.
+inline constexpr std::string_view kStandardInput = "-";
+inline constexpr std::string_view kStandardInputName = "standard input";
 
 /// The name and version of the program, with a line end.
 std::string VersionLine();
@@ -46,6 +50,16 @@ inline constexpr std::string_view kTwoUnits = "a unit and the unit to convert it
 inline constexpr std::string_view kOneConversion = "one of its conversions";
 inline constexpr std::string_view kAreaIsEmpty =
     "the TOP of --area has to be a smaller number than its BOTTOM";
+// Why a matrix file is none; each follows MatrixCannotBeLoaded. Lines are counted from 1.
+std::string MatrixCannotBeLoaded(std::string_view path, std::string_view reason);
+std::string TooLargeForAMatrix(std::size_t most);
+std::string HasNoMatrixSize(int largest);
+std::string HasOtherCells(int line);
+std::string LacksARow(int line);
+std::string HasRowLeft(int line);
+inline constexpr std::string_view kInputIsOneMatrix = "standard input can be one matrix only";
+inline constexpr std::string_view kInputIsAMatrix =
+    "standard input is a matrix here; give the expressions as arguments";
 // About lines of data that are read, but perhaps not as they are meant. They follow InLine.
 /// `line` is counted from 1, `start` are the first bytes of the line; without any it is not quoted.
 std::string InLine(std::uint64_t line, std::string_view start);

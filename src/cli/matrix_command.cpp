@@ -6,6 +6,7 @@
 
 #include "cli/evaluation.h"
 #include "cli/items.h"
+#include "cli/matrix_files.h"
 #include "common/number_text.h"
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_file.h"
@@ -14,20 +15,6 @@
 
 namespace kav {
 namespace {
-
-/// The matrices in the files of the options; those without a file are empty. Or why one cannot be
-/// loaded.
-Expected<Matrices, std::string> LoadMatrices(const Options& options) {
-  Matrices matrices;
-  for (std::size_t i = 0; i < matrices.size(); ++i) {
-    const std::string& path = options.matrixFiles[i];
-    // Expressions that name a matrix with an empty cell fail, so the size of this one never shows.
-    auto loaded = path.empty() ? MatrixOfSize(1, 1) : LoadMatrixFile(path);
-    if (!loaded) return Narrow(loaded.error());
-    matrices[i] = *std::move(loaded);
-  }
-  return matrices;
-}
 
 /// Answers items. The matrix that answers one is [M Ans] for the next.
 class MatrixSession {
@@ -56,7 +43,7 @@ class MatrixSession {
 }  // namespace
 
 int RunMatrix(const CommandLine& line) {
-  auto matrices = LoadMatrices(line.options);
+  auto matrices = LoadMatrices(line);
   if (!matrices) return Complain(matrices.error(), *line.command);
   MatrixSession session(line.options, *std::move(matrices));
   return AnswerItems(line, kLongestExpression,

@@ -23,7 +23,6 @@
 namespace kav {
 namespace {
 
-constexpr std::string_view kStandardInput = "-";
 // Longer than any path that can be opened.
 constexpr std::size_t kLongestPath = std::size_t{1} << 16U;
 
@@ -124,7 +123,7 @@ int RunStats(const CommandLine& line) {
   return AnswerItems(line, kLongestPath, [&](std::string_view item) {
     // Among the lines of standard input, "-" is a file of this name.
     if (item == kStandardInput && !line.items.empty()) {
-      return AnswerData(STDIN_FILENO, "standard input", line.options);
+      return AnswerData(STDIN_FILENO, kStandardInputName, line.options);
     }
     return AnswerFile(std::string(item), line.options);
   });

@@ -11,6 +11,7 @@ namespace kav {
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr char kBetweenCells = '\t';
 
 /// The low byte; a blank if that would end a cell or a row.
@@ -85,27 +86,47 @@ std::string PrintMatrix(const MatrixValue& matrix) {
   return text;
 }
 
-std::optional<MatrixValue> ReadMatrix(std::string_view bytes) {
+Expected<MatrixValue, MatrixFault> ReadMatrixText(std::string_view bytes) {
+  using Kind = MatrixFault::Kind;
+  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  int line = 1;
   const auto header = TakeLine(bytes);
   const auto size = header ? ReadHeader(*header) : std::nullopt;
-  if (!size) return std::nullopt;
+  if (!size) return MatrixFault{Kind::NoSize, line};
   MatrixValue matrix = MatrixOfSize(size->rows, size->columns);
   for (int row = 0; row < matrix.rows; ++row) {
-    const auto line = TakeLine(bytes);
-    if (!line || !ReadRow(*line, row, matrix)) return std::nullopt;
+    ++line;
+    const auto cells = TakeLine(bytes);
+    if (!cells) return MatrixFault{Kind::NoRow, line};
+    if (!ReadRow(*cells, row, matrix)) return MatrixFault{Kind::OtherCells, line};
   }
-  if (!bytes.empty()) return std::nullopt;
+  while (const auto left = TakeLine(bytes)) {
+    ++line;
+    if (!left->empty()) return MatrixFault{Kind::RowLeft, line};
+  }
+  return matrix;
+}
+
+std::optional<MatrixValue> ReadMatrix(std::string_view bytes) {
+  auto matrix = ReadMatrixText(bytes);
+  if (!matrix) return std::nullopt;
+  return *std::move(matrix);
+}
+
+Expected<MatrixValue, MatrixFault> ReadMatrixFile(std::string_view bytes) {
+  auto matrix = ReadMatrixText(bytes);
+  if (!matrix) return matrix;
+  for (auto& row : matrix->cells) {
+    for (std::u16string& cell : row) std::erase(cell, u',');
+  }
   return matrix;
 }
 
 Expected<MatrixValue, std::u16string> LoadMatrixFile(const std::string& path) {
-  const auto bytes = ReadWholeFile(path, kLargestMatrixFile);
-  auto matrix = bytes ? ReadMatrix(*bytes) : std::nullopt;
-  if (!matrix) return MatrixFileIsInvalid(Widen(path));
-  for (auto& row : matrix->cells) {
-    for (std::u16string& cell : row) std::erase(cell, u',');
+  if (const auto bytes = ReadWholeFile(path, kLargestMatrixFile)) {
+    if (auto matrix = ReadMatrixFile(*bytes)) return *std::move(matrix);
   }
-  return *std::move(matrix);
+  return MatrixFileIsInvalid(Widen(path));
 }
 
 std::optional<std::u16string> SaveMatrixFile(const std::string& path, const MatrixValue& matrix) {

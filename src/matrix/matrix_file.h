@@ -15,10 +15,28 @@ namespace kav {
 /// LF. Each character of a cell is written as its low byte, or as a blank if that is TAB or LF.
 std::string PrintMatrix(const MatrixValue& matrix);
 
+/// Why a text is no matrix, and in which line.
+struct MatrixFault {
+  enum class Kind {
+    NoSize,      ///< the header is malformed, or a size is outside 1 to kLargestMatrix
+    OtherCells,  ///< the row has more or fewer cells than the matrix has columns
+    NoRow,       ///< the text ends before the last row
+    RowLeft,     ///< there is more than line ends behind the last row
+  };
+  Kind kind;
+  int line;  ///< counted from 1
+};
+
 /// The matrix that `bytes` hold; each byte is a character. A line may end with LF alone, the last
-/// one with nothing. nullopt if the header is malformed, a size is outside 1 to kLargestMatrix, or
-/// cells or rows are missing or left over.
+/// one with nothing. A byte order mark before the header and empty lines behind the last row are
+/// left out: editors put them there.
+Expected<MatrixValue, MatrixFault> ReadMatrixText(std::string_view bytes);
+
+/// The same; nullopt if `bytes` hold no matrix.
 std::optional<MatrixValue> ReadMatrix(std::string_view bytes);
+
+/// The same for the bytes of a user's file: without the commas in the cells.
+Expected<MatrixValue, MatrixFault> ReadMatrixFile(std::string_view bytes);
 
 /// In bytes; more than any real matrix needs. A larger file is not read.
 inline constexpr std::size_t kLargestMatrixFile = std::size_t{1} << 20;

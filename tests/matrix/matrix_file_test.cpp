@@ -29,6 +29,14 @@ TEST(LoadMatrixFile, CommasAreTakenOutOfTheCells) {
   EXPECT_EQ(matrix->At(1, 1), u" 3x");
 }
 
+TEST(LoadMatrixFile, WhatEditorsAddIsLeftOut) {
+  const TemporaryFolder folder;
+  PutFile(folder.File("a.txt"), "\xEF\xBB\xBF[2*1]\r\n1,000\r\n2\r\n\r\n");
+  const auto matrix = LoadMatrixFile(folder.File("a.txt"));
+  ASSERT_TRUE(matrix);
+  EXPECT_EQ(Spelled(*matrix), "1000; 2");
+}
+
 TEST(LoadMatrixFile, WhatCannotBeReadIsNoMatrix) {
   const TemporaryFolder folder;
   mkdir(folder.File("folder").c_str(), 0700);

@@ -57,6 +57,10 @@ TEST(ReadMatrix, ReadsMatrices) {
       {"[1*2]\r\n\t\r\n", "_ _"},
       {"[1*1]\r\n\r\n", "_"},
       {"[2*1]\n\nx\n", "_; x"},
+      {"\xEF\xBB\xBF[1*1]\r\n1\r\n", "1"},
+      {"[1*1]\r\n1\r\n\r\n", "1"},
+      {"[1*1]\r\n1\n\n\n", "1"},
+      {"[1*1]\n\n\n", "_"},
   };
   for (const auto& row : rows) {
     const auto matrix = ReadMatrix(row.text);
@@ -88,7 +92,8 @@ TEST(ReadMatrix, RefusesAnythingElse) {
       "[1*1x]\r\n1\r\n",
       "[1*1] \r\n1\r\n",
       " [1*1]\r\n1\r\n",
-      "\xEF\xBB\xBF[1*1]\r\n1\r\n",
+      "\xEF\xBB[1*1]\r\n1\r\n",
+      "\r\n[1*1]\r\n1\r\n",
       "[0*1]\r\n",
       "[1*0]\r\n\r\n",
       "[0.9*1]\r\n1\r\n",
@@ -106,12 +111,34 @@ TEST(ReadMatrix, RefusesAnythingElse) {
       "[2*2]\r\n1\r\n2\t3\t4\r\n",
       "[1*1]\r\n1\t\r\n",
       "[1*1]\r\n1\r\n2\r\n",
-      "[1*1]\r\n1\r\n\r\n",
-      "[1*1]\r\n1\n\n",
+      "[1*1]\r\n1\r\n\r\n2\r\n",
       "[1*1]\r\n1\r\n ",
       "[1*1]\r1\r",
   };
   for (const auto& text : rows) EXPECT_FALSE(ReadMatrix(text)) << text;
+}
+
+TEST(ReadMatrixText, TheFaultNamesItsLine) {
+  using Kind = MatrixFault::Kind;
+  const struct {
+    std::string text;
+    Kind kind;
+    int line;
+  } table[] = {
+      {"", Kind::NoSize, 1},
+      {"hello\n", Kind::NoSize, 1},
+      {"[11*1]\n1\n", Kind::NoSize, 1},
+      {"[2*2]\r\n1\t2\r\n3\r\n", Kind::OtherCells, 3},
+      {"[2*2]\n1\t2\t3\n", Kind::OtherCells, 2},
+      {"[2*1]\n1\n", Kind::NoRow, 3},
+      {"[1*1]\n1\n\n2\n", Kind::RowLeft, 4},
+  };
+  for (const auto& row : table) {
+    const auto read = ReadMatrixText(row.text);
+    ASSERT_FALSE(read) << row.text;
+    EXPECT_EQ(read.error().kind, row.kind) << row.text;
+    EXPECT_EQ(read.error().line, row.line) << row.text;
+  }
 }
 
 TEST(ReadMatrix, ReadsWhatPrintMatrixWrites) {

@@ -10,3 +10,7 @@ kavcalc matrix --ans=eleven 1+1; echo $?
 kavcalc matrix --m1 large 1+1; echo $?
 kavcalc matrix --m1 '' 1+1; echo $?
 kavcalc matrix --m1 missing --m1 good '[M1]'; echo $?
+kavcalc matrix --m1 /dev/zero 1+1; echo $?
+kavcalc matrix --m1 $'a\e[31m' 1+1; echo $?
+kavcalc matrix --m1 - --m2 - 1+1 <good; echo $?
+kavcalc matrix --m1 - <good; echo $?
