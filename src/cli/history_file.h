@@ -4,27 +4,29 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace kav {
 
-/// A text file of lines, the newest last. Several prompts may use one file at the same time. If it
-/// cannot be written, standard error is told once, and nothing is kept from then on.
+/// A text file of lines, the newest last. Several prompts may use one file at the same time: each
+/// adds and cuts under a lock, the file beside it whose name ends in ".lock". A symbolic link stays
+/// one. If the file cannot be written, standard error is told once, and nothing is kept from then
+/// on.
 class HistoryFile {
  public:
   static constexpr std::size_t kCapacity = 1000;
 
   /// The file at `path`, which is made when it is first needed. With an empty path nothing is kept.
-  explicit HistoryFile(std::string path) : path_(std::move(path)) {}
+  explicit HistoryFile(std::string path);
 
   /// The newest kCapacity lines, the oldest first; none if the file cannot be read. Removes older
-  /// lines from the file.
+  /// lines from the file. Reads no more of it than these lines can take.
   std::vector<std::string> Load();
   /// Adds `line` to the file at once, unless it is longer than 4096 bytes.
   void Append(std::string_view line);
 
  private:
+  void Cut();
   void GiveUp(int error);
 
   std::string path_;

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
+#include <string>
+#include <thread>
+#include <vector>
 
 #include "support/temporary_folder.h"
 
@@ -45,6 +49,54 @@ TEST_F(HistoryFileTest, KeepsTheNewestThousand) {
   EXPECT_EQ(lines.front(), "2");
   EXPECT_EQ(lines.back(), "1001");
   EXPECT_EQ(Text().substr(0, 4), "2\n3\n");
+}
+
+TEST_F(HistoryFileTest, PromptsThatStartAndAddAtOnceLoseNoLine) {
+  constexpr int kPrompts = 4;
+  constexpr int kLines = 6;
+  HistoryFile history(path_);
+  for (int i = 0; i < 900; ++i) history.Append("old");
+  std::vector<std::thread> prompts;
+  for (int prompt = 0; prompt < kPrompts; ++prompt) {
+    prompts.emplace_back([this, prompt] {
+      for (int i = 0; i < kLines; ++i) {
+        HistoryFile mine(path_);
+        mine.Append(std::to_string(prompt) + "+" + std::to_string(i));
+        // Too many lines, so that most starts cut the file.
+        for (int old = 0; old < 12; ++old) mine.Append("old");
+        mine.Load();
+      }
+    });
+  }
+  for (std::thread& prompt : prompts) prompt.join();
+  const Lines lines = HistoryFile(path_).Load();
+  int kept = 0;
+  for (const std::string& line : lines) kept += line.find('+') == line.npos ? 0 : 1;
+  EXPECT_EQ(kept, kPrompts * kLines);
+}
+
+TEST_F(HistoryFileTest, ALinkStaysALink) {
+  const std::string link = folder_.File("link");
+  std::filesystem::create_symlink(path_, link);
+  HistoryFile history(link);
+  for (int i = 1; i <= 1001; ++i) history.Append(std::to_string(i));
+  EXPECT_EQ(HistoryFile(link).Load().front(), "2");
+  EXPECT_TRUE(std::filesystem::is_symlink(link));
+  EXPECT_EQ(Text().substr(0, 4), "2\n3\n");
+}
+
+TEST_F(HistoryFileTest, OfALargeFileOnlyTheEndIsRead) {
+  std::filesystem::create_directories(folder_.File("deep/below"));
+  // The start is a hole, which takes no room on the disk, and would take a gigabyte in memory.
+  PutFile(path_, "");
+  std::filesystem::resize_file(path_, std::uintmax_t{1} << 30U);
+  HistoryFile history(path_);
+  history.Append("");
+  history.Append("1+1");
+  history.Append("2+2");
+  const Lines lines = HistoryFile(path_).Load();
+  ASSERT_EQ(lines, (Lines{"1+1", "2+2"}));
+  EXPECT_EQ(Text(), "1+1\n2+2\n");
 }
 
 TEST_F(HistoryFileTest, LinesOfMoreThan4096BytesAreNotKept) {
