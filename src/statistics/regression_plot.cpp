@@ -9,6 +9,7 @@
 #include "common/number_text.h"
 #include "engine/formula_checker.h"
 #include "plotter/equation_list.h"
+#include "statistics/statistics_menus.h"
 #include "statistics/statistics_texts.h"
 
 namespace kav {
@@ -50,6 +51,15 @@ PlotRange RangeAround(const std::vector<DataPoint>& points) {
   return {extent.xMin - x, extent.xMax + x, extent.yMin - y, extent.yMax + y};
 }
 
+/// Whether the model has such a curve: one whose coefficients are numbers that can be written.
+bool IsCurve(const FittedCurve& curve, DisplayFormat format) {
+  const auto& [a, b, c] = curve.coefficients;
+  const auto isNumber = [format](double value) {
+    return static_cast<bool>(FormatForInsertion(value, format));
+  };
+  return isNumber(a) && isNumber(b) && (curve.model != RegressionModel::Quadratic || isNumber(c));
+}
+
 }  // namespace
 
 Expected<GraphInput, std::u16string> BuildRegressionPlot(const DataList& list,
@@ -59,6 +69,7 @@ Expected<GraphInput, std::u16string> BuildRegressionPlot(const DataList& list,
   if (!points) return std::u16string(kNoMemoryForGraph);
   const PlotRange range = RangeAround(*points);
   if (const auto refusal = RangeRefusal(range)) return std::u16string(*refusal);
+  if (!IsCurve(curve, format)) return ModelHasNoCurve(ModelItem(curve.model));
   const std::string equation = EquationText(curve.model, curve.coefficients, format);
   const auto formula = CheckFormula(equation, VariableType::X);
   if (!formula) return EquationIsUnreadable(Widen(formula.error().message), Widen(equation));

@@ -1,5 +1,6 @@
 #include "statistics/statistics_menus.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -23,6 +24,11 @@ constexpr std::array kModelChoices{
     ModelChoice{RegressionModel::Exponential, kExponentialItem, kExponentialCaption},
     ModelChoice{RegressionModel::Quadratic, kQuadraticItem, kQuadraticCaption},
 };
+
+const ModelChoice& ChoiceOf(RegressionModel model) {
+  return *std::find_if(kModelChoices.begin(), kModelChoices.end(),
+                       [model](const ModelChoice& choice) { return choice.model == model; });
+}
 
 }  // namespace
 
@@ -50,11 +56,12 @@ std::optional<RegressionModel> ModelOfItem(int id) {
   return std::nullopt;
 }
 
+std::u16string_view ModelItem(RegressionModel model) {
+  return ChoiceOf(model).text;
+}
+
 std::u16string_view ModelCaption(RegressionModel model) {
-  for (const ModelChoice& choice : kModelChoices) {
-    if (choice.model == model) return choice.caption;
-  }
-  return kLinearCaption;
+  return ChoiceOf(model).caption;
 }
 
 std::vector<std::u16string_view> CaptionsOf(const StatisticsKeyRow& row) {

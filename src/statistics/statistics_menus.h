@@ -25,6 +25,8 @@ Menu BuildVariablesMenu(LastResult result);
 Menu BuildModelMenu();
 /// nullopt for an id that the menu does not have.
 std::optional<RegressionModel> ModelOfItem(int id);
+/// The name and the equation of `model`, as its menu shows them.
+std::u16string_view ModelItem(RegressionModel model);
 /// The short name of `model`, as the button of the menu shows it.
 std::u16string_view ModelCaption(RegressionModel model);
 

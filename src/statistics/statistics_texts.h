@@ -99,10 +99,14 @@ inline constexpr std::u16string_view kLogarithmicCaption = u"Log";
 inline constexpr std::u16string_view kExponentialCaption = u"Exp";
 inline constexpr std::u16string_view kQuadraticCaption = u"Quad";
 
-/// `message` is the engine's. The equation behind it shows which coefficient is no number.
+/// `message` is the engine's.
 inline std::u16string EquationIsUnreadable(std::u16string_view message,
                                            std::u16string_view equation) {
   return std::u16string(message).append(u"\n").append(equation);
+}
+/// `model` as its menu shows it.
+inline std::u16string ModelHasNoCurve(std::u16string_view model) {
+  return std::u16string(u"The model \"").append(model).append(u"\" has no curve for these data.");
 }
 inline constexpr std::u16string_view kNoMemoryForGraph =
     u"There is not enough memory for the graph. Close other programs.";

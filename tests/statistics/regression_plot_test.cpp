@@ -121,12 +121,17 @@ TEST(RegressionPlot, DataThatDoNotSpreadAreToldBeforeABadEquation) {
   EXPECT_EQ(plot.error(), u"The maximum value of X should be bigger than the minimum value of X.");
 }
 
-TEST(RegressionPlot, EquationThatTheEngineCannotReadIsToldWithTheEnginesMessage) {
-  const auto plot = PlotOf(RegressionModel::Linear, {NAN, 2, 0});
-  ASSERT_FALSE(plot);
-  EXPECT_EQ(plot.error(), u"out is not supported.\nOut of range(overflow or underflow)*X+2");
-  EXPECT_FALSE(PlotOf(RegressionModel::Power, {1, INFINITY, 0}));
-  EXPECT_FALSE(PlotOf(RegressionModel::Quadratic, {1, 1, -INFINITY}));
+TEST(RegressionPlot, AModelWhoseCoefficientsAreNoNumbersHasNoCurve) {
+  const auto told = [](RegressionModel model, const Coefficients& fitted) {
+    const auto plot = PlotOf(model, fitted);
+    return plot ? std::u16string() : plot.error();
+  };
+  EXPECT_EQ(told(RegressionModel::Linear, {NAN, 2, 0}),
+            u"The model \"Linear : A*X+B\" has no curve for these data.");
+  EXPECT_EQ(told(RegressionModel::Power, {1, INFINITY, 0}),
+            u"The model \"Power : A*X^B\" has no curve for these data.");
+  EXPECT_EQ(told(RegressionModel::Quadratic, {1, 1, -INFINITY}),
+            u"The model \"Quadratic : A*X^2+B*X+C\" has no curve for these data.");
 }
 
 // Coefficients that a model lacks are not in its equation.

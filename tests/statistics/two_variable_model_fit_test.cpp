@@ -193,11 +193,11 @@ TEST_F(TwoVariableFit, PlotTellsWhenDataDoNotSpread) {
             u"The maximum value of Y should be bigger than the minimum value of Y.");
 }
 
-TEST_F(TwoVariableFit, PlotTellsWhenTheCurveHasNoEquation) {
+TEST_F(TwoVariableFit, PlotTellsWhenTheModelHasNoCurve) {
   Fill({{u"0", u"1"}, {u"1", u"2"}});
   model_->Choose(StatisticsKey::Model, 2);
-  const std::u16string told = Told(Press(u"Plot"));
-  EXPECT_EQ(told.substr(0, told.find(u'\n')), u"out is not supported.");
+  EXPECT_EQ(Told(Press(u"Plot")),
+            u"The model \"Power : A*X^B\" has no curve for these data.");
 }
 
 TEST_F(TwoVariableFit, PlotIsThatOfTheChosenModel) {
