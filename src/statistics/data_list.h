@@ -147,4 +147,10 @@ class DataList {
   TextArena texts_;
 };
 
+/// What rows were sorted by: a column as DataList::Sort numbers them.
+struct DataSorting {
+  std::size_t column;
+  DataList::Direction direction;
+};
+
 }  // namespace kav

@@ -1,5 +1,9 @@
 #include "statistics/statistics_model.h"
 
+#if __has_include(<malloc.h>)
+#include <malloc.h>
+#endif
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -19,6 +23,16 @@ namespace {
 
 /// A single row has no spread to show.
 constexpr std::size_t kRowsForResults = 2;
+
+/// Rows whose memory is worth the time to give it back.
+constexpr std::size_t kLongList = 50'000;
+
+/// The allocator would keep the memory of a long list for rows to come.
+void GiveFreedMemoryBack() {
+#ifdef __GLIBC__
+  malloc_trim(0);
+#endif
+}
 
 /// A number as lists, fields and memory variables hold it.
 std::u16string PlainText(double value, DisplayFormat format) {
@@ -173,6 +187,7 @@ void StatisticsModel::EnableGrown(std::size_t before) {
 
 void StatisticsModel::MarkChanged() {
   isModified_ = true;
+  sorted_.reset();
   ++revision_;
   Forget();
 }
@@ -221,8 +236,19 @@ void StatisticsModel::ClearRows() {
   if (!IsEditing()) TakeRows(DataList(Shape()));
 }
 
+StatisticsModel::~StatisticsModel() {
+  DropRows();
+}
+
+void StatisticsModel::DropRows() {
+  const bool wasLong = list_.RowCount() >= kLongList;
+  list_ = DataList(Shape());
+  if (wasLong) GiveFreedMemoryBack();
+}
+
 /// Makes `rows` the list, which then needs no saving.
 void StatisticsModel::TakeRows(DataList rows) {
+  DropRows();
   list_ = std::move(rows);
   selected_.reset();
   const std::size_t complete = list_.CompleteRowCount();
@@ -265,7 +291,11 @@ std::optional<std::u16string> StatisticsModel::LoadFrom(const std::string& path,
                                                         const WorkProgress& progress) {
   if (IsEditing()) return std::nullopt;
   auto loaded = LoadDataFile(path, Shape(), progress);
-  if (auto* rows = std::get_if<DataList>(&loaded)) TakeRows(std::move(*rows));
+  if (auto* rows = std::get_if<DataList>(&loaded)) {
+    TakeRows(std::move(*rows));
+  } else {
+    GiveFreedMemoryBack();
+  }
   return FailureOf(loaded);
 }
 
@@ -293,6 +323,7 @@ AngleUnit StatisticsModel::Angle() const {
 void StatisticsModel::SortBy(std::size_t column) {
   if (IsEditing() || column > VariablesOf(Shape())) return;
   list_.Sort(column, nextDirection_);
+  sorted_ = {column, nextDirection_};
   nextDirection_ = nextDirection_ == DataList::Direction::Ascending
                        ? DataList::Direction::Descending
                        : DataList::Direction::Ascending;
@@ -313,6 +344,10 @@ std::optional<std::u16string> StatisticsModel::PasteRows(std::u16string_view tex
   if (const auto refusal = list_.InsertTop(pasted->rows)) return WhyRowsDoNotFit(*refusal);
   EnableGrown(before);
   if (list_.RowCount() != before) MarkChanged();
+  if (list_.RowCount() - before >= kLongList) {
+    pasted->rows = DataList(Shape());
+    GiveFreedMemoryBack();
+  }
   if (pasted->complaint.empty()) return std::nullopt;
   return std::move(pasted->complaint);
 }

@@ -27,7 +27,7 @@ class StatisticsModel {
   StatisticsModel(DataShape shape, SettingsStore& store);
   StatisticsModel(const StatisticsModel&) = delete;
   StatisticsModel& operator=(const StatisticsModel&) = delete;
-  virtual ~StatisticsModel() = default;
+  virtual ~StatisticsModel();
 
   const DataList& List() const { return list_; }
   DataShape Shape() const { return list_.Shape(); }
@@ -75,6 +75,8 @@ class StatisticsModel {
   /// A click on the heading of a column: sorts by it, upwards and downwards in turn. Columns are
   /// numbered as in DataList::Sort.
   void SortBy(std::size_t column);
+  /// What the rows are sorted by, as long as they are.
+  std::optional<DataSorting> Sorted() const { return sorted_; }
   /// The rows at the indices `rows` as text for spreadsheets.
   std::u16string CopyRows(std::span<const std::size_t> rows) const;
   /// Inserts the rows of `text` at the top of the list. Answers what the user is told, if anything.
@@ -106,6 +108,7 @@ class StatisticsModel {
   void EndEdit();
   StatisticsRequest AskDelete() const;
   void TakeRows(DataList rows);
+  void DropRows();
   void EnableGrown(std::size_t before);
   void MarkChanged();
   bool CanStoreResult() const;
@@ -122,6 +125,7 @@ class StatisticsModel {
   double lastResult_ = 0;
   bool hasResult_ = false;  ///< else `resultText_` is what a new screen shows
   bool isModified_ = false;
+  std::optional<DataSorting> sorted_;
   DataList::Direction nextDirection_ = DataList::Direction::Ascending;
   unsigned revision_ = 0;
 };
