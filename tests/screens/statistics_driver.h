@@ -17,6 +17,7 @@
 
 #include "screens/box_watch.h"
 #include "screens/screen_driver.h"
+#include "screens/statistics/data_table_view.h"
 #include "screens/statistics/one_variable_dlg.h"
 #include "screens/statistics/two_variable_dlg.h"
 
@@ -88,7 +89,7 @@ class StatisticsDriver : public testing::Test {
   }
 
   // The list. Rows and columns are numbered from 0.
-  QTableView& Table() { return *dlg_->findChild<QTableView*>(); }
+  DataTableView& Table() { return dynamic_cast<DataTableView&>(*dlg_->findChild<QTableView*>()); }
   std::string Rows() {
     QStringList rows;
     for (int row = 0; row < Table().model()->rowCount(); ++row) {

@@ -173,6 +173,20 @@ TEST_F(StatisticsKeyboardTest, TheResultCannotBeCutOrPastedOver) {
   EXPECT_EQ(test::ResultOf(*dlg_), u"1,500");
 }
 
+TEST_F(StatisticsKeyboardTest, TheArrowShowsWhatTheRowsAreSortedByAsLongAsTheyAre) {
+  const QHeaderView& headings = *Table().horizontalHeader();
+  AddRows("10 1;9 3;-2 2");
+  EXPECT_EQ(headings.sortIndicatorSection(), -1);
+  ClickHeading(1);
+  EXPECT_EQ(headings.sortIndicatorSection(), 1);
+  const Qt::SortOrder ascending = headings.sortIndicatorOrder();
+  ClickHeading(0);
+  EXPECT_EQ(headings.sortIndicatorSection(), 0);
+  EXPECT_NE(headings.sortIndicatorOrder(), ascending);
+  AddRows("5");
+  EXPECT_EQ(headings.sortIndicatorSection(), -1);
+}
+
 TEST_F(StatisticsKeyboardTest, ArrowsLeadThroughFieldsAndKeys) {
   Key(Qt::Key_Down);
   EXPECT_TRUE(HasFocus("Count"));

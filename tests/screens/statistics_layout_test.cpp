@@ -45,7 +45,7 @@ class StatisticsLayoutTest : public StatisticsDriver {
     }
     const QFontMetricsF heading(Table().horizontalHeader()->font());
     EXPECT_GE(Table().horizontalHeader()->height(), heading.height());
-    EXPECT_GE(Table().rowHeight(0), QFontMetrics(Table().font()).height());
+    EXPECT_GE(Table().RowHeight(), QFontMetrics(Table().font()).height());
     for (int column = 0; column < Table().model()->columnCount(); ++column) {
       const QString text = Table().model()->headerData(column, Qt::Horizontal).toString();
       EXPECT_LT(heading.horizontalAdvance(text), Table().columnWidth(column));
@@ -61,7 +61,7 @@ class StatisticsLayoutTest : public StatisticsDriver {
       ExpectEveryCaptionFits(*dlg_);
       ExpectNoneOverlaps();
       ExpectTextsFit();
-      EXPECT_GE(Table().viewport()->height(), 4 * Table().rowHeight(0)) << "four rows are seen";
+      EXPECT_GE(Table().viewport()->height(), 4 * Table().RowHeight()) << "four rows are seen";
     }
   }
   void OpenOne() { Open(MakeOneVariableScreen(frame_)); }

@@ -7,10 +7,10 @@
 #include <QSignalBlocker>
 #include <QStyle>
 #include <algorithm>
-#include <limits>
 #include <numeric>
 #include <utility>
 
+#include "screens/statistics/number_delegate_view.h"
 #include "screens/widgets/access_view.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
@@ -53,7 +53,7 @@ class DataTableView::Cells final : public QAbstractTableModel {
     const auto row = static_cast<std::size_t>(index.row());
     // The list may have changed since the last Reload.
     if (!index.isValid() || row >= list_.RowCount()) return {};
-    if (role == Qt::TextAlignmentRole) return AlignmentOf(index.column());
+    if (role == Qt::TextAlignmentRole) return Alignment();
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return TextOf(row, index.column());
     return {};
   }
@@ -61,17 +61,14 @@ class DataTableView::Cells final : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
     if (orientation != Qt::Horizontal) return {};
     if (role == Qt::DisplayRole) return ToQt(columns_[static_cast<std::size_t>(section)].heading);
-    if (role == Qt::TextAlignmentRole) return AlignmentOf(section);
+    if (role == Qt::TextAlignmentRole) return Alignment();
     if (role == Qt::ToolTipRole) return ToQt(SortHint(section + 1));
     return {};
   }
 
   bool IsCount(int column) const { return column + 1 == static_cast<int>(columns_.size()); }
 
-  QVariant AlignmentOf(int column) const {
-    return QVariant::fromValue(Qt::AlignVCenter |
-                               (IsCount(column) ? Qt::AlignRight : Qt::AlignLeft));
-  }
+  static QVariant Alignment() { return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight); }
 
   QString TextOf(std::size_t row, int column) const {
     if (IsCount(column)) return QString::fromStdString(list_.CountText(row));
@@ -86,51 +83,55 @@ class DataTableView::Cells final : public QAbstractTableModel {
 
 DataTableView::DataTableView(QWidget* parent, const DataList& list,
                              std::span<const DataColumn> columns)
-    : QTableView(parent),
+    : RowTable(parent),
       list_(list),
       columns_(columns.begin(), columns.end()),
       cells_(new Cells(this, list, columns)) {
   for (QWidget* part : findChildren<QWidget*>()) part->setStyle(ScreenStyle());
   setStyle(ScreenStyle());
   setAccessibleName(ToQt(kDataListName));
-  setSelectionBehavior(SelectRows);
-  setSelectionMode(ExtendedSelection);
-  setEditTriggers(NoEditTriggers);
-  setTabKeyNavigation(false);
-  setWordWrap(false);
-  setCornerButtonEnabled(false);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  verticalHeader()->hide();
-  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  setItemDelegate(new NumberDelegate(this));
+  MakeHeadings();
+  DataTableView::setModel(cells_);
+  LetKeyboardFollow(*this);
+}
+
+void DataTableView::MakeHeadings() {
   QHeaderView& headings = *horizontalHeader();
-  headings.setSectionResizeMode(QHeaderView::Fixed);
+  headings.setSectionResizeMode(QHeaderView::Interactive);
   headings.setSectionsClickable(true);
   headings.setHighlightSections(false);
   headings.setMinimumSectionSize(1);
-  const auto press = [this](int column) {
-    if (hooks_.headingPressed) hooks_.headingPressed(static_cast<std::size_t>(column));
-  };
-  connect(&headings, &QHeaderView::sectionClicked, this, press);
+  headings.setSortIndicator(-1, Qt::AscendingOrder);
+  headings.setSortIndicatorShown(true);
+  connect(&headings, &QHeaderView::sectionClicked, this, &DataTableView::PressHeading);
+  connect(&headings, &QHeaderView::sectionResized, this, &DataTableView::OnColumnDragged);
   for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
     auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_1 + column)), this);
-    connect(shortcut, &QShortcut::activated, this, [press, column] { press(column); });
+    connect(shortcut, &QShortcut::activated, this, [this, column] { PressHeading(column); });
   }
-  DataTableView::setModel(cells_);
 }
 
-void DataTableView::setModel(QAbstractItemModel* model) {
-  QTableView::setModel(model);
-  // A header that shared the selection of the rows would look at all of them whenever it is
-  // painted.
-  horizontalHeader()->setSelectionModel(new QItemSelectionModel(model, this));
-  LetKeyboardFollow(*this);
+void DataTableView::PressHeading(int column) {
+  if (hooks_.headingPressed) hooks_.headingPressed(static_cast<std::size_t>(column));
+}
+
+void DataTableView::OpenRow(int) {
+  if (hooks_.edit) hooks_.edit();
+}
+
+void DataTableView::ShowSorted(const std::optional<DataSorting>& sorting) {
+  const bool isAscending = !sorting || sorting->direction == DataList::Direction::Ascending;
+  // The toolkit calls upwards what points down.
+  horizontalHeader()->setSortIndicator(sorting ? static_cast<int>(sorting->column) : -1,
+                                       isAscending ? Qt::DescendingOrder : Qt::AscendingOrder);
+  FitHeadings();
 }
 
 void DataTableView::Reload() {
   const int top = verticalScrollBar()->value();
   const int current = currentIndex().row();
   const int before = model()->rowCount();
-  SetRowHeight();
   cells_->Reload();
   updateGeometries();
   // New rows are at the top: show them.
@@ -185,58 +186,68 @@ std::vector<std::size_t> DataTableView::SelectedRows() const {
 void DataTableView::SetTextHeight(int pixels) {
   setFont(ScreenFont(pixels));
   FitHeadings();
-  SetRowHeight();
+  SetRowHeight(qRound(fontMetrics().height() * kRowHeight));
 }
 
 void DataTableView::FitHeadings() {
   QHeaderView& header = *horizontalHeader();
   // This is the most that they take: they shrink with the letters.
   const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+  const int arrow = style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this) + margins;
   std::vector<SpacedText> headings;
   headings.reserve(columns_.size());
   for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
+    const int beside = column == header.sortIndicatorSection() ? margins + arrow : margins;
     headings.push_back(
-        {ToQt(columns_[static_cast<std::size_t>(column)].heading), columnWidth(column) - margins});
+        {ToQt(columns_[static_cast<std::size_t>(column)].heading), columnWidth(column) - beside});
   }
   header.setFont(ScreenFont(FittingPixels(headings, font().pixelSize(), 1)));
 }
 
-void DataTableView::SetRowHeight() {
-  // The height of all rows together has to be an int.
-  const auto rows = std::max<std::size_t>(list_.RowCount(), 1);
-  const auto most = static_cast<int>(std::numeric_limits<int>::max() / rows);
-  const int height = std::min(qRound(fontMetrics().height() * kRowHeight), most);
-  if (verticalHeader()->defaultSectionSize() == height) return;
-  // Otherwise the header would report each row.
-  const QSignalBlocker quiet(verticalHeader());
-  verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(height);
-  updateGeometries();
-  viewport()->update();
+void DataTableView::resizeEvent(QResizeEvent* event) {
+  RowTable::resizeEvent(event);
+  ShareWidth();
 }
 
-void DataTableView::resizeEvent(QResizeEvent* event) {
-  QTableView::resizeEvent(event);
+/// The columns take all of the width, each its part.
+void DataTableView::ShareWidth() {
   const int whole = std::accumulate(columns_.begin(), columns_.end(), 0,
                                     [](int sum, const DataColumn& c) { return sum + c.width; });
+  const QSignalBlocker quiet(horizontalHeader());
+  std::int64_t before = 0;
   int left = 0;
-  int before = 0;
   for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
     before += columns_[static_cast<std::size_t>(column)].width;
-    const int right = viewport()->width() * before / std::max(whole, 1);
-    setColumnWidth(column, right - left);
+    const auto right = static_cast<int>(viewport()->width() * before / std::max(whole, 1));
+    horizontalHeader()->resizeSection(column, right - left);
     left = right;
   }
   FitHeadings();
+  viewport()->update();
+}
+
+void DataTableView::OnColumnDragged(int column, int before, int after) {
+  const auto dragged = static_cast<std::size_t>(column);
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    columns_[i].width = i == dragged ? before : columnWidth(static_cast<int>(i));
+  }
+  // The next column gives what this one takes, so that all stay in view.
+  if (dragged + 1 < columns_.size()) {
+    const int both = before + columns_[dragged + 1].width;
+    const int least = std::min(2 * font().pixelSize(), both / 2);
+    columns_[dragged].width = std::clamp(after, least, both - least);
+    columns_[dragged + 1].width = both - columns_[dragged].width;
+  }
+  ShareWidth();
 }
 
 void DataTableView::selectionChanged(const QItemSelection& now, const QItemSelection& before) {
-  QTableView::selectionChanged(now, before);
+  RowTable::selectionChanged(now, before);
   if (hooks_.selectionChanged) hooks_.selectionChanged();
 }
 
 void DataTableView::mouseDoubleClickEvent(QMouseEvent* event) {
-  QTableView::mouseDoubleClickEvent(event);
+  RowTable::mouseDoubleClickEvent(event);
   const bool isOnRow = indexAt(event->position().toPoint()).isValid();
   if (isOnRow && event->button() == Qt::LeftButton && hooks_.edit) hooks_.edit();
 }
@@ -265,14 +276,7 @@ void DataTableView::keyPressEvent(QKeyEvent* event) {
   const bool isTyped =
       !event->text().isEmpty() && event->text().front().isPrint() && event->key() != Qt::Key_Space;
   if (isTyped && !event->matches(QKeySequence::SelectAll)) return event->ignore();
-  QTableView::keyPressEvent(event);
-}
-
-QModelIndex DataTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-  // Home and End go to the ends of the list, not of a row.
-  if (action == MoveHome) return model()->index(0, 0);
-  if (action == MoveEnd) return model()->index(model()->rowCount() - 1, 0);
-  return QTableView::moveCursor(action, modifiers);
+  RowTable::keyPressEvent(event);
 }
 
 }  // namespace kav

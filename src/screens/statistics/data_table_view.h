@@ -1,7 +1,6 @@
 // The table that shows the rows of a data list.
 #pragma once
 
-#include <QTableView>
 #include <functional>
 #include <optional>
 #include <span>
@@ -9,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "screens/statistics/row_table_view.h"
 #include "statistics/data_list.h"
 
 namespace kav {
@@ -29,8 +29,9 @@ struct DataTableHooks {
 };
 
 /// Shows `list`, which must outlive it, with a column for each variable and one for the count. One
-/// or several whole rows can be selected. Lists of any length take the same time to show.
-class DataTableView final : public QTableView {
+/// or several whole rows can be selected. Lists of any length take the same time to show. Together
+/// the columns are as wide as the table; the user drags the edges between them.
+class DataTableView final : public RowTable {
  public:
   DataTableView(QWidget* parent, const DataList& list, std::span<const DataColumn> columns);
 
@@ -47,8 +48,11 @@ class DataTableView final : public QTableView {
   std::vector<std::size_t> SelectedRows() const;
 
   void SetTextHeight(int pixels);
+  /// Marks the column that the rows are sorted by.
+  void ShowSorted(const std::optional<DataSorting>& sorting);
 
-  void setModel(QAbstractItemModel* model) override;
+  void OpenRow(int row) override;
+  void PressHeading(int column) override;
 
  private:
   class Cells;
@@ -57,12 +61,13 @@ class DataTableView final : public QTableView {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void selectionChanged(const QItemSelection& now, const QItemSelection& before) override;
-  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void keyboardSearch(const QString&) override {}
 
+  void MakeHeadings();
   /// Gives headings the letters of the rows, or smaller ones if a column is too narrow for them.
   void FitHeadings();
-  void SetRowHeight();
+  void ShareWidth();
+  void OnColumnDragged(int column, int before, int after);
   /// Calls `select`, which selects rows, without scrolling to them.
   void WithoutScrolling(const std::function<void()>& select);
   bool DoCommand(const QKeyEvent& event);

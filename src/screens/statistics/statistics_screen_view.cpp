@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "line/line_texts.h"
+#include "screens/statistics/row_access_view.h"
 #include "screens/widgets/file_choice.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
@@ -40,6 +41,12 @@ bool IsForField(const QKeyEvent& event) {
   return !event.text().isEmpty() && !IsEnter(event) && event.key() != Qt::Key_Escape;
 }
 
+DataTableView* NewTable(QWidget* parent, const DataList& list,
+                        std::span<const DataColumn> columns) {
+  OfferRowTablesToScreenReaders();
+  return new DataTableView(parent, list, columns);
+}
+
 }  // namespace
 
 StatisticsScreen::StatisticsScreen(Frame& frame, ScreenMode mode,
@@ -50,7 +57,7 @@ StatisticsScreen::StatisticsScreen(Frame& frame, ScreenMode mode,
       model_(std::move(model)),
       patience_(patience),
       fields_(this, model_->Shape()),
-      table_(new DataTableView(this, model_->List(), columns)),
+      table_(NewTable(this, model_->List(), columns)),
       result_(new ResultView(this)),
       shown_(model_->Revision()) {
   for (const DataField field : fields_.All()) fields_.Line(field).installEventFilter(this);
@@ -105,6 +112,7 @@ void StatisticsScreen::Refresh() {
   table_->setEnabled(!model_->IsEditing());
   if (std::exchange(shown_, model_->Revision()) != model_->Revision()) table_->Reload();
   table_->Select(model_->Selected());
+  table_->ShowSorted(model_->Sorted());
   RefreshKeys();
   if (focusWidget() != table_) FocusLine(model_->FocusedField());
 }
