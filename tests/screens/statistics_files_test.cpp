@@ -313,7 +313,9 @@ TEST_F(StatisticsFilesTest, SelectedRowsAreCopiedFromTheTop) {
 
 TEST_F(StatisticsFilesTest, PastedRowsComeOnTop) {
   AddRows("1 1");
+  BoxWatch::Instance().ExpectAnswer("30 | 4");
   PasteIntoList("10\t2\r\n20;3\n30,4\n40 5\n50\n");
+  EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
   EXPECT_EQ(Rows(), "10 2;20 3;30 4;40 5;50 1;1 1");
   EXPECT_EQ(Total(), "16");
   EXPECT_EQ(OnesOn(kResultKeys), kResultKeys);

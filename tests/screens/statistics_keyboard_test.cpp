@@ -140,15 +140,102 @@ TEST_F(StatisticsKeyboardTest, TheEditMenuWorksOnTheFieldOfLate) {
   EXPECT_EQ(TextIn("X"), "2");
 }
 
-TEST_F(StatisticsKeyboardTest, TheEditMenuWorksOnTheListWhileThatHasTheFocus) {
+TEST_F(StatisticsKeyboardTest, TheEditMenuWorksOnTheFieldOfLateWhileTheListHasTheFocus) {
   AddRows("1;2;3");
+  Put("X", "77");
+  Field("X").setFocus();
+  Field("X").selectAll();
   ClickRow(1);
   ChooseFrom(*dlg_, u"&Edit", u"&Copy");
-  EXPECT_EQ(QApplication::clipboard()->text(), "2\t1\n");
-  ChooseFrom(*dlg_, u"&Edit", u"Select &All");
-  EXPECT_EQ(SelectedRows(), "0 1 2");
+  EXPECT_EQ(QApplication::clipboard()->text(), "77");
+  ClickRow(2);
+  QApplication::clipboard()->setText("5");
   ChooseFrom(*dlg_, u"&Edit", u"&Paste");
+  EXPECT_EQ(TextIn("X"), "5");
+  EXPECT_EQ(Rows(), "3 1;2 1;1 1");
+}
+
+TEST_F(StatisticsKeyboardTest, TheRowsHaveAMenuOfTheirOwn) {
+  const auto open = [this] {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, PlaceOf(1),
+                            Table().viewport()->mapToGlobal(PlaceOf(1)));
+    QCoreApplication::sendEvent(Table().viewport(), &event);
+  };
+  AddRows("1;2;3");
+  open();
+  ASSERT_NE(OpenMenu(), nullptr);
+  EXPECT_EQ(Offered(OpenMenu()), (Texts{u"&Copy", u"&Paste", u"Select &All"}));
+  EXPECT_FALSE(OpenMenu()->actions().front()->isEnabled()) << "no row is selected";
+  QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+  ClickRow(1);
+  open();
+  Choose(u"&Copy");
+  EXPECT_EQ(QApplication::clipboard()->text(), "2\t1\n");
+  open();
+  Choose(u"Select &All");
+  EXPECT_EQ(SelectedRows(), "0 1 2");
+  open();
+  Choose(u"&Paste");
   EXPECT_EQ(Rows(), "2 1;3 1;2 1;1 1");
+}
+
+TEST_F(StatisticsKeyboardTest, ACommaInPastedRowsIsAskedAbout) {
+  BoxWatch& watch = BoxWatch::Instance();
+  watch.Expect(QMessageBox::Cancel);
+  PasteIntoList("1,5\n2,25\n");
+  EXPECT_EQ(Rows(), "");
+  watch.ExpectAnswer("1.5");
+  PasteIntoList("1,5\n2,25\n");
+  EXPECT_EQ(Rows(), "1.5 1;2.25 1");
+  watch.ExpectAnswer("1 | 5");
+  PasteIntoList("1,5\n");
+  EXPECT_EQ(Rows(), "1 5;1.5 1;2.25 1");
+  watch.ExpectAnswer("1234.5");
+  PasteIntoList("1.234,5\n");
+  EXPECT_EQ(Rows(), "1234.5 1;1 5;1.5 1;2.25 1");
+  EXPECT_EQ(watch.TakeSeen().size(), 4U);
+  PasteIntoList("1.5,2\n");
+  EXPECT_EQ(Rows(), "1.5 2;1234.5 1;1 5;1.5 1;2.25 1") << "that is no decimal comma";
+}
+
+TEST_F(StatisticsKeyboardTest, ALongNumberThatTheProgramWritesShowsItsFirstDigits) {
+  AddRows("123456789012345678901234567890;1");
+  ClickRow(1);
+  Tap(u"Edit");
+  EXPECT_TRUE(IsAllSelected("X"));
+  EXPECT_EQ(Field("X").cursorPosition(), 0);
+  Tap(u"Cancel");
+  Key(Qt::Key_Tab);
+  Key(Qt::Key_Backtab);
+  EXPECT_EQ(Field("X").cursorPosition(), 0);
+}
+
+TEST_F(StatisticsKeyboardTest, TheArrowShowsWhatTheRowsAreSortedByAsLongAsTheyAre) {
+  const QHeaderView& headings = *Table().horizontalHeader();
+  AddRows("10 1;9 3;-2 2");
+  EXPECT_EQ(headings.sortIndicatorSection(), -1);
+  ClickHeading(1);
+  EXPECT_EQ(headings.sortIndicatorSection(), 1);
+  const Qt::SortOrder ascending = headings.sortIndicatorOrder();
+  ClickHeading(0);
+  EXPECT_EQ(headings.sortIndicatorSection(), 0);
+  EXPECT_NE(headings.sortIndicatorOrder(), ascending);
+  AddRows("5");
+  EXPECT_EQ(headings.sortIndicatorSection(), -1);
+}
+
+TEST_F(StatisticsKeyboardTest, EnterDoesNotClearTheList) {
+  AddRows("1;2");
+  ExpectBox(QMessageBox::NoButton);
+  QTimer::singleShot(0, [] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
+    QTest::keyClick(box, Qt::Key_Return);
+  });
+  Tap(u"Clear");
+  ExpectSeen(u"Are you sure you want to delete all data?", QMessageBox::Question);
+  EXPECT_EQ(Rows(), "2 1;1 1");
 }
 
 TEST_F(StatisticsKeyboardTest, TheEditMenuCopiesWhatIsSelectedOfTheResult) {
@@ -171,20 +258,6 @@ TEST_F(StatisticsKeyboardTest, TheResultCannotBeCutOrPastedOver) {
   }
   EXPECT_TRUE(CanEditLine(Result(*dlg_), EditCommand::Copy));
   EXPECT_EQ(test::ResultOf(*dlg_), u"1,500");
-}
-
-TEST_F(StatisticsKeyboardTest, TheArrowShowsWhatTheRowsAreSortedByAsLongAsTheyAre) {
-  const QHeaderView& headings = *Table().horizontalHeader();
-  AddRows("10 1;9 3;-2 2");
-  EXPECT_EQ(headings.sortIndicatorSection(), -1);
-  ClickHeading(1);
-  EXPECT_EQ(headings.sortIndicatorSection(), 1);
-  const Qt::SortOrder ascending = headings.sortIndicatorOrder();
-  ClickHeading(0);
-  EXPECT_EQ(headings.sortIndicatorSection(), 0);
-  EXPECT_NE(headings.sortIndicatorOrder(), ascending);
-  AddRows("5");
-  EXPECT_EQ(headings.sortIndicatorSection(), -1);
 }
 
 TEST_F(StatisticsKeyboardTest, ArrowsLeadThroughFieldsAndKeys) {

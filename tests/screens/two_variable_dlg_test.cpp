@@ -283,7 +283,9 @@ TEST_F(TwoVariableDlgTest, FilesHoldThreeFieldsALine) {
 }
 
 TEST_F(TwoVariableDlgTest, PastedRowsNeedAnXAndAY) {
+  BoxWatch::Instance().ExpectAnswer("6 | 7");
   PasteIntoList("1\t2\n3;4;5\n6,7\n8 9\n");
+  EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
   EXPECT_EQ(Rows(), "1 2 1;3 4 5;6 7 1;8 9 1");
   EXPECT_EQ(OnesOn(kResultKeys), kResultKeys);
 }

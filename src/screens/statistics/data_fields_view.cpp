@@ -87,7 +87,13 @@ void DataFieldsView::Show(const TypedRow& typed) {
     if (text == TextOf(Line(field))) continue;
     Line(field).selectAll();
     Line(field).insert(ToQt(text));
+    Line(field).home(false);
   }
+}
+
+void SelectFromEnd(QLineEdit& line) {
+  const auto length = static_cast<int>(line.text().size());
+  line.setSelection(length, -length);
 }
 
 void DataFieldsView::ShowTotal(const std::optional<std::u16string>& total) {

@@ -28,7 +28,7 @@ class DataFieldsView {
   std::optional<DataField> FieldOf(const QObject* widget) const;
 
   TypedRow Typed() const;
-  /// Undo in a field takes the change back in one step.
+  /// Undo in a field takes the change back in one step. A long number shows its first digits.
   void Show(const TypedRow& typed);
 
   /// Hides the total if it is nullopt.
@@ -47,6 +47,9 @@ class DataFieldsView {
   QLabel* totalLabel_;
   QLabel* total_;
 };
+
+/// Selects all of `line`, with the caret before it: so a long number shows its first digits.
+void SelectFromEnd(QLineEdit& line);
 
 /// The height of the text in a field and beside it, as a part of the field's height.
 inline constexpr double kFieldText = 0.62;

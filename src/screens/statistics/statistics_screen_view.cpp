@@ -4,13 +4,17 @@
 #include <QClipboard>
 #include <QInputMethod>
 #include <QKeyEvent>
+#include <QMenu>
 #include <algorithm>
 #include <utility>
 #include <variant>
 #include <vector>
 
+#include "display/comma_reading.h"
 #include "line/line_texts.h"
 #include "screens/statistics/row_access_view.h"
+#include "screens/widgets/app_texts.h"
+#include "screens/widgets/comma_question.h"
 #include "screens/widgets/file_choice.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
@@ -78,6 +82,8 @@ void StatisticsScreen::SetTableHooks() {
   hooks.copy = [this] { CopyRows(); };
   hooks.paste = [this] { PasteRows(); };
   table_->SetHooks(std::move(hooks));
+  table_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(table_, &QWidget::customContextMenuRequested, this, &StatisticsScreen::OpenRowsMenu);
 }
 
 void StatisticsScreen::OnKey(StatisticsKey key) {
@@ -137,6 +143,14 @@ void StatisticsScreen::CarryOut(const StatisticsRequest& request) {
   std::visit([this](const auto& what) { Do(what); }, request);
 }
 
+void StatisticsScreen::Do(const AskFirst<StatisticsKey>& request) {
+  // What is lost can be typed again only as long as it is one row.
+  const bool isYes = request.key == StatisticsKey::Clear ? AskNoOrYes(this, request.question)
+                                                         : AskYesNo(this, request.question);
+  if (isYes) OnYes(request.key);
+  Refresh();
+}
+
 void StatisticsScreen::Do(const FieldRefusal& request) {
   ShowStop(this, request.text);
   Do(FocusField{request.focus});
@@ -144,7 +158,7 @@ void StatisticsScreen::Do(const FieldRefusal& request) {
 
 void StatisticsScreen::Do(const FocusField& request) {
   FocusLine(request.field);
-  fields_.Line(request.field).selectAll();
+  SelectFromEnd(fields_.Line(request.field));
 }
 
 void StatisticsScreen::OnYes(StatisticsKey key) {
@@ -202,16 +216,23 @@ QLineEdit& StatisticsScreen::Edited() const {
 }
 
 void StatisticsScreen::Edit(EditCommand command) {
-  if (!EditsList()) return EditLine(Edited(), command);
-  if (command == EditCommand::Copy) CopyRows();
-  if (command == EditCommand::Paste) PasteRows();
-  if (command == EditCommand::SelectAll) table_->selectAll();
+  EditLine(Edited(), command);
 }
 
 bool StatisticsScreen::CanEdit(EditCommand command) const {
-  if (!EditsList()) return CanEditLine(Edited(), command);
-  if (command == EditCommand::Copy) return table_->FirstSelected().has_value();
-  return command == EditCommand::Paste || command == EditCommand::SelectAll;
+  return CanEditLine(Edited(), command);
+}
+
+void StatisticsScreen::OpenRowsMenu(const QPoint& place) {
+  QMenu* menu = MakePopUp();
+  const auto add = [this, menu](std::u16string_view text, auto action) {
+    return menu->addAction(ToQt(text), this, action);
+  };
+  const auto isFull = model_->List().RowCount() > 0;
+  add(kCopyEntry, [this] { CopyRows(); })->setEnabled(table_->FirstSelected().has_value());
+  add(kPasteEntry, [this] { PasteRows(); });
+  add(kSelectAllEntry, [this] { table_->selectAll(); })->setEnabled(isFull);
+  menu->popup(table_->viewport()->mapToGlobal(place));
 }
 
 void StatisticsScreen::CopyRows() const {
@@ -222,7 +243,12 @@ void StatisticsScreen::CopyRows() const {
 
 void StatisticsScreen::PasteRows() {
   TakeLine();
-  const std::u16string text = QApplication::clipboard()->text().toStdU16String();
+  std::u16string text = QApplication::clipboard()->text().toStdU16String();
+  if (const auto question = QuestionOfCommas(text)) {
+    const auto meaning = AskForCommas(this, *question);
+    if (!meaning) return;
+    text = WithCommas(text, *meaning);
+  }
   Tell(Run(kPastingData,
            [&](const WorkProgress& progress) { return model_->PasteRows(text, progress); }));
 }
@@ -230,10 +256,9 @@ void StatisticsScreen::PasteRows() {
 bool StatisticsScreen::eventFilter(QObject* watched, QEvent* event) {
   const std::optional<DataField> field = fields_.FieldOf(watched);
   if (event->type() == QEvent::FocusIn) {
-    editsList_ = !field;
     if (field) model_->SetFocusedField(*field);
     // After the Tab key, typing replaces the text.
-    if (field && IsByTab(*static_cast<QFocusEvent*>(event))) fields_.Line(*field).selectAll();
+    if (field && IsByTab(*static_cast<QFocusEvent*>(event))) SelectFromEnd(fields_.Line(*field));
     result_->deselect();
   }
   if (field && event->type() == QEvent::KeyPress) {

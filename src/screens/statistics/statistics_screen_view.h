@@ -21,8 +21,8 @@ namespace kav {
 
 /// Enter in a field presses "Add". While a row is edited, Enter presses "Ok" and Esc "Cancel".
 /// Typing goes to the field that had the focus last, unless the focused widget has a use for the
-/// key. The Edit menu works on the selection in the result if there is one, else on the list if it
-/// has the focus, else on that field.
+/// key. The Edit menu works on that field, or on the selection in the result if there is one; the
+/// rows of the list have a menu of their own.
 class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
  public:
   /// Work on the list that takes longer than `patience` shows its progress.
@@ -50,6 +50,7 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   // What a key asks for.
   void CarryOut(const StatisticsRequest& request) override;
   void OnYes(StatisticsKey key) override;
+  void Do(const AskFirst<StatisticsKey>& request);
   void Do(const FieldRefusal& request);
   void Do(const FocusField& request);
   void Do(const AskSaveFile&) { Save(); }
@@ -60,11 +61,11 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   void Tell(const std::optional<std::u16string>& text);
   std::optional<std::u16string> Run(std::u16string_view title, const Work& work);
 
-  // The Edit menu and the keyboard.
-  bool EditsList() const { return editsList_ && !result_->hasSelectedText(); }
+  // The Edit menu, the menu of the rows and the keyboard.
   QLineEdit& Edited() const;
   void Edit(EditCommand command) override;
   bool CanEdit(EditCommand command) const override;
+  void OpenRowsMenu(const QPoint& place);
   void CopyRows() const;
   void PasteRows();
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -77,8 +78,7 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   DataFieldsView fields_;
   DataTableView* table_;
   ResultView* result_;
-  unsigned shown_;          ///< the revision of the list that the table shows
-  bool editsList_ = false;  ///< the list had the focus after the fields
+  unsigned shown_;  ///< the revision of the list that the table shows
 };
 
 }  // namespace kav

@@ -162,6 +162,13 @@ Decision AskYesNoCancel(QWidget* parent, std::u16string_view question) {
   return pressed == QMessageBox::No ? Decision::No : Decision::Cancel;
 }
 
+bool AskNoOrYes(QWidget* parent, std::u16string_view question) {
+  ScaledBox box(QMessageBox::Question, ToQt(question), {}, QMessageBox::Yes | QMessageBox::No,
+                parent);
+  box.setDefaultButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
 std::optional<std::size_t> AskWhich(QWidget* parent, std::u16string_view question,
                                     const std::vector<std::u16string>& answers) {
   ScaledBox box(QMessageBox::Question, ToQt(question), {}, QMessageBox::Cancel, parent);

@@ -26,6 +26,9 @@ enum class Decision { Yes, No, Cancel };
 /// Asks `question`. Closing the box is a Cancel.
 Decision AskYesNoCancel(QWidget* parent, std::u16string_view question);
 
+/// As AskYesNo, for what loses much: the Enter key answers No.
+bool AskNoOrYes(QWidget* parent, std::u16string_view question);
+
 /// Asks `question` with one button for each of `answers`, and Cancel. Returns the index of the
 /// answer; nullopt for Cancel and for closing the box.
 std::optional<std::size_t> AskWhich(QWidget* parent, std::u16string_view question,
