@@ -83,7 +83,7 @@ TEST_F(PlotterOptionsDlgTest, OkHandsTheRangeAndTheOptionsBack) {
   const auto made = Run(kOptions, [this] {
     Type("X min", "-1.5");
     Type("X max", "1e2");
-    Type("Y min", "-1,000");
+    Type("Y min", "-1,000.0");
     Type("Y max", "0");
     Tick(u"Grid");
     Tick(u"Line");

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "converter/converter_model.h"
@@ -44,6 +45,7 @@ class CConverterDlg final : public Dialog {
 
   SettingsStore& store_;
   ConverterModel model_;
+  bool hasAsked_ = false;  ///< for conversions, at the choice of a category that is going on
   ChoiceView* category_ = new ChoiceView(kCategoryName);
   QLineEdit* value_ = new QLineEdit;
   ChoiceView* input_ = new ChoiceView(kInputUnitName);
@@ -94,7 +96,7 @@ void CConverterDlg::LayOut() {
 
 void CConverterDlg::Connect() {
   connect(category_, &QComboBox::currentIndexChanged, this, &CConverterDlg::OnCategory);
-  // To choose the chosen category again counts, too.
+  // To choose the chosen category again counts, too. Another one raises both signals.
   connect(category_, &QComboBox::activated, this, &CConverterDlg::OnCategory);
   connect(input_, &QComboBox::currentIndexChanged, this, [this](int unit) {
     model_.ChooseInput(unit);
@@ -104,7 +106,7 @@ void CConverterDlg::Connect() {
     model_.ChooseOutput(unit);
     Refresh();
   });
-  connect(value_, &QLineEdit::textEdited, this, [this](const QString& text) {
+  connect(value_, &QLineEdit::textChanged, this, [this](const QString& text) {
     model_.SetText(text.toStdU16String());
     Refresh();
   });
@@ -151,13 +153,17 @@ void CConverterDlg::RefreshValue() {
 }
 
 void CConverterDlg::OnCategory(int category) {
+  if (hasAsked_) return;
   const auto missing = model_.ChooseCategory(category);
   Refresh();
   if (!missing) return;
+  hasAsked_ = true;
   ShowStop(this, *missing);
   RunUserConversions(this, store_);
   model_.RereadUserConversions();
   Refresh();
+  // Not before the other signal of this choice.
+  QTimer::singleShot(0, this, [this] { hasAsked_ = false; });
 }
 
 void CConverterDlg::OnMemory() {

@@ -104,11 +104,12 @@ QLayout* CDisplaySettingsDlg::NewBottomRow() {
 }
 
 void CDisplaySettingsDlg::Connect() {
-  connect(&types_->Buttons(), &QButtonGroup::idClicked, this, [this](int type) {
+  connect(&types_->Buttons(), &QButtonGroup::idToggled, this, [this](int type, bool isOn) {
+    if (!isOn) return;
     model_.ChooseType(static_cast<DisplayType>(type));
     Refresh();
   });
-  connect(precision_, &QLineEdit::textEdited, this, [this](const QString& text) {
+  connect(precision_, &QLineEdit::textChanged, this, [this](const QString& text) {
     model_.TypePrecision(text.toStdU16String());
     Refresh();
   });

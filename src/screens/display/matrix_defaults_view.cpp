@@ -58,18 +58,20 @@ void MatrixDefaultsView::LayOut() {
 }
 
 void MatrixDefaultsView::Connect() {
-  connect(columnWidth_, &QLineEdit::textEdited, this,
+  connect(columnWidth_, &QLineEdit::textChanged, this,
           [this](const QString& text) { model_.TypeColumnWidth(text.toStdU16String()); });
-  connect(rows_, &QComboBox::activated, this,
+  connect(rows_, &QComboBox::currentIndexChanged, this,
           [this](int index) { model_.ChooseMatrixRows(index + kMatrixSizeRange.least); });
-  connect(columns_, &QComboBox::activated, this,
+  connect(columns_, &QComboBox::currentIndexChanged, this,
           [this](int index) { model_.ChooseMatrixColumns(index + kMatrixSizeRange.least); });
-  connect(alignment_, &QComboBox::activated, this,
+  connect(alignment_, &QComboBox::currentIndexChanged, this,
           [this](int index) { model_.ChooseAlignment(static_cast<CellAlignment>(index)); });
 }
 
 void MatrixDefaultsView::Refresh() {
-  columnWidth_->setText(ToQt(model_.ColumnWidth()));
+  // Not the same text again: that would move the caret.
+  const QString width = ToQt(model_.ColumnWidth());
+  if (columnWidth_->text() != width) columnWidth_->setText(width);
   rows_->setCurrentIndex(model_.MatrixRows() - kMatrixSizeRange.least);
   columns_->setCurrentIndex(model_.MatrixColumns() - kMatrixSizeRange.least);
   alignment_->setCurrentIndex(static_cast<int>(model_.Alignment()));

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <array>
 #include <utility>
 #include <variant>
@@ -46,7 +47,10 @@ QCheckBox* CPlotterDlg::NewOptionBox(std::u16string_view caption, PlotterOption 
   box->setStyle(ScreenStyle());
   // Like a key, it leaves the caret where it is when it is tapped.
   box->setFocusPolicy(Qt::TabFocus);
-  connect(box, &QCheckBox::clicked, this, [this, option] {
+  connect(box, &QCheckBox::toggled, this, [this, option](bool isOn) {
+    const bool wasOn =
+        option == PlotterOption::Grid ? model_.Options().hasGrid : model_.Options().hasLines;
+    if (isOn == wasOn) return;
     TakeLine();
     model_.Toggle(option);
     Refresh();
@@ -59,10 +63,13 @@ void CPlotterDlg::MakeList() {
   list_->setStyle(ScreenStyle());
   list_->view();  // made now, it gets the look of the screen
   for (auto* part : list_->findChildren<QWidget*>()) part->setStyle(ScreenStyle());
-  connect(list_, &QComboBox::activated, this, [this](int place) {
+  const auto onChoice = [this](int place) {
     model_.ChooseEquation(static_cast<std::size_t>(place));
     Refresh();
-  });
+  };
+  connect(list_, &QComboBox::currentIndexChanged, this, onChoice);
+  // To choose the chosen one again writes it into the input again.
+  connect(list_, &QComboBox::activated, this, onChoice);
 }
 
 void CPlotterDlg::OrderTabs() {
@@ -113,6 +120,7 @@ void CPlotterDlg::Refresh() {
 
 void CPlotterDlg::ShowEquations() {
   const EquationList& equations = model_.Equations();
+  const QSignalBlocker noChoice(list_);
   list_->clear();
   for (const std::u16string& equation : equations.All()) list_->addItem(OneLine(equation));
   list_->setCurrentIndex(equations.Selected() ? static_cast<int>(*equations.Selected()) : -1);

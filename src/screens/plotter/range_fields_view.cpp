@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <algorithm>
@@ -32,7 +33,7 @@ RangeFieldsView::RangeFieldsView(QWidget* screen,
     edit->setStyle(ScreenStyle());
     edit->setAccessibleName(caption);
     edit->setInputMethodHints(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText);
-    QObject::connect(edit, &QLineEdit::textEdited, edit, [onEdited, field](const QString& text) {
+    QObject::connect(edit, &QLineEdit::textChanged, edit, [onEdited, field](const QString& text) {
       onEdited(field, text.toStdU16String());
     });
     captions_[IndexOf(field)] = new QLabel(caption, screen);
@@ -45,6 +46,8 @@ void RangeFieldsView::Show(const RangeTexts& texts) {
     const QString text = OneLine(texts[IndexOf(field)]);
     // Setting the same text again would move the caret while the user types.
     if (Of(field).text() == text) continue;
+    // What is shown may be cut; only what the user changes is taken.
+    const QSignalBlocker blocker(&Of(field));
     Of(field).setText(text);
     Of(field).home(false);
   }
