@@ -131,6 +131,7 @@ TEST_F(AccessInputTest, TheEmptyCategoryIsToldOnce) {
         BoxWatch::Instance().Expect(QMessageBox::Ok);
         BoxWatch::Instance().ExpectDialog([](QDialog& editor) { editor.reject(); });
         for (int i = 0; i < 14; ++i) StepOn(dialog, "Category");
+        QCoreApplication::processEvents();
         EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
       });
 }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QKeyEvent>
 #include <functional>
 #include <string>
 #include <utility>
@@ -52,6 +53,7 @@ class WithoutUserConversions : public ConverterDriver {
     BoxWatch::Instance().Expect(QMessageBox::Ok);
     BoxWatch::Instance().ExpectDialog(std::move(inEditor));
     Choose(Category(), "15. User Define");
+    QCoreApplication::processEvents();
     const auto seen = BoxWatch::Instance().TakeSeen();
     ASSERT_EQ(seen.size(), 1U);
     EXPECT_EQ(seen[0].text, u"Not exist saved user-define unit convert");
@@ -80,6 +82,27 @@ TEST_F(WithoutUserConversions, TheKeyboardIsToldOnceToo) {
     BoxWatch::Instance().Expect(QMessageBox::Ok);
     BoxWatch::Instance().ExpectDialog([](QDialog& editor) { editor.reject(); });
     Press(Qt::Key_Down);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
+    EXPECT_EQ(Category().currentText(), "01. Area");
+    Tap(u"Cancel");
+  });
+}
+
+TEST_F(WithoutUserConversions, TheKeyThatEndsTheChoiceMayComeTwice) {
+  Run({u"1", {13, 0, 0}, 0}, [this] {
+    Click(Category());
+    QAbstractItemView& list = *Category().view();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list.isVisible(); }));
+    QTest::keyClick(&list, Qt::Key_End);
+    BoxWatch::Instance().Expect(QMessageBox::Ok);
+    BoxWatch::Instance().ExpectDialog([](QDialog& editor) { editor.reject(); });
+    // As a screen reader's bus does, which hands each key on when it has read it.
+    for (int i = 0; i < 2; ++i) {
+      QKeyEvent key(QEvent::ShortcutOverride, Qt::Key_Return, Qt::NoModifier);
+      QCoreApplication::sendEvent(&list, &key);
+    }
+    QCoreApplication::processEvents();
     EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
     EXPECT_EQ(Category().currentText(), "01. Area");
     Tap(u"Cancel");

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <string_view>
 
 #include "converter/converter_model.h"
 #include "converter/converter_texts.h"
@@ -39,13 +40,14 @@ class CConverterDlg final : public Dialog {
   void RefreshChoices();
   void RefreshValue();
   void OnCategory(int category);
+  void AskForConversions(std::u16string_view missing);
   void OnMemory();
   void OnAccept();
   void SetTextHeight(int text) override;
 
   SettingsStore& store_;
   ConverterModel model_;
-  bool hasAsked_ = false;  ///< for conversions, at the choice of a category that is going on
+  bool asks_ = false;  ///< for conversions, since the empty category was chosen
   ChoiceView* category_ = new ChoiceView(kCategoryName);
   QLineEdit* value_ = new QLineEdit;
   ChoiceView* input_ = new ChoiceView(kInputUnitName);
@@ -96,7 +98,7 @@ void CConverterDlg::LayOut() {
 
 void CConverterDlg::Connect() {
   connect(category_, &QComboBox::currentIndexChanged, this, &CConverterDlg::OnCategory);
-  // To choose the chosen category again counts, too. Another one raises both signals.
+  // To choose the chosen category again counts, too.
   connect(category_, &QComboBox::activated, this, &CConverterDlg::OnCategory);
   connect(input_, &QComboBox::currentIndexChanged, this, [this](int unit) {
     model_.ChooseInput(unit);
@@ -153,17 +155,22 @@ void CConverterDlg::RefreshValue() {
 }
 
 void CConverterDlg::OnCategory(int category) {
-  if (hasAsked_) return;
+  if (asks_) return;
   const auto missing = model_.ChooseCategory(category);
   Refresh();
   if (!missing) return;
-  hasAsked_ = true;
-  ShowStop(this, *missing);
+  asks_ = true;
+  // Not in the middle of the choice: it raises both signals, and where a screen reader listens the
+  // key that ends it comes a second time.
+  QTimer::singleShot(0, this, [this, text = *missing] { AskForConversions(text); });
+}
+
+void CConverterDlg::AskForConversions(std::u16string_view missing) {
+  ShowStop(this, missing);
   RunUserConversions(this, store_);
   model_.RereadUserConversions();
+  asks_ = false;
   Refresh();
-  // Not before the other signal of this choice.
-  QTimer::singleShot(0, this, [this] { hasAsked_ = false; });
 }
 
 void CConverterDlg::OnMemory() {
