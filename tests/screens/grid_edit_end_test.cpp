@@ -52,6 +52,58 @@ TEST_F(GridEditTest, KeysThatLeadThroughTheTextStayInIt) {
   EXPECT_TRUE(window_.keys.empty());
 }
 
+TEST_F(GridEditTest, ArrowsAtTheEndsOfTheTextLeadOnToTheNeighbour) {
+  Begin("12");
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Text({2, 2}), u"12");
+  EXPECT_EQ(Focus(), "2,3");
+  EXPECT_FALSE(grid_.IsEditing());
+  Begin("34");
+  Key(Qt::Key_Home);
+  Key(Qt::Key_Left);
+  EXPECT_EQ(Text({2, 3}), u"34");
+  EXPECT_EQ(Focus(), "2,2");
+  Key(Qt::Key_F2);
+  Key(Qt::Key_Right);
+  EXPECT_EQ(BoxText(), "12") << "first to the end of what is selected";
+  EXPECT_FALSE(Box().hasSelectedText());
+  Key(Qt::Key_Left, Qt::ShiftModifier);
+  Key(Qt::Key_Right, Qt::ShiftModifier);
+  Key(Qt::Key_Right, Qt::ShiftModifier);
+  Key(Qt::Key_Right, Qt::ControlModifier);
+  EXPECT_EQ(BoxText(), "12") << "with Shift or Ctrl they stay";
+}
+
+TEST_F(GridEditTest, ArrowsAtTheBorderOfTheGridStayInTheText) {
+  grid_.SetFocusCell({5, 3});
+  Begin("7");
+  Key(Qt::Key_Right);
+  EXPECT_EQ(BoxText(), "7");
+  grid_.SetFocusCell({5, 1});
+  Begin("7");
+  Key(Qt::Key_Home);
+  Key(Qt::Key_Left);
+  EXPECT_EQ(BoxText(), "7");
+}
+
+TEST_F(GridEditTest, EnterAfterTabsLeadsBelowTheCellWhereTheyBegan) {
+  grid_.SetFocusCell({4, 1});
+  for (const char* text : {"1", "2"}) {
+    Type(text);
+    Key(Qt::Key_Tab);
+  }
+  Type("3");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Focus(), "5,1");
+  Type("4");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Focus(), "6,1");
+  Key(Qt::Key_Right);
+  Type("5");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Focus(), "7,2");
+}
+
 TEST_F(GridEditTest, TabInTheLastCellTakesTheTextAndLeaves) {
   grid_.SetFocusCell({20, 3});
   Begin();

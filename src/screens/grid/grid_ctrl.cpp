@@ -24,6 +24,12 @@ void CGridCtrl::SetFocusCell(GridCell cell) {
   selector_.TellFocus();
 }
 
+void CGridCtrl::EditCell(GridCell cell, const QString& text) {
+  setFocus(Qt::OtherFocusReason);
+  SetFocusCell(cell);
+  edit_.BeginWith(text);
+}
+
 void CGridCtrl::SelectTo(GridCell cell) {
   GiveUpEdit();
   Mark(SelectionTo(Model(), Marked(), cell, GridReach::Selection));

@@ -34,6 +34,8 @@ class CGridCtrl final : public GridTable {
   bool IsEditing() const { return edit_.Cell().has_value(); }
   /// As F2; does nothing if there is no focus cell.
   void EditFocusCell() { edit_.Begin(); }
+  /// Edits a cell, with `text` in the box in place of the cell's.
+  void EditCell(GridCell cell, const QString& text);
   void FinishEdit() { edit_.Finish(); }  ///< takes what was typed, if an edit is going on
   /// The cell, which keeps its text; nullopt if no edit is going on.
   std::optional<GridCell> GiveUpEdit() { return edit_.GiveUp(); }

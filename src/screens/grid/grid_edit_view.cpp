@@ -1,5 +1,9 @@
 #include "screens/grid/grid_edit_view.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QPainter>
 #include <algorithm>
 #include <utility>
@@ -51,6 +55,13 @@ void GridEdit::Begin() {
   setFocus(Qt::OtherFocusReason);
 }
 
+void GridEdit::BeginWith(const QString& text) {
+  Begin();
+  if (!cell_) return;
+  selectAll();
+  insert(text);
+}
+
 std::optional<GridCell> GridEdit::GiveUp() {
   const std::optional<GridCell> cell = std::exchange(cell_, std::nullopt);
   if (!cell) return cell;
@@ -90,10 +101,49 @@ bool GridEdit::event(QEvent* event) {
   const bool isShortcut = event->type() == QEvent::ShortcutOverride;
   if (!isShortcut && event->type() != QEvent::KeyPress) return QLineEdit::event(event);
   const auto& key = static_cast<const QKeyEvent&>(*event);
-  if (!EndsEdit(key)) return QLineEdit::event(event);
+  const bool isPaste = key.matches(QKeySequence::Paste);
+  if (!isPaste && !EndsEdit(key) && !LeadsOut(key)) return QLineEdit::event(event);
   event->accept();
-  if (!isShortcut) OnEnd(key);
+  if (isShortcut) return true;
+  if (isPaste) {
+    Paste();
+  } else {
+    OnEnd(key);
+  }
   return true;
+}
+
+/// Whether the key leads from an end of the text to a cell beside it.
+bool GridEdit::LeadsOut(const QKeyEvent& key) const {
+  constexpr Qt::KeyboardModifiers kOther =
+      Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  const bool isLeft = key.key() == Qt::Key_Left;
+  if (!cell_ || (key.modifiers() & kOther) != 0 || hasSelectedText()) return false;
+  if (!isLeft && key.key() != Qt::Key_Right) return false;
+  if (cursorPosition() != (isLeft ? 0 : text().size())) return false;
+  const GridCell next{cell_->row, cell_->column + (isLeft ? -1 : 1)};
+  return table_.Model().Nearest(next) == next;
+}
+
+void GridEdit::Paste() {
+  const QString block = QApplication::clipboard()->text();
+  const bool isBlock = block.contains(u'\t') || block.trimmed().contains(u'\n');
+  if (!isBlock || !hooks_.pasteBlock) {
+    // A spreadsheet ends a single cell with the end of a line.
+    return insert(block.trimmed());
+  }
+  GiveUp();
+  hooks_.pasteBlock();
+}
+
+void GridEdit::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu* menu = createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
+    paste->disconnect(SIGNAL(triggered(bool)));
+    connect(paste, &QAction::triggered, this, [this] { Paste(); });
+  }
+  menu->popup(event->globalPos());
 }
 
 void GridEdit::OnEnd(const QKeyEvent& key) {
@@ -107,7 +157,8 @@ void GridEdit::OnEnd(const QKeyEvent& key) {
   const int step = StepOf(key);
   if (!IsTab(key)) {
     const GridMove* move = MoveOf(key.key(), {});
-    selector_.Go(cell, move != nullptr ? *move : GridMove{step, 0}, GridReach::Focus);
+    if (move == nullptr) return selector_.GoByEnter(cell, step);
+    selector_.Go(cell, *move, GridReach::Focus);
   } else if (!selector_.GoByTab(cell, step)) {
     focusNextPrevChild(step > 0);
   }

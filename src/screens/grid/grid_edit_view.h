@@ -10,7 +10,8 @@
 namespace kav {
 
 /// Edits one cell after the other. While no edit is going on the box is hidden. Enter, Tab, Esc and
-/// keys that leave the line end an edit, as does the loss of the focus.
+/// keys that leave the line, or lead on at an end of its text, end an edit, as does the loss of the
+/// focus. Several cells that are pasted are left to the hooks.
 class GridEdit final : public QLineEdit {
  public:
   /// Of the hooks it tells those of edits. All must outlive it.
@@ -21,6 +22,8 @@ class GridEdit final : public QLineEdit {
   /// Edits the focus cell, its text selected. Does nothing if there is none, or if an edit is going
   /// on.
   void Begin();
+  /// The same with `text` in the box.
+  void BeginWith(const QString& text);
   /// Gives the cell what was typed, if an edit is going on.
   void Finish();
   /// Leaves the cell its text, and returns it; nullopt if no edit is going on.
@@ -32,7 +35,10 @@ class GridEdit final : public QLineEdit {
   bool event(QEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void OnEnd(const QKeyEvent& key);
+  bool LeadsOut(const QKeyEvent& key) const;
+  void Paste();
 
   GridTable& table_;
   GridSelector& selector_;

@@ -17,6 +17,8 @@ struct GridHooks {
   std::function<void(int row, int column, const QString& text)> endEdit;
   /// A column has another width; during a drag, each time.
   std::function<void(int column, int width)> columnResized;
+  /// A text of several cells is pasted into the box of a cell, whose edit has been given up.
+  std::function<void()> pasteBlock = {};
 };
 
 }  // namespace kav

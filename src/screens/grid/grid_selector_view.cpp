@@ -20,8 +20,16 @@ void GridSelector::Go(GridCell from, GridMove by, GridReach reach) {
 
 bool GridSelector::GoByTab(GridCell from, int step) {
   const GridCell next = NextByTab(table_.Model(), from, step);
+  if (from != tabsTo_ || from.IsNone()) tabsFrom_ = from;
+  tabsTo_ = next;
   if (!next.IsNone()) Select(next, GridReach::Focus);
   return !next.IsNone();
+}
+
+void GridSelector::GoByEnter(GridCell from, int step) {
+  if (from == tabsTo_ && !tabsFrom_.IsNone()) from.column = tabsFrom_.column;
+  tabsTo_ = {};
+  Go(from, {step, 0}, GridReach::Focus);
 }
 
 void GridSelector::Take(const GridSelection& selection) {

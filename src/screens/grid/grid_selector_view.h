@@ -16,6 +16,9 @@ class GridSelector {
   void Go(GridCell from, GridMove by, GridReach reach);
   /// Goes on to the next cell or, with step -1, back; false at the last or first cell.
   bool GoByTab(GridCell from, int step);
+  /// Goes to the next row or, with step -1, back; after steps by Tab, in the column where they
+  /// began.
+  void GoByEnter(GridCell from, int step);
   /// Tells the cell at which keys are, if the table has them.
   void TellFocus();
 
@@ -23,6 +26,9 @@ class GridSelector {
   void Take(const GridSelection& selection);
 
   GridTable& table_;
+  // Of steps by Tab that follow one another: where they began, and where they have led.
+  GridCell tabsFrom_;
+  GridCell tabsTo_;
 };
 
 }  // namespace kav
