@@ -39,7 +39,12 @@ struct AskFirst {
 };
 
 struct TellStop {
-  std::u16string text;  ///< with the stop icon
+  std::u16string text;       ///< with the stop icon
+  std::u16string more = {};  ///< stands below, if not empty
+};
+
+struct TellNotice {
+  std::u16string text;  ///< as a warning
 };
 
 struct AskSaveFile {};  ///< then the model's SaveTo with the file's path

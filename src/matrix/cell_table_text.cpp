@@ -6,12 +6,16 @@
 
 #include "common/number_text.h"
 #include "display/number_input.h"
+#include "matrix/matrix_texts.h"
 
 namespace kav {
 namespace {
 
 // The smallest double, written in full, has somewhat fewer digits.
 constexpr std::size_t kLongestNumber = 1100;
+
+/// So many characters of a text that is no number are shown.
+constexpr std::size_t kLongestRefused = 30;
 
 constexpr char16_t kTab = u'\t';
 constexpr char16_t kComma = u',';
@@ -52,6 +56,34 @@ bool IsNumberText(std::u16string_view text) {
   return number && std::isfinite(*number);
 }
 
+std::optional<CommaQuestion> QuestionOfCells(std::u16string_view text) {
+  std::optional<CommaQuestion> question = QuestionOfCommas(text);
+  if (!question || text.find(kTab) == text.npos) return question;
+  std::vector<CommaMeaning>& meanings = question->meanings;
+  std::erase(meanings, CommaMeaning::Separator);
+  // ReadCells takes whole groups of three digits as thousands by itself.
+  if (meanings.empty() || meanings == std::vector{CommaMeaning::Grouping}) return std::nullopt;
+  return question;
+}
+
+std::u16string CellsWithCommas(std::u16string_view text, CommaMeaning meaning) {
+  std::u16string read = WithCommas(text, meaning);
+  // With decimal commas no comma is left to separate cells.
+  if (meaning == CommaMeaning::DecimalPoint) std::replace(read.begin(), read.end(), u';', kTab);
+  return read;
+}
+
+std::optional<std::u16string> CellRefusal(std::u16string_view text) {
+  if (text.find(kComma) == text.npos) return std::nullopt;
+  if (auto refusal = CommaRefusal(text)) return refusal;
+  if (IsShownNumber(text)) return std::nullopt;
+  return CommasAreNoThousands(Shortened(text, kLongestRefused));
+}
+
+std::u16string TypedCell(std::u16string text) {
+  return text.find(kComma) != text.npos && IsShownNumber(text) ? Cleaned(text) : text;
+}
+
 std::u16string PrintCells(const MatrixValue& matrix, const CellRange& range) {
   std::u16string text;
   for (int row = range.top; row <= range.bottom; ++row) {
@@ -78,7 +110,9 @@ PastedCells ReadCells(std::u16string_view text, int rows, int columns) {
       if (row >= rows || column >= columns) {
         ++cells.beyond;
       } else if (cell.size() > kLongestNumber || !IsShownNumber(cell)) {
-        ++cells.refused;
+        if (cells.refused++ > 0) continue;
+        cells.firstRefused = {static_cast<int>(row), static_cast<int>(column),
+                              Shortened(cell, kLongestRefused)};
       } else {
         cells.numbers.push_back({static_cast<int>(row), static_cast<int>(column), Cleaned(cell)});
       }

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "display/comma_reading.h"
 #include "matrix/matrix_value.h"
 
 namespace kav {
@@ -27,7 +29,30 @@ struct PastedCells {
   std::vector<PastedNumber> numbers;  ///< in the rows and columns that there is room for
   std::size_t beyond = 0;             ///< how many cells are in other rows or columns
   std::size_t refused = 0;            ///< how many cells that there is room for are no numbers
+  PastedNumber firstRefused{};        ///< of those the first, as it was pasted
+
+  /// Whether all of it is one number, in the first cell.
+  bool IsOneNumber() const {
+    return numbers.size() == 1 && beyond == 0 && refused == 0 && numbers.front().row == 0 &&
+           numbers.front().column == 0;
+  }
 };
+
+/// What to ask before `text` is read as a table; nullopt if its commas can be read in one way only.
+/// Between TABs they never separate cells.
+std::optional<CommaQuestion> QuestionOfCells(std::u16string_view text);
+
+/// `text` for ReadCells, if its commas have that meaning. Where they are decimal ones, cells are
+/// separated by semicolons.
+std::u16string CellsWithCommas(std::u16string_view text, CommaMeaning meaning);
+
+/// Why `text` cannot become a cell: it has commas that do not stand between the thousands of a
+/// number, or that could be a decimal point. nullopt if it can.
+std::optional<std::u16string> CellRefusal(std::u16string_view text);
+
+/// `text` as it becomes a cell that is not refused: a number without the commas between its
+/// thousands.
+std::u16string TypedCell(std::u16string text);
 
 /// Reads `text` as a table with room for `rows` rows and `columns` columns, 1 to kLargestMatrix.
 /// Each line is a row and ends with LF or CR LF. If the text has a TAB, TABs separate the cells,

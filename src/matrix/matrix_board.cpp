@@ -60,13 +60,31 @@ std::u16string MatrixBoard::CopyCells(const CellRange& cells) const {
   return PrintCells(matrix, cells.IsOneCell() ? all : WithinMatrix(cells, matrix));
 }
 
+std::u16string MatrixBoard::CutCells(const CellRange& cells) {
+  std::u16string text = PrintCells(Shown(), WithinMatrix(cells, Shown()));
+  ClearCells(cells);
+  return text;
+}
+
 std::optional<std::u16string> MatrixBoard::PasteCells(int row, int column,
                                                       std::u16string_view text) {
-  if (!HasCell(row, column)) return std::nullopt;
-  const PastedCells pasted = ReadCells(text, kLargestMatrix - row, kLargestMatrix - column);
-  edits_.Change(shown_, Overwritten(Shown(), row, column, pasted));
-  if (pasted.beyond == 0 && pasted.refused == 0) return std::nullopt;
-  return CellsWereLeftOut(pasted.beyond, pasted.refused);
+  return PasteInto({row, column, row, column}, text);
+}
+
+std::optional<std::u16string> MatrixBoard::PasteInto(const CellRange& cells,
+                                                     std::u16string_view text) {
+  if (!HasCell(cells.top, cells.left)) return std::nullopt;
+  const PastedCells pasted =
+      ReadCells(text, kLargestMatrix - cells.top, kLargestMatrix - cells.left);
+  if (pasted.refused > 0) {
+    const PastedNumber& first = pasted.firstRefused;
+    return BlockHasNoNumber(first.text, first.row, first.column);
+  }
+  edits_.Change(shown_, pasted.IsOneNumber()
+                            ? Filled(Shown(), cells, pasted.numbers.front().text)
+                            : Overwritten(Shown(), cells.top, cells.left, pasted));
+  if (pasted.beyond == 0) return std::nullopt;
+  return CellsDidNotFit(pasted.beyond);
 }
 
 void MatrixBoard::Undo() {

@@ -1,6 +1,7 @@
 // The four matrices, which of them is shown, and the matrix clipboard.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -46,9 +47,15 @@ class MatrixBoard {
   /// The cells of the matrix that are in `cells`, as PrintCells writes them; all of the matrix if
   /// `cells` is one cell.
   std::u16string CopyCells(const CellRange& cells) const;
+  /// Empties the cells of the matrix that are in `cells`; what stood in them, as PrintCells writes
+  /// it.
+  std::u16string CutCells(const CellRange& cells);
   /// Writes the numbers that ReadCells finds in `text` from a cell on; the matrix grows for them.
-  /// What the user is to be told about those that were left out.
+  /// A text that is no number keeps all of them out. What the user is to be told if not all came
+  /// in.
   std::optional<std::u16string> PasteCells(int row, int column, std::u16string_view text);
+  /// The same from the first cell of `cells` on, but a single number fills all of them.
+  std::optional<std::u16string> PasteInto(const CellRange& cells, std::u16string_view text);
   // As matrix_file.h has them; what the user is to be told if it failed.
   std::optional<std::u16string> SaveTo(const std::string& path) const;
   std::optional<std::u16string> LoadFrom(const std::string& path);
@@ -60,6 +67,7 @@ class MatrixBoard {
   void Paste();
 
   // Undo and Redo show the matrix that they change.
+  std::size_t ChangeCount() const { return edits_.ChangeCount(); }
   bool CanUndo() const { return edits_.CanUndo(); }
   bool CanRedo() const { return edits_.CanRedo(); }
   void Undo();

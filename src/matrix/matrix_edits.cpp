@@ -47,6 +47,7 @@ std::optional<int> MatrixEdits::Redo() {
 /// Does `step`; the step that leads back.
 MatrixEdits::Step MatrixEdits::Exchange(Step step) {
   std::swap(matrices_[step.index], step.matrix);
+  ++changes_;
   if (step.widths) std::swap(widths_[step.index], *step.widths);
   step.characters = CountCharacters(step.matrix);
   return step;

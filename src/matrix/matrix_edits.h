@@ -38,6 +38,9 @@ class MatrixEdits {
   /// One step, or none if nothing changes. nullopt keeps the widths.
   void Change(int index, MatrixValue matrix, std::optional<ColumnWidths> widths = std::nullopt);
 
+  /// Grows with every change, undo and redo.
+  std::size_t ChangeCount() const { return changes_; }
+
   bool CanUndo() const { return !undo_.empty(); }
   bool CanRedo() const { return !redo_.empty(); }
   /// Which matrix changed; nullopt if there was nothing to undo or redo.
@@ -62,6 +65,7 @@ class MatrixEdits {
   std::array<ColumnWidths, kMatrixCount> widths_;
   Steps undo_;
   Steps redo_;
+  std::size_t changes_ = 0;
 };
 
 }  // namespace kav

@@ -50,10 +50,13 @@ bool IsMatrixExpression(std::u16string_view line) {
   }
 }
 
+bool NamesMatrix(std::u16string_view line, int index) {
+  return Names(line, kMatrixNames[static_cast<std::size_t>(index)]);
+}
+
 std::optional<int> FirstInvalidMatrix(std::u16string_view line, const Matrices& matrices) {
   for (int i = 0; i < kMatrixCount; ++i) {
-    const auto index = static_cast<std::size_t>(i);
-    if (Names(line, kMatrixNames[index]) && HasEmptyCell(matrices[index])) return i;
+    if (NamesMatrix(line, i) && HasEmptyCell(matrices[static_cast<std::size_t>(i)])) return i;
   }
   return std::nullopt;
 }

@@ -13,6 +13,9 @@ namespace kav {
 /// matrix function, upper or lower case. Any other line is a number expression.
 bool IsMatrixExpression(std::u16string_view line);
 
+/// Whether `line` names the matrix `index`, upper or lower case.
+bool NamesMatrix(std::u16string_view line, int index);
+
 /// The index of the first matrix that has an empty cell and that `line` names, upper or lower case;
 /// nullopt if there is none.
 std::optional<int> FirstInvalidMatrix(std::u16string_view line, const Matrices& matrices);

@@ -126,16 +126,24 @@ void MatrixModel::EvaluateNumber(std::u16string_view text) {
 
 MatrixRequest MatrixModel::EvaluateMatrix(std::u16string_view text) {
   history_.Add(std::u16string(text));
-  if (const auto invalid = FirstInvalidMatrix(text, AllMatrices())) {
-    return TellStop{MatrixIsInvalid(*invalid)};
-  }
+  // A number of an earlier line would look like a part of this one's answer.
+  resultText_.clear();
+  if (const auto invalid = FirstInvalidMatrix(text, AllMatrices())) return TellInvalid(*invalid);
   auto result = MatrixEvaluator(AllMatrices(), files_).Evaluate(Narrow(text));
+  // Before the answer replaces a matrix that the line names.
+  std::u16string news = notes_.NewsOf(text, AllMatrices(), settings_.matrix);
   if (!result) {
     board_.Lock();
-    return TellStop{Widen(result.error().message)};
+    return TellStop{Widen(result.error().message), std::move(news)};
   }
   board_.TakeAnswer(*std::move(result));
-  return Nothing{};
+  if (news.empty()) return Nothing{};
+  return TellNotice{std::move(news)};
+}
+
+TellStop MatrixModel::TellInvalid(int index) const {
+  const auto cell = FirstEmptyCell(AllMatrices()[static_cast<std::size_t>(index)]);
+  return {MatrixIsInvalid(index), cell ? CellIsEmpty(cell->row, cell->column) : std::u16string()};
 }
 
 void MatrixModel::ShowAnswer() {
@@ -220,7 +228,7 @@ MatrixRequest MatrixModel::ChooseMatrixTool(int id) {
       board_.Paste();
       break;
     case matrix_tools_item::kSave:
-      if (HasEmptyCell(ShownMatrix())) return TellStop{MatrixIsInvalid(Shown())};
+      if (HasEmptyCell(ShownMatrix())) return TellInvalid(Shown());
       return AskSaveFile{};
     case matrix_tools_item::kLoad:
       return AskLoadFile{};
@@ -258,7 +266,7 @@ MatrixRequest MatrixModel::Insert(double value) {
 
 void MatrixModel::TakeDisplaySettings() {
   settings_ = LoadDisplaySettings(store_);
-  if (lastAnswer_) ShowAnswer();
+  if (lastAnswer_ && !resultText_.empty()) ShowAnswer();
 }
 
 bool MatrixModel::IsMarked(int row, int column) const {
@@ -270,6 +278,15 @@ std::u16string MatrixModel::CellHint(int row, int column) const {
   const std::u16string_view text = board_.CellText(row, column);
   if (text.empty()) return {};
   return ShownNumber(ReadCell(text), settings_.matrix, BaseMode::Decimal);
+}
+
+std::optional<std::u16string> MatrixModel::TypeCell(int row, int column,
+                                                    const std::u16string& text) {
+  // A text that nobody touched may be older than this rule.
+  if (text == board_.CellText(row, column)) return std::nullopt;
+  if (auto refusal = CellRefusal(text)) return refusal;
+  board_.SetCell(row, column, TypedCell(text));
+  return std::nullopt;
 }
 
 void MatrixModel::BeginCellEdit(int row, int column) {

@@ -1,6 +1,7 @@
 // The matrix screen without its pixels: matrices, line, keys, menus, clipboard, history, settings.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +16,7 @@
 #include "line/key_request.h"
 #include "line/screen_menus.h"
 #include "macros/macro_store.h"
+#include "matrix/cell_notes.h"
 #include "matrix/matrix_board.h"
 #include "matrix/matrix_edits.h"
 #include "matrix/matrix_keypad.h"
@@ -34,7 +36,7 @@ struct AutofitColumns {};  ///< then SetColumnWidths with what the grid found
 /// On Yes to the question of ClearCells: ClearCells with what is selected.
 using MatrixRequest =
     std::variant<Nothing, ShowMenu<MatrixKey>, AskFirst<MatrixKey>, AskMatrixSize, TellStop,
-                 AskSaveFile, AskLoadFile, AutofitColumns, OpenMacroEditor, OpenMacroList,
+                 TellNotice, AskSaveFile, AskLoadFile, AutofitColumns, OpenMacroEditor, OpenMacroList,
                  OpenConverter, RecallMemoryVariable, OpenConstants>;
 
 /// Holds the whole state of the screen. The store must outlive it.
@@ -49,7 +51,8 @@ class MatrixModel {
   // The two lines.
   const ExpressionLine& Line() const { return line_; }
   void SetLine(std::u16string text, Selection selection);
-  /// The answer or message of the last number expression; empty before the first.
+  /// The answer or message of the last number expression; empty before the first and after a
+  /// matrix expression, whose answer it would stand above.
   const std::u16string& ResultText() const { return resultText_; }
 
   // The keys and the menus that they open.
@@ -90,16 +93,27 @@ class MatrixModel {
   void SetCell(int row, int column, std::u16string text) {
     board_.SetCell(row, column, std::move(text));
   }
+  /// The same with what the user typed; why it is refused, and then the cell stays as it is.
+  std::optional<std::u16string> TypeCell(int row, int column, const std::u16string& text);
   void ClearCells(const CellRange& cells) { board_.ClearCells(cells); }
   void Resize(int rows, int columns) { board_.Resize(rows, columns); }
   /// The texts of `cells`, a line for each row, with TABs between them. For a single cell, all of
   /// the matrix.
   std::u16string CopyCells(const CellRange& cells) const { return board_.CopyCells(cells); }
+  /// Empties `cells`; their texts, as CopyCells has them for more than one.
+  std::u16string CutCells(const CellRange& cells) { return board_.CutCells(cells); }
   /// Writes the numbers of `text` into the shown matrix from a cell on; the matrix grows for them
-  /// as far as it can. Returns what to tell the user if something did not fit or is no number.
+  /// as far as it can. Nothing comes in if one of them is no number. Returns what to tell the user
+  /// if something did not.
   std::optional<std::u16string> PasteCells(int row, int column, std::u16string_view text) {
     return board_.PasteCells(row, column, text);
   }
+  /// The same from the first of `cells` on, but a single number fills all of them.
+  std::optional<std::u16string> PasteInto(const CellRange& cells, std::u16string_view text) {
+    return board_.PasteInto(cells, text);
+  }
+  /// Grows with every change of a matrix, be it by an undo.
+  std::size_t ChangeCount() const { return board_.ChangeCount(); }
   bool CanUndo() const { return board_.CanUndo(); }
   bool CanRedo() const { return board_.CanRedo(); }
   /// Both also show the matrix that changes.
@@ -117,6 +131,7 @@ class MatrixModel {
   MatrixRequest Evaluate();
   void EvaluateNumber(std::u16string_view text);
   MatrixRequest EvaluateMatrix(std::u16string_view text);
+  TellStop TellInvalid(int index) const;
   void ShowAnswer();
   MatrixRequest Insert(double value);
   MatrixRequest ChooseTool(int id);
@@ -130,6 +145,7 @@ class MatrixModel {
   ConverterLink converter_;
   History history_;
   MatrixBoard board_;
+  CellNotes notes_;
   TemporaryMatrices files_;
   ExpressionLine line_;
   std::u16string resultText_;

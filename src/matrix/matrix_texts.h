@@ -64,18 +64,44 @@ inline std::u16string MatrixFileIsInvalid(std::u16string_view path) {
   return std::u16string(path).append(u" is invalid.");
 }
 
-/// What pasting left out: `beyond` cells for lack of room, `refused` because they are no numbers.
-/// Not both are 0.
-inline std::u16string CellsWereLeftOut(std::size_t beyond, std::size_t refused) {
-  const auto sentence = [](std::size_t count, std::u16string_view one, std::u16string_view more) {
-    if (count == 0) return std::u16string();
-    return Widen(PrintInteger(static_cast<std::int64_t>(count))).append(count == 1 ? one : more);
-  };
-  std::u16string text = sentence(beyond, u" cell did not fit into the matrix.",
-                                 u" cells did not fit into the matrix.");
-  if (beyond != 0 && refused != 0) text += u' ';
-  return text + sentence(refused, u" cell is no number and was left out.",
-                         u" cells are no numbers and were left out.");
+/// What pasting left out for lack of room; `count` is not 0.
+inline std::u16string CellsDidNotFit(std::size_t count) {
+  return Widen(PrintInteger(static_cast<std::int64_t>(count)))
+      .append(count == 1 ? u" cell did not fit into the matrix."
+                         : u" cells did not fit into the matrix.");
+}
+
+/// "row 2, column 3"; both counted from 0.
+inline std::u16string PlaceOfCell(int row, int column) {
+  return u"row " + Widen(PrintInteger(row + 1)) + u", column " + Widen(PrintInteger(column + 1));
+}
+
+/// Why a block was not pasted: its cell `row`, `column`, counted from 0.
+inline std::u16string BlockHasNoNumber(std::u16string_view text, int row, int column) {
+  return std::u16string(u"Nothing was pasted: \"").append(text) + u"\" in " +
+         PlaceOfCell(row, column) + u" of the pasted cells is no number.";
+}
+
+inline std::u16string CommasAreNoThousands(std::u16string_view text) {
+  return std::u16string(u"The commas in \"")
+      .append(text)
+      .append(u"\" do not separate thousands. Write one number, with a point for its decimals.");
+}
+
+// What "=" says of cells, besides its answer.
+inline std::u16string CellIsEmpty(int row, int column) {
+  return u"R" + PlaceOfCell(row, column).substr(1) + u" is empty.";
+}
+/// `name` is one of kMatrixNames.
+inline std::u16string CellCountsAs(std::u16string_view name, std::u16string_view place,
+                                   std::u16string_view text, std::u16string_view number) {
+  return std::u16string(name).append(u", ").append(place).append(u": \"").append(text).append(
+             u"\" is no number and counts as ") +
+         std::u16string(number) + u'.';
+}
+inline std::u16string MoreCellsAreNoNumbers(std::size_t count) {
+  return Widen(PrintInteger(static_cast<std::int64_t>(count)))
+      .append(count == 1 ? u" more cell is no number." : u" more cells are no numbers.");
 }
 
 // The dialog that gives a matrix another size.

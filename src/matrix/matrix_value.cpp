@@ -1,6 +1,7 @@
 #include "matrix/matrix_value.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kav {
 namespace {
@@ -49,10 +50,14 @@ CellRange WithinMatrix(const CellRange& range, const MatrixValue& matrix) {
 }
 
 MatrixValue Cleared(MatrixValue matrix, const CellRange& range) {
+  return Filled(std::move(matrix), range, {});
+}
+
+MatrixValue Filled(MatrixValue matrix, const CellRange& range, const std::u16string& text) {
   const CellRange within = WithinMatrix(range, matrix);
   for (int row = within.top; row <= within.bottom; ++row) {
     for (int column = within.left; column <= within.right; ++column) {
-      matrix.At(row, column).clear();
+      matrix.At(row, column) = text;
     }
   }
   return matrix;
@@ -63,8 +68,13 @@ bool SameMatrix(const MatrixValue& a, const MatrixValue& b) {
   return !AnyCell(a, [&](int row, int column) { return a.At(row, column) != b.At(row, column); });
 }
 
-bool HasEmptyCell(const MatrixValue& matrix) {
-  return AnyCell(matrix, [&](int row, int column) { return matrix.At(row, column).empty(); });
+std::optional<CellPlace> FirstEmptyCell(const MatrixValue& matrix) {
+  for (int row = 0; row < matrix.rows; ++row) {
+    for (int column = 0; column < matrix.columns; ++column) {
+      if (matrix.At(row, column).empty()) return CellPlace{row, column};
+    }
+  }
+  return std::nullopt;
 }
 
 }  // namespace kav

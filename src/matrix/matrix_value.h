@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -59,13 +60,24 @@ MatrixValue Resized(const MatrixValue& matrix, int rows, int columns);
 /// The cells of `range` that `matrix` has; 0, 0 to -1, -1 if it has none of them.
 CellRange WithinMatrix(const CellRange& range, const MatrixValue& matrix);
 
-/// `matrix` with the cells of `range` empty.
+/// `matrix` with the cells of `range` that it has empty.
 MatrixValue Cleared(MatrixValue matrix, const CellRange& range);
+
+/// `matrix` with `text` in each of the cells of `range` that it has.
+MatrixValue Filled(MatrixValue matrix, const CellRange& range, const std::u16string& text);
 
 /// Whether both have the same size and the same texts in it.
 bool SameMatrix(const MatrixValue& a, const MatrixValue& b);
 
-/// Whether a cell of `matrix` is empty, so that no expression may name it. False for 0 rows.
-bool HasEmptyCell(const MatrixValue& matrix);
+/// A cell, counted from 0.
+struct CellPlace {
+  int row = 0;
+  int column = 0;
+};
+
+/// The first cell of `matrix`, row by row, that is empty, so that no expression may name the
+/// matrix; nullopt if there is none, as for 0 rows.
+std::optional<CellPlace> FirstEmptyCell(const MatrixValue& matrix);
+inline bool HasEmptyCell(const MatrixValue& matrix) { return FirstEmptyCell(matrix).has_value(); }
 
 }  // namespace kav

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <string>
+#include <vector>
 
 #include "common/number_text.h"
 #include "support/matrix_table.h"
@@ -121,6 +122,32 @@ TEST(ReadCells, TenMegabytesAreReadAtOnce) {
   }
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
   EXPECT_EQ(ReadCells(manyCells, 10, 10).beyond, 2 * (manyCells.size() / 5) - 20);
+}
+
+TEST(QuestionOfCells, BetweenTabsCommasSeparateNoCells) {
+  EXPECT_EQ(QuestionOfCells(u"1\t2"), std::nullopt);
+  EXPECT_EQ(QuestionOfCells(u"1,234.5\t2"), std::nullopt);
+  const auto asked = QuestionOfCells(u"1,234\t2");
+  ASSERT_TRUE(asked);
+  EXPECT_EQ(asked->meanings, (std::vector{CommaMeaning::DecimalPoint, CommaMeaning::Grouping}));
+  EXPECT_EQ(QuestionOfCells(u"1,2,3"), std::nullopt);
+  EXPECT_TRUE(QuestionOfCells(u"1,2"));
+}
+
+TEST(CellsWithCommas, SemicolonsSeparateCellsWithDecimalCommas) {
+  EXPECT_EQ(CellsWithCommas(u"1,5;2", CommaMeaning::DecimalPoint), u"1.5\t2");
+  EXPECT_EQ(CellsWithCommas(u"1,234;2", CommaMeaning::Grouping), u"1234;2");
+}
+
+TEST(CellRefusal, CommasAreRefusedUnlessTheySeparateThousands) {
+  for (const std::u16string_view text : {u"", u"1.5", u"abc", u"1,234,567", u"-1,234.5"}) {
+    EXPECT_EQ(CellRefusal(text), std::nullopt) << Narrow(text);
+  }
+  for (const std::u16string_view text : {u"1,5", u"1,234", u"1,2,3", u"a,b", u",", u"1,5x"}) {
+    EXPECT_TRUE(CellRefusal(text)) << Narrow(text);
+  }
+  EXPECT_EQ(TypedCell(u" -1,234.5"), u" -1234.5");
+  EXPECT_EQ(TypedCell(u"a,b"), u"a,b");
 }
 
 TEST(Overwritten, NumbersComeInAndTheMatrixGrowsForThem) {

@@ -125,21 +125,39 @@ TEST_F(Board, PasteTellsInOneMessageWhatWasLeftOut) {
   for (const Row& row : {
            Row{u"1\n2", u"1 cell did not fit into the matrix."},
            Row{u"1 2\n3", u"2 cells did not fit into the matrix."},
-           Row{u"x", u"1 cell is no number and was left out."},
-           Row{u"inf 2",
-               u"1 cell did not fit into the matrix. 1 cell is no number and was left out."},
+           Row{u"x", u"Nothing was pasted: \"x\" in row 1, column 1 of the pasted cells is no "
+                     u"number."},
+           Row{u"inf 2", u"Nothing was pasted: \"inf\" in row 1, column 1 of the pasted cells is "
+                         u"no number."},
        }) {
     EXPECT_EQ(board_.PasteCells(9, 9, row.text), row.told);
   }
-  EXPECT_EQ(board_.PasteCells(0, 0, u"a b c 4"), u"3 cells are no numbers and were left out.");
-  EXPECT_EQ(board_.CellText(0, 3), u"4");
   EXPECT_EQ(board_.CellText(9, 9), u"1");
 }
 
-TEST_F(Board, CellKeepsItsTextIfNoNumberIsPasted) {
+TEST_F(Board, TextThatIsNoNumberKeepsAllOfItsBlockOut) {
   Fill();
-  EXPECT_EQ(board_.PasteCells(0, 0, u"x\t7\n\t8"), u"1 cell is no number and was left out.");
-  EXPECT_EQ(Shown(), u"1 7; 3 8");
+  EXPECT_EQ(board_.PasteCells(0, 0, u"5\t6\n7\tx\ty"),
+            u"Nothing was pasted: \"x\" in row 2, column 2 of the pasted cells is no number.");
+  EXPECT_EQ(Shown(), u"1 2; 3 4");
+}
+
+TEST_F(Board, SingleNumberFillsWhatItIsPastedInto) {
+  board_.Resize(3, 3);
+  EXPECT_EQ(board_.PasteInto({0, 1, 9, 9}, u"5\n"), std::nullopt);
+  EXPECT_EQ(Shown(), u"_ 5 5; _ 5 5; _ 5 5");
+  EXPECT_EQ(board_.PasteInto({1, 0, 2, 1}, u"7 8"), std::nullopt);
+  EXPECT_EQ(Shown(), u"_ 5 5; 7 8 5; _ 5 5");
+  EXPECT_EQ(board_.PasteInto({0, 0, 1, 0}, u"\n9"), std::nullopt);
+  EXPECT_EQ(Shown(), u"_ 5 5; 9 8 5; _ 5 5");
+}
+
+TEST_F(Board, WhatIsCutIsWhatIsEmptied) {
+  Fill();
+  EXPECT_EQ(board_.CutCells({1, 0, 1, 0}), u"3");
+  EXPECT_EQ(Shown(), u"1 2; _ 4");
+  EXPECT_EQ(board_.CutCells({0, 0, 0, 9}), u"1\t2");
+  EXPECT_EQ(Shown(), u"_ _; _ 4");
 }
 
 TEST_F(Board, PasteOfNothingIsNoStep) {

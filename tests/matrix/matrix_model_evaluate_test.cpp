@@ -241,11 +241,17 @@ TEST_F(MatrixScreen, NumberExpressionDoesNothingBesideTheAnswer) {
   EXPECT_EQ(model_->ResultText(), u"2");
 }
 
-TEST_F(MatrixScreen, MatrixExpressionLeavesTheResultLine) {
+TEST_F(MatrixScreen, MatrixExpressionClearsTheResultLine) {
   Fill(0, u"1");
-  Evaluate(u"1+1");
-  Evaluate(u"[M1]");
-  EXPECT_EQ(model_->ResultText(), u"2");
+  for (const std::u16string_view line : {u"[M1]", u"[M1]^-1", u"[M2]"}) {
+    model_->Show(0);
+    Evaluate(u"1+1");
+    EXPECT_EQ(model_->ResultText(), u"2");
+    Evaluate(line);
+    EXPECT_EQ(model_->ResultText(), u"") << Narrow(line);
+    model_->TakeDisplaySettings();
+    EXPECT_EQ(model_->ResultText(), u"") << Narrow(line);
+  }
 }
 
 TEST_F(MatrixScreen, ResultFollowsTheDisplaySettings) {

@@ -4,15 +4,20 @@
 #include <QClipboard>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QTimer>
 #include <QToolTip>
 #include <array>
+#include <utility>
 #include <variant>
 
+#include "matrix/cell_table_text.h"
 #include "matrix/matrix_texts.h"
 #include "screens/grid/grid_access_view.h"
 #include "screens/matrix/matrix_size_dlg.h"
 #include "screens/matrix/matrix_tabs_view.h"
+#include "screens/widgets/comma_question.h"
 #include "screens/widgets/file_choice.h"
+#include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -29,6 +34,14 @@ constexpr FileKind kMatrixFiles{u"TXT(*.txt)", u"txt"};
 /// The grid's header row and column stand before the cells of the matrix.
 constexpr int kHeaders = 1;
 
+/// Undo or redo, by any of the keys that people know for them.
+std::optional<EditCommand> UndoCommandOf(const QKeyEvent& event) {
+  if (event.matches(QKeySequence::Undo)) return EditCommand::Undo;
+  const bool isRedo = event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
+  if (isRedo || event.matches(QKeySequence::Redo)) return EditCommand::Redo;
+  return std::nullopt;
+}
+
 CGridCtrl* NewGrid(QWidget* parent) {
   OfferGridsToScreenReaders();
   return new CGridCtrl(parent);
@@ -42,6 +55,7 @@ CMatrixDlg::CMatrixDlg(Frame& frame)
       tabs_(new MatrixTabs(this)),
       grid_(NewGrid(this)) {
   connect(tabs_, &QTabBar::currentChanged, this, &CMatrixDlg::OnTab);
+  connect(&Line(), &QLineEdit::textChanged, this, [this] { isLineNewer_ = true; });
   MakeGrid();
   setTabOrder(&Result(), tabs_);
   setTabOrder(tabs_, grid_);
@@ -65,28 +79,68 @@ void CMatrixDlg::MakeGrid() {
   hooks.beginEdit = [this](int row, int column) {
     TakeLine();
     model_.BeginCellEdit(row - kHeaders, column - kHeaders);
+    const bool wasNewer = isLineNewer_;
     WriteLine(Line(), model_.Line());
+    isLineNewer_ = wasNewer;
   };
   hooks.endEdit = [this](int row, int column, const QString& text) {
-    model_.SetCell(row - kHeaders, column - kHeaders, text.toStdU16String());
+    auto why = model_.TypeCell(row - kHeaders, column - kHeaders, text.toStdU16String());
     ShowMatrix();
+    if (!why) return;
+    refused_ = RefusedEdit{{row, column}, text, *std::move(why)};
+    // Not before the key or the click that ended the edit has done its work.
+    QTimer::singleShot(0, this, [this] { TellRefusedEdit(); });
   };
+  hooks.pasteBlock = [this] { PasteCells(); };
   hooks.columnResized = [this](int, int) { TakeWidths(); };
   grid_->SetHooks(std::move(hooks));
   grid_->SetSource([this](GridCell cell) { return ContentOf(cell); });
 }
 
 void CMatrixDlg::OnKey(MatrixKey key) {
-  grid_->FinishEdit();
+  if (!FinishEdit()) return;
   KeyScreenOf::OnKey(key);
   if (key == MatrixKey::Equals) SaveAfterPainting([this] { model_.Save(); });
 }
 
 void CMatrixDlg::OnTab(int index) {
-  grid_->FinishEdit();
+  if (!FinishEdit()) return ShowMatrix();
   TakeLine();
   model_.Show(index);
   Refresh();
+}
+
+/// Ends an edit that is going on; whether its text was taken.
+bool CMatrixDlg::FinishEdit() {
+  grid_->FinishEdit();
+  return !refused_;
+}
+
+void CMatrixDlg::TellRefusedEdit() {
+  if (!refused_) return;
+  const RefusedEdit refused = *std::exchange(refused_, std::nullopt);
+  ShowStop(this, refused.why);
+  grid_->EditCell(refused.cell, refused.text);
+}
+
+/// Shows the matrix beside the shown one, if there is one, and leaves the focus where it is.
+void CMatrixDlg::ShowNeighbour(int step) {
+  const int index = model_.Shown() + step;
+  if (index < 0 || index >= kMatrixCount || !FinishEdit()) return;
+  const GridCell focus = grid_->Focus();
+  TakeLine();
+  model_.Show(index);
+  ShowMatrix();
+  if (!focus.IsNone()) grid_->SetFocusCell(focus);
+}
+
+void CMatrixDlg::keyPressEvent(QKeyEvent* event) {
+  const bool isPageKey = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
+  if (isPageKey && event->modifiers() == Qt::ControlModifier) {
+    return ShowNeighbour(event->key() == Qt::Key_PageDown ? 1 : -1);
+  }
+  if (const auto command = UndoCommandOf(*event)) return Edit(*command);
+  KeyScreenOf::keyPressEvent(event);
 }
 
 void CMatrixDlg::TakeLine() {
@@ -100,6 +154,8 @@ void CMatrixDlg::Refresh() {
 }
 
 void CMatrixDlg::ShowMatrix() {
+  if (model_.ChangeCount() != seenChanges_) isLineNewer_ = false;
+  seenChanges_ = model_.ChangeCount();
   Result().Show(model_.ResultText());
   RefreshKeys();
   {
@@ -208,7 +264,16 @@ void CMatrixDlg::Tell(const std::optional<std::u16string>& failure) {
 }
 
 bool CMatrixDlg::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == &Line() && event->type() == QEvent::FocusIn) editsGrid_ = false;
+  if (watched == &Line()) {
+    if (event->type() == QEvent::FocusIn) editsGrid_ = false;
+    if (event->type() == QEvent::KeyPress) {
+      // Before the line, which knows only its own edits.
+      if (const auto command = UndoCommandOf(*static_cast<QKeyEvent*>(event))) {
+        Edit(*command);
+        return true;
+      }
+    }
+  }
   if (watched == grid_) {
     if (event->type() == QEvent::FocusIn) {
       editsGrid_ = true;
@@ -226,8 +291,6 @@ bool CMatrixDlg::OnGridKey(const QKeyEvent& event) {
     EditCommand command;
   };
   constexpr std::array kEditKeys{
-      EditKey{QKeySequence::Undo, EditCommand::Undo},
-      EditKey{QKeySequence::Redo, EditCommand::Redo},
       EditKey{QKeySequence::Cut, EditCommand::Cut},
       EditKey{QKeySequence::Copy, EditCommand::Copy},
       EditKey{QKeySequence::Paste, EditCommand::Paste},
@@ -262,18 +325,12 @@ bool CMatrixDlg::EditsGrid() const {
 }
 
 void CMatrixDlg::Edit(EditCommand command) {
+  if (command == EditCommand::Undo || command == EditCommand::Redo) return UndoOrRedo(command);
   if (!EditsGrid()) return LineScreen::Edit(command);
-  grid_->FinishEdit();
+  if (!FinishEdit()) return;
   switch (command) {
-    case EditCommand::Undo:
-      model_.Undo();
-      break;
-    case EditCommand::Redo:
-      model_.Redo();
-      break;
     case EditCommand::Cut:
-      CopyCells();
-      ClearCells();
+      CutCells();
       break;
     case EditCommand::Copy:
       CopyCells();
@@ -285,25 +342,44 @@ void CMatrixDlg::Edit(EditCommand command) {
       grid_->SetFocusCell({kHeaders, kHeaders});
       grid_->SelectTo({grid_->Model().RowCount() - 1, grid_->Model().ColumnCount() - 1});
       break;
+    default:
+      break;
   }
   ShowMatrix();
 }
 
+/// Whether the next undo or redo is one of the line.
+bool CMatrixDlg::UndoesLine(EditCommand command) const {
+  if (!CanEditLine(Line(), command)) return false;
+  if (command == EditCommand::Redo) return undoneLine_ || !model_.CanRedo();
+  return (isLineNewer_ && !EditsGrid()) || !model_.CanUndo();
+}
+
+void CMatrixDlg::UndoOrRedo(EditCommand command) {
+  if (!FinishEdit()) return;
+  const bool undoesLine = UndoesLine(command);
+  if (undoesLine) {
+    EditLine(Line(), command);
+  } else if (command == EditCommand::Undo) {
+    model_.Undo();
+  } else {
+    model_.Redo();
+  }
+  if (command == EditCommand::Undo) undoneLine_ = undoesLine;
+  ShowMatrix();
+}
+
 bool CMatrixDlg::CanEdit(EditCommand command) const {
+  if (command == EditCommand::Undo && model_.CanUndo()) return true;
+  if (command == EditCommand::Redo && model_.CanRedo()) return true;
   if (!EditsGrid()) return LineScreen::CanEdit(command);
   switch (command) {
-    case EditCommand::Undo:
-      return model_.CanUndo();
-    case EditCommand::Redo:
-      return model_.CanRedo();
     case EditCommand::Cut:
     case EditCommand::Copy:
       return SelectedCells().has_value();
-    case EditCommand::Paste:
-    case EditCommand::SelectAll:
-      break;
+    default:
+      return true;
   }
-  return true;
 }
 
 void CMatrixDlg::CopyCells() const {
@@ -312,10 +388,20 @@ void CMatrixDlg::CopyCells() const {
   QApplication::clipboard()->setText(QString::fromStdU16String(model_.CopyCells(*cells)));
 }
 
+void CMatrixDlg::CutCells() {
+  const auto cells = SelectedCells();
+  if (!cells) return;
+  QApplication::clipboard()->setText(QString::fromStdU16String(model_.CutCells(*cells)));
+}
+
 void CMatrixDlg::PasteCells() {
-  const CellRange cells = SelectedCells().value_or(CellRange{});
-  const std::u16string text = QApplication::clipboard()->text().toStdU16String();
-  const auto told = model_.PasteCells(cells.top, cells.left, text);
+  std::u16string text = QApplication::clipboard()->text().toStdU16String();
+  if (const auto question = QuestionOfCells(text)) {
+    const auto meaning = AskForCommas(this, *question);
+    if (!meaning) return;
+    text = CellsWithCommas(text, *meaning);
+  }
+  const auto told = model_.PasteInto(SelectedCells().value_or(CellRange{}), text);
   ShowMatrix();
   if (told) ShowNotice(this, *told);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QHelpEvent>
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -57,14 +58,34 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   bool CanEdit(EditCommand command) const override;
   bool OnGridKey(const QKeyEvent& event);
   void CopyCells() const;
+  void CutCells();
   void PasteCells();
   void ClearCells();
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+  // Undo and redo work on what was edited last, the line or a matrix, wherever the focus is.
+  bool UndoesLine(EditCommand command) const;
+  void UndoOrRedo(EditCommand command);
+  void ShowNeighbour(int step);
+
+  // What was typed into a cell and is refused.
+  struct RefusedEdit {
+    GridCell cell;
+    QString text;
+    std::u16string why;
+  };
+  bool FinishEdit();
+  void TellRefusedEdit();
 
   MatrixModel model_;
   QTabBar* tabs_;
   CGridCtrl* grid_;
   bool editsGrid_ = false;     ///< the grid had the focus later than the line
+  bool isLineNewer_ = false;   ///< the line was edited later than a matrix
+  std::size_t seenChanges_ = 0;  ///< of the matrices
+  bool undoneLine_ = false;    ///< the last undo was one of the line
+  std::optional<RefusedEdit> refused_;
   std::optional<int> inGrid_;  ///< the matrix that the grid was built for
 };
 

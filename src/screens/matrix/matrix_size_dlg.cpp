@@ -1,7 +1,11 @@
 #include "screens/matrix/matrix_size_dlg.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -14,7 +18,8 @@
 namespace kav {
 namespace {
 
-/// A list of the sizes that there are.
+/// A list of the sizes that there are. Digits choose the size that they write: by itself the
+/// toolkit takes 1 for the beginning of 10.
 class SizeList final : public QComboBox {
  public:
   SizeList(std::u16string_view name, int chosen) {
@@ -22,9 +27,34 @@ class SizeList final : public QComboBox {
     for (int size = 1; size <= kLargestMatrix; ++size) addItem(QString::number(size));
     setCurrentIndex(chosen - 1);
     setMaxVisibleItems(kLargestMatrix);
+    installEventFilter(this);
+    view()->installEventFilter(this);
   }
 
   int Chosen() const { return currentIndex() + 1; }
+
+ private:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return QComboBox::eventFilter(watched, event);
+    const QString text = static_cast<const QKeyEvent&>(*event).text();
+    if (text.size() != 1 || !text.front().isDigit()) return QComboBox::eventFilter(watched, event);
+    const bool goesOn = lastDigit_.isValid() &&
+                        lastDigit_.elapsed() < QApplication::keyboardInputInterval();
+    lastDigit_.start();
+    typed_ = goesOn && findText(typed_ + text) >= 0 ? typed_ + text : text;
+    const int place = findText(typed_);
+    if (place < 0) return true;
+    // The open list chooses only when it closes.
+    if (watched == this) {
+      setCurrentIndex(place);
+    } else {
+      view()->setCurrentIndex(model()->index(place, 0));
+    }
+    return true;
+  }
+
+  QString typed_;
+  QElapsedTimer lastDigit_;
 };
 
 class CMatrixSizeDlg final : public Dialog {

@@ -64,7 +64,11 @@ std::function<void()> KeyScreen::Opening(const std::function<void(QWidget*)>& op
 }
 
 void KeyScreen::Do(const TellStop& request) {
-  ShowStop(this, request.text);
+  ShowStop(this, request.text, request.more);
+}
+
+void KeyScreen::Do(const TellNotice& request) {
+  ShowNotice(this, request.text);
 }
 
 void KeyScreen::Do(const OpenMacroEditor& request) {

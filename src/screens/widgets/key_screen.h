@@ -49,6 +49,7 @@ class KeyScreen : public Screen {
   // What keys ask for, as far as nothing comes back.
   void Do(const Nothing&) {}
   void Do(const TellStop& request);
+  void Do(const TellNotice& request);
   void Do(const OpenMacroEditor& request);
   void Do(const StoreMemoryVariable& request);
   /// The text of the variable that the user chose.
