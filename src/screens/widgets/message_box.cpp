@@ -142,8 +142,8 @@ int Show(QWidget* parent, QMessageBox::Icon icon, std::u16string_view text,
 
 }  // namespace
 
-void ShowStop(QWidget* parent, std::u16string_view text) {
-  Show(parent, QMessageBox::Critical, text, QMessageBox::Ok);
+void ShowStop(QWidget* parent, std::u16string_view text, std::u16string_view more) {
+  Show(parent, QMessageBox::Critical, text, QMessageBox::Ok, more);
 }
 
 void ShowNotice(QWidget* parent, std::u16string_view text) {

@@ -11,8 +11,8 @@ class QWidget;
 
 namespace kav {
 
-/// Something cannot be done: `text` with a stop icon.
-void ShowStop(QWidget* parent, std::u16string_view text);
+/// Something cannot be done: `text` with a stop icon; `more`, if not empty, stands below it.
+void ShowStop(QWidget* parent, std::u16string_view text, std::u16string_view more = {});
 
 /// Something the user should know before going on: `text` with a warning icon.
 void ShowNotice(QWidget* parent, std::u16string_view text);
