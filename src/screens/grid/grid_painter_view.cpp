@@ -5,9 +5,16 @@
 #include <algorithm>
 
 #include "common/number_text.h"
+#include "grid/grid_number.h"
 
 namespace kav {
 namespace {
+
+/// Fills a cell whose number has no room.
+constexpr QChar kNoRoom(u'#');
+
+/// A longer text is shown as one that is no number.
+constexpr std::size_t kLongestNumber = 400;
 
 constexpr QColor kLine(200, 206, 213);
 constexpr QColor kMarkedPaper(255, 226, 214);
@@ -35,6 +42,33 @@ QColor Paper(GridCell cell, const GridLook& look) {
   return isMarked ? kMarkedPaper : look.colours.color(QPalette::Base);
 }
 
+/// What a cell with `room` pixels across shows of a text that is too long for it. Of a number it is
+/// less precise but of the very magnitude, or signs that say that it does not fit.
+QString Cut(const QFontMetrics& metrics, std::u16string_view text, int room) {
+  const auto number = ReadGridNumber(Shortened(text, kLongestNumber));
+  // No more characters than pixels: a text of any length costs no more than one that fits.
+  const std::u16string most = Shortened(text, static_cast<std::size_t>(room));
+  if (!number) return metrics.elidedText(QString::fromStdU16String(most), Qt::ElideRight, room);
+  const int digit = std::max(1, metrics.horizontalAdvance(u'0'));
+  // A point is narrower than a digit.
+  for (int length = room / digit + 2; length > 0; --length) {
+    const QString shown =
+        QString::fromStdU16String(NumberInRoom(*number, static_cast<std::size_t>(length)));
+    if (shown.isEmpty()) break;
+    if (metrics.horizontalAdvance(shown) <= room) return shown;
+  }
+  const int sign = std::max(1, metrics.horizontalAdvance(kNoRoom));
+  return {std::max(1, room / sign), kNoRoom};
+}
+
+QString Fitting(const QFontMetrics& metrics, std::u16string_view text, int room) {
+  if (text.size() <= static_cast<std::size_t>(room)) {
+    const QString all = QString::fromStdU16String(OnOneLine(std::u16string(text)));
+    if (metrics.horizontalAdvance(all) <= room) return all;
+  }
+  return Cut(metrics, text, room);
+}
+
 void PaintText(QPainter& painter, const QRect& area, GridCell cell, const GridLook& look) {
   const std::u16string_view text = look.grid.GetItemText(cell.row, cell.column);
   const GridFormat format = look.grid.GetItemFormat(cell.row, cell.column);
@@ -43,10 +77,7 @@ void PaintText(QPainter& painter, const QRect& area, GridCell cell, const GridLo
   const int margin = isHeader ? LineWidth(look) : TextMargin(painter.font().pixelSize());
   const QRect room = area.adjusted(margin, 0, -margin, 0);
   if (text.empty() || room.width() <= 0) return;
-  // No more characters than pixels: a text of any length costs no more than one that fits.
-  const std::u16string most = Shortened(text, static_cast<std::size_t>(room.width()));
-  const QString shown = painter.fontMetrics().elidedText(QString::fromStdU16String(most),
-                                                         Qt::ElideRight, room.width());
+  const QString shown = Fitting(painter.fontMetrics(), text, room.width());
   const bool isMarked = format.isMarked && !isHeader;
   painter.setPen(isMarked ? kMarkedText : look.colours.color(QPalette::Text));
   painter.drawText(room, static_cast<int>(TextAlignment(format) | Qt::TextSingleLine), shown);

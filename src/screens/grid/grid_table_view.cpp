@@ -61,6 +61,7 @@ GridTable::GridTable(QWidget* parent, std::pmr::memory_resource* memory)
     : QTableView(parent),
       model_(memory),
       shape_(new Shape(this, model_)),
+      corner_(new QWidget(this)),
       headers_{horizontalHeader()->viewport(), verticalHeader()->viewport(),
                findChild<QAbstractButton*>({}, Qt::FindDirectChildrenOnly)} {
   setLayoutDirection(Qt::LeftToRight);
@@ -83,6 +84,8 @@ GridTable::GridTable(QWidget* parent, std::pmr::memory_resource* memory)
     bar->setStyle(ScreenStyle());
     bar->setCursor(Qt::ArrowCursor);
   }
+  corner_->setAutoFillBackground(true);
+  corner_->hide();
   QTableView::setModel(shape_);
   SetScale(1, kUsualTextPixels);
 }
@@ -175,6 +178,17 @@ void GridTable::ArrangeLines() {
   horizontalHeader()->setFixedHeight(Top(model_.FixedRowCount()));
   updateGeometries();
   Repaint();
+}
+
+void GridTable::updateGeometries() {
+  QTableView::updateGeometries();
+  const QWidget* across = horizontalScrollBar()->parentWidget();
+  const QWidget* down = verticalScrollBar()->parentWidget();
+  corner_->setVisible(across->isVisible() && down->isVisible());
+  // With the last line of each bar.
+  corner_->setGeometry(QRect(QPoint(across->geometry().right(), down->geometry().bottom()),
+                             rect().bottomRight()));
+  corner_->raise();
 }
 
 // Places.

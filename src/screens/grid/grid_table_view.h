@@ -75,6 +75,7 @@ class GridTable : public QTableView {
  protected:
   GridTable(QWidget* parent, std::pmr::memory_resource* memory);
 
+  void updateGeometries() override;
   void Repaint();
   /// Ends what the user is doing with cells that are about to be others.
   virtual void Interrupt() = 0;
@@ -99,6 +100,7 @@ class GridTable : public QTableView {
   Shape* shape_;
   GridSelection selection_;
   double scale_ = 1;
+  QWidget* corner_;  // covers what the ends of two scroll bars draw between them
   std::array<QWidget*, 3> headers_;  // that show column headers, row headers and the corner
 };
 

@@ -25,8 +25,7 @@ namespace {
 
 /// Of the height of the line.
 constexpr double kLineTextHeight = 0.62;
-/// Of the pixels of a screen that is 240 wide, which the widths of columns are counted in.
-constexpr double kScreenPixels = 240;
+/// The height of the grid's letters at scale 1.
 constexpr double kCellText = 11.5;
 
 constexpr FileKind kMatrixFiles{u"TXT(*.txt)", u"txt"};
@@ -92,7 +91,12 @@ void CMatrixDlg::MakeGrid() {
     QTimer::singleShot(0, this, [this] { TellRefusedEdit(); });
   };
   hooks.pasteBlock = [this] { PasteCells(); };
-  hooks.columnResized = [this](int, int) { TakeWidths(); };
+  hooks.columnResized = [this](int column, int width) {
+    TakeWidths();
+    const bool isFitted = width == grid_->FittingWidth(column);
+    fitted_[static_cast<std::size_t>(model_.Shown())][static_cast<std::size_t>(column)] =
+        isFitted ? width : 0;
+  };
   grid_->SetHooks(std::move(hooks));
   grid_->SetSource([this](GridCell cell) { return ContentOf(cell); });
 }
@@ -167,6 +171,8 @@ void CMatrixDlg::ShowMatrix() {
   if (inGrid_ != model_.Shown() || shown.RowCount() != matrix.rows + kHeaders ||
       shown.ColumnCount() != matrix.columns + kHeaders) {
     RebuildGrid();
+    WriteWidths();
+    ScaleGrid();
   }
   WriteWidths();
   grid_->viewport()->update();
@@ -222,17 +228,37 @@ std::optional<CellRange> CMatrixDlg::SelectedCells() const {
                    range.right - kHeaders};
 }
 
+QRect CMatrixDlg::Area() const {
+  return IsWideForMatrices(size()) ? rect() : KeyScreenOf::Area();
+}
+
 void CMatrixDlg::LayOut(const DialogUnits& units) {
+  const QRect body = units.Pixels(QRect(0, 0, kScreenWidth, kScreenHeight));
+  places_ = IsWideForMatrices(size()) ? WidePlaces(body) : UprightPlaces(units);
   Keys().setGeometry(rect());
-  Keys().LayOut(units);
-  Line().setGeometry(units.Pixels(UnitsOf(kMatrixLinePlace)));
+  Keys().LayOut(places_.keys);
+  Line().setGeometry(places_.line);
   Line().SetTextHeight(qRound(Line().height() * kLineTextHeight));
-  Result().LayOut(units.Pixels(UnitsOf(kMatrixResultPlace)));
-  tabs_->setGeometry(units.Pixels(UnitsOf(kMatrixTabsPlace)));
-  grid_->setGeometry(units.Pixels(UnitsOf(kGridPlace)));
-  const double scale =
-      units.Pixels(QRect(0, 0, kScreenWidth, kScreenHeight)).width() / kScreenPixels;
-  grid_->SetScale(scale, qRound(kCellText * scale));
+  Result().LayOut(places_.result);
+  tabs_->setGeometry(places_.tabs);
+  grid_->setGeometry(places_.grid);
+  ScaleGrid();
+}
+
+/// Columns that were fitted to their texts are so at any scale.
+void CMatrixDlg::ScaleGrid() {
+  const MatrixValue& matrix = model_.ShownMatrix();
+  const double scale = FittingScale(places_, matrix.rows, matrix.columns);
+  if (scale != grid_->Scale()) grid_->SetScale(scale, qRound(kCellText * scale));
+  ColumnWidths& fitted = fitted_[static_cast<std::size_t>(model_.Shown())];
+  for (int column = 0; column < grid_->Model().ColumnCount(); ++column) {
+    const int width = model_.Widths()[static_cast<std::size_t>(column)];
+    int& kept = fitted[static_cast<std::size_t>(column)];
+    // Another width was given to it since.
+    if (kept != width) kept = 0;
+    if (kept != 0) grid_->SetColumnWidth(column, kept = grid_->FittingWidth(column));
+  }
+  TakeWidths();
 }
 
 void CMatrixDlg::CarryOut(const MatrixRequest& request) {
@@ -256,6 +282,7 @@ void CMatrixDlg::Do(const AskLoadFile&) {
 void CMatrixDlg::Do(const AutofitColumns&) {
   grid_->AutoSizeColumns();
   TakeWidths();
+  fitted_[static_cast<std::size_t>(model_.Shown())] = model_.Widths();
 }
 
 void CMatrixDlg::Tell(const std::optional<std::u16string>& failure) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QHelpEvent>
+#include <array>
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -10,6 +11,7 @@
 
 #include "matrix/matrix_model.h"
 #include "screens/grid/grid_ctrl.h"
+#include "screens/matrix/matrix_places.h"
 #include "screens/widgets/line_screen.h"
 
 class QTabBar;
@@ -30,7 +32,9 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   void OnTab(int index);
   void TakeLine() override;
   void Refresh() override;
+  QRect Area() const override;
   void LayOut(const DialogUnits& units) override;
+  void ScaleGrid();
 
   // What a key asks for.
   using KeyScreenOf::Do;
@@ -79,6 +83,9 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   void TellRefusedEdit();
 
   MatrixModel model_;
+  MatrixPlaces places_;
+  /// The widths that columns got to fit their texts; 0 for others.
+  std::array<ColumnWidths, kMatrixCount> fitted_{};
   QTabBar* tabs_;
   CGridCtrl* grid_;
   bool editsGrid_ = false;     ///< the grid had the focus later than the line

@@ -65,9 +65,13 @@ void KeySheet::Refresh(const std::function<KeyState(int)>& stateOf) {
 }
 
 void KeySheet::LayOut(const DialogUnits& units) {
+  LayOut([&units](const QRect& spot) { return units.Pixels(spot); });
+}
+
+void KeySheet::LayOut(const std::function<QRect(const QRect& spot)>& pixelsOf) {
   std::vector<SpacedText> captions;
   for (KeyView* view : keys_) {
-    view->setGeometry(units.Pixels(view->Spot().place));
+    view->setGeometry(pixelsOf(view->Spot().place));
     for (const std::u16string_view caption : view->Spot().captions) {
       captions.push_back({ToQt(caption), view->TextWidth()});
     }

@@ -31,6 +31,8 @@ class KeySheet final : public QWidget {
   void Refresh(const std::function<KeyState(int)>& stateOf);
 
   void LayOut(const DialogUnits& units);
+  /// The same with the pixels of each spot as `pixelsOf` has them.
+  void LayOut(const std::function<QRect(const QRect& spot)>& pixelsOf);
 
   /// Gives the focus to the first key.
   void Enter();

@@ -138,7 +138,7 @@ void Screen::Dress(QMenu* menu) {
 }
 
 void Screen::resizeEvent(QResizeEvent*) {
-  const QRect area = PortraitArea(size());
+  const QRect area = Area();
   menuBar_->setFont(ScreenFont(TextPixels(area.height())));
   const int menuHeight = menuBar_->sizeHint().height();
   menuBar_->setGeometry(area.x(), area.bottom() + 1 - menuHeight, area.width(), menuHeight);
@@ -148,7 +148,7 @@ void Screen::resizeEvent(QResizeEvent*) {
 void Screen::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), BackdropColour());
-  painter.fillRect(PortraitArea(size()), palette().color(QPalette::Window));
+  painter.fillRect(Area(), palette().color(QPalette::Window));
 }
 
 void Screen::keyPressEvent(QKeyEvent* event) {

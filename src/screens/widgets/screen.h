@@ -56,6 +56,8 @@ class Screen : public QWidget {
   virtual bool MayLeave(LeaveReason) { return true; }
 
  protected:
+  /// The part of the window that the screen fills, its menu bar included.
+  virtual QRect Area() const { return PortraitArea(size()); }
   /// Called whenever the body has a new size: places everything on it.
   virtual void LayOut(const DialogUnits& units) = 0;
 

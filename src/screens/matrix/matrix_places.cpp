@@ -1,0 +1,89 @@
+#include "screens/matrix/matrix_places.h"
+
+#include <algorithm>
+
+#include "grid/grid_model.h"
+#include "line/keypad.h"
+#include "matrix/matrix_edits.h"
+#include "matrix/matrix_keypad.h"
+#include "screens/widgets/key_screen.h"
+#include "settings/keys.h"
+
+namespace kav {
+namespace {
+
+/// Of the pixels of a screen that is 240 wide, which the widths of columns are counted in.
+constexpr double kScreenPixels = 240;
+/// Letters are no smaller than on that screen, and a little larger where there is room.
+constexpr double kLeastScale = 1.13;
+
+// Of a wide window: its width by its height at least, and the width of its keys by its height.
+constexpr double kWide = 1.1;
+constexpr double kKeys = 0.65;
+
+/// What the grid and its tabs take of the height of an upright screen, in dialog units.
+constexpr int kGridTop = kMatrixTabsPlace.y - 1;
+constexpr int kGridEnd = kGridPlace.y + kGridPlace.height + 1;
+
+/// Where a key stands once the grid between the keys has gone.
+QRect WithoutGrid(const QRect& spot) {
+  return spot.y() < kGridTop ? spot : spot.translated(0, kGridTop - kGridEnd);
+}
+
+}  // namespace
+
+bool IsWideForMatrices(QSize window) {
+  return window.width() >= kWide * window.height();
+}
+
+MatrixPlaces UprightPlaces(const DialogUnits& units) {
+  MatrixPlaces places;
+  places.line = units.Pixels(UnitsOf(kMatrixLinePlace));
+  places.result = units.Pixels(UnitsOf(kMatrixResultPlace));
+  places.tabs = units.Pixels(UnitsOf(kMatrixTabsPlace));
+  places.grid = units.Pixels(UnitsOf(kGridPlace));
+  places.scale = units.Pixels(QRect(0, 0, kScreenWidth, kScreenHeight)).width() / kScreenPixels;
+  places.keys = [units](const QRect& spot) { return units.Pixels(spot); };
+  return places;
+}
+
+MatrixPlaces WidePlaces(const QRect& body) {
+  const DialogUnits all(body, {kScreenWidth, kScreenHeight});
+  // As high as in an upright window, whose width goes with its height.
+  const int unit = body.height() / kScreenHeight;
+  const int column = qRound(body.height() * kKeys);
+  const int firstKeys = kMatrixTabsPlace.y - 11;
+  MatrixPlaces places;
+  const auto across = [&](const LinePlace& place) {
+    const QRect units = all.Pixels(UnitsOf(place));
+    return QRect(body.left() + 3 * unit, units.top(), body.width() - 6 * unit, units.height());
+  };
+  places.line = across(kMatrixLinePlace);
+  places.result = across(kMatrixResultPlace);
+  const int top = all.Pixels(QRect(0, firstKeys, 1, 1)).top();
+  const QRect keys(body.right() + 1 - column, top, column, body.bottom() + 1 - top);
+  const DialogUnits keyUnits(keys.adjusted(0, 0, 0, 0),
+                             {kScreenWidth, kScreenHeight - firstKeys - (kGridEnd - kGridTop)});
+  const QRect left(body.left() + 3 * unit, top, keys.left() - body.left() - 3 * unit, keys.height());
+  const int tabs = all.Pixels(UnitsOf(kMatrixTabsPlace)).height();
+  const int clear = keyUnits.Pixels(QRect(0, 0, 25, 1)).width();
+  places.tabs = QRect(left.left(), top, left.width() - clear - unit, tabs);
+  places.grid = left.adjusted(0, tabs, 0, -3 * unit);
+  places.scale = body.height() * 0.75 / kScreenPixels;
+  const QRect clearPlace(left.right() + 1 - clear, top, clear, tabs - std::max(1, unit / 2));
+  places.keys = [keyUnits, clearPlace, firstKeys](const QRect& spot) {
+    if (spot.y() == kMatrixTabsPlace.y) return clearPlace;
+    return keyUnits.Pixels(WithoutGrid(spot).translated(0, -firstKeys));
+  };
+  return places;
+}
+
+double FittingScale(const MatrixPlaces& places, int rows, int columns) {
+  const int width = kHeaderColumnWidth + columns * kMatrixColumnWidth.fallback;
+  const int height = (rows + 1) * GridModel::kDefaultHeight;
+  const double fitting = std::min(places.grid.width() / static_cast<double>(width),
+                                  places.grid.height() / static_cast<double>(height));
+  return std::min(places.scale, std::max(fitting, kLeastScale));
+}
+
+}  // namespace kav
