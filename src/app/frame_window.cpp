@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -38,11 +39,17 @@ constexpr std::array kScreens{
 /// How long the frame waits to be painted: some desktops never show it.
 constexpr int kPatienceMs = 200;
 
-WindowPlace StoredPlace(const SettingsStore& store) {
+/// The main one first.
+std::vector<QRect> Desktops() {
   std::vector<QRect> desktops{QGuiApplication::primaryScreen()->availableGeometry()};
   for (const QScreen* screen : QGuiApplication::screens()) {
     desktops.push_back(screen->availableGeometry());
   }
+  return desktops;
+}
+
+WindowPlace StoredPlace(const SettingsStore& store) {
+  const std::vector<QRect> desktops = Desktops();
   std::optional<WindowPlace> place = ReadPlace(store.Get(kWindowGeometry));
   if (!place) return {FirstPlace(desktops.front())};
   return {MovedOntoDesktop(place->rect, desktops), place->isMaximized};
@@ -133,7 +140,19 @@ void FrameWindow::Start() {
   if (std::exchange(isStarted_, true)) return;
   SwitchMode();
   hide();
+  KeepFrameOnDesktop();
   hooks_.started();
+}
+
+void FrameWindow::KeepFrameOnDesktop() {
+  QWidget* screen = Shown();
+  if (isFramed_ || screen == nullptr || screen->windowHandle() == nullptr) return;
+  const QMargins margins = screen->windowHandle()->frameMargins();
+  if (margins.isNull()) return;
+  isFramed_ = true;
+  if (screen->isMaximized() || screen->isFullScreen()) return;
+  const QRect place = PlaceInFrame(screen->windowHandle()->frameGeometry(), margins, Desktops());
+  if (place != QRect(screen->pos(), screen->size())) TakePlace(*screen, {place});
 }
 
 void FrameWindow::SwitchMode() {
@@ -186,6 +205,11 @@ void FrameWindow::Exit() {
 }
 
 bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
+  // Desktops put their frame around a window some time after it is shown, and then move it.
+  const bool mayBeFramed = event->type() == QEvent::Move || event->type() == QEvent::WindowActivate;
+  if (mayBeFramed && !isFramed_ && isStarted_ && watched == Shown()) {
+    QMetaObject::invokeMethod(this, &FrameWindow::KeepFrameOnDesktop, Qt::QueuedConnection);
+  }
   // However the user closes the screen, it means the end; only the frame itself just closes one.
   const bool isUsersClose = event->type() == QEvent::Close && watched == Shown() && !isQuitting_;
   if (!isUsersClose) return QWidget::eventFilter(watched, event);

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "app/window_place.h"
+#include "screens/widgets/app_events.h"
 #include "screens/widgets/frame.h"
 
 namespace kav {
@@ -68,6 +69,7 @@ class FrameWindow final : public QWidget, public Frame {
   void PrepareScreen();
   void StartSoon();
   void Start();
+  void KeepFrameOnDesktop();
   const ScreenKind& KindOf(std::int32_t mode) const;
   void CloseScreen(std::size_t slot);
   void CloseAll();
@@ -78,10 +80,12 @@ class FrameWindow final : public QWidget, public Frame {
   FrameHooks hooks_;
   WindowPlace place_;
   std::int32_t mode_;
+  AppEvents events_;
   std::unique_ptr<QWidget> prepared_;  ///< made, but not shown yet
   std::array<std::unique_ptr<QWidget>, 2> slots_;
   std::size_t activeSlot_ = 0;
   bool isStarted_ = false;
+  bool isFramed_ = false;  ///< the desktop's frame around the first screen was seen to
   bool isQuitting_ = false;
 };
 

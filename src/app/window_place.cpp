@@ -76,6 +76,12 @@ QRect FirstPlace(const QRect& desktop) {
   return place;
 }
 
+QRect PlaceInFrame(const QRect& frame, const QMargins& margins, std::span<const QRect> desktops) {
+  const QRect place = MovedOntoDesktop(frame, desktops);
+  // A window is moved by the corner of its frame.
+  return {place.topLeft(), place.marginsRemoved(margins).size()};
+}
+
 WindowPlace PlaceOf(const QWidget& window) {
   if (!window.isMaximized()) return {QRect(window.pos(), window.size()), false};
   // A window is moved by the corner of its frame, but its normal place is known without the frame.

@@ -1,6 +1,7 @@
 // Where a window stands on the desktop, as the settings keep it.
 #pragma once
 
+#include <QMargins>
 #include <QRect>
 #include <optional>
 #include <span>
@@ -31,6 +32,10 @@ QRect MovedOntoDesktop(const QRect& wanted, std::span<const QRect> desktops);
 
 /// Where a first window opens on a desktop: in its middle, of a comfortable size.
 QRect FirstPlace(const QRect& desktop);
+
+/// The place for a window within a frame that takes `frame` with `margins` of it around the window:
+/// moved and shrunk so that the frame lies within the desktop that it overlaps most.
+QRect PlaceInFrame(const QRect& frame, const QMargins& margins, std::span<const QRect> desktops);
 
 /// Reads and sets the place of a window.
 WindowPlace PlaceOf(const QWidget& window);

@@ -69,7 +69,7 @@ std::vector<std::u16string_view> CaptionsOf(const KeyPlace& place) {
   if (place.key == Key::Deg) return {kDegreesCaption, kRadiansCaption};
   std::vector<std::u16string_view> captions;
   if (place.key == Key::Dec) {
-    for (const MenuItem& item : BuildBaseMenu()) {
+    for (const MenuItem& item : BuildBaseMenu(BaseMode::Decimal)) {
       captions.push_back(BaseCaption(*BaseOfItem(item.id)));
     }
     return captions;

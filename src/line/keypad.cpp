@@ -247,6 +247,19 @@ void ApplyEdit(const KeyEdit& edit, ExpressionLine& line) {
 
 }  // namespace
 
+std::optional<MenuPlace> MenuPlaceOf(Key key) {
+  switch (key) {
+    case Key::PlayBack:
+      return MenuPlace{195, 95, MenuSide::Right};
+    case Key::Dec:
+      return MenuPlace{80, 90, MenuSide::Left};
+    case Key::MemoryMenu:
+      return MenuPlace{189, 138, MenuSide::Right};
+    default:
+      return std::nullopt;
+  }
+}
+
 std::span<const KeyPlace> KeyPlaces() {
   return kPlaces;
 }

@@ -45,6 +45,19 @@ struct LinePlace {
   int height;
 };
 
+/// The pixels that places of menus are counted in: those of a screen of its first size.
+inline constexpr int kPlaceWidth = 240;
+inline constexpr int kPlaceHeight = 320;
+
+/// Where a menu opens: the corner of its top that is on `side`, in pixels of a screen of
+/// kPlaceWidth by kPlaceHeight.
+enum class MenuSide { Left, Right };
+struct MenuPlace {
+  int x;
+  int y;
+  MenuSide side;
+};
+
 inline constexpr int kKeyHeight = 10;
 constexpr LinePlace KeyAt(int x, int y, int width) {
   return {x, y, width, kKeyHeight};
@@ -83,6 +96,9 @@ struct KeyFace {
   std::optional<KeyEdit> bare;      ///< without a selection
   std::optional<KeyEdit> selected;  ///< with one
 };
+
+/// Where the menu of `key` opens; nullopt for a key without one.
+std::optional<MenuPlace> MenuPlaceOf(Key key);
 
 /// All keys, row by row.
 std::span<const KeyPlace> KeyPlaces();

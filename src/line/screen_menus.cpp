@@ -50,15 +50,18 @@ Menu BuildHistoryMenu(const History& history) {
   Menu menu;
   const auto& entries = history.Entries();
   for (std::size_t number = entries.size(); number > 0; --number) {
+    // A stored count may be larger than the number of stored entries.
+    if (entries[number - 1].empty()) continue;
     menu.push_back({static_cast<int>(number), EntryLabel(entries[number - 1])});
   }
   return menu;
 }
 
-Menu BuildBaseMenu() {
+Menu BuildBaseMenu(BaseMode inForce) {
   Menu menu;
   for (const BaseChoice& choice : kBaseChoices) {
-    menu.push_back({choice.id, std::u16string(choice.text)});
+    const MenuMark mark = choice.base == inForce ? MenuMark::Set : MenuMark::Unset;
+    menu.push_back({choice.id, std::u16string(choice.text), mark});
   }
   return menu;
 }

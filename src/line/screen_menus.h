@@ -11,10 +11,14 @@
 
 namespace kav {
 
+/// Whether an item is the one in force, in a menu that shows it.
+enum class MenuMark { None, Unset, Set };
+
 /// One line of a pop-up menu; a separator has no text and no id. Ids are positive.
 struct MenuItem {
   int id = 0;
   std::u16string text;
+  MenuMark mark = MenuMark::None;
 
   bool IsSeparator() const { return id == 0; }
   bool operator==(const MenuItem&) const = default;
@@ -32,10 +36,12 @@ inline constexpr int kSubtract = 8;
 inline constexpr int kAdd = 9;
 }  // namespace memory_item
 
-/// The entries of `history`, the newest on top, each with its number (from 1) as its id.
+/// The entries of `history` that have a text, the newest on top, each with its number (from 1) as
+/// its id.
 Menu BuildHistoryMenu(const History& history);
 
-Menu BuildBaseMenu();
+/// The four bases, of which `inForce` is marked.
+Menu BuildBaseMenu(BaseMode inForce);
 /// The base that an item of the base menu stands for; nullopt for an id it does not have.
 std::optional<BaseMode> BaseOfItem(int id);
 /// The short name of `base`, as the base key shows it.

@@ -143,7 +143,7 @@ void ScientificModel::ShowAnswer() {
 Menu ScientificModel::MenuOf(Key key) const {
   switch (key) {
     case Key::Dec:
-      return BuildBaseMenu();
+      return BuildBaseMenu(modes_.baseMode);
     case Key::PlayBack:
       return BuildHistoryMenu(history_);
     case Key::MemoryMenu:

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QPainter>
+#include <QWindow>
 
 #include "screens/screen_driver.h"
 #include "settings/keys.h"
@@ -329,7 +330,7 @@ TEST_F(FrameWindowTest, AWindowOffTheDesktopIsBroughtBack) {
     frame_.reset();
     store_.Set(kWindowGeometry, stored);
     Start();
-    EXPECT_TRUE(desktop.contains(QRect(frame_->Shown()->pos(), frame_->Shown()->size()))) << stored;
+    EXPECT_TRUE(desktop.contains(frame_->Shown()->windowHandle()->frameGeometry())) << stored;
   }
 }
 

@@ -50,6 +50,14 @@ TEST(WindowPlace, IsMovedOntoTheDesktopThatItOverlapsMost) {
   }
 }
 
+TEST(WindowPlace, TheFrameAroundAWindowLiesWithinTheDesktopToo) {
+  const std::array desktops{QRect(0, 0, 960, 540)};
+  const QMargins margins(1, 20, 1, 5);
+  EXPECT_EQ(PlaceInFrame({300, 0, 362, 565}, margins, desktops), QRect(300, 0, 360, 515));
+  EXPECT_EQ(PlaceInFrame({700, 30, 362, 425}, margins, desktops), QRect(598, 30, 360, 400));
+  EXPECT_EQ(PlaceInFrame({30, 40, 302, 425}, margins, desktops), QRect(30, 40, 300, 400));
+}
+
 TEST(WindowPlace, FirstWindowsAreInTheMiddleAndNeverLargerThanTheDesktop) {
   EXPECT_EQ(FirstPlace({0, 0, 1360, 1560}), QRect(500, 500, 360, 560));
   EXPECT_EQ(FirstPlace({0, 0, 240, 320}), QRect(0, 0, 240, 320));

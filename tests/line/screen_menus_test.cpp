@@ -15,19 +15,19 @@ TEST(ScreenMenus, HistoryMenuShowsTheNewestOnTop) {
   EXPECT_EQ(BuildHistoryMenu({}), Menu{});
 }
 
-TEST(ScreenMenus, EmptyEntryOfTheHistoryIsNoSeparator) {
+TEST(ScreenMenus, EntriesThatAreNotThereAreNotOffered) {
   MemorySettingsStore store;
-  store.Set(SettingKey<std::int32_t>{"History", "CalHistoryCount", 0}, 1);
-  const Menu menu = BuildHistoryMenu(History::Load(store, kCalculatorHistory));
-  ASSERT_EQ(menu.size(), 1U);
-  EXPECT_FALSE(menu[0].IsSeparator());
-  EXPECT_TRUE(Offers(menu, 1));
+  store.Set(SettingKey<std::int32_t>{"History", "CalHistoryCount", 0}, 500);
+  EXPECT_EQ(BuildHistoryMenu(History::Load(store, kCalculatorHistory)), Menu{});
+  store.Set(SettingKey<std::string>{"History", "CalHistory3", ""}, "1+1");
+  EXPECT_EQ(BuildHistoryMenu(History::Load(store, kCalculatorHistory)), (Menu{{3, u"1+1"}}));
 }
 
 TEST(ScreenMenus, BaseMenuOffersTheFourBases) {
-  EXPECT_EQ(
-      BuildBaseMenu(),
-      (Menu{{32805, u"Binary"}, {32806, u"Octal"}, {32807, u"Decimal"}, {32808, u"Hexadecimal"}}));
+  EXPECT_EQ(BuildBaseMenu(BaseMode::Octal), (Menu{{32805, u"Binary", MenuMark::Unset},
+                                                  {32806, u"Octal", MenuMark::Set},
+                                                  {32807, u"Decimal", MenuMark::Unset},
+                                                  {32808, u"Hexadecimal", MenuMark::Unset}}));
 }
 
 TEST(ScreenMenus, ItemsOfTheBaseMenuStandForTheirBases) {

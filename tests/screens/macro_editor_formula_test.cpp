@@ -46,6 +46,15 @@ TEST_F(MacroEditorFormulaTest, FunctionsAreOfferedInThreeGroups) {
   });
 }
 
+TEST_F(MacroEditorFormulaTest, TheFunctionsHaveTheirPlaceOnTheScreen) {
+  OpenNew([this] {
+    Tap(u"F(X)");
+    const QWidget& dialog = *OpenMenu()->parentWidget();
+    EXPECT_EQ(OpenMenu()->x(), dialog.mapToGlobal(QPoint(dialog.width() * 110 / 240, 0)).x());
+    OpenMenu()->close();
+  });
+}
+
 TEST_F(MacroEditorFormulaTest, EachFunctionWritesAroundTheCaretOrTheSelection) {
   OpenNew([&, this] {
     for (const MacroFunctionRow& row : kMacroFunctionRows) {

@@ -303,18 +303,6 @@ TEST_F(ScientificDlgTest, AfterAFailureTheMemoryOffersNothingThatTakesTheAnswer)
   QTest::keyClick(OpenMenu(), Qt::Key_Escape);
 }
 
-TEST_F(ScientificDlgTest, APopupOpensAtItsKeyAndWithinTheWidthOfTheScreen) {
-  for (const char16_t* caption : {u"DEC", u"M/C"}) {
-    Tap(caption);
-    const QWidget* key = FindKey(*dlg_, caption);
-    const QPoint corner = key->mapToGlobal(QPoint(0, key->height()));
-    EXPECT_EQ(OpenMenu()->y(), corner.y());
-    EXPECT_LE(OpenMenu()->x(), corner.x());
-    EXPECT_LE(OpenMenu()->geometry().right(), dlg_->mapToGlobal(dlg_->rect().bottomRight()).x());
-    QTest::keyClick(OpenMenu(), Qt::Key_Escape);
-  }
-}
-
 TEST_F(ScientificDlgTest, WhatIsShownAtTheEndIsShownAtTheNextStart) {
   Tap(u"DEG 1 + 1 =");
   ChooseBase(*dlg_, u"DEC", u"Hexadecimal");

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "screens/screen_driver.h"
+#include "screens/widgets/app_events.h"
 
 namespace kav::test::screen_keyboard_test {
 namespace {
@@ -34,6 +35,34 @@ TEST_F(ScreenKeyboardTest, EnterOfTheNumberPadEvaluates) {
   Type("6*7");
   Key(Qt::Key_Enter, Qt::KeypadModifier);
   EXPECT_EQ(Answer(), u"42");
+}
+
+TEST_F(ScreenKeyboardTest, TheSeparatorOfTheNumberPadIsAPoint) {
+  const AppEvents events;
+  const auto pressed = [](Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers) {
+    QWidget* widget = QApplication::focusWidget();
+    QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
+    QApplication::sendEvent(widget, &event);
+    EXPECT_TRUE(event.isAccepted());
+  };
+  Type("1");
+  pressed(Qt::Key_Comma, ",", Qt::KeypadModifier);
+  Type("5,2");
+  Focus(u"COS");
+  pressed(Qt::Key_Comma, QString(u'\u066B'), Qt::KeypadModifier);
+  pressed(Qt::Key_Period, ".", Qt::KeypadModifier);
+  pressed(Qt::Key_Comma, ",", {});
+  EXPECT_EQ(Line(), u"1.5,2..,|");
+}
+
+TEST_F(ScreenKeyboardTest, TheLinesOwnMenuLooksLikeTheOthers) {
+  const AppEvents events;
+  QContextMenuEvent ask(QContextMenuEvent::Mouse, QPoint(5, 5), dlg_->mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(&Expression(*dlg_), &ask);
+  ASSERT_NE(OpenMenu(), nullptr);
+  EXPECT_EQ(OpenMenu()->font().pixelSize(), Bar().font().pixelSize());
+  EXPECT_EQ(OpenMenu()->font().family(), Bar().font().family());
+  QTest::keyClick(OpenMenu(), Qt::Key_Escape);
 }
 
 TEST_F(ScreenKeyboardTest, AnEqualsSignEvaluatesAndIsNotWritten) {

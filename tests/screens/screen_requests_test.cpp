@@ -39,6 +39,69 @@ TEST_F(ScreenRequestsTest, EverythingIsOffered) {
   QTest::keyClick(OpenMenu(), Qt::Key_Escape);
 }
 
+TEST_F(ScreenRequestsTest, TheEditMenuSaysWhatItsEntriesDo) {
+  Texts tips;
+  for (const QAction* action : MenuOf(*dlg_, u"&Edit")->actions()) {
+    if (!action->statusTip().isEmpty()) tips.push_back(action->statusTip().toStdU16String());
+  }
+  EXPECT_EQ(tips, (Texts{u"Cut the selection and put it on the Clipboard",
+                         u"Copy the selection and put it on the Clipboard",
+                         u"Insert Clipboard contents"}));
+}
+
+TEST_F(ScreenRequestsTest, AMenuHasItsPlaceOnTheScreenAtAnySize) {
+  Tap(u"1 =");
+  // Of the wide window, a column of 225 by 300 pixels in the middle is the screen.
+  for (const auto& [size, corner] :
+       {std::pair(QSize(240, 320), QPoint()), std::pair(QSize(400, 300), QPoint(87, 0))}) {
+    dlg_->resize(size);
+    const QSizeF area = size.width() == 240 ? QSizeF(240, 320) : QSizeF(225, 300);
+    const auto at = [&](int x, int y) {
+      return dlg_->mapToGlobal(corner) + QPoint(static_cast<int>(x * area.width() / 240),
+                                                static_cast<int>(y * area.height() / 320));
+    };
+    Tap(u"DEC");
+    EXPECT_EQ(OpenMenu()->pos(), at(80, 90));
+    QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+    Tap(u"PB");
+    EXPECT_EQ(OpenMenu()->geometry().topRight() + QPoint(1, 0), at(195, 95));
+    QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+    Tap(u"M/C");
+    EXPECT_EQ(OpenMenu()->geometry().topRight() + QPoint(1, 0), at(189, 138));
+    QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+  }
+}
+
+TEST_F(ScreenRequestsTest, TheBaseInForceIsMarked) {
+  Tap(u"DEC");
+  Choose(u"Octal");
+  Tap(u"OCT");
+  for (const QAction* action : OpenMenu()->actions()) {
+    EXPECT_TRUE(action->isCheckable());
+    EXPECT_EQ(action->isChecked(), action->text() == "Octal");
+  }
+  QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+}
+
+TEST_F(ScreenRequestsTest, TheMouseHasLeftAKeyWhoseMenuIsClosed) {
+  for (const char16_t* caption : {u"DEC", u"M/C"}) {
+    QAbstractButton* key = FindKey(*dlg_, caption);
+    QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), key->mapToGlobal(QPointF(1, 1)));
+    QApplication::sendEvent(key, &enter);
+    Click(*key);
+    EXPECT_TRUE(key->underMouse());
+    QTest::keyClick(OpenMenu(), Qt::Key_Escape);
+    EXPECT_FALSE(key->underMouse());
+  }
+}
+
+TEST_F(ScreenRequestsTest, AHistoryWithoutTextsOpensNoMenu) {
+  frame_.store.Set(kCalHistoryCount, 500);
+  Open();
+  Tap(u"PB");
+  EXPECT_EQ(OpenMenu(), nullptr);
+}
+
 TEST_F(ScreenRequestsTest, TheModeMenuAsksTheFrameForAnotherScreen) {
   frame_.others = {{ScreenMode::Plotter, u"Function Plotter"}};
   OpenAnew();

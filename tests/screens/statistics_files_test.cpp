@@ -39,7 +39,7 @@ TEST_F(StatisticsFilesTest, ANameWithoutASuffixGetsOne) {
   EXPECT_EQ(Content("b.txt"), "1\t1\r\n");
 }
 
-TEST_F(StatisticsFilesTest, TheDialogsOfferTextFiles) {
+TEST_F(StatisticsFilesTest, TheDialogsOfferTextFilesFirst) {
   QStringList filters;
   const auto look = [&](QDialog& dialog) {
     filters += dynamic_cast<QFileDialog&>(dialog).nameFilters();
@@ -51,7 +51,37 @@ TEST_F(StatisticsFilesTest, TheDialogsOfferTextFiles) {
   AddRows("1");
   BoxWatch::Instance().ExpectDialog(look);
   Tap(u"Save");
-  EXPECT_EQ(filters, (QStringList{"TXT(*.txt)", "TXT(*.txt)"}));
+  const QStringList offered{"TXT(*.txt)", "Data files (*.txt *.csv *.tsv *.dat)", "All files (*)"};
+  EXPECT_EQ(filters, offered + offered);
+}
+
+TEST_F(StatisticsFilesTest, TheDialogsLieOverTheScreenAndShowAllTheyHave) {
+  dlg_->resize(240, 320);
+  const auto look = [this](QDialog& dialog) {
+    EXPECT_EQ(dialog.geometry().size(), QSize(240, 320));
+    EXPECT_TRUE(QRect(dlg_->mapToGlobal(QPoint()), dlg_->size()).contains(dialog.geometry()));
+    for (auto* part : dialog.findChildren<QWidget*>()) {
+      if (!part->isVisible() || part->window() != &dialog) continue;
+      const QRect place(part->mapTo(&dialog, QPoint()), part->size());
+      if (qobject_cast<QAbstractButton*>(part) != nullptr ||
+          qobject_cast<QLineEdit*>(part) != nullptr) {
+        EXPECT_TRUE(dialog.rect().contains(place)) << part->objectName().toStdString();
+      }
+      if (qobject_cast<QPushButton*>(part) != nullptr) {
+        EXPECT_GE(part->width(), part->minimumSizeHint().width());
+      }
+    }
+    EXPECT_NE(FindKey(dialog, u"Cancel"), nullptr);
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "");
+    EXPECT_TRUE(dynamic_cast<QFileDialog&>(dialog).directory().exists());
+    dialog.reject();
+  };
+  BoxWatch::Instance().ExpectDialog(look);
+  Tap(u"Load");
+  Focused();
+  AddRows("1");
+  BoxWatch::Instance().ExpectDialog(look);
+  Tap(u"Save");
 }
 
 TEST_F(StatisticsFilesTest, LoadingReplacesTheList) {

@@ -3,11 +3,13 @@
 #include <QMenu>
 #include <cstddef>
 
+#include "line/keypad.h"
 #include "macros/macro_editor_model.h"
 #include "macros/macros_texts.h"
 #include "screens/macros/macro_fields_view.h"
 #include "screens/memory/memory_variables_dlg.h"
 #include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/pop_up.h"
 #include "screens/widgets/qt_text.h"
 #include "screens/widgets/stored_list_dlg.h"
 
@@ -22,9 +24,8 @@ class CMacroEditorDlg final : public StoredListDlg<MacroEditorModel, MacroFields
   void OnMemory();
   void OnFunctions();
   void OnVariables();
-  /// Offers `items` below a button; `choose` is told the chosen one by its index.
-  void PopUp(EditorButton under, const PopUpTexts& items,
-             void (MacroEditorModel::*choose)(std::size_t));
+  /// A menu of `items`; `choose` is told the chosen one by its index.
+  QMenu* MenuOf(const PopUpTexts& items, void (MacroEditorModel::*choose)(std::size_t));
 
   SettingsStore& store_;
 };
@@ -46,17 +47,20 @@ void CMacroEditorDlg::OnMemory() {
 }
 
 void CMacroEditorDlg::OnFunctions() {
-  PopUp(EditorButton::Functions, MacroEditorModel::FunctionItems(),
-        &MacroEditorModel::ChooseFunction);
+  constexpr MenuPlace kPlace{110, 138, MenuSide::Left};
+  PopUpAt(*MenuOf(MacroEditorModel::FunctionItems(), &MacroEditorModel::ChooseFunction), *this,
+          kPlace);
 }
 
 void CMacroEditorDlg::OnVariables() {
   TakeFields();
-  PopUp(EditorButton::Variables, Editor().VariableItems(), &MacroEditorModel::ChooseVariable);
+  const DialogButton& button = ButtonOf(EditorButton::Variables);
+  MenuOf(Editor().VariableItems(), &MacroEditorModel::ChooseVariable)
+      ->popup(button.mapToGlobal(QPoint(0, button.height())));
 }
 
-void CMacroEditorDlg::PopUp(EditorButton under, const PopUpTexts& items,
-                            void (MacroEditorModel::*choose)(std::size_t)) {
+QMenu* CMacroEditorDlg::MenuOf(const PopUpTexts& items,
+                               void (MacroEditorModel::*choose)(std::size_t)) {
   QMenu* menu = MakePopUp();
   menu->setAccessibleName(ButtonOf(under).text());
   for (std::size_t i = 0; i < items.size(); ++i) {
@@ -70,8 +74,7 @@ void CMacroEditorDlg::PopUp(EditorButton under, const PopUpTexts& items,
       RefreshAndFocus(MacroField::Formula);
     });
   }
-  const DialogButton& button = ButtonOf(under);
-  menu->popup(button.mapToGlobal(QPoint(0, button.height())));
+  return menu;
 }
 
 }  // namespace

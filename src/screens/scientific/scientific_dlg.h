@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "scientific/scientific_model.h"
 #include "screens/widgets/line_screen.h"
@@ -21,6 +22,9 @@ class CScientificDlg final : public KeyScreenOf<Key, ScientificModel, LineScreen
   void OnClear() override { OnKey(Key::Clear); }
   void TakeLine() override;
   void Refresh() override;
+  std::optional<MenuPlace> PlaceOfMenu(int key) const override {
+    return MenuPlaceOf(static_cast<Key>(key));
+  }
   void LayOut(const DialogUnits& units) override;
 
   void CarryOut(const ScientificRequest& request) override;

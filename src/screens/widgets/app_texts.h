@@ -14,9 +14,12 @@ inline constexpr std::u16string_view kLoading = u"Loading...";
 inline constexpr std::string_view kVersionNumber = KAV_VERSION;
 inline constexpr std::u16string_view kAbout = u"Kav Calculator " KAV_VERSION
                                               "\n\n"
-                                              u"A scientific calculator with an expression line,\n"
-                                              u"number bases, a history and macros.\n\n"
-                                              u"kavcalc is the same for the command line.";
+                                              u"Scientific calculator, matrix calculator, "
+                                              u"statistics of one and of two variables, and "
+                                              u"function plotter, with a unit converter, macros, "
+                                              u"memory variables and constants.\n\n"
+                                              u"kavcalc, the program beside it, calculates at the "
+                                              u"command line.";
 
 // One per screen, as its window and the Mode menu call it.
 inline constexpr std::u16string_view kScientificScreen = u"Scientific Calculator";
@@ -31,6 +34,7 @@ inline constexpr std::u16string_view kAboutEntry = u"&About...";
 inline constexpr std::u16string_view kConfigEntry = u"&Config...";
 inline constexpr std::u16string_view kEditUnitsEntry = u"Edit &Unit Convert";
 inline constexpr std::u16string_view kEditMacroEntry = u"Edit &Macro";
+inline constexpr std::u16string_view kPlotterEditMacroEntry = u"Edit &Macro...";
 inline constexpr std::u16string_view kExitEntry = u"E&xit";
 
 inline constexpr std::u16string_view kEditMenu = u"&Edit";
@@ -40,6 +44,9 @@ inline constexpr std::u16string_view kCutEntry = u"Cu&t";
 inline constexpr std::u16string_view kCopyEntry = u"&Copy";
 inline constexpr std::u16string_view kPasteEntry = u"&Paste";
 inline constexpr std::u16string_view kSelectAllEntry = u"Select &All";
+inline constexpr std::u16string_view kCopyTip = u"Copy the selection and put it on the Clipboard";
+inline constexpr std::u16string_view kCutTip = u"Cut the selection and put it on the Clipboard";
+inline constexpr std::u16string_view kPasteTip = u"Insert Clipboard contents";
 
 inline constexpr std::u16string_view kModeMenu = u"&Mode";
 
@@ -50,6 +57,12 @@ inline constexpr std::u16string_view kStopSign = u"Error";
 inline constexpr std::u16string_view kWarningSign = u"Warning";
 inline constexpr std::u16string_view kQuestionSign = u"Question";
 inline constexpr std::u16string_view kInformationSign = u"Information";
+
+// Asked by a copy of the program that is started while another one hangs.
+inline constexpr std::u16string_view kDoesNotAnswer =
+    u"Kav Calculator is already running, but it does not answer. Wait until it shows itself, or "
+    u"start another one beside it.";
+inline constexpr std::u16string_view kStartAnother = u"Start another";
 
 // Told on the standard error output of the program that was started.
 inline constexpr std::string_view kTakesNoArguments =

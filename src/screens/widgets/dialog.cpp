@@ -2,13 +2,13 @@
 
 #include <QGroupBox>
 #include <QLayout>
-#include <QMenu>
 #include <QPlainTextEdit>
 #include <algorithm>
 
 #include "common/number_text.h"
 #include "screens/widgets/access_view.h"
 #include "screens/widgets/look.h"
+#include "screens/widgets/pop_up.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -43,11 +43,7 @@ bool Dialog::RunModal() {
 }
 
 QMenu* Dialog::MakePopUp() {
-  auto* menu = new QMenu(this);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  menu->setStyle(ScreenStyle());
-  menu->setFont(font());
-  return menu;
+  return NewPopUp(this, font());
 }
 
 bool Dialog::event(QEvent* event) {

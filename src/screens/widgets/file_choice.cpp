@@ -1,24 +1,48 @@
 #include "screens/widgets/file_choice.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <algorithm>
+#include <array>
 #include <utility>
 
+#include "screens/widgets/file_dialog.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
 namespace {
 
-/// Where the next choice begins: the folder of the last one, for as long as the program runs.
+/// The folder of the last choice, for as long as the program runs.
 QString& Folder() {
   static QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   return folder;
 }
 
+/// Where the next choice begins. A folder that is not there would become the name of the file.
+QString FirstFolder() {
+  for (const QString& folder : {Folder(), QDir::homePath()}) {
+    if (QDir(folder).exists()) return folder;
+  }
+  return QDir::rootPath();
+}
+
+/// `kind` and all others by which data are found.
+std::array<FileKind, 3> WithDataKinds(const FileKind& kind) {
+  return {kind, FileKind{u"Data files (*.txt *.csv *.tsv *.dat)", kind.suffix},
+          FileKind{u"All files (*)", u""}};
+}
+
+QStringList FiltersOf(std::span<const FileKind> kinds) {
+  QStringList filters;
+  for (const FileKind& kind : kinds) filters.append(ToQt(kind.filter));
+  return filters;
+}
+
 std::optional<std::string> Chosen(QFileDialog& dialog) {
+  FitOverScreen(dialog, *dialog.parentWidget());
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   Folder() = dialog.directory().absolutePath();
   return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
@@ -27,7 +51,9 @@ std::optional<std::string> Chosen(QFileDialog& dialog) {
 std::optional<std::size_t> KindOf(const std::string& path, std::span<const FileKind> kinds) {
   const QString suffix = QFileInfo(QFile::decodeName(path.c_str())).suffix();
   for (std::size_t i = 0; i < kinds.size(); ++i) {
-    if (suffix.compare(ToQt(kinds[i].suffix), Qt::CaseInsensitive) == 0) return i;
+    if (!suffix.isEmpty() && suffix.compare(ToQt(kinds[i].suffix), Qt::CaseInsensitive) == 0) {
+      return i;
+    }
   }
   return std::nullopt;
 }
@@ -35,20 +61,20 @@ std::optional<std::size_t> KindOf(const std::string& path, std::span<const FileK
 }  // namespace
 
 std::optional<std::string> AskFileToOpen(QWidget* parent, const FileKind& kind) {
-  QFileDialog dialog(parent, QString(), Folder(), ToQt(kind.filter));
+  QFileDialog dialog(parent, QString(), FirstFolder());
+  dialog.setNameFilters(FiltersOf(WithDataKinds(kind)));
   dialog.setFileMode(QFileDialog::ExistingFile);
   return Chosen(dialog);
 }
 
 std::optional<std::string> AskFileToSave(QWidget* parent, const FileKind& kind) {
-  const auto chosen = AskFileToSave(parent, std::span(&kind, 1));
+  const auto chosen = AskFileToSave(parent, WithDataKinds(kind));
   return chosen ? std::optional(chosen->path) : std::nullopt;
 }
 
 std::optional<FileToSave> AskFileToSave(QWidget* parent, std::span<const FileKind> kinds) {
-  QStringList filters;
-  for (const FileKind& kind : kinds) filters.append(ToQt(kind.filter));
-  QFileDialog dialog(parent, QString(), Folder());
+  const QStringList filters = FiltersOf(kinds);
+  QFileDialog dialog(parent, QString(), FirstFolder());
   dialog.setNameFilters(filters);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);

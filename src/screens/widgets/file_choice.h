@@ -14,12 +14,13 @@ namespace kav {
 /// Kinds of files as the user chooses among them, such as "TXT(*.txt)".
 struct FileKind {
   std::u16string_view filter;
-  std::u16string_view suffix;  ///< added to a name without one, such as "txt"
+  std::u16string_view suffix;  ///< added to a name without one, such as "txt"; empty for none
 };
 
 /// The path of the chosen file, in the encoding of the file system; nullopt if none was chosen. A
 /// file to open exists. A file to save may be written: if it exists, the user agreed. Both dialogs
-/// begin in the folder of the last choice.
+/// begin in the folder of the last choice. They are for files of data: `kind` is preset, and others
+/// by which such files go are offered too.
 std::optional<std::string> AskFileToOpen(QWidget* parent, const FileKind& kind);
 std::optional<std::string> AskFileToSave(QWidget* parent, const FileKind& kind);
 

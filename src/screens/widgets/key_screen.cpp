@@ -1,11 +1,15 @@
 #include "screens/widgets/key_screen.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QKeyEvent>
 #include <QMenu>
 #include <algorithm>
 #include <array>
 #include <utility>
+
+#include "screens/widgets/app_texts.h"
+#include "screens/widgets/pop_up.h"
 
 namespace kav {
 namespace {
@@ -25,16 +29,23 @@ void KeyScreen::AddKeys(std::vector<KeySpot> keys) {
 }
 
 void KeyScreen::PopUp(const Menu& items, int key, const std::function<void(int)>& choose) {
+  if (items.empty()) return;
   QMenu* menu = MakePopUp();
   menu->setAccessibleName(keys_->KeyCaption(key));
+  auto* marked = new QActionGroup(menu);  // of which one is in force
   for (const MenuItem& item : items) {
     if (item.IsSeparator()) {
       menu->addSeparator();
       continue;
     }
-    connect(menu->addAction(LabelOf(item.text)), &QAction::triggered, this,
-            [choose, id = item.id] { choose(id); });
+    QAction* action = menu->addAction(LabelOf(item.text));
+    connect(action, &QAction::triggered, this, [choose, id = item.id] { choose(id); });
+    if (item.mark == MenuMark::None) continue;
+    marked->addAction(action);
+    action->setCheckable(true);
+    action->setChecked(item.mark == MenuMark::Set);
   }
+  if (const auto place = PlaceOfMenu(key)) return PopUpAt(*menu, *this, *place);
   const QRect below = keys_->KeyArea(key);
   menu->popup(mapToGlobal(QPoint(below.left(), below.bottom() + 1)));
   // Only now its width is known.
@@ -48,7 +59,8 @@ void KeyScreen::AddMenus(ScreenMode mode, DisplayPage page,
   const auto config = [this, page, takeDisplaySettings](QWidget* parent) {
     if (Dialogs().displaySettings(parent, page)) takeDisplaySettings();
   };
-  AddFileMenu({Opening(config), Opening(dialogs.unitEditor), Opening(dialogs.macroEditor)});
+  AddFileMenu({Opening(config), Opening(dialogs.unitEditor), Opening(dialogs.macroEditor),
+               mode == ScreenMode::Plotter ? kPlotterEditMacroEntry : kEditMacroEntry});
   AddEditMenu({[this](EditCommand command) { Edit(command); },
                [this](EditCommand command) { return CanEdit(command); }});
   AddModeMenu(mode);

@@ -36,7 +36,11 @@ class KeyScreen : public Screen {
   void AddKeys(std::vector<KeySpot> keys);
   KeySheet& Keys() const { return *keys_; }
 
-  /// Opens `items` below the key of that number; `choose` is called with the id of the chosen one.
+  /// Where the menu of the key of that number opens; nullopt: below the key.
+  virtual std::optional<MenuPlace> PlaceOfMenu(int) const { return std::nullopt; }
+
+  /// Opens `items`, if there are any, at the place for the menu of the key of that number; `choose`
+  /// is called with the id of the chosen one.
   void PopUp(const Menu& items, int key, const std::function<void(int)>& choose);
 
   /// The File, Edit and Mode menus of the screen `mode`; `page` of the display settings opens

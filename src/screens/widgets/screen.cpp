@@ -11,6 +11,7 @@
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/bottom_menu_bar.h"
 #include "screens/widgets/message_box.h"
+#include "screens/widgets/pop_up.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -20,6 +21,7 @@ void AddAction(QMenu* menu, const MenuEntry& entry) {
   QAction* action = menu->addAction(ToQt(entry.text));
   action->setShortcut(entry.shortcut);
   action->setShortcutContext(Qt::WidgetShortcut);
+  action->setStatusTip(ToQt(entry.tip));
   QObject::connect(action, &QAction::triggered, action, entry.action);
   if (!entry.isEnabled) return;
   QObject::connect(menu, &QMenu::aboutToShow, action,
@@ -31,14 +33,15 @@ struct EditRow {
   EditCommand command;
   std::u16string_view text;
   QKeySequence::StandardKey shortcut;
+  std::u16string_view tip = {};
 };
 
 constexpr std::array kEditRows{
     EditRow{EditCommand::Undo, kUndoEntry, QKeySequence::Undo},
     EditRow{EditCommand::Redo, kRedoEntry, QKeySequence::Redo},
-    EditRow{EditCommand::Cut, kCutEntry, QKeySequence::Cut},
-    EditRow{EditCommand::Copy, kCopyEntry, QKeySequence::Copy},
-    EditRow{EditCommand::Paste, kPasteEntry, QKeySequence::Paste},
+    EditRow{EditCommand::Cut, kCutEntry, QKeySequence::Cut, kCutTip},
+    EditRow{EditCommand::Copy, kCopyEntry, QKeySequence::Copy, kCopyTip},
+    EditRow{EditCommand::Paste, kPasteEntry, QKeySequence::Paste, kPasteTip},
     EditRow{EditCommand::SelectAll, kSelectAllEntry, QKeySequence::SelectAll},
 };
 
@@ -98,7 +101,7 @@ void Screen::AddFileMenu(const FileCommands& commands) {
   AddMenu(kFileMenu, {{kAboutEntry, [this] { ShowAbout(this); }},
                       {kConfigEntry, commands.config},
                       {kEditUnitsEntry, commands.editUnits},
-                      {kEditMacroEntry, commands.editMacros},
+                      {commands.editMacrosEntry, commands.editMacros},
                       {kExitEntry, [this] {
                          if (MayLeave(LeaveReason::Ending)) frame_.Exit();
                        }}});
@@ -108,9 +111,9 @@ void Screen::AddEditMenu(const EditHooks& hooks) {
   std::vector<MenuEntry> entries;
   entries.reserve(kEditRows.size());
   for (const EditRow& row : kEditRows) {
-    entries.push_back({row.text, [edit = hooks.edit, command = row.command] { edit(command); },
-                       row.shortcut,
-                       [can = hooks.canEdit, command = row.command] { return can(command); }});
+    entries.push_back(
+        {row.text, [edit = hooks.edit, command = row.command] { edit(command); }, row.shortcut,
+         [can = hooks.canEdit, command = row.command] { return can(command); }, row.tip});
   }
   AddMenu(kEditMenu, entries);
 }
@@ -126,10 +129,7 @@ void Screen::AddModeMenu(ScreenMode own) {
 }
 
 QMenu* Screen::MakePopUp() {
-  auto* menu = new QMenu(this);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  Dress(menu);
-  return menu;
+  return NewPopUp(this, menuBar_->font());
 }
 
 void Screen::Dress(QMenu* menu) {

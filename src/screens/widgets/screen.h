@@ -24,6 +24,7 @@ struct MenuEntry {
   std::function<void()> action;
   QKeySequence shortcut = {};            ///< only shown: the focused line handles it itself
   std::function<bool()> isEnabled = {};  ///< asked each time the menu opens; empty: always
+  std::u16string_view tip = {};          ///< what it does, if the text does not say it
 };
 
 /// What the File menu of a screen does besides "About..." and "Exit".
@@ -31,6 +32,7 @@ struct FileCommands {
   std::function<void()> config;
   std::function<void()> editUnits;
   std::function<void()> editMacros;
+  std::u16string_view editMacrosEntry;
 };
 
 /// What the entries of the Edit menu do.

@@ -108,8 +108,10 @@ class TextMeasuredStyle final : public QProxyStyle {
     if (type == CT_LineEdit) return size + QSize(text / 2, text / 2);
     if (type == CT_PushButton) return size + QSize(text, text / 2);
     const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type != CT_MenuItem) return usual;
     // The column for ticks is drawn as wide as an entry is high, but counted with fewer pixels.
-    return type == CT_MenuItem ? usual + QSize(text, text / 4) : usual;
+    const QSize entry = usual + QSize(text, text / 4);
+    return entry - QSize(UnusedColumn(option, entry.height()), 0);
   }
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -163,6 +165,7 @@ class TextMeasuredStyle final : public QProxyStyle {
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
     if (element == CE_ComboBoxLabel) return DrawChoice(option, painter, widget);
+    if (element == CE_MenuItem) return DrawEntry(option, painter, widget);
     const auto* button = dynamic_cast<const QAbstractButton*>(widget);
     if (element != CE_PushButton || button == nullptr) {
       return QProxyStyle::drawControl(element, option, painter, widget);
@@ -185,6 +188,33 @@ class TextMeasuredStyle final : public QProxyStyle {
     }
     DrawField(*option, *painter);
     DrawArrow(subControlRect(control, option, SC_ComboBoxArrow, widget), *option, *painter);
+  }
+
+  /// The pixels before the text of a menu's entry that are for ticks, in a menu without any.
+  int UnusedColumn(const QStyleOption* option, int height) const {
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    const bool hasColumn = baseStyle()->name() == QLatin1String("fusion");
+    if (entry == nullptr || !hasColumn || entry->menuHasCheckableItems || entry->maxIconWidth > 0 ||
+        entry->menuItemType == QStyleOptionMenuItem::Separator) {
+      return 0;
+    }
+    constexpr int kNarrowest = 21;
+    const int column = std::max(height * 79 / 100, kNarrowest);
+    return std::max(column - entry->fontMetrics.height() / 3, 0);
+  }
+
+  void DrawEntry(const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    const int unused = UnusedColumn(option, option->rect.height());
+    if (entry == nullptr || unused == 0) {
+      return QProxyStyle::drawControl(CE_MenuItem, option, painter, widget);
+    }
+    QStyleOptionMenuItem shifted = *entry;
+    shifted.rect.adjust(-unused, 0, 0, 0);
+    painter->save();
+    painter->setClipRect(option->rect);
+    QProxyStyle::drawControl(CE_MenuItem, &shifted, painter, widget);
+    painter->restore();
   }
 
   /// `usual`, or where the text of a tab needs what is kept free around it, all of the tab.

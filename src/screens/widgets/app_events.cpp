@@ -1,0 +1,60 @@
+#include "screens/widgets/app_events.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
+
+#include "screens/widgets/look.h"
+#include "screens/widgets/pop_up.h"
+
+namespace kav {
+namespace {
+
+bool IsKeypadSeparator(const QKeyEvent& key) {
+  constexpr Qt::KeyboardModifiers kCommands =
+      Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  if (!key.modifiers().testFlag(Qt::KeypadModifier) || (key.modifiers() & kCommands)) return false;
+  return key.key() == Qt::Key_Comma || (key.key() == Qt::Key_Period && key.text() != u".");
+}
+
+/// Gives `receiver` the point that `key` stands for in its place.
+void SendPoint(QObject* receiver, QKeyEvent& key) {
+  QKeyEvent point(key.type(), Qt::Key_Period, key.modifiers(), QString(u'.'), key.isAutoRepeat(),
+                  static_cast<ushort>(key.count()));
+  point.setAccepted(key.isAccepted());
+  QCoreApplication::sendEvent(receiver, &point);
+  key.setAccepted(point.isAccepted());
+}
+
+void DressMenu(QObject* watched) {
+  auto* menu = qobject_cast<QMenu*>(watched);
+  if (menu == nullptr || menu->parentWidget() == nullptr) return;
+  menu->setStyle(ScreenStyle());
+  menu->setFont(MenuFont(*menu->parentWidget()->window()));
+}
+
+}  // namespace
+
+AppEvents::AppEvents() {
+  qApp->installEventFilter(this);
+}
+
+bool AppEvents::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease: {
+      auto& key = *static_cast<QKeyEvent*>(event);
+      if (!IsKeypadSeparator(key)) return false;
+      SendPoint(watched, key);
+      return true;
+    }
+    case QEvent::Polish:
+      DressMenu(watched);
+      return false;
+    default:
+      return false;
+  }
+}
+
+}  // namespace kav

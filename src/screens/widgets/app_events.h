@@ -1,0 +1,19 @@
+// What events mean in the whole program, whichever widget they are for.
+#pragma once
+
+#include <QObject>
+
+namespace kav {
+
+/// While it lives, the separator key of a keyboard's number pad writes a point, whatever the
+/// keyboard has on it: numbers are written with one. And the menus that fields of text make by
+/// themselves look like all others.
+class AppEvents final : public QObject {
+ public:
+  AppEvents();
+
+ private:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+}  // namespace kav

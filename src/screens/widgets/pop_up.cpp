@@ -1,0 +1,53 @@
+#include "screens/widgets/pop_up.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QHoverEvent>
+#include <QMenu>
+
+#include "line/keypad.h"
+#include "screens/widgets/look.h"
+
+namespace kav {
+namespace {
+
+/// Takes the mouse off the keys of `window`. One that it left while a menu was open has not heard
+/// of that, and would look as if it was still there.
+void ForgetMouse(const QWidget& window) {
+  constexpr QPointF kOutside(-1, -1);
+  for (auto* key : window.findChildren<QAbstractButton*>()) {
+    if (!key->underMouse()) continue;
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(key, &leave);
+    QHoverEvent hover(QEvent::HoverLeave, kOutside, kOutside, kOutside);
+    QApplication::sendEvent(key, &hover);
+  }
+}
+
+}  // namespace
+
+QMenu* NewPopUp(QWidget* owner, const QFont& font) {
+  auto* menu = new QMenu(owner);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->setStyle(ScreenStyle());
+  menu->setFont(font);
+  QObject::connect(menu, &QMenu::aboutToHide, owner, [owner] { ForgetMouse(*owner->window()); });
+  return menu;
+}
+
+QFont MenuFont(const QWidget& window) {
+  // A dialog has made its letters as large as it has room for.
+  if (qobject_cast<const QDialog*>(&window) != nullptr) return window.font();
+  return ScreenFont(TextPixels(PortraitArea(window.size()).height()));
+}
+
+void PopUpAt(QMenu& menu, const QWidget& window, const MenuPlace& place) {
+  const QRect area = PortraitArea(window.size());
+  const QRect point =
+      DialogUnits(area, QSize(kPlaceWidth, kPlaceHeight)).Pixels(QRect(place.x, place.y, 1, 1));
+  const int left = place.side == MenuSide::Left ? point.x() : point.x() - menu.sizeHint().width();
+  menu.popup(window.mapToGlobal(QPoint(left, point.y())));
+}
+
+}  // namespace kav

@@ -1,0 +1,24 @@
+// The menus that open over a screen or a dialog.
+#pragma once
+
+#include <QFont>
+#include <QPoint>
+
+class QMenu;
+class QWidget;
+
+namespace kav {
+
+struct MenuPlace;
+
+/// An empty menu with the look of the screens and letters of `font`. It belongs to `owner`, and is
+/// deleted when it is closed.
+QMenu* NewPopUp(QWidget* owner, const QFont& font);
+
+/// The letters of the menus of a screen or dialog, `window`.
+QFont MenuFont(const QWidget& window);
+
+/// Opens `menu` at `place` of the screen or dialog `window`.
+void PopUpAt(QMenu& menu, const QWidget& window, const MenuPlace& place);
+
+}  // namespace kav
