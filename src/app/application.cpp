@@ -7,10 +7,12 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "app/session.h"
 #include "app/single_instance.h"
 #include "screens/widgets/app_texts.h"
+#include "screens/widgets/message_box.h"
 #include "settings/file_descriptor.h"
 #include "store/settings_path.h"
 
@@ -37,13 +39,27 @@ int RefuseArguments() {
   return kWrongArguments;
 }
 
+SingleInstance Claim(std::chrono::milliseconds patience) {
+  return SingleInstance::Claim(OpenMeetingFolder(Environment("XDG_RUNTIME_DIR"), "/tmp"), patience);
+}
+
+/// What becomes of this process if the user does not wait for the one that does not answer. Called
+/// if there is nothing left to do.
+SingleInstance BesideBusyOne() {
+  const EndWatch end;
+  const std::vector<std::u16string> answers{std::u16string(kStartAnother)};
+  if (!AskWhich(nullptr, kDoesNotAnswer, answers)) return SingleInstance::Over();
+  SingleInstance instance = Claim(std::chrono::milliseconds(0));
+  if (instance.Result() != SingleInstance::Outcome::Busy) return instance;
+  return SingleInstance::Claim(FileDescriptor(-1), kPatience);
+}
+
 }  // namespace
 
 int RunApplication(int argc, char** argv) {
   if (argc > 1 && IsMistake(argv[1])) return RefuseArguments();
   SurviveSizeLimit();
-  SingleInstance instance =
-      SingleInstance::Claim(OpenMeetingFolder(Environment("XDG_RUNTIME_DIR"), "/tmp"), kPatience);
+  SingleInstance instance = Claim(kPatience);
   if (instance.Result() == SingleInstance::Outcome::Called) return 0;
   HoldEndSignals();
   // A menu bar of the desktop's own would not stand at the bottom of the screen.
@@ -52,6 +68,8 @@ int RunApplication(int argc, char** argv) {
   if (argc > 1) return RefuseArguments();
   QGuiApplication::setDesktopFileName("kav-calculator");
   QGuiApplication::setQuitOnLastWindowClosed(false);
+  if (instance.Result() == SingleInstance::Outcome::Busy) instance = BesideBusyOne();
+  if (instance.Result() == SingleInstance::Outcome::Called) return 0;
   const Session session(std::move(instance), DefaultSettingsPath());
   return QApplication::exec();
 }

@@ -35,11 +35,17 @@ void HoldEndSignals() {
   pthread_sigmask(SIG_BLOCK, &ends, nullptr);
 }
 
+EndWatch::EndWatch() : signals_(OpenEndSignals()) {
+  if (!signals_.IsOpen()) return;
+  notifier_ = std::make_unique<QSocketNotifier>(signals_.Number(), QSocketNotifier::Read);
+  QObject::connect(notifier_.get(), &QSocketNotifier::activated, &context_,
+                   [] { QApplication::exit(); });
+}
+
 Session::Session(SingleInstance instance, std::string settingsPath)
     : store_(std::move(settingsPath), StoreUser::Window),
       saver_(store_, [this] { return TellNotices(); }),
-      instance_(std::move(instance)),
-      endSignals_(OpenEndSignals()) {
+      instance_(std::move(instance)) {
   const auto later = [this](void (Session::*what)()) {
     return [this, what] {
       QMetaObject::invokeMethod(
@@ -50,21 +56,12 @@ Session::Session(SingleInstance instance, std::string settingsPath)
       store_, AllScreens(), AllDialogs(store_),
       FrameHooks{[this] { saver_.Save(); }, later(&Session::Started), later(&Session::End)});
   frame_->show();
-  WatchSignals();
   WatchCalls();
 }
 
 Session::~Session() {
   frame_.reset();
   saver_.SaveAtLast();
-}
-
-void Session::WatchSignals() {
-  if (!endSignals_.IsOpen()) return;
-  ending_ = std::make_unique<QSocketNotifier>(endSignals_.Number(), QSocketNotifier::Read);
-  // Unlike a user, a signal also ends what waits in a box; this object's end does the rest.
-  QObject::connect(ending_.get(), &QSocketNotifier::activated, &context_,
-                   [] { QApplication::exit(); });
 }
 
 void Session::WatchCalls() {

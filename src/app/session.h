@@ -19,8 +19,20 @@ namespace kav {
 /// any of which may receive a signal.
 void HoldEndSignals();
 
-/// Begins with the frame and ends with its last screen, or with a signal by which a desktop or a
-/// terminal asks a program to end; it then ends the event loop. Always saves the settings at its
+/// While it lives, a signal by which a desktop or a terminal asks a program to end ends the event
+/// loop, and what waits in a box before it.
+class EndWatch {
+ public:
+  EndWatch();
+
+ private:
+  FileDescriptor signals_;
+  QObject context_;
+  std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+/// Begins with the frame and ends with its last screen, or with a signal that asks
+/// the program to end; it then ends the event loop. Always saves the settings at its
 /// end, and tells the user what is wrong with them.
 class Session {
  public:
@@ -32,7 +44,6 @@ class Session {
   ~Session();
 
  private:
-  void WatchSignals();
   void WatchCalls();
   void Started();
   void End();
@@ -41,9 +52,8 @@ class Session {
   UserSettingsStore store_;
   SettingsSaver saver_;
   SingleInstance instance_;
-  FileDescriptor endSignals_;
+  EndWatch end_;
   QObject context_;  // what is still to be called is forgotten with it
-  std::unique_ptr<QSocketNotifier> ending_;
   std::unique_ptr<QSocketNotifier> calls_;
   std::unique_ptr<FrameWindow> frame_;
 };

@@ -110,6 +110,10 @@ SingleInstance::SingleInstance(Outcome outcome, FileDescriptor folder, FileDescr
       lock_(std::move(lock)),
       socket_(std::move(listener)) {}
 
+SingleInstance SingleInstance::Over() {
+  return {Outcome::Called, FileDescriptor(-1), FileDescriptor(-1), FileDescriptor(-1)};
+}
+
 SingleInstance SingleInstance::Claim(FileDescriptor folder, milliseconds patience) {
   constexpr milliseconds kPause(5);
   const auto deadline = steady_clock::now() + patience;
@@ -121,8 +125,9 @@ SingleInstance SingleInstance::Claim(FileDescriptor folder, milliseconds patienc
   while (flock(lock.Number(), LOCK_EX | LOCK_NB) != 0) {
     if (errno != EWOULDBLOCK && errno != EINTR) return ended(Outcome::Alone);
     // The other may just have started, and not listen yet, or be about to end, and not any more.
-    if (Call(folder, deadline) != Answer::Gone) return ended(Outcome::Called);
-    if (steady_clock::now() >= deadline) return ended(Outcome::Called);
+    const Answer answer = Call(folder, deadline);
+    if (answer == Answer::Yes) return ended(Outcome::Called);
+    if (answer == Answer::NoneYet || steady_clock::now() >= deadline) return ended(Outcome::Busy);
     std::this_thread::sleep_for(kPause);
   }
   FileDescriptor listener = Listen(folder);

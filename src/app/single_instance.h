@@ -19,12 +19,16 @@ class SingleInstance {
  public:
   enum class Outcome {
     First,   ///< nobody else runs
-    Called,  ///< another one runs and was called, or is too busy to say so
+    Called,  ///< another one runs and was called
+    Busy,    ///< another one runs and does not answer; it is called once it has time
     Alone,   ///< there is no place to meet: this process knows of no others
   };
 
   /// Meets the others in `folder`, and waits at most `patience` for the one that runs to answer.
   static SingleInstance Claim(FileDescriptor folder, std::chrono::milliseconds patience);
+
+  /// The claim of a process that has nothing left to do: Called.
+  static SingleInstance Over();
 
   Outcome Result() const { return outcome_; }
 

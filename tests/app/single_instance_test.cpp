@@ -59,10 +59,10 @@ TEST_F(SingleInstanceTest, TheSecondCallsTheFirst) {
   EXPECT_FALSE(first.TakeCalls());
 }
 
-TEST_F(SingleInstanceTest, TheSecondEndsThoughTheFirstIsTooBusyToAnswer) {
+TEST_F(SingleInstanceTest, TheSecondDoesNotWaitForeverForOneThatIsTooBusyToAnswer) {
   const SingleInstance first = Claim();
   const auto start = steady_clock::now();
-  EXPECT_EQ(Claim().Result(), Outcome::Called);
+  EXPECT_EQ(Claim().Result(), Outcome::Busy);
   EXPECT_GE(steady_clock::now() - start, kPatience * 9 / 10);
   EXPECT_LT(steady_clock::now() - start, kPatience * 10);
   EXPECT_TRUE(first.TakeCalls()) << "it hears of the call when it has time";
