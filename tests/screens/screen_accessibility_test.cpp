@@ -46,6 +46,28 @@ TEST_F(ScreenAccessibilityTest, EveryKeyIsNamedAsItsCaptionReads) {
   }
 }
 
+TEST_F(ScreenAccessibilityTest, EntriesOfTheEditMenuAreDescribed) {
+  QAccessibleInterface& menu = Of(*MenuOf(*dlg_, u"&Edit"));
+  std::map<QString, QString> entries;
+  for (int i = 0; i < menu.childCount(); ++i) {
+    QAccessibleInterface& entry = *menu.child(i);
+    entries[entry.text(QAccessible::Name)] = entry.text(QAccessible::Description);
+    EXPECT_EQ(entry.role(), QAccessible::MenuItem);
+  }
+  EXPECT_EQ(entries,
+            (std::map<QString, QString>{{"Copy", "Copy the selection and put it on the Clipboard"},
+                                        {"Cut", "Cut the selection and put it on the Clipboard"},
+                                        {"Paste", "Insert Clipboard contents"},
+                                        {"Redo", ""},
+                                        {"Select All", ""},
+                                        {"Undo", ""}}));
+  Type("12");
+  QAccessibleInterface& cut = *menu.child(2);
+  Expression(*dlg_).selectAll();
+  cut.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(Line(), u"|");
+}
+
 TEST_F(ScreenAccessibilityTest, NamesFollowTheCaptionsOfShiftAndBase) {
   Tap(u"Shift");
   EXPECT_TRUE(Buttons().contains("ASIN"));

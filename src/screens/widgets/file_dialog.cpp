@@ -27,6 +27,15 @@ constexpr QSize kRoomyDesktop(800, 600);
 constexpr std::array kLeftOut{"lookInLabel",    "backButton",       "forwardButton",
                               "listModeButton", "detailModeButton", "sidebar"};
 
+/// Gives the choice of the folder and what stands beside it all the width.
+void WidenFolderRow(QGridLayout& parts) {
+  constexpr int kLabelColumn = 0;
+  QLayoutItem* row = parts.itemAtPosition(0, kLabelColumn + 1);
+  if (row == nullptr || row->layout() == nullptr) return;
+  parts.removeItem(row);
+  parts.addItem(row, 0, kLabelColumn, 1, parts.columnCount());
+}
+
 /// Puts the buttons below the fields instead of beside them.
 void MoveButtonsBelow(QGridLayout& parts, QDialogButtonBox& buttons) {
   parts.removeWidget(&buttons);
@@ -43,7 +52,7 @@ void ShowNames(QFileDialog& dialog) {
   for (int column = 1; column < files->header()->count(); ++column) {
     files->setColumnHidden(column, true);
   }
-  files->header()->setStretchLastSection(true);
+  files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   files->setMinimumHeight(1);
 }
 
@@ -55,7 +64,9 @@ void Arrange(QFileDialog& dialog, QGridLayout& parts) {
   for (auto* choice : dialog.findChildren<QComboBox*>()) {
     choice->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     choice->setMinimumContentsLength(1);
+    choice->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   }
+  WidenFolderRow(parts);
   if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) MoveButtonsBelow(parts, *buttons);
   ShowNames(dialog);
   dialog.setPalette(ScreenPalette());

@@ -10,6 +10,7 @@
 #include "screens/widgets/access_view.h"
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/bottom_menu_bar.h"
+#include "screens/widgets/menu_access.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/pop_up.h"
 #include "screens/widgets/qt_text.h"
@@ -85,6 +86,7 @@ bool CanEditLine(const QLineEdit& line, EditCommand command) {
 Screen::Screen(Frame& frame, QSize size)
     : frame_(frame), size_(size), menuBar_(new BottomMenuBar(this)) {
   OfferWidgetsToScreenReaders();
+  DescribeMenusToScreenReaders();
   setWindowTitle(ToQt(kApplicationName));
   setPalette(ScreenPalette());
   setMinimumSize(kSmallestWindow);

@@ -183,6 +183,7 @@ class TextMeasuredStyle final : public QProxyStyle {
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override {
+    if (control == CC_ScrollBar) return DrawScrollBar(option, painter, widget);
     if (control != CC_ComboBox) {
       return QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
@@ -253,17 +254,51 @@ class TextMeasuredStyle final : public QProxyStyle {
     painter.restore();
   }
 
+  /// The arrow of a drop-down list.
   static void DrawArrow(const QRect& area, const QStyleOption& option, QPainter& painter) {
-    const double size = option.fontMetrics.height() * 0.25;
-    const QPointF centre = QRectF(area).center();
-    QPainterPath arrow(centre + QPointF(-size, -size / 2));
-    arrow.lineTo(centre + QPointF(0, size / 2));
-    arrow.lineTo(centre + QPointF(size, -size / 2));
+    DrawArrow(area, option, painter, option.fontMetrics.height() * 0.25, 0);
+  }
+
+  /// An arrow down, turned by `degrees`; from its middle it reaches `size` pixels to each side.
+  static void DrawArrow(const QRect& area, const QStyleOption& option, QPainter& painter,
+                        double size, int degrees) {
+    QPainterPath arrow(QPointF(-size, -size / 2));
+    arrow.lineTo(QPointF(0, size / 2));
+    arrow.lineTo(QPointF(size, -size / 2));
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QRectF(area).center());
+    painter.rotate(degrees);
     painter.setPen(QPen(option.palette.color(QPalette::Text), std::max(1.0, size / 3)));
     painter.drawPath(arrow);
     painter.restore();
+  }
+
+  void DrawScrollBar(const QStyleOptionComplex* option, QPainter* painter,
+                     const QWidget* widget) const {
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (bar == nullptr)
+      return QProxyStyle::drawComplexControl(CC_ScrollBar, option, painter, widget);
+    const bool isUpright = bar->orientation == Qt::Vertical;
+    const int extent = isUpright ? bar->rect.width() : bar->rect.height();
+    const auto place = [&](SubControl part) {
+      return subControlRect(CC_ScrollBar, option, part, widget);
+    };
+    painter->fillRect(bar->rect, bar->palette.color(QPalette::Window));
+    const bool isHeld = bar->activeSubControls.testFlag(SC_ScrollBarSlider);
+    const QColor slider = bar->palette.color(QPalette::Mid);
+    const double gap = std::max(1.0, extent / 8.0);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(isHeld ? slider.darker(125) : slider);
+    painter->drawRoundedRect(QRectF(place(SC_ScrollBarSlider)).adjusted(gap, gap, -gap, -gap), gap,
+                             gap);
+    painter->restore();
+    constexpr int kQuarter = 90;
+    DrawArrow(place(SC_ScrollBarSubLine), *bar, *painter, extent / 4.0,
+              isUpright ? 2 * kQuarter : kQuarter);
+    DrawArrow(place(SC_ScrollBarAddLine), *bar, *painter, extent / 4.0, isUpright ? 0 : -kQuarter);
   }
 };
 
