@@ -304,6 +304,11 @@ std::optional<std::u16string_view> StatisticsModel::QuestionBeforeLeaving() cons
   return kSaveDataQuestion;
 }
 
+std::optional<std::u16string_view> StatisticsModel::QuestionBeforeEnd() const {
+  if (!isModified_ || list_.RowCount() == 0) return std::nullopt;
+  return kSaveDataQuestion;
+}
+
 void StatisticsModel::TakeDisplaySettings() {
   format_ = LoadDisplayFormat(store_);
   if (hasResult_) Show(lastResult_);

@@ -70,6 +70,8 @@ class StatisticsModel {
   /// The question to ask before another screen takes the place of this one, if any. Yes means
   /// AskSaveFile.
   std::optional<std::u16string_view> QuestionBeforeLeaving() const;
+  /// The same before the program ends: asks for any row that is in no file.
+  std::optional<std::u16string_view> QuestionBeforeEnd() const;
   void TakeDisplaySettings();
 
   /// A click on the heading of a column: sorts by it, upwards and downwards in turn. Columns are

@@ -4,6 +4,9 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QScrollBar>
+#include <algorithm>
+#include <cstdlib>
 #include <vector>
 
 #include "screens/test_fonts.h"
@@ -93,6 +96,29 @@ TEST(Look, ALineIsNoHigherThanItsRoom) {
       EXPECT_TRUE(found >= pixels - 1 || lineOf(found + 2) > room) << pixels << ' ' << room;
     }
   }
+}
+
+TEST(Look, TheArrowsOfAScrollBarGrowWithTheLetters) {
+  // How many pixels from the middle to a side the arrow at the top reaches.
+  const auto reach = [](int letters) {
+    QScrollBar bar(Qt::Vertical);
+    bar.setStyle(ScreenStyle());
+    bar.setFont(ScreenFont(letters));
+    bar.setPalette(ScreenPalette());
+    bar.resize(bar.sizeHint().width(), 400);
+    const QImage picture = bar.grab(QRect(0, 0, bar.width(), bar.width())).toImage();
+    int reached = 0;
+    for (int y = 2; y < picture.height() - 2; ++y) {
+      for (int x = 2; x < picture.width() - 2; ++x) {
+        if (qGray(picture.pixel(x, y)) > 100) continue;
+        reached = std::max(reached, std::abs(x - picture.width() / 2));
+      }
+    }
+    return reached;
+  };
+  const int small = reach(20);
+  EXPECT_GE(small, 3);
+  EXPECT_GE(reach(60), 2 * small);
 }
 
 }  // namespace

@@ -94,6 +94,15 @@ TEST_F(OneVariableFiles, EditedRowCanBeSavedOnLeaving) {
   EXPECT_TRUE(model_->IsEditing());
 }
 
+TEST_F(OneVariableFiles, ASingleRowIsAskedForBeforeTheEndOnly) {
+  EXPECT_EQ(model_->QuestionBeforeEnd(), std::nullopt);
+  Add(u"2", u"1");
+  EXPECT_EQ(model_->QuestionBeforeLeaving(), std::nullopt);
+  EXPECT_EQ(model_->QuestionBeforeEnd(), kQuestion);
+  Saved();
+  EXPECT_EQ(model_->QuestionBeforeEnd(), std::nullopt);
+}
+
 // Load.
 
 TEST_F(OneVariableFiles, LoadedRowsReplaceTheListInTheirOrder) {

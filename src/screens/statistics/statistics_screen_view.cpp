@@ -174,7 +174,7 @@ SaveEnd StatisticsScreen::Save() {
   Tell(failure);
   if (failure) return SaveEnd::Failed;
   // Unless the user gave up while it was written.
-  return model_->QuestionBeforeLeaving() ? SaveEnd::Cancelled : SaveEnd::Saved;
+  return model_->QuestionBeforeEnd() ? SaveEnd::Cancelled : SaveEnd::Saved;
 }
 
 void StatisticsScreen::Do(const AskLoadFile& request) {
@@ -204,7 +204,8 @@ std::optional<std::u16string> StatisticsScreen::Run(std::u16string_view title, c
 }
 
 bool StatisticsScreen::MayLeave(LeaveReason reason) {
-  const auto question = model_->QuestionBeforeLeaving();
+  const auto question =
+      reason == LeaveReason::Ending ? model_->QuestionBeforeEnd() : model_->QuestionBeforeLeaving();
   if (!question) return true;
   TakeLine();
   return AskToSave(this, reason, *question, [this] { return Save(); });

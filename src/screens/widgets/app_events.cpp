@@ -1,8 +1,10 @@
 #include "screens/widgets/app_events.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMessageBox>
 
 #include "screens/widgets/look.h"
 #include "screens/widgets/pop_up.h"
@@ -26,11 +28,25 @@ void SendPoint(QObject* receiver, QKeyEvent& key) {
   key.setAccepted(point.isAccepted());
 }
 
-void DressMenu(QObject* watched) {
-  auto* menu = qobject_cast<QMenu*>(watched);
-  if (menu == nullptr || menu->parentWidget() == nullptr) return;
-  menu->setStyle(ScreenStyle());
-  menu->setFont(MenuFont(*menu->parentWidget()->window()));
+void DressMenu(QMenu& menu) {
+  if (menu.parentWidget() == nullptr) return;
+  menu.setStyle(ScreenStyle());
+  menu.setFont(MenuFont(*menu.parentWidget()->window()));
+}
+
+/// What a dialog for files asks by itself.
+void DressBox(QMessageBox& box) {
+  const auto* opener = qobject_cast<QFileDialog*>(box.parentWidget());
+  if (opener == nullptr || opener->layout() == nullptr) return;
+  box.setFont(opener->font());
+  box.setStyle(ScreenStyle());
+  for (auto* part : box.findChildren<QWidget*>()) part->setStyle(ScreenStyle());
+  box.setIcon(box.icon());  // drawn anew, at the size that the style has by now
+}
+
+void Dress(QObject* watched) {
+  if (auto* menu = qobject_cast<QMenu*>(watched)) DressMenu(*menu);
+  if (auto* box = qobject_cast<QMessageBox*>(watched)) DressBox(*box);
 }
 
 }  // namespace
@@ -50,7 +66,7 @@ bool AppEvents::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
     case QEvent::Polish:
-      DressMenu(watched);
+      Dress(watched);
       return false;
     default:
       return false;
