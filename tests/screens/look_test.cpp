@@ -4,6 +4,7 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QMenu>
 #include <QScrollBar>
 #include <algorithm>
 #include <cstdlib>
@@ -96,6 +97,20 @@ TEST(Look, ALineIsNoHigherThanItsRoom) {
       EXPECT_TRUE(found >= pixels - 1 || lineOf(found + 2) > room) << pixels << ' ' << room;
     }
   }
+}
+
+TEST(Look, AMenuWithoutTicksKeepsNoRoomForThem) {
+  const auto widthOf = [](const auto& change) {
+    QMenu menu;
+    menu.setStyle(ScreenStyle());
+    menu.setFont(ScreenFont(40));
+    QAction* entry = menu.addAction("Memory Recall");
+    change(*entry);
+    return menu.sizeHint().width();
+  };
+  const int plain = widthOf([](QAction&) {});
+  EXPECT_LE(plain + 20, widthOf([](QAction& entry) { entry.setCheckable(true); }));
+  EXPECT_GE(plain, QFontMetricsF(ScreenFont(40)).horizontalAdvance("Memory Recall") + 20);
 }
 
 TEST(Look, TheArrowsOfAScrollBarGrowWithTheLetters) {

@@ -1,12 +1,11 @@
 #include "screens/widgets/app_events.h"
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMessageBox>
 
 #include "screens/widgets/look.h"
+#include "screens/widgets/message_box.h"
 #include "screens/widgets/pop_up.h"
 
 namespace kav {
@@ -34,19 +33,9 @@ void DressMenu(QMenu& menu) {
   menu.setFont(MenuFont(*menu.parentWidget()->window()));
 }
 
-/// What a dialog for files asks by itself.
-void DressBox(QMessageBox& box) {
-  const auto* opener = qobject_cast<QFileDialog*>(box.parentWidget());
-  if (opener == nullptr || opener->layout() == nullptr) return;
-  box.setFont(opener->font());
-  box.setStyle(ScreenStyle());
-  for (auto* part : box.findChildren<QWidget*>()) part->setStyle(ScreenStyle());
-  box.setIcon(box.icon());  // drawn anew, at the size that the style has by now
-}
-
 void Dress(QObject* watched) {
   if (auto* menu = qobject_cast<QMenu*>(watched)) DressMenu(*menu);
-  if (auto* box = qobject_cast<QMessageBox*>(watched)) DressBox(*box);
+  DressFileBox(*watched);
 }
 
 }  // namespace

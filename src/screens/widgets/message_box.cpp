@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QEvent>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
@@ -181,6 +182,17 @@ std::optional<std::size_t> AskWhich(QWidget* parent, std::u16string_view questio
   const auto chosen = std::find(buttons.begin(), buttons.end(), box.clickedButton());
   if (chosen == buttons.end()) return std::nullopt;
   return static_cast<std::size_t>(chosen - buttons.begin());
+}
+
+void DressFileBox(QObject& widget) {
+  auto* box = qobject_cast<QMessageBox*>(&widget);
+  const auto* opener = box != nullptr ? qobject_cast<QFileDialog*>(box->parentWidget()) : nullptr;
+  // The desktop's own dialog has no parts of ours.
+  if (opener == nullptr || opener->layout() == nullptr) return;
+  box->setFont(opener->font());
+  box->setStyle(ScreenStyle());
+  for (auto* part : box->findChildren<QWidget*>()) part->setStyle(ScreenStyle());
+  box->setIcon(box->icon());  // drawn anew, at the size that the style has by now
 }
 
 void ShowAbout(QWidget* parent) {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+class QObject;
 class QWidget;
 
 namespace kav {
@@ -33,6 +34,9 @@ bool AskNoOrYes(QWidget* parent, std::u16string_view question);
 /// answer; nullopt for Cancel and for closing the box.
 std::optional<std::size_t> AskWhich(QWidget* parent, std::u16string_view question,
                                     const std::vector<std::u16string>& answers);
+
+/// Gives `widget` the look of the other boxes, if it is one that a dialog for files made by itself.
+void DressFileBox(QObject& widget);
 
 /// Name, version and purpose of the program.
 void ShowAbout(QWidget* parent);
