@@ -85,9 +85,19 @@ History History::Load(const SettingsStore& store, const HistoryKeys& keys) {
 }
 
 void History::Save(SettingsStore& store, const HistoryKeys& keys) const {
-  store.Set(keys.count, static_cast<std::int32_t>(entries_.size()));
+  std::vector<const std::u16string*> kept;
+  kept.reserve(entries_.size());
+  std::size_t room = kMostStored;
+  for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
+    if (entry->size() > room) continue;
+    room -= entry->size();
+    kept.push_back(&*entry);
+  }
+  store.Set(keys.count, static_cast<std::int32_t>(kept.size()));
   int number = keys.first;
-  for (const std::u16string& entry : entries_) store.Set(keys.entry(number++), Narrow(entry));
+  for (auto entry = kept.rbegin(); entry != kept.rend(); ++entry) {
+    store.Set(keys.entry(number++), Narrow(**entry));
+  }
 }
 
 bool History::NewestIs(std::u16string_view text) const {

@@ -1,6 +1,7 @@
 // The program itself, as processes of the system see it.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 
 #include <chrono>
@@ -140,6 +141,20 @@ TEST_F(ApplicationTest, AnEndedCopyHasSavedItsSettingsAndMakesRoomForTheNext) {
   const pid_t next = Start();
   std::this_thread::sleep_for(milliseconds(300));
   EXPECT_TRUE(Runs(next));
+}
+
+TEST_F(ApplicationTest, ALimitOnTheSizeOfFilesDoesNotEndIt) {
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit none{0, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &none);
+  const pid_t copy = Start();
+  setrlimit(RLIMIT_FSIZE, &before);
+  WaitForFirst();
+  std::this_thread::sleep_for(milliseconds(300));
+  kill(copy, SIGTERM);
+  EXPECT_EQ(StatusOf(copy), 0);
+  EXPECT_FALSE(Exists(Settings()));
 }
 
 TEST_F(ApplicationTest, ArgumentsAreRefused) {

@@ -142,6 +142,21 @@ TEST(History, AnyTextComesBackAsItWas) {
   EXPECT_EQ(History::Load(store, kCalculatorHistory).Entries(), texts);
 }
 
+TEST(History, OfEntriesBeyondAllMeasureTheNewestThatFitAreStored) {
+  History history;
+  for (const auto& text :
+       {std::u16string(u"1+1"), std::u16string(100'000, u'1'), std::u16string(1'000'000, u'2'),
+        std::u16string(31'071, u'3'), std::u16string(u"2")}) {
+    history.Add(text);
+  }
+  MemorySettingsStore store;
+  history.Save(store, kMatrixHistory);
+  EXPECT_EQ(History::Load(store, kMatrixHistory).Entries(),
+            (std::vector<std::u16string>{std::u16string(100'000, u'1'),
+                                         std::u16string(31'071, u'3'), u"2"}));
+  EXPECT_EQ(history.Entries().size(), 5U);
+}
+
 TEST(History, AnswerEntriesCarryTheirBase) {
   EXPECT_EQ(AnswerEntry(u"1,234.5", BaseMode::Decimal), u"=[D]1,234.5");
   EXPECT_EQ(AnswerEntry(u"FF", BaseMode::Hexadecimal), u"=[H]FF");
