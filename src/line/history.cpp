@@ -85,19 +85,17 @@ History History::Load(const SettingsStore& store, const HistoryKeys& keys) {
 }
 
 void History::Save(SettingsStore& store, const HistoryKeys& keys) const {
-  std::vector<const std::u16string*> kept;
-  kept.reserve(entries_.size());
+  std::vector<std::u16string_view> kept(entries_.begin(), entries_.end());
+  std::reverse(kept.begin(), kept.end());
   std::size_t room = kMostStored;
-  for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
-    if (entry->size() > room) continue;
-    room -= entry->size();
-    kept.push_back(&*entry);
-  }
+  std::erase_if(kept, [&room](std::u16string_view entry) {
+    const bool isBeyond = entry.size() > room;
+    room -= isBeyond ? 0 : entry.size();
+    return isBeyond;
+  });
   store.Set(keys.count, static_cast<std::int32_t>(kept.size()));
-  int number = keys.first;
-  for (auto entry = kept.rbegin(); entry != kept.rend(); ++entry) {
-    store.Set(keys.entry(number++), Narrow(**entry));
-  }
+  int number = keys.first + static_cast<int>(kept.size());
+  for (const std::u16string_view entry : kept) store.Set(keys.entry(--number), Narrow(entry));
 }
 
 bool History::NewestIs(std::u16string_view text) const {
