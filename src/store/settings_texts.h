@@ -34,6 +34,13 @@ inline std::u16string SettingsCannotBeRead(std::string_view path, FileError erro
          u". Until then everything starts with its default, and nothing is saved.";
 }
 
+inline std::u16string SettingsWereUnread(std::string_view path) {
+  return u"The settings in " + ShownName(path) +
+         u" could be read only now, and what was changed without them is saved there. As they "
+         u"were, "
+         u"they are kept beside them with \".damaged\" after the name.";
+}
+
 inline std::u16string SettingsCannotBeSaved(std::string_view path, FileError error) {
   if (path.empty()) return std::u16string(kNoPlaceForSettings);
   return FileFailure(u"The settings cannot be saved in ", Widen(path), ReasonAndRemedy(error));

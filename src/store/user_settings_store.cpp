@@ -61,16 +61,17 @@ std::optional<SettingsTable> SettingsIn(const FileContent& content) {
   return toml == nullptr ? std::nullopt : ReadSettings(*toml);
 }
 
-/// What a settings file holds, and what is to be told about it.
+/// What a settings file holds or, if that is not known, what is to be told about it.
 struct ReadOutcome {
   std::optional<SettingsTable> settings;
   std::u16string notice;
+  bool isUnread = false;  ///< it may be sound
 };
 
 ReadOutcome ReadStored(const std::string& path) {
   const FileContent content = ReadFile(path);
   if (const auto* error = std::get_if<FileError>(&content)) {
-    return {std::nullopt, SettingsCannotBeRead(path, *error)};
+    return {std::nullopt, SettingsCannotBeRead(path, *error), true};
   }
   if (std::holds_alternative<TooLarge>(content)) return {std::nullopt, SettingsAreTooLarge(path)};
   return {SettingsIn(content), SettingsAreDamaged(path)};
@@ -117,13 +118,14 @@ void UserSettingsStore::Write(std::string_view section, std::string_view name,
 const SettingsTable& UserSettingsStore::Stored() const {
   if (stored_) return *stored_;
   stored_.emplace();
-  auto read =
-      WithMemoryFor([this] { return ReadStored(path_); },
-                    ReadOutcome{std::nullopt, SettingsCannotBeRead(path_, FileError::NoMemory)});
+  auto read = WithMemoryFor(
+      [this] { return ReadStored(path_); },
+      ReadOutcome{std::nullopt, SettingsCannotBeRead(path_, FileError::NoMemory), true});
   if (read.settings) {
     stored_ = std::move(read.settings);
   } else {
     Tell(std::move(read.notice));
+    isUnread_ = read.isUnread;
   }
   return *stored_;
 }
@@ -132,7 +134,9 @@ void UserSettingsStore::Refresh() {
   if (!stored_) return;
   auto settings =
       WithMemoryFor([this] { return SettingsIn(ReadFile(path_)); }, std::optional<SettingsTable>());
-  if (!settings || settings == stored_) return;
+  if (!settings) return;
+  isUnread_ = isUnread_ && !changes_.empty();
+  if (settings == stored_) return;
   stored_ = std::move(settings);
   MarkChanged();
 }
@@ -226,6 +230,8 @@ UserSettingsStore::Outcome UserSettingsStore::Merge(const std::string& file) {
   const auto* current = std::get_if<std::string>(&content);
   auto merged = current != nullptr ? WithChanges(*current, changes_) : std::nullopt;
   const bool isDamaged = !merged;
+  // What was set without knowing the file may stand in place of something better.
+  const bool isOverUnread = isUnread_ && current != nullptr && !current->empty();
   if (isDamaged) {
     Tell(current != nullptr ? SettingsAreDamaged(path_) : SettingsAreTooLarge(path_));
     merged = WithChanges("", All());
@@ -233,7 +239,7 @@ UserSettingsStore::Outcome UserSettingsStore::Merge(const std::string& file) {
   auto readBack = merged ? ReadBack(*merged) : std::nullopt;
   if (!readBack) return Hindrance{NotSaved(FileError::TooLarge)};
   std::optional<FileError> error;
-  if (isDamaged) {
+  if (isDamaged || isOverUnread) {
     error = ReplaceDamaged(file, *merged, NewFileOwner::OwnerOfFolder);
   } else if (*merged != *current) {
     error = ReplaceFile(file, *merged, NewFileOwner::OwnerOfFolder);
@@ -243,6 +249,7 @@ UserSettingsStore::Outcome UserSettingsStore::Merge(const std::string& file) {
   changes_.clear();
   // Should it fail again, that is news.
   told_.clear();
+  if (std::exchange(isUnread_, false) && isOverUnread) Tell(SettingsWereUnread(path_));
   MarkChanged();
   return std::nullopt;
 }

@@ -36,9 +36,9 @@ class UserSettingsStore final : public SettingsStore {
   /// Writes what this process has changed since the last save into the file, over what other
   /// processes have written, and takes over what they wrote. Writes nothing if nothing changed.
   /// Returns once all is on the disk; false if it could not be written, and then the changes stay
-  /// for the next try. A damaged file is kept under another name first. Waits up to two seconds for
-  /// another process that is saving, for a window a quarter of a second; after a wait in vain it
-  /// waits no more until the file was free once.
+  /// for the next try. A damaged file, or one that could not be read at first, is kept under
+  /// another name. Waits up to two seconds for another process that is saving, for a window a
+  /// quarter of a second; after a wait in vain it waits no more until the file was free once.
   bool Save();
 
   /// Save for a window, without any wait. False if another process is saving: nobody is told then,
@@ -96,6 +96,8 @@ class UserSettingsStore final : public SettingsStore {
   // What the file held when it was last read. It is read late, in const functions too: nobody sees
   // when.
   mutable std::optional<SettingsTable> stored_;
+  mutable bool isUnread_ =
+      false;  ///< the file could not be read, and changes_ were made without it
   mutable std::deque<std::u16string> notices_;
   mutable std::set<std::u16string> told_;
 };

@@ -91,7 +91,8 @@ std::string ManySettings() {
 }
 
 TEST_F(SettingsLimits, WithoutTheMemoryToReadThemTheUserIsTold) {
-  PutFile(path, ManySettings());
+  const std::string before = ManySettings();
+  PutFile(path, before);
   bool isRead = false;
   int failures = 0;
   for (std::size_t most = kStep; !isRead; most += kStep) {
@@ -105,7 +106,9 @@ TEST_F(SettingsLimits, WithoutTheMemoryToReadThemTheUserIsTold) {
     if (++failures > 1) continue;
     store.Set(kText, "new");
     ASSERT_TRUE(store.Save()) << "by now there is memory";
-    EXPECT_EQ(ReadNumber(), 5) << "nothing is lost";
+    EXPECT_EQ(store.TakeNotice(), SettingsWereUnread(path));
+    EXPECT_EQ(ReadNumber(), 5);
+    EXPECT_TRUE(FileContent(path + ".damaged") == before) << "nothing is lost";
   }
   EXPECT_GT(failures, 5);
 }

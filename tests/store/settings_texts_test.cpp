@@ -65,6 +65,14 @@ TEST(SettingsTexts, AFileThatIsTooLargeIsToldWithWhatBecomesOfIt) {
       u"the new one with \".damaged\" after its name, to be made smaller or deleted.");
 }
 
+TEST(SettingsTexts, SettingsReadTooLateAreToldWithWhereTheyAre) {
+  EXPECT_EQ(
+      SettingsWereUnread("/a/settings.toml"),
+      u"The settings in /a/settings.toml could be read only now, and what was changed without "
+      u"them is saved there. As they were, they are kept beside them with \".damaged\" after "
+      u"the name.");
+}
+
 TEST(SettingsTexts, ANameCannotCommandTheTerminalThatShowsIt) {
   const std::string path = "/a/\x1B[31m\xC2\x9Bü\n";
   const std::u16string shown = u"/a/\\x1B[31m\\x9Bü\\x0A";
