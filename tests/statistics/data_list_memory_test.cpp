@@ -108,7 +108,7 @@ std::int64_t Resident() {
 TEST(DataListMemory, ALongListIsGivenBackToTheMachine) {
   if (!test::kIsFast) GTEST_SKIP() << "a sanitizer keeps what is freed";
   std::string text;
-  for (int i = 0; i < 400'000; ++i) text += std::to_string(i % 9000 + 1000) + ".123\t5\r\n";
+  for (int i = 0; i < 200'000; ++i) text += std::to_string(i % 9000 + 1000) + ".123\t5\r\n";
   const TemporaryFolder folder;
   PutFile(folder.File("data.txt"), text);
   MemorySettingsStore store;

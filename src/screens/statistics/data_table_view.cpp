@@ -10,6 +10,7 @@
 #include <numeric>
 #include <utility>
 
+#include "screens/statistics/heading_view.h"
 #include "screens/statistics/number_delegate_view.h"
 #include "screens/widgets/access_view.h"
 #include "screens/widgets/look.h"
@@ -87,23 +88,18 @@ DataTableView::DataTableView(QWidget* parent, const DataList& list,
       list_(list),
       columns_(columns.begin(), columns.end()),
       cells_(new Cells(this, list, columns)) {
+  MakeHeadings();
   for (QWidget* part : findChildren<QWidget*>()) part->setStyle(ScreenStyle());
   setStyle(ScreenStyle());
   setAccessibleName(ToQt(kDataListName));
   setItemDelegate(new NumberDelegate(this));
-  MakeHeadings();
   DataTableView::setModel(cells_);
   LetKeyboardFollow(*this);
 }
 
 void DataTableView::MakeHeadings() {
-  QHeaderView& headings = *horizontalHeader();
-  headings.setSectionResizeMode(QHeaderView::Interactive);
-  headings.setSectionsClickable(true);
-  headings.setHighlightSections(false);
-  headings.setMinimumSectionSize(1);
-  headings.setSortIndicator(-1, Qt::AscendingOrder);
-  headings.setSortIndicatorShown(true);
+  auto& headings = *new HeadingView(this);
+  setHorizontalHeader(&headings);
   connect(&headings, &QHeaderView::sectionClicked, this, &DataTableView::PressHeading);
   connect(&headings, &QHeaderView::sectionResized, this, &DataTableView::OnColumnDragged);
   for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
@@ -122,10 +118,8 @@ void DataTableView::OpenRow(int) {
 
 void DataTableView::ShowSorted(const std::optional<DataSorting>& sorting) {
   const bool isAscending = !sorting || sorting->direction == DataList::Direction::Ascending;
-  // The toolkit calls upwards what points down.
   horizontalHeader()->setSortIndicator(sorting ? static_cast<int>(sorting->column) : -1,
-                                       isAscending ? Qt::DescendingOrder : Qt::AscendingOrder);
-  FitHeadings();
+                                       isAscending ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
 
 void DataTableView::Reload() {
@@ -193,13 +187,11 @@ void DataTableView::FitHeadings() {
   QHeaderView& header = *horizontalHeader();
   // This is the most that they take: they shrink with the letters.
   const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
-  const int arrow = style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this) + margins;
   std::vector<SpacedText> headings;
   headings.reserve(columns_.size());
   for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
-    const int beside = column == header.sortIndicatorSection() ? margins + arrow : margins;
     headings.push_back(
-        {ToQt(columns_[static_cast<std::size_t>(column)].heading), columnWidth(column) - beside});
+        {ToQt(columns_[static_cast<std::size_t>(column)].heading), columnWidth(column) - margins});
   }
   header.setFont(ScreenFont(FittingPixels(headings, font().pixelSize(), 1)));
 }

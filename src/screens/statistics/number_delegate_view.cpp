@@ -2,10 +2,17 @@
 
 #include <QFontMetrics>
 #include <QStyle>
+#include <algorithm>
 
 #include "screens/widgets/look.h"
 
 namespace kav {
+namespace {
+
+/// The size of the smallest letters, as a part of the usual.
+constexpr double kSmallest = 0.7;
+
+}  // namespace
 
 QString ElidedNumber(const QString& number, const QFontMetrics& letters, int room) {
   if (letters.horizontalAdvance(number) <= room) return number;
@@ -24,7 +31,15 @@ void NumberDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
   QStyledItemDelegate::initStyleOption(option, index);
   const int margin =
       ScreenStyle()->pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget) + 1;
-  option->text = ElidedNumber(option->text, option->fontMetrics, option->rect.width() - 2 * margin);
+  const int room = option->rect.width() - 2 * margin - 1;
+  const int width = option->fontMetrics.horizontalAdvance(option->text);
+  if (width <= room) return;
+  const int usual = option->font.pixelSize();
+  const int least = static_cast<int>(usual * kSmallest);
+  option->font.setPixelSize(std::max({usual * std::max(room, 0) / width, least, 1}));
+  option->fontMetrics = QFontMetrics(option->font);
+  option->text = ElidedNumber(option->text, option->fontMetrics, room);
+  option->textElideMode = Qt::ElideNone;
 }
 
 }  // namespace kav

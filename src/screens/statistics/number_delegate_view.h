@@ -9,11 +9,13 @@ namespace kav {
 /// stays, because without it the rest would tell another number.
 QString ElidedNumber(const QString& number, const QFontMetrics& letters, int room);
 
-class NumberDelegate final : public QStyledItemDelegate {
+/// Numbers that are too long for their cells get smaller letters, and are cut if that is not
+/// enough.
+class NumberDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
- private:
+ protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 

@@ -6,7 +6,6 @@
 #include <QItemSelection>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyleOptionFocusRect>
 #include <algorithm>
 #include <limits>
 
@@ -23,6 +22,9 @@ class NoRows final : public QAbstractTableModel {
   int columnCount(const QModelIndex&) const override { return 0; }
   QVariant data(const QModelIndex&, int) const override { return {}; }
 };
+
+/// The frame around the row of the keys, as a part of a row's height.
+constexpr double kFocusLine = 0.04;
 
 /// As a quotient rounded down, also for places above the table.
 int Quotient(int place, int height) {
@@ -170,13 +172,14 @@ void RowTable::PaintLines(QPainter& painter, const QStyleOptionViewItem& option,
 /// Around the whole row that the keys work on.
 void RowTable::PaintFocus(QPainter& painter) const {
   if (!hasFocus() || !currentIndex().isValid()) return;
-  QStyleOptionFocusRect frame;
-  frame.initFrom(this);
-  frame.rect = AreaOf(currentIndex().row()).adjusted(0, 0, -1, -1);
-  frame.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
-  frame.backgroundColor = palette().color(
-      selectionModel()->isSelected(currentIndex()) ? QPalette::Highlight : QPalette::Base);
-  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
+  const bool isSelected = selectionModel()->isSelected(currentIndex());
+  const double line = std::max(1.0, RowHeight() * kFocusLine);
+  const QRectF row = QRectF(AreaOf(currentIndex().row())).adjusted(0, 0, -1, -1);
+  painter.setPen(QPen(palette().color(isSelected ? QPalette::HighlightedText : QPalette::Highlight),
+                      line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  // Within the row and clear of its edge, so that it is seen on a selected one.
+  const double inset = isSelected ? 1.5 * line : line / 2;
+  painter.drawRect(row.adjusted(inset, inset, -inset, -inset));
 }
 
 // The selection.
