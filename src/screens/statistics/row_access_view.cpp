@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QPointer>
 #include <algorithm>
+#include <utility>
 
 #include "common/number_text.h"
 #include "screens/statistics/row_table_view.h"
