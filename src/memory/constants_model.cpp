@@ -30,6 +30,9 @@ void ConstantsModel::SetFilter(std::u16string_view filter) {
   for (std::size_t i = 0; i < table_.size(); ++i) {
     if (Matches(table_[i], filter)) shown_.push_back(i);
   }
+  std::stable_sort(shown_.begin(), shown_.end(), [&](std::size_t a, std::size_t b) {
+    return MatchSymbol(table_[a], filter) < MatchSymbol(table_[b], filter);
+  });
   if (!SelectedRow()) selected_.reset();
 }
 
@@ -39,8 +42,8 @@ std::u16string ConstantsModel::CountText() const {
 
 std::optional<std::size_t> ConstantsModel::SelectedRow() const {
   if (!selected_) return std::nullopt;
-  const auto found = std::lower_bound(shown_.begin(), shown_.end(), *selected_);
-  if (found == shown_.end() || *found != *selected_) return std::nullopt;
+  const auto found = std::find(shown_.begin(), shown_.end(), *selected_);
+  if (found == shown_.end()) return std::nullopt;
   return static_cast<std::size_t>(found - shown_.begin());
 }
 

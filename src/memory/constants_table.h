@@ -26,9 +26,16 @@ struct Constant {
 /// A record without a name or a value is skipped.
 std::vector<Constant> ParseConstants(std::string_view bytes);
 
-/// Whether each word of `filter`, in any case, occurs in the group, the name or the value. An empty
-/// filter matches every row.
+/// Whether each word of `filter`, in any case, occurs in the group, the name or the value. A mole
+/// is a mol. An empty filter matches every row.
 bool Matches(const Constant& constant, std::u16string_view filter);
+
+/// The last word of the name before its unit: R in "molar gas constant R (J/(mol K))".
+std::u16string_view SymbolOf(const Constant& constant);
+
+/// How well `filter` is the symbol of `constant`; the better ones first.
+enum class SymbolMatch { Exact, InAnotherCase, None };
+SymbolMatch MatchSymbol(const Constant& constant, std::u16string_view filter);
 
 /// The file's name.
 inline constexpr std::string_view kConstantsFile = "constable.dat";

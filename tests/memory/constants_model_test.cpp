@@ -4,8 +4,11 @@
 
 #include <limits>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
+#include "common/number_text.h"
 #include "support/temporary_folder.h"
 
 namespace kav::constants_model_test {
@@ -61,6 +64,25 @@ TEST_F(ConstantsModelTest, TheFilterLooksForWordsInGroupNameAndValue) {
   for (const auto& [filter, names] : rows) {
     model_.SetFilter(filter);
     EXPECT_EQ(ShownNames(), names) << testing::PrintToString(filter);
+  }
+}
+
+TEST(ConstantsModelOfNature, TheSymbolThatIsTypedComesFirst) {
+  ConstantsModel model({KAV_DATA_FOLDER});
+  const std::pair<std::u16string_view, std::u16string_view> rows[] = {
+      {u"R", u"molar gas constant R (J/(mol K))"},
+      {u" c ", u"speed of light in vacuum c (m/s)"},
+      {u"G", u"Newtonian constant of gravitation G (m^3/(kg s^2))"},
+      {u"k", u"Boltzmann constant k (J/K)"},
+      {u"h", u"Planck constant h (J s)"},
+      {u"n_a", u"Avogadro constant N_A (1/mol)"},
+      {u"mole gas", u"molar gas constant R (J/(mol K))"},
+      {u"light vacuum speed", u"speed of light in vacuum c (m/s)"},
+  };
+  for (const auto& [typed, name] : rows) {
+    model.SetFilter(typed);
+    ASSERT_GT(model.ShownCount(), 0U) << Narrow(typed);
+    EXPECT_EQ(model.Shown(0).name, name);
   }
 }
 

@@ -13,6 +13,8 @@
 #include "memory/memory_texts.h"
 #include "screens/widgets/access_view.h"
 #include "screens/widgets/dialog.h"
+#include "screens/widgets/fitting_number.h"
+#include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -20,41 +22,53 @@ namespace {
 
 constexpr int kName = 0;
 constexpr int kValue = 1;
-constexpr double kValueShare = 0.44;  // of the width
+constexpr double kMostForValues = 0.62;  // of the width
 
 constexpr std::ptrdiff_t kAllRows = std::numeric_limits<std::ptrdiff_t>::max();
 
-/// `number` in one or two lines of `room` pixels each, its exponent in one of them. A number that
-/// is too long loses digits in its middle, and so keeps the exponent.
-QString InTwoLines(const QString& number, const QFontMetrics& metrics, int room) {
-  // What the first line may leave free because the next character, at most as wide as an ellipsis,
-  // does not fit.
-  const int slack = metrics.horizontalAdvance(QStringLiteral(u"\u20260"));
-  QString text = metrics.elidedText(number, Qt::ElideMiddle, 2 * room - slack);
-  auto fits = static_cast<int>(text.size());
-  while (fits > 1 && metrics.horizontalAdvance(text, fits) > room) --fits;
-  if (fits == text.size()) return text;
-  const qsizetype exponent = text.indexOf(u'e');
-  return text.insert(exponent > 0 && exponent < fits ? exponent : fits, QChar::LineSeparator);
+/// `text` with a line break in each word that is wider than `room` pixels.
+QString WithWordsBroken(QString text, const QFontMetrics& metrics, int room) {
+  qsizetype word = 0;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (text[i] == u' ') word = i + 1;
+    if (i <= word || metrics.horizontalAdvance(text.mid(word, i + 1 - word)) <= room) continue;
+    text.insert(i, QChar::LineSeparator);
+    word = i + 1;
+  }
+  return text;
 }
 
-/// Every row has room for a name and a value in two lines.
+/// A row is as high as its name needs; values stand on one line.
 class CellDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
-    const int gap = option.fontMetrics.height() / 4;
-    return {0, option.fontMetrics.size(0, "X\nX").height() + gap};
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QFontMetrics& metrics = option.fontMetrics;
+    const int gap = metrics.height() / 4;
+    if (index.column() != kName) return {0, metrics.height() + gap};
+    const int room = RoomIn(option, index);
+    const QString name = WithWordsBroken(index.data().toString(), metrics, room);
+    const QRect lines(0, 0, room, kMostLines * metrics.lineSpacing());
+    return {0,
+            metrics.boundingRect(lines, Qt::TextWordWrap, name).intersected(lines).height() + gap};
   }
 
  private:
+  static constexpr int kMostLines = 6;  // the user's own table may have names of any length
+
+  static int RoomIn(const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const auto& list = static_cast<const QTreeView&>(*option.widget);
+    const int margin = list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, &list) + 1;
+    return list.columnWidth(index.column()) - 2 * margin;
+  }
+
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (index.column() == kName) return;
-    const QStyle& style = *option->widget->style();
-    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget) + 1;
-    option->text = InTwoLines(option->text, option->fontMetrics, option->rect.width() - 2 * margin);
+    const int room = RoomIn(*option, index);
+    option->text = index.column() == kName
+                       ? WithWordsBroken(option->text, option->fontMetrics, room)
+                       : FittingNumber(option->text, option->fontMetrics, room);
   }
 };
 
@@ -96,9 +110,13 @@ class ConstantsView::TableModel final : public QAbstractTableModel {
 ConstantsView::ConstantsView(ConstantsModel& model, std::function<void()> onSelect)
     : model_(model), onSelect_(std::move(onSelect)), table_(new TableModel(this, model)) {
   setAccessibleName(ToQt(kConstantsTitle));
+  QStringList values;
+  for (std::size_t row = 0; row < model.ShownCount(); ++row) {
+    values.append(OneLine(model.Shown(row).value));
+  }
+  longValues_ = LongOnes(values);
   setModel(table_);
   setRootIsDecorated(false);
-  setUniformRowHeights(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setItemDelegate(new CellDelegate(this));
   setWordWrap(true);
@@ -147,7 +165,25 @@ void ConstantsView::keyPressEvent(QKeyEvent* event) {
 
 void ConstantsView::resizeEvent(QResizeEvent* event) {
   QTreeView::resizeEvent(event);
-  header()->resizeSection(kValue, qRound(viewport()->width() * kValueShare));
+  LayOutColumns();
+}
+
+void ConstantsView::changeEvent(QEvent* event) {
+  QTreeView::changeEvent(event);
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  widestValue_ = 0;
+  for (const QString& value : longValues_) {
+    widestValue_ = std::max(widestValue_, fontMetrics().horizontalAdvance(value));
+  }
+  LayOutColumns();
+}
+
+/// Values have the room for all of them on one line, as far as enough is left for names.
+void ConstantsView::LayOutColumns() {
+  const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+  const int needed = std::max(widestValue_ + 2 * margin, header()->sectionSizeHint(kValue));
+  const int most = qRound(viewport()->width() * kMostForValues);
+  header()->resizeSection(kValue, std::min(needed, most));
 }
 
 void ConstantsView::OnSelection() {
@@ -164,7 +200,10 @@ void ConstantsView::ShowSelection() {
 }
 
 int ConstantsView::RowsOnAPage() const {
-  return std::max(1, viewport()->height() / std::max(1, sizeHintForRow(0)) - 1);
+  const QModelIndex first = indexAt({0, 0});
+  const QModelIndex last = indexAt({0, viewport()->height() - 1});
+  const int rows = last.isValid() ? last.row() - first.row() : table_->rowCount({});
+  return std::max(1, rows - 1);
 }
 
 }  // namespace kav

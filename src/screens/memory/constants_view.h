@@ -1,6 +1,7 @@
 // The list of constants as a widget.
 #pragma once
 
+#include <QStringList>
 #include <QTreeView>
 #include <functional>
 
@@ -25,7 +26,9 @@ class ConstantsView final : public QTreeView {
 
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
+  void LayOutColumns();
   void OnSelection();
   void ShowSelection();
   int RowsOnAPage() const;
@@ -33,6 +36,8 @@ class ConstantsView final : public QTreeView {
   ConstantsModel& model_;
   std::function<void()> onSelect_;
   TableModel* table_;
+  QStringList longValues_;  ///< those that may be the widest
+  int widestValue_ = 0;     ///< in pixels
 };
 
 }  // namespace kav

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -12,11 +13,31 @@
 #include "screens/widgets/access_view.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/fitting_number.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
 namespace {
+
+/// A number that is too long for the list keeps its exponent.
+class LineDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ private:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const QWidget& list = *option->widget;
+    const int margin = list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, option, &list) + 1;
+    const int room = option->rect.width() - 2 * margin;
+    // Before the list lays it out, a line has no width.
+    if (room > 0) option->text = FittingNumber(option->text, option->fontMetrics, room);
+  }
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+  }
+};
 
 /// When the list gets the focus, its first line is current, but not selected. The first key that
 /// moves selects the current line, so that the first can be reached like all others.
@@ -75,6 +96,7 @@ CMemoryVariablesDlg::CMemoryVariablesDlg(QWidget* parent, VariablesMode mode, Se
       action_(new DialogButton(model_.ActionCaption())) {
   list_->setAccessibleName(ToQt(kVariableListName));
   LetKeyboardFollow(*list_);
+  list_->setItemDelegate(new LineDelegate(list_));
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   for (int i = 0; i < MemoryVariables::kCount; ++i) list_->addItem(QString());
   LayOut();
