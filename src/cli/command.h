@@ -20,6 +20,7 @@ struct Command {
   std::string_view usage;    ///< what follows "kavcalc" in the usage line
   std::string_view summary;  ///< a few words for the list of commands
   std::string_view details;  ///< paragraphs for the command's own help
+  std::string_view items;    ///< the paragraph of that help about items and their answers
   /// Returns the exit status: 0 if all items were answered, 1 if at least one failed, kUnusable.
   int (*run)(const CommandLine& line);
 };

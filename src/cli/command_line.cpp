@@ -149,9 +149,12 @@ std::string Help(const Command& command, std::span<const Command> commands) {
   }
   text += "\nOptions:\n";
   for (const OptionRow& row : OptionRows()) {
-    if (IsFor(row, command.name)) text += OptionHelp(row);
+    if (Matters(row, command.name)) text += OptionHelp(row);
   }
-  return text.append("\n").append(command.details).append("\n\n").append(kItemsHelp) + '\n';
+  for (const std::string_view part : {command.details, command.items, kArgumentsHelp}) {
+    text.append("\n").append(part) += '\n';
+  }
+  return text;
 }
 
 std::optional<EarlyEnd> ReadOptions(std::vector<GivenOption> given,

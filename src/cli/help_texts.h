@@ -7,12 +7,59 @@ namespace kav {
 
 inline constexpr std::string_view kProgramSummary = "The calculator on the command line.";
 
-inline constexpr std::string_view kItemsHelp =
+// What stands below the details of a command: what its items are and what answers them.
+
+inline constexpr std::string_view kLineItems =
     R"text(The items are the arguments or, without any, the lines of standard input. Each
-gets one line on standard output; a matrix, a data file and a curve get more.
-Where an item fails, its line is "error: " and the reason. "--" ends the options.
-An argument that begins with "-" and a digit, "." or "(" is an item; one that
-begins with "-" and a letter is one only behind "--": kavcalc -- '-sin(30)'
+gets one line on standard output. Where an item fails, its line is "error: " and
+the reason.)text";
+
+inline constexpr std::string_view kCheckItems =
+    R"text(The items are the arguments or, without any, the lines of standard input. Each
+gets one line on standard output, with --steps more. Where an item fails, its
+line is "error: " and the reason.)text";
+
+inline constexpr std::string_view kMatrixItems =
+    R"text(The items are the arguments or, without any, the lines of standard input. Each
+gets one line on standard output, or those of a matrix. Where an item fails, its
+line is "error: " and the reason. A matrix file that cannot be read or is none
+makes the arguments unusable.)text";
+
+inline constexpr std::string_view kStatsItems =
+    R"text(The items are the arguments or, without any, the lines of standard input: each
+names a file. Where a file fails, its one line is "error: " and the reason.
+Standard error names the first line of each kind that is read, but unusual: text,
+a decimal comma, another number of numbers than a row has, a count that is no
+whole number from 1 on, an end that nothing ends.)text";
+
+inline constexpr std::string_view kPlotItems =
+    R"text(The items are the arguments or, without any, the lines of standard input. Where
+an item fails, its one line is "error: " and the reason.)text";
+
+inline constexpr std::string_view kConvertItems =
+    R"text(The values are the arguments behind the units or, without any, the lines of
+standard input. Each gets one line on standard output. Where one fails, its line
+is "error: " and the reason.)text";
+
+inline constexpr std::string_view kKeysItems =
+    R"text(Where a key cannot be pressed, the line is "error: " and the reason.)text";
+
+inline constexpr std::string_view kVerbItems =
+    R"text(What to add or remove are the arguments or, without any, the lines of standard
+input. Each item gets one line on standard output. Where one fails, its line is
+"error: " and the reason.)text";
+
+inline constexpr std::string_view kMemoryItems =
+    R"text(What to store or clear are the arguments or, without any, the lines of standard
+input. Each item gets one line on standard output, "all" gets twenty. Where one
+fails, its line is "error: " and the reason.)text";
+
+inline constexpr std::string_view kConstantsItems =
+    R"text(Where the table cannot be read, the one line is "error: " and the reason.)text";
+
+inline constexpr std::string_view kArgumentsHelp =
+    R"text("--" ends the options. An argument that begins with "-" is an option, unless it
+stands behind "--" or a digit, "." or "(" follows the "-".
 
 Exit status: 0 everything was answered, 1 something failed, 2 the arguments were
 unusable.)text";
@@ -21,9 +68,10 @@ inline constexpr std::string_view kEvalDetails =
     R"text(Evaluates each expression just as "=" does it on the scientific screen, calls of
 macros ("M:name(...)") included. With neither arguments nor piped input it
 prompts for expressions: Tab completes names, the arrows go through the history,
-Ctrl-D ends.
+Ctrl-D ends. Without --angle, angles are in the unit that is set in the window.
 
-  kavcalc '2*sin(30)+3!'                  7
+  kavcalc --angle deg '2*sin(30)+3!'      7
+  kavcalc -- '-sqrt(4)'                   -2
   kavcalc --base hex 'FF AND F'           F)text";
 
 inline constexpr std::string_view kCheckDetails =
@@ -51,7 +99,7 @@ matrices and their functions is a number expression and gets one line.
                linearequation(A,B)
 
 A matrix file holds "[ROWS*COLUMNS]" and then a line for each row, with a tab
-between two cells:
+between two cells. It may be a pipe; "-" is standard input:
 
   printf '[2*2]\r\n2\t1\r\n1\t1\r\n' >a.txt
   kavcalc matrix --m1 a.txt 'inverse([M1])' '[M1]*[M Ans]' 1+1)text";
@@ -113,7 +161,7 @@ at the caret or "[" and "]" around the selection, a tab, the result line. A key 
   ITEM      behind PB, M/C and the base key (DEC at first): an item of their menu,
             an entry of the history by its whole text or as the menu shows it
 
-  kavcalc keys SIN 3 0 =                          [sin(30)] TAB 0.5
+  kavcalc keys --angle deg SIN 3 0 =              [sin(30)] TAB 0.5
   kavcalc keys DEC Hexadecimal '"FF"' =           [FF] TAB FF)text";
 
 inline constexpr std::string_view kMacroDetails =
@@ -142,7 +190,7 @@ inline constexpr std::string_view kMemoryDetails =
   memory clear NUMBER...           sets each to 0 and answers its new line; the
                                    item "all" means all of them
 
-  kavcalc memory store 3 '2*sin(30)'              Mem03 = 1
+  kavcalc memory store 3 '2^3+1'                  Mem03 = 9
   kavcalc memory clear 3                          Mem03 = 0)text";
 
 inline constexpr std::string_view kConstantsDetails =

@@ -124,41 +124,53 @@ bool TakeArea(std::string_view values, std::string_view given, Options& options)
   return top && bottom;
 }
 
+using Others = OptionRow::Others;
+constexpr std::string_view kThatCalculate = "eval|matrix|plot|keys|memory";
+constexpr std::string_view kThatReadSettings = "eval|matrix|plot|convert|keys|macro|memory";
+constexpr std::string_view kThatShowNumbers = "eval|format|matrix|plot|convert|keys";
+constexpr std::string_view kThatTakeABase = "eval|format|matrix|plot|convert|keys|memory";
 constexpr std::string_view kVariables = "x|xy|xyz";
 static_assert(DisplayFormat::kMaxPrecision == 99, "the help names the limit");
 constexpr std::array kOptions{
-    OptionRow{"-h,--help", "", "print this help and end", "", TakeHelp},
-    OptionRow{"--version", "", "print the version and end", "", TakeSwitch<&Options::asksVersion>},
-    OptionRow{"--angle", "deg|rad", R"(angle unit [the stored "Angle Type"])", "", TakeAngle},
-    OptionRow{"--base", "dec|hex|bin|oct", "number base [dec]", "", TakeChoice<&Options::base, 1>},
+    OptionRow{"-h,--help", "", "print this help and end", "", Others::Ignore, TakeHelp},
+    OptionRow{"--version", "", "print the version and end", "", Others::Ignore,
+              TakeSwitch<&Options::asksVersion>},
+    OptionRow{"--angle", "deg|rad", R"(angle unit [the stored "Angle Type"])", kThatCalculate,
+              Others::Ignore, TakeAngle},
+    OptionRow{"--base", "dec|hex|bin|oct", "number base [dec]", kThatTakeABase, Others::Ignore,
+              TakeChoice<&Options::base, 1>},
     OptionRow{"--display", "floating|fixed|scientific|thousands|engineering",
-              "how numbers are shown [floating]", "", TakeDisplay},
-    OptionRow{"--precision", "0..99", "digits after the point [7]", "", TakePrecision},
-    OptionRow{"--raw", "", "17 significant digits, in decimal, instead of the display", "",
-              TakeSwitch<&Options::isRaw>},
-    OptionRow{"--settings", "FILE", "the settings file to use instead of the user's", "",
-              TakeSettings},
+              "how numbers are shown [floating]", kThatShowNumbers, Others::Ignore, TakeDisplay},
+    OptionRow{"--precision", "0..99", "digits after the point [7]", kThatShowNumbers,
+              Others::Ignore, TakePrecision},
+    OptionRow{"--raw", "", "17 significant digits, in decimal, instead of the display",
+              kThatShowNumbers, Others::Ignore, TakeSwitch<&Options::isRaw>},
+    OptionRow{"--settings", "FILE", "the settings file to use instead of the user's",
+              kThatReadSettings, Others::Ignore, TakeSettings},
     OptionRow{"--variables", kVariables, "the variables of the formulas [x]", "check|macro",
-              TakeChoice<&Options::variables, 0>},
-    OptionRow{"--steps", "", "show the order of the calculation", "check",
+              Others::Refuse, TakeChoice<&Options::variables, 0>},
+    OptionRow{"--steps", "", "show the order of the calculation", "check", Others::Refuse,
               TakeSwitch<&Options::showsSteps>},
-    OptionRow{"--list", "", "list the units of the category, or of all", "convert",
+    OptionRow{"--list", "", "list the units of the category, or of all", "convert", Others::Refuse,
               TakeSwitch<&Options::listsUnits>},
-    OptionRow{"--m1", "FILE", "the matrix file that [M1] is loaded from", "matrix",
+    OptionRow{"--m1", "FILE", "the matrix file that [M1] is loaded from", "matrix", Others::Refuse,
               TakeMatrixFile<0>},
-    OptionRow{"--m2", "FILE", "the same for [M2]", "matrix", TakeMatrixFile<1>},
-    OptionRow{"--m3", "FILE", "the same for [M3]", "matrix", TakeMatrixFile<2>},
-    OptionRow{"--ans", "FILE", "the same for [M Ans]", "matrix", TakeMatrixFile<kAnswerMatrix>},
-    OptionRow{"--two", "", "files of two variables, and a curve through them", "stats", TakeTwo},
+    OptionRow{"--m2", "FILE", "the same for [M2]", "matrix", Others::Refuse, TakeMatrixFile<1>},
+    OptionRow{"--m3", "FILE", "the same for [M3]", "matrix", Others::Refuse, TakeMatrixFile<2>},
+    OptionRow{"--ans", "FILE", "the same for [M Ans]", "matrix", Others::Refuse,
+              TakeMatrixFile<kAnswerMatrix>},
+    OptionRow{"--two", "", "files of two variables, and a curve through them", "stats",
+              Others::Refuse, TakeTwo},
     OptionRow{"--model", "linear|power|inverse|logarithmic|exponential|quadratic",
-              "the curve [linear]", "stats", TakeChoice<&Options::model, 1>},
-    OptionRow{"--x", "NUMBER", "also estimate Y there; may be repeated", "stats",
+              "the curve [linear]", "stats", Others::Refuse, TakeChoice<&Options::model, 1>},
+    OptionRow{"--x", "NUMBER", "also estimate Y there; may be repeated", "stats", Others::Refuse,
               TakeEstimate<&Options::estimatesAtX>, Repeated::EachCounts},
-    OptionRow{"--y", "NUMBER", "also estimate X there; may be repeated", "stats",
+    OptionRow{"--y", "NUMBER", "also estimate X there; may be repeated", "stats", Others::Refuse,
               TakeEstimate<&Options::estimatesAtY>, Repeated::EachCounts},
     OptionRow{"--range", "XMIN XMAX YMIN YMAX", "the range of the plot [-10 10 -10 10]", "plot",
-              TakeRange},
-    OptionRow{"--area", "TOP BOTTOM", "the pixel rows of the plot [0 229]", "plot", TakeArea},
+              Others::Refuse, TakeRange},
+    OptionRow{"--area", "TOP BOTTOM", "the pixel rows of the plot [0 229]", "plot", Others::Refuse,
+              TakeArea},
 };
 
 }  // namespace
@@ -175,6 +187,10 @@ std::vector<std::string_view> Words(std::string_view text) {
 }
 
 bool IsFor(const OptionRow& row, std::string_view command) {
+  return row.others == Others::Ignore || Matters(row, command);
+}
+
+bool Matters(const OptionRow& row, std::string_view command) {
   return row.commands.empty() || IndexIn(row.commands, command);
 }
 

@@ -89,6 +89,7 @@ int RunUserConversions(CommandLine line) {
                                  "convert user list|add|remove [OPTION]... [--] [ARGUMENT]...",
                                  {},
                                  kConvertDetails,
+                                 kConvertItems,
                                  RunConvert};
   static constexpr std::array kVerbs{
       Verb{"list", Arguments::None, "no arguments", ListConversions},
