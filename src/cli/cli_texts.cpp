@@ -26,6 +26,10 @@ std::string SeeList(int number) {
   return "; kavcalc convert --list " + PrintInteger(number) + " shows all";
 }
 
+std::string BytesOf(std::size_t count) {
+  return PrintInteger(static_cast<std::int64_t>(count)) + " bytes";
+}
+
 std::string NumbersOf(std::size_t count) {
   return PrintInteger(static_cast<std::int64_t>(count)) + (count == 1 ? " number" : " numbers");
 }
@@ -40,6 +44,10 @@ std::string Quoted(std::string_view text) {
   constexpr std::size_t kLongest = 40;
   if (text.size() <= kLongest) return Joined("\"", text, "\"");
   return Joined("\"", StartOf(text, kLongest), "...\"");
+}
+
+std::string IsTooLong(std::size_t most) {
+  return "The line has more than " + BytesOf(most) + ".";
 }
 
 std::string NotANumber(std::string_view text) {
@@ -79,6 +87,11 @@ std::string CannotRead(std::string_view reason) {
   return Joined("cannot read standard input: ", reason, "");
 }
 
+std::string HasEndlessLine(std::size_t most) {
+  return "cannot read standard input: it has a line of more than " + BytesOf(most) +
+         "; check that it is text";
+}
+
 std::string CannotWrite(std::string_view reason) {
   return Joined("cannot write to standard output: ", reason, "");
 }
@@ -96,8 +109,7 @@ std::string MatrixCannotBeLoaded(std::string_view path, std::string_view reason)
 }
 
 std::string TooLargeForAMatrix(std::size_t most) {
-  return "it has more than " + PrintInteger(static_cast<std::int64_t>(most)) +
-         " bytes; check that it is a matrix file";
+  return "it has more than " + BytesOf(most) + "; check that it is a matrix file";
 }
 
 std::string HasNoMatrixSize(int largest) {

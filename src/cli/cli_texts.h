@@ -25,6 +25,7 @@ std::string Quoted(std::string_view text);
 
 // Answers, and messages that follow the failure mark.
 inline constexpr std::string_view kDone = "ok";
+std::string IsTooLong(std::size_t most);
 std::string NotANumber(std::string_view text);
 std::string NoKeyShows(std::string_view caption);
 std::string KeyIsDisabled(std::string_view caption);
@@ -36,6 +37,7 @@ std::string NotAUserConversion(std::string_view text);
 
 // Messages on standard error, which follow the program's name. `reason` is a text of the system.
 std::string CannotRead(std::string_view reason);
+std::string HasEndlessLine(std::size_t most);
 std::string CannotWrite(std::string_view reason);
 std::string CannotKeepHistory(std::string_view path, std::string_view reason);
 inline constexpr std::string_view kNothingToClear =

@@ -89,7 +89,7 @@ int Convert(CommandLine line) {
   if (!named) return Complain(named.error(), *line.command);
   line.items.erase(line.items.begin(),
                    line.items.begin() + static_cast<std::ptrdiff_t>(named->names));
-  return AnswerItems(line, LineReader::kAnyLength,
+  return AnswerItems(line, kLongestText,
                      [&](std::string_view item) { return AnswerConverted(item, *named); });
 }
 

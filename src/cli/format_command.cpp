@@ -16,7 +16,7 @@ Answer AnswerText(std::string_view text) {
 }  // namespace
 
 int RunFormat(const CommandLine& line) {
-  return AnswerItems(line, LineReader::kAnyLength, AnswerText);
+  return AnswerItems(line, kLongestText, AnswerText);
 }
 
 }  // namespace kav

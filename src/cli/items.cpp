@@ -22,25 +22,28 @@ Parts PartsOf(std::string_view line, std::size_t most) {
 }  // namespace
 
 void ForEachItem(const CommandLine& line, std::size_t longest, AnswerWriter& answers,
-                 const std::function<void(std::string_view item)>& take) {
-  for (const std::string_view item : line.items) take(item);
+                 const std::function<void(std::string_view item, Extent extent)>& take) {
+  for (const std::string_view item : line.items) take(item, Extent::Whole);
   if (!line.items.empty()) return;
   LineReader lines(STDIN_FILENO, longest, [&answers] { answers.Flush(); });
   while (!answers.IsBroken()) {
     const auto item = lines.Next();
     if (!item) break;
-    take(*item);
+    take(*item, lines.IsShortened() ? Extent::Shortened : Extent::Whole);
   }
-  if (lines.Error() == 0) return;
+  if (lines.Error() == 0 && !lines.IsEndless()) return;
   answers.MarkIncomplete();
-  Tell(CannotRead(SystemReason(lines.Error())));
+  Tell(lines.IsEndless() ? HasEndlessLine(LineReader::kEndless)
+                         : CannotRead(SystemReason(lines.Error())));
 }
 
 int AnswerItems(const CommandLine& line, std::size_t longest,
                 const std::function<Answer(std::string_view item)>& answerTo) {
   AnswerWriter answers(line.options);
-  ForEachItem(line, longest, answers,
-              [&](std::string_view item) { answers.Write(answerTo(item)); });
+  ForEachItem(line, longest, answers, [&](std::string_view item, Extent extent) {
+    const bool isLost = extent == Extent::Shortened && longest >= kLongestText;
+    answers.Write(isLost ? Failure{IsTooLong(kLongestText)} : answerTo(item));
+  });
   return answers.Finish();
 }
 

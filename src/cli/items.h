@@ -18,14 +18,22 @@ using Parts = std::vector<std::string_view>;
 /// a call of a macro with 151 tokens in each argument, none longer than a number of 30 digits.
 inline constexpr std::size_t kLongestExpression = std::size_t{1} << 20U;
 
+/// The longest item in bytes of commands whose items are no expressions. What is longer on standard
+/// input is not taken.
+inline constexpr std::size_t kLongestText = std::size_t{1} << 24U;
+
+/// Whether an item is all that was given, or a line that was shortened.
+enum class Extent { Whole, Shortened };
+
 /// Calls `take` for each item of `line` or, without any, for each line of standard input (see
 /// LineReader for `longest`) until `answers` is broken. Flushes `answers` before each wait for
 /// input, for a program that waits for an answer before it asks on. Tells standard error if the
-/// input cannot be read, and marks `answers` as incomplete.
+/// input cannot be read or has an endless line, and marks `answers` as incomplete.
 void ForEachItem(const CommandLine& line, std::size_t longest, AnswerWriter& answers,
-                 const std::function<void(std::string_view item)>& take);
+                 const std::function<void(std::string_view item, Extent extent)>& take);
 
-/// Writes what `answerTo` returns for each item of ForEachItem. Returns the exit status.
+/// Writes what `answerTo` returns for each item of ForEachItem. A line of more than kLongestText
+/// fails; of an expression the beginning decides which message answers it. Returns the exit status.
 int AnswerItems(const CommandLine& line, std::size_t longest,
                 const std::function<Answer(std::string_view item)>& answerTo);
 

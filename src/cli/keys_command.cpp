@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 
+#include "cli/cli_texts.h"
 #include "cli/items.h"
 #include "cli/key_sequence.h"
 #include "cli/stored_settings.h"
@@ -46,8 +47,9 @@ int RunKeys(const CommandLine& line) {
   KeySequence sequence(screen);
   AnswerWriter answers(line.options);
   std::optional<std::string> complaint;
-  ForEachItem(line, LineReader::kAnyLength, answers, [&](std::string_view item) {
-    if (!complaint) complaint = sequence.Take(item);
+  ForEachItem(line, kLongestText, answers, [&](std::string_view item, Extent extent) {
+    if (complaint) return;
+    complaint = extent == Extent::Shortened ? IsTooLong(kLongestText) : sequence.Take(item);
   });
   if (complaint) {
     answers.Write(Failure{*complaint});

@@ -30,12 +30,13 @@ std::optional<std::string_view> LineReader::Next() {
     }
     scanned_ = end_;
   } while (Fill());
-  if (begin_ == end_ || error_ != 0) return std::nullopt;
+  if (begin_ == end_ || error_ != 0 || isEndless_) return std::nullopt;
   return Take(end_, end_);
 }
 
 std::string_view LineReader::Take(std::size_t end, std::size_t next) {
   const std::size_t start = std::exchange(begin_, next);
+  lineLoss_ = std::exchange(loss_, 0);
   scanned_ = next;
   if (end > start && data_[end - 1] == '\r') --end;
   return {&data_[start], end - start};
@@ -44,6 +45,9 @@ std::string_view LineReader::Take(std::size_t end, std::size_t next) {
 /// Reads on; false at the end of the file. Never reads again after it, since a terminal may have
 /// more.
 bool LineReader::Fill() {
+  if (isAtEnd_) return false;
+  isEndless_ = loss_ + (end_ - begin_) > kEndless;
+  isAtEnd_ = isEndless_;
   if (isAtEnd_) return false;
   MakeRoom();
   if (WouldWait(descriptor_)) beforeWaiting_();
@@ -73,7 +77,9 @@ void LineReader::Grow() {
 void LineReader::Shorten() {
   char* const end =
       std::unique(data_.get(), &data_[end_], [](char a, char b) { return a == ' ' && b == ' '; });
+  loss_ += end_;
   end_ = std::min(static_cast<std::size_t>(end - data_.get()), longest_);
+  loss_ -= end_;
 }
 
 }  // namespace kav

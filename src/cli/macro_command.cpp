@@ -50,7 +50,7 @@ Answer AddMacro(const Parts& parts, VariableType usual, StoredSettings& settings
 
 int AddMacros(const CommandLine& line) {
   StoredSettings settings(line.options);
-  return AnswerParts(line, macro_part::kCount, LineReader::kAnyLength, [&](const Parts& parts) {
+  return AnswerParts(line, macro_part::kCount, kLongestText, [&](const Parts& parts) {
     return AddMacro(parts, line.options.variables, settings);
   });
 }
@@ -75,7 +75,7 @@ Answer AnswerMacroRemoval(std::string_view name, StoredSettings& settings) {
 
 int RemoveMacros(const CommandLine& line) {
   StoredSettings settings(line.options);
-  return AnswerItems(line, LineReader::kAnyLength,
+  return AnswerItems(line, kLongestText,
                      [&](std::string_view name) { return AnswerMacroRemoval(name, settings); });
 }
 

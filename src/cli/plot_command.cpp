@@ -62,7 +62,7 @@ int RunPlot(const CommandLine& line) {
   AnswerWriter answers(options);
   PlotSession session(options);
   std::string_view separator;
-  ForEachItem(line, kLongestExpression, answers, [&](std::string_view item) {
+  ForEachItem(line, kLongestExpression, answers, [&](std::string_view item, Extent) {
     answers.Write(std::string(std::exchange(separator, "\n")));
     answers.Write(session.AnswerTo(item));
   });

@@ -38,7 +38,7 @@ Answer AddConversion(const Parts& parts, StoredSettings& settings) {
 int AddConversions(const CommandLine& line) {
   constexpr std::size_t kParts = 3;
   StoredSettings settings(line.options);
-  return AnswerParts(line, kParts, LineReader::kAnyLength,
+  return AnswerParts(line, kParts, kLongestText,
                      [&](const Parts& parts) { return AddConversion(parts, settings); });
 }
 
@@ -77,7 +77,7 @@ Answer AnswerConversionRemoval(std::string_view text, StoredSettings& settings) 
 
 int RemoveConversions(const CommandLine& line) {
   StoredSettings settings(line.options);
-  return AnswerItems(line, LineReader::kAnyLength, [&](std::string_view text) {
+  return AnswerItems(line, kLongestText, [&](std::string_view text) {
     return AnswerConversionRemoval(text, settings);
   });
 }

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <limits>
 #include <random>
 #include <string>
 #include <thread>
@@ -14,6 +15,7 @@ namespace kav::line_reader_test {
 namespace {
 
 constexpr std::size_t kBlock = 65536;
+constexpr std::size_t kAnyLength = std::numeric_limits<std::size_t>::max();
 
 /// A pipe that another thread fills with `parts`, one write for each.
 class Source {
@@ -47,7 +49,7 @@ class Source {
 
 using Lines = std::vector<std::string>;
 
-Lines LinesOf(std::vector<std::string> parts, std::size_t longest = LineReader::kAnyLength) {
+Lines LinesOf(std::vector<std::string> parts, std::size_t longest = kAnyLength) {
   const Source source(std::move(parts));
   LineReader reader(source.Descriptor(), longest, [] {});
   Lines lines;
@@ -130,7 +132,7 @@ TEST(LineReader, TellsBeforeItWaitsAndOnlyThen) {
   int ends[2];
   ASSERT_EQ(pipe(ends), 0);
   int waits = 0;
-  LineReader reader(ends[0], LineReader::kAnyLength, [&] {
+  LineReader reader(ends[0], kAnyLength, [&] {
     ++waits;
     ASSERT_EQ(write(ends[1], "later\n", 6), 6);
   });
@@ -148,11 +150,22 @@ TEST(LineReader, TellsBeforeItWaitsAndOnlyThen) {
 
 TEST(LineReader, AFailureEndsTheLinesAndIsKept) {
   const int folder = open("/", O_RDONLY | O_DIRECTORY);
-  LineReader reader(folder, LineReader::kAnyLength, [] {});
+  LineReader reader(folder, kAnyLength, [] {});
   EXPECT_EQ(reader.Next(), std::nullopt);
   EXPECT_EQ(reader.Error(), EISDIR);
   EXPECT_EQ(reader.Next(), std::nullopt);
   close(folder);
+}
+
+TEST(LineReader, ALineThatLostSomethingSaysSo) {
+  const Source source({std::string(3 * kBlock, 'x') + "\nshort\n"});
+  LineReader reader(source.Descriptor(), kBlock, [] {});
+  ASSERT_TRUE(reader.Next());
+  EXPECT_TRUE(reader.IsShortened());
+  EXPECT_EQ(reader.Next(), "short");
+  EXPECT_FALSE(reader.IsShortened());
+  EXPECT_FALSE(reader.Next());
+  EXPECT_FALSE(reader.IsEndless());
 }
 
 }  // namespace
