@@ -56,6 +56,17 @@ TEST_F(Prompt, ShowsFailuresAndCountsThemInTheStatus) {
   EXPECT_EQ(terminal.Status(), 1);
 }
 
+TEST_F(Prompt, NoControlCharacterOfANameReachesTheTerminal) {
+  const std::string name = "a\x7f\x1b[31m\xc2\x9b";
+  Terminal answer({"macro", "add", name, "x"}, Environment());
+  EXPECT_TRUE(answer.Shows("a\\x7f [31m\\xc2\\x9b(X)\r\n"));
+  EXPECT_EQ(answer.Status(), 0);
+  Terminal failure({"format", name}, Environment());
+  EXPECT_TRUE(failure.Shows("error: \"a\\x7f\\x1b[31m\\xc2\\x9b\" is not a number.\r\n"));
+  Terminal complaint({"convert", name}, Environment());
+  EXPECT_TRUE(complaint.Shows("no category \"a\\x7f\\x1b[31m\\xc2\\x9b\";"));
+}
+
 TEST_F(Prompt, AnEmptyLineIsNoQuestion) {
   Terminal terminal({}, Environment());
   ASSERT_TRUE(terminal.Shows("> "));
