@@ -102,7 +102,10 @@ class Reading {
   /// After a fault, what stands behind it was not read.
   DataSums Failed(std::u16string why, std::uint64_t line) const {
     DataSums failed{summary_, lines_.Remarks(), std::move(why)};
-    std::erase_if(failed.remarks, [line](const Remark& remark) { return remark.line > line; });
+    std::vector<Remark>& remarks = failed.remarks;
+    remarks.erase(std::find_if(remarks.begin(), remarks.end(),
+                               [line](const Remark& remark) { return remark.line > line; }),
+                  remarks.end());
     return failed;
   }
 

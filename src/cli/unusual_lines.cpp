@@ -38,31 +38,27 @@ void UnusualLines::Read(std::string_view block, Place place) {
     block.remove_prefix(kByteOrderMark.size());
   }
   isAtStart_ = false;
-  for (const char c : block) Take(c);
+  while (!block.empty()) {
+    const auto end = std::find_if_not(block.begin(), block.end(), IsNumberCharacter);
+    const auto length = static_cast<std::size_t>(end - block.begin());
+    TakeOfNumber(block.substr(0, length));
+    if (length == block.size()) return;
+    EndToken();
+    TakeSeparator(block[length]);
+    block.remove_prefix(length + 1);
+  }
 }
 
-void UnusualLines::Take(char c) {
-  if (c == '\n') {
-    EndToken();
-    TakeSeparator(c);
-    return EndLine();
-  }
-  isWithinLine_ = true;
-  if (start_.size() < kLongestStart && c != '\r') start_ += c;
-  if (IsNumberCharacter(c)) {
-    TakeOfNumber(c);
-  } else {
-    EndToken();
-    TakeSeparator(c);
-  }
-  previous_ = c;
-}
-
-void UnusualLines::TakeOfNumber(char c) {
-  if (waiting_ == ',') hasComma_ = hasComma_ || IsDigit(c);
+/// Takes a piece of a number, which may be empty.
+void UnusualLines::TakeOfNumber(std::string_view piece) {
+  if (piece.empty()) return;
+  if (waiting_ == ',') hasComma_ = hasComma_ || IsDigit(piece.front());
   if (waiting_ == 'E') hasExponent_ = true;
   waiting_ = 0;
-  if (token_.size() < kLongestToken) token_ += c;
+  token_.append(piece.substr(0, kLongestToken - token_.size()));
+  start_.append(piece.substr(0, kLongestStart - start_.size()));
+  previous_ = piece.back();
+  isWithinLine_ = true;
 }
 
 void UnusualLines::TakeSeparator(char c) {
@@ -70,6 +66,10 @@ void UnusualLines::TakeSeparator(char c) {
   const bool canWait = (c == ',' || c == 'E') && IsDigit(previous_);
   waiting_ = canWait ? c : '\0';
   if (!canWait && kUsualSeparators.find(c) == kUsualSeparators.npos) hasText_ = true;
+  if (c == '\n') return EndLine();
+  if (start_.size() < kLongestStart && c != '\r') start_ += c;
+  previous_ = c;
+  isWithinLine_ = true;
 }
 
 void UnusualLines::EndToken() {
@@ -81,14 +81,18 @@ void UnusualLines::EndToken() {
 }
 
 void UnusualLines::JudgeToken() {
-  const double number = ReadLeadingNumber(
-      field_ == variables_ ? std::string_view(token_).substr(0, DataReader::kCountLength) : token_);
-  if (field_ != variables_) {
-    const bool isWhole = token_.size() == kLongestToken || ReadWholeNumber(token_).has_value();
-    if (!isWhole && valueRemark_.empty()) valueRemark_ = ValueReadAs(token_, number);
-  } else if (!IsUsualCount(token_, number) && countRemark_.empty()) {
-    countRemark_ = CountReadAs(token_, ToInt32(number));
-  }
+  if (field_ == variables_) return JudgeCount();
+  const bool isWhole = token_.size() == kLongestToken || ReadWholeNumber(token_).has_value();
+  if (isWhole || !valueRemark_.empty()) return;
+  valueRemark_ = ValueReadAs(token_, ReadLeadingNumber(token_));
+}
+
+void UnusualLines::JudgeCount() {
+  if (ReadInteger<std::int32_t>(token_).value_or(0) >= kLeastCount) return;
+  const double number =
+      ReadLeadingNumber(std::string_view(token_).substr(0, DataReader::kCountLength));
+  if (IsUsualCount(token_, number) || !countRemark_.empty()) return;
+  countRemark_ = CountReadAs(token_, ToInt32(number));
 }
 
 /// Of what is unusual only the cause is told, not what follows from it in the same line.

@@ -59,11 +59,11 @@ class UnusualLines {
     Number
   };
 
-  void Take(char c);
-  void TakeOfNumber(char c);
+  void TakeOfNumber(std::string_view piece);
   void TakeSeparator(char c);
   void EndToken();
   void JudgeToken();
+  void JudgeCount();
   void EndLine();
   void JudgeLine();
   void Add(Kind kind, std::string_view text);
