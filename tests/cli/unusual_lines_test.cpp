@@ -4,9 +4,14 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "statistics/data_reader.h"
+#include "support/effort.h"
+#include "support/random.h"
 
 namespace kav::unusual_lines_test {
 namespace {
@@ -96,6 +101,28 @@ TEST(UnusualLines, BlocksMayCutALineAndUsualOnesMayBeLeftOut) {
   EXPECT_EQ(lines.Remarks()[0].text,
             "line 1002 (\"8 1.5\"): its count \"1.5\" is no whole number from 1 on; it was read as "
             "1");
+}
+
+TEST(UnusualLines, WhatTheReaderCallsUsualNeedsNoRemark) {
+  test::Random random(7);
+  constexpr std::string_view kCharacters = "0123456789 \t\n\r;,E.x";
+  int usual = 0;
+  for (int i = 0; i < test::Tries(5000); ++i) {
+    std::string text = "1\t2\r\n3.5 4\n\n";
+    for (std::size_t changes = random.Below(3); changes > 0; --changes) {
+      text[random.Below(text.size())] = random.Of(kCharacters);
+    }
+    text += '\n';
+    DataReader reader(DataShape::OneVariable,
+                      [](const DataRow&) { return std::optional<DataRefusal>(); });
+    EXPECT_EQ(reader.Read(text), std::nullopt);
+    if (reader.TakeUnusual() || reader.Field() != 0) continue;
+    ++usual;
+    const std::string remarks = About(text);
+    // Whoever adds the values up sees for himself whether they are numbers.
+    EXPECT_TRUE(remarks.empty() || remarks.find("is no number") != remarks.npos) << text << remarks;
+  }
+  EXPECT_GT(usual, 100);
 }
 
 TEST(UnusualLines, ALineOfAnyLengthIsQuotedByItsStart) {
