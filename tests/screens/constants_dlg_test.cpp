@@ -298,6 +298,39 @@ TEST_F(ConstantsDlgTest, AScreenReaderFindsEverythingByName) {
   });
 }
 
+TEST_F(ConstantsDlgTest, NamesAndValuesAreWholeAndRowsNoHigherThanTheyNeed) {
+  Put(FileContent(std::string(KAV_DATA_FOLDER) + "/constable.dat"));
+  for (const QSize size : {QSize(240, 320), QSize(360, 560), QSize(1080, 1440)}) {
+    parent_.resize(size);
+    Run([&](Constants c) {
+      const QTreeView& list = c.List();
+      const QFontMetrics letters = list.fontMetrics();
+      QFont small = list.font();
+      small.setPixelSize(small.pixelSize() / 2 + 1);
+      const int margin =
+          2 * (list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1);
+      for (int row = 0; row < list.model()->rowCount(); ++row) {
+        const QModelIndex name = list.model()->index(row, 0);
+        const QModelIndex value = list.model()->index(row, 1);
+        const QRect room(0, 0, list.columnWidth(0) - margin, 10000);
+        const QString text = name.data().toString();
+        const QRect lines = letters.boundingRect(room, Qt::TextWordWrap, text);
+        // A word that is wider than the column is broken.
+        const int needed = lines.width() <= room.width() ? lines.height() : letters.height();
+        const int height = list.sizeHintForIndex(name).height();
+        EXPECT_GE(height, needed) << text.toStdString();
+        const bool isShort = letters.horizontalAdvance(text) <= room.width();
+        EXPECT_TRUE(!isShort || height < 2 * letters.height()) << text.toStdString();
+        EXPECT_LT(list.sizeHintForIndex(value).height(), 2 * letters.height());
+        EXPECT_LE(QFontMetrics(small).horizontalAdvance(value.data().toString()),
+                  list.columnWidth(1) - margin)
+            << text.toStdString() << size.width();
+      }
+      c.Press("Cancel");
+    });
+  }
+}
+
 TEST_F(ConstantsDlgTest, EverythingIsInSightAtEverySize) {
   Put(FileContent(std::string(KAV_DATA_FOLDER) + "/constable.dat"));
   for (const QSize size : {QSize(240, 320), QSize(480, 640), QSize(1080, 1440)}) {

@@ -132,6 +132,16 @@ TEST_F(ConverterDlgTest, TheSecondListComesBackWithACategoryOfUnits) {
   });
 }
 
+TEST_F(ConverterDlgTest, AListWithNothingSelectedShowsItsName) {
+  Run({u"1", {}, 0}, [this] {
+    for (QComboBox* list : {&Category(), &InputUnit(), &OutputUnit()}) {
+      EXPECT_EQ(list->currentIndex(), -1);
+      EXPECT_EQ(list->placeholderText(), list->accessibleName());
+    }
+    Tap(u"Cancel");
+  });
+}
+
 TEST_F(ConverterDlgTest, BeginsWithNothingSelectedAndThenHasNothingToGive) {
   const auto outcome = Run({u"5", {}, 7}, [this] {
     EXPECT_EQ(Category().currentIndex(), -1);

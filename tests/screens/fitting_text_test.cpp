@@ -1,4 +1,4 @@
-// Texts that get smaller letters if they are too long.
+// Texts that get smaller letters, or fewer digits, if they are too long.
 #include "screens/widgets/fitting_text.h"
 
 #include <gtest/gtest.h>
@@ -6,6 +6,8 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
+
+#include "screens/widgets/fitting_number.h"
 
 namespace kav::test::fitting_text_test {
 namespace {
@@ -33,6 +35,24 @@ TEST(FittingTextTest, TheLongestLineDecides) {
   EXPECT_LE(WidthOf(label, longest), 200);
   label.Write("1\n2");
   EXPECT_EQ(label.font().pixelSize(), 20);
+}
+
+TEST(FittingNumberTest, ANumberLosesDigitsButNotItsExponent) {
+  const QLabel label;
+  const QFontMetrics metrics = label.fontMetrics();
+  const QString line = "Mem01 = -1.23456789012345678901234567890e-300";
+  const int most = metrics.horizontalAdvance(line);
+  EXPECT_EQ(FittingNumber(line, metrics, most), line);
+  for (const int room : {most - 1, most * 2 / 3, most / 2}) {
+    const QString fitted = FittingNumber(line, metrics, room);
+    EXPECT_LE(metrics.horizontalAdvance(fitted), room);
+    EXPECT_TRUE(fitted.startsWith("Mem01 = -1.2")) << fitted.toStdString();
+    EXPECT_TRUE(fitted.endsWith(QString(QChar(0x2026)) + "e-300")) << fitted.toStdString();
+  }
+  // The end of what has no exponent gives way.
+  const QString plain = "0.123456789012345678901234567890";
+  const QString fitted = FittingNumber(plain, metrics, metrics.horizontalAdvance(plain) / 2);
+  EXPECT_TRUE(fitted.startsWith("0.1234") && fitted.endsWith(QChar(0x2026)));
 }
 
 TEST(FittingTextTest, LeavesFreeWhatItIsToldBesideTheText) {

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QFontInfo>
 #include <cstdio>
+#include <cstdlib>
+#include <utility>
 
 #include "screens/box_watch.h"
 #include "screens/test_fonts.h"
@@ -32,6 +34,11 @@ int main(int argc, char** argv) {
   const kav::test::FontSet& fonts = kav::test::ChosenFontSet();
   kav::test::UseFonts(fonts, home.Path());
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  // Letters that the user's desktop has made larger, or a display of small pixels.
+  for (const auto& [own, toolkits] :
+       {std::pair("KAV_TEST_DPI", "QT_FONT_DPI"), std::pair("KAV_TEST_SCALE", "QT_SCALE_FACTOR")}) {
+    if (const char* value = std::getenv(own)) setenv(toolkits, value, 1);
+  }
   qInstallMessageHandler(DropRemarks);
   QApplication application(argc, argv);
   const std::string face = QFontInfo(kav::ScreenFont(20)).family().toStdString();

@@ -7,6 +7,7 @@
 
 #include "converter/unit_tables.h"
 #include "screens/widgets/dialog.h"
+#include "screens/widgets/qt_text.h"
 
 namespace kav {
 namespace {
@@ -25,6 +26,7 @@ class EntryDelegate final : public QStyledItemDelegate {
 }  // namespace
 
 ChoiceView::ChoiceView(std::u16string_view name) : ChoiceBox(name) {
+  setPlaceholderText(ToQt(name));
   std::vector<std::u16string_view> builtIn;
   for (const UnitCategory& category : UnitCategories()) {
     builtIn.push_back(category.caption);

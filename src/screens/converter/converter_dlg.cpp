@@ -140,7 +140,9 @@ void CConverterDlg::RefreshChoices() {
   input_->Write(model_.Inputs(), chosen.input);
   output_->Write(model_.Outputs(), chosen.output);
   const bool hasUnits = !model_.ListsConversions();
-  input_->setAccessibleName(ToQt(hasUnits ? kInputUnitName : kConversionName));
+  const QString inputName = ToQt(hasUnits ? kInputUnitName : kConversionName);
+  input_->setAccessibleName(inputName);
+  input_->setPlaceholderText(inputName);
   output_->setVisible(hasUnits);
   swap_->setEnabled(model_.CanSwap());
 }

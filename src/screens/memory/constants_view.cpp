@@ -22,7 +22,7 @@ namespace {
 
 constexpr int kName = 0;
 constexpr int kValue = 1;
-constexpr double kMostForValues = 0.62;  // of the width
+constexpr double kMostForValues = 0.56;  // of the width
 
 constexpr std::ptrdiff_t kAllRows = std::numeric_limits<std::ptrdiff_t>::max();
 
@@ -30,7 +30,7 @@ constexpr std::ptrdiff_t kAllRows = std::numeric_limits<std::ptrdiff_t>::max();
 QString WithWordsBroken(QString text, const QFontMetrics& metrics, int room) {
   qsizetype word = 0;
   for (qsizetype i = 0; i < text.size(); ++i) {
-    if (text[i] == u' ') word = i + 1;
+    if (text[i] == u' ' || text[i] == u'-') word = i + 1;
     if (i <= word || metrics.horizontalAdvance(text.mid(word, i + 1 - word)) <= room) continue;
     text.insert(i, QChar::LineSeparator);
     word = i + 1;
@@ -38,7 +38,7 @@ QString WithWordsBroken(QString text, const QFontMetrics& metrics, int room) {
   return text;
 }
 
-/// A row is as high as its name needs; values stand on one line.
+/// A row is as high as its name needs. Values stand on one line, long ones in smaller letters.
 class CellDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -66,9 +66,14 @@ class CellDelegate final : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     const int room = RoomIn(*option, index);
-    option->text = index.column() == kName
-                       ? WithWordsBroken(option->text, option->fontMetrics, room)
-                       : FittingNumber(option->text, option->fontMetrics, room);
+    if (index.column() == kName) {
+      option->text = WithWordsBroken(option->text, option->fontMetrics, room);
+      return;
+    }
+    const int most = option->font.pixelSize();
+    option->font.setPixelSize(FittingPixels({{option->text, room}}, most, most / 2));
+    option->fontMetrics = QFontMetrics(option->font);
+    option->text = FittingNumber(option->text, option->fontMetrics, room);
   }
 };
 
@@ -178,7 +183,7 @@ void ConstantsView::changeEvent(QEvent* event) {
   LayOutColumns();
 }
 
-/// Values have the room for all of them on one line, as far as enough is left for names.
+/// Names have what values leave, but at least four tenths of the width.
 void ConstantsView::LayOutColumns() {
   const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
   const int needed = std::max(widestValue_ + 2 * margin, header()->sectionSizeHint(kValue));
