@@ -78,7 +78,7 @@ TEST_F(MatrixLayoutTest, EveryPartHasAName) {
   };
   EXPECT_EQ(nameOf(Expression(*dlg_)), "Expression");
   EXPECT_EQ(nameOf(Result(*dlg_)), "Result");
-  EXPECT_EQ(nameOf(Tabs()), "[M1]");
+  EXPECT_EQ(nameOf(Tabs()), "Matrices");
   EXPECT_EQ(nameOf(Grid()), "Cells");
 }
 

@@ -40,6 +40,9 @@ constexpr QSize kWindows[] = {{180, 240},  {180, 280},   {240, 320},   {241, 333
                               {360, 560},  {480, 640},   {640, 480},   {600, 1024},  {800, 480},
                               {1280, 720}, {1080, 1440}, {1920, 1080}, {2160, 3840}, {3840, 2160}};
 
+/// How high a dialog is to be.
+enum class Height { OfTheArea, AsNeeded };
+
 /// Where the toolkit draws twice as large, the large windows take long and tell nothing more.
 std::span<const QSize> Windows() {
   constexpr std::size_t kSmallOnes = 7;
@@ -63,6 +66,8 @@ class TextRoomTest : public testing::Test {
   /// Measures a screen in each window, after `change` was done to it.
   void MeasureScreen(
       QWidget& screen, const std::function<void()>& change = [] {}) {
+    // To paint what nobody sees takes most of the time.
+    screen.setUpdatesEnabled(false);
     Show(screen, kWindows[0]);
     change();
     for (const QSize size : Windows()) {
@@ -74,24 +79,37 @@ class TextRoomTest : public testing::Test {
 
   /// Measures the dialog that `open` opens over each window, after each of `changes`.
   void MeasureDialog(const std::function<void(QWidget*)>& open,
-                     const std::vector<std::function<void(QDialog&)>>& changes = {
-                         [](QDialog&) {}}) {
+                     const std::vector<std::function<void(QDialog&)>>& changes = {[](QDialog&) {}},
+                     Height height = Height::OfTheArea) {
     for (const QSize size : Windows()) {
       QWidget window;
+      window.setUpdatesEnabled(false);
       Show(window, size);
       BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) {
-        EXPECT_EQ(dialog.size(), PortraitArea(size).size()) << dialog.windowTitle().toStdString();
+        dialog.setUpdatesEnabled(false);
+        ExpectPlace(dialog, window, height);
         for (const auto& change : changes) {
           change(dialog);
           QCoreApplication::processEvents();
           ExpectPartsApart(dialog);
           const TextRoom room(dialog);
         }
-        ExpectReadable(dialog.font(), dialog.rect());
+        ExpectReadable(dialog.font(), PortraitArea(size));
         dialog.hide();
       });
       open(&window);
     }
+  }
+
+  static void ExpectPlace(const QDialog& dialog, const QWidget& window, Height height) {
+    const QRect area = PortraitArea(window.size()).translated(window.mapToGlobal(QPoint()));
+    if (height == Height::OfTheArea) {
+      EXPECT_EQ(dialog.size(), area.size()) << dialog.windowTitle().toStdString();
+      return;
+    }
+    EXPECT_EQ(dialog.width(), area.width());
+    EXPECT_LT(dialog.height(), area.height() / 2) << area.height();
+    EXPECT_LE((dialog.geometry().center() - area.center()).manhattanLength(), 2);
   }
 
   /// What is made smaller so that it fits stays at least half as large as on a screen that is wide
@@ -202,7 +220,11 @@ TEST_F(TextRoomTest, TheConstants) {
 }
 
 TEST_F(TextRoomTest, TheSizeOfAMatrix) {
-  MeasureDialog([](QWidget* window) { RunMatrixSize(window, {10, 10}); });
+  MeasureDialog(
+      [](QWidget* window) {
+        RunMatrixSize(window, {10, 10});
+      },
+      {[](QDialog&) {}}, Height::AsNeeded);
 }
 
 TEST_F(TextRoomTest, TheGraph) {

@@ -86,8 +86,8 @@ CMatrixSizeDlg::CMatrixSizeDlg(QWidget* parent, MatrixSize now)
   auto* all = new QVBoxLayout(this);
   all->addWidget(new QLabel(ToQt(kMatrixSizeTitle)));
   all->addLayout(lists);
-  all->addStretch(1);
   all->addLayout(buttons);
+  TakeOnlyNeededHeight();
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ namespace {
 
 constexpr int kName = 0;
 constexpr int kValue = 1;
-constexpr double kMostForValues = 0.56;  // of the width
+constexpr double kMostForValues = 0.52;  // of the width
 
 constexpr std::ptrdiff_t kAllRows = std::numeric_limits<std::ptrdiff_t>::max();
 
@@ -183,7 +183,7 @@ void ConstantsView::changeEvent(QEvent* event) {
   LayOutColumns();
 }
 
-/// Names have what values leave, but at least four tenths of the width.
+/// Names have what values leave, but almost half of the width.
 void ConstantsView::LayOutColumns() {
   const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
   const int needed = std::max(widestValue_ + 2 * margin, header()->sectionSizeHint(kValue));

@@ -27,6 +27,10 @@ void SetMargins(QLayout* layout, int pixels) {
   if (layout != nullptr) layout->setContentsMargins(pixels, pixels, pixels, pixels);
 }
 
+void GiveStyle(const QWidget& dialog) {
+  for (QWidget* widget : dialog.findChildren<QWidget*>()) widget->setStyle(ScreenStyle());
+}
+
 }  // namespace
 
 Dialog::Dialog(QWidget* parent, std::u16string_view title) : QDialog(parent) {
@@ -38,8 +42,25 @@ Dialog::Dialog(QWidget* parent, std::u16string_view title) : QDialog(parent) {
 }
 
 bool Dialog::RunModal() {
-  if (parentWidget() != nullptr) setGeometry(AreaOver(*parentWidget()));
+  if (parentWidget() != nullptr) PlaceOver(AreaOver(*parentWidget()));
   return exec() == Accepted;
+}
+
+void Dialog::TakeOnlyNeededHeight() {
+  takesNeededHeight_ = true;
+  setMinimumHeight(0);
+}
+
+void Dialog::PlaceOver(const QRect& area) {
+  if (!takesNeededHeight_) return setGeometry(area);
+  areaHeight_ = area.height();
+  resize(area.size());
+  GiveStyle(*this);
+  Scale();
+  layout()->activate();
+  QRect place(QPoint(), QSize(area.width(), std::min(layout()->sizeHint().height(), areaHeight_)));
+  place.moveCenter(area.center());
+  setGeometry(place);
 }
 
 QMenu* Dialog::MakePopUp() {
@@ -54,7 +75,7 @@ bool Dialog::event(QEvent* event) {
 }
 
 void Dialog::showEvent(QShowEvent* event) {
-  for (QWidget* widget : findChildren<QWidget*>()) widget->setStyle(ScreenStyle());
+  GiveStyle(*this);
   Scale();
   // At once: else the first picture would be of widgets laid out for the font before.
   if (layout() != nullptr) layout()->activate();
@@ -78,7 +99,7 @@ void Dialog::SetTextHeight(int text) {
 }
 
 void Dialog::Scale() {
-  SetTextHeight(std::max(TextPixels(height()), 1));
+  SetTextHeight(std::max(TextPixels(areaHeight_ > 0 ? areaHeight_ : height()), 1));
   ScaleDown();
 }
 

@@ -10,7 +10,8 @@ class QMenu;
 
 namespace kav {
 
-/// A dialog over the screen or dialog that opens it, as large as the portrait area of that. Texts
+/// A dialog over the screen or dialog that opens it, as large as the portrait area of that, if it
+/// does not take less. Texts
 /// and the room around them grow with its height, as far as all of them have room in the machine's
 /// font. So its widgets stand in layouts, have no fixed sizes, and return as minimumSizeHint what
 /// their texts need. It is modal: RunModal returns when it is closed.
@@ -22,6 +23,10 @@ class Dialog : public QDialog {
   bool RunModal();
 
  protected:
+  /// For a dialog of a few parts: it is only as high as these need, in the middle of the area that
+  /// it would cover else. To be called before RunModal.
+  void TakeOnlyNeededHeight();
+
   /// An empty pop-up menu with the look of the dialog, for the caller to fill and show. It is
   /// deleted when it is closed.
   QMenu* MakePopUp();
@@ -34,9 +39,13 @@ class Dialog : public QDialog {
   virtual void SetTextHeight(int text);
 
  private:
+  void PlaceOver(const QRect& area);
   void Scale();
   void ScaleDown();
   double Excess() const;
+
+  bool takesNeededHeight_ = false;
+  int areaHeight_ = 0;  ///< of what is behind it; 0 for its own
 };
 
 /// A button of a dialog, which looks like a key of the keypad.
