@@ -215,7 +215,7 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
   if (!isUsersClose) return QWidget::eventFilter(watched, event);
   event->ignore();
   auto* screen = dynamic_cast<Screen*>(watched);
-  if (screen == nullptr || screen->MayLeave(LeaveReason::Ending)) Exit();
+  if (screen == nullptr || screen->MayBeLeft(LeaveReason::Ending)) Exit();
   return true;
 }
 

@@ -18,7 +18,8 @@ struct Shown {
 };
 
 std::u16string_view TakeSome(std::u16string_view& text) {
-  const auto end = std::find_if_not(text.begin(), text.end(), [](char16_t c) { return IsDigit(c); });
+  const auto end =
+      std::find_if_not(text.begin(), text.end(), [](char16_t c) { return IsDigit(c); });
   const std::u16string_view digits = text.substr(0, static_cast<std::size_t>(end - text.begin()));
   text.remove_prefix(digits.size());
   return digits;

@@ -30,9 +30,9 @@ std::u16string CellNotes::NewsOf(std::u16string_view line, const Matrices& matri
     told = text;
     if (++count > kMostLines) return;
     if (!news.empty()) news += u'\n';
-    news += CellCountsAs(kMatrixNames[index], PlaceOfCell(row, column),
-                         Shortened(text, kShownOfCell),
-                         ShownNumber(ReadCell(text), format, BaseMode::Decimal));
+    news +=
+        CellCountsAs(kMatrixNames[index], PlaceOfCell(row, column), Shortened(text, kShownOfCell),
+                     ShownNumber(ReadCell(text), format, BaseMode::Decimal));
   };
   for (std::size_t index = 0; index < matrices.size(); ++index) {
     if (!NamesMatrix(line, static_cast<int>(index))) continue;

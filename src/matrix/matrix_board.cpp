@@ -1,6 +1,8 @@
 #include "matrix/matrix_board.h"
 
+#include <cstddef>
 #include <utility>
+#include <vector>
 
 #include "common/number_text.h"
 #include "matrix/cell_table_text.h"
@@ -80,9 +82,8 @@ std::optional<std::u16string> MatrixBoard::PasteInto(const CellRange& cells,
     const PastedNumber& first = pasted.firstRefused;
     return BlockHasNoNumber(first.text, first.row, first.column);
   }
-  edits_.Change(shown_, pasted.IsOneNumber()
-                            ? Filled(Shown(), cells, pasted.numbers.front().text)
-                            : Overwritten(Shown(), cells.top, cells.left, pasted));
+  edits_.Change(shown_, pasted.IsOneNumber() ? Filled(Shown(), cells, pasted.numbers.front().text)
+                                             : Overwritten(Shown(), cells.top, cells.left, pasted));
   if (pasted.beyond == 0) return std::nullopt;
   return CellsDidNotFit(pasted.beyond);
 }
@@ -99,14 +100,31 @@ void MatrixBoard::ShowChanged(std::optional<int> index) {
   if (index && *index != shown_) Show(*index);
 }
 
-std::optional<std::u16string> MatrixBoard::SaveTo(const std::string& path) const {
-  return SaveMatrixFile(path, Shown());
+std::optional<std::u16string> MatrixBoard::SaveTo(const std::string& path) {
+  auto failure = SaveMatrixFile(path, Shown());
+  if (!failure) RememberFile();
+  return failure;
+}
+
+void MatrixBoard::RememberFile() {
+  if (shown_ != kAnswerMatrix) inFiles_[static_cast<std::size_t>(shown_)] = Shown();
+}
+
+std::vector<int> MatrixBoard::Unsaved() const {
+  std::vector<int> unsaved;
+  for (int index = 0; index < kAnswerMatrix; ++index) {
+    const MatrixValue& matrix = edits_.Matrix(index);
+    const bool isInFile = SameMatrix(matrix, inFiles_[static_cast<std::size_t>(index)]);
+    if (!isInFile && HasText(matrix)) unsaved.push_back(index);
+  }
+  return unsaved;
 }
 
 std::optional<std::u16string> MatrixBoard::LoadFrom(const std::string& path) {
   auto loaded = LoadMatrixFile(path);
   if (!loaded) return std::move(loaded).error();
   edits_.Change(shown_, *std::move(loaded));
+  RememberFile();
   return std::nullopt;
 }
 

@@ -1,10 +1,12 @@
 // The four matrices, which of them is shown, and the matrix clipboard.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "display/display_settings.h"
 #include "matrix/matrix_edits.h"
@@ -57,8 +59,11 @@ class MatrixBoard {
   /// The same from the first cell of `cells` on, but a single number fills all of them.
   std::optional<std::u16string> PasteInto(const CellRange& cells, std::u16string_view text);
   // As matrix_file.h has them; what the user is to be told if it failed.
-  std::optional<std::u16string> SaveTo(const std::string& path) const;
+  std::optional<std::u16string> SaveTo(const std::string& path);
   std::optional<std::u16string> LoadFrom(const std::string& path);
+
+  /// The matrices of the user that are in no file as they are now; not those that are all empty.
+  std::vector<int> Unsaved() const;
 
   // The matrix clipboard, which holds a matrix with its widths. Paste does nothing while it is
   // empty.
@@ -81,9 +86,11 @@ class MatrixBoard {
 
   bool HasCell(int row, int column) const;
   void ShowChanged(std::optional<int> index);
+  void RememberFile();
 
   MatrixEdits edits_;
   std::optional<Clipboard> clipboard_;
+  std::array<MatrixValue, kAnswerMatrix> inFiles_;  // as they were last saved or loaded
   int shown_ = 0;
   bool isLocked_ = false;
 };

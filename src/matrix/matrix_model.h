@@ -36,8 +36,8 @@ struct AutofitColumns {};  ///< then SetColumnWidths with what the grid found
 /// On Yes to the question of ClearCells: ClearCells with what is selected.
 using MatrixRequest =
     std::variant<Nothing, ShowMenu<MatrixKey>, AskFirst<MatrixKey>, AskMatrixSize, TellStop,
-                 TellNotice, AskSaveFile, AskLoadFile, AutofitColumns, OpenMacroEditor, OpenMacroList,
-                 OpenConverter, RecallMemoryVariable, OpenConstants>;
+                 TellNotice, AskSaveFile, AskLoadFile, AutofitColumns, OpenMacroEditor,
+                 OpenMacroList, OpenConverter, RecallMemoryVariable, OpenConstants>;
 
 /// Holds the whole state of the screen. The store must outlive it.
 class MatrixModel {
@@ -86,6 +86,11 @@ class MatrixModel {
   /// The number that a cell is read as, in the matrix display format; empty for an empty cell.
   std::u16string CellHint(int row, int column) const;
 
+  /// All matrices, with what can be undone of them: for the next time of the screen.
+  MatrixBoard& Board() { return board_; }
+  /// The number of a column's pixels in a new matrix.
+  int NewColumnWidth() const { return settings_.columnWidth; }
+
   // Editing the shown matrix.
   /// Copies the text of a cell into the line, all of it selected; an empty cell changes nothing.
   /// Rows and columns count from 0. Cells of [M Ans] can be edited, too.
@@ -121,9 +126,7 @@ class MatrixModel {
   void Redo() { board_.Redo(); }
 
   /// Both return what to tell the user if they failed.
-  std::optional<std::u16string> SaveTo(const std::string& path) const {
-    return board_.SaveTo(path);
-  }
+  std::optional<std::u16string> SaveTo(const std::string& path) { return board_.SaveTo(path); }
   std::optional<std::u16string> LoadFrom(const std::string& path) { return board_.LoadFrom(path); }
 
  private:

@@ -104,6 +104,11 @@ inline std::u16string MoreCellsAreNoNumbers(std::size_t count) {
       .append(count == 1 ? u" more cell is no number." : u" more cells are no numbers.");
 }
 
+/// Before the program ends; `names` as "[M1], [M2]".
+inline std::u16string SaveMatricesQuestion(std::u16string_view names) {
+  return std::u16string(u"Do you want to save changes to ").append(names).append(u"?");
+}
+
 // The dialog that gives a matrix another size.
 inline constexpr std::u16string_view kMatrixSizeTitle = u"Select Matrix Size";
 inline constexpr std::u16string_view kRowsName = u"Rows";

@@ -68,6 +68,10 @@ bool SameMatrix(const MatrixValue& a, const MatrixValue& b) {
   return !AnyCell(a, [&](int row, int column) { return a.At(row, column) != b.At(row, column); });
 }
 
+bool HasText(const MatrixValue& matrix) {
+  return AnyCell(matrix, [&](int row, int column) { return !matrix.At(row, column).empty(); });
+}
+
 std::optional<CellPlace> FirstEmptyCell(const MatrixValue& matrix) {
   for (int row = 0; row < matrix.rows; ++row) {
     for (int column = 0; column < matrix.columns; ++column) {

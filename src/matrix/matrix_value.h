@@ -69,6 +69,9 @@ MatrixValue Filled(MatrixValue matrix, const CellRange& range, const std::u16str
 /// Whether both have the same size and the same texts in it.
 bool SameMatrix(const MatrixValue& a, const MatrixValue& b);
 
+/// Whether a cell of `matrix` is not empty.
+bool HasText(const MatrixValue& matrix);
+
 /// A cell, counted from 0.
 struct CellPlace {
   int row = 0;
@@ -78,6 +81,8 @@ struct CellPlace {
 /// The first cell of `matrix`, row by row, that is empty, so that no expression may name the
 /// matrix; nullopt if there is none, as for 0 rows.
 std::optional<CellPlace> FirstEmptyCell(const MatrixValue& matrix);
-inline bool HasEmptyCell(const MatrixValue& matrix) { return FirstEmptyCell(matrix).has_value(); }
+inline bool HasEmptyCell(const MatrixValue& matrix) {
+  return FirstEmptyCell(matrix).has_value();
+}
 
 }  // namespace kav

@@ -125,10 +125,12 @@ TEST_F(Board, PasteTellsInOneMessageWhatWasLeftOut) {
   for (const Row& row : {
            Row{u"1\n2", u"1 cell did not fit into the matrix."},
            Row{u"1 2\n3", u"2 cells did not fit into the matrix."},
-           Row{u"x", u"Nothing was pasted: \"x\" in row 1, column 1 of the pasted cells is no "
-                     u"number."},
-           Row{u"inf 2", u"Nothing was pasted: \"inf\" in row 1, column 1 of the pasted cells is "
-                         u"no number."},
+           Row{u"x",
+               u"Nothing was pasted: \"x\" in row 1, column 1 of the pasted cells is no "
+               u"number."},
+           Row{u"inf 2",
+               u"Nothing was pasted: \"inf\" in row 1, column 1 of the pasted cells is "
+               u"no number."},
        }) {
     EXPECT_EQ(board_.PasteCells(9, 9, row.text), row.told);
   }

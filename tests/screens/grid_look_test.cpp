@@ -188,6 +188,18 @@ TEST_F(GridLookTest, ATextStandsOnOneLine) {
   EXPECT_EQ(cut, Picture({1, 1}));
 }
 
+TEST_F(GridLookTest, ANumberThatIsTooLongKeepsItsMagnitudeOrSaysThatItDoesNotFit) {
+  Build(1, 1);
+  const auto looksAs = [this](int width, std::u16string_view text) {
+    grid_.SetColumnWidth(1, width);
+    Put({1, 1}, text);
+    return Picture({1, 1});
+  };
+  EXPECT_EQ(looksAs(60, u"2.000000000000e+300"), looksAs(60, u"2e+300"));
+  EXPECT_EQ(looksAs(60, u"123456789012"), looksAs(60, u"1…e+11"));
+  EXPECT_EQ(looksAs(16, u"123456789012"), looksAs(16, u"#"));
+}
+
 TEST_F(GridLookTest, InAFittedColumnEveryTextIsWholeAndNothingIsWasted) {
   for (const double scale : {1.0, 1.3, 1.5, 2.0, 3.7}) {
     for (const char16_t* text : {u"12345", u"-1.5E-10", u"0.333333333333", u"WWWi", u"11111111"}) {

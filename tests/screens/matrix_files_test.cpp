@@ -109,5 +109,84 @@ TEST_F(MatrixFilesTest, WhenNoFileIsChosenNothingHappens) {
   EXPECT_EQ(Cells(), "_ _ _;_ _ _;_ _ _");
 }
 
+// Leaving.
+
+class MatrixLeavingTest : public MatrixFilesTest {
+ protected:
+  MatrixLeavingTest() {
+    frame_.others = {{ScreenMode::Scientific, u"Scientific Calculator"}};
+    Open();
+  }
+  void Exit() { ChooseFrom(*dlg_, u"&File", u"E&xit"); }
+  void Switch() { ChooseFrom(*dlg_, u"&Mode", u"Scientific Calculator"); }
+};
+
+TEST_F(MatrixLeavingTest, ASwitchKeepsTheMatricesAndAsksNothing) {
+  Resize(1, 2);
+  TypeCells(1, 1, "1 2");
+  ChooseTab(2);
+  TypeCells(2, 2, "7");
+  Switch();
+  EXPECT_EQ(frame_.modes, std::vector{ScreenMode::Scientific});
+  Open();
+  EXPECT_EQ(Tab(), u"[M3]");
+  EXPECT_EQ(Cells(), "_ _ _;_ 7 _;_ _ _");
+  ChooseTab(0);
+  EXPECT_EQ(Cells(), "1 2");
+  Open();
+  EXPECT_EQ(Cells(), "_ _ _;_ _ _;_ _ _") << "they are kept for one time";
+}
+
+TEST_F(MatrixLeavingTest, TheEndAsksForMatricesThatAreInNoFile) {
+  Exit();
+  EXPECT_EQ(frame_.exits, 1) << "nothing to lose";
+  Resize(1, 1);
+  TypeCells(1, 1, "1");
+  ExpectBox(QMessageBox::Cancel);
+  Exit();
+  ExpectSeen(u"Do you want to save changes to [M1]?", QMessageBox::Question);
+  EXPECT_EQ(frame_.exits, 1);
+  ExpectBox(QMessageBox::No);
+  Exit();
+  BoxWatch::Instance().TakeSeen();
+  EXPECT_EQ(frame_.exits, 2);
+  ChooseTab(1);
+  Resize(1, 1);
+  TypeCells(1, 1, "2");
+  ExpectBox(QMessageBox::Yes);
+  ExpectFile(Path("one.txt"));
+  ExpectFile(Path("two.txt"));
+  Exit();
+  ExpectSeen(u"Do you want to save changes to [M1], [M2]?", QMessageBox::Question);
+  EXPECT_EQ(frame_.exits, 3);
+  EXPECT_EQ(Content("one.txt"), "[1*1]\r\n1\r\n");
+  EXPECT_EQ(Content("two.txt"), "[1*1]\r\n2\r\n");
+  Exit();
+  EXPECT_EQ(frame_.exits, 4) << "all is saved";
+}
+
+TEST_F(MatrixLeavingTest, NothingEndsAfterASaveThatWasGivenUpOrFailed) {
+  TypeCells(1, 1, "1");
+  ExpectBox(QMessageBox::Yes);
+  ExpectBox();
+  Exit();
+  EXPECT_EQ(BoxWatch::Instance().TakeSeen().back().text, u"Matrix [M1] is invalid");
+  Resize(1, 1);
+  ExpectBox(QMessageBox::Yes);
+  BoxWatch::Instance().ExpectDialog([](QDialog& dialog) { dialog.reject(); });
+  Exit();
+  BoxWatch::Instance().TakeSeen();
+  EXPECT_EQ(frame_.exits, 0);
+  EXPECT_EQ(Cells(), "1");
+}
+
+TEST_F(MatrixLeavingTest, TheEndOfAnotherScreenAsksForWhatWasKept) {
+  TypeCells(1, 1, "1");
+  Switch();
+  ExpectBox(QMessageBox::Cancel);
+  EXPECT_FALSE(frame_.MayEnd(dlg_.get()));
+  ExpectSeen(u"Do you want to save changes to [M1]?", QMessageBox::Question);
+}
+
 }  // namespace
 }  // namespace kav::test::matrix_files_test

@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QFontMetrics>
+#include <QScrollBar>
 
 #include "screens/dialog_layout.h"
 #include "screens/matrix_driver.h"
@@ -43,6 +44,49 @@ TEST_F(MatrixLayoutTest, ThreeColumnsOfTheDefaultWidthAreSeenWhole) {
   for (const QSize size : kScreenSizes) {
     ResizeScreen(*dlg_, size);
     EXPECT_TRUE(Grid().viewport()->geometry().contains(Grid().CellArea({3, 3}))) << size.width();
+  }
+}
+
+TEST_F(MatrixLayoutTest, TheLargestMatrixIsSeenWholeWhereTheWindowHasRoomForIt) {
+  OpenLargest();
+  for (const QSize size : {QSize(1080, 1440), QSize(1280, 720)}) {
+    ResizeScreen(*dlg_, size);
+    const QRect room = Grid().viewport()->geometry();
+    EXPECT_TRUE(room.contains(Grid().CellArea({10, 10}))) << size.width();
+    EXPECT_TRUE(room.contains(Grid().CellArea({1, 1}))) << size.width();
+    EXPECT_GE(Grid().font().pixelSize(), 13) << size.width();
+  }
+  ResizeScreen(*dlg_, {1280, 720});
+  EXPECT_LT(AreaOn(*dlg_, Grid()).right(), AreaOn(*dlg_, *FindKey(*dlg_, u"7")).left());
+  EXPECT_GT(Grid().width(), 640);
+  EXPECT_GT(Grid().height(), 400);
+}
+
+TEST_F(MatrixLayoutTest, AFittedColumnIsFittedAtEverySize) {
+  TypeCells(1, 2, "-1.23456789012E-10");
+  const QRect header = Grid().CellArea({0, 2});
+  QTest::mouseDClick(&Grid(), Qt::LeftButton, {}, QPoint(header.right(), header.center().y()));
+  const int reset = Grid().GetColumnWidth(1);
+  for (const QSize size : {QSize(240, 320), QSize(361, 561), QSize(480, 640), QSize(1080, 1440)}) {
+    ResizeScreen(*dlg_, size);
+    EXPECT_EQ(Grid().GetColumnWidth(2), Grid().FittingWidth(2)) << size.width();
+    EXPECT_EQ(Grid().GetColumnWidth(1), reset) << size.width();
+  }
+}
+
+TEST_F(MatrixLayoutTest, NothingIsDrawnBetweenTheScrollBars) {
+  OpenLargest();
+  for (const QSize size : kScreenSizes) {
+    ResizeScreen(*dlg_, size);
+    const QWidget* across = Grid().horizontalScrollBar();
+    const QWidget* down = Grid().verticalScrollBar();
+    if (!across->isVisible() || !down->isVisible()) continue;
+    const QPoint from(across->mapTo(&Grid(), across->rect().topRight()).x(),
+                      down->mapTo(&Grid(), down->rect().bottomLeft()).y());
+    const QImage corner = Grid().grab(QRect(from, Grid().rect().bottomRight())).toImage();
+    QImage plain = corner.copy();
+    plain.fill(corner.pixelColor(corner.width() / 2, corner.height() / 2));
+    EXPECT_EQ(corner, plain) << size.width();
   }
 }
 

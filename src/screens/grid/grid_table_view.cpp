@@ -186,8 +186,8 @@ void GridTable::updateGeometries() {
   const QWidget* down = verticalScrollBar()->parentWidget();
   corner_->setVisible(across->isVisible() && down->isVisible());
   // With the last line of each bar.
-  corner_->setGeometry(QRect(QPoint(across->geometry().right(), down->geometry().bottom()),
-                             rect().bottomRight()));
+  corner_->setGeometry(
+      QRect(QPoint(across->geometry().right(), down->geometry().bottom()), rect().bottomRight()));
   corner_->raise();
 }
 

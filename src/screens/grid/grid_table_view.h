@@ -100,7 +100,7 @@ class GridTable : public QTableView {
   Shape* shape_;
   GridSelection selection_;
   double scale_ = 1;
-  QWidget* corner_;  // covers what the ends of two scroll bars draw between them
+  QWidget* corner_;                  // covers what the ends of two scroll bars draw between them
   std::array<QWidget*, 3> headers_;  // that show column headers, row headers and the corner
 };
 

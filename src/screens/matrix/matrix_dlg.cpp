@@ -1,21 +1,20 @@
 #include "screens/matrix/matrix_dlg.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QTimer>
 #include <QToolTip>
-#include <array>
+#include <any>
+#include <cstddef>
+#include <memory>
+#include <string>
 #include <utility>
 #include <variant>
 
-#include "matrix/cell_table_text.h"
 #include "matrix/matrix_texts.h"
 #include "screens/grid/grid_access_view.h"
+#include "screens/matrix/matrix_leaving.h"
 #include "screens/matrix/matrix_size_dlg.h"
 #include "screens/matrix/matrix_tabs_view.h"
-#include "screens/widgets/comma_question.h"
 #include "screens/widgets/file_choice.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
@@ -27,19 +26,6 @@ namespace {
 constexpr double kLineTextHeight = 0.62;
 /// The height of the grid's letters at scale 1.
 constexpr double kCellText = 11.5;
-
-constexpr FileKind kMatrixFiles{u"TXT(*.txt)", u"txt"};
-
-/// The grid's header row and column stand before the cells of the matrix.
-constexpr int kHeaders = 1;
-
-/// Undo or redo, by any of the keys that people know for them.
-std::optional<EditCommand> UndoCommandOf(const QKeyEvent& event) {
-  if (event.matches(QKeySequence::Undo)) return EditCommand::Undo;
-  const bool isRedo = event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
-  if (isRedo || event.matches(QKeySequence::Redo)) return EditCommand::Redo;
-  return std::nullopt;
-}
 
 CGridCtrl* NewGrid(QWidget* parent) {
   OfferGridsToScreenReaders();
@@ -53,6 +39,11 @@ CMatrixDlg::CMatrixDlg(Frame& frame)
       model_(frame.Store()),
       tabs_(new MatrixTabs(this)),
       grid_(NewGrid(this)) {
+  KeptWork& kept = frame.KeptBy(ScreenMode::Matrix);
+  if (auto* board = std::any_cast<std::shared_ptr<MatrixBoard>>(&kept.work)) {
+    model_.Board() = std::move(**board);
+  }
+  kept = {};
   connect(tabs_, &QTabBar::currentChanged, this, &CMatrixDlg::OnTab);
   connect(&Line(), &QLineEdit::textChanged, this, [this] { isLineNewer_ = true; });
   MakeGrid();
@@ -68,6 +59,17 @@ CMatrixDlg::~CMatrixDlg() {
   grid_->SetHooks({});
   grid_->SetSource({});
   model_.Save();
+}
+
+bool CMatrixDlg::MayLeave(LeaveReason reason) {
+  if (!FinishEdit()) return false;
+  if (reason != LeaveReason::Switching) {
+    return AskToSaveMatrices(this, model_.Board(), [this] { ShowMatrix(); });
+  }
+  const auto board = std::make_shared<MatrixBoard>(model_.Board());
+  ParentFrame().KeptBy(ScreenMode::Matrix) = {
+      board, [board](QWidget* parent) { return AskToSaveMatrices(parent, *board, [] {}); }};
+  return true;
 }
 
 void CMatrixDlg::MakeGrid() {
@@ -112,39 +114,6 @@ void CMatrixDlg::OnTab(int index) {
   TakeLine();
   model_.Show(index);
   Refresh();
-}
-
-/// Ends an edit that is going on; whether its text was taken.
-bool CMatrixDlg::FinishEdit() {
-  grid_->FinishEdit();
-  return !refused_;
-}
-
-void CMatrixDlg::TellRefusedEdit() {
-  if (!refused_) return;
-  const RefusedEdit refused = *std::exchange(refused_, std::nullopt);
-  ShowStop(this, refused.why);
-  grid_->EditCell(refused.cell, refused.text);
-}
-
-/// Shows the matrix beside the shown one, if there is one, and leaves the focus where it is.
-void CMatrixDlg::ShowNeighbour(int step) {
-  const int index = model_.Shown() + step;
-  if (index < 0 || index >= kMatrixCount || !FinishEdit()) return;
-  const GridCell focus = grid_->Focus();
-  TakeLine();
-  model_.Show(index);
-  ShowMatrix();
-  if (!focus.IsNone()) grid_->SetFocusCell(focus);
-}
-
-void CMatrixDlg::keyPressEvent(QKeyEvent* event) {
-  const bool isPageKey = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
-  if (isPageKey && event->modifiers() == Qt::ControlModifier) {
-    return ShowNeighbour(event->key() == Qt::Key_PageDown ? 1 : -1);
-  }
-  if (const auto command = UndoCommandOf(*event)) return Edit(*command);
-  KeyScreenOf::keyPressEvent(event);
 }
 
 void CMatrixDlg::TakeLine() {
@@ -248,7 +217,7 @@ void CMatrixDlg::LayOut(const DialogUnits& units) {
 /// Columns that were fitted to their texts are so at any scale.
 void CMatrixDlg::ScaleGrid() {
   const MatrixValue& matrix = model_.ShownMatrix();
-  const double scale = FittingScale(places_, matrix.rows, matrix.columns);
+  const double scale = FittingScale(places_, matrix.rows, matrix.columns, model_.NewColumnWidth());
   if (scale != grid_->Scale()) grid_->SetScale(scale, qRound(kCellText * scale));
   ColumnWidths& fitted = fitted_[static_cast<std::size_t>(model_.Shown())];
   for (int column = 0; column < grid_->Model().ColumnCount(); ++column) {
@@ -290,54 +259,6 @@ void CMatrixDlg::Tell(const std::optional<std::u16string>& failure) {
   if (failure) ShowStop(this, *failure);
 }
 
-bool CMatrixDlg::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == &Line()) {
-    if (event->type() == QEvent::FocusIn) editsGrid_ = false;
-    if (event->type() == QEvent::KeyPress) {
-      // Before the line, which knows only its own edits.
-      if (const auto command = UndoCommandOf(*static_cast<QKeyEvent*>(event))) {
-        Edit(*command);
-        return true;
-      }
-    }
-  }
-  if (watched == grid_) {
-    if (event->type() == QEvent::FocusIn) {
-      editsGrid_ = true;
-      Result().deselect();
-    }
-    if (event->type() == QEvent::ToolTip) return ShowHint(*static_cast<QHelpEvent*>(event));
-    return event->type() == QEvent::KeyPress && OnGridKey(*static_cast<QKeyEvent*>(event));
-  }
-  return LineScreen::eventFilter(watched, event);
-}
-
-bool CMatrixDlg::OnGridKey(const QKeyEvent& event) {
-  struct EditKey {
-    QKeySequence::StandardKey keys;
-    EditCommand command;
-  };
-  constexpr std::array kEditKeys{
-      EditKey{QKeySequence::Cut, EditCommand::Cut},
-      EditKey{QKeySequence::Copy, EditCommand::Copy},
-      EditKey{QKeySequence::Paste, EditCommand::Paste},
-  };
-  // Before the grid, which would begin to edit a cell with it.
-  if (event.text() == u"=") {
-    OnEquals();
-    return true;
-  }
-  for (const EditKey& row : kEditKeys) {
-    if (!event.matches(row.keys)) continue;
-    Edit(row.command);
-    return true;
-  }
-  if (event.key() != Qt::Key_Delete && event.key() != Qt::Key_Backspace) return false;
-  ClearCells();
-  ShowMatrix();
-  return true;
-}
-
 bool CMatrixDlg::ShowHint(const QHelpEvent& event) {
   const GridCell cell = grid_->CellAt(event.pos());
   if (cell.IsNone() || grid_->Model().IsFixed(cell)) return false;
@@ -345,96 +266,6 @@ bool CMatrixDlg::ShowHint(const QHelpEvent& event) {
   QToolTip::showText(event.globalPos(), QString::fromStdU16String(hint), grid_,
                      grid_->CellArea(cell));
   return true;
-}
-
-bool CMatrixDlg::EditsGrid() const {
-  return editsGrid_ && !Result().hasSelectedText();
-}
-
-void CMatrixDlg::Edit(EditCommand command) {
-  if (command == EditCommand::Undo || command == EditCommand::Redo) return UndoOrRedo(command);
-  if (!EditsGrid()) return LineScreen::Edit(command);
-  if (!FinishEdit()) return;
-  switch (command) {
-    case EditCommand::Cut:
-      CutCells();
-      break;
-    case EditCommand::Copy:
-      CopyCells();
-      break;
-    case EditCommand::Paste:
-      PasteCells();
-      break;
-    case EditCommand::SelectAll:
-      grid_->SetFocusCell({kHeaders, kHeaders});
-      grid_->SelectTo({grid_->Model().RowCount() - 1, grid_->Model().ColumnCount() - 1});
-      break;
-    default:
-      break;
-  }
-  ShowMatrix();
-}
-
-/// Whether the next undo or redo is one of the line.
-bool CMatrixDlg::UndoesLine(EditCommand command) const {
-  if (!CanEditLine(Line(), command)) return false;
-  if (command == EditCommand::Redo) return undoneLine_ || !model_.CanRedo();
-  return (isLineNewer_ && !EditsGrid()) || !model_.CanUndo();
-}
-
-void CMatrixDlg::UndoOrRedo(EditCommand command) {
-  if (!FinishEdit()) return;
-  const bool undoesLine = UndoesLine(command);
-  if (undoesLine) {
-    EditLine(Line(), command);
-  } else if (command == EditCommand::Undo) {
-    model_.Undo();
-  } else {
-    model_.Redo();
-  }
-  if (command == EditCommand::Undo) undoneLine_ = undoesLine;
-  ShowMatrix();
-}
-
-bool CMatrixDlg::CanEdit(EditCommand command) const {
-  if (command == EditCommand::Undo && model_.CanUndo()) return true;
-  if (command == EditCommand::Redo && model_.CanRedo()) return true;
-  if (!EditsGrid()) return LineScreen::CanEdit(command);
-  switch (command) {
-    case EditCommand::Cut:
-    case EditCommand::Copy:
-      return SelectedCells().has_value();
-    default:
-      return true;
-  }
-}
-
-void CMatrixDlg::CopyCells() const {
-  const auto cells = SelectedCells();
-  if (!cells) return;
-  QApplication::clipboard()->setText(QString::fromStdU16String(model_.CopyCells(*cells)));
-}
-
-void CMatrixDlg::CutCells() {
-  const auto cells = SelectedCells();
-  if (!cells) return;
-  QApplication::clipboard()->setText(QString::fromStdU16String(model_.CutCells(*cells)));
-}
-
-void CMatrixDlg::PasteCells() {
-  std::u16string text = QApplication::clipboard()->text().toStdU16String();
-  if (const auto question = QuestionOfCells(text)) {
-    const auto meaning = AskForCommas(this, *question);
-    if (!meaning) return;
-    text = CellsWithCommas(text, *meaning);
-  }
-  const auto told = model_.PasteInto(SelectedCells().value_or(CellRange{}), text);
-  ShowMatrix();
-  if (told) ShowNotice(this, *told);
-}
-
-void CMatrixDlg::ClearCells() {
-  if (const auto cells = SelectedCells()) model_.ClearCells(*cells);
 }
 
 std::unique_ptr<QWidget> MakeMatrixScreen(Frame& frame) {

@@ -25,7 +25,13 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   explicit CMatrixDlg(Frame& frame);
   ~CMatrixDlg() override;
 
+  /// Another screen may take this one's place: the matrices are kept. Before the end it asks.
+  bool MayLeave(LeaveReason reason) override;
+
  private:
+  /// The grid's header row and column stand before the cells of the matrix.
+  static constexpr int kHeaders = 1;
+
   void OnKey(MatrixKey key) override;
   void OnEquals() override { OnKey(MatrixKey::Equals); }
   void OnClear() override { OnKey(MatrixKey::Clear); }
@@ -88,10 +94,10 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   std::array<ColumnWidths, kMatrixCount> fitted_{};
   QTabBar* tabs_;
   CGridCtrl* grid_;
-  bool editsGrid_ = false;     ///< the grid had the focus later than the line
-  bool isLineNewer_ = false;   ///< the line was edited later than a matrix
+  bool editsGrid_ = false;       ///< the grid had the focus later than the line
+  bool isLineNewer_ = false;     ///< the line was edited later than a matrix
   std::size_t seenChanges_ = 0;  ///< of the matrices
-  bool undoneLine_ = false;    ///< the last undo was one of the line
+  bool undoneLine_ = false;      ///< the last undo was one of the line
   std::optional<RefusedEdit> refused_;
   std::optional<int> inGrid_;  ///< the matrix that the grid was built for
 };

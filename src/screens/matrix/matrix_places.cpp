@@ -7,7 +7,6 @@
 #include "matrix/matrix_edits.h"
 #include "matrix/matrix_keypad.h"
 #include "screens/widgets/key_screen.h"
-#include "settings/keys.h"
 
 namespace kav {
 namespace {
@@ -23,7 +22,7 @@ constexpr double kKeys = 0.65;
 
 /// What the grid and its tabs take of the height of an upright screen, in dialog units.
 constexpr int kGridTop = kMatrixTabsPlace.y - 1;
-constexpr int kGridEnd = kGridPlace.y + kGridPlace.height + 1;
+constexpr int kGridEnd = kGridPlace.y + kGridPlace.height;
 
 /// Where a key stands once the grid between the keys has gone.
 QRect WithoutGrid(const QRect& spot) {
@@ -62,9 +61,10 @@ MatrixPlaces WidePlaces(const QRect& body) {
   places.result = across(kMatrixResultPlace);
   const int top = all.Pixels(QRect(0, firstKeys, 1, 1)).top();
   const QRect keys(body.right() + 1 - column, top, column, body.bottom() + 1 - top);
-  const DialogUnits keyUnits(keys.adjusted(0, 0, 0, 0),
+  const DialogUnits keyUnits(keys,
                              {kScreenWidth, kScreenHeight - firstKeys - (kGridEnd - kGridTop)});
-  const QRect left(body.left() + 3 * unit, top, keys.left() - body.left() - 3 * unit, keys.height());
+  const QRect left(body.left() + 3 * unit, top, keys.left() - body.left() - 3 * unit,
+                   keys.height());
   const int tabs = all.Pixels(UnitsOf(kMatrixTabsPlace)).height();
   const int clear = keyUnits.Pixels(QRect(0, 0, 25, 1)).width();
   places.tabs = QRect(left.left(), top, left.width() - clear - unit, tabs);
@@ -78,8 +78,8 @@ MatrixPlaces WidePlaces(const QRect& body) {
   return places;
 }
 
-double FittingScale(const MatrixPlaces& places, int rows, int columns) {
-  const int width = kHeaderColumnWidth + columns * kMatrixColumnWidth.fallback;
+double FittingScale(const MatrixPlaces& places, int rows, int columns, int columnWidth) {
+  const int width = kHeaderColumnWidth + columns * columnWidth;
   const int height = (rows + 1) * GridModel::kDefaultHeight;
   const double fitting = std::min(places.grid.width() / static_cast<double>(width),
                                   places.grid.height() / static_cast<double>(height));

@@ -27,8 +27,9 @@ MatrixPlaces UprightPlaces(const DialogUnits& units);
 /// The grid on the left and the keys on the right of `body`, both below the lines.
 MatrixPlaces WidePlaces(const QRect& body);
 
-/// The scale of a grid of `rows` by `columns` cells of the default width: at most that of `places`,
-/// and as much smaller as it takes to show all of them, but not so small that nobody can read them.
-double FittingScale(const MatrixPlaces& places, int rows, int columns);
+/// The scale of a grid of `rows` by `columns` cells that are `columnWidth` wide: at most that of
+/// `places`, and as much smaller as it takes to show all of them, but not so small that nobody can
+/// read them.
+double FittingScale(const MatrixPlaces& places, int rows, int columns, int columnWidth);
 
 }  // namespace kav

@@ -38,8 +38,8 @@ class SizeList final : public QComboBox {
     if (event->type() != QEvent::KeyPress) return QComboBox::eventFilter(watched, event);
     const QString text = static_cast<const QKeyEvent&>(*event).text();
     if (text.size() != 1 || !text.front().isDigit()) return QComboBox::eventFilter(watched, event);
-    const bool goesOn = lastDigit_.isValid() &&
-                        lastDigit_.elapsed() < QApplication::keyboardInputInterval();
+    const bool goesOn =
+        lastDigit_.isValid() && lastDigit_.elapsed() < QApplication::keyboardInputInterval();
     lastDigit_.start();
     typed_ = goesOn && findText(typed_ + text) >= 0 ? typed_ + text : text;
     const int place = findText(typed_);

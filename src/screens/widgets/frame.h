@@ -1,7 +1,9 @@
 // The frame that owns the screens, as they know it.
 #pragma once
 
+#include <any>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,6 +40,13 @@ struct ScreenChoice {
   std::u16string_view caption;
 };
 
+/// What a screen leaves for its next time, as long as the program runs.
+struct KeptWork {
+  std::any work;
+  /// Asks what is to be saved of it before the end; whether the program may end. Empty: nothing.
+  std::function<bool(QWidget* parent)> mayEnd;
+};
+
 /// The frame as a screen knows it. It outlives its screens.
 class Frame {
  public:
@@ -57,6 +66,19 @@ class Frame {
   // Both end the calling screen, but not before the current event has been handled.
   virtual void ChangeMode(ScreenMode mode) = 0;
   virtual void Exit() = 0;
+
+  /// What the screen `mode` keeps while others are shown.
+  KeptWork& KeptBy(ScreenMode mode) { return kept_[mode]; }
+  /// Asks for all that is kept.
+  bool MayEnd(QWidget* parent) const {
+    for (const auto& [mode, kept] : kept_) {
+      if (kept.mayEnd && !kept.mayEnd(parent)) return false;
+    }
+    return true;
+  }
+
+ private:
+  std::map<ScreenMode, KeptWork> kept_;
 };
 
 }  // namespace kav

@@ -105,7 +105,7 @@ void Screen::AddFileMenu(const FileCommands& commands) {
                       {kEditUnitsEntry, commands.editUnits},
                       {commands.editMacrosEntry, commands.editMacros},
                       {kExitEntry, [this] {
-                         if (MayLeave(LeaveReason::Ending)) frame_.Exit();
+                         if (MayBeLeft(LeaveReason::Ending)) frame_.Exit();
                        }}});
 }
 
@@ -124,7 +124,7 @@ void Screen::AddModeMenu(ScreenMode own) {
   std::vector<MenuEntry> entries;
   for (const ScreenChoice& choice : frame_.ScreensBeside(own)) {
     entries.push_back({choice.caption, [this, mode = choice.mode] {
-                         if (MayLeave(LeaveReason::Switching)) frame_.ChangeMode(mode);
+                         if (MayBeLeft(LeaveReason::Switching)) frame_.ChangeMode(mode);
                        }});
   }
   AddMenu(kModeMenu, entries);

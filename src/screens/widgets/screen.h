@@ -56,6 +56,10 @@ class Screen : public QWidget {
   /// Called before the user goes to another screen or ends the program: asks whether to save.
   /// Answers whether the screen may be left; if not, it stays.
   virtual bool MayLeave(LeaveReason) { return true; }
+  /// The same for all that would go: before the end also for what other screens left.
+  bool MayBeLeft(LeaveReason reason) {
+    return MayLeave(reason) && (reason != LeaveReason::Ending || frame_.MayEnd(this));
+  }
 
  protected:
   /// The part of the window that the screen fills, its menu bar included.
