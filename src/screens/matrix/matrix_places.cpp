@@ -16,9 +16,16 @@ constexpr double kScreenPixels = 240;
 /// Letters are no smaller than on that screen, and a little larger where there is room.
 constexpr double kLeastScale = 1.13;
 
-// Of a wide window: its width by its height at least, and the width of its keys by its height.
+// Of a wide window, by its height: its width at least, the width of its keys, and the width from
+// which on they are as wide as in an upright one.
 constexpr double kWide = 1.1;
 constexpr double kKeys = 0.65;
+constexpr double kVeryWide = 1.6;
+constexpr double kUprightKeys = 0.75;
+
+/// A unit of the keys is at most so much higher than wide: their captions do not get larger with
+/// their height.
+constexpr double kTallest = 1.35;
 
 /// What the grid and its tabs take of the height of an upright screen, in dialog units.
 constexpr int kGridTop = kMatrixTabsPlace.y - 1;
@@ -50,7 +57,8 @@ MatrixPlaces WidePlaces(const QRect& body) {
   const DialogUnits all(body, {kScreenWidth, kScreenHeight});
   // As high as in an upright window, whose width goes with its height.
   const int unit = body.height() / kScreenHeight;
-  const int column = qRound(body.height() * kKeys);
+  const bool isVeryWide = body.width() >= kVeryWide * body.height();
+  const int column = qRound(body.height() * (isVeryWide ? kUprightKeys : kKeys));
   const int firstKeys = kMatrixTabsPlace.y - 11;
   MatrixPlaces places;
   const auto across = [&](const LinePlace& place) {
@@ -60,16 +68,17 @@ MatrixPlaces WidePlaces(const QRect& body) {
   places.line = across(kMatrixLinePlace);
   places.result = across(kMatrixResultPlace);
   const int top = all.Pixels(QRect(0, firstKeys, 1, 1)).top();
-  const QRect keys(body.right() + 1 - column, top, column, body.bottom() + 1 - top);
-  const DialogUnits keyUnits(keys,
-                             {kScreenWidth, kScreenHeight - firstKeys - (kGridEnd - kGridTop)});
-  const QRect left(body.left() + 3 * unit, top, keys.left() - body.left() - 3 * unit,
-                   keys.height());
+  const int units = kScreenHeight - firstKeys - (kGridEnd - kGridTop);
+  const int room = body.bottom() + 1 - top;
+  const int high = std::min(room, qRound(units * kTallest * column / kScreenWidth));
+  const QRect keys(body.right() + 1 - column, body.bottom() + 1 - high, column, high);
+  const DialogUnits keyUnits(keys, {kScreenWidth, units});
+  const QRect left(body.left() + 3 * unit, top, keys.left() - body.left() - 3 * unit, room);
   const int tabs = all.Pixels(UnitsOf(kMatrixTabsPlace)).height();
   const int clear = keyUnits.Pixels(QRect(0, 0, 25, 1)).width();
   places.tabs = QRect(left.left(), top, left.width() - clear - unit, tabs);
   places.grid = left.adjusted(0, tabs, 0, -3 * unit);
-  places.scale = body.height() * 0.75 / kScreenPixels;
+  places.scale = body.height() * kUprightKeys / kScreenPixels;
   const QRect clearPlace(left.right() + 1 - clear, top, clear, tabs - std::max(1, unit / 2));
   places.keys = [keyUnits, clearPlace, firstKeys](const QRect& spot) {
     if (spot.y() == kMatrixTabsPlace.y) return clearPlace;
