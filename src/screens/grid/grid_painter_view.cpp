@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "common/number_text.h"
-#include "grid/grid_number.h"
+#include "display/number_in_room.h"
 
 namespace kav {
 namespace {
@@ -45,7 +45,7 @@ QColor Paper(GridCell cell, const GridLook& look) {
 /// What a cell with `room` pixels across shows of a text that is too long for it. Of a number it is
 /// less precise but of the very magnitude, or signs that say that it does not fit.
 QString Cut(const QFontMetrics& metrics, std::u16string_view text, int room) {
-  const auto number = ReadGridNumber(Shortened(text, kLongestNumber));
+  const auto number = ReadDecimalDigits(Shortened(text, kLongestNumber));
   // No more characters than pixels: a text of any length costs no more than one that fits.
   const std::u16string most = Shortened(text, static_cast<std::size_t>(room));
   if (!number) return metrics.elidedText(QString::fromStdU16String(most), Qt::ElideRight, room);

@@ -3,7 +3,6 @@
 #include <QHelpEvent>
 #include <QTimer>
 #include <QToolTip>
-#include <any>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -39,11 +38,10 @@ CMatrixDlg::CMatrixDlg(Frame& frame)
       model_(frame.Store()),
       tabs_(new MatrixTabs(this)),
       grid_(NewGrid(this)) {
-  KeptWork& kept = frame.KeptBy(ScreenMode::Matrix);
-  if (auto* board = std::any_cast<std::shared_ptr<MatrixBoard>>(&kept.work)) {
-    model_.Board() = std::move(**board);
+  const auto kept = std::move(frame.KeptBy(ScreenMode::Matrix));
+  if (auto* matrices = dynamic_cast<KeptMatrices*>(kept.get())) {
+    model_.Board() = std::move(matrices->board);
   }
-  kept = {};
   connect(tabs_, &QTabBar::currentChanged, this, &CMatrixDlg::OnTab);
   connect(&Line(), &QLineEdit::textChanged, this, [this] { isLineNewer_ = true; });
   MakeGrid();
@@ -66,9 +64,7 @@ bool CMatrixDlg::MayLeave(LeaveReason reason) {
   if (reason != LeaveReason::Switching) {
     return AskToSaveMatrices(this, model_.Board(), [this] { ShowMatrix(); });
   }
-  const auto board = std::make_shared<MatrixBoard>(model_.Board());
-  ParentFrame().KeptBy(ScreenMode::Matrix) = {
-      board, [board](QWidget* parent) { return AskToSaveMatrices(parent, *board, [] {}); }};
+  ParentFrame().KeptBy(ScreenMode::Matrix) = std::make_unique<KeptMatrices>(model_.Board());
   return true;
 }
 

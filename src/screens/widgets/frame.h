@@ -1,9 +1,9 @@
 // The frame that owns the screens, as they know it.
 #pragma once
 
-#include <any>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -41,10 +41,15 @@ struct ScreenChoice {
 };
 
 /// What a screen leaves for its next time, as long as the program runs.
-struct KeptWork {
-  std::any work;
-  /// Asks what is to be saved of it before the end; whether the program may end. Empty: nothing.
-  std::function<bool(QWidget* parent)> mayEnd;
+class KeptWork {
+ public:
+  KeptWork() = default;
+  KeptWork(const KeptWork&) = delete;
+  KeptWork& operator=(const KeptWork&) = delete;
+  virtual ~KeptWork() = default;
+
+  /// Asks what is to be saved of it before the end; whether the program may end.
+  virtual bool MayEnd(QWidget* parent) = 0;
 };
 
 /// The frame as a screen knows it. It outlives its screens.
@@ -67,18 +72,18 @@ class Frame {
   virtual void ChangeMode(ScreenMode mode) = 0;
   virtual void Exit() = 0;
 
-  /// What the screen `mode` keeps while others are shown.
-  KeptWork& KeptBy(ScreenMode mode) { return kept_[mode]; }
+  /// What the screen `mode` keeps while others are shown; null for nothing.
+  std::unique_ptr<KeptWork>& KeptBy(ScreenMode mode) { return kept_[mode]; }
   /// Asks for all that is kept.
   bool MayEnd(QWidget* parent) const {
     for (const auto& [mode, kept] : kept_) {
-      if (kept.mayEnd && !kept.mayEnd(parent)) return false;
+      if (kept && !kept->MayEnd(parent)) return false;
     }
     return true;
   }
 
  private:
-  std::map<ScreenMode, KeptWork> kept_;
+  std::map<ScreenMode, std::unique_ptr<KeptWork>> kept_;
 };
 
 }  // namespace kav

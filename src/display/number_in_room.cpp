@@ -1,4 +1,4 @@
-#include "grid/grid_number.h"
+#include "display/number_in_room.h"
 
 #include <algorithm>
 
@@ -44,7 +44,7 @@ std::optional<int> ReadExponent(std::u16string_view rest) {
 }
 
 /// Without an exponent.
-Shown Plain(const GridNumber& number, std::size_t most) {
+Shown Plain(const DecimalDigits& number, std::size_t most) {
   const std::size_t zeros = number.exponent < 0 ? static_cast<std::size_t>(-number.exponent) : 0;
   const std::size_t whole = number.exponent < 0 ? 1 : static_cast<std::size_t>(number.exponent) + 1;
   if (zeros > most || whole > most) return {};
@@ -61,7 +61,7 @@ Shown Plain(const GridNumber& number, std::size_t most) {
   return {text.substr(0, most - 1) + kEllipsis, digits > zeros ? digits - zeros : 0};
 }
 
-Shown WithExponent(const GridNumber& number, std::size_t most) {
+Shown WithExponent(const DecimalDigits& number, std::size_t most) {
   const bool isNegative = number.exponent < 0;
   std::u16string power = Widen(PrintInteger(isNegative ? -number.exponent : number.exponent));
   if (power.size() < 2) power.insert(0, 1, u'0');
@@ -79,9 +79,9 @@ Shown WithExponent(const GridNumber& number, std::size_t most) {
 
 }  // namespace
 
-std::optional<GridNumber> ReadGridNumber(std::u16string_view text) {
+std::optional<DecimalDigits> ReadDecimalDigits(std::u16string_view text) {
   text = TrimBlanks(text);
-  GridNumber number;
+  DecimalDigits number;
   number.sign = TakeSign(text);
   const std::u16string_view whole = TakeSome(text);
   number.digits = whole;
@@ -100,7 +100,7 @@ std::optional<GridNumber> ReadGridNumber(std::u16string_view text) {
   return number;
 }
 
-std::u16string NumberInRoom(const GridNumber& number, std::size_t most) {
+std::u16string NumberInRoom(const DecimalDigits& number, std::size_t most) {
   if (number.digits.empty()) return most > 0 ? u"0" : u"";
   Shown plain = Plain(number, most);
   Shown exponent = WithExponent(number, most);

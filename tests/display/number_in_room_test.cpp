@@ -1,14 +1,14 @@
-#include "grid/grid_number.h"
+#include "display/number_in_room.h"
 
 #include <gtest/gtest.h>
 
 #include "common/number_text.h"
 
-namespace kav::grid_number_test {
+namespace kav::number_in_room_test {
 namespace {
 
 std::u16string InRoom(std::u16string_view text, std::size_t most) {
-  const auto number = ReadGridNumber(text);
+  const auto number = ReadDecimalDigits(text);
   return number ? NumberInRoom(*number, most) : u"no number";
 }
 
@@ -45,14 +45,14 @@ TEST(NumberInRoom, KeepsItsMagnitudeAndAsManyDigitsAsFit) {
   }
 }
 
-TEST(ReadGridNumber, OnlyWholeDecimalNumbersAreOne) {
+TEST(ReadDecimalDigits, OnlyWholeDecimalNumbersAreOne) {
   for (const std::u16string_view text :
        {u"", u" ", u"x", u"1x", u"1e", u"1e+", u"1e+-3", u"--1", u"1.2.3", u"1,5", u"inf", u".",
         u"1e9999999", u"Out of range(overflow or underflow)"}) {
-    EXPECT_FALSE(ReadGridNumber(text)) << Narrow(text);
+    EXPECT_FALSE(ReadDecimalDigits(text)) << Narrow(text);
   }
   EXPECT_EQ(InRoom(u" +.5 ", 9), u"0.5");
 }
 
 }  // namespace
-}  // namespace kav::grid_number_test
+}  // namespace kav::number_in_room_test
