@@ -79,6 +79,11 @@ void Dialog::showEvent(QShowEvent* event) {
   Scale();
   // At once: else the first picture would be of widgets laid out for the font before.
   if (layout() != nullptr) layout()->activate();
+  // Who came by the keyboard sees at once where it is.
+  const QWidget* opener = parentWidget();
+  if (opener != nullptr && opener->window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+    setAttribute(Qt::WA_KeyboardFocusChange);
+  }
   QDialog::showEvent(event);
 }
 

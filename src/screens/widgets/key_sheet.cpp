@@ -45,6 +45,18 @@ KeySheet::KeySheet(QWidget* parent, std::vector<KeySpot> spots,
     view->setAccessibleDescription(ToQt(view->Spot().description));
     keys_.push_back(view);
   }
+  OrderTabs();
+}
+
+/// Tab leads along the rows, whatever keys share their places.
+void KeySheet::OrderTabs() {
+  std::vector<KeyView*> order = keys_;
+  std::stable_sort(order.begin(), order.end(), [](const KeyView* a, const KeyView* b) {
+    const QPoint one = a->Spot().place.topLeft();
+    const QPoint other = b->Spot().place.topLeft();
+    return std::pair(one.y(), one.x()) < std::pair(other.y(), other.x());
+  });
+  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 void KeySheet::Refresh(const std::function<KeyState(int)>& stateOf) {

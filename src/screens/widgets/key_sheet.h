@@ -48,6 +48,7 @@ class KeySheet final : public QWidget {
 
  private:
   void keyPressEvent(QKeyEvent* event) override;
+  void OrderTabs();
   const KeyView& KeyOf(int id) const;
   KeyView* Neighbour(const KeyView& from, QPoint direction) const;
 

@@ -1,6 +1,8 @@
 #include "screens/widgets/label_list.h"
 
+#include <QPainter>
 #include <QSignalBlocker>
+#include <QStyleOption>
 #include <QStyledItemDelegate>
 #include <cstddef>
 
@@ -49,6 +51,17 @@ void LabelList::Write(const std::vector<std::u16string>& labels, std::optional<i
   } else {
     clearSelection();
   }
+}
+
+void LabelList::paintEvent(QPaintEvent* event) {
+  QListWidget::paintEvent(event);
+  // Otherwise the focus is seen on a label.
+  if (!hasFocus() || count() > 0) return;
+  QStyleOptionFocusRect frame;
+  frame.initFrom(viewport());
+  frame.state |= QStyle::State_KeyboardFocusChange;
+  QPainter painter(viewport());
+  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, viewport());
 }
 
 }  // namespace kav

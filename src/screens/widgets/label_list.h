@@ -18,6 +18,9 @@ class LabelList final : public QListWidget {
 
   /// Shows `labels` and selects one of them, or none; long ones are cut. Emits no signal.
   void Write(const std::vector<std::u16string>& labels, std::optional<int> selected);
+
+ private:
+  void paintEvent(QPaintEvent* event) override;
 };
 
 }  // namespace kav
