@@ -51,7 +51,7 @@ KeySheet::KeySheet(QWidget* parent, std::vector<KeySpot> spots,
 /// Tab leads along the rows, whatever keys share their places.
 void KeySheet::OrderTabs() {
   std::vector<KeyView*> order = keys_;
-  std::stable_sort(order.begin(), order.end(), [](const KeyView* a, const KeyView* b) {
+  std::sort(order.begin(), order.end(), [](const KeyView* a, const KeyView* b) {
     const QPoint one = a->Spot().place.topLeft();
     const QPoint other = b->Spot().place.topLeft();
     return std::pair(one.y(), one.x()) < std::pair(other.y(), other.x());
