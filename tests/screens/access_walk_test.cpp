@@ -21,8 +21,10 @@ namespace {
 /// What holds others, or marks the place between them, and is no control itself.
 bool NeedsNoName(const QAccessibleInterface& part) {
   static const std::set<QAccessible::Role> kRoles{
-      QAccessible::Client, QAccessible::Pane,      QAccessible::Grouping,   QAccessible::Separator,
-      QAccessible::Grip,   QAccessible::ScrollBar, QAccessible::Whitespace, QAccessible::Border};
+      QAccessible::Client,     QAccessible::Pane,   QAccessible::Grouping,
+      QAccessible::Separator,  QAccessible::Grip,   QAccessible::ScrollBar,
+      QAccessible::Whitespace, QAccessible::Border, QAccessible::Splitter,
+      QAccessible::LayeredPane};
   return kRoles.contains(part.role()) && !part.state().focusable;
 }
 
@@ -122,7 +124,7 @@ QStringList ReadableOf(QAccessibleInterface& part) {
 class AccessWalkTest : public EveryWindow {
  protected:
   void VisitAll(const Visit& visit) {
-    for (const auto& windows : {Screens(), Dialogs(), Boxes()}) {
+    for (const auto& windows : {Screens(), Dialogs(), Boxes(), FileDialogs()}) {
       for (const Window& window : windows) {
         SCOPED_TRACE(window.name);
         Renew();

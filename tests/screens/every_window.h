@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
-#include <QFileDialog>
 #include <QTimer>
 #include <functional>
 #include <memory>
@@ -24,6 +23,7 @@
 #include "screens/statistics/one_variable_dlg.h"
 #include "screens/statistics/two_variable_dlg.h"
 #include "screens/statistics/work_progress_view.h"
+#include "screens/widgets/file_choice.h"
 #include "screens/widgets/message_box.h"
 #include "support/stored_conversions.h"
 #include "support/stored_macros.h"
@@ -125,6 +125,20 @@ class EveryWindow : public testing::Test {
                    WorkProgressView progress(w, u"Loading...", std::chrono::milliseconds(0));
                    progress.Update(0.5);
                    QCoreApplication::processEvents();
+                 }),
+    };
+  }
+
+  /// The toolkit's own.
+  std::vector<Window> FileDialogs() {
+    return {
+        DialogOf("file to open",
+                 [](QWidget* w) {
+                   AskFileToOpen(w, {u"Text (*.txt)", u"txt"});
+                 }),
+        DialogOf("file to save",
+                 [](QWidget* w) {
+                   AskFileToSave(w, {u"Text (*.txt)", u"txt"});
                  }),
     };
   }

@@ -41,8 +41,18 @@ QStringList FiltersOf(std::span<const FileKind> kinds) {
   return filters;
 }
 
+/// The lists of the toolkit's own dialog are named by labels that only stand beside them.
+void NameLists(const QFileDialog& dialog) {
+  for (const auto& [name, label] : {std::pair("lookInCombo", QFileDialog::LookIn),
+                                    std::pair("fileTypeCombo", QFileDialog::FileType)}) {
+    auto* list = dialog.findChild<QWidget*>(QLatin1String(name));
+    if (list != nullptr) list->setAccessibleName(dialog.labelText(label).remove(u':'));
+  }
+}
+
 std::optional<std::string> Chosen(QFileDialog& dialog) {
   FitOverScreen(dialog, *dialog.parentWidget());
+  NameLists(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   Folder() = dialog.directory().absolutePath();
   return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
