@@ -237,7 +237,21 @@ std::optional<GraphPlace> GraphModel::Marker() const {
 }
 
 std::vector<std::u16string> GraphModel::RangeLabels() const {
-  if (!options_.hasCoordinates) return {};
+  return options_.hasCoordinates ? Bounds() : std::vector<std::u16string>();
+}
+
+std::u16string GraphModel::Description() const {
+  std::u16string text;
+  for (const GraphCurve& curve : input_.curves) text.append(curve.label).append(kBetweenParts);
+  if (!input_.points.empty()) {
+    text.append(DataPointsText(input_.points.size())).append(kBetweenParts);
+  }
+  for (const std::u16string& bound : Bounds()) text.append(bound).append(kBetweenParts);
+  text.resize(text.size() - kBetweenParts.size());
+  return text;
+}
+
+std::vector<std::u16string> GraphModel::Bounds() const {
   std::vector<std::u16string> labels;
   labels.reserve(kRangeFields.size());
   for (const RangeField field : kRangeFields) {

@@ -111,7 +111,11 @@ class GraphModel {
   /// The bounds as labels, "x min=..." and so on; none if the option Coordinates is off.
   std::vector<std::u16string> RangeLabels() const;
 
+  /// What the graph shows, for those who cannot see it: the curves, the data and the bounds.
+  std::u16string Description() const;
+
  private:
+  std::vector<std::u16string> Bounds() const;
   ChangeRefusal Take(const PlotRange& range);
   void Sample();
   bool IsInPlot(GraphPlace place) const;

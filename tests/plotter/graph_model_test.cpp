@@ -315,5 +315,23 @@ TEST(GraphModel, RangeLabelsAreShownByTheNumberFormatter) {
   EXPECT_TRUE(model.RangeLabels().empty());
 }
 
+TEST(GraphModel, ItsDescriptionTellsCurvesDataAndBoundsWhateverIsShown) {
+  GraphInput input = GraphOf({"x"});
+  input.curves.front().label = u"R:F1(X)=x";
+  input.options.hasCoordinates = false;
+  input.range = {-1, 2, -3, 4};
+  EXPECT_EQ(GraphModel(input).Description(), u"R:F1(X)=x; x min=-1; x max=2; y min=-3; y max=4");
+  input.points = {{1, 2}};
+  input.curves.push_back(GraphOf({"x^2"}).curves.front());
+  input.curves.back().label = u"G:F2(X)=x^2";
+  GraphModel model(input);
+  EXPECT_EQ(model.Description(),
+            u"R:F1(X)=x; G:F2(X)=x^2; 1 data point; x min=-1; x max=2; y min=-3; y max=4");
+  input.points.push_back({3, 4});
+  EXPECT_NE(GraphModel(input).Description().find(u"2 data points"), std::u16string::npos);
+  EXPECT_FALSE(model.Change(RangeChange::MoveLeft));
+  EXPECT_NE(model.Description().find(u"x min=-1.6; x max=1.4"), std::u16string::npos);
+}
+
 }  // namespace
 }  // namespace kav::graph_model_test

@@ -51,6 +51,7 @@ GraphAreaView::GraphAreaView(GraphModel& model, GraphAreaHooks hooks)
 
 void GraphAreaView::Redraw() {
   isCurrent_ = false;
+  setAccessibleDescription(ToQt(model_.Description()));
   update();
 }
 

@@ -65,13 +65,14 @@ class LabelAccess final : public QAccessibleWidget {
   ShownTextAccess shown_;
 };
 
-/// A plain widget: a window, or a part of one.
+/// A plain widget: a window, a part of one, or if it takes the keyboard, a picture to work on.
 class WindowAccess final : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;
 
   QAccessible::Role role() const override {
-    return widget()->isWindow() ? QAccessible::Window : QAccessibleWidget::role();
+    if (widget()->isWindow()) return QAccessible::Window;
+    return widget()->focusPolicy() != Qt::NoFocus ? QAccessible::Graphic : QAccessible::Client;
   }
 };
 
