@@ -132,7 +132,8 @@ inline constexpr std::u16string_view kGraphResultsName = u"Results";
 // The description of a graph.
 inline constexpr std::u16string_view kBetweenParts = u"; ";
 inline std::u16string DataPointsText(std::size_t count) {
-  return Widen(PrintInteger(count)) + (count == 1 ? u" data point" : u" data points");
+  return Widen(PrintInteger(static_cast<std::int64_t>(count))) +
+         (count == 1 ? u" data point" : u" data points");
 }
 
 }  // namespace kav

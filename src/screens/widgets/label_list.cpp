@@ -2,8 +2,8 @@
 
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QStyleOption>
 #include <QStyledItemDelegate>
+#include <algorithm>
 #include <cstddef>
 
 #include "screens/widgets/access_view.h"
@@ -57,11 +57,10 @@ void LabelList::paintEvent(QPaintEvent* event) {
   QListWidget::paintEvent(event);
   // Otherwise the focus is seen on a label.
   if (!hasFocus() || count() > 0) return;
-  QStyleOptionFocusRect frame;
-  frame.initFrom(viewport());
-  frame.state |= QStyle::State_KeyboardFocusChange;
+  const double line = std::max(2.0, fontMetrics().height() / 10.0);
   QPainter painter(viewport());
-  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, viewport());
+  painter.setPen(QPen(palette().color(QPalette::Highlight), line));
+  painter.drawRect(QRectF(viewport()->rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2));
 }
 
 }  // namespace kav
