@@ -272,6 +272,24 @@ TEST_F(AccessWalkTest, AGraphIsDescribedAsItIsNow) {
   }
 }
 
+TEST_F(AccessWalkTest, AMenuOfAKeyIsNamedAsTheKey) {
+  const auto expectMenus = [this](auto make, const std::vector<std::u16string_view>& keys) {
+    const auto screen = make(*frame_);
+    Show(*screen);
+    for (const std::u16string_view key : keys) {
+      Tap(*screen, key);
+      QMenu* menu = OpenMenu();
+      ASSERT_NE(menu, nullptr) << ToQt(key).toStdString();
+      EXPECT_EQ(NameOf(Of(*menu)), ToQt(key));
+      EXPECT_EQ(Unnamed(*menu), Complaints{});
+      menu->close();
+    }
+  };
+  expectMenus(MakeScientificScreen, {u"DEC", u"M/C"});
+  expectMenus(MakeMatrixScreen, {u"F(X)", u"Tools", u"MTools", u"MOpers"});
+  expectMenus(MakeTwoVariableScreen, {u"MEM"});
+}
+
 TEST_F(AccessWalkTest, ANameThatIsMissingIsFoundOfEachKind) {
   for (QWidget* part : std::initializer_list<QWidget*>{
            new QPushButton, new QCheckBox, new QRadioButton, new QComboBox, new QLineEdit,
