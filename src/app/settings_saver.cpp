@@ -28,27 +28,24 @@ void SettingsSaver::Save() {
 }
 
 void SettingsSaver::Tell() {
-  GoOnUntil(tell_());
+  if (!tell_()) GoOn();
 }
 
 void SettingsSaver::Try() {
   const bool isFree = store_.TrySave();
   if (isFree) {
     firstTry_ = Clock::now();
-  } else if (Clock::now() - firstTry_ >= pace_.tellAfter) {
+    isToldBusy_ = false;
+  } else if (Clock::now() - firstTry_ >= pace_.tellAfter && !std::exchange(isToldBusy_, true)) {
     store_.TellBusy();
   }
   // Before the box that tells waits for its answer, so that the tries go on meanwhile.
-  GoOnUntil(isFree);
-  if (!tell_()) GoOnUntil(false);
+  isFree ? timer_.stop() : GoOn();
+  Tell();
 }
 
-void SettingsSaver::GoOnUntil(bool isDone) {
-  if (isDone) {
-    timer_.stop();
-  } else if (!timer_.isActive()) {
-    timer_.start();
-  }
+void SettingsSaver::GoOn() {
+  if (!timer_.isActive()) timer_.start();
 }
 
 void SettingsSaver::SaveAtLast() {

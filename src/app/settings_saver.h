@@ -29,18 +29,19 @@ class SettingsSaver {
   /// Tells what the store has to tell, now or as soon as the user can be told.
   void Tell();
   /// Saves before it returns, for the end of the program; waits for another program, but not for
-  /// long.
+  /// long. Then it is told, for what is not saved is lost.
   void SaveAtLast();
 
  private:
   void Try();
-  void GoOnUntil(bool isDone);
+  void GoOn();
 
   UserSettingsStore& store_;
   std::function<bool()> tell_;
   Pace pace_;
   QTimer timer_;
-  std::chrono::steady_clock::time_point firstTry_;
+  std::chrono::steady_clock::time_point firstTry_;  ///< of those in vain
+  bool isToldBusy_ = false;
 };
 
 }  // namespace kav

@@ -85,17 +85,23 @@ History History::Load(const SettingsStore& store, const HistoryKeys& keys) {
 }
 
 void History::Save(SettingsStore& store, const HistoryKeys& keys) const {
-  std::vector<std::u16string_view> kept(entries_.begin(), entries_.end());
-  std::reverse(kept.begin(), kept.end());
+  std::vector<std::string> kept;
+  kept.reserve(entries_.size());
   std::size_t room = kMostStored;
-  std::erase_if(kept, [&room](std::u16string_view entry) {
-    const bool isBeyond = entry.size() > room;
-    room -= isBeyond ? 0 : entry.size();
-    return isBeyond;
-  });
-  store.Set(keys.count, static_cast<std::int32_t>(kept.size()));
-  int number = keys.first + static_cast<int>(kept.size());
-  for (const std::u16string_view entry : kept) store.Set(keys.entry(--number), Narrow(entry));
+  for (std::size_t i = entries_.size(); i > 0; --i) {
+    std::string text = Narrow(entries_[i - 1]);
+    if (text.size() > room) continue;
+    room -= text.size();
+    kept.push_back(std::move(text));
+  }
+  const int count = static_cast<int>(kept.size());
+  store.Set(keys.count, count);
+  int number = keys.first + count;
+  for (const std::string& text : kept) store.Set(keys.entry(--number), text);
+  // What has no room there must not stay there from earlier either.
+  for (int i = count; i < static_cast<int>(entries_.size()); ++i) {
+    store.Set(keys.entry(keys.first + i), "");
+  }
 }
 
 bool History::NewestIs(std::u16string_view text) const {

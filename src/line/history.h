@@ -30,9 +30,9 @@ inline constexpr HistoryKeys kPlotterHistory{kGrapHistoryCount, GrapHistoryEntry
 class History {
  public:
   static constexpr std::size_t kCapacity = 20;
-  /// The most UTF-16 units that are stored: pasted megabytes must not fill the settings, which are
-  /// limited and written at each "=".
-  static constexpr std::size_t kMostStored = std::size_t{1} << 17U;
+  /// The most bytes that are stored: pasted megabytes must not fill the settings, which are limited
+  /// and written at each "=".
+  static constexpr std::size_t kMostStored = std::size_t{1} << 20U;
 
   /// The stored entries. A stored count outside 0 to kCapacity counts as the nearer of the two.
   static History Load(const SettingsStore& store, const HistoryKeys& keys);

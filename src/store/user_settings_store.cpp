@@ -155,8 +155,10 @@ bool UserSettingsStore::TrySave() {
   return true;
 }
 
-void UserSettingsStore::TellBusy() const {
-  Tell(NotSaved(FileError::Busy));
+void UserSettingsStore::TellBusy() {
+  std::u16string text = NotSaved(FileError::Busy);
+  told_.erase(text);
+  Tell(std::move(text));
 }
 
 bool UserSettingsStore::Change(const std::function<void()>& change) {

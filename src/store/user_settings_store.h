@@ -45,8 +45,8 @@ class UserSettingsStore final : public SettingsStore {
   /// and it is to be called again soon. True if it was saved, or could not be for another reason.
   bool TrySave();
 
-  /// Tells that another process has kept the file for long.
-  void TellBusy() const;
+  /// Tells, even if it was told before, that another process has kept the file for long.
+  void TellBusy();
 
   /// Locks the file, reads it again, makes the change and writes it, with all earlier changes, to
   /// the disk before it unlocks the file. If any of this fails, the change is made in memory, and

@@ -143,17 +143,19 @@ TEST(History, AnyTextComesBackAsItWas) {
 }
 
 TEST(History, OfEntriesBeyondAllMeasureTheNewestThatFitAreStored) {
+  const std::u16string ones(500'000, u'1');
+  const std::u16string threes(548'575, u'3');
   History history;
-  for (const auto& text :
-       {std::u16string(u"1+1"), std::u16string(100'000, u'1'), std::u16string(1'000'000, u'2'),
-        std::u16string(31'071, u'3'), std::u16string(u"2")}) {
+  for (const auto& text : {std::u16string(u"1+1"), ones, std::u16string(1'048'576, u'2'), threes,
+                           std::u16string(u"2")}) {
     history.Add(text);
   }
   MemorySettingsStore store;
+  store.Set(CalMHistoryEntry(4), "from earlier");
   history.Save(store, kMatrixHistory);
-  EXPECT_EQ(History::Load(store, kMatrixHistory).Entries(),
-            (std::vector<std::u16string>{std::u16string(100'000, u'1'),
-                                         std::u16string(31'071, u'3'), u"2"}));
+  EXPECT_TRUE(History::Load(store, kMatrixHistory).Entries() ==
+              (std::vector<std::u16string>{ones, threes, u"2"}));
+  EXPECT_EQ(store.Get(CalMHistoryEntry(4)), "");
   EXPECT_EQ(history.Entries().size(), 5U);
 }
 

@@ -243,7 +243,8 @@ TEST(SaveDataFile, AFailureIsToldAndLeavesTheFile) {
     setrlimit(RLIMIT_FSIZE, &limit);
     return Save(folder.File("a"), list) ==
                    "The data cannot be saved in " + folder.File("a") +
-                       ": the disk is full or its quota is used up; free some space."
+                       ": no file may grow so large here; raise the limit (ulimit -f) or choose "
+                       "another place."
                ? 0
                : 1;
   });

@@ -1,3 +1,4 @@
+before=$(ls /dev/null*)
 mkdir folder
 mkfifo pipe
 ln -s loop loop
@@ -6,4 +7,4 @@ for name in folder pipe loop new/ /dev/null; do
 done
 kavcalc memory store --settings $'pipe/\e[31mname\n' 1 5
 ls
-[[ ! -e /dev/null.lock ]]
+[[ $(ls /dev/null*) == "$before" ]]
