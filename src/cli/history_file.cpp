@@ -10,7 +10,6 @@
 
 #include "cli/answer_writer.h"
 #include "cli/cli_texts.h"
-#include "common/expected.h"
 #include "settings/atomic_file.h"
 #include "settings/file_descriptor.h"
 #include "store/file_lock.h"
@@ -21,7 +20,6 @@ namespace {
 constexpr std::size_t kLongestLine = 4096;
 // As much of the file as the newest lines can take, each with its end.
 constexpr std::size_t kLongestTail = HistoryFile::kCapacity * (kLongestLine + 1);
-constexpr std::string_view kLockMark = ".lock";
 // Another prompt holds the lock for a moment only, however many there are.
 constexpr std::chrono::seconds kPatience{2};
 
@@ -77,12 +75,6 @@ std::string TextOf(const std::vector<std::string>& lines) {
   return text;
 }
 
-/// Holds other prompts off the file `path` as long as the answer lives. The lock is a file of its
-/// own, because cutting puts a new file in the place of the old one.
-Expected<FileLock, FileError> Lock(const std::string& path) {
-  return FileLock::Acquire(path + std::string(kLockMark), kPatience);
-}
-
 }  // namespace
 
 HistoryFile::HistoryFile(std::string path) : path_(FollowLinks(std::move(path))) {}
@@ -96,7 +88,7 @@ std::vector<std::string> HistoryFile::Load() {
 
 /// Removes old lines. If this fails, so will adding a line, and that is told.
 void HistoryFile::Cut() {
-  const auto lock = Lock(path_);
+  const auto lock = FileLock::AcquireFor(path_, kPatience);
   if (!lock) return;
   // Another prompt may have added lines, or cut the file, before it was locked.
   const auto tail = ReadTail(path_);
@@ -106,8 +98,8 @@ void HistoryFile::Cut() {
 void HistoryFile::Append(std::string_view line) {
   if (path_.empty() || line.size() > kLongestLine) return;
   MakeFoldersFor(path_);
-  // Without a lock, where the folder cannot be written, the file cannot be cut either.
-  const auto lock = Lock(path_);
+  // Where there is no lock to be had, nobody cuts the file either.
+  const auto lock = FileLock::AcquireFor(path_, kPatience);
   constexpr int kHow = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK;
   const FileDescriptor file(open(path_.c_str(), kHow, 0600));  // NOLINT: the system's interface
   if (!file.IsOpen()) return GiveUp(errno);

@@ -9,9 +9,8 @@
 namespace kav {
 
 /// A text file of lines, the newest last. Several prompts may use one file at the same time: each
-/// adds and cuts under a lock, the file beside it whose name ends in ".lock". A symbolic link stays
-/// one. If the file cannot be written, standard error is told once, and nothing is kept from then
-/// on.
+/// adds and cuts while it holds the lock of the file's folder. A symbolic link stays one. If the
+/// file cannot be written, standard error is told once, and nothing is kept from then on.
 class HistoryFile {
  public:
   static constexpr std::size_t kCapacity = 1000;

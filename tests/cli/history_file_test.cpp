@@ -82,6 +82,7 @@ TEST_F(HistoryFileTest, ALinkStaysALink) {
   for (int i = 1; i <= 1001; ++i) history.Append(std::to_string(i));
   EXPECT_EQ(HistoryFile(link).Load().front(), "2");
   EXPECT_TRUE(std::filesystem::is_symlink(link));
+  EXPECT_FALSE(std::filesystem::exists(path_ + ".lock"));
   EXPECT_EQ(Text().substr(0, 4), "2\n3\n");
 }
 
