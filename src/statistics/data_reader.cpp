@@ -109,7 +109,7 @@ inline std::optional<DataFault> DataReader::TakeToken(std::string_view token) {
   DataRow& row = rows_[whole_];
   if (!ExpectsCount()) {
     if (token.size() > DataList::kLongestValue) return Refuse(DataRefusal::ValueTooLong);
-    if (field_ == 0) rowLine_ = line_;
+    if (field_ == 0) unusual_ |= line_ ^ nextLine_;
     row.values[field_++] = token;
     return std::nullopt;
   }
@@ -121,7 +121,7 @@ inline std::optional<DataFault> DataReader::TakeToken(std::string_view token) {
   } else if (auto fault = TakeCount(token)) {
     return fault;
   }
-  unusual_ |= (line_ ^ rowLine_) | (line_ ^ nextLine_);
+  unusual_ |= line_ ^ nextLine_;
   nextLine_ = line_ + 1;
   field_ = 0;
   lines_[whole_++] = line_;

@@ -110,8 +110,7 @@ class DataReader {
   bool hasRows_ = false;
   std::uint64_t unusual_ = 0;  ///< not 0 if anything was; a number, since gathering it is faster
   std::uint64_t line_ = 1;
-  std::uint64_t rowLine_ = 1;   ///< in which the row that is being read begins
-  std::uint64_t nextLine_ = 1;  ///< in which that row ends if each line is a row
+  std::uint64_t nextLine_ = 1;  ///< in which the next row stands if each line is a row
 };
 
 }  // namespace kav
