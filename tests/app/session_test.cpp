@@ -64,6 +64,13 @@ class SessionTest : public testing::Test {
   std::unique_ptr<Session> session_;
 };
 
+TEST_F(SessionTest, TheSeparatorOfTheNumberPadIsAPointInTheWholeProgram) {
+  Start();
+  QTest::keyClick(&Expression(TheScreen()), Qt::Key_Comma, Qt::KeypadModifier);
+  EXPECT_EQ(LineOf(TheScreen()), u".|");
+  Close();
+}
+
 TEST_F(SessionTest, HistoryAngleBaseScreenAndPlaceAreAsTheyWereLeft) {
   Start();
   Tap(TheScreen(), u"SIN 3 0 =");

@@ -23,6 +23,7 @@ TEST_F(PlotterDlgTest, StartsWithTheDefaultsAndTheFocusOnTheInput) {
   EXPECT_FALSE(IsOn(u"PB"));
   EXPECT_NE(FindKey(*dlg_, u"DEG"), nullptr);
   EXPECT_TRUE(InputHasFocus());
+  EXPECT_EQ(Offered(MenuOf(*dlg_, u"&File"))[3], u"Edit &Macro...");
 }
 
 // Keys that write.
