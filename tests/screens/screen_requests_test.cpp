@@ -51,14 +51,16 @@ TEST_F(ScreenRequestsTest, TheEditMenuSaysWhatItsEntriesDo) {
 
 TEST_F(ScreenRequestsTest, AMenuHasItsPlaceOnTheScreenAtAnySize) {
   Tap(u"1 =");
-  // Of the wide window, a column of 225 by 300 pixels in the middle is the screen.
-  for (const auto& [size, corner] :
-       {std::pair(QSize(240, 320), QPoint()), std::pair(QSize(400, 300), QPoint(87, 0))}) {
-    dlg_->resize(size);
-    const QSizeF area = size.width() == 240 ? QSizeF(240, 320) : QSizeF(225, 300);
+  struct Row {
+    QSize window;
+    QRect screen;
+  };
+  // Of the wide window, a column in the middle is the screen.
+  for (const Row& row : {Row{{240, 320}, {0, 0, 240, 320}}, Row{{400, 300}, {87, 0, 225, 300}}}) {
+    dlg_->resize(row.window);
     const auto at = [&](int x, int y) {
-      return dlg_->mapToGlobal(corner) + QPoint(static_cast<int>(x * area.width() / 240),
-                                                static_cast<int>(y * area.height() / 320));
+      return dlg_->mapToGlobal(row.screen.topLeft()) +
+             QPoint(x * row.screen.width() / 240, y * row.screen.height() / 320);
     };
     Tap(u"DEC");
     EXPECT_EQ(OpenMenu()->pos(), at(80, 90));
