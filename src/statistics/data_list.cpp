@@ -1,6 +1,10 @@
 #include "statistics/data_list.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <new>
 #include <span>
@@ -10,7 +14,6 @@
 #include "common/number_text.h"
 
 namespace kav {
-namespace {}  // namespace
 
 std::string_view DataList::ValueText(std::size_t row, std::size_t variable) const {
   return TextOf(rows_[row], variable);
@@ -21,7 +24,7 @@ double DataList::Value(std::size_t row, std::size_t variable) const {
 }
 
 std::string DataList::CountText(std::size_t row) const {
-  return rows_[row].IsComplete() ? PrintInteger(rows_[row].count) : std::string();
+  return IsComplete(rows_[row]) ? PrintInteger(Count(row)) : std::string();
 }
 
 /// Whether the texts of `row` fit, and its count instead of `replacedCount`.
@@ -39,36 +42,57 @@ inline std::optional<DataRefusal> DataList::CheckNew(const DataRow& row) const {
   return Check(row, 0);
 }
 
-inline void DataList::Tally(const StoredRow& row) {
-  total_ += row.count;
-  completeRows_ += row.IsComplete() ? 1U : 0U;
-  textLength_ += row.TextLength();
-}
-
 /// Writes `row` into the StoredRow that `makeRow` answers, once there is room for its texts. The
 /// row is written in its place: to copy it there would read it in wider pieces than it was written
 /// in, and the processor would wait for the writes.
 template <class MakeRow>
 inline std::optional<DataRefusal> DataList::Store(const DataRow& row, MakeRow makeRow) {
+  const std::string_view first = row.values[0];
   const std::string_view second = Variables() == 2 ? row.values[1] : std::string_view();
+  const std::int32_t count = row.count.value_or(StoredRow::kNoCount);
+  const bool isShort = (first.size() | second.size()) <= StoredRow::kLongest &&
+                       count == static_cast<std::int16_t>(count) &&
+                       (count != StoredRow::kNoCount || !row.count);
   try {
-    if (!texts_.MakeRoom(row.values[0].size() + second.size())) return DataRefusal::NoMemory;
+    const std::size_t room = first.size() + second.size() + (isShort ? 0 : sizeof(RowFacts));
+    if (!texts_.MakeRoom(room)) return DataRefusal::NoMemory;
     StoredRow& stored = makeRow();
-    stored.place = texts_.PutInRoom(row.values[0], second);
-    stored.lengths[0] = static_cast<std::uint16_t>(row.values[0].size());
-    stored.lengths[1] = static_cast<std::uint16_t>(second.size() | (row.count ? 0U : kNoCount));
-    stored.count = row.count.value_or(0);
-    Tally(stored);
+    if (isShort) [[likely]] {
+      stored.place = texts_.PutInRoom(first, second);
+      stored.lengths[0] = static_cast<std::uint8_t>(first.size());
+      stored.lengths[1] = static_cast<std::uint8_t>(second.size());
+      stored.count = static_cast<std::int16_t>(count);
+    } else {
+      StoreElsewhere(stored, row, second);
+    }
+    total_ += row.count ? count : 0;
+    completeRows_ += row.count ? 1U : 0U;
+    textLength_ += room;
     return std::nullopt;
   } catch (const std::bad_alloc&) {
     return DataRefusal::NoMemory;
   }
 }
 
+/// Writes facts that few bytes do not hold, and the texts behind them, for which there is room.
+void DataList::StoreElsewhere(StoredRow& stored, const DataRow& row, std::string_view second) {
+  RowFacts facts;
+  facts.lengths[0] = static_cast<std::uint16_t>(row.values[0].size());
+  facts.lengths[1] =
+      static_cast<std::uint16_t>(second.size() | (row.count ? 0U : RowFacts::kNoCount));
+  facts.count = row.count.value_or(0);
+  std::array<char, sizeof facts> bytes{};
+  std::memcpy(bytes.data(), &facts, sizeof facts);
+  stored.place = texts_.PutInRoom({bytes.data(), bytes.size()}, {});
+  texts_.PutInRoom(row.values[0], second);
+  stored.lengths = {StoredRow::kElsewhere, 0};
+  stored.count = 0;
+}
+
 void DataList::Untally(const StoredRow& row) {
-  total_ -= row.count;
-  completeRows_ -= row.IsComplete() ? 1U : 0U;
-  textLength_ -= row.TextLength();
+  total_ -= CountOf(row);
+  completeRows_ -= IsComplete(row) ? 1U : 0U;
+  textLength_ -= HeldOf(row).size();
 }
 
 std::optional<DataRefusal> DataList::InsertTop(const DataRow& row) {
@@ -105,8 +129,7 @@ std::optional<DataRefusal> DataList::InsertTop(const DataList& rows) {
 std::optional<DataRefusal> DataList::InsertCopies(const DataList& rows) {
   std::vector<StoredRow> copies(rows.rows_.begin(), rows.rows_.end());
   for (StoredRow& copy : copies) {
-    if (copy.TextLength() == 0) continue;
-    const auto place = texts_.Put(rows.texts_.At(copy.place, copy.TextLength()), {});
+    const auto place = texts_.Put(rows.HeldOf(copy), {});
     if (!place) return DataRefusal::NoMemory;
     copy.place = *place;
   }
@@ -118,7 +141,7 @@ std::optional<DataRefusal> DataList::InsertCopies(const DataList& rows) {
 }
 
 std::optional<DataRefusal> DataList::Rewrite(std::size_t row, const DataRow& with) {
-  if (auto refusal = Check(with, rows_[row].count)) return refusal;
+  if (auto refusal = Check(with, Count(row))) return refusal;
   const auto emptied = [this, row]() -> StoredRow& {
     Untally(rows_[row]);
     return rows_[row];
@@ -129,7 +152,7 @@ std::optional<DataRefusal> DataList::Rewrite(std::size_t row, const DataRow& wit
 }
 
 std::optional<DataRefusal> DataList::CheckErase(std::size_t row) const {
-  if (IsInt32(std::int64_t{total_} - rows_[row].count)) return std::nullopt;
+  if (IsInt32(std::int64_t{total_} - Count(row))) return std::nullopt;
   return DataRefusal::TotalOutOfRange;
 }
 
@@ -150,7 +173,7 @@ void DataList::CompactTexts() {
     std::vector<std::uint32_t> places;
     places.reserve(rows_.size());
     for (const StoredRow& row : rows_) {
-      const auto place = texts.Put(TextOf(row, 0), TextOf(row, 1));
+      const auto place = texts.Put(HeldOf(row), {});
       if (!place) return;
       places.push_back(*place);
     }
@@ -162,7 +185,7 @@ void DataList::CompactTexts() {
 }
 
 double DataList::Key(const StoredRow& row, std::size_t column) const {
-  return column < Variables() ? ReadLeadingNumber(TextOf(row, column)) : row.count;
+  return column < Variables() ? ReadLeadingNumber(TextOf(row, column)) : CountOf(row);
 }
 
 template <class Before>

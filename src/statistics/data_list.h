@@ -4,7 +4,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <deque>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
@@ -55,7 +57,8 @@ struct TakenRows {
   std::optional<DataRefusal> refusal;
 };
 
-/// Rows are numbered from 0 at the top. A row takes 12 bytes and its texts.
+/// Rows are numbered from 0 at the top. A row takes 8 bytes and its texts; 8 more if a text or the
+/// count is a long one.
 class DataList {
  public:
   static constexpr std::size_t kMostRows = 20'000'000;
@@ -74,14 +77,14 @@ class DataList {
   std::string_view ValueText(std::size_t row, std::size_t variable) const;
   /// The number at the start of that text, 0 if there is none.
   double Value(std::size_t row, std::size_t variable) const;
-  std::int32_t Count(std::size_t row) const { return rows_[row].count; }
+  std::int32_t Count(std::size_t row) const { return CountOf(rows_[row]); }
   /// Empty for a row without a count.
   std::string CountText(std::size_t row) const;
 
   /// Calls `use(double value, std::int32_t count)` for a variable of each row, from the top.
   template <class Use>
   void ForEachValue(std::size_t variable, Use use) const {
-    for (const StoredRow& row : rows_) use(ReadLeadingNumber(TextOf(row, variable)), row.count);
+    for (const StoredRow& row : rows_) use(ReadLeadingNumber(TextOf(row, variable)), CountOf(row));
   }
 
   // Each answers why it is refused, or nullopt when it is done.
@@ -104,36 +107,70 @@ class DataList {
   void Sort(std::size_t column, Direction direction);
 
  private:
-  /// A bit of the second length, set for a row without a count.
-  static constexpr std::uint16_t kNoCount = 0x8000;
-  static_assert(kLongestValue < kNoCount);
-  static_assert(kMostVariables * kLongestValue <= TextArena::kBlockSize);
+  /// What is known of a row besides its texts.
+  struct RowFacts {
+    std::array<std::uint16_t, kMostVariables> lengths{};
+    std::int32_t count = 0;  ///< 0 for a row without one
 
-  /// A row: the place of its first text, which the second follows, and the lengths of both.
+    /// A bit of the second length, set for a row without a count.
+    static constexpr std::uint16_t kNoCount = 0x8000;
+    std::size_t Length(std::size_t variable) const { return lengths[variable] & (kNoCount - 1U); }
+    bool IsComplete() const { return (lengths[1] & kNoCount) == 0; }
+  };
+  static_assert(kLongestValue < RowFacts::kNoCount);
+  static_assert(kMostVariables * kLongestValue + sizeof(RowFacts) <= TextArena::kBlockSize);
+
+  /// A row: the place of its first text, which the second follows, and its facts, which few bytes
+  /// hold for nearly all rows. Those of any other stand before its texts.
   struct StoredRow {
     std::uint32_t place = 0;
-    std::array<std::uint16_t, kMostVariables> lengths{};
-    std::int32_t count = 0;
+    std::array<std::uint8_t, kMostVariables> lengths{};
+    std::int16_t count = 0;
 
-    std::size_t Length(std::size_t variable) const { return lengths[variable] & (kNoCount - 1U); }
-    std::size_t TextLength() const { return Length(0) + Length(1); }
-    bool IsComplete() const { return (lengths[1] & kNoCount) == 0; }
+    static constexpr std::uint8_t kLongest = 0x7F;    ///< length of a text of the others
+    static constexpr std::uint8_t kElsewhere = 0xFF;  ///< the first length of such a row
+    static constexpr std::int16_t kNoCount = std::numeric_limits<std::int16_t>::min();
+    bool HasFactsElsewhere() const { return lengths[0] == kElsewhere; }
+    std::uint32_t FactsLength() const { return HasFactsElsewhere() ? sizeof(RowFacts) : 0; }
   };
 
   std::size_t Variables() const { return VariablesOf(shape_); }
   double Key(const StoredRow& row, std::size_t column) const;
+  RowFacts FactsElsewhere(const StoredRow& row) const {
+    RowFacts facts;
+    std::memcpy(&facts, texts_.At(row.place, sizeof facts).data(), sizeof facts);
+    return facts;
+  }
+  std::size_t LengthOf(const StoredRow& row, std::size_t variable) const {
+    if (row.HasFactsElsewhere()) return FactsElsewhere(row).Length(variable);
+    return row.lengths[variable];
+  }
+  std::int32_t CountOf(const StoredRow& row) const {
+    if (row.HasFactsElsewhere()) return FactsElsewhere(row).count;
+    return row.count == StoredRow::kNoCount ? 0 : row.count;
+  }
+  bool IsComplete(const StoredRow& row) const {
+    if (row.HasFactsElsewhere()) return FactsElsewhere(row).IsComplete();
+    return row.count != StoredRow::kNoCount;
+  }
+  /// All that the arena holds of a row.
+  std::string_view HeldOf(const StoredRow& row) const {
+    const std::size_t length = row.FactsLength() + LengthOf(row, 0) + LengthOf(row, 1);
+    return length == 0 ? std::string_view() : texts_.At(row.place, length);
+  }
   std::string_view TextOf(const StoredRow& row, std::size_t variable) const {
-    const std::size_t length = row.Length(variable);
+    const std::size_t length = LengthOf(row, variable);
     if (length == 0) return {};
-    return texts_.At(row.place + (variable == 0 ? 0U : row.lengths[0]), length);
+    const std::size_t before = variable == 0 ? 0 : LengthOf(row, 0);
+    return texts_.At(static_cast<std::uint32_t>(row.place + row.FactsLength() + before), length);
   }
   std::optional<DataRefusal> Check(const DataRow& row, std::int64_t replacedCount) const;
   std::optional<DataRefusal> CheckNew(const DataRow& row) const;
   template <class MakeRow>
   std::optional<DataRefusal> Store(const DataRow& row, MakeRow makeRow);
+  void StoreElsewhere(StoredRow& stored, const DataRow& row, std::string_view second);
   std::optional<DataRefusal> AppendOne(const DataRow& row);
   std::optional<DataRefusal> InsertCopies(const DataList& rows);
-  void Tally(const StoredRow& row);
   void Untally(const StoredRow& row);
   template <class Before>
   void SortBy(std::size_t column, Before before);
@@ -142,7 +179,7 @@ class DataList {
   DataShape shape_;
   std::int32_t total_ = 0;
   std::size_t completeRows_ = 0;
-  std::size_t textLength_ = 0;  ///< of all rows; what else `texts_` holds is waste
+  std::size_t textLength_ = 0;  ///< held of all rows; what else `texts_` holds is waste
   std::deque<StoredRow> rows_;  ///< grows at both ends without copying rows
   TextArena texts_;
 };

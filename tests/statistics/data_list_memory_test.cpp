@@ -108,7 +108,8 @@ std::int64_t Resident() {
 TEST(DataListMemory, ALongListIsGivenBackToTheMachine) {
   if (!test::kIsFast) GTEST_SKIP() << "a sanitizer keeps what is freed";
   std::string text;
-  for (int i = 0; i < 200'000; ++i) text += std::to_string(i % 9000 + 1000) + ".123\t5\r\n";
+  // Hardly a file has shorter lines.
+  for (int i = 0; i < 300'000; ++i) text += std::to_string(i % 90 + 10) + "\t5\r\n";
   const TemporaryFolder folder;
   PutFile(folder.File("data.txt"), text);
   MemorySettingsStore store;
@@ -122,7 +123,7 @@ TEST(DataListMemory, ALongListIsGivenBackToTheMachine) {
     EXPECT_GE(Resident() - before, size) << "or nothing is measured";
     EXPECT_LE(Resident() - before, 2 * size);
     isLeft ? model.reset() : model->ClearRows();
-    EXPECT_LE(Resident() - before, size / 10);
+    EXPECT_LE(Resident() - before, size / 8);
   }
 }
 

@@ -3,10 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -308,6 +311,39 @@ TEST(DataList, NoOrderOfAMillionRowsOverflowsTheStackOrTakesLong) {
     list.Sort(0, DataList::Direction::Ascending);
     for (std::size_t row = 1; row < list.RowCount(); row += 97) {
       ASSERT_LE(list.Value(row - 1, 0), list.Value(row, 0)) << name;
+    }
+  }
+}
+
+TEST(DataListRows, TextsAndCountsOfAnySizeStayWhatTheyAre) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  std::vector<std::optional<std::int32_t>> counts{std::nullopt};
+  for (const std::int32_t count : {0, 1, -1, 254, 255, 32766, 32767, 32768, -32767, -32768, -32769,
+                                   Limits::max() / 4, Limits::min() / 4}) {
+    counts.emplace_back(count);
+  }
+  constexpr std::array<std::size_t, 7> kLengths{0, 1, 127, 128, 255, 256, 30'000};
+  for (const DataShape shape : {DataShape::OneVariable, DataShape::TwoVariables}) {
+    for (const std::size_t length : kLengths) {
+      const std::string first(length, '1');
+      const std::string second(shape == DataShape::TwoVariables ? 257 - length % 257 : 0, '2');
+      for (const auto& count : counts) {
+        DataList list(shape);
+        ASSERT_EQ(list.Append({{"5", "6"}, 7}), std::nullopt);
+        ASSERT_EQ(list.Rewrite(0, {{first, second}, count}), std::nullopt);
+        DataList copy(shape);
+        ASSERT_EQ(copy.InsertTop(list), std::nullopt);
+        for (const DataList* one : {&list, &copy}) {
+          ASSERT_EQ(one->ValueText(0, 0), first);
+          ASSERT_EQ(one->ValueText(0, 1), second);
+          ASSERT_EQ(one->CountText(0), count ? std::to_string(*count) : "");
+          ASSERT_EQ(one->Count(0), count.value_or(0));
+          ASSERT_EQ(one->Total(), count.value_or(0));
+          ASSERT_EQ(one->CompleteRowCount(), count ? 1U : 0U);
+        }
+        ASSERT_EQ(list.Erase(0), std::nullopt);
+        ASSERT_EQ(list.Total(), 0);
+      }
     }
   }
 }
