@@ -43,7 +43,7 @@ const std::vector<Header> kHeaders{
      "log log10 lround modf nextafter pow round signbit sin sinh sqrt tan tanh trunc"},
     {"concepts", "invocable"},
     {"cstddef", "ptrdiff_t size_t"},
-    {"cstdint", "int32_t int64_t uint16_t uint32_t uint64_t uint8_t uintmax_t"},
+    {"cstdint", "int16_t int32_t int64_t uint16_t uint32_t uint64_t uint8_t uintmax_t"},
     {"cstdio", "fwrite"},
     {"cstdlib", "getenv"},
     {"cstring", "memchr memcpy strerror"},

@@ -116,6 +116,9 @@ inline constexpr std::u16string_view kNoMemoryForGraph =
 inline std::u16string SortHint(int key) {
   return std::u16string(u"Sorts the rows (Alt+").append(IntegerText(key)).append(u")");
 }
+/// What the arrow above a column says.
+inline constexpr std::u16string_view kSortedUpwards = u"Sorted, the smallest number first";
+inline constexpr std::u16string_view kSortedDownwards = u"Sorted, the largest number first";
 inline constexpr std::u16string_view kLoadingData = u"Loading Data...";
 inline constexpr std::u16string_view kSavingData = u"Saving Data...";
 inline constexpr std::u16string_view kPastingData = u"Pasting Data...";

@@ -10,6 +10,7 @@
 #include "common/number_text.h"
 #include "screens/statistics/row_table_view.h"
 #include "screens/widgets/qt_text.h"
+#include "statistics/statistics_texts.h"
 
 namespace kav {
 namespace {
@@ -47,10 +48,9 @@ class RowCellAccess final : public QAccessibleInterface,
 
   QString text(QAccessible::Text kind) const override {
     if (!isValid()) return {};
-    const bool isName = kind == QAccessible::Name || kind == QAccessible::Value;
-    if (isName && !IsHeading()) return Index().data().toString();
-    if (isName) return Heading(Qt::DisplayRole);
-    return kind == QAccessible::Description && IsHeading() ? Heading(Qt::ToolTipRole) : QString();
+    const bool isText = kind == QAccessible::Name || kind == QAccessible::Value;
+    if (isText) return IsHeading() ? Heading(Qt::DisplayRole) : Index().data().toString();
+    return kind == QAccessible::Description && IsHeading() ? Described() : QString();
   }
   void setText(QAccessible::Text, const QString&) override {}
   QRect rect() const override {
@@ -118,6 +118,17 @@ class RowCellAccess final : public QAccessibleInterface,
   }
   bool IsHeading() const { return row_ < 0; }
   QModelIndex Index() const { return Table()->model()->index(row_, column_); }
+  /// What the arrow says; empty if there is none.
+  QString Sorted() const {
+    const QHeaderView& headings = *Table()->horizontalHeader();
+    if (headings.sortIndicatorSection() != column_) return {};
+    const bool isUpwards = headings.sortIndicatorOrder() == Qt::AscendingOrder;
+    return ToQt(isUpwards ? kSortedUpwards : kSortedDownwards);
+  }
+  QString Described() const {
+    const QString hint = Heading(Qt::ToolTipRole);
+    return Sorted().isEmpty() ? hint : Sorted() + ". " + hint;
+  }
   QString Heading(int role) const {
     return Table()->model()->headerData(column_, Qt::Horizontal, role).toString();
   }
