@@ -154,8 +154,9 @@ class RowTableAccess final : public QAccessibleWidget, public QAccessibleTableIn
   // The tree.
   int childCount() const override { return std::min(All(), kMostChildren); }
   QAccessibleInterface* child(int index) const override {
-    if (index < 0 || index >= All()) return nullptr;
-    return Cell(index / columnCount() - 1, index % columnCount());
+    const int columns = columnCount();
+    if (columns == 0 || index < 0 || index >= All()) return nullptr;
+    return Cell(index / columns - 1, index % columns);
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
     const auto* cell = dynamic_cast<const RowCellAccess*>(child);

@@ -124,7 +124,7 @@ void RowTable::updateGeometries() {
   QScrollBar& bar = *verticalScrollBar();
   bar.setRange(0, std::max(RowTotal() - RowsInView(), 0));
   bar.setPageStep(RowsInView());
-  QAbstractItemView::updateGeometries();
+  QAbstractItemView::updateGeometries();  // NOLINT: not the table's, which asks the header of rows
 }
 
 // The look.
@@ -228,14 +228,14 @@ void RowTable::PickRow(int row) {
 
 void RowTable::selectionChanged(const QItemSelection& now, const QItemSelection& before) {
   // The toolkit's table would make a list of all cells for screen readers.
-  QAbstractItemView::selectionChanged(now, before);
+  QAbstractItemView::selectionChanged(now, before);  // NOLINT: therefore not the table's
   if (!QAccessible::isActive()) return;
   QAccessibleEvent event(this, QAccessible::SelectionWithin);
   QAccessible::updateAccessibility(&event);
 }
 
 void RowTable::currentChanged(const QModelIndex& now, const QModelIndex& before) {
-  QAbstractItemView::currentChanged(now, before);
+  QAbstractItemView::currentChanged(now, before);  // NOLINT: the table's tells of another place
   for (const QModelIndex& index : {now, before}) {
     if (index.isValid()) viewport()->update(AreaOf(index.row()));
   }
