@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "common/ascii.h"
 #include "common/number_text.h"
 #include "memory/memory_texts.h"
 
@@ -11,6 +12,23 @@ namespace {
 
 std::u16string Printed(std::size_t count) {
   return Widen(PrintInteger(static_cast<std::int64_t>(count)));
+}
+
+/// `filter` with units as names write them, instead of the words that users may write in full.
+std::u16string WithShortUnits(std::u16string_view filter) {
+  constexpr std::u16string_view kFull = u"mole";
+  constexpr std::size_t kShortLength = 3;
+  std::u16string words(filter);
+  std::transform(words.begin(), words.end(), words.begin(),
+                 [](char16_t c) { return LowerCase(c); });
+  for (std::size_t at = words.find(kFull); at != words.npos; at = words.find(kFull, at + 1)) {
+    std::size_t end = at + kFull.size();
+    if (end < words.size() && words[end] == u's') ++end;
+    const bool isWord =
+        (at == 0 || words[at - 1] == u' ') && (end == words.size() || words[end] == u' ');
+    if (isWord) words.erase(at + kShortLength, end - at - kShortLength);
+  }
+  return words;
 }
 
 }  // namespace
@@ -27,8 +45,9 @@ ConstantsModel::ConstantsModel(const std::vector<std::string>& folders) {
 
 void ConstantsModel::SetFilter(std::u16string_view filter) {
   shown_.clear();
+  const std::u16string words = WithShortUnits(filter);
   for (std::size_t i = 0; i < table_.size(); ++i) {
-    if (Matches(table_[i], filter)) shown_.push_back(i);
+    if (Matches(table_[i], words)) shown_.push_back(i);
   }
   std::stable_sort(shown_.begin(), shown_.end(), [&](std::size_t a, std::size_t b) {
     return MatchSymbol(table_[a], filter) < MatchSymbol(table_[b], filter);

@@ -21,8 +21,8 @@ class ConstantsModel {
   /// Why there is no table, to be told once; nullopt if there is one.
   const std::optional<std::u16string>& LoadFailure() const { return failure_; }
 
-  /// Shows the rows that match `filter`, see Matches, those whose symbol it is first. The selected
-  /// row stays selected if it is shown.
+  /// Shows the rows that match `filter`, see Matches, those whose symbol it is first; "mole" finds
+  /// the unit mol. The selected row stays selected if it is shown.
   void SetFilter(std::u16string_view filter);
 
   std::size_t ShownCount() const { return shown_.size(); }

@@ -1,7 +1,6 @@
 #include "memory/constants_table.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
@@ -58,21 +57,6 @@ bool Contains(std::u16string_view text, std::u16string_view word) {
          std::search(text.begin(), text.end(), word.begin(), word.end(), isEqual) != text.end();
 }
 
-/// What users may write in full and names have as a unit.
-struct UnitName {
-  std::u16string_view full;
-  std::u16string_view unit;
-};
-constexpr std::array kUnitNames{UnitName{u"mole", u"mol"}, UnitName{u"moles", u"mol"}};
-
-/// Whether the name has the unit that `word` is the full name of.
-bool HasUnit(std::u16string_view name, std::u16string_view word) {
-  return std::any_of(kUnitNames.begin(), kUnitNames.end(), [&](const UnitName& row) {
-    return word.size() == row.full.size() && Contains(word, row.full) &&
-           name.find(row.unit, name.find(u'(')) != name.npos;
-  });
-}
-
 /// The bytes of the file `path`, at most one more than the limit; nullopt if it cannot be opened,
 /// or if it is a pipe or a device, which could keep the program waiting.
 std::optional<std::string> ReadBytes(const fs::path& path) {
@@ -104,7 +88,7 @@ bool Matches(const Constant& constant, std::u16string_view filter) {
     const std::u16string_view word = filter.substr(0, filter.find(u' '));
     filter.remove_prefix(std::min(word.size() + 1, filter.size()));
     const bool occurs = Contains(constant.group, word) || Contains(constant.name, word) ||
-                        Contains(constant.value, word) || HasUnit(constant.name, word);
+                        Contains(constant.value, word);
     if (!occurs) return false;
   }
   return true;

@@ -26,8 +26,8 @@ struct Constant {
 /// A record without a name or a value is skipped.
 std::vector<Constant> ParseConstants(std::string_view bytes);
 
-/// Whether each word of `filter`, in any case, occurs in the group, the name or the value. A mole
-/// is a mol. An empty filter matches every row.
+/// Whether each word of `filter`, in any case, occurs in the group, the name or the value. An empty
+/// filter matches every row.
 bool Matches(const Constant& constant, std::u16string_view filter);
 
 /// The last word of the name before its unit: R in "molar gas constant R (J/(mol K))".

@@ -76,6 +76,7 @@ TEST(ConstantsModelOfNature, TheSymbolThatIsTypedComesFirst) {
       {u"k", u"Boltzmann constant k (J/K)"},
       {u"h", u"Planck constant h (J s)"},
       {u"n_a", u"Avogadro constant N_A (1/mol)"},
+      {u"Moles gas", u"molar gas constant R (J/(mol K))"},
       {u"mole gas", u"molar gas constant R (J/(mol K))"},
       {u"light vacuum speed", u"speed of light in vacuum c (m/s)"},
   };

@@ -101,13 +101,6 @@ TEST(Matches, EachWordOccursSomewhereInAnyCase) {
   }
 }
 
-TEST(Matches, AMoleIsTheUnitMol) {
-  const Constant gas{u"", u"molar gas constant R (J/(mol K))", u"8.3"};
-  for (const auto filter : {u"mole gas", u"MOLES", u"Gas moles"}) EXPECT_TRUE(Matches(gas, filter));
-  for (const auto filter : {u"molecule", u"molesx"}) EXPECT_FALSE(Matches(gas, filter));
-  EXPECT_FALSE(Matches({u"", u"mol", u"1"}, u"mole"));
-}
-
 TEST(SymbolOf, IsTheLastWordBeforeTheUnit) {
   const std::pair<std::u16string_view, std::u16string_view> rows[] = {
       {u"molar gas constant R (J/(mol K))", u"R"},
