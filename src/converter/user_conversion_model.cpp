@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "common/number_text.h"
+#include "display/comma_reading.h"
 
 namespace kav {
 namespace {
@@ -19,6 +20,14 @@ std::u16string Shown(std::u16string_view text) {
 TypedConversion UserConversionEditorTraits::FieldsOf(const UserConversion& conversion) {
   const UnitNames names = SplitConversion(Widen(conversion.text));
   return {Shown(names.source), Shown(names.target), Shown(Widen(conversion.rateText))};
+}
+
+Expected<UserConversion, ConversionRefusal> UserConversionEditorTraits::Check(
+    const TypedConversion& typed, const std::vector<UserConversion>& others) {
+  auto checked = UserConversionTraits::Check(typed, others);
+  if (checked || checked.error().focus != ConversionField::Rate) return checked;
+  auto comma = CommaRefusal(typed.rate);
+  return comma ? ConversionRefusal{*std::move(comma), ConversionField::Rate} : checked;
 }
 
 TypedConversion UserConversionEditorTraits::TypedOf(TypedConversion fields,

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "converter/converter_texts.h"
 #include "converter/user_conversions.h"
@@ -25,6 +26,9 @@ struct UserConversionEditorTraits : UserConversionTraits {
   static TypedConversion FieldsToEdit(const UserConversion& conversion) {
     return FieldsOf(conversion);
   }
+  /// The same as for all, except that a comma in the rate that could be a decimal one is named.
+  static Expected<UserConversion, ConversionRefusal> Check(
+      const TypedConversion& typed, const std::vector<UserConversion>& others);
   static TypedConversion TypedOf(TypedConversion fields,
                                  const std::optional<StoredIdentity>& edited);
 };

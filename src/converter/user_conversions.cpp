@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "converter/converter_texts.h"
-#include "display/comma_reading.h"
 #include "engine/fold_case.h"
 #include "engine/tokenizer.h"
 #include "settings/stored_list_texts.h"
@@ -77,9 +76,6 @@ Expected<UserConversion, ConversionRefusal> UserConversionTraits::Check(
       std::any_of(others.begin(), others.end(),
                   [&made](const UserConversion& one) { return one.text == made.text; });
   if (isTaken) return ConversionRefusal{ExistsAlready(text), ConversionField::Source};
-  if (auto comma = CommaRefusal(cleaned.rate)) {
-    return ConversionRefusal{*std::move(comma), ConversionField::Rate};
-  }
   if (ReadRate(cleaned.rate).value_or(0) == 0) {
     return ConversionRefusal{std::u16string(kConvertRateIsInvalid), ConversionField::Rate};
   }

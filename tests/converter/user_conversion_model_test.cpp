@@ -201,6 +201,17 @@ TEST_F(UserConversionEditorOfThree, AnEditBeginsWithTheRate) {
   EXPECT_EQ(model.Labels().size(), 3U);
 }
 
+TEST_F(UserConversionEditor, ACommaInTheRateThatCouldBeADecimalOneIsRefused) {
+  UserConversionModel model(store_);
+  model.New();
+  model.Take({u"inch", u"cm", u"2,54"});
+  EXPECT_EQ(Save(model), u"The comma in \"2,54\" can be read in two ways. Write 2.54 or 254.");
+  model.Take({u"inch", u"", u"2,54"});
+  EXPECT_EQ(Save(model), u"Please, Input a unit name");
+  model.Take({u"inch", u"cm", u"2.54"});
+  EXPECT_EQ(Save(model), u"");
+}
+
 TEST_F(UserConversionEditor, StoredTextsAreSplitAtTheirFirstArrow) {
   StoreConversions(store_,
                    {{"a->bc", "1"}, {"a  ->  b", "x"}, {"plain", ""}, {"a -> b -> c", "2"}});
