@@ -1,6 +1,7 @@
 #include "memory/constants_model.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "common/ascii.h"
@@ -46,12 +47,14 @@ ConstantsModel::ConstantsModel(const std::vector<std::string>& folders) {
 void ConstantsModel::SetFilter(std::u16string_view filter) {
   shown_.clear();
   const std::u16string words = WithShortUnits(filter);
+  std::array<std::vector<std::size_t>, 3> found;  // by SymbolMatch
   for (std::size_t i = 0; i < table_.size(); ++i) {
-    if (Matches(table_[i], words)) shown_.push_back(i);
+    if (!Matches(table_[i], words)) continue;
+    found[static_cast<std::size_t>(MatchSymbol(table_[i], filter))].push_back(i);
   }
-  std::stable_sort(shown_.begin(), shown_.end(), [&](std::size_t a, std::size_t b) {
-    return MatchSymbol(table_[a], filter) < MatchSymbol(table_[b], filter);
-  });
+  shown_ = std::move(found[0]);
+  for (const auto& rest : {found[1], found[2]})
+    shown_.insert(shown_.end(), rest.begin(), rest.end());
   if (!SelectedRow()) selected_.reset();
 }
 

@@ -47,6 +47,8 @@ class CellDelegate final : public QStyledItemDelegate {
     const QFontMetrics& metrics = option.fontMetrics;
     const int gap = metrics.height() / 4;
     if (index.column() != kName) return {0, metrics.height() + gap};
+    const bool isOfMany = static_cast<const QTreeView&>(*option.widget).uniformRowHeights();
+    if (isOfMany) return {0, metrics.size(0, "X\nX").height() + gap};
     const int room = RoomIn(option, index);
     const QString name = WithWordsBroken(index.data().toString(), metrics, room);
     const QRect lines(0, 0, room, kMostLines * metrics.lineSpacing());
@@ -122,6 +124,9 @@ ConstantsView::ConstantsView(ConstantsModel& model, std::function<void()> onSele
   longValues_ = LongOnes(values);
   setModel(table_);
   setRootIsDecorated(false);
+  // To measure the rows of a table of megabytes takes seconds.
+  constexpr std::size_t kMostMeasured = 5000;
+  setUniformRowHeights(model.ShownCount() > kMostMeasured);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setItemDelegate(new CellDelegate(this));
   setWordWrap(true);
