@@ -45,16 +45,15 @@ ConstantsModel::ConstantsModel(const std::vector<std::string>& folders) {
 }
 
 void ConstantsModel::SetFilter(std::u16string_view filter) {
-  shown_.clear();
   const std::u16string words = WithShortUnits(filter);
   std::array<std::vector<std::size_t>, 3> found;  // by SymbolMatch
   for (std::size_t i = 0; i < table_.size(); ++i) {
     if (!Matches(table_[i], words)) continue;
-    found[static_cast<std::size_t>(MatchSymbol(table_[i], filter))].push_back(i);
+    const auto match = words.empty() ? SymbolMatch::None : MatchSymbol(table_[i], filter);
+    found[static_cast<std::size_t>(match)].push_back(i);
   }
-  shown_ = std::move(found[0]);
-  for (const auto& rest : {found[1], found[2]})
-    shown_.insert(shown_.end(), rest.begin(), rest.end());
+  shown_.clear();
+  for (const auto& some : found) shown_.insert(shown_.end(), some.begin(), some.end());
   if (!SelectedRow()) selected_.reset();
 }
 

@@ -24,6 +24,9 @@ constexpr int kName = 0;
 constexpr int kValue = 1;
 constexpr double kMostForValues = 0.52;  // of the width
 
+/// To measure the rows of a table of megabytes takes seconds.
+constexpr std::size_t kMostMeasured = 5000;
+
 constexpr std::ptrdiff_t kAllRows = std::numeric_limits<std::ptrdiff_t>::max();
 
 /// `text` with a line break in each word that is wider than `room` pixels.
@@ -118,14 +121,12 @@ ConstantsView::ConstantsView(ConstantsModel& model, std::function<void()> onSele
     : model_(model), onSelect_(std::move(onSelect)), table_(new TableModel(this, model)) {
   setAccessibleName(ToQt(kConstantsTitle));
   QStringList values;
-  for (std::size_t row = 0; row < model.ShownCount(); ++row) {
+  for (std::size_t row = 0; row < std::min(model.ShownCount(), kMostMeasured); ++row) {
     values.append(OneLine(model.Shown(row).value));
   }
   longValues_ = LongOnes(values);
   setModel(table_);
   setRootIsDecorated(false);
-  // To measure the rows of a table of megabytes takes seconds.
-  constexpr std::size_t kMostMeasured = 5000;
   setUniformRowHeights(model.ShownCount() > kMostMeasured);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setItemDelegate(new CellDelegate(this));
