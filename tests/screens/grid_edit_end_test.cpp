@@ -86,6 +86,15 @@ TEST_F(GridEditTest, ArrowsAtTheBorderOfTheGridStayInTheText) {
   EXPECT_EQ(BoxText(), "7");
 }
 
+TEST_F(GridEditTest, ControlAndYRedoesInTheBox) {
+  Begin("12");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_NE(BoxText(), "12");
+  Key(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(BoxText(), "12");
+  EXPECT_TRUE(window_.keys.empty());
+}
+
 TEST_F(GridEditTest, EnterAfterTabsLeadsBelowTheCellWhereTheyBegan) {
   grid_.SetFocusCell({4, 1});
   for (const char* text : {"1", "2"}) {

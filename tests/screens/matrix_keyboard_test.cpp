@@ -88,6 +88,18 @@ TEST_F(MatrixKeyboardTest, ControlAndPageKeysChangeTheMatrixAndLeaveTheFocus) {
   EXPECT_EQ(Cells(), "_ _ _;_ _ 5;_ _ _") << "of [M2]";
 }
 
+TEST_F(MatrixKeyboardTest, ArrowsLeadFromTabToTab) {
+  Tabs().setFocus(Qt::TabFocusReason);
+  Key(Qt::Key_Right);
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Tab(), u"[M3]");
+  EXPECT_TRUE(Tabs().hasFocus());
+  ChooseTab(0);
+  Click(Expression(*dlg_));
+  ChooseTab(1);
+  EXPECT_TRUE(LineHasFocus()) << "a click leads back to the line";
+}
+
 TEST_F(MatrixKeyboardTest, TypedSizesAreChosenAsTheyAreTyped) {
   const auto sizeOf = [this](const QString& typed) {
     QString size;

@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QFontMetrics>
 #include <QScrollBar>
+#include <QToolButton>
 
 #include "screens/dialog_layout.h"
 #include "screens/matrix_driver.h"
@@ -26,6 +27,7 @@ TEST_F(MatrixLayoutTest, NothingIsCutOrOverlapsAtAnySize) {
   OpenLargest();
   std::vector<QSize> sizes(std::begin(kScreenSizes), std::end(kScreenSizes));
   sizes.insert(sizes.end(), std::begin(kOddSizes), std::end(kOddSizes));
+  sizes.insert(sizes.end(), {QSize(180, 280), QSize(800, 600), QSize(1280, 720)});
   for (const QSize size : sizes) {
     SCOPED_TRACE(std::to_string(size.width()) + "x" + std::to_string(size.height()));
     ResizeScreen(*dlg_, size);
@@ -37,6 +39,7 @@ TEST_F(MatrixLayoutTest, NothingIsCutOrOverlapsAtAnySize) {
       EXPECT_TRUE(Tabs().rect().contains(Tabs().tabRect(tab)));
     }
     EXPECT_GE(Tabs().height(), text.height());
+    for (const auto* arrow : Tabs().findChildren<QToolButton*>()) EXPECT_FALSE(arrow->isVisible());
   }
 }
 

@@ -102,10 +102,14 @@ bool GridEdit::event(QEvent* event) {
   if (!isShortcut && event->type() != QEvent::KeyPress) return QLineEdit::event(event);
   const auto& key = static_cast<const QKeyEvent&>(*event);
   const bool isPaste = key.matches(QKeySequence::Paste);
-  if (!isPaste && !EndsEdit(key) && !LeadsOut(key)) return QLineEdit::event(event);
+  // The box knows only the other key for it; the owner would redo a change of its own.
+  const bool isRedo = key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier;
+  if (!isPaste && !isRedo && !EndsEdit(key) && !LeadsOut(key)) return QLineEdit::event(event);
   event->accept();
   if (isShortcut) return true;
-  if (isPaste) {
+  if (isRedo) {
+    redo();
+  } else if (isPaste) {
     Paste();
   } else {
     OnEnd(key);

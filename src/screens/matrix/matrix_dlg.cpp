@@ -107,9 +107,12 @@ void CMatrixDlg::OnKey(MatrixKey key) {
 
 void CMatrixDlg::OnTab(int index) {
   if (!FinishEdit()) return ShowMatrix();
+  // Someone who goes from tab to tab by keys is not there yet.
+  const bool isByKeys = tabs_->hasFocus();
   TakeLine();
   model_.Show(index);
   Refresh();
+  if (isByKeys) tabs_->setFocus();
 }
 
 void CMatrixDlg::TakeLine() {
