@@ -80,7 +80,7 @@ std::optional<std::u16string> CellRefusal(std::u16string_view text) {
   return CommasAreNoThousands(Shortened(text, kLongestRefused));
 }
 
-std::u16string TypedCell(std::u16string text) {
+std::u16string TypedCell(const std::u16string& text) {
   return text.find(kComma) != text.npos && IsShownNumber(text) ? Cleaned(text) : text;
 }
 

@@ -52,7 +52,7 @@ std::optional<std::u16string> CellRefusal(std::u16string_view text);
 
 /// `text` as it becomes a cell that is not refused: a number without the commas between its
 /// thousands.
-std::u16string TypedCell(std::u16string text);
+std::u16string TypedCell(const std::u16string& text);
 
 /// Reads `text` as a table with room for `rows` rows and `columns` columns, 1 to kLargestMatrix.
 /// Each line is a row and ends with LF or CR LF. If the text has a TAB, TABs separate the cells,

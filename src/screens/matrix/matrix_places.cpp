@@ -18,7 +18,7 @@ constexpr double kLeastScale = 1.13;
 
 // Of a wide window, by its height: its width at least, the width of its keys, and the width from
 // which on they are as wide as in an upright one.
-constexpr double kWide = 1.1;
+constexpr double kWide = 1.33;
 constexpr double kKeys = 0.65;
 constexpr double kVeryWide = 1.6;
 constexpr double kUprightKeys = 0.75;
