@@ -69,6 +69,24 @@ TEST_F(MatrixKeyboardTest, UndoAndRedoShowTheMatrixThatTheyChange) {
   EXPECT_EQ(Cells(), "1 _ _;_ _ _;_ _ _") << "in the grid, too";
 }
 
+TEST_F(MatrixKeyboardTest, TheMenuOffersUndoAndRedoWhereThereIsSomething) {
+  const auto offered = [this] {
+    QMenu* menu = MenuOf(*dlg_, u"&Edit");
+    emit menu->aboutToShow();
+    std::string offers;
+    for (const int place : {0, 1}) offers += menu->actions()[place]->isEnabled() ? '+' : '-';
+    return offers;
+  };
+  ClickCell(1, 1);
+  EXPECT_EQ(offered(), "--");
+  TypeCells(1, 1, "1");
+  EXPECT_EQ(offered(), "+-");
+  Click(Expression(*dlg_));
+  EXPECT_EQ(offered(), "+-");
+  Undo();
+  EXPECT_EQ(offered(), "-+");
+}
+
 TEST_F(MatrixKeyboardTest, ControlAndPageKeysChangeTheMatrixAndLeaveTheFocus) {
   ClickCell(2, 3);
   Key(Qt::Key_PageDown, Qt::ControlModifier);

@@ -156,8 +156,8 @@ void CMatrixDlg::UndoOrRedo(EditCommand command) {
 }
 
 bool CMatrixDlg::CanEdit(EditCommand command) const {
-  if (command == EditCommand::Undo && model_.CanUndo()) return true;
-  if (command == EditCommand::Redo && model_.CanRedo()) return true;
+  if (command == EditCommand::Undo) return model_.CanUndo() || CanEditLine(Line(), command);
+  if (command == EditCommand::Redo) return model_.CanRedo() || CanEditLine(Line(), command);
   if (!EditsGrid()) return LineScreen::CanEdit(command);
   switch (command) {
     case EditCommand::Cut:
