@@ -12,21 +12,19 @@ namespace {
 /// 1/229, rounded as it always was: its bits decide the bits of every sample.
 constexpr double kStepFactor = 0.004366812227074236;
 
-/// The lowest number that is `integer` when truncated toward zero. Rows are compared with such
-/// numbers before they are converted, because some are too large for an integer.
-double LowestTruncatedTo(double integer) {
-  return integer > 0 ? integer : std::nextafter(integer - 1, integer);
-}
-
 double StepOf(const PlotRange& range) {
   return (range.xMax - range.xMin) * kStepFactor;
 }
 
-double SampleAt(const PlotRange& range, double step, int i) {
-  return range.xMin + static_cast<double>(i) * step;
+double SampleAt(const PlotRange& range, double step, double i) {
+  return range.xMin + i * step;
 }
 
 }  // namespace
+
+double LowestTruncatedTo(double integer) {
+  return integer > 0 ? integer : std::nextafter(integer - 1, integer);
+}
 
 /// Takes the values of the samples in turn and writes their rows into `curve`, which must outlive
 /// it.
@@ -95,7 +93,7 @@ class CurveTracer {
   Sample last_ = Sample::Failed;
 };
 
-double SampleX(const PlotRange& range, int i) {
+double SampleX(const PlotRange& range, double i) {
   return SampleAt(range, StepOf(range), i);
 }
 

@@ -21,8 +21,12 @@ struct PlotRows {
   int bottom = kSampleCount - 1;
 };
 
-/// The x of sample `i`, from 0 to kSampleCount - 1.
-double SampleX(const PlotRange& range, int i);
+/// The x of sample `i`, from 0 to kSampleCount - 1, or of a place between two samples.
+double SampleX(const PlotRange& range, double i);
+
+/// The lowest number that is `integer` when truncated toward zero. Rows are compared with such
+/// numbers before they are converted, because some are too large for an integer.
+double LowestTruncatedTo(double integer);
 
 /// The row of each sample of a curve; nullopt for a sample without a point.
 class CurveRows {

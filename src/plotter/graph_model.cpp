@@ -17,6 +17,14 @@ namespace {
 /// The part of the width or height by which a range is zoomed or moved.
 constexpr double kChangePart = 0.2;
 
+/// Into how many parts a plot of that scale divides the way from one sample to the next: shorter
+/// ones than a pixel and a half are not seen.
+int PartsOfSample(double scale) {
+  constexpr double kLarge = 2;
+  constexpr double kShortest = 1.5;
+  return scale < kLarge ? 1 : std::max(2, static_cast<int>(std::min(scale / kShortest, 100.)));
+}
+
 /// How far two bounds move, as parts of their distance.
 struct Shift {
   double lower = 0;
@@ -78,21 +86,15 @@ GraphModel::GraphModel(GraphInput input)
     : input_(std::move(input)),
       range_(input_.range),
       undo_(input_.range),
-      options_(input_.options) {
-  Sample();
+      options_(input_.options) {}
+
+CurveRows GraphModel::Rows(std::size_t index) const {
+  return SampleCurve(input_.curves[index].formula, range_, input_.angle, {area_.top, area_.bottom});
 }
 
-void GraphModel::SetArea(const PlotArea& area) {
-  if (area == area_) return;
-  area_ = area;
-  Sample();
-}
-
-void GraphModel::Sample() {
-  for (std::size_t i = 0; i < input_.curves.size(); ++i) {
-    rows_[i] =
-        SampleCurve(input_.curves[i].formula, range_, input_.angle, {area_.top, area_.bottom});
-  }
+std::vector<CurveStroke> GraphModel::Strokes(std::size_t index) const {
+  return SampleStrokes(input_.curves[index].formula, range_, input_.angle,
+                       {area_.top, area_.bottom}, PartsOfSample(area_.Scale()));
 }
 
 ChangeRefusal GraphModel::Change(RangeChange change) {
@@ -116,13 +118,11 @@ ChangeRefusal GraphModel::Take(const PlotRange& range) {
   if (const auto refusal = DrawingRefusal(range)) return refusal;
   undo_ = std::exchange(range_, range);
   canUndo_ = true;
-  Sample();
   return std::nullopt;
 }
 
-ChangeRefusal GraphModel::ZoomToBox(GraphPlace from, GraphPlace to) {
-  constexpr double kShortestDrag = 10;
-  const double shortest = kShortestDrag * area_.Scale();
+ChangeRefusal GraphModel::ZoomToBox(GraphPlace from, GraphPlace to, double pixel) {
+  const double shortest = kShortestDrag * pixel;
   const bool isBox =
       std::fabs(to.column - from.column) >= shortest && std::fabs(to.row - from.row) >= shortest;
   if (traces_ || !isBox || !IsInPlot(from)) return std::nullopt;
@@ -217,7 +217,7 @@ std::optional<GraphReading> GraphModel::Step(int columns) {
   const double at = tracedX_ ? (*tracedX_ - range_.xMin) / (range_.xMax - range_.xMin) * kLast
                              : std::floor(kLast / 2);
   const double sample = std::clamp(std::round(std::clamp(at, 0., kLast)) + columns, 0., kLast);
-  return Trace(SampleX(range_, static_cast<int>(sample)));
+  return Trace(SampleX(range_, sample));
 }
 
 std::optional<double> GraphModel::MarkerColumn() const {

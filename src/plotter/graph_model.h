@@ -1,7 +1,7 @@
 // The graph without its widgets: range, undo, zoom, moves, trace and the texts that they show.
 #pragma once
 
-#include <array>
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,6 +9,7 @@
 
 #include "common/expected.h"
 #include "plotter/curve_sampling.h"
+#include "plotter/curve_strokes.h"
 #include "plotter/graph_input.h"
 
 namespace kav {
@@ -23,6 +24,14 @@ struct PlotArea {
 
   /// The size of a pixel of a plot 230 pixels wide, in pixels of the view.
   double Scale() const { return (right - left + 1.) / kSampleCount; }
+  /// The size of letters, by that in a plot 230 pixels wide and as high as beside all controls: a
+  /// wide and low plot is not filled with them.
+  double TextScale() const {
+    constexpr double kHeight = 170;
+    return std::min(Scale(), (bottom - top + 1.) / kHeight);
+  }
+  /// Whether a curve shows more than a row of pixels for each sample.
+  bool IsLarge() const { return Scale() > 1; }
   /// Where sample `i`, from 0, is.
   double ColumnOfSample(double i) const { return left + i * (right - left) / (kSampleCount - 1); }
 
@@ -57,6 +66,9 @@ struct GraphReading {
   std::optional<int> selected;        ///< one of the lines, from 0
 };
 
+/// A drag is a box if it is at least so many pixels wide and high, however large the plot is.
+inline constexpr double kShortestDrag = 10;
+
 /// Why a change of the range is refused, as a text for the user; nullopt if it was made.
 using ChangeRefusal = std::optional<std::u16string_view>;
 
@@ -68,11 +80,13 @@ class GraphModel {
   const PlotRange& Range() const { return range_; }
   const GraphOptions& Options() const { return options_; }
 
-  /// Sets where the plot is drawn, and samples the curves for its rows.
-  void SetArea(const PlotArea& area);
+  /// Sets where the plot is drawn.
+  void SetArea(const PlotArea& area) { area_ = area; }
   const PlotArea& Area() const { return area_; }
-  /// The samples of curve `index`, from 0.
-  const CurveRows& Rows(std::size_t index) const { return rows_[index]; }
+  // The curve `index`, from 0, sampled in the range for the rows of the area; strokes are for areas
+  // that are large.
+  CurveRows Rows(std::size_t index) const;
+  std::vector<CurveStroke> Strokes(std::size_t index) const;
 
   // A change keeps the range before it for Undo; so does Undo itself. A refused one changes
   // nothing.
@@ -81,9 +95,9 @@ class GraphModel {
   /// as it is.
   ChangeRefusal Apply(const PlotRange& range, const GraphOptions& options);
   /// Zooms to the rectangle between the ends of a drag, in any direction. Does nothing while
-  /// tracing, if the drag began outside the plot, or if the rectangle is less than 10 pixels (of a
-  /// plot 230 pixels wide) wide or high.
-  ChangeRefusal ZoomToBox(GraphPlace from, GraphPlace to);
+  /// tracing, if the drag began outside the plot, or if the rectangle is less than kShortestDrag
+  /// pixels of the desktop wide or high, each of which takes `pixel` pixels of the view.
+  ChangeRefusal ZoomToBox(GraphPlace from, GraphPlace to, double pixel = 1);
   bool CanUndo() const { return canUndo_; }
 
   /// Whether taps move the trace marker.
@@ -117,7 +131,6 @@ class GraphModel {
  private:
   std::vector<std::u16string> Bounds() const;
   ChangeRefusal Take(const PlotRange& range);
-  void Sample();
   bool IsInPlot(GraphPlace place) const;
   double XAt(double column) const;
   GraphReading ReadPoint(GraphPlace place);
@@ -132,7 +145,6 @@ class GraphModel {
   PlotRange undo_;
   GraphOptions options_;
   PlotArea area_;
-  std::array<CurveRows, kMostCurves> rows_;
   int selected_ = 0;
   bool traces_ = false;
   bool canUndo_ = false;

@@ -55,7 +55,7 @@ std::optional<int> YAxisColumn(const PlotRange& range, const PlotArea& area) {
 
 /// At the right end of the axis, above it if there is room.
 GraphText XAxisText(const PlotArea& area, int row) {
-  const double scale = area.Scale();
+  const double scale = area.TextScale();
   const double above = row - kTextGap / 2 * scale;
   const bool fits = above - kAxisTextHeight * scale >= area.top;
   const double below = row + (kAxisTextHeight + kTextGap / 2) * scale;
@@ -66,7 +66,7 @@ GraphText XAxisText(const PlotArea& area, int row) {
 /// At the upper end of the axis, or at the lower end if that would overlap `other`. Right of the
 /// axis if there is room.
 GraphText YAxisText(const PlotArea& area, int column, const std::optional<GraphText>& other) {
-  const double scale = area.Scale();
+  const double scale = area.TextScale();
   const double right = column + kTextGap * scale;
   const bool fits = right + kAxisTextWidth * scale <= area.right;
   const double left = column - (kAxisTextWidth + kTextGap) * scale;
@@ -106,6 +106,18 @@ void AddStrokes(const PlotArea& area, const CurveRows& rows, GraphColour colour,
   }
 }
 
+void AddStrokes(const PlotArea& area, const std::vector<CurveStroke>& strokes, GraphColour colour,
+                GraphPicture& picture) {
+  for (const CurveStroke& stroke : strokes) {
+    GraphStroke painted{{}, colour};
+    painted.places.reserve(stroke.size());
+    for (const auto& [sample, row] : stroke) {
+      painted.places.push_back({area.ColumnOfSample(sample), row});
+    }
+    picture.emplace_back(std::move(painted));
+  }
+}
+
 void AddDots(const PlotArea& area, const CurveRows& rows, GraphColour colour,
              GraphPicture& picture) {
   for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -114,9 +126,16 @@ void AddDots(const PlotArea& area, const CurveRows& rows, GraphColour colour,
 }
 
 void AddCurves(const GraphModel& model, GraphPicture& picture) {
-  const auto add = model.Options().hasLines ? AddStrokes : AddDots;
+  const PlotArea& area = model.Area();
   for (std::size_t i = 0; i < model.Input().curves.size(); ++i) {
-    add(model.Area(), model.Rows(i), graph_colour::kCurves[i], picture);
+    const GraphColour colour = graph_colour::kCurves[i];
+    if (!model.Options().hasLines) {
+      AddDots(area, model.Rows(i), colour, picture);
+    } else if (area.IsLarge()) {
+      AddStrokes(area, model.Strokes(i), colour, picture);
+    } else {
+      AddStrokes(area, model.Rows(i), colour, picture);
+    }
   }
 }
 
@@ -140,13 +159,14 @@ void AddDiscs(const GraphModel& model, GraphPicture& picture) {
 
 void AddRangeLabels(const GraphModel& model, GraphPicture& picture) {
   const PlotArea& area = model.Area();
-  const double scale = area.Scale();
+  const double scale = area.TextScale();
   const std::vector<std::u16string> labels = model.RangeLabels();
   double row =
       area.bottom - kTextGap * scale - static_cast<double>(labels.size()) * kLineHeight * scale;
   for (const std::u16string& label : labels) {
     row += kLineHeight * scale;
-    picture.emplace_back(GraphText{{area.left + kTextGap * scale, row}, label});
+    picture.emplace_back(
+        GraphText{{area.left + kTextGap * scale, row}, label, kLineHeight * scale});
   }
 }
 

@@ -49,10 +49,11 @@ struct GraphDisc {
   double radius;
   GraphColour colour;
 };
-/// A text whose lower left corner is at `place`.
+/// A text whose lower left corner is at `place`, in letters of the size of PlotArea::TextScale.
 struct GraphText {
   GraphPlace place;
   std::u16string text;
+  double backing = 0;  ///< the height in pixels of the light box behind it; 0: none
 };
 using GraphShape = std::variant<GraphFrame, GraphRule, GraphStroke, GraphDot, GraphDisc, GraphText>;
 using GraphPicture = std::vector<GraphShape>;

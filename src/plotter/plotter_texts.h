@@ -32,8 +32,10 @@ inline std::u16string FieldTakesNumbers(std::u16string_view field, std::u16strin
 }
 inline constexpr std::u16string_view kTracedXField = u"\"X =\"";
 
-// The results list, and the least that the equation selector shows of an equation.
+// The results list.
 inline constexpr std::array<std::u16string_view, 3> kShortCurveNames{u"R:F1", u"G:F2", u"B:F3"};
+/// As much the equation selector shows at least.
+inline constexpr std::u16string_view kBeginningOfCurve = u"G:F2(x)=sin(x)";
 inline constexpr std::u16string_view kTouchedYPrefix = u"y = ";
 inline constexpr std::u16string_view kValueOutOfRange = u"Out of range";
 

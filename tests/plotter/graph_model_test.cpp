@@ -245,15 +245,16 @@ TEST(GraphModel, ADragOfLessThanTenPixelsChangesNothing) {
   }
 }
 
-TEST(GraphModel, TheTenPixelsGrowWithThePlot) {
+TEST(GraphModel, TenPixelsAreABoxInALargePlotToo) {
   GraphModel model = ModelOf({-10, 10, 0, 5});
   model.SetArea(kFourfold);
-  model.ZoomToBox({200, 200}, {239, 300});
+  model.ZoomToBox({200, 200}, {209, 300});
+  model.ZoomToBox({200, 200}, {300, 209});
   EXPECT_FALSE(model.CanUndo());
-  model.ZoomToBox({200, 200}, {240, 240});
+  model.ZoomToBox({200, 200}, {210, 240});
   EXPECT_TRUE(model.CanUndo());
   // 229 * 4 pixels are 20 and 5.
-  ExpectNear(model.Range(), {-10 + 100 * 20 / 916., -10 + 140 * 20 / 916., 5 - 190 * 5 / 916.,
+  ExpectNear(model.Range(), {-10 + 100 * 20 / 916., -10 + 110 * 20 / 916., 5 - 190 * 5 / 916.,
                              5 - 150 * 5 / 916.});
 }
 

@@ -218,10 +218,11 @@ TEST(GraphPicture, SamplesStandAtTheirColumnsInAnyArea) {
   model.SetArea({20, 10, 499, 619});
   const auto strokes = All<GraphStroke>(BuildPicture(model));
   ASSERT_EQ(strokes.size(), 1U);
-  for (std::size_t i = 0; i < 230; ++i) {
-    EXPECT_DOUBLE_EQ(strokes[0].places[i].column, 20 + static_cast<double>(i) * 479 / 229);
+  EXPECT_EQ(strokes[0].places.front().column, 20);
+  for (const GraphPlace& place : strokes[0].places) {
+    EXPECT_NEAR(place.row, 619 - (place.column - 20) * 609 / 479 - 0.5, 0.05);
   }
-  EXPECT_EQ(strokes[0].places[229].column, 499);
+  EXPECT_EQ(strokes[0].places.back().column, 499);
 }
 
 TEST(GraphPicture, AReciprocalIsTwoStrokes) {
@@ -360,6 +361,20 @@ TEST(GraphPicture, RangeLabelsStandInStepsOfFifteenPixelsAtTheBottom) {
     EXPECT_LT(texts[3].place.row, area.bottom);
     EXPECT_GT(texts[3].place.row, area.bottom - 15 * scale);
   }
+}
+
+TEST(GraphPicture, TextsFollowTheSmallerSideOfALowPlot) {
+  GraphModel model = ModelOf({"x"}, {}, {false, true, true});
+  model.SetArea({0, 0, 1259, 399});
+  const auto texts = All<GraphText>(BuildPicture(model));
+  ASSERT_EQ(texts.size(), 6U);
+  // The labels of the range are the last four.
+  EXPECT_GT(texts[2].place.row - texts[2].backing, 399 / 2);
+  for (std::size_t i = 2; i < 6; ++i) {
+    EXPECT_GT(texts[i].backing, 20);
+    EXPECT_LT(texts[i].backing, 45);
+  }
+  EXPECT_EQ(texts[0].backing, 0);
 }
 
 TEST(GraphPicture, TheMarkerIsNoPartOfThePicture) {

@@ -112,6 +112,8 @@ class GraphScreen : public testing::Test {
     ADD_FAILURE() << "the menu has no Undo";
     return false;
   }
+  /// Taps, so that the results stand below the plot as from then on.
+  void ShowResults() { TapPlot(Area().center()); }
   void Calculate(const QString& x) {
     X().setText(x);
     TapKey(u"Cal");
@@ -126,11 +128,12 @@ class GraphScreen : public testing::Test {
   double TappedX() { return X().text().remove(',').toDouble(); }
   /// The range of the plot, read by tapping its corners.
   PlotRange Range() {
-    const QRect area = Area();
     PlotRange range;
-    TapPlot(area.topLeft());
+    TapPlot(Area().topLeft());
     range.xMin = TappedX();
     range.yMax = TappedY();
+    // Only now: with the first results the plot gets lower.
+    const QRect area = Area();
     TapPlot(area.bottomRight());
     range.xMax = TappedX();
     // A tap in the lowest row shows y min plus the height of a row.
@@ -181,7 +184,12 @@ class GraphScreen : public testing::Test {
   /// The picture that "Save Graph" makes of `input`.
   QImage Saved(GraphInput input, QSize size = {240, 320}) {
     Open(
-        std::move(input), [this] { SaveTo(Path("picture.bmp")); }, size);
+        std::move(input),
+        [this] {
+          ShowResults();
+          SaveTo(Path("picture.bmp"));
+        },
+        size);
     QImage picture(Path("picture.bmp"), "BMP");
     QFile::remove(Path("picture.bmp"));
     EXPECT_FALSE(picture.isNull());

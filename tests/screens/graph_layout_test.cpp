@@ -3,6 +3,8 @@
 
 #include <QAccessible>
 #include <QMenuBar>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <string>
 #include <vector>
 
@@ -61,6 +63,12 @@ TEST_F(GraphLayoutTest, ThePlotIsAsWideAsTheWindowAndTakesMostOfIt) {
     Open(
         ThreeCurves(),
         [&, this] {
+          const int alone = Plot().height();
+          EXPECT_TRUE(Results().isHidden());
+          ShowResults();
+          EXPECT_TRUE(Results().isVisible());
+          // The plot had all of the room of the results.
+          EXPECT_GE(alone, Plot().height() + Results().height());
           EXPECT_GE(Plot().width(), size.width() * 0.97);
           EXPECT_GE(Plot().height(), size.height() * 0.55);
           const double shape = double(Plot().height()) / Plot().width();
@@ -114,6 +122,32 @@ TEST_F(GraphLayoutTest, LongEquationsDoNotWidenTheGraph) {
   });
 }
 
+TEST_F(GraphLayoutTest, TheBeginningOfTheEquationIsSeenAtEverySize) {
+  const QString label = "B:F3(X)=8*sin(60*x)+cos(30*x)";
+  GraphInput input = ThreeCurves();
+  input.curves[0].label = label.toStdU16String();
+  for (const QSize size : {QSize(240, 320), QSize(360, 560), QSize(480, 640), QSize(1080, 1440)}) {
+    SCOPED_TRACE(size.width());
+    Open(
+        input,
+        [&, this] {
+          QStyleOptionComboBox option;
+          option.initFrom(&Selector());
+          const int room = Selector()
+                               .style()
+                               ->subControlRect(QStyle::CC_ComboBox, &option,
+                                                QStyle::SC_ComboBoxEditField, &Selector())
+                               .width();
+          const QString seen = Selector().fontMetrics().elidedText(label, Qt::ElideRight, room - 1);
+          EXPECT_TRUE(seen.startsWith("B:F3(X)=8*s")) << seen.toStdString();
+          EXPECT_EQ(Selector().toolTip(), label);
+          Selector().setCurrentIndex(1);
+          EXPECT_EQ(Selector().toolTip(), "G:F2(x)=1/x");
+        },
+        size);
+  }
+}
+
 TEST_F(GraphLayoutTest, EveryPartHasAName) {
   const auto nameOf = [](QWidget& widget) {
     return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name).toStdString();
@@ -130,6 +164,7 @@ TEST_F(GraphLayoutTest, EveryPartHasAName) {
 
 TEST_F(GraphLayoutTest, TabReachesEveryControlInItsOrder) {
   Open(ThreeCurves(), [this] {
+    ShowResults();
     const std::vector<QWidget*> order{&Plot(),
                                       &Selector(),
                                       &X(),

@@ -236,6 +236,26 @@ TEST_F(GraphLookTest, ALargePlotShowsNoStaircase) {
   EXPECT_EQ(pure, right - 10 - left - 11);
 }
 
+TEST_F(GraphLookTest, AFlatLineHasNoStepsInALargePlot) {
+  const QImage image = Saved(Bare({"x/100+3"}), {1080, 1440});
+  // The row in which the weight of the stroke is in a column.
+  const auto middleOf = [&](int column) {
+    double sum = 0;
+    double weight = 0;
+    for (int row = 10; row < image.height() - 10; ++row) {
+      const QRgb pixel = image.pixel(column, row);
+      if (qRed(pixel) != 255 || qGreen(pixel) == 255) continue;
+      sum += row * (255 - qGreen(pixel));
+      weight += 255 - qGreen(pixel);
+    }
+    return sum / weight;
+  };
+  const double rise = 0.2 / 20 * image.height() / image.width();
+  for (int column = 20; column + 61 < image.width(); column += 20) {
+    EXPECT_NEAR(middleOf(column) - middleOf(column + 41), 41 * rise, 0.12) << column;
+  }
+}
+
 TEST_F(GraphLookTest, TheBranchesOfOneByXAreNotJoined) {
   const Plotted plot = PlotOf(Bare({"1/x"}));
   const int middle = plot.RowOf(0);

@@ -154,6 +154,7 @@ TEST_F(GraphReadingTest, TheMarkerIsSeenWhileTracing) {
   GraphInput input = LabelledGraphOf({"x"});
   input.range = {0, 229, 0, 229};
   Open(input, [this] {
+    ShowResults();
     const QImage plain = Picture();
     TapKey(u"Trace");
     EXPECT_EQ(Picture(), plain);

@@ -132,6 +132,7 @@ TEST_F(GraphSavingTest, ThePictureIsWhatIsSeenFromTwoPixelsLeftAndThreeAboveTheP
 
 TEST_F(GraphSavingTest, TheTraceMarkerIsNotSaved) {
   Open(LabelledGraphOf({"x"}), [this] {
+    ShowResults();
     SaveTo(Path("a.bmp"));
     TapKey(u"Trace");
     TapPlot(Area().center());

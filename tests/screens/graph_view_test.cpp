@@ -205,6 +205,7 @@ TEST_F(GraphViewTest, ADragZoomsToItsBoxInAnyDirection) {
   GraphInput input = LabelledGraphOf({"x"});
   input.range = {0, 229, 0, 1};
   Open(input, [this] {
+    ShowResults();
     const QRect area = Area();
     const QPoint a = area.topLeft() + QPoint(50, 20);
     const QPoint b = area.topLeft() + QPoint(150, 60);
@@ -232,6 +233,23 @@ TEST_F(GraphViewTest, ADragOfLessThanTenPixelsEitherWayChangesNothing) {
     Drag(from, from + QPoint(10, 10));
     EXPECT_TRUE(CanUndo());
   });
+}
+
+TEST_F(GraphViewTest, TenPixelsAreABoxAtAnySize) {
+  for (const QSize size : {QSize(360, 560), QSize(1080, 1440)}) {
+    Open(
+        LabelledGraphOf({"x"}),
+        [this] {
+          const QPoint from = Area().center();
+          Drag(from, from + QPoint(9, 50));
+          Drag(from, from + QPoint(50, -9));
+          EXPECT_FALSE(CanUndo());
+          Drag(from, from + QPoint(-10, 10));
+          EXPECT_TRUE(CanUndo());
+          EXPECT_EQ(Lines(), Texts{});
+        },
+        size);
+  }
 }
 
 TEST_F(GraphViewTest, ADragThatBeginsBesideThePlotChangesNothing) {

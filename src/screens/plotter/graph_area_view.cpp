@@ -116,7 +116,9 @@ void GraphAreaView::mouseMoveEvent(QMouseEvent* event) {
   if (!drag_) return;
   drag_->to = event->position();
   const QPointF way = drag_->to - drag_->from;
-  if (std::hypot(way.x(), way.y()) > kTapRadius * Unit()) drag_->isTap = false;
+  // What could be a box is none, however large the plot.
+  const double radius = std::min(kTapRadius * Unit(), kShortestDrag);
+  if (std::hypot(way.x(), way.y()) > radius) drag_->isTap = false;
   if (model_.Traces()) return hooks_.tap(NearestInPlot(drag_->to));
   update();
 }

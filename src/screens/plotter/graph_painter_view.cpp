@@ -18,6 +18,9 @@ constexpr double kPictureWidth = kSampleCount + 2 * kSideMargin;
 constexpr double kGraphTextHeight = 11;
 constexpr double kDescent = 2.75;
 
+/// Curves are still seen behind the labels of the range, but do not make them hard to read.
+constexpr float kBackingOpacity = 0.8F;
+
 // Lines grow more slowly than the plot: in proportion to it they would look coarse.
 constexpr double kStrokeGrowth = 0.65;
 constexpr double kRuleGrowth = 0.5;
@@ -49,7 +52,7 @@ class ShapePainter {
  public:
   ShapePainter(QPainter& painter, const PlotArea& area)
       : painter_(painter), area_(area), scale_(area.Scale()) {
-    QFont font = ScreenFont(Pixels(kGraphTextHeight * scale_));
+    QFont font = ScreenFont(Pixels(kGraphTextHeight * area.TextScale()));
     // The coloured fringes of subpixels suit one screen only, and a saved picture is shown on any.
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
     painter_.setFont(font);
@@ -113,14 +116,26 @@ class ShapePainter {
   }
 
   void operator()(const GraphText& text) {
+    if (text.backing > 0) PaintBacking(text);
     painter_.setPen(ColourOf(graph_colour::kInk));
     // Some faces have more room below the letters. With all of it the text would leave the plot at
     // the top.
-    const int descent = std::min(painter_.fontMetrics().descent(), Pixels(kDescent * scale_));
+    const int descent =
+        std::min(painter_.fontMetrics().descent(), Pixels(kDescent * area_.TextScale()));
     painter_.drawText(PixelAt(text.place) - QPoint(0, descent), ToQt(text.text));
   }
 
  private:
+  void PaintBacking(const GraphText& text) {
+    QColor paper = ColourOf(graph_colour::kPaper);
+    paper.setAlphaF(kBackingOpacity);
+    const QPoint end = PixelAt(text.place);
+    const int top = PixelAt({text.place.column, text.place.row - text.backing}).y();
+    const int free = Pixels(area_.TextScale());
+    const int width = painter_.fontMetrics().horizontalAdvance(ToQt(text.text)) + 2 * free;
+    painter_.fillRect(QRect(end.x() - free, top, width, end.y() - top), paper);
+  }
+
   int Line() const { return std::max(static_cast<int>(kRuleGrowth * scale_), 1); }
   static QPoint PixelAt(GraphPlace place) {
     return {static_cast<int>(std::lround(place.column)), static_cast<int>(std::lround(place.row))};

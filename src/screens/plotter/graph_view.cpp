@@ -48,6 +48,10 @@ constexpr const char* kOptionsKey = "Ctrl+G";
 
 constexpr int kLinesOfResults = 3;
 
+// Parts of what room there is for both.
+constexpr int kSelectorShare = 5;
+constexpr int kFieldShare = 3;
+
 /// The least height of the plot, as a part of the window's.
 constexpr double kPlotShare = 0.585;
 
@@ -75,6 +79,7 @@ class CGraphView final : public Dialog {
   void Select(int curve);
   void Tell(ChangeRefusal refusal);
   void Take(const std::optional<GraphReading>& reading);
+  void ShareHeight();
   void Refresh();
 
   void SetTextHeight(int text) override;
@@ -100,8 +105,9 @@ CGraphView::CGraphView(QWidget* parent, GraphInput input)
       model_(std::move(input)),
       area_(new GraphAreaView(model_, Hooks())) {
   for (const GraphCurve& curve : model_.Input().curves) curves_->addItem(OneLine(curve.label));
-  // However long the equations are, the selector is as wide as there is room.
-  curves_->KeepRoomFor({kShortCurveNames.begin(), kShortCurveNames.end()});
+  // However long the equations are, their beginnings are seen.
+  curves_->KeepRoomFor({kBeginningOfCurve});
+  curves_->setToolTip(curves_->currentText());
   x_->setAccessibleName(ToQt(kTracedXName));
   MakeMenu();
   LayOut();
@@ -127,9 +133,9 @@ void CGraphView::MakeMenu() {
 
 void CGraphView::LayOut() {
   auto* at = new QHBoxLayout;
-  at->addWidget(curves_, 1);
+  at->addWidget(curves_, kSelectorShare);
   at->addWidget(new QLabel(ToQt(kTracedXCaption)));
-  at->addWidget(x_, 1);
+  at->addWidget(x_, kFieldShare);
   at->addWidget(calculate_);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(trace_);
@@ -158,7 +164,9 @@ void CGraphView::Connect() {
 
 GraphAreaHooks CGraphView::Hooks() {
   return {[this](GraphPlace place) { Take(model_.Tap(place)); },
-          [this](GraphPlace from, GraphPlace to) { Tell(model_.ZoomToBox(from, to)); },
+          [this](GraphPlace from, GraphPlace to) {
+            Tell(model_.ZoomToBox(from, to, devicePixelRatioF()));
+          },
           [this](RangeChange change) { Tell(model_.Change(change)); },
           [this](int columns) { Take(model_.Step(columns)); },
           [this](int curves) { GoToCurve(curves); }};
@@ -184,6 +192,7 @@ void CGraphView::GoToCurve(int curves) {
 
 void CGraphView::Select(int curve) {
   model_.SelectCurve(curve);
+  curves_->setToolTip(curves_->currentText());
   if (reading_.selected) {
     reading_.selected = curve;
     results_->Write(reading_.lines, reading_.selected);
@@ -202,7 +211,19 @@ void CGraphView::Take(const std::optional<GraphReading>& reading) {
   x_->setText(ToQt(reading_.x));
   x_->home(false);  // the first digits matter most
   results_->Write(reading_.lines, reading_.selected);
+  ShareHeight();
   area_->MoveMarker();
+}
+
+void CGraphView::ShareHeight() {
+  const bool hasResults = !reading_.lines.empty();
+  // The letters are as large as when there are results: only the plot changes.
+  const int without = results_->minimumHeight() + body_->spacing();
+  area_->KeepHeight(qRound(height() * kPlotShare) + (hasResults ? 0 : without));
+  if (results_->isHidden() != hasResults) return;
+  results_->setVisible(hasResults);
+  // At once: the next tap may follow before the layout would be done.
+  if (isVisible()) layout()->activate();
 }
 
 void CGraphView::Refresh() {
@@ -215,12 +236,12 @@ void CGraphView::SetTextHeight(int text) {
   // The plot is as wide as possible, and the menu bar as wide as the window, as on every screen.
   layout()->setContentsMargins(0, 0, 0, 0);
   layout()->setSpacing(0);
-  area_->KeepHeight(qRound(height() * kPlotShare));
   // Not from `text`: the margin is the same in every face, however small its letters have to be.
   const int margin = TextPixels(height()) / 4;
   body_->setContentsMargins(margin, margin, margin, margin);
   const int line = results_->fontMetrics().height() + text / 6;
   results_->setFixedHeight(kLinesOfResults * line + 2 * results_->frameWidth());
+  ShareHeight();
 }
 
 void CGraphView::keyPressEvent(QKeyEvent* event) {
