@@ -5,7 +5,9 @@
 #include <QFontMetrics>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <cmath>
 
+#include "screens/plotter/range_fields_view.h"
 #include "screens/plotter_driver.h"
 #include "screens/screen_layout.h"
 
@@ -97,6 +99,36 @@ TEST_F(PlotterLayoutTest, AFieldShowsSixDigitsWithSignAndPoint) {
         field.style()->subElementRect(QStyle::SE_LineEditContents, &option, &field).width() -
         kMargins;
     EXPECT_LE(field.fontMetrics().horizontalAdvance("-123.456"), room) << size.width();
+  }
+}
+
+TEST_F(PlotterLayoutTest, ALongNumberShowsItsHeadAndItsExponent) {
+  SetText("Grapher", "X Min", "-1.23456789012e-13");
+  Open();
+  QLineEdit& field = Field("X min");
+  EXPECT_EQ(field.text(), "-1.23456789012e-13");
+  EXPECT_EQ(field.toolTip(), field.text());
+  const QFontMetrics letters = field.fontMetrics();
+  const int room = letters.horizontalAdvance("-123.456");
+  const QString seen = HeadAndExponent(field.text(), letters, room);
+  EXPECT_TRUE(seen.startsWith("-1")) << seen.toStdString();
+  EXPECT_TRUE(seen.endsWith("e-13")) << seen.toStdString();
+  EXPECT_LE(letters.horizontalAdvance(seen), room);
+  EXPECT_EQ(HeadAndExponent("-10", letters, room), "-10");
+  EXPECT_TRUE(HeadAndExponent("12345678901234", letters, room).startsWith("12345"));
+  // What is painted is not what is seen while the user types.
+  const QImage atRest = field.grab().toImage();
+  field.setFocus();
+  field.end(false);
+  EXPECT_NE(field.grab().toImage(), atRest);
+}
+
+TEST_F(PlotterLayoutTest, TheInputShowsWholeLinesOnly) {
+  for (const QSize size : kScreenSizes) {
+    ResizeScreen(*dlg_, size);
+    const double line = QFontMetricsF(Input().font()).lineSpacing();
+    const double seen = Input().viewport()->height() - 2 * Input().document()->documentMargin();
+    EXPECT_LT(seen - std::floor((seen + 0.5) / line) * line, 1.5) << size.width();
   }
 }
 

@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <algorithm>
 #include <functional>
+#include <vector>
 
 #include "screens/box_watch.h"
 #include "screens/dialog_layout.h"
@@ -147,6 +149,24 @@ TEST_F(PlotterOptionsDlgTest, WhatIsNoNumberIsRefusedAndCanBeMended) {
   });
   ASSERT_TRUE(made);
   EXPECT_EQ(made->range.yMin, 6);
+}
+
+TEST_F(PlotterOptionsDlgTest, NoPartOfItIsEmpty) {
+  for (const QSize size : kScreenSizes) {
+    ResizeScreen(screen_, size);
+    Run(kOptions, [this] {
+      std::vector<QRect> parts;
+      for (const QWidget* part : VisibleParts(*dlg_)) parts.push_back(part->geometry());
+      std::sort(parts.begin(), parts.end(),
+                [](const QRect& a, const QRect& b) { return a.top() < b.top(); });
+      int bottom = 0;
+      for (const QRect& part : parts) {
+        EXPECT_LT(part.top() - bottom, dlg_->height() / 8) << part.top();
+        bottom = std::max(bottom, part.bottom());
+      }
+      Tap(u"Cancel");
+    });
+  }
 }
 
 TEST_F(PlotterOptionsDlgTest, HasRoomForAllAtAnySize) {

@@ -1,11 +1,13 @@
 #include "screens/plotter/equation_input_view.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <algorithm>
+#include <cmath>
 
 #include "plotter/plotter_texts.h"
 #include "screens/widgets/look.h"
@@ -87,7 +89,13 @@ void EquationInputView::resizeEvent(QResizeEvent*) {
   const int text = PixelsForLine(most, (height() - 2 * outline - most / 4.0) / kLines);
   formula_->setFont(ScreenFont(text));
   formula_->document()->setDocumentMargin(text / 8.0);
-  formula_->setGeometry(rect().adjusted(outline, outline, -outline, -outline));
+  // As many lines as are seen whole: a part of a further one could not be read.
+  const QRect within = rect().adjusted(outline, outline, -outline, -outline);
+  const double margin = formula_->document()->documentMargin();
+  const double line = QFontMetricsF(formula_->font()).lineSpacing();
+  const int lines = std::max(kLines, static_cast<int>((within.height() - 2 * margin) / line));
+  const int needed = static_cast<int>(std::ceil(lines * line + 2 * margin));
+  formula_->setGeometry(within.x(), within.y(), within.width(), std::min(within.height(), needed));
 }
 
 }  // namespace kav

@@ -1,8 +1,9 @@
 #include "screens/plotter/plotter_options_dlg.h"
 
 #include <QCheckBox>
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 #include <array>
@@ -20,6 +21,7 @@ namespace {
 QCheckBox* NewBox(std::u16string_view caption, bool isOn) {
   auto* box = new QCheckBox(ToQt(caption));
   box->setChecked(isOn);
+  box->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
   return box;
 }
 
@@ -31,7 +33,7 @@ class CPlotterOptionsDlg final : public Dialog {
   const PlotterOptions& Accepted() const { return accepted_; }
 
  private:
-  QLayout* NewFields();
+  QGridLayout* NewFields();
   QLayout* NewButtons();
   RangeTexts Typed() const;
   void OnAccept();
@@ -52,19 +54,27 @@ CPlotterOptionsDlg::CPlotterOptionsDlg(QWidget* parent, const PlotterOptions& op
       line_(NewBox(kLineCaption, model_.Options().hasLines)),
       coordinates_(NewBox(kCoordinatesCaption, model_.Options().hasCoordinates)) {
   auto* all = new QVBoxLayout(this);
-  all->addLayout(NewFields());
-  for (QCheckBox* box : {grid_, line_, coordinates_}) all->addWidget(box);
-  all->addStretch(1);
+  // The rows share the height, so that no part of the dialog is empty.
+  QGridLayout* rows = NewFields();
+  for (QCheckBox* box : {grid_, line_, coordinates_})
+    rows->addWidget(box, rows->rowCount(), 0, 1, 2);
+  for (int row = 0; row < rows->rowCount(); ++row) rows->setRowStretch(row, 1);
+  all->addLayout(rows, 1);
   all->addLayout(NewButtons());
 }
 
-QLayout* CPlotterOptionsDlg::NewFields() {
-  auto* rows = new QFormLayout;
+QGridLayout* CPlotterOptionsDlg::NewFields() {
+  auto* rows = new QGridLayout;
   for (const RangeField field : kRangeFields) {
     const QString caption = ToQt(CaptionOf(field));
     auto* edit = new QLineEdit(ToQt(model_.Fields()[IndexOf(field)]));
     edit->setAccessibleName(caption);
-    rows->addRow(caption, edit);
+    auto* label = new QLabel(caption);
+    label->setBuddy(edit);
+    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    const int row = static_cast<int>(IndexOf(field));
+    rows->addWidget(label, row, 0);
+    rows->addWidget(edit, row, 1);
     fields_[IndexOf(field)] = edit;
   }
   return rows;

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionFrame>
@@ -22,14 +23,46 @@ constexpr double kFieldTextHeight = 0.55;
 constexpr double kTextWidth = 0.97;
 /// The room that a field keeps beside its text, in pixels.
 constexpr int kBesideText = 3;
+/// What every field keeps free of its text at either side, in pixels.
+constexpr int kTextMargin = 2;
+
+/// A field that shows where a number begins and its exponent while nobody types in it.
+class RangeEdit final : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ private:
+  void paintEvent(QPaintEvent* event) override {
+    QStyleOptionFrame frame;
+    initStyleOption(&frame);
+    const QRect room = style()
+                           ->subElementRect(QStyle::SE_LineEditContents, &frame, this)
+                           .adjusted(kTextMargin, 0, -kTextMargin, 0);
+    if (hasFocus() || fontMetrics().horizontalAdvance(text()) <= room.width()) {
+      return QLineEdit::paintEvent(event);
+    }
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, this);
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                     HeadAndExponent(text(), fontMetrics(), room.width()));
+  }
+};
 
 }  // namespace
+
+QString HeadAndExponent(const QString& number, const QFontMetrics& letters, int width) {
+  const qsizetype exponent = number.lastIndexOf('e', -1, Qt::CaseInsensitive);
+  const QString end = exponent < 0 ? QString() : number.mid(exponent);
+  const int room = width - letters.horizontalAdvance(end);
+  return letters.elidedText(number.chopped(end.size()), Qt::ElideRight, room) + end;
+}
 
 RangeFieldsView::RangeFieldsView(QWidget* screen,
                                  const std::function<void(RangeField, std::u16string)>& onEdited) {
   for (const RangeField field : kRangeFields) {
     const QString caption = ToQt(CaptionOf(field));
-    auto* edit = new QLineEdit(screen);
+    auto* edit = new RangeEdit(screen);
     edit->setStyle(ScreenStyle());
     edit->setAccessibleName(caption);
     edit->setInputMethodHints(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText);
@@ -50,6 +83,7 @@ void RangeFieldsView::Show(const RangeTexts& texts) {
     const QSignalBlocker blocker(&Of(field));
     Of(field).setText(text);
     Of(field).home(false);
+    Of(field).setToolTip(text);
   }
 }
 

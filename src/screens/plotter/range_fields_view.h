@@ -1,6 +1,8 @@
 // The four fields of the plot range as widgets.
 #pragma once
 
+#include <QFontMetrics>
+#include <QString>
 #include <array>
 #include <functional>
 #include <string>
@@ -13,6 +15,10 @@ class QLineEdit;
 class QWidget;
 
 namespace kav {
+
+/// `number` as far as it has room in `width` pixels: with dots for its last digits, but with its
+/// exponent.
+QString HeadAndExponent(const QString& number, const QFontMetrics& letters, int width);
 
 /// The fields and their captions. The widgets are children of the screen.
 class RangeFieldsView {
