@@ -69,6 +69,7 @@ RangeFieldsView::RangeFieldsView(QWidget* screen,
     QObject::connect(edit, &QLineEdit::textChanged, edit, [onEdited, field](const QString& text) {
       onEdited(field, text.toStdU16String());
     });
+    QObject::connect(edit, &QLineEdit::textChanged, edit, &QWidget::setToolTip);
     captions_[IndexOf(field)] = new QLabel(caption, screen);
     fields_[IndexOf(field)] = edit;
   }
