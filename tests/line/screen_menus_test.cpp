@@ -19,7 +19,7 @@ TEST(ScreenMenus, EntriesThatAreNotThereAreNotOffered) {
   MemorySettingsStore store;
   store.Set(SettingKey<std::int32_t>{"History", "CalHistoryCount", 0}, 500);
   EXPECT_EQ(BuildHistoryMenu(History::Load(store, kCalculatorHistory)), Menu{});
-  store.Set(SettingKey<std::string>{"History", "CalHistory3", ""}, "1+1");
+  store.Set(SettingKey<std::string_view>{"History", "CalHistory3", ""}, "1+1");
   EXPECT_EQ(BuildHistoryMenu(History::Load(store, kCalculatorHistory)), (Menu{{3, u"1+1"}}));
 }
 

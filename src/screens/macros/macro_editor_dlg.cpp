@@ -24,8 +24,9 @@ class CMacroEditorDlg final : public StoredListDlg<MacroEditorModel, MacroFields
   void OnMemory();
   void OnFunctions();
   void OnVariables();
-  /// A menu of `items`; `choose` is told the chosen one by its index.
-  QMenu* MenuOf(const PopUpTexts& items, void (MacroEditorModel::*choose)(std::size_t));
+  /// A menu of `items`, called `name`; `choose` is told the chosen one by its index.
+  QMenu* MenuOf(std::u16string_view name, const PopUpTexts& items,
+                void (MacroEditorModel::*choose)(std::size_t));
 
   SettingsStore& store_;
 };
@@ -48,21 +49,22 @@ void CMacroEditorDlg::OnMemory() {
 
 void CMacroEditorDlg::OnFunctions() {
   constexpr MenuPlace kPlace{110, 138, MenuSide::Left};
-  PopUpAt(*MenuOf(MacroEditorModel::FunctionItems(), &MacroEditorModel::ChooseFunction), *this,
-          kPlace);
+  QMenu* menu = MenuOf(kFunctionsButton, MacroEditorModel::FunctionItems(),
+                       &MacroEditorModel::ChooseFunction);
+  PopUpAt(*menu, *this, kPlace);
 }
 
 void CMacroEditorDlg::OnVariables() {
   TakeFields();
   const DialogButton& button = ButtonOf(EditorButton::Variables);
-  MenuOf(Editor().VariableItems(), &MacroEditorModel::ChooseVariable)
+  MenuOf(kVariablesButton, Editor().VariableItems(), &MacroEditorModel::ChooseVariable)
       ->popup(button.mapToGlobal(QPoint(0, button.height())));
 }
 
-QMenu* CMacroEditorDlg::MenuOf(const PopUpTexts& items,
+QMenu* CMacroEditorDlg::MenuOf(std::u16string_view name, const PopUpTexts& items,
                                void (MacroEditorModel::*choose)(std::size_t)) {
   QMenu* menu = MakePopUp();
-  menu->setAccessibleName(ButtonOf(under).text());
+  menu->setAccessibleName(ToQt(name));
   for (std::size_t i = 0; i < items.size(); ++i) {
     if (items[i].empty()) {
       menu->addSeparator();
