@@ -35,7 +35,7 @@ inline constexpr std::u16string_view kTracedXField = u"\"X =\"";
 // The results list.
 inline constexpr std::array<std::u16string_view, 3> kShortCurveNames{u"R:F1", u"G:F2", u"B:F3"};
 /// As much the equation selector shows at least.
-inline constexpr std::u16string_view kBeginningOfCurve = u"G:F2(x)=sin";
+inline constexpr std::u16string_view kBeginningOfCurve = u"G:F2(X)=8*\u2026";
 inline constexpr std::u16string_view kTouchedYPrefix = u"y = ";
 inline constexpr std::u16string_view kValueOutOfRange = u"Out of range";
 
