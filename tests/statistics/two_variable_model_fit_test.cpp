@@ -196,8 +196,7 @@ TEST_F(TwoVariableFit, PlotTellsWhenDataDoNotSpread) {
 TEST_F(TwoVariableFit, PlotTellsWhenTheModelHasNoCurve) {
   Fill({{u"0", u"1"}, {u"1", u"2"}});
   model_->Choose(StatisticsKey::Model, 2);
-  EXPECT_EQ(Told(Press(u"Plot")),
-            u"The model \"Power : A*X^B\" has no curve for these data.");
+  EXPECT_EQ(Told(Press(u"Plot")), u"The model \"Power : A*X^B\" has no curve for these data.");
 }
 
 TEST_F(TwoVariableFit, PlotIsThatOfTheChosenModel) {
