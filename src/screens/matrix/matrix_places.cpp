@@ -80,7 +80,7 @@ MatrixPlaces WidePlaces(const QRect& body) {
   places.grid = left.adjusted(0, tabs, 0, -3 * unit);
   places.scale = body.height() * kUprightKeys / kScreenPixels;
   const QRect clearPlace(left.right() + 1 - clear, top, clear, tabs - std::max(1, unit / 2));
-  places.keys = [keyUnits, clearPlace, firstKeys](const QRect& spot) {
+  places.keys = [keyUnits, clearPlace](const QRect& spot) {
     if (spot.y() == kMatrixTabsPlace.y) return clearPlace;
     return keyUnits.Pixels(WithoutGrid(spot).translated(0, -firstKeys));
   };

@@ -85,7 +85,6 @@ class DataTableView::Cells final : public QAbstractTableModel {
 DataTableView::DataTableView(QWidget* parent, const DataList& list,
                              std::span<const DataColumn> columns)
     : RowTable(parent),
-      list_(list),
       columns_(columns.begin(), columns.end()),
       cells_(new Cells(this, list, columns)) {
   MakeHeadings();

@@ -72,7 +72,6 @@ class DataTableView final : public RowTable {
   void WithoutScrolling(const std::function<void()>& select);
   bool DoCommand(const QKeyEvent& event);
 
-  const DataList& list_;
   std::vector<DataColumn> columns_;
   Cells* cells_;
   DataTableHooks hooks_;
