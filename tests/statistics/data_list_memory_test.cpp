@@ -1,6 +1,5 @@
 // The memory that a list takes, and what it does if there is none.
 #include <gtest/gtest.h>
-#include <malloc.h>
 
 #include <array>
 #include <cstdint>
@@ -17,64 +16,16 @@
 #include "statistics/data_list.h"
 #include "statistics/pasted_rows.h"
 #include "statistics/statistics_model.h"
+#include "support/counted_memory.h"
 #include "support/effort.h"
 #include "support/temporary_folder.h"
-
-namespace {
-
-constexpr std::size_t kUnlimited = std::numeric_limits<std::size_t>::max();
-
-// Counts what this program takes by new.
-std::size_t taken = 0;
-std::size_t mostTaken = 0;
-std::size_t allowed = kUnlimited;
-
-void* Take(std::size_t size) {
-  if (size > allowed || taken > allowed - size) throw std::bad_alloc();
-  void* const block = std::malloc(size);
-  if (block == nullptr) throw std::bad_alloc();
-  taken += malloc_usable_size(block);
-  mostTaken = std::max(mostTaken, taken);
-  return block;
-}
-
-void Give(void* block) {
-  taken -= block == nullptr ? 0 : malloc_usable_size(block);
-  std::free(block);
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  return Take(size);
-}
-void* operator new[](std::size_t size) {
-  return Take(size);
-}
-void operator delete(void* block) noexcept {
-  Give(block);
-}
-void operator delete[](void* block) noexcept {
-  Give(block);
-}
-void operator delete(void* block, std::size_t) noexcept {
-  Give(block);
-}
-void operator delete[](void* block, std::size_t) noexcept {
-  Give(block);
-}
 
 namespace kav::data_list_memory_test {
 namespace {
 
-/// Leaves only `more` bytes to take while it lives.
-class Shortage {
- public:
-  explicit Shortage(std::size_t more) { allowed = taken + more; }
-  ~Shortage() { allowed = kUnlimited; }
-  Shortage(const Shortage&) = delete;
-  Shortage& operator=(const Shortage&) = delete;
-};
+using test::mostTaken;
+using test::Shortage;
+using test::taken;
 
 DataList ListOf(std::int64_t rows) {
   DataList list(DataShape::OneVariable);

@@ -1,6 +1,5 @@
 // The user's settings when the system runs out of what it takes to keep them.
 #include <gtest/gtest.h>
-#include <malloc.h>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -17,49 +16,8 @@
 #include "store/settings_texts.h"
 #include "store/suffering.h"
 #include "store/user_settings_store.h"
+#include "support/counted_memory.h"
 #include "support/temporary_folder.h"
-
-namespace {
-
-constexpr std::size_t kUnlimited = std::numeric_limits<std::size_t>::max();
-
-// Counts what this program takes by new.
-std::size_t taken = 0;
-std::size_t allowed = kUnlimited;
-
-void* Take(std::size_t size) {
-  if (size > allowed || taken > allowed - size) throw std::bad_alloc();
-  void* const block = std::malloc(size);
-  if (block == nullptr) throw std::bad_alloc();
-  taken += malloc_usable_size(block);
-  return block;
-}
-
-void Give(void* block) {
-  taken -= block == nullptr ? 0 : malloc_usable_size(block);
-  std::free(block);
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  return Take(size);
-}
-void* operator new[](std::size_t size) {
-  return Take(size);
-}
-void operator delete(void* block) noexcept {
-  Give(block);
-}
-void operator delete[](void* block) noexcept {
-  Give(block);
-}
-void operator delete(void* block, std::size_t) noexcept {
-  Give(block);
-}
-void operator delete[](void* block, std::size_t) noexcept {
-  Give(block);
-}
 
 namespace kav::settings_limits_test {
 namespace {
@@ -73,12 +31,7 @@ class SettingsLimits : public testing::Test {
   const std::string path = folder.File("settings.toml");
 };
 
-/// While it lives, the program may take so many bytes more than it has.
-class Memory {
- public:
-  explicit Memory(std::size_t most) { allowed = taken + most; }
-  ~Memory() { allowed = kUnlimited; }
-};
+using test::Shortage;
 
 constexpr std::size_t kStep = 8 * 1024;
 
@@ -98,7 +51,7 @@ TEST_F(SettingsLimits, WithoutTheMemoryToReadThemTheUserIsTold) {
   for (std::size_t most = kStep; !isRead; most += kStep) {
     UserSettingsStore store(path);
     {
-      const Memory memory(most);
+      const Shortage shortage(most);
       isRead = store.Get(kNumber) == 5;
     }
     if (isRead) break;
@@ -122,7 +75,7 @@ TEST_F(SettingsLimits, WithoutTheMemoryToSaveThemTheFileStaysAndTheUserIsTold) {
   int failures = 0;
   for (std::size_t most = kStep; !isSaved; most += kStep) {
     {
-      const Memory memory(most);
+      const Shortage shortage(most);
       isSaved = store.Save();
       store.Refresh();
     }

@@ -52,7 +52,7 @@ QString Cut(const QFontMetrics& metrics, std::u16string_view text, int room) {
   const int digit = std::max(1, metrics.horizontalAdvance(u'0'));
   // A point is narrower than a digit.
   for (int length = room / digit + 2; length > 0; --length) {
-    const QString shown =
+    QString shown =
         QString::fromStdU16String(NumberInRoom(*number, static_cast<std::size_t>(length)));
     if (shown.isEmpty()) break;
     if (metrics.horizontalAdvance(shown) <= room) return shown;
@@ -63,7 +63,7 @@ QString Cut(const QFontMetrics& metrics, std::u16string_view text, int room) {
 
 QString Fitting(const QFontMetrics& metrics, std::u16string_view text, int room) {
   if (text.size() <= static_cast<std::size_t>(room)) {
-    const QString all = QString::fromStdU16String(OnOneLine(std::u16string(text)));
+    QString all = QString::fromStdU16String(OnOneLine(std::u16string(text)));
     if (metrics.horizontalAdvance(all) <= room) return all;
   }
   return Cut(metrics, text, room);

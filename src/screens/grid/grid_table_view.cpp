@@ -87,7 +87,9 @@ GridTable::GridTable(QWidget* parent, std::pmr::memory_resource* memory)
   corner_->setAutoFillBackground(true);
   corner_->hide();
   QTableView::setModel(shape_);
-  SetScale(1, kUsualTextPixels);
+  TakeLetters(kUsualTextPixels);
+  PlaceLines();
+  GridTable::updateGeometries();
 }
 
 // The cells.
@@ -160,24 +162,32 @@ int GridTable::FittingWidth(int column) const {
 
 void GridTable::SetScale(double scale, int textPixels) {
   scale_ = std::clamp(scale, kSmallestScale, kLargestScale);
-  setFont(ScreenFont(textPixels));
+  TakeLetters(textPixels);
+  ArrangeLines();
+}
+
+void GridTable::TakeLetters(int pixels) {
+  setFont(ScreenFont(pixels));
   for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()}) {
     bar->setFont(font());
     bar->updateGeometry();
     bar->setSingleStep(RowHeight());
   }
-  ArrangeLines();
 }
 
 void GridTable::ArrangeLines() {
+  PlaceLines();
+  updateGeometries();
+  Repaint();
+}
+
+void GridTable::PlaceLines() {
   const auto left = [this](int column) { return Left(column); };
   const auto top = [this](int row) { return Top(row); };
   Arrange(*horizontalHeader(), model_.FixedColumnCount(), left);
   Arrange(*verticalHeader(), model_.FixedRowCount(), top);
   verticalHeader()->setFixedWidth(Left(model_.FixedColumnCount()));
   horizontalHeader()->setFixedHeight(Top(model_.FixedRowCount()));
-  updateGeometries();
-  Repaint();
 }
 
 void GridTable::updateGeometries() {

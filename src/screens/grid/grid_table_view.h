@@ -89,7 +89,11 @@ class GridTable : public QTableView {
   bool viewportEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   bool Reshape(bool (GridModel::*set)(int), int old, int count);
+  /// Gives all parts letters so many pixels high.
+  void TakeLetters(int pixels);
   void ArrangeLines();
+  /// Gives rows, columns and headers their places, as ArrangeLines does before it shows them.
+  void PlaceLines();
   int RowHeight() const { return std::max(1, qRound(GridModel::kDefaultHeight * scale_)); }
   // The edge before a line, as if nothing were scrolled.
   int Left(int column) const { return qRound(model_.Left(column) * scale_); }
