@@ -24,6 +24,20 @@ bool IsReddish(QRgb pixel) {
   return qRed(pixel) > qGreen(pixel) + 20 && qRed(pixel) > qBlue(pixel) + 20;
 }
 
+/// The row of the middle of the red stroke in a column: each pixel is weighted by the covered part
+/// of it.
+double MiddleOf(const QImage& image, int column) {
+  double sum = 0;
+  double weight = 0;
+  for (int row = 0; row < image.height(); ++row) {
+    const QRgb pixel = image.pixel(column, row);
+    if (qRed(pixel) != 255 || qGreen(pixel) == 255) continue;
+    sum += row * (255 - qGreen(pixel));
+    weight += 255 - qGreen(pixel);
+  }
+  return sum / weight;
+}
+
 /// A saved picture of a plot 230 pixels wide, with its samples in pixel columns.
 struct Plotted {
   QImage image;
@@ -201,23 +215,11 @@ TEST_F(GraphLookTest, ALargePlotShowsNoStaircase) {
   const double scale = image.width() / 234.;
   const int left = qRound(2 * scale);
   const int right = image.width() - 1 - left;
-  // The middle of the stroke in a column: each pixel is weighted by the covered part of it.
-  const auto middleOf = [&](int column) {
-    double sum = 0;
-    double weight = 0;
-    for (int row = 0; row < image.height(); ++row) {
-      const QRgb pixel = image.pixel(column, row);
-      if (qRed(pixel) != 255 || qGreen(pixel) == 255) continue;
-      sum += row * (255 - qGreen(pixel));
-      weight += 255 - qGreen(pixel);
-    }
-    return sum / weight;
-  };
   int pure = 0;
-  double before = middleOf(left + 10);
+  double before = MiddleOf(image, left + 10);
   const double slope = (image.height() - 1 - 2 * qRound(3 * scale)) / double(right - left);
   for (int column = left + 11; column < right - 10; ++column) {
-    const double middle = middleOf(column);
+    const double middle = MiddleOf(image, column);
     const double fromAxis = std::fabs(column - (left + right) / 2.);
     if (fromAxis > 10) {
       ASSERT_GT(before - middle, 0) << column;
@@ -238,21 +240,9 @@ TEST_F(GraphLookTest, ALargePlotShowsNoStaircase) {
 
 TEST_F(GraphLookTest, AFlatLineHasNoStepsInALargePlot) {
   const QImage image = Saved(Bare({"x/100+3"}), {1080, 1440});
-  // The row in which the weight of the stroke is in a column.
-  const auto middleOf = [&](int column) {
-    double sum = 0;
-    double weight = 0;
-    for (int row = 10; row < image.height() - 10; ++row) {
-      const QRgb pixel = image.pixel(column, row);
-      if (qRed(pixel) != 255 || qGreen(pixel) == 255) continue;
-      sum += row * (255 - qGreen(pixel));
-      weight += 255 - qGreen(pixel);
-    }
-    return sum / weight;
-  };
   const double rise = 0.2 / 20 * image.height() / image.width();
   for (int column = 20; column + 61 < image.width(); column += 20) {
-    EXPECT_NEAR(middleOf(column) - middleOf(column + 41), 41 * rise, 0.12) << column;
+    EXPECT_NEAR(MiddleOf(image, column) - MiddleOf(image, column + 41), 41 * rise, 0.12) << column;
   }
 }
 
