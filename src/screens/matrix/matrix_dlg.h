@@ -1,17 +1,13 @@
 // The matrix screen: the widgets that show its model.
 #pragma once
 
-#include <QHelpEvent>
-#include <array>
 #include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "matrix/matrix_model.h"
-#include "screens/grid/grid_ctrl.h"
-#include "screens/matrix/matrix_places.h"
+#include "screens/matrix/matrix_grid_view.h"
 #include "screens/widgets/line_screen.h"
 
 class QTabBar;
@@ -29,9 +25,6 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   bool MayLeave(LeaveReason reason) override;
 
  private:
-  /// The grid's header row and column stand before the cells of the matrix.
-  static constexpr int kHeaders = 1;
-
   void OnKey(MatrixKey key) override;
   void OnEquals() override { OnKey(MatrixKey::Equals); }
   void OnClear() override { OnKey(MatrixKey::Clear); }
@@ -40,37 +33,25 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   void Refresh() override;
   QRect Area() const override;
   void LayOut(const DialogUnits& units) override;
-  void ScaleGrid();
+  void ShowMatrix();
 
   // What a key asks for.
   using KeyScreenOf::Do;
   void CarryOut(const MatrixRequest& request) override;
-  void OnYes(MatrixKey) override { ClearCells(); }
+  void OnYes(MatrixKey) override { grid_.ClearCells(); }
   void Do(const AskMatrixSize& request);
   void Do(const AskSaveFile& request);
   void Do(const AskLoadFile& request);
   void Do(const AutofitColumns& request);
   void Tell(const std::optional<std::u16string>& failure);
 
-  // The grid.
-  void MakeGrid();
-  void ShowMatrix();
-  void RebuildGrid();
-  GridContent ContentOf(GridCell cell) const;
-  void WriteWidths();
-  void TakeWidths();
-  std::optional<CellRange> SelectedCells() const;
-  bool ShowHint(const QHelpEvent& event);
+  void BeginCellEdit(int row, int column);
 
   // The Edit menu and its keys work on the grid while that has the focus.
   bool EditsGrid() const;
   void Edit(EditCommand command) override;
   bool CanEdit(EditCommand command) const override;
   bool OnGridKey(const QKeyEvent& event);
-  void CopyCells() const;
-  void CutCells();
-  void PasteCells();
-  void ClearCells();
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
@@ -79,27 +60,13 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   void UndoOrRedo(EditCommand command);
   void ShowNeighbour(int step);
 
-  // What was typed into a cell and is refused.
-  struct RefusedEdit {
-    GridCell cell;
-    QString text;
-    std::u16string why;
-  };
-  bool FinishEdit();
-  void TellRefusedEdit();
-
   MatrixModel model_;
-  MatrixPlaces places_;
-  /// The widths that columns got to fit their texts; 0 for others.
-  std::array<ColumnWidths, kMatrixCount> fitted_{};
   QTabBar* tabs_;
-  CGridCtrl* grid_;
+  MatrixGridView grid_;
   bool editsGrid_ = false;       ///< the grid had the focus later than the line
   bool isLineNewer_ = false;     ///< the line was edited later than a matrix
   std::size_t seenChanges_ = 0;  ///< of the matrices
   bool undoneLine_ = false;      ///< the last undo was one of the line
-  std::optional<RefusedEdit> refused_;
-  std::optional<int> inGrid_;  ///< the matrix that the grid was built for
 };
 
 /// The matrix screen as the frame's table of screens has it.

@@ -1,16 +1,9 @@
 // How the matrix screen is edited: its keys and the Edit menu, in the line and in the grid.
-#include <QApplication>
-#include <QClipboard>
 #include <QKeyEvent>
 #include <array>
 #include <optional>
-#include <string>
-#include <utility>
 
-#include "matrix/cell_table_text.h"
 #include "screens/matrix/matrix_dlg.h"
-#include "screens/widgets/comma_question.h"
-#include "screens/widgets/message_box.h"
 
 namespace kav {
 namespace {
@@ -25,28 +18,15 @@ std::optional<EditCommand> UndoCommandOf(const QKeyEvent& event) {
 
 }  // namespace
 
-/// Ends an edit that is going on; whether its text was taken.
-bool CMatrixDlg::FinishEdit() {
-  grid_->FinishEdit();
-  return !refused_;
-}
-
-void CMatrixDlg::TellRefusedEdit() {
-  if (!refused_) return;
-  const RefusedEdit refused = *std::exchange(refused_, std::nullopt);
-  ShowStop(this, refused.why);
-  grid_->EditCell(refused.cell, refused.text);
-}
-
 /// Shows the matrix beside the shown one, if there is one, and leaves the focus where it is.
 void CMatrixDlg::ShowNeighbour(int step) {
   const int index = model_.Shown() + step;
-  if (index < 0 || index >= kMatrixCount || !FinishEdit()) return;
-  const GridCell focus = grid_->Focus();
+  if (index < 0 || index >= kMatrixCount || !grid_.FinishEdit()) return;
+  const GridCell focus = grid_.Grid().Focus();
   TakeLine();
   model_.Show(index);
   ShowMatrix();
-  if (!focus.IsNone()) grid_->SetFocusCell(focus);
+  if (!focus.IsNone()) grid_.Grid().SetFocusCell(focus);
 }
 
 void CMatrixDlg::keyPressEvent(QKeyEvent* event) {
@@ -69,12 +49,12 @@ bool CMatrixDlg::eventFilter(QObject* watched, QEvent* event) {
       }
     }
   }
-  if (watched == grid_) {
+  if (watched == &grid_.Grid()) {
     if (event->type() == QEvent::FocusIn) {
       editsGrid_ = true;
       Result().deselect();
     }
-    if (event->type() == QEvent::ToolTip) return ShowHint(*static_cast<QHelpEvent*>(event));
+    if (event->type() == QEvent::ToolTip) return grid_.ShowHint(*static_cast<QHelpEvent*>(event));
     return event->type() == QEvent::KeyPress && OnGridKey(*static_cast<QKeyEvent*>(event));
   }
   return LineScreen::eventFilter(watched, event);
@@ -101,7 +81,7 @@ bool CMatrixDlg::OnGridKey(const QKeyEvent& event) {
     return true;
   }
   if (event.key() != Qt::Key_Delete && event.key() != Qt::Key_Backspace) return false;
-  ClearCells();
+  grid_.ClearCells();
   ShowMatrix();
   return true;
 }
@@ -113,24 +93,8 @@ bool CMatrixDlg::EditsGrid() const {
 void CMatrixDlg::Edit(EditCommand command) {
   if (command == EditCommand::Undo || command == EditCommand::Redo) return UndoOrRedo(command);
   if (!EditsGrid()) return LineScreen::Edit(command);
-  if (!FinishEdit()) return;
-  switch (command) {
-    case EditCommand::Cut:
-      CutCells();
-      break;
-    case EditCommand::Copy:
-      CopyCells();
-      break;
-    case EditCommand::Paste:
-      PasteCells();
-      break;
-    case EditCommand::SelectAll:
-      grid_->SetFocusCell({kHeaders, kHeaders});
-      grid_->SelectTo({grid_->Model().RowCount() - 1, grid_->Model().ColumnCount() - 1});
-      break;
-    default:
-      break;
-  }
+  if (!grid_.FinishEdit()) return;
+  grid_.Edit(command);
   ShowMatrix();
 }
 
@@ -142,7 +106,7 @@ bool CMatrixDlg::UndoesLine(EditCommand command) const {
 }
 
 void CMatrixDlg::UndoOrRedo(EditCommand command) {
-  if (!FinishEdit()) return;
+  if (!grid_.FinishEdit()) return;
   const bool undoesLine = UndoesLine(command);
   if (undoesLine) {
     EditLine(Line(), command);
@@ -158,42 +122,7 @@ void CMatrixDlg::UndoOrRedo(EditCommand command) {
 bool CMatrixDlg::CanEdit(EditCommand command) const {
   if (command == EditCommand::Undo) return model_.CanUndo() || CanEditLine(Line(), command);
   if (command == EditCommand::Redo) return model_.CanRedo() || CanEditLine(Line(), command);
-  if (!EditsGrid()) return LineScreen::CanEdit(command);
-  switch (command) {
-    case EditCommand::Cut:
-    case EditCommand::Copy:
-      return SelectedCells().has_value();
-    default:
-      return true;
-  }
-}
-
-void CMatrixDlg::CopyCells() const {
-  const auto cells = SelectedCells();
-  if (!cells) return;
-  QApplication::clipboard()->setText(QString::fromStdU16String(model_.CopyCells(*cells)));
-}
-
-void CMatrixDlg::CutCells() {
-  const auto cells = SelectedCells();
-  if (!cells) return;
-  QApplication::clipboard()->setText(QString::fromStdU16String(model_.CutCells(*cells)));
-}
-
-void CMatrixDlg::PasteCells() {
-  std::u16string text = QApplication::clipboard()->text().toStdU16String();
-  if (const auto question = QuestionOfCells(text)) {
-    const auto meaning = AskForCommas(this, *question);
-    if (!meaning) return;
-    text = CellsWithCommas(text, *meaning);
-  }
-  const auto told = model_.PasteInto(SelectedCells().value_or(CellRange{}), text);
-  ShowMatrix();
-  if (told) ShowNotice(this, *told);
-}
-
-void CMatrixDlg::ClearCells() {
-  if (const auto cells = SelectedCells()) model_.ClearCells(*cells);
+  return EditsGrid() ? grid_.CanEdit(command) : LineScreen::CanEdit(command);
 }
 
 }  // namespace kav

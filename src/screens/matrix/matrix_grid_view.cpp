@@ -1,0 +1,249 @@
+#include "screens/matrix/matrix_grid_view.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QTimer>
+#include <QToolTip>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "matrix/cell_table_text.h"
+#include "matrix/matrix_texts.h"
+#include "screens/grid/grid_access_view.h"
+#include "screens/widgets/comma_question.h"
+#include "screens/widgets/look.h"
+#include "screens/widgets/message_box.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+/// The height of the grid's letters at scale 1.
+constexpr double kCellText = 11.5;
+
+CGridCtrl* NewGrid(QWidget* parent) {
+  OfferGridsToScreenReaders();
+  return new CGridCtrl(parent);
+}
+
+}  // namespace
+
+MatrixGridView::MatrixGridView(QWidget* parent, MatrixModel& model, MatrixGridHooks hooks)
+    : model_(model), hooks_(std::move(hooks)), grid_(NewGrid(parent)) {
+  grid_->setStyle(ScreenStyle());
+  grid_->setAccessibleName(ToQt(kMatrixGridName));
+  SetHooks();
+  grid_->SetSource([this](GridCell cell) { return ContentOf(cell); });
+}
+
+MatrixGridView::~MatrixGridView() {
+  // The grid outlives the model: an edit that only its end would finish finds nobody to tell.
+  grid_->SetHooks({});
+  grid_->SetSource({});
+}
+
+void MatrixGridView::SetHooks() {
+  GridHooks hooks;
+  hooks.beginEdit = [this](int row, int column) {
+    hooks_.beginEdit(row - kHeaders, column - kHeaders);
+  };
+  hooks.endEdit = [this](int row, int column, const QString& text) {
+    TypeCell({row, column}, text);
+  };
+  hooks.pasteBlock = [this] { PasteCells(); };
+  hooks.columnResized = [this](int column, int width) { TakeWidth(column, width); };
+  grid_->SetHooks(std::move(hooks));
+}
+
+void MatrixGridView::TypeCell(GridCell cell, const QString& text) {
+  auto why = model_.TypeCell(cell.row - kHeaders, cell.column - kHeaders, text.toStdU16String());
+  hooks_.changed();
+  if (!why) return;
+  refused_ = RefusedEdit{cell, text, *std::move(why)};
+  // Not before the key or the click that ended the edit has done its work.
+  QTimer::singleShot(0, grid_, [this] { TellRefusedEdit(); });
+}
+
+void MatrixGridView::TellRefusedEdit() {
+  if (!refused_) return;
+  const RefusedEdit refused = *std::exchange(refused_, std::nullopt);
+  ShowStop(grid_->parentWidget(), refused.why);
+  grid_->EditCell(refused.cell, refused.text);
+}
+
+bool MatrixGridView::FinishEdit() {
+  grid_->FinishEdit();
+  return !refused_;
+}
+
+void MatrixGridView::Show() {
+  const MatrixValue& matrix = model_.ShownMatrix();
+  const GridModel& shown = grid_->Model();
+  if (inGrid_ != model_.Shown() || shown.RowCount() != matrix.rows + kHeaders ||
+      shown.ColumnCount() != matrix.columns + kHeaders) {
+    Rebuild();
+    WriteWidths();
+    Scale();
+  }
+  WriteWidths();
+  grid_->viewport()->update();
+}
+
+void MatrixGridView::Rebuild() {
+  const MatrixValue& matrix = model_.ShownMatrix();
+  inGrid_.reset();
+  grid_->ResetSelectedRange();
+  // If there is no memory for it, the old grid stays, and the next refresh tries again.
+  if (!grid_->SetFixedRowCount(0) || !grid_->SetFixedColumnCount(0) ||
+      !grid_->SetRowCount(matrix.rows + kHeaders) ||
+      !grid_->SetColumnCount(matrix.columns + kHeaders) || !grid_->SetFixedRowCount(kHeaders) ||
+      !grid_->SetFixedColumnCount(kHeaders)) {
+    return;
+  }
+  const auto header = [this](int row, int column, int number) {
+    const std::u16string text = QString::number(number).toStdU16String();
+    grid_->SetItem(
+        {row, column, GridItem::kText | GridItem::kFormat, text, {GridAlignment::Centre, false}});
+  };
+  for (int row = 0; row < matrix.rows; ++row) header(row + kHeaders, 0, row + 1);
+  for (int column = 0; column < matrix.columns; ++column) header(0, column + kHeaders, column + 1);
+  inGrid_ = model_.Shown();
+}
+
+GridContent MatrixGridView::ContentOf(GridCell cell) const {
+  const int row = cell.row - kHeaders;
+  const int column = cell.column - kHeaders;
+  const GridAlignment alignment =
+      model_.Alignment() == CellAlignment::Left ? GridAlignment::Left : GridAlignment::Right;
+  return {model_.ShownMatrix().At(row, column), {alignment, model_.IsMarked(row, column)}};
+}
+
+void MatrixGridView::WriteWidths() {
+  for (int column = 0; column < grid_->Model().ColumnCount(); ++column) {
+    grid_->SetColumnWidth(column, model_.Widths()[static_cast<std::size_t>(column)]);
+  }
+}
+
+void MatrixGridView::TakeWidths() {
+  ColumnWidths widths = model_.Widths();
+  for (int column = 0; column < grid_->Model().ColumnCount(); ++column) {
+    widths[static_cast<std::size_t>(column)] = grid_->GetColumnWidth(column);
+  }
+  model_.SetColumnWidths(widths);
+}
+
+/// The user gave a column a width.
+void MatrixGridView::TakeWidth(int column, int width) {
+  TakeWidths();
+  const bool isFitted = width == grid_->FittingWidth(column);
+  Fitted()[static_cast<std::size_t>(column)] = isFitted ? width : 0;
+}
+
+ColumnWidths& MatrixGridView::Fitted() {
+  return fitted_[static_cast<std::size_t>(model_.Shown())];
+}
+
+void MatrixGridView::LayOut(const MatrixPlaces& places) {
+  places_ = places;
+  grid_->setGeometry(places_.grid);
+  Scale();
+}
+
+/// Columns that were fitted to their texts are so at any scale.
+void MatrixGridView::Scale() {
+  const MatrixValue& matrix = model_.ShownMatrix();
+  const double scale = FittingScale(places_, matrix.rows, matrix.columns, model_.NewColumnWidth());
+  if (scale != grid_->Scale()) grid_->SetScale(scale, qRound(kCellText * scale));
+  for (int column = 0; column < grid_->Model().ColumnCount(); ++column) {
+    const int width = model_.Widths()[static_cast<std::size_t>(column)];
+    int& kept = Fitted()[static_cast<std::size_t>(column)];
+    // Another width was given to it since.
+    if (kept != width) kept = 0;
+    if (kept != 0) grid_->SetColumnWidth(column, kept = grid_->FittingWidth(column));
+  }
+  TakeWidths();
+}
+
+void MatrixGridView::FitColumns() {
+  grid_->AutoSizeColumns();
+  TakeWidths();
+  Fitted() = model_.Widths();
+}
+
+bool MatrixGridView::ShowHint(const QHelpEvent& event) {
+  const GridCell cell = grid_->CellAt(event.pos());
+  if (cell.IsNone() || grid_->Model().IsFixed(cell)) return false;
+  const std::u16string hint = model_.CellHint(cell.row - kHeaders, cell.column - kHeaders);
+  QToolTip::showText(event.globalPos(), QString::fromStdU16String(hint), grid_,
+                     grid_->CellArea(cell));
+  return true;
+}
+
+void MatrixGridView::Edit(EditCommand command) {
+  switch (command) {
+    case EditCommand::Cut:
+      return CutCells();
+    case EditCommand::Copy:
+      return CopyCells();
+    case EditCommand::Paste:
+      return PasteCells();
+    case EditCommand::SelectAll:
+      return SelectAll();
+    default:
+      return;
+  }
+}
+
+bool MatrixGridView::CanEdit(EditCommand command) const {
+  switch (command) {
+    case EditCommand::Cut:
+    case EditCommand::Copy:
+      return SelectedCells().has_value();
+    default:
+      return true;
+  }
+}
+
+std::optional<CellRange> MatrixGridView::SelectedCells() const {
+  const GridRange range = grid_->Selection();
+  if (range.IsNone()) return std::nullopt;
+  return CellRange{range.top - kHeaders, range.left - kHeaders, range.bottom - kHeaders,
+                   range.right - kHeaders};
+}
+
+void MatrixGridView::CopyCells() const {
+  const auto cells = SelectedCells();
+  if (!cells) return;
+  QApplication::clipboard()->setText(QString::fromStdU16String(model_.CopyCells(*cells)));
+}
+
+void MatrixGridView::CutCells() {
+  const auto cells = SelectedCells();
+  if (!cells) return;
+  QApplication::clipboard()->setText(QString::fromStdU16String(model_.CutCells(*cells)));
+}
+
+void MatrixGridView::PasteCells() {
+  std::u16string text = QApplication::clipboard()->text().toStdU16String();
+  if (const auto question = QuestionOfCells(text)) {
+    const auto meaning = AskForCommas(grid_->parentWidget(), *question);
+    if (!meaning) return;
+    text = CellsWithCommas(text, *meaning);
+  }
+  const auto told = model_.PasteInto(SelectedCells().value_or(CellRange{}), text);
+  hooks_.changed();
+  if (told) ShowNotice(grid_->parentWidget(), *told);
+}
+
+void MatrixGridView::ClearCells() {
+  if (const auto cells = SelectedCells()) model_.ClearCells(*cells);
+}
+
+void MatrixGridView::SelectAll() {
+  grid_->SetFocusCell({kHeaders, kHeaders});
+  grid_->SelectTo({grid_->Model().RowCount() - 1, grid_->Model().ColumnCount() - 1});
+}
+
+}  // namespace kav
