@@ -9,9 +9,8 @@
 #include <vector>
 
 #include "settings/keys.h"
-#include "store/user_settings_store.h"
+#include "settings/settings_store.h"
 #include "support/stored_conversions.h"
-#include "support/temporary_folder.h"
 #include "support/unit_places.h"
 
 namespace kav::converter_model_test {
@@ -393,17 +392,6 @@ TEST_F(ConverterModelTest, ConversionsThatTheUserWroteMeanwhileAreListed) {
   EXPECT_EQ(PlacesOf(model.Positions()), (Places{kUserDefined, 0, -1}));
   EXPECT_EQ(model.Inputs(), Texts{u"dozen -> piece"});
   EXPECT_EQ(model.Result(), u"24");
-}
-
-TEST(ConverterModel, ListsWhatAnotherProgramStoredBeforeItOpened) {
-  const TemporaryFolder folder;
-  UserSettingsStore own(folder.File("settings.toml"));
-  UserSettingsStore other(folder.File("settings.toml"));
-  ASSERT_TRUE(SaveConversion({u"a", u"b", u"2"}, std::nullopt, own));
-  ASSERT_TRUE(SaveConversion({u"c", u"d", u"3"}, std::nullopt, other));
-  const ConverterModel model(own, u"1", {kUserDefined, 1, -1});
-  EXPECT_EQ(model.Inputs(), (Texts{u"a -> b", u"c -> d"}));
-  EXPECT_EQ(model.Result(), u"3");
 }
 
 }  // namespace

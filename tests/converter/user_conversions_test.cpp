@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "common/number_text.h"
+#include "converter/converter_model.h"
 #include "store/user_settings_store.h"
 #include "support/stored_conversions.h"
 #include "support/temporary_folder.h"
@@ -380,6 +381,14 @@ TEST_F(UserConversionsOfTwo, RemovingFindsWhatTheOtherAdded) {
   ASSERT_TRUE(SaveConversion({u"c", u"d", u"2"}, std::nullopt, other_));
   EXPECT_TRUE(RemoveConversion({0, "a -> b"}, one_));
   EXPECT_EQ(StoredConversions(UserSettingsStore(path_)), (Conversions{{"c -> d", "2.000000"}}));
+}
+
+TEST_F(UserConversionsOfTwo, TheConverterListsBothWhenItOpens) {
+  ASSERT_TRUE(SaveConversion({u"a", u"b", u"2"}, std::nullopt, one_));
+  ASSERT_TRUE(SaveConversion({u"c", u"d", u"3"}, std::nullopt, other_));
+  const ConverterModel model(one_, u"1", {14, 1, -1});
+  EXPECT_EQ(model.Inputs(), (std::vector<std::u16string>{u"a -> b", u"c -> d"}));
+  EXPECT_EQ(model.Result(), u"3");
 }
 
 }  // namespace

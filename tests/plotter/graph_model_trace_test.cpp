@@ -3,9 +3,11 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "plotter/graph_model.h"
+#include "plotter/graph_picture.h"
 #include "support/graph_inputs.h"
 
 namespace kav::graph_model_trace_test {
@@ -343,6 +345,45 @@ TEST(GraphModelTrace, AMarkerCanBeSteppedWhereTheDisplayShowsNoDifference) {
   for (int i = 1; i < kSampleCount; ++i) {
     ASSERT_EQ(ColumnAfterStep(model, 1), ColumnOfSample(model, i));
   }
+}
+
+/// The shapes of that kind.
+template <class Shape>
+std::vector<Shape> ShapesOf(const GraphPicture& picture) {
+  std::vector<Shape> shapes;
+  for (const GraphShape& shape : picture) {
+    if (const auto* found = std::get_if<Shape>(&shape)) shapes.push_back(*found);
+  }
+  return shapes;
+}
+
+TEST(GraphModelTrace, TheMarkerIsNoPartOfThePicture) {
+  GraphModel model = PixelModel();
+  const std::size_t shapes = BuildPicture(model).size();
+  model.SetTraces(true);
+  EXPECT_TRUE(BuildMarker(model).empty());
+  model.Tap({50, 50});
+  EXPECT_EQ(BuildPicture(model).size(), shapes);
+  EXPECT_FALSE(BuildMarker(model).empty());
+  model.SetTraces(false);
+  EXPECT_TRUE(BuildMarker(model).empty());
+}
+
+TEST(GraphModelTrace, TheMarkerIsACrossWithADiscOnTheCurve) {
+  GraphModel model = PixelModel({"x", "x+500"});
+  model.SetTraces(true);
+  model.Tap({50, 10});
+  const GraphPicture marker = BuildMarker(model);
+  const auto discs = ShapesOf<GraphDisc>(marker);
+  ASSERT_EQ(discs.size(), 1U);
+  EXPECT_EQ(discs[0].place.column, 50);
+  EXPECT_EQ(discs[0].place.row, 179);
+  EXPECT_EQ(ShapesOf<GraphStroke>(marker).size(), 2U);
+  model.SelectCurve(1);
+  EXPECT_TRUE(ShapesOf<GraphDisc>(BuildMarker(model)).empty());
+  const auto strokes = ShapesOf<GraphStroke>(BuildMarker(model));
+  ASSERT_EQ(strokes.size(), 1U);
+  for (const GraphPlace& place : strokes[0].places) EXPECT_EQ(place.column, 50);
 }
 
 }  // namespace

@@ -366,34 +366,5 @@ TEST(GraphPicture, RangeLabelsStandInStepsOfFifteenPixelsAtTheBottom) {
     EXPECT_TRUE(text.backing > 20 && text.backing < 45 && text.place.row - text.backing > 200);
 }
 
-TEST(GraphPicture, TheMarkerIsNoPartOfThePicture) {
-  GraphModel model = ModelOf({"x"}, {0, 229, 0, 229});
-  const std::size_t shapes = BuildPicture(model).size();
-  model.SetTraces(true);
-  EXPECT_TRUE(BuildMarker(model).empty());
-  model.Tap({50, 50});
-  EXPECT_EQ(BuildPicture(model).size(), shapes);
-  EXPECT_FALSE(BuildMarker(model).empty());
-  model.SetTraces(false);
-  EXPECT_TRUE(BuildMarker(model).empty());
-}
-
-TEST(GraphPicture, TheMarkerIsACrossWithADiscOnTheCurve) {
-  GraphModel model = ModelOf({"x", "x+500"}, {0, 229, 0, 229});
-  model.SetTraces(true);
-  model.Tap({50, 10});
-  const GraphPicture marker = BuildMarker(model);
-  const auto discs = All<GraphDisc>(marker);
-  ASSERT_EQ(discs.size(), 1U);
-  EXPECT_EQ(discs[0].place.column, 50);
-  EXPECT_EQ(discs[0].place.row, 179);
-  EXPECT_EQ(All<GraphStroke>(marker).size(), 2U);
-  model.SelectCurve(1);
-  EXPECT_TRUE(All<GraphDisc>(BuildMarker(model)).empty());
-  const auto strokes = All<GraphStroke>(BuildMarker(model));
-  ASSERT_EQ(strokes.size(), 1U);
-  for (const GraphPlace& place : strokes[0].places) EXPECT_EQ(place.column, 50);
-}
-
 }  // namespace
 }  // namespace kav::graph_picture_test
