@@ -202,22 +202,6 @@ TEST_F(DataTableTest, TheLargestCountHasRoomInSmallerLetters) {
   EXPECT_LT(cell.font.pixelSize(), 12);
 }
 
-TEST_F(DataTableTest, ANumberTooLongKeepsItsFirstDigitsAndItsExponent) {
-  const QFontMetrics letters(ScreenFont(12));
-  const auto shown = [&letters](const char* number, const char* room) {
-    const QString text = ElidedNumber(number, letters, letters.horizontalAdvance(room));
-    EXPECT_LE(letters.horizontalAdvance(text), letters.horizontalAdvance(room));
-    return text.toStdString();
-  };
-  EXPECT_EQ(shown("-1.25e-300", "-1.25e-300"), "-1.25e-300");
-  const std::string cut = shown("-1.2345678901234567e-300", "-1.23456e-300");
-  EXPECT_TRUE(cut.starts_with("-1.2")) << cut;
-  EXPECT_TRUE(cut.ends_with("\u2026e-300")) << cut;
-  const std::string whole = shown("12345678901234567890", "1234567890");
-  EXPECT_TRUE(whole.starts_with("12345") && whole.ends_with("\u2026")) << whole;
-  EXPECT_TRUE(shown("1.5e-300", "e-30").ends_with("\u2026"));
-}
-
 TEST_F(DataTableTest, RowsGrowWithTheText) {
   AppendMany(10);
   DataTableView& table = Open();

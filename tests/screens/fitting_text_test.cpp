@@ -6,8 +6,11 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
+#include <string>
 
+#include "screens/statistics/number_delegate_view.h"
 #include "screens/widgets/fitting_number.h"
+#include "screens/widgets/look.h"
 
 namespace kav::test::fitting_text_test {
 namespace {
@@ -86,6 +89,22 @@ TEST(FittingTextTest, AWiderPlaceGivesTheLettersTheirSizeBack) {
   label.resize(400, 40);
   EXPECT_LT(small, 20);
   EXPECT_EQ(label.font().pixelSize(), 20);
+}
+
+TEST(FittingTextTest, ANumberTooLongKeepsItsFirstDigitsAndItsExponent) {
+  const QFontMetrics letters(ScreenFont(12));
+  const auto shown = [&letters](const char* number, const char* room) {
+    const QString text = ElidedNumber(number, letters, letters.horizontalAdvance(room));
+    EXPECT_LE(letters.horizontalAdvance(text), letters.horizontalAdvance(room));
+    return text.toStdString();
+  };
+  EXPECT_EQ(shown("-1.25e-300", "-1.25e-300"), "-1.25e-300");
+  const std::string cut = shown("-1.2345678901234567e-300", "-1.23456e-300");
+  EXPECT_TRUE(cut.starts_with("-1.2")) << cut;
+  EXPECT_TRUE(cut.ends_with("\u2026e-300")) << cut;
+  const std::string whole = shown("12345678901234567890", "1234567890");
+  EXPECT_TRUE(whole.starts_with("12345") && whole.ends_with("\u2026")) << whole;
+  EXPECT_TRUE(shown("1.5e-300", "e-30").ends_with("\u2026"));
 }
 
 }  // namespace

@@ -375,17 +375,5 @@ TEST_F(GraphLookTest, LabelsOfTheRangeStandNearTheBottomWithCoordinatesOnly) {
   EXPECT_LT(rows.back(), labelled.Bottom());
 }
 
-TEST_F(GraphLookTest, LettersHaveNoColouredFringes) {
-  GraphInput input = Bare({"0*x+20"}, {1, 2, 1, 2});
-  input.options.hasCoordinates = true;
-  const Plotted plot = PlotOf(input);
-  for (int row = 0; row < plot.image.height(); ++row) {
-    for (int column = 0; column < plot.image.width(); ++column) {
-      const QRgb pixel = plot.At(column, row);
-      ASSERT_TRUE(qRed(pixel) == qGreen(pixel) && qGreen(pixel) == qBlue(pixel));
-    }
-  }
-}
-
 }  // namespace
 }  // namespace kav::test::graph_look_test

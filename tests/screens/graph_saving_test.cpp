@@ -264,5 +264,18 @@ TEST_F(GraphSavingTest, NothingIsWrittenIntoAFolderThatMayNotBeWritten) {
   chmod(folder_.path().toLocal8Bit().constData(), 0700);
 }
 
+TEST_F(GraphSavingTest, LettersHaveNoColouredFringes) {
+  GraphInput input = LabelledGraphOf({"0*x+20"});
+  input.range = {1, 2, 1, 2};
+  input.options = {false, true, true};
+  const QImage image = Saved(input);
+  for (int row = 0; row < image.height(); ++row) {
+    for (int column = 0; column < image.width(); ++column) {
+      const QRgb pixel = image.pixel(column, row);
+      ASSERT_TRUE(qRed(pixel) == qGreen(pixel) && qGreen(pixel) == qBlue(pixel));
+    }
+  }
+}
+
 }  // namespace
 }  // namespace kav::test::graph_saving_test
