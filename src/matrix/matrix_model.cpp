@@ -24,6 +24,12 @@ namespace {
 constexpr std::array kReadOnly{kMatrixDisplayType, kMatrixPrecision,   kMatrixRows,  kMatrixColumns,
                                kMatrixAlignment,   kMatrixColumnWidth, kDisplayType, kPrecision};
 
+/// For a matrix that no line can take and no file keep. The cell to mend is named if one is empty.
+TellStop TellInvalid(const Matrices& matrices, int index) {
+  const auto cell = FirstEmptyCell(matrices[static_cast<std::size_t>(index)]);
+  return {MatrixIsInvalid(index), cell ? CellIsEmpty(cell->row, cell->column) : std::u16string()};
+}
+
 }  // namespace
 
 MatrixModel::MatrixModel(SettingsStore& store)
@@ -128,7 +134,8 @@ MatrixRequest MatrixModel::EvaluateMatrix(std::u16string_view text) {
   history_.Add(std::u16string(text));
   // A number of an earlier line would look like a part of this one's answer.
   resultText_.clear();
-  if (const auto invalid = FirstInvalidMatrix(text, AllMatrices())) return TellInvalid(*invalid);
+  const auto invalid = FirstInvalidMatrix(text, AllMatrices());
+  if (invalid) return TellInvalid(AllMatrices(), *invalid);
   auto result = MatrixEvaluator(AllMatrices(), files_).Evaluate(Narrow(text));
   // Before the answer replaces a matrix that the line names.
   std::u16string news = notes_.NewsOf(text, AllMatrices(), settings_.matrix);
@@ -139,11 +146,6 @@ MatrixRequest MatrixModel::EvaluateMatrix(std::u16string_view text) {
   board_.TakeAnswer(*std::move(result));
   if (news.empty()) return Nothing{};
   return TellNotice{std::move(news)};
-}
-
-TellStop MatrixModel::TellInvalid(int index) const {
-  const auto cell = FirstEmptyCell(AllMatrices()[static_cast<std::size_t>(index)]);
-  return {MatrixIsInvalid(index), cell ? CellIsEmpty(cell->row, cell->column) : std::u16string()};
 }
 
 void MatrixModel::ShowAnswer() {
@@ -228,7 +230,7 @@ MatrixRequest MatrixModel::ChooseMatrixTool(int id) {
       board_.Paste();
       break;
     case matrix_tools_item::kSave:
-      if (HasEmptyCell(ShownMatrix())) return TellInvalid(Shown());
+      if (HasEmptyCell(ShownMatrix())) return TellInvalid(AllMatrices(), Shown());
       return AskSaveFile{};
     case matrix_tools_item::kLoad:
       return AskLoadFile{};

@@ -1,7 +1,6 @@
 // The matrix screen without its pixels: matrices, line, keys, menus, clipboard, history, settings.
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -117,8 +116,6 @@ class MatrixModel {
   std::optional<std::u16string> PasteInto(const CellRange& cells, std::u16string_view text) {
     return board_.PasteInto(cells, text);
   }
-  /// Grows with every change of a matrix, be it by an undo.
-  std::size_t ChangeCount() const { return board_.ChangeCount(); }
   bool CanUndo() const { return board_.CanUndo(); }
   bool CanRedo() const { return board_.CanRedo(); }
   /// Both also show the matrix that changes.
@@ -134,7 +131,6 @@ class MatrixModel {
   MatrixRequest Evaluate();
   void EvaluateNumber(std::u16string_view text);
   MatrixRequest EvaluateMatrix(std::u16string_view text);
-  TellStop TellInvalid(int index) const;
   void ShowAnswer();
   MatrixRequest Insert(double value);
   MatrixRequest ChooseTool(int id);

@@ -1,5 +1,9 @@
 #include "statistics/data_list.h"
 
+#if __has_include(<malloc.h>)
+#include <malloc.h>
+#endif
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -213,6 +217,20 @@ void DataList::SortBy(std::size_t column, Before before) {
 void DataList::Sort(std::size_t column, Direction direction) {
   if (direction == Direction::Ascending) return SortBy(column, std::less<>());
   SortBy(column, std::greater<>());
+}
+
+void DropRows(DataList& list) {
+  // Rows whose memory is worth the time to give it back.
+  constexpr std::size_t kLongList = 50'000;
+  const bool wasLong = list.RowCount() >= kLongList;
+  list = DataList(list.Shape());
+  if (wasLong) GiveFreedMemoryBack();
+}
+
+void GiveFreedMemoryBack() {
+#ifdef __GLIBC__
+  malloc_trim(0);
+#endif
 }
 
 }  // namespace kav

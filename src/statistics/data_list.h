@@ -184,6 +184,12 @@ class DataList {
   TextArena texts_;
 };
 
+/// Empties `list`. The memory of a long one goes back to the machine.
+void DropRows(DataList& list);
+
+/// Hands the machine what was freed, which the allocator would keep for rows to come.
+void GiveFreedMemoryBack();
+
 /// What rows were sorted by: a column as DataList::Sort numbers them.
 struct DataSorting {
   std::size_t column;

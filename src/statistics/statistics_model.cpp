@@ -1,9 +1,5 @@
 #include "statistics/statistics_model.h"
 
-#if __has_include(<malloc.h>)
-#include <malloc.h>
-#endif
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -23,16 +19,6 @@ namespace {
 
 /// A single row has no spread to show.
 constexpr std::size_t kRowsForResults = 2;
-
-/// Rows whose memory is worth the time to give it back.
-constexpr std::size_t kLongList = 50'000;
-
-/// The allocator would keep the memory of a long list for rows to come.
-void GiveFreedMemoryBack() {
-#ifdef __GLIBC__
-  malloc_trim(0);
-#endif
-}
 
 /// A number as lists, fields and memory variables hold it.
 std::u16string PlainText(double value, DisplayFormat format) {
@@ -78,10 +64,6 @@ void StatisticsModel::Select(std::optional<std::size_t> row) {
   if (row == selected_ && !row) return;
   selected_ = row;
   enabled_.ofSelection = row.has_value();
-}
-
-std::u16string StatisticsModel::TotalText() const {
-  return IntegerText(list_.Total());
 }
 
 std::u16string_view StatisticsModel::Caption(StatisticsKey key) const {
@@ -236,19 +218,9 @@ void StatisticsModel::ClearRows() {
   if (!IsEditing()) TakeRows(DataList(Shape()));
 }
 
-StatisticsModel::~StatisticsModel() {
-  DropRows();
-}
-
-void StatisticsModel::DropRows() {
-  const bool wasLong = list_.RowCount() >= kLongList;
-  list_ = DataList(Shape());
-  if (wasLong) GiveFreedMemoryBack();
-}
-
 /// Makes `rows` the list, which then needs no saving.
 void StatisticsModel::TakeRows(DataList rows) {
-  DropRows();
+  DropRows(list_);
   list_ = std::move(rows);
   selected_.reset();
   const std::size_t complete = list_.CompleteRowCount();
@@ -259,12 +231,8 @@ void StatisticsModel::TakeRows(DataList rows) {
 
 Menu StatisticsModel::MenuOf(StatisticsKey key) const {
   if (key != StatisticsKey::MemoryMenu) return {};
-  return BuildVariablesMenu(CanStoreResult() ? LastResult::CanBeStored
-                                             : LastResult::CannotBeStored);
-}
-
-bool StatisticsModel::CanStoreResult() const {
-  return static_cast<bool>(FormatNumber(lastResult_, format_));
+  return BuildVariablesMenu(FormatNumber(lastResult_, format_) ? LastResult::CanBeStored
+                                                               : LastResult::CannotBeStored);
 }
 
 StatisticsRequest StatisticsModel::Choose(StatisticsKey key, int id) {
@@ -349,10 +317,7 @@ std::optional<std::u16string> StatisticsModel::PasteRows(std::u16string_view tex
   if (const auto refusal = list_.InsertTop(pasted->rows)) return WhyRowsDoNotFit(*refusal);
   EnableGrown(before);
   if (list_.RowCount() != before) MarkChanged();
-  if (list_.RowCount() - before >= kLongList) {
-    pasted->rows = DataList(Shape());
-    GiveFreedMemoryBack();
-  }
+  DropRows(pasted->rows);
   if (pasted->complaint.empty()) return std::nullopt;
   return std::move(pasted->complaint);
 }

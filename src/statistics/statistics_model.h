@@ -15,6 +15,7 @@
 #include "statistics/data_list.h"
 #include "statistics/statistics_keypad.h"
 #include "statistics/statistics_request.h"
+#include "statistics/statistics_texts.h"
 #include "statistics/work_progress.h"
 
 namespace kav {
@@ -27,7 +28,7 @@ class StatisticsModel {
   StatisticsModel(DataShape shape, SettingsStore& store);
   StatisticsModel(const StatisticsModel&) = delete;
   StatisticsModel& operator=(const StatisticsModel&) = delete;
-  virtual ~StatisticsModel();
+  virtual ~StatisticsModel() { DropRows(list_); }
 
   const DataList& List() const { return list_; }
   DataShape Shape() const { return list_.Shape(); }
@@ -45,7 +46,7 @@ class StatisticsModel {
   std::optional<std::size_t> Selected() const { return selected_; }
 
   const std::u16string& ResultText() const { return resultText_; }
-  std::u16string TotalText() const;
+  std::u16string TotalText() const { return IntegerText(list_.Total()); }
   bool IsEditing() const { return edited_.has_value(); }
 
   // The buttons.
@@ -110,10 +111,8 @@ class StatisticsModel {
   void EndEdit();
   StatisticsRequest AskDelete() const;
   void TakeRows(DataList rows);
-  void DropRows();
   void EnableGrown(std::size_t before);
   void MarkChanged();
-  bool CanStoreResult() const;
 
   SettingsStore& store_;
   DisplayFormat format_;

@@ -90,8 +90,8 @@ void CMatrixDlg::Refresh() {
 }
 
 void CMatrixDlg::ShowMatrix() {
-  if (model_.ChangeCount() != seenChanges_) isLineNewer_ = false;
-  seenChanges_ = model_.ChangeCount();
+  if (model_.Board().ChangeCount() != seenChanges_) isLineNewer_ = false;
+  seenChanges_ = model_.Board().ChangeCount();
   Result().Show(model_.ResultText());
   RefreshKeys();
   {
