@@ -9,7 +9,8 @@
 
 # The name that a line defines; none where it only defines a member of a class.
 function name_in(line) {
-  sub(/ *([[(={;].*| final .*|: .*)/, "", line)
+  while (gsub(/<[^<>]*>/, "", line)) continue
+  sub(/ *([[(={;].*| final( .*)?$|: .*)/, "", line)
   if (line ~ /::[A-Za-z0-9_]*$/) return ""
   sub(/.*[^A-Za-z0-9_]/, "", line)
   return line
@@ -25,7 +26,8 @@ function read_source(source,    line, inside, list, count, i) {
     sub(/\/\/.*/, "", line)
     count = split(line, list, /[^A-Za-z0-9_]+/)
     for (i = 1; i <= count; ++i) words[list[i]]
-    if (inside && line ~ /^[A-Za-z]/ && line !~ /^(namespace|template)/) names[name_in(line)]
+    if (inside && line ~ /^[A-Za-z]/ && line !~ /^(namespace|template|static_assert)/)
+      names[name_in(line)]
   }
   close(source)
   delete names[""]
@@ -67,7 +69,7 @@ function path_of(unit) {
   return sprintf("%s/unit_%02d.cpp", folder, unit)
 }
 
-BEGIN { most = 32 }
+BEGIN { most = 40 }
 
 /^ *"directory": / { directory = $0 }
 
