@@ -37,8 +37,7 @@ inline std::u16string SettingsCannotBeRead(std::string_view path, FileError erro
 inline std::u16string SettingsWereUnread(std::string_view path) {
   return u"The settings in " + ShownName(path) +
          u" could be read only now, and what was changed without them is saved there. As they "
-         u"were, "
-         u"they are kept beside them with \".damaged\" after the name.";
+         u"were, they are kept beside them with \".damaged\" after the name.";
 }
 
 inline std::u16string SettingsCannotBeSaved(std::string_view path, FileError error) {
