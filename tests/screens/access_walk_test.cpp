@@ -121,18 +121,7 @@ QStringList ReadableOf(QAccessibleInterface& part) {
   return texts;
 }
 
-class AccessWalkTest : public EveryWindow {
- protected:
-  void VisitAll(const Visit& visit) {
-    for (const auto& windows : {Screens(), Dialogs(), Boxes(), FileDialogs()}) {
-      for (const Window& window : windows) {
-        SCOPED_TRACE(window.name);
-        Renew();
-        window.show([&](QWidget& shown) { visit(shown); });
-      }
-    }
-  }
-};
+class AccessWalkTest : public EveryWindow {};
 
 /// What a screen reader says of a control that has no name.
 std::string Described(QAccessibleInterface& part) {

@@ -54,6 +54,17 @@ class EveryWindow : public testing::Test {
     frame_->others = {{ScreenMode::Matrix, u"Matrix Calculator"}};
   }
 
+  /// Visits each window once, with the same settings.
+  void VisitAll(const Visit& visit) {
+    for (const auto& windows : {Screens(), Dialogs(), Boxes(), FileDialogs()}) {
+      for (const Window& window : windows) {
+        SCOPED_TRACE(window.name);
+        Renew();
+        window.show(visit);
+      }
+    }
+  }
+
   std::vector<Window> Screens() {
     return {
         ScreenOf("scientific", MakeScientificScreen, [](QWidget&) {}),

@@ -69,18 +69,7 @@ void ExpectRowByRow(const std::vector<QWidget*>& round) {
   }
 }
 
-class TabWalkTest : public EveryWindow {
- protected:
-  void VisitAll(const Visit& visit) {
-    for (const auto& windows : {Screens(), Dialogs(), Boxes(), FileDialogs()}) {
-      for (const Window& window : windows) {
-        SCOPED_TRACE(window.name);
-        Renew();
-        window.show(visit);
-      }
-    }
-  }
-};
+class TabWalkTest : public EveryWindow {};
 
 TEST_F(TabWalkTest, TabLeadsToEveryControlAndRound) {
   VisitAll([](QWidget& window) {
