@@ -1,6 +1,8 @@
 // What the user reads of the application itself: captions, menus and notices.
 #pragma once
 
+#include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "common/version.h"
@@ -57,6 +59,14 @@ inline constexpr std::u16string_view kStopSign = u"Error";
 inline constexpr std::u16string_view kWarningSign = u"Warning";
 inline constexpr std::u16string_view kQuestionSign = u"Question";
 inline constexpr std::u16string_view kInformationSign = u"Information";
+
+// The line beside a field that asks about what stands in it.
+inline constexpr std::u16string_view kOfferName = u"Question";
+inline constexpr std::u16string_view kGiveUpOffer = u"Leave it as it is (Esc)";
+/// The key that chooses the answer `number`, 1 to 9.
+inline std::u16string KeyOfOffer(std::size_t number) {
+  return std::u16string(u"Key ") + static_cast<char16_t>(u'0' + number);
+}
 
 // Asked by a copy of the program that is started while another one hangs.
 inline constexpr std::u16string_view kDoesNotAnswer =
