@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "common/ascii.h"
@@ -26,18 +27,6 @@ std::u16string_view NextRun(std::u16string_view text, std::size_t at) {
 
 std::size_t EndOf(std::u16string_view run, std::u16string_view text) {
   return static_cast<std::size_t>(run.data() - text.data()) + run.size();
-}
-
-/// Whether `whole` is one to three digits and then one or more groups of `mark` and three digits.
-bool IsGroupedBy(char16_t mark, std::u16string_view whole) {
-  constexpr std::size_t kGroup = 3;
-  const std::size_t first = whole.find(mark);
-  if (first == whole.npos || first == 0 || first > kGroup) return false;
-  for (std::size_t i = 0; i < whole.size(); ++i) {
-    const bool endsGroup = i >= first && (i - first) % (kGroup + 1) == 0;
-    if (endsGroup ? whole[i] != mark : !IsDigit(whole[i])) return false;
-  }
-  return (whole.size() - first) % (kGroup + 1) == 0;
 }
 
 bool HasCommaBeforeDigit(std::u16string_view run) {
@@ -69,7 +58,128 @@ std::u16string WithPoint(std::u16string_view run) {
   return text;
 }
 
+// Calls of several arguments, by what stands before their "(".
+constexpr std::u16string_view kMacroCall = u"M:";
+constexpr std::u16string_view kEquationCall = u"linearequation";
+
+/// The place behind the ")" that closes the "(" at `open`, or the end.
+std::size_t EndOfCall(std::u16string_view line, std::size_t open) {
+  int depth = 0;
+  for (std::size_t at = open; at < line.size(); ++at) {
+    if (line[at] == u'(') ++depth;
+    if (line[at] == u')' && --depth == 0) return at + 1;
+  }
+  return line.size();
+}
+
+/// Calls `see` with each part of `line`, in order, and whether it is between the arguments of a
+/// call, where commas separate.
+template <class See>
+void ForEachPart(std::u16string_view line, const See& see) {
+  while (!line.empty()) {
+    const std::size_t call = std::min(line.find(kMacroCall), line.find(kEquationCall));
+    const std::size_t open = call == line.npos ? call : line.find(u'(', call);
+    see(line.substr(0, open), false);
+    if (open == line.npos) return;
+    const std::size_t end = EndOfCall(line, open);
+    see(line.substr(open, end - open), true);
+    line.remove_prefix(end);
+  }
+}
+
+/// `line` with each number that has a comma as `read` answers for it.
+template <class Read>
+std::u16string WithNumbers(std::u16string_view line, const Read& read) {
+  std::u16string out;
+  out.reserve(line.size());
+  ForEachPart(line, [&](std::u16string_view part, bool isArguments) {
+    std::size_t done = 0;
+    if (!isArguments) {
+      for (auto run = NextRun(part, 0); !run.empty(); run = NextRun(part, done)) {
+        const std::size_t end = EndOf(run, part);
+        out += part.substr(done, end - run.size() - done);
+        out += HasCommaBeforeDigit(run) ? read(run) : std::u16string(run);
+        done = end;
+      }
+    }
+    out += part.substr(done);
+  });
+  return out;
+}
+
+/// The meanings that make `run` a number; none if its comma cannot be a decimal one.
+std::vector<CommaMeaning> MeaningsInLine(std::u16string_view run) {
+  if (!CanBeDecimal(run)) return {};
+  const bool isWithout =
+      IsDigit(run.front()) && run.front() != u'0' && std::count(run.begin(), run.end(), u'.') <= 1;
+  if (isWithout) return {CommaMeaning::Grouping, CommaMeaning::DecimalPoint};
+  return {CommaMeaning::DecimalPoint};
+}
+
+bool IsThousands(std::u16string_view run) {
+  const std::size_t point = std::min(run.find(u'.'), run.size());
+  return CanBeGrouping(run) && !CanBeDecimal(run) &&
+         run.find_first_of(u".,", point + 1) == run.npos;
+}
+
+std::u16string Read(std::u16string_view run, CommaMeaning meaning) {
+  return meaning == CommaMeaning::DecimalPoint ? WithPoint(run) : Without(run, u',');
+}
+
 }  // namespace
+
+bool IsGroupedBy(char16_t mark, std::u16string_view digits) {
+  constexpr std::size_t kGroup = 3;
+  const std::size_t first = digits.find(mark);
+  if (first == digits.npos || first == 0 || first > kGroup) return false;
+  for (std::size_t i = 0; i < digits.size(); ++i) {
+    const bool endsGroup = i >= first && (i - first) % (kGroup + 1) == 0;
+    if (endsGroup ? digits[i] != mark : !IsDigit(digits[i])) return false;
+  }
+  return (digits.size() - first) % (kGroup + 1) == 0;
+}
+
+std::u16string WithoutThousands(std::u16string_view line) {
+  if (line.find(u',') == line.npos) return std::u16string(line);
+  return WithNumbers(line, [](std::u16string_view run) {
+    return IsThousands(run) ? Without(run, u',') : std::u16string(run);
+  });
+}
+
+std::optional<CommaQuestion> QuestionOfLine(std::u16string_view line) {
+  if (line.find(u',') == line.npos) return std::nullopt;
+  std::optional<CommaQuestion> question;
+  ForEachPart(line, [&](std::u16string_view part, bool isArguments) {
+    if (isArguments || question) return;
+    for (auto run = NextRun(part, 0); !run.empty(); run = NextRun(part, EndOf(run, part))) {
+      std::vector<CommaMeaning> meanings;
+      if (HasCommaBeforeDigit(run)) meanings = MeaningsInLine(run);
+      if (meanings.empty()) continue;
+      question = CommaQuestion{std::u16string(run), std::move(meanings)};
+      return;
+    }
+  });
+  return question;
+}
+
+std::u16string LineQuestionText(const CommaQuestion& question) {
+  std::u16string text;
+  for (const CommaMeaning meaning : question.meanings) {
+    if (!text.empty()) text += u" or ";
+    text += CommaMeaningText(question.number, meaning);
+  }
+  return text += u'?';
+}
+
+std::u16string LineWithCommas(std::u16string_view line, const CommaQuestion& question,
+                              CommaMeaning meaning) {
+  const bool isGrouping = CanBeGrouping(question.number);
+  return WithNumbers(line, [&](std::u16string_view run) {
+    const bool isSame =
+        MeaningsInLine(run) == question.meanings && CanBeGrouping(run) == isGrouping;
+    return isSame ? Read(run, meaning) : std::u16string(run);
+  });
+}
 
 std::optional<CommaQuestion> QuestionOfCommas(std::u16string_view text) {
   if (text.find(u',') == text.npos) return std::nullopt;

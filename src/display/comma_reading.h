@@ -37,4 +37,24 @@ std::u16string WithCommas(std::u16string_view text, CommaMeaning meaning);
 /// 1,234 and 1.234,5. nullopt if it could not, as in 1,234.5 and 1,234,567.
 std::optional<std::u16string> CommaRefusal(std::u16string_view field);
 
+/// Whether `digits` is one to three digits and then one or more groups of `mark` and three digits.
+bool IsGroupedBy(char16_t mark, std::u16string_view digits);
+
+/// `line`, an expression or a number, without the commas between the thousands of its numbers, as
+/// far as they can be nothing else: as in 1,234,567 and in 1,234.5. Commas between arguments stay.
+std::u16string WithoutThousands(std::u16string_view line);
+
+/// What to ask before `line`, an expression or a number, is taken: about its first number with a
+/// comma that could be a decimal one, unless the comma is between arguments. The meanings are those
+/// that make it a number, Grouping first. nullopt if there is no such number.
+std::optional<CommaQuestion> QuestionOfLine(std::u16string_view line);
+
+/// The question in one short line: "1234 or 1.234?".
+std::u16string LineQuestionText(const CommaQuestion& question);
+
+/// `line` with that number, and all others in which the comma could have the same meanings, read
+/// with `meaning`.
+std::u16string LineWithCommas(std::u16string_view line, const CommaQuestion& question,
+                              CommaMeaning meaning);
+
 }  // namespace kav

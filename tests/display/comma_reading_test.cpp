@@ -101,5 +101,53 @@ TEST(CommaRefusal, OtherTextsAreNotItsMatter) {
   }
 }
 
+TEST(QuestionOfLine, AsksForTheFirstNumberThatCanBeReadInTwoWays) {
+  struct Row {
+    std::u16string_view line;
+    std::u16string_view number;
+    std::u16string_view text;
+  };
+  const std::vector<Row> rows{
+      {u"1,234", u"1,234", u"1234 or 1.234?"},
+      {u"1,5", u"1,5", u"15 or 1.5?"},
+      {u"1.234,5", u"1.234,5", u"1.2345 or 1234.5?"},
+      {u"12345,6", u"12345,6", u"123456 or 12345.6?"},
+      {u"0,5", u"0,5", u"0.5?"},
+      {u",5", u",5", u".5?"},
+      {u"1.234.567,8", u"1.234.567,8", u"1234567.8?"},
+      {u"2*sin(1,5)+3", u"1,5", u"15 or 1.5?"},
+      {u"1,234,567+1,5", u"1,5", u"15 or 1.5?"},
+      {u"M:F(1,2)+1,234e3", u"1,234", u"1234 or 1.234?"},
+      {u"linearequation([M1],2)*1,5", u"1,5", u"15 or 1.5?"},
+  };
+  for (const auto& [line, number, text] : rows) {
+    const auto question = QuestionOfLine(line);
+    ASSERT_TRUE(question) << std::string(line.begin(), line.end());
+    EXPECT_EQ(question->number, number);
+    EXPECT_EQ(LineQuestionText(*question), text);
+  }
+}
+
+TEST(QuestionOfLine, AsksForNothingElse) {
+  for (const auto line :
+       {u""sv, u"1.5"sv, u"1,234,567"sv, u"1,234.5"sv, u"M:F(1,5)"sv, u"2*M:F(M:G(1,5),1,234)"sv,
+        u"M:F(1,5"sv, u"linearequation(1,5)"sv, u"1,2,3"sv, u"1, 2"sv, u"a,b"sv}) {
+    EXPECT_EQ(QuestionOfLine(line), std::nullopt) << std::string(line.begin(), line.end());
+  }
+}
+
+TEST(LineWithCommas, ReadsAllNumbersOfTheSameKindAlike) {
+  const std::u16string_view line = u"1,234+5,678*1,5-M:F(1,234)";
+  const auto first = QuestionOfLine(line);
+  ASSERT_TRUE(first);
+  EXPECT_EQ(LineWithCommas(line, *first, kPoint), u"1.234+5.678*1,5-M:F(1,234)");
+  const std::u16string read = LineWithCommas(line, *first, kGroups);
+  EXPECT_EQ(read, u"1234+5678*1,5-M:F(1,234)");
+  const auto second = QuestionOfLine(read);
+  ASSERT_TRUE(second);
+  EXPECT_EQ(second->number, u"1,5");
+  EXPECT_EQ(LineWithCommas(read, *second, kPoint), u"1234+5678*1.5-M:F(1,234)");
+}
+
 }  // namespace
 }  // namespace kav::comma_reading_test
