@@ -12,6 +12,7 @@
 #include "matrix/matrix_file.h"
 #include "matrix/matrix_line.h"
 #include "matrix/matrix_value.h"
+#include "matrix/temporary_matrices.h"
 
 namespace kav {
 namespace {

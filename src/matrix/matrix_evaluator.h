@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "engine/calc_error.h"
+#include "matrix/intermediate_matrices.h"
 #include "matrix/matrix_value.h"
-#include "matrix/temporary_matrices.h"
 
 namespace kav {
 
@@ -13,7 +13,7 @@ namespace kav {
 class MatrixEvaluator {
  public:
   /// Both must outlive the evaluator.
-  MatrixEvaluator(const Matrices& matrices, TemporaryMatrices& files)
+  MatrixEvaluator(const Matrices& matrices, IntermediateMatrices& files)
       : matrices_(matrices), files_(files) {}
 
   /// The matrix that `text` (UTF-8) stands for; the case of letters does not count. Fails with an
@@ -22,7 +22,7 @@ class MatrixEvaluator {
 
  private:
   const Matrices& matrices_;
-  TemporaryMatrices& files_;
+  IntermediateMatrices& files_;
 };
 
 }  // namespace kav

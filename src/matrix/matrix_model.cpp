@@ -11,6 +11,7 @@
 #include "macros/macro_call.h"
 #include "matrix/cell_number.h"
 #include "matrix/cell_table_text.h"
+#include "matrix/live_matrix.h"
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_line.h"
 #include "matrix/matrix_menus.h"
@@ -52,6 +53,18 @@ void MatrixModel::SetLine(std::u16string text, Selection selection) {
   line_.Set(std::move(text), selection);
 }
 
+std::optional<std::u16string> MatrixModel::LiveResult(std::u16string_view line) const {
+  if (store_.Get(kLiveResult) == 0) return std::nullopt;
+  const CalcModes modes{angle_, BaseMode::Decimal};
+  const bool isAnswered = answered_ && answered_->Is(line, modes);
+  if (isAnswered && answeredChanges_ == board_.ChangeCount()) return std::nullopt;
+  const std::u16string_view text = TrimBlanks(line);
+  if (IsMatrixExpression(text)) return LiveOrder(text, AllMatrices());
+  // There "=" gives no number either.
+  if (Shown() == kAnswerMatrix) return std::nullopt;
+  return LiveNumber(text, modes, settings_.normal, macros_);
+}
+
 std::u16string_view MatrixModel::Caption(MatrixKey key) const {
   return key == MatrixKey::Deg ? AngleCaption(angle_) : RowOf(key).plain.caption;
 }
@@ -82,8 +95,12 @@ MatrixRequest MatrixModel::Press(MatrixKey key) {
       return AskFirst<MatrixKey>{key, kClearCellsQuestion};
     case MatrixKey::Size:
       return AskMatrixSize{ShownMatrix().rows, ShownMatrix().columns};
-    case MatrixKey::Equals:
-      return Evaluate();
+    case MatrixKey::Equals: {
+      MatrixRequest request = Evaluate();
+      answered_ = AnsweredLine{line_.Text(), {angle_, BaseMode::Decimal}};
+      answeredChanges_ = board_.ChangeCount();
+      return request;
+    }
     default:
       Write(key);
       return Nothing{};

@@ -1,6 +1,7 @@
 // The matrix screen without its pixels: matrices, line, keys, menus, clipboard, history, settings.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,6 +15,7 @@
 #include "line/history.h"
 #include "line/key_request.h"
 #include "line/screen_menus.h"
+#include "macros/live_result.h"
 #include "macros/macro_store.h"
 #include "matrix/cell_notes.h"
 #include "matrix/matrix_board.h"
@@ -53,6 +55,10 @@ class MatrixModel {
   /// The answer or message of the last number expression; empty before the first and after a
   /// matrix expression, whose answer it would stand above.
   const std::u16string& ResultText() const { return resultText_; }
+  /// What `line` comes to, before "=" says it: a number, or the order of a matrix. nullopt if there
+  /// is nothing to say, or the user does not want it.
+  std::optional<std::u16string> LiveResult(std::u16string_view line) const;
+  const History& PastLines() const { return history_; }
 
   // The keys and the menus that they open.
   std::u16string_view Caption(MatrixKey key) const;
@@ -148,7 +154,9 @@ class MatrixModel {
   TemporaryMatrices files_;
   ExpressionLine line_;
   std::u16string resultText_;
-  std::optional<double> lastAnswer_;  ///< nullopt after a failure and before the first
+  std::optional<AnsweredLine> answered_;  ///< by the last "="
+  std::size_t answeredChanges_ = 0;       ///< of the matrices by then
+  std::optional<double> lastAnswer_;      ///< nullopt after a failure and before the first
 };
 
 }  // namespace kav

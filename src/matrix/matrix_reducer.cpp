@@ -11,6 +11,7 @@
 #include "matrix/matrix_arithmetic.h"
 #include "matrix/matrix_error.h"
 #include "matrix/matrix_functions.h"
+#include "matrix/temporary_matrices.h"
 
 namespace kav {
 namespace {
@@ -42,7 +43,7 @@ bool IsOperation(const MatrixToken& token) {
 /// Reduces tokens in their places; what is used up stays as UsedUp.
 class MatrixReducer {
  public:
-  MatrixReducer(MatrixTokens tokens, const Matrices& matrices, TemporaryMatrices& files)
+  MatrixReducer(MatrixTokens tokens, const Matrices& matrices, IntermediateMatrices& files)
       : tokens_(std::move(tokens)), matrices_(matrices), files_(files) {}
   ~MatrixReducer() {
     for (std::size_t i = 0; i < tokens_.size(); ++i) UseUp(i);
@@ -224,14 +225,14 @@ class MatrixReducer {
 
   MatrixTokens tokens_;
   const Matrices& matrices_;
-  TemporaryMatrices& files_;
+  IntermediateMatrices& files_;
   std::optional<MatrixValue> answer_;  ///< the last operation's result
 };
 
 }  // namespace
 
 CalcResult<MatrixValue> ReduceMatrixTokens(MatrixTokens tokens, const Matrices& matrices,
-                                           TemporaryMatrices& files) {
+                                           IntermediateMatrices& files) {
   return MatrixReducer(std::move(tokens), matrices, files).Run();
 }
 

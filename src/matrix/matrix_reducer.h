@@ -2,9 +2,9 @@
 #pragma once
 
 #include "engine/calc_error.h"
+#include "matrix/intermediate_matrices.h"
 #include "matrix/matrix_token.h"
 #include "matrix/matrix_value.h"
-#include "matrix/temporary_matrices.h"
 
 namespace kav {
 
@@ -15,6 +15,6 @@ namespace kav {
 /// operation that cannot be done, with NoRoomForMatrix if a file cannot be written or read, and
 /// with CalcErrorCode::Expression if anything but one matrix is left.
 CalcResult<MatrixValue> ReduceMatrixTokens(MatrixTokens tokens, const Matrices& matrices,
-                                           TemporaryMatrices& files);
+                                           IntermediateMatrices& files);
 
 }  // namespace kav

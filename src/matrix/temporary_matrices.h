@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "matrix/intermediate_matrices.h"
 #include "matrix/matrix_value.h"
 #include "settings/file_descriptor.h"
 
@@ -14,26 +15,20 @@ namespace kav {
 /// Matrices under the names "kavm0.dat", "kavm1.dat" and so on, in a folder of this process that
 /// only its user can read. The first Write makes the folder, the destructor removes it. A forked
 /// child leaves the folder to its parent and makes its own.
-class TemporaryMatrices {
+class TemporaryMatrices final : public IntermediateMatrices {
  public:
   /// The folder is made in `parent`, or in the system's folder for temporary files. Removes what
   /// killed processes have left there.
   TemporaryMatrices();
   explicit TemporaryMatrices(std::string parent);
-  ~TemporaryMatrices();
-  TemporaryMatrices(const TemporaryMatrices&) = delete;
-  TemporaryMatrices& operator=(const TemporaryMatrices&) = delete;
+  ~TemporaryMatrices() override;
 
   /// Such as "kavm7.dat" for 7.
   static std::string NameOf(int number);
 
-  /// Writes `matrix` under `name` and replaces what is there. Whether it succeeded; if not, no file
-  /// has the name.
-  bool Write(const std::string& name, const MatrixValue& matrix);
-  /// nullopt if it cannot be read.
-  std::optional<MatrixValue> Read(const std::string& name) const;
-  /// Does nothing if there is no such file.
-  void Remove(const std::string& name);
+  bool Write(const std::string& name, const MatrixValue& matrix) override;
+  std::optional<MatrixValue> Read(const std::string& name) const override;
+  void Remove(const std::string& name) override;
 
  private:
   bool IsOwner() const;

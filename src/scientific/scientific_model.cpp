@@ -32,6 +32,13 @@ void ScientificModel::SetLine(std::u16string text, Selection selection) {
   line_.Set(std::move(text), selection);
 }
 
+std::optional<std::u16string> ScientificModel::LiveResult(std::u16string_view line) const {
+  if (store_.Get(kLiveResult) == 0 || (answered_ && answered_->Is(line, modes_))) {
+    return std::nullopt;
+  }
+  return LiveNumber(line, modes_, format_, macros_);
+}
+
 std::u16string_view ScientificModel::Caption(Key key) const {
   if (key == Key::Deg) return AngleCaption(modes_.angleUnit);
   if (key == Key::Dec) return BaseCaption(modes_.baseMode);
@@ -117,6 +124,7 @@ void ScientificModel::Evaluate() {
   } else {
     Fail(value.error());
   }
+  answered_ = AnsweredLine{expression_, modes_};
   line_.SelectAll();
 }
 

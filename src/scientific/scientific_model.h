@@ -16,6 +16,7 @@
 #include "line/keypad.h"
 #include "line/screen_menus.h"
 #include "macros/line_evaluator.h"
+#include "macros/live_result.h"
 #include "macros/macro_store.h"
 #include "settings/settings_store.h"
 
@@ -38,6 +39,9 @@ class ScientificModel {
   const ExpressionLine& Line() const { return line_; }
   void SetLine(std::u16string text, Selection selection);
   const std::u16string& ResultText() const { return resultText_; }
+  /// What `line` comes to, before "=" says it. nullopt if there is nothing to say, or the user does
+  /// not want it.
+  std::optional<std::u16string> LiveResult(std::u16string_view line) const;
 
   // The keys as they are now.
   std::u16string_view Caption(Key key) const;
@@ -96,6 +100,7 @@ class ScientificModel {
   std::u16string errorText_;
   std::u16string resultText_;
   double lastAnswer_ = 0;
+  std::optional<AnsweredLine> answered_;  ///< by the last "="
 };
 
 }  // namespace kav

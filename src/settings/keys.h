@@ -23,6 +23,8 @@ inline constexpr IntegerKey kAngleType{"Config", "Angle Type", 1};
 inline constexpr IntegerKey kBaseType{"Config", "Base Type", 1};
 inline constexpr IntegerKey kDisplayType{"Config", "Display Type", 3};
 inline constexpr IntegerKey kPrecision{"Config", "Precision", 7};
+// Whether a line's result is shown while it is being typed: 1 or 0.
+inline constexpr IntegerKey kLiveResult{"Config", "Live Result", 1};
 
 // The same for the cells of the matrix screen, and the defaults of a new matrix: rows and columns
 // (1 to 10), the alignment of its cells (0 left, 1 right) and the width of its columns in pixels.

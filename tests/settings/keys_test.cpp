@@ -25,6 +25,7 @@ const std::vector<IntegerRow> kIntegers{
     {kBaseType, "Config", "Base Type", 1},
     {kDisplayType, "Config", "Display Type", 3},
     {kPrecision, "Config", "Precision", 7},
+    {kLiveResult, "Config", "Live Result", 1},
     {kCalHistoryCount, "History", "CalHistoryCount", 0},
     {kCalMHistoryCount, "MHistory", "CalMHistoryCount", 0},
     {kGrapHistoryCount, "History", "GrapHistoryCount", 0},

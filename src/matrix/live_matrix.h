@@ -1,0 +1,17 @@
+// What a matrix expression comes to while it is being typed.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "matrix/matrix_value.h"
+
+namespace kav {
+
+/// The order of the matrix that `line`, a matrix expression, comes to, such as "3x2". nullopt if it
+/// comes to none, and if that is too much work to do after each key: more than a few operations,
+/// and powers above 99. Makes no files.
+std::optional<std::u16string> LiveOrder(std::u16string_view line, const Matrices& matrices);
+
+}  // namespace kav
