@@ -83,17 +83,21 @@ QRect PlaceInFrame(const QRect& frame, const QMargins& margins, std::span<const 
 }
 
 WindowPlace PlaceOf(const QWidget& window) {
-  if (!window.isMaximized()) return {QRect(window.pos(), window.size()), false};
+  if (!window.isMaximized() && !window.isFullScreen()) {
+    return {QRect(window.pos(), window.size())};
+  }
   // A window is moved by the corner of its frame, but its normal place is known without the frame.
   const QPoint frame = window.geometry().topLeft() - window.pos();
   const QRect normal = window.normalGeometry();
-  return {QRect(normal.topLeft() - frame, normal.size()), true};
+  return {QRect(normal.topLeft() - frame, normal.size()), window.isMaximized(),
+          window.isFullScreen()};
 }
 
 void TakePlace(QWidget& window, const WindowPlace& place) {
   window.move(place.rect.topLeft());
   window.resize(place.rect.size());
   if (place.isMaximized) window.setWindowState(window.windowState() | Qt::WindowMaximized);
+  if (place.fillsScreen) window.setWindowState(window.windowState() | Qt::WindowFullScreen);
 }
 
 }  // namespace kav

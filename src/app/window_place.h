@@ -12,10 +12,11 @@ class QWidget;
 
 namespace kav {
 
-/// Place and size of a window that is not maximized, and whether it is.
+/// Place and size of a window that is neither maximized nor fills the screen, and whether it does.
 struct WindowPlace {
   QRect rect;
   bool isMaximized = false;
+  bool fillsScreen = false;  ///< for the next window only: it is not printed
 
   bool operator==(const WindowPlace&) const = default;
 };

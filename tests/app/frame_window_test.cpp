@@ -301,6 +301,10 @@ TEST_F(FrameWindowTest, AScreenTakesThePlaceAndSizeOfTheOneBefore) {
   ChangeTo(ScreenMode::Plotter);
   EXPECT_EQ(frame_->Shown()->pos(), QPoint(77, 55));
   EXPECT_EQ(frame_->Shown()->size(), QSize(333, 444));
+  // It fills the desktop as well, as long as the program runs.
+  frame_->Shown()->setWindowState(Qt::WindowFullScreen);
+  ChangeTo(ScreenMode::Matrix);
+  EXPECT_TRUE(frame_->Shown()->isFullScreen());
   frame_.reset();
   EXPECT_EQ(store_.Get(kWindowGeometry), "77 55 333 444");
 }

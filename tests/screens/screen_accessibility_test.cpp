@@ -112,9 +112,10 @@ TEST_F(ScreenAccessibilityTest, TheLinesHaveNamesAndTheResultItsText) {
 TEST_F(ScreenAccessibilityTest, TheMenusAreNamed) {
   auto* bar = dlg_->findChild<QMenuBar*>();
   QAccessibleInterface& menus = Of(*bar);
-  ASSERT_EQ(menus.childCount(), 2);
+  ASSERT_EQ(menus.childCount(), 3);
   EXPECT_EQ(menus.child(0)->text(QAccessible::Name), "File");
   EXPECT_EQ(menus.child(1)->text(QAccessible::Name), "Edit");
+  EXPECT_EQ(menus.child(2)->text(QAccessible::Name), "Help");
 }
 
 }  // namespace

@@ -32,6 +32,7 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   void TakeLine() override;
   void Refresh() override;
   QRect Area() const override;
+  GuidePage Page() const override { return GuidePage::Matrix; }
   void LayOut(const DialogUnits& units) override;
   void ShowMatrix();
 

@@ -34,6 +34,7 @@ class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
   void TakeLine() override;
   void Refresh() override;
   void ShowEquations();
+  GuidePage Page() const override { return GuidePage::Plotter; }
   void LayOut(const DialogUnits& units) override;
   void Save();
 

@@ -44,6 +44,10 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   void OnHeading(std::size_t column);
   void OnSelection();
   void TakeLine() override;
+  GuidePage Page() const override {
+    return model_->Shape() == DataShape::OneVariable ? GuidePage::OneVariable
+                                                     : GuidePage::TwoVariable;
+  }
   void LayOut(const DialogUnits& units) override;
   void FocusLine(DataField field);
 

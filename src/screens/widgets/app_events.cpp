@@ -27,6 +27,19 @@ void SendPoint(QObject* receiver, QKeyEvent& key) {
   key.setAccepted(point.isAccepted());
 }
 
+bool IsCtrlY(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Y && key.modifiers() == Qt::ControlModifier;
+}
+
+/// Gives `receiver` the keys that redo on every desktop in place of those that do so on some.
+void SendRedo(QObject* receiver, QKeyEvent& key) {
+  QKeyEvent redo(key.type(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier, QString(),
+                 key.isAutoRepeat(), static_cast<ushort>(key.count()));
+  redo.setAccepted(key.isAccepted());
+  QCoreApplication::sendEvent(receiver, &redo);
+  key.setAccepted(redo.isAccepted());
+}
+
 void DressMenu(QMenu& menu) {
   if (menu.parentWidget() == nullptr) return;
   menu.setStyle(ScreenStyle());
@@ -50,8 +63,12 @@ bool AppEvents::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease: {
       auto& key = *static_cast<QKeyEvent*>(event);
-      if (!IsKeypadSeparator(key)) return false;
-      SendPoint(watched, key);
+      if (IsKeypadSeparator(key)) {
+        SendPoint(watched, key);
+        return true;
+      }
+      if (!IsCtrlY(key)) return false;
+      SendRedo(watched, key);
       return true;
     }
     case QEvent::Polish:

@@ -52,6 +52,10 @@ inline constexpr std::u16string_view kPasteTip = u"Insert Clipboard contents";
 
 inline constexpr std::u16string_view kModeMenu = u"&Mode";
 
+inline constexpr std::u16string_view kHelpMenu = u"&Help";
+inline constexpr std::u16string_view kGuideEntry = u"&Guide";
+inline constexpr std::u16string_view kKeysEntry = u"&Keys";
+
 // As screen readers call what has no caption.
 inline constexpr std::u16string_view kMenuBarName = u"Menus";
 inline constexpr std::u16string_view kKeysName = u"Keys";

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "display/display_settings_model.h"
+#include "line/guide_pages.h"
 #include "line/key_request.h"
 #include "settings/settings_store.h"
 
@@ -32,6 +33,8 @@ struct ScreenDialogs {
   std::function<void(QWidget* parent, const std::u16string& value)> storeVariable;
   std::function<std::optional<std::u16string>(QWidget* parent)> recallVariable;
   std::function<std::optional<std::u16string>(QWidget* parent)> constants;
+  /// Opens the guide, beside `parent`, a screen or a dialog; it stays open. Empty: there is none.
+  std::function<void(QWidget* parent, GuidePage page)> guide;
 };
 
 /// A screen as the Mode menu offers it.

@@ -64,6 +64,7 @@ void KeyScreen::AddMenus(ScreenMode mode, DisplayPage page,
   AddEditMenu({[this](EditCommand command) { Edit(command); },
                [this](EditCommand command) { return CanEdit(command); }});
   AddModeMenu(mode);
+  AddHelpMenu();
 }
 
 std::function<void()> KeyScreen::Opening(const std::function<void(QWidget*)>& open) {

@@ -43,7 +43,7 @@ class KeyScreen : public Screen {
   /// is called with the id of the chosen one.
   void PopUp(const Menu& items, int key, const std::function<void(int)>& choose);
 
-  /// The File, Edit and Mode menus of the screen `mode`; `page` of the display settings opens
+  /// The File, Edit, Mode and Help menus of the screen `mode`; `page` of the display settings opens
   /// first, and `takeDisplaySettings` is called when they have changed.
   void AddMenus(ScreenMode mode, DisplayPage page,
                 const std::function<void()>& takeDisplaySettings);

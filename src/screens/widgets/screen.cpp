@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
+#include <QShortcut>
 #include <array>
 #include <utility>
 
@@ -28,6 +29,22 @@ void AddAction(QMenu* menu, const MenuEntry& entry) {
   QObject::connect(menu, &QMenu::aboutToShow, action,
                    [action, isEnabled = entry.isEnabled] { action->setEnabled(isEnabled()); });
 }
+
+QKeySequence KeysOf(ScreenCommand command) {
+  return QKeySequence(QLatin1String(ShortcutOf(command)));
+}
+
+/// The command that leads to the screen `mode`: both have the order of the stored numbers.
+constexpr ScreenCommand CommandTo(ScreenMode mode) {
+  return static_cast<ScreenCommand>(static_cast<int>(ScreenCommand::Scientific) +
+                                    static_cast<int>(mode) -
+                                    static_cast<int>(ScreenMode::Scientific));
+}
+static_assert(CommandTo(ScreenMode::Scientific) == ScreenCommand::Scientific);
+static_assert(CommandTo(ScreenMode::Plotter) == ScreenCommand::Plotter);
+static_assert(CommandTo(ScreenMode::OneVariable) == ScreenCommand::OneVariable);
+static_assert(CommandTo(ScreenMode::TwoVariable) == ScreenCommand::TwoVariable);
+static_assert(CommandTo(ScreenMode::Matrix) == ScreenCommand::Matrix);
 
 /// An entry of the Edit menu.
 struct EditRow {
@@ -90,6 +107,50 @@ Screen::Screen(Frame& frame, QSize size)
   setWindowTitle(ToQt(kApplicationName));
   setPalette(ScreenPalette());
   setMinimumSize(kSmallestWindow);
+  MakeShortcuts();
+}
+
+void Screen::MakeShortcuts() {
+  for (const ShortcutRow& row : ScreenShortcuts()) {
+    if (!row.command) continue;
+    auto* shortcut = new QShortcut(this);
+    shortcut->setKeys(QKeySequence::listFromString(QLatin1String(row.keys)));
+    connect(shortcut, &QShortcut::activated, this,
+            [this, command = *row.command] { Obey(command); });
+  }
+}
+
+void Screen::Obey(ScreenCommand command) {
+  switch (command) {
+    case ScreenCommand::Guide:
+      return OpenGuide(this, Page());
+    case ScreenCommand::Keys:
+      return;
+    case ScreenCommand::Config:
+      if (config_) config_();
+      return;
+    case ScreenCommand::FullScreen:
+      return setWindowState(windowState() ^ Qt::WindowFullScreen);
+    case ScreenCommand::Exit:
+      return EndProgram();
+    default:
+      break;
+  }
+  for (const ScreenChoice& choice : others_) {
+    if (CommandTo(choice.mode) == command) return GoTo(choice.mode);
+  }
+}
+
+void Screen::OpenGuide(QWidget* window, GuidePage page) {
+  if (frame_.Dialogs().guide) frame_.Dialogs().guide(window, page);
+}
+
+void Screen::EndProgram() {
+  if (MayBeLeft(LeaveReason::Ending)) frame_.Exit();
+}
+
+void Screen::GoTo(ScreenMode mode) {
+  if (MayBeLeft(LeaveReason::Switching)) frame_.ChangeMode(mode);
 }
 
 void Screen::AddMenu(std::u16string_view title, const std::vector<MenuEntry>& entries) {
@@ -100,13 +161,12 @@ void Screen::AddMenu(std::u16string_view title, const std::vector<MenuEntry>& en
 }
 
 void Screen::AddFileMenu(const FileCommands& commands) {
+  config_ = commands.config;
   AddMenu(kFileMenu, {{kAboutEntry, [this] { ShowAbout(this); }},
-                      {kConfigEntry, commands.config},
+                      {kConfigEntry, commands.config, KeysOf(ScreenCommand::Config)},
                       {kEditUnitsEntry, commands.editUnits},
                       {commands.editMacrosEntry, commands.editMacros},
-                      {kExitEntry, [this] {
-                         if (MayBeLeft(LeaveReason::Ending)) frame_.Exit();
-                       }}});
+                      {kExitEntry, [this] { EndProgram(); }, KeysOf(ScreenCommand::Exit)}});
 }
 
 void Screen::AddEditMenu(const EditHooks& hooks) {
@@ -121,13 +181,21 @@ void Screen::AddEditMenu(const EditHooks& hooks) {
 }
 
 void Screen::AddModeMenu(ScreenMode own) {
+  others_ = frame_.ScreensBeside(own);
   std::vector<MenuEntry> entries;
-  for (const ScreenChoice& choice : frame_.ScreensBeside(own)) {
-    entries.push_back({choice.caption, [this, mode = choice.mode] {
-                         if (MayBeLeft(LeaveReason::Switching)) frame_.ChangeMode(mode);
-                       }});
+  entries.reserve(others_.size());
+  for (const ScreenChoice& choice : others_) {
+    entries.push_back({choice.caption, [this, mode = choice.mode] { GoTo(mode); },
+                       KeysOf(CommandTo(choice.mode))});
   }
   AddMenu(kModeMenu, entries);
+}
+
+void Screen::AddHelpMenu() {
+  AddMenu(kHelpMenu,
+          {{kGuideEntry, [this] { Obey(ScreenCommand::Guide); }, KeysOf(ScreenCommand::Guide)},
+           {kKeysEntry, [this] { Obey(ScreenCommand::Keys); }},
+           {kAboutEntry, [this] { ShowAbout(this); }}});
 }
 
 QMenu* Screen::MakePopUp() {
@@ -141,7 +209,12 @@ void Screen::Dress(QMenu* menu) {
 
 void Screen::resizeEvent(QResizeEvent*) {
   const QRect area = Area();
-  menuBar_->setFont(ScreenFont(TextPixels(area.height())));
+  int text = TextPixels(area.height());
+  menuBar_->setFont(ScreenFont(text));
+  // In a wide face, the titles have room in smaller letters only.
+  while (text > 1 && menuBar_->sizeHint().width() > area.width()) {
+    menuBar_->setFont(ScreenFont(--text));
+  }
   const int menuHeight = menuBar_->sizeHint().height();
   menuBar_->setGeometry(area.x(), area.bottom() + 1 - menuHeight, area.width(), menuHeight);
   LayOut(DialogUnits(area.adjusted(0, 0, 0, -menuHeight), size_));

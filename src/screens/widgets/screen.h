@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "line/screen_commands.h"
 #include "screens/widgets/frame.h"
 #include "screens/widgets/leaving.h"
 #include "screens/widgets/look.h"
@@ -22,7 +23,7 @@ class BottomMenuBar;
 struct MenuEntry {
   std::u16string_view text;
   std::function<void()> action;
-  QKeySequence shortcut = {};            ///< only shown: the focused line handles it itself
+  QKeySequence shortcut = {};            ///< only shown: the focused line or the screen handles it
   std::function<bool()> isEnabled = {};  ///< asked each time the menu opens; empty: always
   std::u16string_view tip = {};          ///< what it does, if the text does not say it
 };
@@ -47,7 +48,7 @@ struct EditHooks {
 void EditLine(QLineEdit& line, EditCommand command);
 bool CanEditLine(const QLineEdit& line, EditCommand command);
 
-/// A calculating screen, a window of its own.
+/// A calculating screen, a window of its own. It carries out the commands of ScreenShortcuts.
 class Screen : public QWidget {
  public:
   /// `size` is that of the body in dialog units; the frame must outlive the screen.
@@ -61,6 +62,9 @@ class Screen : public QWidget {
     return MayLeave(reason) && (reason != LeaveReason::Ending || frame_.MayEnd(this));
   }
 
+  /// Opens the guide beside `window`, this screen or a dialog over it.
+  void OpenGuide(QWidget* window, GuidePage page);
+
  protected:
   /// The part of the window that the screen fills, its menu bar included.
   virtual QRect Area() const { return PortraitArea(size()); }
@@ -73,10 +77,15 @@ class Screen : public QWidget {
   void AddEditMenu(const EditHooks& hooks);
   /// The menu of all screens but `own`.
   void AddModeMenu(ScreenMode own);
+  void AddHelpMenu();
   /// An empty pop-up menu of the screen's look, deleted once it is closed.
   QMenu* MakePopUp();
 
   Frame& ParentFrame() const { return frame_; }
+
+  void Obey(ScreenCommand command);
+  /// The page of the guide that tells about this screen.
+  virtual GuidePage Page() const { return GuidePage::Scientific; }
 
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -85,11 +94,16 @@ class Screen : public QWidget {
 
  private:
   void Dress(QMenu* menu);
+  void MakeShortcuts();
+  void EndProgram();
+  void GoTo(ScreenMode mode);
   const QWidget* FirstInRound() const;
 
   Frame& frame_;
   QSize size_;
   BottomMenuBar* menuBar_;
+  std::function<void()> config_;
+  std::vector<ScreenChoice> others_;
 };
 
 }  // namespace kav

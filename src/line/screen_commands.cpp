@@ -1,0 +1,45 @@
+#include "line/screen_commands.h"
+
+#include <array>
+
+namespace kav {
+namespace {
+
+// clang-format off
+constexpr std::array kShortcuts{
+    ShortcutRow{"F1",     ScreenCommand::Guide,       u"open the guide at the page of this screen"},
+    ShortcutRow{"F10",    {},                         u"go to the menus"},
+    ShortcutRow{"F11",    ScreenCommand::FullScreen,  u"fill the whole desktop, and go back to a window"},
+    ShortcutRow{"Ctrl+,", ScreenCommand::Config,      u"open the display settings"},
+    ShortcutRow{"Alt+1",  ScreenCommand::Scientific,  u"go to the scientific calculator"},
+    ShortcutRow{"Alt+2",  ScreenCommand::Plotter,     u"go to the function plotter"},
+    ShortcutRow{"Alt+3",  ScreenCommand::OneVariable, u"go to the statistics of one variable"},
+    ShortcutRow{"Alt+4",  ScreenCommand::TwoVariable, u"go to the statistics of two variables"},
+    ShortcutRow{"Alt+5",  ScreenCommand::Matrix,      u"go to the matrix calculator"},
+    ShortcutRow{"Ctrl+Z", {},                         u"undo the last change"},
+    ShortcutRow{"Ctrl+Y; Ctrl+Shift+Z", {},           u"redo what was undone"},
+    ShortcutRow{"Ctrl+X", {},                         u"cut what is selected"},
+    ShortcutRow{"Ctrl+C", {},                         u"copy what is selected"},
+    ShortcutRow{"Ctrl+V", {},                         u"paste"},
+    ShortcutRow{"Ctrl+A", {},                         u"select all"},
+    ShortcutRow{"Tab; Shift+Tab", {},                 u"go on to the next field or key, and back"},
+    ShortcutRow{"Space",  {},                         u"press the key that has the focus"},
+    ShortcutRow{"Ctrl",   {},                         u"held alone: show the shortcuts on the keys"},
+    ShortcutRow{"Ctrl+Q", ScreenCommand::Exit,        u"end the program"},
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const ShortcutRow> ScreenShortcuts() {
+  return kShortcuts;
+}
+
+std::string_view ShortcutOf(ScreenCommand command) {
+  for (const ShortcutRow& row : kShortcuts) {
+    if (row.command == command) return row.keys;
+  }
+  return {};
+}
+
+}  // namespace kav
