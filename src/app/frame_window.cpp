@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/settings_transfer.h"
 #include "screens/converter/converter_dlg.h"
 #include "screens/converter/user_conversion_dlg.h"
 #include "screens/display/display_settings_dlg.h"
@@ -21,6 +22,7 @@
 #include "screens/statistics/one_variable_dlg.h"
 #include "screens/statistics/two_variable_dlg.h"
 #include "screens/widgets/app_texts.h"
+#include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
 #include "screens/widgets/screen.h"
 #include "settings/keys.h"
@@ -113,8 +115,7 @@ FrameWindow::FrameWindow(SettingsStore& store, std::span<const ScreenKind> scree
 
 FrameWindow::~FrameWindow() {
   CloseAll();
-  store_.Set(kMode, mode_);
-  store_.Set(kWindowGeometry, PrintPlace(place_));
+  KeepPlace();
 }
 
 void FrameWindow::paintEvent(QPaintEvent*) {
@@ -185,6 +186,39 @@ std::vector<ScreenChoice> FrameWindow::ScreensBeside(ScreenMode own) const {
     if (kind.mode != own) others.push_back({kind.mode, kind.caption});
   }
   return others;
+}
+
+void FrameWindow::KeepPlace() {
+  store_.Set(kMode, mode_);
+  store_.Set(kWindowGeometry, PrintPlace(place_));
+}
+
+void FrameWindow::ExportSettings(QWidget* parent) {
+  place_ = PlaceOf(*Shown());
+  KeepPlace();
+  const auto text = hooks_.exportSettings();
+  text ? SaveExport(parent, *text) : ShowStop(parent, text.error());
+}
+
+void FrameWindow::ImportSettings(QWidget* parent) {
+  auto text = AskForImport(parent);
+  if (!text) return;
+  const auto take = [this, toml = *std::move(text)] {
+    if (!isQuitting_) TakeImported(toml);
+  };
+  QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
+}
+
+/// The screen saves what it leaves behind before the new settings stand in its place.
+void FrameWindow::TakeImported(const std::string& toml) {
+  place_ = PlaceOf(*Shown());
+  // For a moment there is no window: that does not mean the end.
+  Shown()->setAttribute(Qt::WA_QuitOnClose, false);
+  CloseScreen(activeSlot_);
+  const auto refusal = hooks_.importSettings(toml);
+  mode_ = StoredMode(store_);
+  SwitchMode();
+  if (refusal) ShowStop(Shown(), *refusal);
 }
 
 void FrameWindow::ChangeMode(ScreenMode mode) {

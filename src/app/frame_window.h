@@ -7,11 +7,14 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "app/window_place.h"
+#include "common/expected.h"
 #include "screens/widgets/app_events.h"
 #include "screens/widgets/frame.h"
 
@@ -33,6 +36,9 @@ struct FrameHooks {
   std::function<void()> saveStore;  ///< see Frame::SaveStore
   std::function<void()> started;    ///< the first screen is shown
   std::function<void()> finished;   ///< the last screen is gone: the application may end
+  // See UserSettingsStore.
+  std::function<Expected<std::string, std::u16string>()> exportSettings;
+  std::function<std::optional<std::u16string>(const std::string& toml)> importSettings;
 };
 
 /// Shows "Loading..." until the first screen is shown, and then hides. There are two slots for
@@ -60,6 +66,8 @@ class FrameWindow final : public QWidget, public Frame {
   const ScreenDialogs& Dialogs() const override { return dialogs_; }
   std::vector<ScreenChoice> ScreensBeside(ScreenMode own) const override;
   void SaveStore() override { hooks_.saveStore(); }
+  void ExportSettings(QWidget* parent) override;
+  void ImportSettings(QWidget* parent) override;
   void ChangeMode(ScreenMode mode) override;
   void Exit() override;
 
@@ -71,6 +79,8 @@ class FrameWindow final : public QWidget, public Frame {
   void Start();
   void KeepFrameOnDesktop();
   const ScreenKind& KindOf(std::int32_t mode) const;
+  void KeepPlace();
+  void TakeImported(const std::string& toml);
   void CloseScreen(std::size_t slot);
   void CloseAll();
 

@@ -54,7 +54,9 @@ Session::Session(SingleInstance instance, std::string settingsPath)
   };
   frame_ = std::make_unique<FrameWindow>(
       store_, AllScreens(), AllDialogs(store_),
-      FrameHooks{[this] { saver_.Save(); }, later(&Session::Started), later(&Session::End)});
+      FrameHooks{[this] { saver_.Save(); }, later(&Session::Started), later(&Session::End),
+                 [this] { return store_.Export(); },
+                 [this](const std::string& toml) { return store_.Import(toml); }});
   frame_->show();
   WatchCalls();
 }

@@ -28,6 +28,8 @@ constexpr std::array kCommands{
             "list, add and remove macros", kMacroDetails, kVerbItems, RunMacro},
     Command{"memory", "memory list|store|clear [OPTION]... [--] [ARGUMENT]...",
             "list, store and clear memory variables", kMemoryDetails, kMemoryItems, RunMemory},
+    Command{"settings", "settings export|import [OPTION]... [--] [FILE]",
+            "write or read everything that is stored", kSettingsDetails, kVerbItems, RunSettings},
     Command{"constants", "constants [OPTION]... [--] [WORD]...", "list constants",
             kConstantsDetails, kConstantsItems, RunConstants},
 };

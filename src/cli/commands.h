@@ -21,6 +21,7 @@ int RunMacro(const CommandLine& line);
 int RunMatrix(const CommandLine& line);
 int RunMemory(const CommandLine& line);
 int RunPlot(const CommandLine& line);
+int RunSettings(const CommandLine& line);
 int RunStats(const CommandLine& line);
 /// For `convert user`. `line` is that of convert, without the item "user".
 int RunUserConversions(CommandLine line);

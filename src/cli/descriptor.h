@@ -1,7 +1,16 @@
-// The standard files of the program.
+// Open files as the program finds them.
 #pragma once
 
+#include <cstddef>
+#include <string>
+
+#include "common/expected.h"
+
 namespace kav {
+
+/// All bytes that can be read from `descriptor`, but no more than `most`; or the errno of what went
+/// wrong.
+Expected<std::string, int> ReadAll(int descriptor, std::size_t most);
 
 /// Whether a read would have to wait.
 bool WouldWait(int descriptor);

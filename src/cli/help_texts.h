@@ -193,6 +193,19 @@ inline constexpr std::string_view kMemoryDetails =
   kavcalc memory store 3 '2^3+1'                  Mem03 = 9
   kavcalc memory clear 3                          Mem03 = 0)text";
 
+inline constexpr std::string_view kSettingsDetails =
+    R"text(Everything that the calculator has stored for its user, as one file: settings,
+macros, memory variables, conversions of the user's own, equations, and the last
+lines of each screen.
+
+  settings export [FILE]           writes all of it into FILE, or prints it
+  settings import [FILE]           makes FILE, or standard input, all there is.
+                                   What was stored is kept beside it, with
+                                   ".before-import" after the name
+
+  kavcalc settings export my-calculator.toml      ok
+  kavcalc settings import my-calculator.toml      ok)text";
+
 inline constexpr std::string_view kConstantsDetails =
     R"text(Prints the constants of which the name, the value or the group holds each WORD,
 in any case; without one all of them. A constant is a line: its name, a tab, its

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "cli/cli_texts.h"
+#include "cli/descriptor.h"
 #include "cli/unreadable.h"
 #include "common/number_text.h"
 #include "matrix/matrix_file.h"
@@ -20,21 +21,10 @@ namespace {
 
 /// All bytes of the open file `descriptor`, or why they cannot be had.
 Expected<std::string, std::u16string> ReadBytes(int descriptor) {
-  constexpr std::size_t kMost = kLargestMatrixFile + 1;
-  constexpr std::size_t kFirst = 4096;
-  std::string bytes;
-  std::size_t filled = 0;
-  while (filled < kMost) {
-    bytes.resize(std::min(std::max(2 * filled, kFirst), kMost));
-    const auto got = ReadSome(descriptor, &bytes[filled], bytes.size() - filled);
-    if (!got) return WhyUnreadable(got.error());
-    filled += *got;
-    if (*got == 0) {
-      bytes.resize(filled);
-      return bytes;
-    }
-  }
-  return Widen(TooLargeForAMatrix(kLargestMatrixFile));
+  auto bytes = ReadAll(descriptor, kLargestMatrixFile + 1);
+  if (!bytes) return WhyUnreadable(bytes.error());
+  if (bytes->size() > kLargestMatrixFile) return Widen(TooLargeForAMatrix(kLargestMatrixFile));
+  return *std::move(bytes);
 }
 
 std::string ReasonOf(const MatrixFault& fault) {

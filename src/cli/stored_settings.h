@@ -2,10 +2,12 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "cli/answer_writer.h"
 #include "cli/options.h"
+#include "common/expected.h"
 #include "engine/calc_modes.h"
 #include "store/user_settings_store.h"
 
@@ -26,6 +28,10 @@ class StoredSettings {
   /// Why the last change could not be saved; nullopt if it is on the disk. To be asked after each
   /// change: one that could not be saved is taken back, so that no later one saves it as well.
   std::optional<Failure> TakeFailure();
+
+  // See UserSettingsStore.
+  Expected<std::string, std::u16string> Export() const { return store_.Export(); }
+  std::optional<std::u16string> Import(std::string_view toml) { return store_.Import(toml); }
 
   /// The angle unit of the options, or else the stored one.
   AngleUnit Angle();

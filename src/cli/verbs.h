@@ -10,7 +10,7 @@ namespace kav {
 
 /// How many items may follow a verb. Two and three are the parts of one item; without any, items
 /// come from standard input.
-enum class Arguments { None = 0, TwoOrNone = 2, ThreeOrNone = 3, Any };
+enum class Arguments { None = 0, OneOrNone = 1, TwoOrNone = 2, ThreeOrNone = 3, Any };
 
 /// A verb, and the function that carries it out as Command::run does.
 struct Verb {

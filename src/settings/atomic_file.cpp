@@ -24,7 +24,6 @@ namespace {
 // The name of a new file is the old name, this mark, and some characters that make it unique.
 constexpr std::string_view kNewMark = ".new-";
 constexpr std::size_t kUniqueLength = 6;
-constexpr std::string_view kDamagedMark = ".damaged";
 constexpr int kLongestChainOfLinks = 40;
 constexpr int kMostKeptAside = 10000;
 
@@ -90,8 +89,8 @@ void FlushFolderOf(const std::string& path) {
 }
 
 /// The first name for what is kept aside of `path` that nothing has.
-std::optional<std::string> FreeNameAside(const std::string& path) {
-  const std::string aside = path + std::string(kDamagedMark);
+std::optional<std::string> FreeNameAside(const std::string& path, std::string_view mark) {
+  const std::string aside = path + std::string(mark);
   for (int number = 1; number < kMostKeptAside; ++number) {
     std::string name = number == 1 ? aside : aside + '-' + std::to_string(number);
     if (!IsTaken(name)) return name;
@@ -194,21 +193,21 @@ void RemoveLeftovers(const std::string& path) {
   }
 }
 
-std::optional<FileError> KeepAside(const std::string& path) {
-  const auto name = FreeNameAside(path);
+std::optional<FileError> KeepAside(const std::string& path, std::string_view mark) {
+  const auto name = FreeNameAside(path, mark);
   if (!name) return FileError::Full;
   if (rename(path.c_str(), name->c_str()) != 0) return FileErrorFromErrno(errno);
   return std::nullopt;
 }
 
-std::optional<FileError> ReplaceDamaged(const std::string& path, std::string_view content,
-                                        NewFileOwner owner) {
-  const auto name = FreeNameAside(path);
+std::optional<FileError> ReplaceAndKeep(const std::string& path, std::string_view content,
+                                        std::string_view mark, NewFileOwner owner) {
+  const auto name = FreeNameAside(path, mark);
   if (!name) return FileError::Full;
   const bool hasBothNames = link(path.c_str(), name->c_str()) == 0;
   if (!hasBothNames) {
     // A disk without hard links.
-    if (const auto error = KeepAside(path)) return error;
+    if (const auto error = KeepAside(path, mark)) return error;
   }
   const auto error = ReplaceFile(path, content, owner);
   if (error && hasBothNames) unlink(name->c_str());

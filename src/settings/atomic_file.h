@@ -47,13 +47,17 @@ std::optional<FileError> SaveFile(const std::string& path, std::string_view cont
 /// The caller must keep other writers of `path` away meanwhile.
 void RemoveLeftovers(const std::string& path);
 
-/// Renames the file `path` to `path` + ".damaged" or, if that name is taken, ".damaged-2" and so
-/// on: nothing is overwritten. The caller must keep other writers of `path` away meanwhile.
-std::optional<FileError> KeepAside(const std::string& path);
+/// What is added to the name of a file that is kept aside.
+inline constexpr std::string_view kDamagedMark = ".damaged";
+inline constexpr std::string_view kBeforeImportMark = ".before-import";
+
+/// Renames the file `path` to `path` + `mark` or, if that name is taken, `mark` + "-2" and so on:
+/// nothing is overwritten. The caller must keep other writers of `path` away meanwhile.
+std::optional<FileError> KeepAside(const std::string& path, std::string_view mark);
 
 /// ReplaceFile for a file that is kept aside, under a name as above. If it fails, the file keeps
 /// its own name (on a disk without hard links the one aside).
-std::optional<FileError> ReplaceDamaged(const std::string& path, std::string_view content,
-                                        NewFileOwner owner);
+std::optional<FileError> ReplaceAndKeep(const std::string& path, std::string_view content,
+                                        std::string_view mark, NewFileOwner owner);
 
 }  // namespace kav

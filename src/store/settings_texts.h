@@ -45,6 +45,15 @@ inline std::u16string SettingsCannotBeSaved(std::string_view path, FileError err
   return FileFailure(u"The settings cannot be saved in ", Widen(path), ReasonAndRemedy(error));
 }
 
+inline constexpr std::u16string_view kCannotExport = u"The settings cannot be written to ";
+inline constexpr std::u16string_view kCannotImport = u"The settings cannot be read from ";
+
+// Why a text is not taken as all settings.
+inline constexpr std::u16string_view kNoSettingsToImport =
+    u"This is no file of settings that the calculator has exported. Nothing was changed.";
+inline constexpr std::u16string_view kTooLargeForSettings =
+    u"This is larger than 4 MB, and no file of settings. Nothing was changed.";
+
 /// Follows SettingsCannotBeSaved in a program that goes on with them.
 inline constexpr std::u16string_view kUntilThenTheyLast =
     u" Until then they last as long as the calculator runs.";

@@ -5,6 +5,7 @@
 #include <limits>
 #include <utility>
 
+#include "settings/keys.h"
 #include "store/toml_library.h"
 #include "store/toml_text.h"
 #include "store/toml_writer.h"
@@ -98,6 +99,11 @@ std::optional<SettingsTable> ReadSettings(std::string_view toml) {
     }
   }
   return settings;
+}
+
+bool IsExport(std::string_view toml) {
+  const auto settings = ReadSettings(toml);
+  return settings && FindSetting(*settings, kVersion.section, kVersion.name) != nullptr;
 }
 
 std::optional<std::string> WithChanges(std::string_view toml, const SettingsTable& changes) {

@@ -25,6 +25,9 @@ const StoredSetting* FindSetting(const SettingsTable& settings, std::string_view
 /// sections, are no settings and left out. An empty text holds no settings and is not damaged.
 std::optional<SettingsTable> ReadSettings(std::string_view toml);
 
+/// Whether `toml` is a text that was exported, or a settings file of the calculator.
+bool IsExport(std::string_view toml);
+
 /// `toml` with every setting of `changes` in it; nullopt if `toml` is damaged, as above. Everything
 /// else in it keeps its value, also if it is no setting; comments and the order of lines do not
 /// last. A value gives way to a section of the same name. If `toml` holds all `changes` already, it

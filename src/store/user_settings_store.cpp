@@ -1,5 +1,7 @@
 #include "store/user_settings_store.h"
 
+#include <unistd.h>
+
 #include <cstddef>
 #include <new>
 #include <utility>
@@ -7,7 +9,9 @@
 
 #include "common/expected.h"
 #include "common/number_text.h"
+#include "common/version.h"
 #include "settings/atomic_file.h"
+#include "settings/keys.h"
 #include "store/file_lock.h"
 #include "store/settings_texts.h"
 
@@ -242,7 +246,7 @@ UserSettingsStore::Outcome UserSettingsStore::Merge(const std::string& file) {
   if (!readBack) return Hindrance{NotSaved(FileError::TooLarge)};
   std::optional<FileError> error;
   if (isDamaged || isOverUnread) {
-    error = ReplaceDamaged(file, *merged, NewFileOwner::OwnerOfFolder);
+    error = ReplaceAndKeep(file, *merged, kDamagedMark, NewFileOwner::OwnerOfFolder);
   } else if (*merged != *current) {
     error = ReplaceFile(file, *merged, NewFileOwner::OwnerOfFolder);
   }
@@ -252,6 +256,49 @@ UserSettingsStore::Outcome UserSettingsStore::Merge(const std::string& file) {
   // Should it fail again, that is news.
   told_.clear();
   if (std::exchange(isUnread_, false) && isOverUnread) Tell(SettingsWereUnread(path_));
+  MarkChanged();
+  return std::nullopt;
+}
+
+Expected<std::string, std::u16string> UserSettingsStore::Export() const {
+  const auto text = [this]() -> Expected<std::string, std::u16string> {
+    auto read = path_.empty() ? ReadOutcome{SettingsTable(), {}} : ReadStored(path_);
+    if (!read.settings) return std::move(read.notice);
+    Lay(*read.settings, changes_);
+    // What tells an import that the text is one of settings, whoever has stored any.
+    (*read.settings)[std::string(kVersion.section)].try_emplace(std::string(kVersion.name),
+                                                                std::string(KAV_VERSION));
+    return *WithChanges("", *read.settings);
+  };
+  return WithMemoryFor(text, Expected<std::string, std::u16string>(
+                                 SettingsCannotBeRead(path_, FileError::NoMemory)));
+}
+
+std::optional<std::u16string> UserSettingsStore::Import(std::string_view toml) {
+  if (toml.size() > kLargestFile) return std::u16string(kTooLargeForSettings);
+  if (!IsExport(toml)) return std::u16string(kNoSettingsToImport);
+  const auto settings = ReadSettings(toml);
+  auto hindrance =
+      WithLock(patience_, [&](const std::string& file) { return ReplaceBy(file, *settings); });
+  if (!hindrance) return std::nullopt;
+  return std::move(hindrance->text);
+}
+
+/// Makes `settings` all that the file holds. Only while the lock is held.
+UserSettingsStore::Outcome UserSettingsStore::ReplaceBy(const std::string& file,
+                                                        const SettingsTable& settings) {
+  const auto text = WithChanges("", settings);
+  auto readBack = text ? ReadBack(*text) : std::nullopt;
+  if (!readBack) return Hindrance{NotSaved(FileError::TooLarge)};
+  const bool isThere = access(file.c_str(), F_OK) == 0;
+  const auto error =
+      isThere ? ReplaceAndKeep(file, *text, kBeforeImportMark, NewFileOwner::OwnerOfFolder)
+              : ReplaceFile(file, *text, NewFileOwner::OwnerOfFolder);
+  if (error) return Hindrance{NotSaved(*error)};
+  stored_ = std::move(readBack);
+  changes_.clear();
+  told_.clear();
+  isUnread_ = false;
   MarkChanged();
   return std::nullopt;
 }

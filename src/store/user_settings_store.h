@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "common/expected.h"
 #include "settings/file_error.h"
 #include "settings/settings_store.h"
 #include "store/settings_toml.h"
@@ -58,6 +59,15 @@ class UserSettingsStore final : public SettingsStore {
   /// was taken back.
   std::optional<std::u16string> TakeBackUnsaved();
 
+  /// Everything that is stored, and what is changed and not saved yet, as a text that Import takes;
+  /// or why it cannot be had.
+  Expected<std::string, std::u16string> Export() const;
+
+  /// Makes the settings in `toml` all there are, on the disk before it returns. The file as it was
+  /// is kept beside, with ".before-import" after its name. Answers why nothing was changed; nullopt
+  /// if it was.
+  std::optional<std::u16string> Import(std::string_view toml);
+
   /// For dialogs that should show what other processes have stored. No effect if the file cannot be
   /// read or is damaged, and none before settings are first asked for, which reads them anyway.
   void Refresh() override;
@@ -85,6 +95,7 @@ class UserSettingsStore final : public SettingsStore {
                    const std::function<Outcome(const std::string& file)>& action);
   Outcome SaveOver(const std::string& file);
   Outcome Merge(const std::string& file);
+  Outcome ReplaceBy(const std::string& file, const SettingsTable& settings);
   SettingsTable All() const;
   void Tell(std::u16string text) const;
 

@@ -25,6 +25,8 @@ class FileFrame final : public Frame {
   const ScreenDialogs& Dialogs() const override { return dialogs; }
   std::vector<ScreenChoice> ScreensBeside(ScreenMode) const override { return {}; }
   void SaveStore() override { ++saves; }
+  void ExportSettings(QWidget*) override {}
+  void ImportSettings(QWidget*) override {}
   void ChangeMode(ScreenMode) override {}
   void Exit() override {}
 

@@ -52,6 +52,8 @@ class FakeFrame final : public Frame {
   const ScreenDialogs& Dialogs() const override { return dialogs; }
   std::vector<ScreenChoice> ScreensBeside(ScreenMode) const override { return others; }
   void SaveStore() override { ++saves; }
+  void ExportSettings(QWidget*) override { ++exports; }
+  void ImportSettings(QWidget*) override { ++imports; }
   void ChangeMode(ScreenMode mode) override { modes.push_back(mode); }
   void Exit() override { ++exits; }
 
@@ -60,6 +62,8 @@ class FakeFrame final : public Frame {
   std::vector<ScreenChoice> others;
   int saves = 0;
   int exits = 0;
+  int exports = 0;
+  int imports = 0;
   std::vector<ScreenMode> modes;
 };
 

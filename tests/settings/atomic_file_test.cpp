@@ -279,7 +279,7 @@ TEST(KeepAside, OverwritesNothing) {
   const TemporaryFolder folder;
   for (const char* content : {"first", "second", "third"}) {
     PutFile(folder.File("a"), content);
-    EXPECT_EQ(KeepAside(folder.File("a")), std::nullopt);
+    EXPECT_EQ(KeepAside(folder.File("a"), kDamagedMark), std::nullopt);
   }
   EXPECT_EQ(FileContent(folder.File("a.damaged")), "first");
   EXPECT_EQ(FileContent(folder.File("a.damaged-2")), "second");
@@ -291,16 +291,16 @@ TEST(KeepAside, ALinkThatLeadsNowhereIsNotOverwrittenEither) {
   const TemporaryFolder folder;
   symlink("nowhere", folder.File("a.damaged").c_str());
   PutFile(folder.File("a"), "damaged");
-  EXPECT_EQ(KeepAside(folder.File("a")), std::nullopt);
+  EXPECT_EQ(KeepAside(folder.File("a"), kDamagedMark), std::nullopt);
   EXPECT_EQ(FileContent(folder.File("a.damaged-2")), "damaged");
 }
 
-TEST(ReplaceDamaged, KeepsTheOldFileAsideAndItsPermissions) {
+TEST(ReplaceAndKeep, KeepsTheOldFileAsideAndItsPermissions) {
   const TemporaryFolder folder;
   PutFile(folder.File("a.damaged"), "earlier");
   PutFile(folder.File("a"), "?");
   chmod(folder.File("a").c_str(), 0640);
-  EXPECT_EQ(ReplaceDamaged(folder.File("a"), "new", NewFileOwner::ThisUser), std::nullopt);
+  EXPECT_EQ(ReplaceAndKeep(folder.File("a"), "new", kDamagedMark, NewFileOwner::ThisUser), std::nullopt);
   EXPECT_EQ(folder.Names(), (Names{"a", "a.damaged", "a.damaged-2"}));
   EXPECT_EQ(FileContent(folder.File("a")), "new");
   EXPECT_EQ(FileContent(folder.File("a.damaged-2")), "?");
@@ -308,14 +308,14 @@ TEST(ReplaceDamaged, KeepsTheOldFileAsideAndItsPermissions) {
   EXPECT_EQ(PermissionsOf(folder.File("a")), 0640U);
 }
 
-TEST(ReplaceDamaged, LeavesTheOldFileInItsPlaceIfTheNewCannotBeWritten) {
+TEST(ReplaceAndKeep, LeavesTheOldFileInItsPlaceIfTheNewCannotBeWritten) {
   const TemporaryFolder folder;
   PutFile(folder.File("a"), "?");
   EXPECT_EQ(InAnotherProcess([&] {
               SurviveSizeLimit();
               const rlimit limit{0, 0};
               if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return 2;
-              const auto error = ReplaceDamaged(folder.File("a"), "new", NewFileOwner::ThisUser);
+              const auto error = ReplaceAndKeep(folder.File("a"), "new", kDamagedMark, NewFileOwner::ThisUser);
               return error == FileError::SizeLimit ? 0 : 1;
             }),
             0);
@@ -325,7 +325,7 @@ TEST(ReplaceDamaged, LeavesTheOldFileInItsPlaceIfTheNewCannotBeWritten) {
 
 TEST(KeepAside, AMissingFileIsRefused) {
   const TemporaryFolder folder;
-  EXPECT_EQ(KeepAside(folder.File("a")), FileError::NotThere);
+  EXPECT_EQ(KeepAside(folder.File("a"), kDamagedMark), FileError::NotThere);
 }
 
 }  // namespace

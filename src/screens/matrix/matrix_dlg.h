@@ -21,6 +21,8 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   explicit CMatrixDlg(Frame& frame);
   ~CMatrixDlg() override;
 
+  void Keep() override { model_.Save(); }
+
   /// Another screen may take this one's place: the matrices are kept. Before the end it asks.
   bool MayLeave(LeaveReason reason) override;
 

@@ -24,6 +24,8 @@ class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
   explicit CPlotterDlg(Frame& frame);
   ~CPlotterDlg() override;
 
+  void Keep() override { model_.Save(); }
+
  private:
   void MakeList();
   void OrderTabs();

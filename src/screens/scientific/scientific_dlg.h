@@ -16,6 +16,8 @@ class CScientificDlg final : public KeyScreenOf<Key, ScientificModel, LineScreen
   explicit CScientificDlg(Frame& frame);
   ~CScientificDlg() override;
 
+  void Keep() override { model_.Save(); }
+
  private:
   void OnKey(Key key) override;
   void OnEquals() override { OnKey(Key::Equals); }

@@ -37,6 +37,12 @@ inline constexpr std::u16string_view kConfigEntry = u"&Config...";
 inline constexpr std::u16string_view kEditUnitsEntry = u"Edit &Unit Convert";
 inline constexpr std::u16string_view kEditMacroEntry = u"Edit &Macro";
 inline constexpr std::u16string_view kPlotterEditMacroEntry = u"Edit &Macro...";
+inline constexpr std::u16string_view kExportEntry = u"Ex&port Settings...";
+inline constexpr std::u16string_view kImportEntry = u"&Import Settings...";
+inline constexpr std::u16string_view kImportQuestion =
+    u"Replace everything that is stored (settings, macros, memory variables, conversions, "
+    u"equations) by what this file holds? What is stored now is kept beside the settings, with "
+    u"\".before-import\" after the name.";
 inline constexpr std::u16string_view kExitEntry = u"E&xit";
 
 inline constexpr std::u16string_view kEditMenu = u"&Edit";

@@ -71,6 +71,11 @@ class Frame {
   /// the user, once.
   virtual void SaveStore() = 0;
 
+  // Ask for a file, and write all settings into it, or make those in it all there are: the calling
+  // screen then makes room for a new one. `parent` is the screen.
+  virtual void ExportSettings(QWidget* parent) = 0;
+  virtual void ImportSettings(QWidget* parent) = 0;
+
   // Both end the calling screen, but not before the current event has been handled.
   virtual void ChangeMode(ScreenMode mode) = 0;
   virtual void Exit() = 0;

@@ -149,6 +149,16 @@ void Screen::EndProgram() {
   if (MayBeLeft(LeaveReason::Ending)) frame_.Exit();
 }
 
+void Screen::ExportSettings() {
+  Keep();
+  frame_.ExportSettings(this);
+}
+
+void Screen::ImportSettings() {
+  // As before a change of screens: this one goes.
+  if (MayBeLeft(LeaveReason::Switching)) frame_.ImportSettings(this);
+}
+
 void Screen::GoTo(ScreenMode mode) {
   if (MayBeLeft(LeaveReason::Switching)) frame_.ChangeMode(mode);
 }
@@ -166,6 +176,8 @@ void Screen::AddFileMenu(const FileCommands& commands) {
                       {kConfigEntry, commands.config, KeysOf(ScreenCommand::Config)},
                       {kEditUnitsEntry, commands.editUnits},
                       {commands.editMacrosEntry, commands.editMacros},
+                      {kExportEntry, [this] { ExportSettings(); }},
+                      {kImportEntry, [this] { ImportSettings(); }},
                       {kExitEntry, [this] { EndProgram(); }, KeysOf(ScreenCommand::Exit)}});
 }
 

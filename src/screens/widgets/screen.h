@@ -57,6 +57,8 @@ class Screen : public QWidget {
   /// Called before the user goes to another screen or ends the program: asks whether to save.
   /// Answers whether the screen may be left; if not, it stays.
   virtual bool MayLeave(LeaveReason) { return true; }
+  /// Writes into the store what the screen leaves behind when it goes.
+  virtual void Keep() {}
   /// The same for all that would go: before the end also for what other screens left.
   bool MayBeLeft(LeaveReason reason) {
     return MayLeave(reason) && (reason != LeaveReason::Ending || frame_.MayEnd(this));
@@ -97,6 +99,8 @@ class Screen : public QWidget {
   void MakeShortcuts();
   void EndProgram();
   void GoTo(ScreenMode mode);
+  void ExportSettings();
+  void ImportSettings();
   const QWidget* FirstInRound() const;
 
   Frame& frame_;
