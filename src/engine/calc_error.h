@@ -1,7 +1,9 @@
 // Why a calculation has no result: a code and its finished message.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -26,12 +28,24 @@ enum class CalcErrorCode : std::uint8_t {
   Free,                  ///< NAME itself
 };
 
-/// A failure of the engine. The message is 8-bit and shown as it is.
+/// Characters of a text that was evaluated. Of length 0: behind the character before `position`.
+struct TextPlace {
+  std::size_t position = 0;
+  std::size_t length = 0;
+
+  bool operator==(const TextPlace&) const = default;
+};
+
+/// A failure of the engine. The message is 8-bit and shown as it is. `place`, if known, is where in
+/// the text the failure lies, in bytes; it does not tell two failures apart.
 struct CalcError {
   CalcErrorCode code;
   std::string message;
+  std::optional<TextPlace> place = {};
 
-  bool operator==(const CalcError&) const = default;
+  bool operator==(const CalcError& other) const {
+    return code == other.code && message == other.message;
+  }
 };
 
 /// The error `code` with its message about `name` (ignored if the message names nothing).

@@ -1,10 +1,12 @@
 // What "=" does to a line of numbers.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "common/expected.h"
+#include "engine/calc_error.h"
 #include "engine/calc_modes.h"
 #include "macros/macro_store.h"
 
@@ -16,6 +18,7 @@ struct LineFailure {
   enum class Cause { EmptyLine, MacroCall, Evaluation };
   Cause cause;
   std::string message;
+  std::optional<TextPlace> place = {};  ///< in bytes of the line, if known
 };
 
 /// The value, always finite, of `line` (UTF-8, as typed) in `modes`. Blanks around it are taken

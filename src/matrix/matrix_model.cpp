@@ -8,11 +8,13 @@
 #include "common/number_text.h"
 #include "line/line_texts.h"
 #include "line/shown_number.h"
+#include "macros/line_fault.h"
 #include "macros/macro_call.h"
 #include "matrix/cell_number.h"
 #include "matrix/cell_table_text.h"
 #include "matrix/live_matrix.h"
 #include "matrix/matrix_evaluator.h"
+#include "matrix/matrix_fault.h"
 #include "matrix/matrix_line.h"
 #include "matrix/matrix_menus.h"
 #include "matrix/matrix_texts.h"
@@ -36,14 +38,14 @@ TellStop TellInvalid(const Matrices& matrices, int index) {
 MatrixModel::MatrixModel(SettingsStore& store)
     : store_(store),
       macros_(store),
-      angle_(AngleUnitFromSetting(store.Get(kAngleType))),
+      modes_{AngleUnitFromSetting(store.Get(kAngleType)), BaseMode::Decimal},
       settings_(LoadDisplaySettings(store)),
       converter_(store),
       history_(History::Load(store, kMatrixHistory)),
       board_(settings_) {}
 
 void MatrixModel::Save() const {
-  store_.Set(kAngleType, static_cast<std::int32_t>(angle_));
+  store_.Set(kAngleType, static_cast<std::int32_t>(modes_.angleUnit));
   for (const IntegerKey& key : kReadOnly) store_.Set(key, store_.Get(key));
   converter_.Save(store_);
   history_.Save(store_, kMatrixHistory);
@@ -55,18 +57,17 @@ void MatrixModel::SetLine(std::u16string text, Selection selection) {
 
 std::optional<std::u16string> MatrixModel::LiveResult(std::u16string_view line) const {
   if (store_.Get(kLiveResult) == 0) return std::nullopt;
-  const CalcModes modes{angle_, BaseMode::Decimal};
-  const bool isAnswered = answered_ && answered_->Is(line, modes);
+  const bool isAnswered = answered_ && answered_->Is(line, modes_);
   if (isAnswered && answeredChanges_ == board_.ChangeCount()) return std::nullopt;
   const std::u16string_view text = TrimBlanks(line);
   if (IsMatrixExpression(text)) return LiveOrder(text, AllMatrices());
   // There "=" gives no number either.
   if (Shown() == kAnswerMatrix) return std::nullopt;
-  return LiveNumber(text, modes, settings_.normal, macros_);
+  return LiveNumber(text, modes_, settings_.normal, macros_);
 }
 
 std::u16string_view MatrixModel::Caption(MatrixKey key) const {
-  return key == MatrixKey::Deg ? AngleCaption(angle_) : RowOf(key).plain.caption;
+  return key == MatrixKey::Deg ? AngleCaption(modes_.angleUnit) : RowOf(key).plain.caption;
 }
 
 bool MatrixModel::IsEnabled(MatrixKey key) const {
@@ -97,7 +98,7 @@ MatrixRequest MatrixModel::Press(MatrixKey key) {
       return AskMatrixSize{ShownMatrix().rows, ShownMatrix().columns};
     case MatrixKey::Equals: {
       MatrixRequest request = Evaluate();
-      answered_ = AnsweredLine{line_.Text(), {angle_, BaseMode::Decimal}};
+      answered_ = AnsweredLine{line_.Text(), modes_};
       answeredChanges_ = board_.ChangeCount();
       return request;
     }
@@ -110,13 +111,14 @@ MatrixRequest MatrixModel::Press(MatrixKey key) {
 void MatrixModel::Write(MatrixKey key) {
   switch (key) {
     case MatrixKey::Deg:
-      angle_ = OtherAngleUnit(angle_);
+      modes_.angleUnit = OtherAngleUnit(modes_.angleUnit);
       return;
     case MatrixKey::Backspace:
       return line_.DeleteBackward();
     case MatrixKey::Delete:
       return line_.DeleteForward();
     case MatrixKey::Clear:
+      fault_.reset();
       return line_.Clear();
     default:
       break;
@@ -126,23 +128,25 @@ void MatrixModel::Write(MatrixKey key) {
 
 MatrixRequest MatrixModel::Evaluate() {
   const std::u16string text(TrimBlanks(std::u16string_view(line_.Text())));
+  fault_.reset();
   if (IsMatrixExpression(text)) {
     line_.SelectAll();
     return EvaluateMatrix(text);
   }
   // A number beside [M Ans] would look like a part of that answer.
-  if (Shown() != kAnswerMatrix) EvaluateNumber(text);
+  if (Shown() != kAnswerMatrix) EvaluateNumber();
   return Nothing{};
 }
 
-void MatrixModel::EvaluateNumber(std::u16string_view text) {
+void MatrixModel::EvaluateNumber() {
   line_.SelectAll();
-  const auto value = EvaluateTypedLine(text, {angle_, BaseMode::Decimal}, store_, macros_);
+  const auto value = EvaluateTypedLine(line_.Text(), modes_, store_, macros_);
   if (value) {
     lastAnswer_ = *value;
     return ShowAnswer();
   }
   lastAnswer_.reset();
+  fault_ = FaultOf(line_.Text(), value.error(), modes_, macros_);
   const bool isEmpty = value.error().cause == LineFailure::Cause::EmptyLine;
   resultText_ = isEmpty ? std::u16string(kNoExpression) : Widen(value.error().message);
 }
@@ -157,6 +161,7 @@ MatrixRequest MatrixModel::EvaluateMatrix(std::u16string_view text) {
   // Before the answer replaces a matrix that the line names.
   std::u16string news = notes_.NewsOf(text, AllMatrices(), settings_.matrix);
   if (!result) {
+    fault_ = MatrixFaultOf(line_.Text(), result.error(), AllMatrices());
     board_.Lock();
     return TellStop{Widen(result.error().message), std::move(news)};
   }
@@ -167,6 +172,17 @@ MatrixRequest MatrixModel::EvaluateMatrix(std::u16string_view text) {
 
 void MatrixModel::ShowAnswer() {
   resultText_ = ShownNumber(*lastAnswer_, settings_.normal, BaseMode::Decimal);
+}
+
+const std::optional<LineFault>& MatrixModel::Fault() const {
+  static const std::optional<LineFault> kNone;
+  return answered_ && answered_->text == line_.Text() ? fault_ : kNone;
+}
+
+MatrixRequest MatrixModel::TakeMend() {
+  if (!Fault() || !Fault()->mended) return Nothing{};
+  line_.Set(*Fault()->mended, {});
+  return Press(MatrixKey::Equals);
 }
 
 Menu MatrixModel::MenuOf(MatrixKey key) const {

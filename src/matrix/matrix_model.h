@@ -14,6 +14,7 @@
 #include "line/expression_line.h"
 #include "line/history.h"
 #include "line/key_request.h"
+#include "line/line_mend.h"
 #include "line/screen_menus.h"
 #include "macros/live_result.h"
 #include "macros/macro_store.h"
@@ -59,6 +60,10 @@ class MatrixModel {
   /// is nothing to say, or the user does not want it.
   std::optional<std::u16string> LiveResult(std::u16string_view line) const;
   const History& PastLines() const { return history_; }
+  /// About the line, if the last "=" failed and the line is still that one.
+  const std::optional<LineFault>& Fault() const;
+  /// Writes the mended line and evaluates it; does nothing without a mend.
+  MatrixRequest TakeMend();
 
   // The keys and the menus that they open.
   std::u16string_view Caption(MatrixKey key) const;
@@ -135,7 +140,7 @@ class MatrixModel {
  private:
   void Write(MatrixKey key);
   MatrixRequest Evaluate();
-  void EvaluateNumber(std::u16string_view text);
+  void EvaluateNumber();
   MatrixRequest EvaluateMatrix(std::u16string_view text);
   void ShowAnswer();
   MatrixRequest Insert(double value);
@@ -145,7 +150,7 @@ class MatrixModel {
 
   SettingsStore& store_;
   MacroStore macros_;
-  AngleUnit angle_;
+  CalcModes modes_;
   DisplaySettings settings_;
   ConverterLink converter_;
   History history_;
@@ -155,6 +160,7 @@ class MatrixModel {
   ExpressionLine line_;
   std::u16string resultText_;
   std::optional<AnsweredLine> answered_;  ///< by the last "="
+  std::optional<LineFault> fault_;        ///< of that line, if it failed
   std::size_t answeredChanges_ = 0;       ///< of the matrices by then
   std::optional<double> lastAnswer_;      ///< nullopt after a failure and before the first
 };

@@ -6,6 +6,7 @@
 #include "common/number_text.h"
 #include "line/line_texts.h"
 #include "line/shown_number.h"
+#include "macros/line_fault.h"
 #include "macros/macro_call.h"
 #include "settings/keys.h"
 
@@ -95,6 +96,7 @@ void ScientificModel::Change(Key key) {
     case Key::Delete:
       return line_.DeleteForward();
     case Key::Clear:
+      fault_.reset();
       expression_ = line_.Text();
       return line_.Clear();
     case Key::Equals:
@@ -130,6 +132,7 @@ void ScientificModel::Evaluate() {
 
 void ScientificModel::Answer(double value) {
   lastAnswer_ = value;
+  fault_.reset();
   errorText_.clear();
   ShowAnswer();
   if (history_.NewestIs(expression_)) return;
@@ -139,9 +142,21 @@ void ScientificModel::Answer(double value) {
 
 void ScientificModel::Fail(const LineFailure& failure) {
   lastAnswer_ = 0;
+  fault_ = FaultOf(expression_, failure, modes_, macros_);
   resultText_ = Widen(failure.message);
   errorText_ = failure.cause == LineFailure::Cause::EmptyLine ? kNoExpression : resultText_;
   if (failure.cause == LineFailure::Cause::Evaluation) history_.Add(expression_);
+}
+
+const std::optional<LineFault>& ScientificModel::Fault() const {
+  static const std::optional<LineFault> kNone;
+  return answered_ && answered_->text == line_.Text() ? fault_ : kNone;
+}
+
+ScientificRequest ScientificModel::TakeMend() {
+  if (!Fault() || !Fault()->mended) return Nothing{};
+  line_.Set(*Fault()->mended, {});
+  return Press(Key::Equals);
 }
 
 void ScientificModel::ShowAnswer() {
@@ -181,6 +196,7 @@ void ScientificModel::ChooseBase(int id) {
   const auto base = BaseOfItem(id);
   if (!base || *base == modes_.baseMode) return;
   modes_.baseMode = *base;
+  fault_.reset();
   ShowAnswer();
 }
 

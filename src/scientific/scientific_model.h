@@ -14,6 +14,7 @@
 #include "line/key_request.h"
 #include "line/key_state.h"
 #include "line/keypad.h"
+#include "line/line_mend.h"
 #include "line/screen_menus.h"
 #include "macros/line_evaluator.h"
 #include "macros/live_result.h"
@@ -73,6 +74,10 @@ class ScientificModel {
   const History& PastLines() const { return history_; }
   /// The message of the last "="; empty if that had an answer, and before the first "=".
   const std::u16string& ErrorText() const { return errorText_; }
+  /// About the line, if the last "=" failed and the line is still that one.
+  const std::optional<LineFault>& Fault() const;
+  /// Writes the mended line and evaluates it; does nothing without a mend.
+  ScientificRequest TakeMend();
   /// The line as it was when "=" or CLR was last pressed.
   const std::u16string& Expression() const { return expression_; }
 
@@ -101,6 +106,7 @@ class ScientificModel {
   std::u16string resultText_;
   double lastAnswer_ = 0;
   std::optional<AnsweredLine> answered_;  ///< by the last "="
+  std::optional<LineFault> fault_;        ///< of that line, if it failed
 };
 
 }  // namespace kav

@@ -42,7 +42,7 @@ class MacroExpansion : public testing::Test {
   /// The expanded text, or the message.
   std::string Expand(std::string_view line, CalcModes modes = kDegrees) {
     const auto expanded = ExpandMacros(line, modes, MacroStore(store_));
-    return expanded ? expanded->text : expanded.error();
+    return expanded ? expanded->text : expanded.error().message;
   }
 
   MemorySettingsStore store_;
@@ -283,11 +283,11 @@ TEST(MacroExpansionCost, MegabyteOfMarksOrParenthesesIsRefusedAtOnce) {
   for (int i = 0; i < 524288; ++i) marks += "M:";
   const auto refused = ExpandMacros(marks, kDegrees, MacroStore(store));
   ASSERT_FALSE(refused);
-  EXPECT_EQ(refused.error(), "Macro Name error");
+  EXPECT_EQ(refused.error().message, "Macro Name error");
 
   const auto open = ExpandMacros("M:sq" + std::string(1048576, '('), kDegrees, MacroStore(store));
   ASSERT_FALSE(open);
-  EXPECT_EQ(open.error(), "Macro argument error");
+  EXPECT_EQ(open.error().message, "Macro argument error");
 }
 
 TEST_F(MacroExpansion, RandomLinesAreExpandedOrRefusedAndAlwaysTheSameWay) {
