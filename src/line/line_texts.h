@@ -35,6 +35,7 @@ inline constexpr std::u16string_view kRecalledIsTooLarge =
 
 inline constexpr std::u16string_view kExpressionName = u"Expression";
 inline constexpr std::u16string_view kResultName = u"Result";
+inline constexpr std::u16string_view kLiveResultName = u"Live result";
 inline constexpr std::u16string_view kShiftIsOn = u"on";
 
 }  // namespace kav

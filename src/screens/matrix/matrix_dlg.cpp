@@ -66,7 +66,9 @@ void CMatrixDlg::BeginCellEdit(int row, int column) {
 void CMatrixDlg::OnKey(MatrixKey key) {
   if (!grid_.FinishEdit()) return;
   KeyScreenOf::OnKey(key);
-  if (key == MatrixKey::Equals) SaveAfterPainting([this] { model_.Save(); });
+  if (key != MatrixKey::Equals) return;
+  FinishLine();
+  SaveAfterPainting([this] { model_.Save(); });
 }
 
 void CMatrixDlg::OnTab(int index) {
@@ -93,6 +95,7 @@ void CMatrixDlg::ShowMatrix() {
   if (model_.Board().ChangeCount() != seenChanges_) isLineNewer_ = false;
   seenChanges_ = model_.Board().ChangeCount();
   Result().Show(model_.ResultText());
+  ShowLive();
   RefreshKeys();
   {
     const QSignalBlocker quiet(tabs_);

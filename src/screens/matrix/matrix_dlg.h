@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "matrix/matrix_model.h"
 #include "screens/matrix/matrix_grid_view.h"
@@ -36,6 +37,10 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   QRect Area() const override;
   GuidePage Page() const override { return GuidePage::Matrix; }
   void LayOut(const DialogUnits& units) override;
+  std::optional<std::u16string> LiveResult(std::u16string_view line) const override {
+    return model_.LiveResult(line);
+  }
+  HistoryWalk::Lines EarlierLines() const override { return TypedLines(model_.PastLines()); }
   void ShowMatrix();
 
   // What a key asks for.

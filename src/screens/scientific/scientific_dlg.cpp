@@ -23,7 +23,9 @@ CScientificDlg::~CScientificDlg() {
 
 void CScientificDlg::OnKey(Key key) {
   KeyScreenOf::OnKey(key);
-  if (key == Key::Equals) SaveAfterPainting([this] { model_.Save(); });
+  if (key != Key::Equals) return;
+  FinishLine();
+  SaveAfterPainting([this] { model_.Save(); });
 }
 
 void CScientificDlg::TakeLine() {
@@ -33,6 +35,7 @@ void CScientificDlg::TakeLine() {
 void CScientificDlg::Refresh() {
   WriteLine(Line(), model_.Line());
   Result().Show(model_.ResultText());
+  ShowLive();
   RefreshKeys();
   Line().setFocus();
 }

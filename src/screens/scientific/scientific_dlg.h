@@ -3,6 +3,8 @@
 
 #include <memory>
 #include <optional>
+#include <string>
+#include <string_view>
 
 #include "scientific/scientific_model.h"
 #include "screens/widgets/line_screen.h"
@@ -28,6 +30,10 @@ class CScientificDlg final : public KeyScreenOf<Key, ScientificModel, LineScreen
     return MenuPlaceOf(static_cast<Key>(key));
   }
   void LayOut(const DialogUnits& units) override;
+  std::optional<std::u16string> LiveResult(std::u16string_view line) const override {
+    return model_.LiveResult(line);
+  }
+  HistoryWalk::Lines EarlierLines() const override { return TypedLines(model_.PastLines()); }
 
   void CarryOut(const ScientificRequest& request) override;
 

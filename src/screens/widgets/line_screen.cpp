@@ -20,11 +20,12 @@ bool IsReturn(const QFocusEvent& event) {
 }  // namespace
 
 LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys)
-    : KeyScreen(frame, size), line_(new LineView(this)), result_(new ResultView(this)) {
+    : KeyScreen(frame, size), line_(new ExpressionView(this)), result_(new ResultView(this)) {
   line_->setAccessibleName(ToQt(kExpressionName));
   line_->setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
   line_->installEventFilter(this);
   result_->setAccessibleName(ToQt(kResultName));
+  connect(line_, &QLineEdit::textChanged, this, [this] { ShowLive(); });
   AddKeys(std::move(keys));
 }
 
@@ -60,13 +61,29 @@ bool LineScreen::eventFilter(QObject* watched, QEvent* event) {
 
 void LineScreen::keyPressEvent(QKeyEvent* event) {
   if (PressKeyOf(*event)) return;
-  if (focusWidget() == line_) {
-    if (event->key() == Qt::Key_Down) return Keys().Enter();
-    return KeyScreen::keyPressEvent(event);
-  }
+  if (focusWidget() == line_) return PressInLine(*event);
   if (!IsTyping(*event)) return KeyScreen::keyPressEvent(event);
   line_->setFocus();
+  // Out of the keys one only comes back to the line.
+  if (event->key() == Qt::Key_Up) return;
   QCoreApplication::sendEvent(line_, event);
+}
+
+/// What the line itself has no use for.
+void LineScreen::PressInLine(QKeyEvent& event) {
+  const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (event.key() == Qt::Key_Up && isPlain) {
+    return WriteLine(*line_, walk_.Up(LineIn(*line_), [this] { return EarlierLines(); }));
+  }
+  if (event.key() == Qt::Key_Down) {
+    const auto later = isPlain ? walk_.Down(LineIn(*line_)) : std::nullopt;
+    return later ? WriteLine(*line_, *later) : Keys().Enter();
+  }
+  KeyScreen::keyPressEvent(&event);
+}
+
+void LineScreen::ShowLive() {
+  line_->ShowLive(LiveResult(TextOf(*line_)));
 }
 
 QLineEdit& LineScreen::Edited() const {

@@ -2,8 +2,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
+#include "line/history_walk.h"
+#include "screens/widgets/expression_view.h"
 #include "screens/widgets/key_screen.h"
 #include "screens/widgets/line_view.h"
 
@@ -11,13 +16,14 @@ namespace kav {
 
 /// Enter, Esc and "=" of the keyboard press keys of the screen, whatever has the focus. Everything
 /// else that is typed goes to the expression line, unless the focused widget uses it. The Edit menu
-/// works on the result if some of it is selected, else on the line.
+/// works on the result if some of it is selected, else on the line. Up walks from the ends of the
+/// line through earlier ones, Down back, and then into the keys.
 class LineScreen : public KeyScreen {
  public:
   LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys);
 
  protected:
-  LineView& Line() const { return *line_; }
+  ExpressionView& Line() const { return *line_; }
   ResultView& Result() const { return *result_; }
 
   void Edit(EditCommand command) override;
@@ -26,6 +32,16 @@ class LineScreen : public KeyScreen {
   /// Paints both lines, and only then has `save` write the model into the store, and the store to
   /// disk.
   void SaveAfterPainting(const std::function<void()>& save);
+
+  /// What the line comes to, before it is answered; nullopt to show nothing.
+  virtual std::optional<std::u16string> LiveResult(std::u16string_view line) const = 0;
+  /// Shows that. For whatever changes it besides the text of the line.
+  void ShowLive();
+
+  /// The lines to which Up leads, the newest last. Asked for when it is first pressed in a line.
+  virtual HistoryWalk::Lines EarlierLines() const = 0;
+  /// "=" was pressed: a walk through those is over.
+  void FinishLine() { walk_.End(); }
 
   // The keys that the keyboard presses.
   virtual void OnEquals() = 0;
@@ -36,10 +52,12 @@ class LineScreen : public KeyScreen {
 
  private:
   bool PressKeyOf(const QKeyEvent& event);
+  void PressInLine(QKeyEvent& event);
   QLineEdit& Edited() const;
 
-  LineView* line_;
+  ExpressionView* line_;
   ResultView* result_;
+  HistoryWalk walk_;
 };
 
 }  // namespace kav

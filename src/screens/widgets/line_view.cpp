@@ -98,6 +98,12 @@ Selection SelectionOf(const QLineEdit& line) {
           static_cast<std::size_t>(line.selectionEnd())};
 }
 
+ExpressionLine LineIn(const QLineEdit& line) {
+  ExpressionLine shown;
+  shown.Set(TextOf(line), SelectionOf(line));
+  return shown;
+}
+
 void WriteLine(QLineEdit& widget, const ExpressionLine& line) {
   const std::u16string old = widget.text().toStdU16String();
   if (line.Text() != old) {

@@ -16,9 +16,9 @@ class LineView : public QLineEdit {
   explicit LineView(QWidget* parent);
 
   /// Letters are `pixels` high, or lower if the line would not fit the widget's present height.
-  void SetTextHeight(int pixels);
+  virtual void SetTextHeight(int pixels);
 
- private:
+ protected:
   void paintEvent(QPaintEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
@@ -28,6 +28,9 @@ class LineView : public QLineEdit {
 /// made. Line breaks and tabs read as blanks: what is pasted often ends with one.
 std::u16string TextOf(const QLineEdit& line);
 Selection SelectionOf(const QLineEdit& line);
+
+/// Both together.
+ExpressionLine LineIn(const QLineEdit& line);
 
 /// Makes the widget show `line`. What changes is one step for the line's undo.
 void WriteLine(QLineEdit& widget, const ExpressionLine& line);
