@@ -35,6 +35,9 @@ inline constexpr std::u16string_view kRecalledIsTooLarge =
 
 inline constexpr std::u16string_view kExpressionName = u"Expression";
 inline constexpr std::u16string_view kResultName = u"Result";
+// Before the line that a failed one becomes by a small mend.
+inline constexpr std::u16string_view kDidYouMean = u"Did you mean";
+
 inline constexpr std::u16string_view kLiveResultName = u"Live result";
 inline constexpr std::u16string_view kShiftIsOn = u"on";
 

@@ -45,6 +45,7 @@ class PlotterModel {
   // What the user types and chooses.
   const ExpressionLine& Input() const { return input_; }
   void SetInput(ExpressionLine input);
+  const History& PastLines() const { return history_; }
   const RangeTexts& Range() const { return range_; }
   void SetRangeText(RangeField field, std::u16string text);
   const GraphOptions& Options() const { return options_; }

@@ -65,10 +65,10 @@ void CMatrixDlg::BeginCellEdit(int row, int column) {
 
 void CMatrixDlg::OnKey(MatrixKey key) {
   if (!grid_.FinishEdit()) return;
+  const bool isEquals = key == MatrixKey::Equals;
+  if (isEquals) FinishLine();
   KeyScreenOf::OnKey(key);
-  if (key != MatrixKey::Equals) return;
-  FinishLine();
-  SaveAfterPainting([this] { model_.Save(); });
+  if (isEquals) SaveAfterPainting([this] { model_.Save(); });
 }
 
 void CMatrixDlg::OnTab(int index) {

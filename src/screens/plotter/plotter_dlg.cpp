@@ -170,11 +170,32 @@ bool CPlotterDlg::CanEdit(EditCommand command) const {
   return edited_ != nullptr ? CanEditLine(*edited_, command) : input_->CanEdit(command);
 }
 
+/// Whether `event`, pressed in the input, was a step to an earlier or a later one.
+bool CPlotterDlg::WalkHistory(const QKeyEvent& event) {
+  if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
+  FormulaView& input = input_->Formula();
+  const ExpressionLine line = input.Line();
+  if (event.key() == Qt::Key_Down) {
+    const auto later = walk_.Down(line);
+    if (later) input.Write(*later);
+    return later.has_value();
+  }
+  if (event.key() != Qt::Key_Up) return false;
+  const auto lines = [this] { return TypedLines(model_.PastLines()); };
+  const ExpressionLine earlier = walk_.Up(line, lines);
+  // Within the line, the caret goes from row to row.
+  if (earlier.Text() == line.Text() && !input.IsInFirstRow()) return false;
+  input.Write(earlier);
+  return true;
+}
+
 bool CPlotterDlg::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn) edited_ = qobject_cast<QLineEdit*>(watched);
-  // The letter of a key that is disabled, and so does not answer to Alt, would be written.
   if (event->type() == QEvent::KeyPress) {
-    return static_cast<QKeyEvent*>(event)->modifiers() == Qt::AltModifier;
+    const auto& pressed = *static_cast<QKeyEvent*>(event);
+    if (watched == &input_->Formula() && WalkHistory(pressed)) return true;
+    // The letter of a key that is disabled, and so does not answer to Alt, would be written.
+    return pressed.modifiers() == Qt::AltModifier;
   }
   return KeyScreen::eventFilter(watched, event);
 }

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string_view>
 
+#include "line/history_walk.h"
 #include "plotter/plotter_model.h"
 #include "screens/plotter/range_fields_view.h"
 #include "screens/widgets/key_screen.h"
@@ -18,7 +19,8 @@ class EquationInputView;
 
 /// Loads the settings when it is made and writes them into the frame's store when it is destroyed;
 /// each change of the equations is also saved to disk. Enter adds the input; Ctrl+Enter, and Enter
-/// in a field of the range, plots. What is typed goes to the input, unless a field has the focus.
+/// in a field of the range, plots. Up walks from the ends of the input through earlier ones. What
+/// is typed goes to the input, unless a field has the focus.
 class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
  public:
   explicit CPlotterDlg(Frame& frame);
@@ -51,6 +53,7 @@ class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
   void Edit(EditCommand command) override;
   bool CanEdit(EditCommand command) const override;
 
+  bool WalkHistory(const QKeyEvent& event);
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
@@ -61,6 +64,7 @@ class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
   QCheckBox* grid_;
   QCheckBox* line_;
   QLineEdit* edited_ = nullptr;  ///< null: the input
+  HistoryWalk walk_;
 };
 
 /// The function plotter's screen as the frame's table of screens has it.

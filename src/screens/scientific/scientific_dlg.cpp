@@ -22,10 +22,10 @@ CScientificDlg::~CScientificDlg() {
 }
 
 void CScientificDlg::OnKey(Key key) {
+  const bool isEquals = key == Key::Equals;
+  if (isEquals) FinishLine();
   KeyScreenOf::OnKey(key);
-  if (key != Key::Equals) return;
-  FinishLine();
-  SaveAfterPainting([this] { model_.Save(); });
+  if (isEquals) SaveAfterPainting([this] { model_.Save(); });
 }
 
 void CScientificDlg::TakeLine() {

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "screens/widgets/live_result_view.h"
 #include "screens/widgets/look.h"
@@ -14,7 +15,7 @@ namespace {
 
 /// Of the height of letters that have room.
 constexpr double kSmallestText = 0.5;
-constexpr double kLiveText = 0.52;
+constexpr double kLiveText = 0.46;
 constexpr int kSmallestLive = 9;
 
 /// What a line keeps free beside its text within its margins, and for the caret.
@@ -83,9 +84,9 @@ void ExpressionView::PlaceLive() {
   const int line = fontMetrics().height();
   const int top = (height() - line) / 2;
   const int end = isCut_ ? width() : margin_ + kBesideText + TextWidth(font().pixelSize());
-  const int outline = std::max(2, height() / 20);
-  live_->Place(rect().adjusted(margin_, outline, -margin_, -outline), QRect(0, top, end, line),
-               std::max(kSmallestLive, qRound(normal_ * kLiveText)));
+  const int outline = std::max(4, height() / 16);
+  live_->Place(rect().adjusted(margin_, outline, -margin_ - outline / 2, -outline / 2),
+               QRect(0, top, end, line), std::max(kSmallestLive, qRound(normal_ * kLiveText)));
 }
 
 void ExpressionView::MarkFault(std::optional<Selection> place) {

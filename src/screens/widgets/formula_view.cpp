@@ -2,9 +2,13 @@
 
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <algorithm>
+#include <optional>
 
 #include "line/expression_line.h"
+#include "screens/widgets/line_marks.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -27,6 +31,9 @@ FormulaView::FormulaView(int lines) : lines_(lines) {
   setTabChangesFocus(true);
   setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
+  connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { MarkPair(); });
+  connect(this, &QPlainTextEdit::selectionChanged, this, [this] { MarkPair(); });
+  connect(this, &QPlainTextEdit::textChanged, this, [this] { MarkPair(); });
 }
 
 ExpressionLine FormulaView::Line() const {
@@ -65,6 +72,24 @@ void FormulaView::Select(Selection selection) {
   cursor.setPosition(place(selection.start));
   cursor.setPosition(place(selection.end), QTextCursor::KeepAnchor);
   setTextCursor(cursor);
+}
+
+void FormulaView::MarkPair() {
+  const ExpressionLine line = Line();
+  QList<QTextEdit::ExtraSelection> marks;
+  for (const MarkedPart& part : MarkedParts(line.Text(), line.Selected(), std::nullopt)) {
+    QTextCursor place(document());
+    place.setPosition(part.start);
+    place.setPosition(part.start + part.length, QTextCursor::KeepAnchor);
+    marks.append({place, FormatOf(part.mark, palette())});
+  }
+  if (!marks.isEmpty() || !extraSelections().isEmpty()) setExtraSelections(marks);
+}
+
+bool FormulaView::IsInFirstRow() const {
+  const QTextCursor cursor = textCursor();
+  const QTextLine row = cursor.block().layout()->lineForTextPosition(cursor.positionInBlock());
+  return !row.isValid() || row.lineNumber() == 0;
 }
 
 QSize FormulaView::sizeHint() const {

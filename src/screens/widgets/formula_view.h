@@ -8,7 +8,7 @@
 namespace kav {
 
 /// A formula is one line, even if it is shown wrapped. Enter is left to the dialog, Tab moves on,
-/// and line breaks and tabs in pasted text become blanks.
+/// and line breaks and tabs in pasted text become blanks. The parentheses at the caret are marked.
 class FormulaView final : public QPlainTextEdit {
  public:
   /// As high as `lines` lines of text; more of them scroll.
@@ -21,6 +21,9 @@ class FormulaView final : public QPlainTextEdit {
   /// it is a new beginning instead, with nothing to be undone.
   void Write(const ExpressionLine& line);
 
+  /// Whether the caret stands in the first of the rows over which the formula is wrapped.
+  bool IsInFirstRow() const;
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -31,6 +34,7 @@ class FormulaView final : public QPlainTextEdit {
 
   void Change(const TextChange& change);
   void Select(Selection selection);
+  void MarkPair();
 
   int lines_;
 };

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "line/line_texts.h"
+#include "screens/widgets/offer_strip.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -80,6 +81,25 @@ void LineScreen::PressInLine(QKeyEvent& event) {
     return later ? WriteLine(*line_, *later) : Keys().Enter();
   }
   KeyScreen::keyPressEvent(&event);
+}
+
+void LineScreen::FinishLine() {
+  walk_.End();
+  ShowFault(std::nullopt, std::nullopt);
+}
+
+void LineScreen::ShowFault(std::optional<Selection> place,
+                           const std::optional<std::u16string>& mended) {
+  line_->MarkFault(place);
+  if (mended == offered_) return;
+  offered_ = mended;
+  if (offers_ != nullptr) offers_->Drop();
+  if (!mended) return;
+  if (offers_ == nullptr) {
+    offers_ = new OfferStrip(this);
+    offers_->StandBelow(*result_);
+  }
+  offers_->Offers(*line_, kDidYouMean, {{*mended, [this] { OnMend(); }}});
 }
 
 void LineScreen::ShowLive() {

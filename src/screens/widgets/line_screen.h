@@ -14,6 +14,8 @@
 
 namespace kav {
 
+class OfferStrip;
+
 /// Enter, Esc and "=" of the keyboard press keys of the screen, whatever has the focus. Everything
 /// else that is typed goes to the expression line, unless the focused widget uses it. The Edit menu
 /// works on the result if some of it is selected, else on the line. Up walks from the ends of the
@@ -40,8 +42,14 @@ class LineScreen : public KeyScreen {
 
   /// The lines to which Up leads, the newest last. Asked for when it is first pressed in a line.
   virtual HistoryWalk::Lines EarlierLines() const = 0;
-  /// "=" was pressed: a walk through those is over.
-  void FinishLine() { walk_.End(); }
+  /// "=" is pressed: a walk through those is over, and so is what an earlier "=" led to.
+  void FinishLine();
+
+  /// Marks where the last "=" failed (nullopt: nowhere to be told), and offers `mended`, if there
+  /// is one, below the result. That is said once for each "=".
+  void ShowFault(std::optional<Selection> place, const std::optional<std::u16string>& mended);
+  /// The user took the offer.
+  virtual void OnMend() {}
 
   // The keys that the keyboard presses.
   virtual void OnEquals() = 0;
@@ -58,6 +66,8 @@ class LineScreen : public KeyScreen {
   ExpressionView* line_;
   ResultView* result_;
   HistoryWalk walk_;
+  OfferStrip* offers_ = nullptr;  ///< made for the first offer
+  std::optional<std::u16string> offered_;
 };
 
 }  // namespace kav

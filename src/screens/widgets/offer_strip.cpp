@@ -264,7 +264,8 @@ int OfferStrip::NeededWidth(int pixels) const {
 /// Over what lies below the field, else above it, else over its end.
 QRect OfferStrip::PlaceFor(QSize size) const {
   const QWidget& screen = *parentWidget();
-  const QRect field(field_->mapTo(&screen, QPoint()), field_->size());
+  const QWidget& above = above_ != nullptr ? *above_ : *field_;
+  const QRect field(above.mapTo(&screen, QPoint()), above.size());
   const int left = std::clamp(field.left(), 0, std::max(screen.width() - size.width(), 0));
   int top = field.bottom() + 1;
   if (top + size.height() > screen.height()) top = field.top() - size.height();

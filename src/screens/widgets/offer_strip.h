@@ -36,6 +36,8 @@ class OfferStrip final : public QWidget {
   /// had it.
   void Offers(const QWidget& field, std::u16string_view question, std::vector<Offer> offers,
               std::function<void()> giveUp = {});
+  /// Has the strip stand below `widget`, a part of the screen, rather than below the field.
+  void StandBelow(const QWidget& widget) { above_ = &widget; }
   /// Takes the question back; nothing is called.
   void Drop();
   /// Gives the keyboard to the first answer.
@@ -65,6 +67,7 @@ class OfferStrip final : public QWidget {
   QLabel* label_;
   QPushButton* close_;
   QPointer<QWidget> field_;
+  QPointer<const QWidget> above_;  ///< null: the field
   QString question_;
   std::vector<Offer> offers_;
   std::vector<QPushButton*> answers_;
