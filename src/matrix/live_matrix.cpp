@@ -35,16 +35,15 @@ class FewMatrices final : public IntermediateMatrices {
   int written_ = 0;
 };
 
-/// Whether each exponent is a number of at most two digits.
+/// Whether each exponent is a number of one digit.
 bool HasSmallExponents(std::u16string_view line) {
-  constexpr std::size_t kMostDigits = 2;
   for (std::size_t at = line.find(u'^'); at != line.npos; at = line.find(u'^', at + 1)) {
     std::u16string_view rest = line.substr(at + 1);
     rest.remove_prefix(std::min(rest.find_first_not_of(u' '), rest.size()));
     std::size_t digits = 0;
     while (digits < rest.size() && IsDigit(rest[digits])) ++digits;
     const bool goesOn = digits < rest.size() && (rest[digits] == u'.' || IsLetter(rest[digits]));
-    if (digits == 0 || digits > kMostDigits || goesOn) return false;
+    if (digits != 1 || goesOn) return false;
   }
   return true;
 }
