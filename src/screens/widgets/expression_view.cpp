@@ -3,8 +3,8 @@
 #include <QFontMetricsF>
 #include <QInputMethodEvent>
 #include <QPainter>
+#include <QtMath>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "screens/widgets/live_result_view.h"
@@ -48,7 +48,7 @@ void ExpressionView::OnText() {
 
 int ExpressionView::TextWidth(int pixels) const {
   const QFontMetricsF letters(ScreenFont(pixels));
-  return static_cast<int>(std::ceil(letters.horizontalAdvance(text())));
+  return qCeil(letters.horizontalAdvance(text()));
 }
 
 void ExpressionView::FitText() {
@@ -62,9 +62,8 @@ void ExpressionView::FitText() {
   if (!isShort && !isLong) pixels = FittingPixels({{text(), room}}, normal_, least);
   isCut_ = isLong || (pixels == least && TextWidth(least) > room);
   if (font().pixelSize() != pixels) setFont(ScreenFont(pixels));
-  const int ellipsis =
-      isCut_ ? static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(kEllipsis))) : 0;
-  const int margin = std::max(margin_, ellipsis + 2);
+  const int ellipsis = isCut_ ? qCeil(QFontMetricsF(font()).horizontalAdvance(kEllipsis)) : 0;
+  const int margin = std::max(margin_, ellipsis + qCeil(FocusLine()) + 1);
   setTextMargins(isCut_ ? margin : margin_, 0, isCut_ ? margin : margin_, 0);
   PlaceLive();
 }
@@ -84,9 +83,10 @@ void ExpressionView::PlaceLive() {
   const int line = fontMetrics().height();
   const int top = (height() - line) / 2;
   const int end = isCut_ ? width() : margin_ + kBesideText + TextWidth(font().pixelSize());
-  const int outline = std::max(4, height() / 16);
-  live_->Place(rect().adjusted(margin_, outline, -margin_ - outline / 2, -outline / 2),
-               QRect(0, top, end, line), std::max(kSmallestLive, qRound(normal_ * kLiveText)));
+  const int beside = margin_ + qCeil(FocusLine());
+  const int below = qCeil(FocusLine()) + std::max(1, height() / 50);
+  live_->Place(rect().adjusted(beside, below, -beside, -below), QRect(0, top, end, line),
+               std::max(kSmallestLive, qRound(normal_ * kLiveText)));
 }
 
 void ExpressionView::MarkFault(std::optional<Selection> place) {

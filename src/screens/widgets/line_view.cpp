@@ -60,11 +60,15 @@ void LineView::SetTextHeight(int pixels) {
   setTextMargins(margin, 0, margin, 0);
 }
 
+double LineView::FocusLine() const {
+  return 2 * std::max(1.0, height() / 60.0);
+}
+
 void LineView::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const double line = std::max(1.0, height() / 60.0) * (hasFocus() ? 2 : 1);
+  const double line = FocusLine() / (hasFocus() ? 1 : 2);
   const double radius = width() * 0.014;  // that of the keys
   const QRectF outline = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
   QPainterPath corners;

@@ -19,6 +19,9 @@ class LineView : public QLineEdit {
   virtual void SetTextHeight(int pixels);
 
  protected:
+  /// How thick the outline is that shows the focus.
+  double FocusLine() const;
+
   void paintEvent(QPaintEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
