@@ -206,8 +206,7 @@ std::optional<CommaQuestion> QuestionOfCommas(std::u16string_view text) {
 }
 
 std::u16string CommaQuestionText(const CommaQuestion& question) {
-  return u"The comma in \"" + Shortened(question.number, kShownOfNumber) +
-         u"\" can be read in more than one way. Which is meant?";
+  return u"What is " + Shortened(question.number, kShownOfNumber) + u'?';
 }
 
 std::u16string CommaMeaningText(std::u16string_view number, CommaMeaning meaning) {

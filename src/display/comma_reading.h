@@ -24,7 +24,7 @@ struct CommaQuestion {
 /// that commas separate cells: as in 1,2,3 and in 1.5,2.
 std::optional<CommaQuestion> QuestionOfCommas(std::u16string_view text);
 
-/// The question as the user reads it.
+/// The question in one short line.
 std::u16string CommaQuestionText(const CommaQuestion& question);
 
 /// What `number`, such as 1,5, becomes with that meaning: "1.5", "15", "1 | 5".

@@ -45,7 +45,7 @@ constexpr bool IsOther(char16_t c) {
 }
 
 bool IsPlain(char16_t c) {
-  return !IsOther(c) && c != u',' && c != kApostrophe;
+  return !IsOther(c) && c != kApostrophe;
 }
 
 /// Whether a blank, TAB or line break of `text` stands between two digits.
@@ -210,33 +210,22 @@ void DropLastBreak(std::u16string& text) {
   if (text.ends_with(u'\u2028') || text.ends_with(u'\u2029')) text.pop_back();
 }
 
-/// What stood in two cells or lines is not one number.
-void KeepApart(std::u16string& text) {
-  for (std::size_t at = 1; at + 1 < text.size(); ++at) {
-    if (text[at] < kBlank && IsDigit(text[at - 1]) && IsDigit(text[at + 1])) {
-      text.replace(at, 1, 2, kBlank);
-    }
-  }
-}
-
 }  // namespace
 
 std::u16string OwnSpelling(std::u16string_view text) {
-  if (std::all_of(text.begin(), text.end(), IsPlain) && !PartsDigits(text, kBlank)) {
-    return std::u16string(text);
+  return WithoutThousands(OwnPiece(0, text, 0));
+}
+
+std::u16string OwnPiece(char16_t before, std::u16string_view piece, char16_t after) {
+  if (std::all_of(piece.begin(), piece.end(), IsPlain) && !PartsDigits(piece, kBlank)) {
+    return std::u16string(piece);
   }
-  std::u16string own(text);
+  std::u16string own(piece);
   DropLastBreak(own);
-  KeepApart(own);
   own = InPlainCharacters(own);
   RemoveGrouping(own, kBlank);
   RemoveGrouping(own, kApostrophe);
   WriteRoots(own);
-  return WithoutThousands(own);
-}
-
-std::u16string OwnPiece(char16_t before, std::u16string_view piece, char16_t after) {
-  std::u16string own = OwnSpelling(piece);
   if (own.empty() || own == piece) return own;
   // Letters that were typed as such go on with the word that is being typed.
   if (IsLetter(before) && IsLetter(own.front()) && !IsLetter(piece.front()))

@@ -17,7 +17,8 @@ namespace kav {
 std::u16string OwnSpelling(std::u16string_view text);
 
 /// The same for a `piece` that is put between the characters `before` and `after` of a line (0: an
-/// end of it): words of the piece do not grow together with words beside it.
+/// end of it): words of the piece do not grow together with words beside it. All its commas stay,
+/// since only the whole line tells which of them are between arguments.
 std::u16string OwnPiece(char16_t before, std::u16string_view piece, char16_t after);
 
 /// The same for a text of many cells. Line breaks and TABs stay, as do plain blanks between digits

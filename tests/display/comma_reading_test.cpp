@@ -80,8 +80,7 @@ TEST(CommaMeaningText, SaysWhatTheNumberBecomes) {
   EXPECT_EQ(CommaMeaningText(u"1,5", kPoint), u"1.5");
   EXPECT_EQ(CommaMeaningText(u"1,234", kGroups), u"1234");
   EXPECT_EQ(CommaMeaningText(u"1,234,567", kCells), u"1 | 234 | 567");
-  EXPECT_EQ(CommaQuestionText({u"1,5", {kPoint}}),
-            u"The comma in \"1,5\" can be read in more than one way. Which is meant?");
+  EXPECT_EQ(CommaQuestionText({u"1,5", {kPoint}}), u"What is 1,5?");
 }
 
 TEST(CommaRefusal, NamesANumberWhoseCommaCouldBeADecimalOne) {

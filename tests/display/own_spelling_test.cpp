@@ -124,8 +124,8 @@ TEST(OwnSpelling, DropsOneLineBreakAtTheEnd) {
 }
 
 TEST(OwnSpelling, NumbersOfTwoCellsOrLinesStayTwo) {
-  EXPECT_EQ(OwnSpelling(u"1\t234"), u"1  234");
-  EXPECT_EQ(OwnSpelling(u"1\n234\n"), u"1  234");
+  EXPECT_EQ(OwnSpelling(u"1\t234"), u"1\t234");
+  EXPECT_EQ(OwnSpelling(u"1\n234\n"), u"1\n234");
 }
 
 TEST(OwnPiece, DoesNotGrowTogetherWithWordsBesideIt) {

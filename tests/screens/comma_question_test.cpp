@@ -2,34 +2,43 @@
 
 #include <gtest/gtest.h>
 
-#include <QMessageBox>
-#include <QWidget>
+#include <QLineEdit>
 #include <optional>
 
-#include "display/comma_reading.h"
-#include "screens/box_watch.h"
+#include "screens/offer_driver.h"
+#include "screens/screen_driver.h"
 
 namespace kav::test::comma_question_test {
 namespace {
 
 TEST(AskForCommas, OffersWhatTheNumberCanBecome) {
-  QWidget parent;
+  QWidget screen;
+  QLineEdit field(&screen);
+  Show(screen);
   const auto question = QuestionOfCommas(u"1,234");
   ASSERT_TRUE(question);
-  BoxWatch& watch = BoxWatch::Instance();
-  watch.ExpectAnswer("1.234");
-  EXPECT_EQ(AskForCommas(&parent, *question), CommaMeaning::DecimalPoint);
-  watch.ExpectAnswer("1234");
-  EXPECT_EQ(AskForCommas(&parent, *question), CommaMeaning::Grouping);
-  watch.ExpectAnswer("1 | 234");
-  EXPECT_EQ(AskForCommas(&parent, *question), CommaMeaning::Separator);
-  watch.Expect(QMessageBox::Cancel);
-  EXPECT_EQ(AskForCommas(&parent, *question), std::nullopt);
-  for (const SeenBox& box : watch.TakeSeen()) {
-    EXPECT_EQ(box.text,
-              u"The comma in \"1,234\" can be read in more than one way. Which is meant?");
-    EXPECT_EQ(box.icon, QMessageBox::Question);
-  }
+  std::optional<CommaMeaning> taken;
+  int givenUp = 0;
+  const auto ask = [&] {
+    AskForCommas(
+        field, CommaQuestionText(*question), *question,
+        [&taken](CommaMeaning meaning) { taken = meaning; }, [&givenUp] { ++givenUp; });
+    EXPECT_EQ(Asked(screen), "What is 1,234?");
+  };
+  ask();
+  TapOffer(screen, "1.234");
+  EXPECT_EQ(taken, CommaMeaning::DecimalPoint);
+  ask();
+  TapOffer(screen, "1234");
+  EXPECT_EQ(taken, CommaMeaning::Grouping);
+  ask();
+  TapOffer(screen, "1 | 234");
+  EXPECT_EQ(taken, CommaMeaning::Separator);
+  EXPECT_EQ(givenUp, 0);
+  ask();
+  TapOffer(screen, "Leave it as it is (Esc)");
+  EXPECT_EQ(givenUp, 1);
+  EXPECT_EQ(Asked(screen), "");
 }
 
 }  // namespace

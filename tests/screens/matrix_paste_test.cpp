@@ -4,8 +4,10 @@
 #include <QClipboard>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "screens/matrix_driver.h"
+#include "screens/offer_driver.h"
 
 namespace kav::test::matrix_paste_test {
 namespace {
@@ -18,9 +20,9 @@ class MatrixPasteTest : public MatrixScreen {
   }
   /// Pastes a text whose commas are asked about, and answers with `meaning`.
   void PasteAs(const QString& text, const QString& meaning) {
-    BoxWatch::Instance().ExpectAnswer(meaning);
     Paste(text);
-    EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U) << text.toStdString();
+    TapOffer(*dlg_, meaning);
+    EXPECT_EQ(Asked(*dlg_), "") << text.toStdString();
   }
   void Clear() {
     ClickCell(1, 1);
@@ -53,9 +55,9 @@ TEST_F(MatrixPasteTest, CommasOfWhatIsPastedAreAskedAbout) {
     EXPECT_EQ(Cells(), row.cells) << row.text;
   }
   Clear();
-  BoxWatch::Instance().Expect(QMessageBox::Cancel);
   Paste("1,5");
-  EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
+  EXPECT_EQ(Asked(*dlg_), "What is 1,5?");
+  Key(Qt::Key_Escape);
   EXPECT_EQ(Cells(), "_ _ _;_ _ _;_ _ _");
 }
 
@@ -95,11 +97,31 @@ TEST_F(MatrixPasteTest, WhatIsCutIsWhatIsEmptied) {
   EXPECT_EQ(Cells(), "1 2 3;4 _ 6;7 8 5");
 }
 
-TEST_F(MatrixPasteTest, ATypedCommaIsRefusedAndTheTextStaysInTheBox) {
+TEST_F(MatrixPasteTest, ATypedCommaIsAskedAboutBesideTheGrid) {
+  for (const auto& [typed, answer] :
+       {std::pair{"1,5", "1.5"}, std::pair{"1,234", "1234"}, std::pair{"1.234,5", "1234.5"}}) {
+    ClickCell(1, 1);
+    Type(typed);
+    Key(Qt::Key_Return);
+    QCoreApplication::processEvents();
+    TapOffer(*dlg_, answer);
+    EXPECT_EQ(Cells(), std::string(answer) + " _ _;_ _ _;_ _ _");
+    EXPECT_FALSE(Grid().IsEditing());
+  }
+}
+
+TEST_F(MatrixPasteTest, ATypedCommaThatStaysIsRefusedAndTheTextStaysInTheBox) {
   TypeCells(1, 1, "7");
   for (const char* text : {"1,5", "1,234", "1,2,3"}) {
     ClickCell(1, 1);
     Type(text);
+    if (text != std::string("1,2,3")) {
+      Key(Qt::Key_Return);
+      QCoreApplication::processEvents();
+      EXPECT_NE(Asked(*dlg_), "") << text;
+      Key(Qt::Key_Escape);
+      EXPECT_TRUE(Grid().IsEditing()) << text;
+    }
     ExpectBox();
     Key(Qt::Key_Return);
     QCoreApplication::processEvents();
@@ -122,10 +144,9 @@ TEST_F(MatrixPasteTest, ARefusedTextStopsTheKeyThatEndsItsEdit) {
   ClickCell(1, 1);
   Type("1,5");
   Put(u"[M1]*2");
-  ExpectBox();
   Tap(u"=");
   QCoreApplication::processEvents();
-  EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
+  EXPECT_EQ(Asked(*dlg_), "15 or 1.5?");
   EXPECT_EQ(Tab(), u"[M1]");
   Key(Qt::Key_Escape);
 }
@@ -133,6 +154,18 @@ TEST_F(MatrixPasteTest, ARefusedTextStopsTheKeyThatEndsItsEdit) {
 TEST_F(MatrixPasteTest, TypedThousandsAreTakenWithoutTheirCommas) {
   TypeCells(1, 1, "1,234.5 2,000,000");
   EXPECT_EQ(Cells(), "1234.5 2000000 _;_ _ _;_ _ _");
+}
+
+TEST_F(MatrixPasteTest, ForeignSpellingOfCellsIsReadAsItIsMeant) {
+  ClickCell(1, 1);
+  Paste("1\u202F234\t−5\n1'000'000\t２");
+  EXPECT_EQ(Cells(), "1234 -5 _;1000000 2 _;_ _ _");
+  TypeCells(1, 1, "1'234 2,000,000");
+  EXPECT_EQ(Cells(), "1234 2000000 _;1000000 2 _;_ _ _");
+  ClickCell(3, 3);
+  Type("1 234");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Cells(), "1234 2000000 _;1000000 2 _;_ _ 1234");
 }
 
 TEST_F(MatrixPasteTest, ABlockThatIsPastedIntoTheBoxGoesToTheGrid) {

@@ -134,6 +134,19 @@ TEST_F(OfferStripTest, AnotherQuestionTakesThePlaceOfTheFirst) {
   EXPECT_EQ(done_, Strings{});
 }
 
+TEST_F(OfferStripTest, KeysOfTheScreenAreNotItsOwn) {
+  const auto isTaken = [this](Qt::Key key) {
+    QKeyEvent pressed(QEvent::KeyPress, key, {});
+    pressed.ignore();
+    QApplication::sendEvent(&screen_, &pressed);
+    return pressed.isAccepted();
+  };
+  EXPECT_FALSE(isTaken(Qt::Key_Escape));
+  Ask();
+  EXPECT_FALSE(isTaken(Qt::Key_1));
+  EXPECT_TRUE(strip_.isVisible());
+}
+
 TEST_F(OfferStripTest, TheCrossGivesUp) {
   Ask();
   Click(Answer("Leave it as it is (Esc)"));

@@ -303,7 +303,7 @@ TEST_F(ScreenKeyboardTest, LineBreaksAndTabsThatArePastedAreBlanks) {
   Key(Qt::Key_V, Qt::ControlModifier);
   Key(Qt::Key_Return);
   EXPECT_EQ(Answer(), u"3");
-  EXPECT_EQ(Expression(*dlg_).text(), "1 + 2  ");
+  EXPECT_EQ(Expression(*dlg_).text(), "1 + 2");
   Key(Qt::Key_Z, Qt::ControlModifier);
   Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Expression(*dlg_).text(), "");

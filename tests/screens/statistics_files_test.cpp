@@ -3,6 +3,7 @@
 
 #include <QFileDialog>
 
+#include "screens/offer_driver.h"
 #include "screens/statistics_driver.h"
 
 namespace kav::test::statistics_files_test {
@@ -343,9 +344,8 @@ TEST_F(StatisticsFilesTest, SelectedRowsAreCopiedFromTheTop) {
 
 TEST_F(StatisticsFilesTest, PastedRowsComeOnTop) {
   AddRows("1 1");
-  BoxWatch::Instance().ExpectAnswer("30 | 4");
   PasteIntoList("10\t2\r\n20;3\n30,4\n40 5\n50\n");
-  EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
+  TapOffer(*dlg_, "30 | 4");
   EXPECT_EQ(Rows(), "10 2;20 3;30 4;40 5;50 1;1 1");
   EXPECT_EQ(Total(), "16");
   EXPECT_EQ(OnesOn(kResultKeys), kResultKeys);

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "screens/offer_driver.h"
 #include "screens/statistics_driver.h"
 
 namespace kav::test::two_variable_dlg_test {
@@ -283,9 +284,8 @@ TEST_F(TwoVariableDlgTest, FilesHoldThreeFieldsALine) {
 }
 
 TEST_F(TwoVariableDlgTest, PastedRowsNeedAnXAndAY) {
-  BoxWatch::Instance().ExpectAnswer("6 | 7");
   PasteIntoList("1\t2\n3;4;5\n6,7\n8 9\n");
-  EXPECT_EQ(BoxWatch::Instance().TakeSeen().size(), 1U);
+  TapOffer(*dlg_, "6 | 7");
   EXPECT_EQ(Rows(), "1 2 1;3 4 5;6 7 1;8 9 1");
   EXPECT_EQ(OnesOn(kResultKeys), kResultKeys);
 }

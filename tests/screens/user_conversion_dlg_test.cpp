@@ -176,7 +176,7 @@ TEST_F(UserConversionDlgTest, EachRefusalHasItsMessageAndItsField) {
       {"a", "b", "inf", rate, kRate},
       {"a", "b", "nan", rate, kRate},
       {"a", "b", "0x10", rate, kRate},
-      {"a", "b", "1,000,000", rate, kRate},
+      {"a", "b", "1,000,00", rate, kRate},
       {"a", "b", "1/3", rate, kRate},
       {"a", "b", "1234567890123456789012345678901", rate, kRate},
   };

@@ -13,6 +13,7 @@
 #include "screens/memory/memory_variables_dlg.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/fitting_text.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
@@ -112,6 +113,7 @@ void CConverterDlg::Connect() {
     model_.SetText(text.toStdU16String());
     Refresh();
   });
+  OpenDoor(*value_, DoorKind::Number);
   connect(swap_, &QPushButton::clicked, this, [this] {
     model_.Swap();
     Refresh();
@@ -180,6 +182,7 @@ void CConverterDlg::OnMemory() {
 }
 
 void CConverterDlg::OnAccept() {
+  if (AsksFirst(*value_, [this] { OnAccept(); })) return;
   const auto refusal = model_.OkRefusal();
   if (!refusal) return accept();
   ShowStop(this, *refusal);

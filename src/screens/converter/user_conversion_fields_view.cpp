@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "converter/converter_texts.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -12,6 +13,7 @@ UserConversionFieldsView::UserConversionFieldsView()
     : source_(new TextField(kSourceUnitName)),
       target_(new TextField(kTargetUnitName)),
       rate_(new TextField(kConvertRateCaption)) {
+  OpenDoor(*rate_, DoorKind::Number);
   LayOut();
 }
 

@@ -14,6 +14,7 @@
 #include "screens/display/matrix_defaults_view.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/fitting_text.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
@@ -113,6 +114,9 @@ void CDisplaySettingsDlg::Connect() {
     model_.TypePrecision(text.toStdU16String());
     Refresh();
   });
+  for (QLineEdit* box : {precision_, &matrixParts_->ColumnWidth()}) {
+    OpenDoor(*box, DoorKind::Number);
+  }
   connect(pages_, &QTabBar::currentChanged, this, &CDisplaySettingsDlg::OnPage);
   connect(accept_, &QPushButton::clicked, this, &CDisplaySettingsDlg::OnAccept);
   connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
@@ -147,6 +151,7 @@ void CDisplaySettingsDlg::OnPage(int page) {
 }
 
 void CDisplaySettingsDlg::OnAccept() {
+  if (AsksFirst(*this, [this] { OnAccept(); })) return;
   const auto refusal = model_.Accept(store_);
   if (!refusal) return accept();
   Refresh();

@@ -12,6 +12,7 @@
 #include "grid/grid_texts.h"
 #include "screens/grid/grid_keys_view.h"
 #include "screens/grid/grid_painter_view.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
 
@@ -34,6 +35,7 @@ GridEdit::GridEdit(GridTable& table, GridSelector& selector, const GridHooks& ho
   setStyle(ScreenStyle());
   setFrame(false);
   setMaxLength(kLongestText);
+  OpenDoor(*this, DoorKind::Cell);
   hide();
 }
 

@@ -7,6 +7,7 @@
 
 #include "common/number_text.h"
 #include "macros/macros_texts.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -23,6 +24,7 @@ MacroFieldsView::MacroFieldsView()
   for (const VariableType type : kTypes) type_->addItem(ToQt(Widen(MacroTypeText(type))));
   type_->setAccessibleName(ToQt(kMacroTypeCaption));
   formula_->setAccessibleName(ToQt(kFormulaName));
+  OpenDoor(*formula_);
   LayOut();
 }
 

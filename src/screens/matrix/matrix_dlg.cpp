@@ -10,6 +10,7 @@
 #include "screens/matrix/matrix_places.h"
 #include "screens/matrix/matrix_size_dlg.h"
 #include "screens/matrix/matrix_tabs_view.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/file_choice.h"
 #include "screens/widgets/message_box.h"
 
@@ -66,6 +67,7 @@ void CMatrixDlg::BeginCellEdit(int row, int column) {
 void CMatrixDlg::OnKey(MatrixKey key) {
   if (!grid_.FinishEdit()) return;
   const bool isEquals = key == MatrixKey::Equals;
+  if (isEquals && AsksFirst(Line(), [this] { OnKey(MatrixKey::Equals); })) return;
   if (isEquals) FinishLine();
   KeyScreenOf::OnKey(key);
   if (isEquals) SaveAfterPainting([this] { model_.Save(); });

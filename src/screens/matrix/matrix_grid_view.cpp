@@ -9,12 +9,14 @@
 #include <string>
 #include <utility>
 
+#include "display/own_spelling.h"
 #include "matrix/cell_table_text.h"
 #include "matrix/matrix_texts.h"
 #include "screens/grid/grid_access_view.h"
 #include "screens/widgets/comma_question.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
+#include "screens/widgets/offer_strip.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -58,10 +60,11 @@ void MatrixGridView::SetHooks() {
 }
 
 void MatrixGridView::TypeCell(GridCell cell, const QString& text) {
-  auto why = model_.TypeCell(cell.row - kHeaders, cell.column - kHeaders, text.toStdU16String());
+  const std::u16string own = OwnSpelling(text.toStdU16String());
+  auto why = model_.TypeCell(cell.row - kHeaders, cell.column - kHeaders, own);
   hooks_.changed();
   if (!why) return;
-  refused_ = RefusedEdit{cell, text, *std::move(why)};
+  refused_ = RefusedEdit{cell, ToQt(own), *std::move(why)};
   // Not before the key or the click that ended the edit has done its work.
   QTimer::singleShot(0, grid_, [this] { TellRefusedEdit(); });
 }
@@ -69,6 +72,19 @@ void MatrixGridView::TypeCell(GridCell cell, const QString& text) {
 void MatrixGridView::TellRefusedEdit() {
   if (!refused_) return;
   const RefusedEdit refused = *std::exchange(refused_, std::nullopt);
+  const std::u16string text = refused.text.toStdU16String();
+  const auto question = QuestionOfLine(text);
+  if (question && text != declined_) {
+    const auto take = [this, cell = refused.cell, text, question](CommaMeaning meaning) {
+      TypeCell(cell, ToQt(LineWithCommas(text, *question, meaning)));
+    };
+    const auto giveUp = [this, refused] {
+      declined_ = refused.text.toStdU16String();
+      grid_->EditCell(refused.cell, refused.text);
+    };
+    AskForCommas(*grid_, LineQuestionText(*question), *question, take, giveUp);
+    return OfferStripOf(*grid_).Enter();
+  }
   ShowStop(grid_->parentWidget(), refused.why);
   grid_->EditCell(refused.cell, refused.text);
 }
@@ -226,12 +242,15 @@ void MatrixGridView::CutCells() {
 }
 
 void MatrixGridView::PasteCells() {
-  std::u16string text = QApplication::clipboard()->text().toStdU16String();
-  if (const auto question = QuestionOfCells(text)) {
-    const auto meaning = AskForCommas(grid_->parentWidget(), *question);
-    if (!meaning) return;
-    text = CellsWithCommas(text, *meaning);
-  }
+  const std::u16string text = OwnCells(QApplication::clipboard()->text().toStdU16String());
+  const auto question = QuestionOfCells(text);
+  if (!question) return PasteText(text);
+  AskForCommas(*grid_, CommaQuestionText(*question), *question,
+               [this, text](CommaMeaning meaning) { PasteText(CellsWithCommas(text, meaning)); });
+  OfferStripOf(*grid_).Enter();
+}
+
+void MatrixGridView::PasteText(const std::u16string& text) {
   const auto told = model_.PasteInto(SelectedCells().value_or(CellRange{}), text);
   hooks_.changed();
   if (told) ShowNotice(grid_->parentWidget(), *told);

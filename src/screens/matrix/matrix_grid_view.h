@@ -77,6 +77,7 @@ class MatrixGridView final {
   void CopyCells() const;
   void CutCells();
   void PasteCells();
+  void PasteText(const std::u16string& text);
   void SelectAll();
 
   MatrixModel& model_;
@@ -87,6 +88,7 @@ class MatrixGridView final {
   std::array<ColumnWidths, kMatrixCount> fitted_{};
   std::optional<int> inGrid_;  ///< the matrix that the grid was built for
   std::optional<RefusedEdit> refused_;
+  std::u16string declined_;  ///< a cell's text whose comma is to stay as it is
 };
 
 }  // namespace kav

@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "plotter/plotter_texts.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
 
@@ -31,6 +32,7 @@ EquationInputView::EquationInputView(QWidget* parent)
   formula_->setStyle(ScreenStyle());
   for (auto* part : formula_->findChildren<QWidget*>()) part->setStyle(ScreenStyle());
   formula_->installEventFilter(this);
+  OpenDoor(*formula_);
   setFocusProxy(formula_);
 }
 

@@ -18,6 +18,7 @@
 #include "screens/widgets/choice_box.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/label_list.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
@@ -153,6 +154,7 @@ void CGraphView::LayOut() {
 
 void CGraphView::Connect() {
   connect(curves_, &QComboBox::currentIndexChanged, this, &CGraphView::Select);
+  OpenDoor(*x_, DoorKind::Number);
   connect(calculate_, &QPushButton::clicked, this, &CGraphView::OnCalculate);
   connect(trace_, &QCheckBox::toggled, this, [this](bool isOn) {
     model_.SetTraces(isOn);
@@ -173,6 +175,7 @@ GraphAreaHooks CGraphView::Hooks() {
 }
 
 void CGraphView::OnCalculate() {
+  if (AsksFirst(*x_, [this] { OnCalculate(); })) return;
   const auto reading = model_.Calculate(x_->text().toStdU16String());
   if (reading) return Take(*reading);
   ShowStop(this, reading.error());

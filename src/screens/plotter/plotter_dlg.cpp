@@ -15,6 +15,7 @@
 #include "screens/plotter/equation_input_view.h"
 #include "screens/plotter/graph_view.h"
 #include "screens/widgets/dialog.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
 
@@ -83,6 +84,11 @@ void CPlotterDlg::OrderTabs() {
 }
 
 void CPlotterDlg::OnKey(PlotterKey key) {
+  const bool takesLine =
+      key == PlotterKey::Add && AsksFirst(*input_, [this] { OnKey(PlotterKey::Add); });
+  const bool takesAll =
+      key == PlotterKey::Plot && AsksFirst(*this, [this] { OnKey(PlotterKey::Plot); });
+  if (takesLine || takesAll) return;
   TakeLine();
   const PlotterRequest request = model_.Press(key);
   Refresh();
@@ -92,6 +98,7 @@ void CPlotterDlg::OnKey(PlotterKey key) {
 }
 
 void CPlotterDlg::OnEnter() {
+  if (AsksFirst(*input_, [this] { OnEnter(); })) return;
   TakeLine();
   const std::optional<PlotterRefusal> refusal = model_.Add();
   Refresh();

@@ -12,6 +12,7 @@
 #include "plotter/plotter_texts.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
 
@@ -69,6 +70,7 @@ QGridLayout* CPlotterOptionsDlg::NewFields() {
     const QString caption = ToQt(CaptionOf(field));
     auto* edit = new QLineEdit(ToQt(model_.Fields()[IndexOf(field)]));
     edit->setAccessibleName(caption);
+    OpenDoor(*edit, DoorKind::Number);
     auto* label = new QLabel(caption);
     label->setBuddy(edit);
     label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
@@ -101,6 +103,7 @@ RangeTexts CPlotterOptionsDlg::Typed() const {
 }
 
 void CPlotterOptionsDlg::OnAccept() {
+  if (AsksFirst(*this, [this] { OnAccept(); })) return;
   auto options =
       model_.Accept(Typed(), {grid_->isChecked(), line_->isChecked(), coordinates_->isChecked()});
   if (options) {

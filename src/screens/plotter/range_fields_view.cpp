@@ -11,6 +11,7 @@
 
 #include "plotter/plotter_keypad.h"
 #include "screens/widgets/dialog.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/key_screen.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
@@ -70,6 +71,7 @@ RangeFieldsView::RangeFieldsView(QWidget* screen,
       onEdited(field, text.toStdU16String());
     });
     QObject::connect(edit, &QLineEdit::textChanged, edit, &QWidget::setToolTip);
+    OpenDoor(*edit, DoorKind::Number);
     captions_[IndexOf(field)] = new QLabel(caption, screen);
     fields_[IndexOf(field)] = edit;
   }

@@ -2,6 +2,8 @@
 
 #include <variant>
 
+#include "screens/widgets/field_door.h"
+
 namespace kav {
 namespace {
 
@@ -23,6 +25,7 @@ CScientificDlg::~CScientificDlg() {
 
 void CScientificDlg::OnKey(Key key) {
   const bool isEquals = key == Key::Equals;
+  if (isEquals && AsksFirst(Line(), [this] { OnKey(Key::Equals); })) return;
   if (isEquals) FinishLine();
   KeyScreenOf::OnKey(key);
   if (isEquals) SaveAfterPainting([this] { model_.Save(); });

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/key_screen.h"
 #include "screens/widgets/qt_text.h"
 #include "statistics/statistics_texts.h"
@@ -57,6 +58,7 @@ void DataFieldsView::Add(DataField field) {
   line->setAccessibleName(ToQt(RowOf(field).name));
   line->setInputMethodHints(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText |
                             Qt::ImhNoAutoUppercase);
+  OpenDoor(*line, DoorKind::Number);
   QLabel* label = MakeLabel(screen_, RowOf(field).label);
   label->setBuddy(line);
   all_.push_back(field);

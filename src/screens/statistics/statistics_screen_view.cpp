@@ -11,13 +11,16 @@
 #include <vector>
 
 #include "display/comma_reading.h"
+#include "display/own_spelling.h"
 #include "line/line_texts.h"
 #include "screens/statistics/row_access_view.h"
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/comma_question.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/file_choice.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
+#include "screens/widgets/offer_strip.h"
 #include "screens/widgets/qt_text.h"
 #include "statistics/statistics_menus.h"
 #include "statistics/statistics_texts.h"
@@ -87,6 +90,8 @@ void StatisticsScreen::SetTableHooks() {
 }
 
 void StatisticsScreen::OnKey(StatisticsKey key) {
+  const bool takesRow = key == StatisticsKey::Add || key == StatisticsKey::Ok;
+  if (takesRow && AsksFirst(*this, [this, key] { OnKey(key); })) return;
   TakeLine();
   const StatisticsRequest request = model_->Press(key);
   const bool goesToField =
@@ -244,12 +249,17 @@ void StatisticsScreen::CopyRows() const {
 
 void StatisticsScreen::PasteRows() {
   TakeLine();
-  std::u16string text = QApplication::clipboard()->text().toStdU16String();
-  if (const auto question = QuestionOfCommas(text)) {
-    const auto meaning = AskForCommas(this, *question);
-    if (!meaning) return;
-    text = WithCommas(text, *meaning);
-  }
+  std::u16string text = OwnCells(QApplication::clipboard()->text().toStdU16String());
+  const auto question = QuestionOfCommas(text);
+  if (!question) return PasteText(text);
+  const auto take = [this, text = std::move(text)](CommaMeaning meaning) {
+    PasteText(WithCommas(text, meaning));
+  };
+  AskForCommas(*table_, CommaQuestionText(*question), *question, take);
+  OfferStripOf(*table_).Enter();
+}
+
+void StatisticsScreen::PasteText(const std::u16string& text) {
   Tell(Run(kPastingData,
            [&](const WorkProgress& progress) { return model_->PasteRows(text, progress); }));
 }

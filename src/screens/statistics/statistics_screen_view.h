@@ -72,6 +72,7 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   void OpenRowsMenu(const QPoint& place);
   void CopyRows() const;
   void PasteRows();
+  void PasteText(const std::u16string& text);
   bool eventFilter(QObject* watched, QEvent* event) override;
   bool OnFieldKey(const QKeyEvent& event);
   void keyPressEvent(QKeyEvent* event) override;

@@ -1,22 +1,21 @@
 #include "screens/widgets/comma_question.h"
 
-#include <optional>
-#include <string>
+#include <utility>
 #include <vector>
 
-#include "screens/widgets/message_box.h"
+#include "screens/widgets/offer_strip.h"
 
 namespace kav {
 
-std::optional<CommaMeaning> AskForCommas(QWidget* parent, const CommaQuestion& question) {
-  std::vector<std::u16string> answers;
-  answers.reserve(question.meanings.size());
+void AskForCommas(const QWidget& field, std::u16string_view text, const CommaQuestion& question,
+                  std::function<void(CommaMeaning)> take, std::function<void()> giveUp) {
+  std::vector<Offer> offers;
+  offers.reserve(question.meanings.size());
   for (const CommaMeaning meaning : question.meanings) {
-    answers.push_back(CommaMeaningText(question.number, meaning));
+    offers.push_back(
+        {CommaMeaningText(question.number, meaning), [take, meaning] { take(meaning); }});
   }
-  const auto chosen = AskWhich(parent, CommaQuestionText(question), answers);
-  if (!chosen) return std::nullopt;
-  return question.meanings[*chosen];
+  OfferStripOf(field).Offers(field, text, std::move(offers), std::move(giveUp));
 }
 
 }  // namespace kav

@@ -1,7 +1,8 @@
-// Asks what the commas of a paste mean.
+// Asks what the commas of a text mean.
 #pragma once
 
-#include <optional>
+#include <functional>
+#include <string_view>
 
 #include "display/comma_reading.h"
 
@@ -9,7 +10,9 @@ class QWidget;
 
 namespace kav {
 
-/// One button a meaning, with what the number becomes by it. nullopt if nothing is to be pasted.
-std::optional<CommaMeaning> AskForCommas(QWidget* parent, const CommaQuestion& question);
+/// Asks `text` beside `field`, with one answer a meaning: what the number becomes by it. One of the
+/// functions is called once that is answered or given up.
+void AskForCommas(const QWidget& field, std::u16string_view text, const CommaQuestion& question,
+                  std::function<void(CommaMeaning)> take, std::function<void()> giveUp = {});
 
 }  // namespace kav

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "display/own_spelling.h"
 #include "line/expression_line.h"
 #include "screens/widgets/line_marks.h"
 #include "screens/widgets/qt_text.h"
@@ -106,7 +107,10 @@ void FormulaView::keyPressEvent(QKeyEvent* event) {
 }
 
 void FormulaView::insertFromMimeData(const QMimeData* source) {
-  textCursor().insertText(QString::fromStdU16String(ShownText(InOneLine(source->text()))));
+  // Before line breaks are blanks: one at the end is dropped.
+  const std::u16string own = OwnPiece(0, source->text().toStdU16String(), 0);
+  textCursor().insertText(
+      QString::fromStdU16String(ShownText(InOneLine(QString::fromStdU16String(own)))));
   ensureCursorVisible();
 }
 

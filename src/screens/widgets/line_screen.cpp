@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "line/line_texts.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/offer_strip.h"
 #include "screens/widgets/qt_text.h"
 
@@ -25,6 +26,7 @@ LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys)
   line_->setAccessibleName(ToQt(kExpressionName));
   line_->setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
   line_->installEventFilter(this);
+  OpenDoor(*line_, DoorKind::Line);
   result_->setAccessibleName(ToQt(kResultName));
   connect(line_, &QLineEdit::textChanged, this, [this] { ShowLive(); });
   AddKeys(std::move(keys));

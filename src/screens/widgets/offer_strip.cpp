@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <algorithm>
 #include <cstddef>
+#include <memory>
 #include <utility>
 
 #include "screens/widgets/access_view.h"
@@ -26,6 +27,8 @@ constexpr double kBesideCaption = 1;  ///< what a button takes besides its capti
 
 /// Letters get lower by this share at most before texts are cut.
 constexpr double kSmallest = 0.75;
+
+constexpr const char* kStripName = "kav_offer_strip";
 
 /// Screen readers speak up for what is asked.
 class StripAccess final : public QAccessibleWidget {
@@ -85,6 +88,7 @@ OfferStrip::OfferStrip(QWidget* screen) {
   OfferWidgetsToScreenReaders();
   OfferStripsToScreenReaders();
   setAccessibleName(ToQt(kOfferName));
+  setObjectName(QLatin1String(kStripName));
   hide();
   label_ = new QLabel(this);
   label_->setStyle(ScreenStyle());
@@ -180,16 +184,18 @@ void OfferStrip::Go(int step) {
 }
 
 bool OfferStrip::eventFilter(QObject* watched, QEvent* event) {
-  const bool isField = watched == field_;
+  // The rest of what it watches is the screen around it.
+  const bool isField = field_ != nullptr && watched == field_;
+  const bool isButton = watched->parent() == this;
   switch (event->type()) {
     case QEvent::KeyPress: {
       const auto& key = *static_cast<QKeyEvent*>(event);
-      return isField ? PressInField(key) : PressOnButton(key);
+      return isField ? PressInField(key) : isButton && PressOnButton(key);
     }
     case QEvent::ShortcutOverride: {
       const auto& key = *static_cast<QKeyEvent*>(event);
-      // No key of the strip is to work as a shortcut of the screen around it.
-      if (isField ? !LeadsHere(key) : IsCommand(key)) return false;
+      // No key of the strip is to work as a shortcut of the screen.
+      if (isField ? !LeadsHere(key) : !isButton || IsCommand(key)) return false;
       event->accept();
       return true;
     }
@@ -198,7 +204,7 @@ bool OfferStrip::eventFilter(QObject* watched, QEvent* event) {
       return false;
     case QEvent::Move:
     case QEvent::Resize:
-      if (field_ != nullptr && watched->isWidgetType() && watched->parent() != this) LayOut();
+      if (field_ != nullptr && !isButton) LayOut();
       return false;
     default:
       return false;
@@ -313,6 +319,13 @@ void OfferStrip::LayOutParts(int pixels, int room, int height) {
   label_->setToolTip(question_);
   label_->setAccessibleName(question_);
   label_->setGeometry(gap, line, labelRoom + gap, high);
+}
+
+OfferStrip& OfferStripOf(const QWidget& field) {
+  QWidget* screen = field.window();
+  auto* made = screen->findChild<QWidget*>(QLatin1String(kStripName), Qt::FindDirectChildrenOnly);
+  auto* strip = dynamic_cast<OfferStrip*>(made);
+  return strip != nullptr ? *strip : *std::make_unique<OfferStrip>(screen).release();
 }
 
 }  // namespace kav

@@ -74,4 +74,7 @@ class OfferStrip final : public QWidget {
   std::function<void()> giveUp_;
 };
 
+/// The strip of the screen or dialog that `field` is on, made when it is first asked for.
+OfferStrip& OfferStripOf(const QWidget& field);
+
 }  // namespace kav

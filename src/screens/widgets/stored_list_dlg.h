@@ -13,6 +13,7 @@
 
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/label_list.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
@@ -131,6 +132,7 @@ class StoredListDlg : public Dialog {
     Browse();
   }
   void OnSave() {
+    if (AsksFirst(*fields_, [this] { OnSave(); })) return;
     TakeFields();
     const auto refusal = model_.Save();
     if (!refusal) return Browse();
