@@ -19,11 +19,6 @@ constexpr const char* kTabFunction = "complete-name";
 constexpr const char* kGiveUpFunction = "give-up-line";
 constexpr const char* kStopFunction = "stop-program";
 
-char* PromptText(EditLine*) {
-  static std::string text(kPrompt);
-  return text.data();
-}
-
 /// Lists `names`, which must not be empty, below the line being typed.
 void List(const std::vector<std::string>& names) {
   std::string text = "\n";
@@ -69,8 +64,9 @@ LineEditor::LineEditor(Completer completer) : completer_(std::move(completer)) {
 
 LineEditor::~LineEditor() = default;
 
-LineEditor::Outcome LineEditor::Read(std::string& line) {
+LineEditor::Outcome LineEditor::Read(std::string& line, std::string_view prompt) {
   if (!history_ || !editor_) return Outcome::End;
+  prompt_ = prompt;
   isGivenUp_ = false;
   // Before the prompt appears: until then the terminal collects whole lines, and would lose a
   // Ctrl-D among them.
@@ -95,6 +91,10 @@ LineEditor& LineEditor::Of(editline* editor) {
   LineEditor* self = nullptr;
   el_get(editor, EL_CLIENTDATA, &self);
   return *self;
+}
+
+char* LineEditor::PromptText(editline* editor) {
+  return Of(editor).prompt_.data();
 }
 
 unsigned char LineEditor::OnTab(editline* editor, int) {

@@ -26,9 +26,9 @@ class LineEditor {
   ~LineEditor();
 
   enum class Outcome { Line, GivenUp, End };
-  /// Prompts for a line and puts it, without its end, into `line`. GivenUp: Ctrl-C was pressed.
-  /// End: Ctrl-D was pressed, or the terminal is gone or cannot be set up.
-  Outcome Read(std::string& line);
+  /// Prompts for a line with `prompt` and puts it, without its end, into `line`. GivenUp: Ctrl-C
+  /// was pressed. End: Ctrl-D was pressed, or the terminal is gone or cannot be set up.
+  Outcome Read(std::string& line, std::string_view prompt);
 
   /// Adds `line` to those that the arrows go back to.
   void Remember(const std::string& line);
@@ -39,6 +39,7 @@ class LineEditor {
     void operator()(struct history* lines) const;
   };
   static LineEditor& Of(editline* editor);
+  static char* PromptText(editline* editor);
   static unsigned char OnTab(editline* editor, int key);
   static unsigned char OnGiveUp(editline* editor, int key);
   static unsigned char OnStop(editline* editor, int key);
@@ -47,6 +48,7 @@ class LineEditor {
   Completer completer_;
   std::unique_ptr<struct history, Closer> history_;
   std::unique_ptr<editline, Closer> editor_;
+  std::string prompt_;
   bool isGivenUp_ = false;
 };
 

@@ -3,9 +3,11 @@
 #include <unistd.h>
 
 #include "cli/answer_writer.h"
+#include "cli/cli_texts.h"
 #include "cli/evaluation.h"
 #include "cli/history_file.h"
 #include "cli/line_editor.h"
+#include "cli/typed_spelling.h"
 #include "common/number_text.h"
 #include "engine/function_names.h"
 #include "store/settings_path.h"
@@ -60,11 +62,17 @@ int RunPrompt(const Options& options) {
     return Complete(before, KnownNames(options.base, evaluation.Macros()));
   });
   PastLines pastLines(editor);
+  const AskAtPrompt ask = [&editor](const std::string& question) {
+    std::string answer;
+    const bool isAnswer = editor.Read(answer, question) == LineEditor::Outcome::Line;
+    return isAnswer ? std::optional(answer) : std::nullopt;
+  };
   std::string line;
   for (;;) {
-    const auto outcome = editor.Read(line);
+    const auto outcome = editor.Read(line, kPrompt);
     if (outcome == LineEditor::Outcome::End || answers.IsBroken()) return answers.Finish();
     if (outcome == LineEditor::Outcome::GivenUp || TrimBlanks(line).empty()) continue;
+    line = TypedSpelling(line, ask);
     pastLines.Add(line);
     answers.Write(evaluation.AnswerTo(line));
   }

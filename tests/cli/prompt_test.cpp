@@ -2,6 +2,9 @@
 // for each line, and what was typed before may be lost.
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+
 #include "cli/terminal.h"
 #include "support/temporary_folder.h"
 
@@ -84,6 +87,38 @@ TEST_F(Prompt, TakesCharactersBeyondAscii) {
   ASSERT_TRUE(terminal.Shows("> "));
   terminal.Type("1+\xc3\xa9\r");
   EXPECT_TRUE(terminal.Shows("error: \xc3\xa9 is not supported.\r\n"));
+}
+
+TEST_F(Prompt, ReadsTypedLinesInItsOwnSpelling) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  for (const auto& [line, answer] :
+       {std::pair{"2×3−√4", "4"}, std::pair{"1,234,567.5*2", "2469135"},
+        std::pair{"1 234+1’000", "2234"}, std::pair{"２²", "4"}}) {
+    terminal.Type(std::string(line) + "\r");
+    ASSERT_TRUE(terminal.Shows("\r\n" + std::string(answer) + "\r\n> ")) << line;
+  }
+}
+
+TEST_F(Prompt, AsksWhatACommaMeansAndWaits) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  for (const auto& [answer, value] :
+       {std::pair{"1", "2468"}, std::pair{"2", "2.468"}, std::pair{"1.234", "2.468"}}) {
+    terminal.Type("1,234*2\r");
+    ASSERT_TRUE(terminal.Shows("\r\n1,234: 1234 or 1.234? [1/2] "));
+    terminal.Type(std::string(answer) + "\r");
+    ASSERT_TRUE(terminal.Shows("\r\n" + std::string(value) + "\r\n> ")) << answer;
+  }
+  terminal.Type("0,5\r");
+  ASSERT_TRUE(terminal.Shows("\r\n0,5: 0.5? [1] "));
+  terminal.Type("\r");
+  ASSERT_TRUE(terminal.Shows("\r\nerror: , is not supported."));
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("1,5\r");
+  ASSERT_TRUE(terminal.Shows("1,5: 15 or 1.5? [1/2] "));
+  terminal.Type(kControlC);
+  ASSERT_TRUE(terminal.Shows("error: , is not supported."));
 }
 
 TEST_F(Prompt, ControlCGivesUpTheLineAndNothingElse) {

@@ -305,7 +305,9 @@ void OfferStrip::LayOutParts(int pixels, int room, int height) {
     const int width = std::max(whole - cut, std::min(whole, 3 * pixels));
     cut -= whole - width;
     button.setFont(font);
-    button.setText(Caption(letters.elidedText(text, Qt::ElideMiddle, width)));
+    // A text that has just room enough would be cut by a fraction of a pixel.
+    const bool isCut = width < whole;
+    button.setText(Caption(isCut ? letters.elidedText(text, Qt::ElideMiddle, width) : text));
     button.setGeometry(right - width - beside, line, width + beside, high);
     right -= width + beside + gap;
   };
@@ -315,7 +317,8 @@ void OfferStrip::LayOutParts(int pixels, int room, int height) {
   }
   label_->setFont(font);
   const int labelRoom = std::max(right - gap, 0);
-  label_->setText(letters.elidedText(question_, Qt::ElideMiddle, labelRoom));
+  const bool isCut = labelRoom < letters.horizontalAdvance(question_);
+  label_->setText(isCut ? letters.elidedText(question_, Qt::ElideMiddle, labelRoom) : question_);
   label_->setToolTip(question_);
   label_->setAccessibleName(question_);
   label_->setGeometry(gap, line, labelRoom + gap, high);
