@@ -96,10 +96,6 @@ std::string CannotWrite(std::string_view reason) {
   return Joined("cannot write to standard output: ", reason, "");
 }
 
-std::string CannotKeepHistory(std::string_view path, std::string_view reason) {
-  return Joined("the history is not kept: ", path, ": ").append(reason);
-}
-
 std::string RatesLostDigits(std::string_view conversions) {
   return Joined("all rates were stored with six decimals, and these lost digits:", conversions, "");
 }

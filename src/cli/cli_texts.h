@@ -39,7 +39,6 @@ std::string NotAUserConversion(std::string_view text);
 std::string CannotRead(std::string_view reason);
 std::string HasEndlessLine(std::size_t most);
 std::string CannotWrite(std::string_view reason);
-std::string CannotKeepHistory(std::string_view path, std::string_view reason);
 inline constexpr std::string_view kNothingToClear =
     "memory clear lacks what to clear: numbers from 1 to 20, or all";
 inline constexpr std::string_view kNeedsTwo =

@@ -8,9 +8,9 @@
 #include <cstdio>
 
 #include "cli/cli_texts.h"
-#include "cli/history_file.h"
 #include "cli/visible_text.h"
 #include "settings/file_descriptor.h"
+#include "settings/past_lines.h"
 
 namespace kav {
 namespace {
@@ -43,7 +43,7 @@ LineEditor::LineEditor(Completer completer) : completer_(std::move(completer)) {
   editor_.reset(el_init(kProgramName.data(), stdin, stdout, stderr));
   if (!history_ || !editor_) return;
   HistEvent event;
-  ::history(history_.get(), &event, H_SETSIZE, static_cast<int>(HistoryFile::kCapacity));
+  ::history(history_.get(), &event, H_SETSIZE, static_cast<int>(PastLines::kCapacity));
   ::history(history_.get(), &event, H_SETUNIQUE, 1);
   EditLine* editor = editor_.get();
   el_set(editor, EL_CLIENTDATA, this);

@@ -5,17 +5,14 @@
 #include "cli/answer_writer.h"
 #include "cli/cli_texts.h"
 #include "cli/evaluation.h"
-#include "cli/history_file.h"
 #include "cli/line_editor.h"
+#include "cli/prompt_lines.h"
 #include "cli/typed_spelling.h"
 #include "common/number_text.h"
 #include "engine/function_names.h"
-#include "store/settings_path.h"
 
 namespace kav {
 namespace {
-
-constexpr std::string_view kHistoryName = "kavcalc_history";
 
 /// The names that expressions in `base` can use, each with the text that follows it in a line.
 std::vector<std::string> KnownNames(BaseMode base, const MacroStore& macros) {
@@ -30,25 +27,6 @@ std::vector<std::string> KnownNames(BaseMode base, const MacroStore& macros) {
   return names;
 }
 
-/// The lines typed so far, in the editor and in the file.
-class PastLines {
- public:
-  explicit PastLines(LineEditor& editor) : editor_(editor), file_(StatePath(kHistoryName)) {
-    for (const std::string& line : file_.Load()) editor_.Remember(line);
-  }
-  void Add(const std::string& line) {
-    if (line == newest_) return;
-    newest_ = line;
-    editor_.Remember(line);
-    file_.Append(line);
-  }
-
- private:
-  LineEditor& editor_;
-  HistoryFile file_;
-  std::string newest_;
-};
-
 }  // namespace
 
 bool CanPrompt() {
@@ -61,7 +39,7 @@ int RunPrompt(const Options& options) {
   LineEditor editor([&](std::string_view before) {
     return Complete(before, KnownNames(options.base, evaluation.Macros()));
   });
-  PastLines pastLines(editor);
+  PromptLines pastLines(editor, evaluation.Settings().Store(), options);
   const AskAtPrompt ask = [&editor](const std::string& question) {
     std::string answer;
     const bool isAnswer = editor.Read(answer, question) == LineEditor::Outcome::Line;
@@ -69,12 +47,14 @@ int RunPrompt(const Options& options) {
   };
   std::string line;
   for (;;) {
+    pastLines.TakeOver();
     const auto outcome = editor.Read(line, kPrompt);
     if (outcome == LineEditor::Outcome::End || answers.IsBroken()) return answers.Finish();
     if (outcome == LineEditor::Outcome::GivenUp || TrimBlanks(line).empty()) continue;
     line = TypedSpelling(line, ask);
-    pastLines.Add(line);
-    answers.Write(evaluation.AnswerTo(line));
+    const Answer answer = evaluation.AnswerTo(line);
+    answers.Write(answer);
+    pastLines.Add(line, answer);
   }
 }
 

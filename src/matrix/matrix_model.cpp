@@ -7,6 +7,7 @@
 
 #include "common/number_text.h"
 #include "line/line_texts.h"
+#include "line/past_lines_model.h"
 #include "line/shown_number.h"
 #include "macros/line_fault.h"
 #include "macros/macro_call.h"
@@ -31,6 +32,12 @@ constexpr std::array kReadOnly{kMatrixDisplayType, kMatrixPrecision,   kMatrixRo
 TellStop TellInvalid(const Matrices& matrices, int index) {
   const auto cell = FirstEmptyCell(matrices[static_cast<std::size_t>(index)]);
   return {MatrixIsInvalid(index), cell ? CellIsEmpty(cell->row, cell->column) : std::u16string()};
+}
+
+/// A matrix as the history of all sessions names it: the size, or the number if it has only one.
+std::u16string PastAnswer(const MatrixValue& answer) {
+  if (answer.rows == 1 && answer.columns == 1) return answer.At(0, 0);
+  return MatrixOf(answer.rows, answer.columns);
 }
 
 }  // namespace
@@ -129,30 +136,34 @@ void MatrixModel::Write(MatrixKey key) {
 MatrixRequest MatrixModel::Evaluate() {
   const std::u16string text(TrimBlanks(std::u16string_view(line_.Text())));
   fault_.reset();
+  evaluated_.reset();
   if (IsMatrixExpression(text)) {
     line_.SelectAll();
     return EvaluateMatrix(text);
   }
   // A number beside [M Ans] would look like a part of that answer.
-  if (Shown() != kAnswerMatrix) EvaluateNumber();
+  if (Shown() != kAnswerMatrix) EvaluateNumber(text);
   return Nothing{};
 }
 
-void MatrixModel::EvaluateNumber() {
+void MatrixModel::EvaluateNumber(std::u16string_view text) {
   line_.SelectAll();
   const auto value = EvaluateTypedLine(line_.Text(), modes_, store_, macros_);
   if (value) {
     lastAnswer_ = *value;
-    return ShowAnswer();
+    ShowAnswer();
+    return Note(text, resultText_);
   }
   lastAnswer_.reset();
   fault_ = FaultOf(line_.Text(), value.error(), modes_, macros_);
   const bool isEmpty = value.error().cause == LineFailure::Cause::EmptyLine;
+  if (!isEmpty) Note(text, {});
   resultText_ = isEmpty ? std::u16string(kNoExpression) : Widen(value.error().message);
 }
 
 MatrixRequest MatrixModel::EvaluateMatrix(std::u16string_view text) {
   history_.Add(std::u16string(text));
+  Note(text, {});
   // A number of an earlier line would look like a part of this one's answer.
   resultText_.clear();
   const auto invalid = FirstInvalidMatrix(text, AllMatrices());
@@ -165,9 +176,23 @@ MatrixRequest MatrixModel::EvaluateMatrix(std::u16string_view text) {
     board_.Lock();
     return TellStop{Widen(result.error().message), std::move(news)};
   }
+  Note(text, PastAnswer(*result));
   board_.TakeAnswer(*std::move(result));
   if (news.empty()) return Nothing{};
   return TellNotice{std::move(news)};
+}
+
+void MatrixModel::Note(std::u16string_view text, std::u16string_view answer) {
+  evaluated_ = MakePastLine(PastOrigin::Matrix, text, answer, BaseMode::Decimal);
+}
+
+void MatrixModel::TakePastLine(const PastLine& past) {
+  line_.InsertText(Widen(past.line));
+}
+
+void MatrixModel::TakePastAnswer(const PastLine& past) {
+  if (!HasNumber(past)) return;
+  line_.InsertText(AnswerInsertion(past, settings_.normal, BaseMode::Decimal));
 }
 
 void MatrixModel::ShowAnswer() {

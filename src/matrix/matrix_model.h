@@ -24,6 +24,7 @@
 #include "matrix/matrix_keypad.h"
 #include "matrix/matrix_value.h"
 #include "matrix/temporary_matrices.h"
+#include "settings/past_lines.h"
 #include "settings/settings_store.h"
 
 namespace kav {
@@ -81,6 +82,12 @@ class MatrixModel {
   MatrixRequest TakeConstant(std::u16string_view value);
   /// Reads the display settings again after their dialog changed them; matrices keep their sizes.
   void TakeDisplaySettings();
+
+  /// What the last "=" evaluated, for the history of all sessions; nullopt if it did nothing.
+  const std::optional<PastLine>& Evaluated() const { return evaluated_; }
+  // Both replace the selection; an answer only if it is a number.
+  void TakePastLine(const PastLine& past);
+  void TakePastAnswer(const PastLine& past);
 
   // The matrices and the one that is shown.
   const Matrices& AllMatrices() const { return board_.All(); }
@@ -140,7 +147,8 @@ class MatrixModel {
  private:
   void Write(MatrixKey key);
   MatrixRequest Evaluate();
-  void EvaluateNumber();
+  void Note(std::u16string_view text, std::u16string_view answer);
+  void EvaluateNumber(std::u16string_view text);
   MatrixRequest EvaluateMatrix(std::u16string_view text);
   void ShowAnswer();
   MatrixRequest Insert(double value);
@@ -159,6 +167,7 @@ class MatrixModel {
   TemporaryMatrices files_;
   ExpressionLine line_;
   std::u16string resultText_;
+  std::optional<PastLine> evaluated_;
   std::optional<AnsweredLine> answered_;  ///< by the last "="
   std::optional<LineFault> fault_;        ///< of that line, if it failed
   std::size_t answeredChanges_ = 0;       ///< of the matrices by then

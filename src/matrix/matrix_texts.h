@@ -88,6 +88,11 @@ inline std::u16string CommasAreNoThousands(std::u16string_view text) {
       .append(u"\" do not separate thousands. Write one number, with a point for its decimals.");
 }
 
+/// An answer in the history of all sessions.
+inline std::u16string MatrixOf(int rows, int columns) {
+  return u"Matrix " + Widen(std::to_string(rows)) + u" x " + Widen(std::to_string(columns));
+}
+
 // What "=" says of cells, besides its answer.
 inline std::u16string CellIsEmpty(int row, int column) {
   return u"R" + PlaceOfCell(row, column).substr(1) + u" is empty.";

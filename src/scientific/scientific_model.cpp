@@ -5,6 +5,7 @@
 
 #include "common/number_text.h"
 #include "line/line_texts.h"
+#include "line/past_lines_model.h"
 #include "line/shown_number.h"
 #include "macros/line_fault.h"
 #include "macros/macro_call.h"
@@ -190,6 +191,20 @@ ScientificRequest ScientificModel::Choose(Key key, int id) {
 void ScientificModel::ChooseHistory(int id) {
   const std::u16string& entry = history_.Entries()[static_cast<std::size_t>(id) - 1];
   line_.InsertText(EntryInsertion(entry, format_, modes_.baseMode));
+}
+
+std::optional<PastLine> ScientificModel::Evaluated() const {
+  if (TrimBlanks(std::u16string_view(expression_)).empty()) return std::nullopt;
+  const std::u16string_view answer = errorText_.empty() ? std::u16string_view(resultText_) : u"";
+  return MakePastLine(PastOrigin::Scientific, expression_, answer, modes_.baseMode);
+}
+
+void ScientificModel::TakePastLine(const PastLine& past) {
+  line_.InsertText(Widen(past.line));
+}
+
+void ScientificModel::TakePastAnswer(const PastLine& past) {
+  if (HasNumber(past)) line_.InsertText(AnswerInsertion(past, format_, modes_.baseMode));
 }
 
 void ScientificModel::ChooseBase(int id) {

@@ -19,6 +19,7 @@
 #include "macros/line_evaluator.h"
 #include "macros/live_result.h"
 #include "macros/macro_store.h"
+#include "settings/past_lines.h"
 #include "settings/settings_store.h"
 
 namespace kav {
@@ -69,6 +70,12 @@ class ScientificModel {
   ScientificRequest TakeConstant(std::u16string_view value);
   /// Reads the display settings again after their dialog changed them.
   void TakeDisplaySettings();
+
+  /// What the last "=" evaluated, for the history of all sessions; nullopt if the line was empty.
+  std::optional<PastLine> Evaluated() const;
+  // Both replace the selection; an answer only if it is a number.
+  void TakePastLine(const PastLine& past);
+  void TakePastAnswer(const PastLine& past);
 
   double LastAnswer() const { return lastAnswer_; }
   const History& PastLines() const { return history_; }

@@ -41,6 +41,11 @@ inline NumberedKey CalHistoryEntry(int number) {
   return {"History", "CalHistory" + std::to_string(number), ""};
 }
 
+// The lines of all sessions: whether any are kept, and whether they are shown beside a screen that
+// has room for them (1 or 0).
+inline constexpr IntegerKey kHistoryKept{"Config", "Keep History", 1};
+inline constexpr IntegerKey kHistoryShown{"Config", "Show History", 1};
+
 // The matrix screen's history: a count, then entries numbered from 0, the newest last.
 inline constexpr IntegerKey kCalMHistoryCount{"MHistory", "CalMHistoryCount", 0};
 inline NumberedKey CalMHistoryEntry(int number) {

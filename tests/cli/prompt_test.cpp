@@ -2,6 +2,9 @@
 // for each line, and what was typed before may be lost.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
+#include <sstream>
 #include <string>
 #include <utility>
 
@@ -24,10 +27,18 @@ class Prompt : public testing::Test {
             // The library for line editing never frees the names of the functions it was given.
             {"ASAN_OPTIONS", "detect_leaks=0"}};
   }
-  std::string HistoryPath() const {
-    return home_.File(".local/state/kav-calculator/kavcalc_history");
+  std::string State(const std::string& name) const {
+    return home_.File(".local/state/kav-calculator/" + name);
   }
-  std::string HistoryText() const { return FileContent(HistoryPath()); }
+  /// The records of the history without their ids.
+  std::string HistoryText() const {
+    std::istringstream records(FileContent(State("past_lines")));
+    std::string text;
+    for (std::string record; std::getline(records, record);) {
+      text.append(record.substr(std::min(record.find('\t'), record.size()))).append("\n");
+    }
+    return text;
+  }
 
   TemporaryFolder home_;
 };
@@ -174,7 +185,55 @@ TEST_F(Prompt, EqualNeighboursAreRememberedOnce) {
     ASSERT_TRUE(terminal.Shows("\r\n"));
   }
   ASSERT_TRUE(terminal.Shows("> "));
-  EXPECT_EQ(HistoryText(), "1+1\n3+1\n1+1\n");
+  EXPECT_EQ(HistoryText(), "\tP\t1\t1+1\t2\n\tP\t1\t3+1\t4\n\tP\t1\t1+1\t2\n");
+}
+
+TEST_F(Prompt, TheHistoryHasAnswersBasesAndFailedLines) {
+  Terminal terminal({"--base", "hex"}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("F+1\r");
+  ASSERT_TRUE(terminal.Shows("\r\n10\r\n> "));
+  terminal.Type("(1\r");
+  ASSERT_TRUE(terminal.Shows("error: "));
+  ASSERT_TRUE(terminal.Shows("> "));
+  EXPECT_EQ(HistoryText(), "\tP\t2\tF+1\t10\n\tP\t2\t(1\t\n");
+}
+
+TEST_F(Prompt, TheArrowGoesBackToLinesOfTheWindowToo) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("1+1\r");
+  ASSERT_TRUE(terminal.Shows("\r\n2\r\n> "));
+  PutFile(State("past_lines"), FileContent(State("past_lines")) +
+                                   "9000000000000000\tS\t1\t40+4\t44\n"
+                                   "9000000000000001\tM\t1\t[M1]\t\n");
+  terminal.Type("\r");
+  ASSERT_TRUE(terminal.Shows("\r\n> "));
+  terminal.Type(kUp);
+  EXPECT_TRUE(terminal.Shows("40+4"));
+}
+
+TEST_F(Prompt, TheFileOfAnEarlierVersionIsTakenOver) {
+  std::filesystem::create_directories(home_.File(".local/state/kav-calculator"));
+  PutFile(State("kavcalc_history"), "20+3\n");
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type(kUp);
+  ASSERT_TRUE(terminal.Shows("20+3"));
+  EXPECT_EQ(HistoryText(), "\tP\t1\t20+3\t\n");
+  EXPECT_FALSE(Exists(State("kavcalc_history")));
+}
+
+TEST_F(Prompt, NothingIsKeptIfTheSettingsSaySo) {
+  std::filesystem::create_directories(home_.File(".config/kav-calculator"));
+  PutFile(home_.File(".config/kav-calculator/settings.toml"), "[Config]\n\"Keep History\" = 0\n");
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("20+3\r");
+  ASSERT_TRUE(terminal.Shows("\r\n23\r\n> "));
+  terminal.Type(kUp);
+  EXPECT_TRUE(terminal.Shows("20+3")) << "until the prompt ends";
+  EXPECT_FALSE(Exists(State("past_lines")));
 }
 
 TEST_F(Prompt, TheHistoryFollowsXdgStateHomeAndIsForItsOwnerOnly) {
@@ -184,7 +243,7 @@ TEST_F(Prompt, TheHistoryFollowsXdgStateHomeAndIsForItsOwnerOnly) {
   ASSERT_TRUE(terminal.Shows("> "));
   terminal.Type("1+1\r");
   ASSERT_TRUE(terminal.Shows("\r\n2\r\n> "));
-  EXPECT_EQ(PermissionsOf(home_.File("state/kav-calculator/kavcalc_history")), 0600U);
+  EXPECT_EQ(PermissionsOf(home_.File("state/kav-calculator/past_lines")), 0600U);
 }
 
 TEST_F(Prompt, AHistoryThatCannotBeKeptIsToldOnce) {
@@ -193,9 +252,10 @@ TEST_F(Prompt, AHistoryThatCannotBeKeptIsToldOnce) {
   Terminal terminal({}, environment);
   ASSERT_TRUE(terminal.Shows("> "));
   terminal.Type("1+1\r");
+  ASSERT_TRUE(terminal.Shows("\r\n2\r\n"));
   ASSERT_TRUE(terminal.Shows(
-      "kavcalc: the history is not kept: /dev/null/nowhere/kav-calculator/kavcalc_history: "));
-  ASSERT_TRUE(terminal.Shows("\r\n2\r\n> "));
+      "kavcalc: The history cannot be kept in /dev/null/nowhere/kav-calculator/past_lines: "));
+  ASSERT_TRUE(terminal.Shows("> "));
   terminal.Type("2+2\r");
   ASSERT_TRUE(terminal.Shows("2+2\r\n4\r\n> "));
 }

@@ -276,5 +276,35 @@ TEST_F(MatrixScreen, MessageOutlastsADisplaySettingsChange) {
   EXPECT_EQ(model_->ResultText(), u"Division exceeded calculation limit.");
 }
 
+// The history of all sessions.
+
+TEST_F(MatrixScreen, WhatWasEvaluatedIsALineAndWhatItsAnswerReadsAs) {
+  const auto evaluated = [this](std::u16string_view line) {
+    Evaluate(line);
+    return model_->Evaluated();
+  };
+  EXPECT_EQ(evaluated(u"2+2"), (PastLine{0, PastOrigin::Matrix, 1, "2+2", "4"}));
+  EXPECT_EQ(evaluated(u"(2"), (PastLine{0, PastOrigin::Matrix, 1, "(2", ""}));
+  EXPECT_EQ(evaluated(u""), std::nullopt);
+  EXPECT_EQ(evaluated(u"[M1]"), (PastLine{0, PastOrigin::Matrix, 1, "[M1]", ""})) << "invalid";
+  Fill(0, u"1 2 3; 4 5 6");
+  EXPECT_EQ(evaluated(u"[M1]+[M1]"),
+            (PastLine{0, PastOrigin::Matrix, 1, "[M1]+[M1]", "Matrix 2 x 3"}));
+  EXPECT_EQ(evaluated(u"3+3"), std::nullopt) << "[M Ans] is shown: nothing is evaluated";
+  Fill(0, u"1 2; 3 4");
+  EXPECT_EQ(evaluated(u"determinant([M1])"),
+            (PastLine{0, PastOrigin::Matrix, 1, "determinant([M1])", "-2"}));
+}
+
+TEST_F(MatrixScreen, PastLinesAndAnswersReplaceTheSelection) {
+  model_->SetLine(u"123", {1, 2});
+  model_->TakePastLine({1, PastOrigin::Matrix, 1, "[M1]*2", "Matrix 2 x 2"});
+  EXPECT_EQ(MarkedNow(), u"1[M1]*2|3");
+  model_->TakePastAnswer({1, PastOrigin::Matrix, 1, "[M1]*2", "Matrix 2 x 2"});
+  EXPECT_EQ(MarkedNow(), u"1[M1]*2|3") << "a matrix is no number";
+  model_->TakePastAnswer({2, PastOrigin::Matrix, 1, "2000*2", "4,000"});
+  EXPECT_EQ(MarkedNow(), u"1[M1]*24000|3");
+}
+
 }  // namespace
 }  // namespace kav::matrix_model_evaluate_test

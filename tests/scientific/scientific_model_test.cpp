@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <optional>
 #include <random>
 
 #include "support/is_stored.h"
@@ -315,6 +316,33 @@ TEST(ScreenProperties, MegabyteLineHasItsMessage) {
   model.SetLine(std::u16string(1U << 20U, u'1'), {});
   model.Press(Key::Equals);
   EXPECT_EQ(model.ResultText(), u"number exceeded length limit.");
+}
+
+// The history of all sessions.
+
+TEST_F(Screen, WhatWasEvaluatedIsALineItsAnswerAndTheBase) {
+  EXPECT_EQ(model_->Evaluated(), std::nullopt);
+  Evaluate(u" 1000*2 ");
+  EXPECT_EQ(model_->Evaluated(), (PastLine{0, PastOrigin::Scientific, 1, " 1000*2 ", "2,000"}));
+  Evaluate(u"(1");
+  EXPECT_EQ(model_->Evaluated(), (PastLine{0, PastOrigin::Scientific, 1, "(1", ""}));
+  Evaluate(u"  ");
+  EXPECT_EQ(model_->Evaluated(), std::nullopt);
+  model_->Choose(Key::Dec, kHexadecimalItem);
+  Evaluate(u"F+1");
+  EXPECT_EQ(model_->Evaluated(), (PastLine{0, PastOrigin::Scientific, 2, "F+1", "10"}));
+}
+
+TEST_F(Screen, PastLinesAndAnswersReplaceTheSelection) {
+  const PastLine past{1, PastOrigin::Prompt, 2, "F+1", "1F"};
+  SetMarked(u"1[2]3");
+  model_->TakePastLine(past);
+  EXPECT_EQ(MarkedNow(), u"1F+1|3");
+  SetMarked(u"1[2]3");
+  model_->TakePastAnswer(past);
+  EXPECT_EQ(MarkedNow(), u"131|3") << "1F is 31 in decimal";
+  model_->TakePastAnswer({2, PastOrigin::Prompt, 1, "(1", ""});
+  EXPECT_EQ(MarkedNow(), u"131|3");
 }
 
 }  // namespace

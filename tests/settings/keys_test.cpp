@@ -41,6 +41,8 @@ const std::vector<IntegerRow> kIntegers{
     {kMatrixColumns, "Config", "Matrix Default Col", 3},
     {kMatrixAlignment, "Config", "Matrix Default Value", 0},
     {kMatrixColumnWidth, "Config", "Matrix Colum Width", 60},
+    {kHistoryKept, "Config", "Keep History", 1},
+    {kHistoryShown, "Config", "Show History", 1},
 };
 
 struct TextRow {
