@@ -36,6 +36,7 @@ struct FrameHooks {
   std::function<void()> saveStore;  ///< see Frame::SaveStore
   std::function<void()> started;    ///< the first screen is shown
   std::function<void()> finished;   ///< the last screen is gone: the application may end
+  PastLines* past = nullptr;        ///< see Frame::Past; null: nothing keeps them
   // See UserSettingsStore.
   std::function<Expected<std::string, std::u16string>()> exportSettings;
   std::function<std::optional<std::u16string>(const std::string& toml)> importSettings;
@@ -63,6 +64,7 @@ class FrameWindow final : public QWidget, public Frame {
   QWidget* Shown() const { return slots_[activeSlot_].get(); }
 
   SettingsStore& Store() override { return store_; }
+  PastLines& Past() override { return hooks_.past != nullptr ? *hooks_.past : Frame::Past(); }
   const ScreenDialogs& Dialogs() const override { return dialogs_; }
   std::vector<ScreenChoice> ScreensBeside(ScreenMode own) const override;
   void SaveStore() override { hooks_.saveStore(); }

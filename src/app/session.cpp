@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <chrono>
 #include <csignal>
 #include <utility>
 
@@ -12,6 +13,9 @@
 
 namespace kav {
 namespace {
+
+/// Between two tries to save past lines: another program has their file for milliseconds only.
+constexpr std::chrono::milliseconds kBetweenTries{100};
 
 /// The signals that ask a program to end.
 sigset_t EndSignals() {
@@ -45,6 +49,7 @@ EndWatch::EndWatch() : signals_(OpenEndSignals()) {
 Session::Session(SingleInstance instance, std::string settingsPath)
     : store_(std::move(settingsPath), StoreUser::Window),
       saver_(store_, [this] { return TellNotices(); }),
+      past_(StoreUser::Window),
       instance_(std::move(instance)) {
   const auto later = [this](void (Session::*what)()) {
     return [this, what] {
@@ -54,15 +59,30 @@ Session::Session(SingleInstance instance, std::string settingsPath)
   };
   frame_ = std::make_unique<FrameWindow>(
       store_, AllScreens(), AllDialogs(store_),
-      FrameHooks{[this] { saver_.Save(); }, later(&Session::Started), later(&Session::End),
+      FrameHooks{[this] { Save(); }, later(&Session::Started), later(&Session::End), &past_,
                  [this] { return store_.Export(); },
                  [this](const std::string& toml) { return store_.Import(toml); }});
+  QObject::connect(&pastTimer_, &QTimer::timeout, &context_, [this] { SavePastLines(); });
   frame_->show();
   WatchCalls();
 }
 
 Session::~Session() {
   frame_.reset();
+  SaveAtLast();
+}
+
+void Session::Save() {
+  SavePastLines();
+  saver_.Save();
+}
+
+void Session::SavePastLines() {
+  past_.TrySave() ? pastTimer_.stop() : pastTimer_.start(kBetweenTries);
+}
+
+void Session::SaveAtLast() {
+  past_.SaveAtLast();
   saver_.SaveAtLast();
 }
 
@@ -87,7 +107,7 @@ void Session::End() {
   calls_.reset();
   instance_.StopListening();
   frame_.reset();
-  saver_.SaveAtLast();
+  SaveAtLast();
   TellNotices();
   QApplication::exit();
 }
@@ -96,8 +116,11 @@ bool Session::TellNotices() {
   // A box over another one, or over an open menu, would come between the user and that.
   const bool isUserBusy =
       QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
-  if (isUserBusy) return !store_.HasNotice();
+  if (isUserBusy) return !store_.HasNotice() && !past_.HasNotice();
   while (const auto notice = store_.TakeNotice()) {
+    ShowNotice(frame_ ? frame_->Shown() : nullptr, *notice);
+  }
+  if (const auto notice = past_.TakeNotice()) {
     ShowNotice(frame_ ? frame_->Shown() : nullptr, *notice);
   }
   return true;

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QSocketNotifier>
+#include <QTimer>
 #include <memory>
 #include <string>
 
@@ -10,6 +11,7 @@
 #include "app/settings_saver.h"
 #include "app/single_instance.h"
 #include "settings/file_descriptor.h"
+#include "store/past_lines_file.h"
 #include "store/user_settings_store.h"
 
 namespace kav {
@@ -45,12 +47,17 @@ class Session {
 
  private:
   void WatchCalls();
+  void Save();
+  void SavePastLines();
+  void SaveAtLast();
   void Started();
   void End();
   bool TellNotices();
 
   UserSettingsStore store_;
   SettingsSaver saver_;
+  PastLinesFile past_;
+  QTimer pastTimer_;  ///< until those are saved that another program kept from it
   SingleInstance instance_;
   EndWatch end_;
   QObject context_;  // what is still to be called is forgotten with it

@@ -13,6 +13,8 @@ inline constexpr std::u16string_view kHistoryEntry = u"&History";
 inline constexpr std::u16string_view kHistoryTip =
     u"Show or hide the lines of all sessions, with their answers";
 
+inline constexpr std::string_view kHistoryKeys = "Ctrl+H";
+
 inline constexpr std::u16string_view kHistoryName = u"History";
 inline constexpr std::u16string_view kSearchHistory = u"Search the history";
 inline constexpr std::u16string_view kPastLinesName = u"Past lines";

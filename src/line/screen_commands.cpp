@@ -22,6 +22,7 @@ constexpr std::array kShortcuts{
     ShortcutRow{"Ctrl+C", {},                         u"copy what is selected"},
     ShortcutRow{"Ctrl+V", {},                         u"paste"},
     ShortcutRow{"Ctrl+A", {},                         u"select all"},
+    ShortcutRow{"Ctrl+H", {},                         u"show or hide the history of the scientific and the matrix screen"},
     ShortcutRow{"Tab; Shift+Tab", {},                 u"go on to the next field or key, and back"},
     ShortcutRow{"Space",  {},                         u"press the key that has the focus"},
     ShortcutRow{"Ctrl",   {},                         u"held alone: show the shortcuts on the keys"},

@@ -45,6 +45,7 @@ class PastLinesFile final : public PastLines {
   /// Why lines are not kept or not deleted, told once until one could be kept again; nullopt for
   /// nothing to tell.
   std::optional<std::u16string> TakeNotice();
+  bool HasNotice() const { return !notice_.empty(); }
 
  private:
   using Outcome = std::optional<FileError>;

@@ -23,7 +23,8 @@ constexpr double kLineTextHeight = 0.62;
 }  // namespace
 
 CMatrixDlg::CMatrixDlg(Frame& frame)
-    : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), SpotsOf(MatrixKeyRows())),
+    : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), SpotsOf(MatrixKeyRows()),
+                  PastRoom::Matrix, PastNeighbour::Sheet),
       model_(frame.Store()),
       tabs_(new MatrixTabs(this)),
       grid_(this, model_,
@@ -70,7 +71,7 @@ void CMatrixDlg::OnKey(MatrixKey key) {
   if (isEquals && AsksFirst(Line(), [this] { OnKey(MatrixKey::Equals); })) return;
   if (isEquals) FinishLine();
   KeyScreenOf::OnKey(key);
-  if (isEquals) SaveAfterPainting([this] { model_.Save(); });
+  if (isEquals) SaveAfterPainting([this] { model_.Save(); }, model_.Evaluated());
 }
 
 void CMatrixDlg::OnTab(int index) {
@@ -107,12 +108,13 @@ void CMatrixDlg::ShowMatrix() {
 }
 
 QRect CMatrixDlg::Area() const {
-  return IsWideForMatrices(size()) ? rect() : KeyScreenOf::Area();
+  return IsWideForMatrices(ScreenPart().size()) ? ScreenPart() : KeyScreenOf::Area();
 }
 
 void CMatrixDlg::LayOut(const DialogUnits& units) {
   const QRect body = units.Pixels(QRect(0, 0, kScreenWidth, kScreenHeight));
-  const MatrixPlaces places = IsWideForMatrices(size()) ? WidePlaces(body) : UprightPlaces(units);
+  const MatrixPlaces places =
+      IsWideForMatrices(ScreenPart().size()) ? WidePlaces(body) : UprightPlaces(units);
   Keys().setGeometry(rect());
   Keys().LayOut(places.keys);
   Line().setGeometry(places.line);
@@ -120,6 +122,26 @@ void CMatrixDlg::LayOut(const DialogUnits& units) {
   Result().LayOut(places.result);
   tabs_->setGeometry(places.tabs);
   grid_.LayOut(places);
+  LayOutHistory(body);
+}
+
+void CMatrixDlg::TakePast(const PastLine& past, PastPart part) {
+  TakeLine();
+  part == PastPart::Line ? model_.TakePastLine(past) : model_.TakePastAnswer(past);
+  Refresh();
+}
+
+void CMatrixDlg::Cover() {
+  grid_.FinishEdit();
+  KeyScreenOf::Cover();
+  tabs_->hide();
+  grid_.Grid().hide();
+}
+
+void CMatrixDlg::Uncover() {
+  KeyScreenOf::Uncover();
+  tabs_->show();
+  grid_.Grid().show();
 }
 
 void CMatrixDlg::CarryOut(const MatrixRequest& request) {

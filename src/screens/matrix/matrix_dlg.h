@@ -41,6 +41,9 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
     return model_.LiveResult(line);
   }
   HistoryWalk::Lines EarlierLines() const override { return TypedLines(model_.PastLines()); }
+  void TakePast(const PastLine& past, PastPart part) override;
+  void Cover() override;
+  void Uncover() override;
   void ShowMatrix();
 
   // What a key asks for.

@@ -13,7 +13,8 @@ constexpr double kLineTextHeight = 0.42;
 }  // namespace
 
 CScientificDlg::CScientificDlg(Frame& frame)
-    : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), SpotsOf(KeyPlaces())),
+    : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), SpotsOf(KeyPlaces()),
+                  PastRoom::Calculator, PastNeighbour::Column),
       model_(frame.Store()) {
   AddMenus(ScreenMode::Scientific, DisplayPage::Normal, [this] { model_.TakeDisplaySettings(); });
   CScientificDlg::Refresh();
@@ -28,7 +29,7 @@ void CScientificDlg::OnKey(Key key) {
   if (isEquals && AsksFirst(Line(), [this] { OnKey(Key::Equals); })) return;
   if (isEquals) FinishLine();
   KeyScreenOf::OnKey(key);
-  if (isEquals) SaveAfterPainting([this] { model_.Save(); });
+  if (isEquals) SaveAfterPainting([this] { model_.Save(); }, model_.Evaluated());
 }
 
 void CScientificDlg::TakeLine() {
@@ -49,6 +50,13 @@ void CScientificDlg::LayOut(const DialogUnits& units) {
   Line().setGeometry(units.Pixels(UnitsOf(kExpressionPlace)));
   Line().SetTextHeight(qRound(Line().height() * kLineTextHeight));
   Result().LayOut(units.Pixels(UnitsOf(kResultPlace)));
+  LayOutHistory(units.Pixels(QRect(0, 0, kScreenWidth, kScreenHeight)));
+}
+
+void CScientificDlg::TakePast(const PastLine& past, PastPart part) {
+  TakeLine();
+  part == PastPart::Line ? model_.TakePastLine(past) : model_.TakePastAnswer(past);
+  Refresh();
 }
 
 void CScientificDlg::CarryOut(const ScientificRequest& request) {

@@ -34,6 +34,7 @@ class CScientificDlg final : public KeyScreenOf<Key, ScientificModel, LineScreen
     return model_.LiveResult(line);
   }
   HistoryWalk::Lines EarlierLines() const override { return TypedLines(model_.PastLines()); }
+  void TakePast(const PastLine& past, PastPart part) override;
 
   void CarryOut(const ScientificRequest& request) override;
 

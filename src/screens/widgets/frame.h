@@ -12,6 +12,7 @@
 #include "display/display_settings_model.h"
 #include "line/guide_pages.h"
 #include "line/key_request.h"
+#include "settings/past_lines.h"
 #include "settings/settings_store.h"
 
 class QWidget;
@@ -64,6 +65,8 @@ class Frame {
   virtual ~Frame() = default;
 
   virtual SettingsStore& Store() = 0;
+  /// The lines of all sessions. By default they last as long as the frame.
+  virtual PastLines& Past() { return past_; }
   virtual const ScreenDialogs& Dialogs() const = 0;
   virtual std::vector<ScreenChoice> ScreensBeside(ScreenMode own) const = 0;
 
@@ -92,6 +95,7 @@ class Frame {
 
  private:
   std::map<ScreenMode, std::unique_ptr<KeptWork>> kept_;
+  MemoryPastLines past_;
 };
 
 }  // namespace kav

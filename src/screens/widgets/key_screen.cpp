@@ -45,7 +45,7 @@ void KeyScreen::PopUp(const Menu& items, int key, const std::function<void(int)>
     action->setCheckable(true);
     action->setChecked(item.mark == MenuMark::Set);
   }
-  if (const auto place = PlaceOfMenu(key)) return PopUpAt(*menu, *this, *place);
+  if (const auto place = PlaceOfMenu(key)) return PopUpAt(*menu, *this, Area(), *place);
   const QRect below = keys_->KeyArea(key);
   menu->popup(mapToGlobal(QPoint(below.left(), below.bottom() + 1)));
   // Only now its width is known.
@@ -62,7 +62,7 @@ void KeyScreen::AddMenus(ScreenMode mode, DisplayPage page,
   AddFileMenu({Opening(config), Opening(dialogs.unitEditor), Opening(dialogs.macroEditor),
                mode == ScreenMode::Plotter ? kPlotterEditMacroEntry : kEditMacroEntry});
   AddEditMenu({[this](EditCommand command) { Edit(command); },
-               [this](EditCommand command) { return CanEdit(command); }});
+               [this](EditCommand command) { return CanEdit(command); }, MoreToEdit()});
   AddModeMenu(mode);
   AddHelpMenu();
 }

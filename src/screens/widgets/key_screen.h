@@ -31,6 +31,8 @@ class KeyScreen : public Screen {
   // What the Edit menu does.
   virtual void Edit(EditCommand command) = 0;
   virtual bool CanEdit(EditCommand command) const = 0;
+  /// Entries below those of the Edit menu that every screen has.
+  virtual std::vector<MenuEntry> MoreToEdit() { return {}; }
 
   /// Makes the keys: once, after what the Tab key is to reach before them.
   void AddKeys(std::vector<KeySpot> keys);

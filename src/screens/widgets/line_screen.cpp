@@ -2,10 +2,15 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QShortcut>
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 
 #include "line/line_texts.h"
+#include "line/past_lines_model.h"
+#include "line/past_lines_texts.h"
 #include "screens/widgets/field_door.h"
 #include "screens/widgets/offer_strip.h"
 #include "screens/widgets/qt_text.h"
@@ -21,8 +26,18 @@ bool IsReturn(const QFocusEvent& event) {
 
 }  // namespace
 
-LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys)
-    : KeyScreen(frame, size), line_(new ExpressionView(this)), result_(new ResultView(this)) {
+LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, PastRoom room,
+                       PastNeighbour neighbour)
+    : KeyScreen(frame, size),
+      line_(new ExpressionView(this)),
+      result_(new ResultView(this)),
+      room_(room),
+      past_(*this, frame, room, neighbour,
+            {.take = [this](const PastLine& past, PastPart part) { TakePast(past, part); },
+             .layOut = [this] { LayOutAll(); },
+             .uncover = [this] { Uncover(); },
+             .cover = [this] { Cover(); },
+             .leave = [this] { line_->setFocus(); }}) {
   line_->setAccessibleName(ToQt(kExpressionName));
   line_->setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
   line_->installEventFilter(this);
@@ -30,6 +45,40 @@ LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys)
   result_->setAccessibleName(ToQt(kResultName));
   connect(line_, &QLineEdit::textChanged, this, [this] { ShowLive(); });
   AddKeys(std::move(keys));
+  auto* history = new QShortcut(QKeySequence(QLatin1String(kHistoryKeys)), this);
+  connect(history, &QShortcut::activated, this, [this] { past_.Toggle(); });
+}
+
+QRect LineScreen::Area() const {
+  const QRect part = ScreenPart();
+  return PortraitArea(part.size()).translated(part.topLeft());
+}
+
+std::vector<MenuEntry> LineScreen::MoreToEdit() {
+  return {{kHistoryEntry,
+           [this] { past_.Toggle(); },
+           QKeySequence(QLatin1String(kHistoryKeys)),
+           {},
+           kHistoryTip}};
+}
+
+void LineScreen::LayOutHistory(const QRect& body) {
+  const int gap = std::max(body.height() / 80, 1);
+  QRect keys = body;
+  keys.setTop(result_->geometry().bottom() + gap);
+  past_.LayOut(keys, TextPixels(Area().height()));
+}
+
+bool LineScreen::event(QEvent* event) {
+  // Other programs may have calculated, too.
+  if (event->type() == QEvent::WindowActivate) past_.Load();
+  return KeyScreen::event(event);
+}
+
+void LineScreen::paintEvent(QPaintEvent* event) {
+  KeyScreen::paintEvent(event);
+  QPainter(this).fillRect(past_.PanelPart(), palette().color(QPalette::Window));
+  past_.Painted();
 }
 
 /// Presses the key of the screen that `event` stands for; whether there is one.
@@ -121,13 +170,16 @@ bool LineScreen::CanEdit(EditCommand command) const {
   return CanEditLine(Edited(), command);
 }
 
-void LineScreen::SaveAfterPainting(const std::function<void()>& save) {
+void LineScreen::SaveAfterPainting(const std::function<void()>& save,
+                                   const std::optional<PastLine>& evaluated) {
   // The disk may be slow, and the user waits for the answer.
   line_->repaint();
   result_->repaint();
-  QTimer::singleShot(0, this, [this, save] {
+  QTimer::singleShot(0, this, [this, save, evaluated] {
     save();
+    if (evaluated) KeepPastLine(ParentFrame().Past(), ParentFrame().Store(), *evaluated);
     ParentFrame().SaveStore();
+    past_.Load();
   });
 }
 

@@ -11,6 +11,8 @@
 #include "screens/widgets/expression_view.h"
 #include "screens/widgets/key_screen.h"
 #include "screens/widgets/line_view.h"
+#include "screens/widgets/past_side.h"
+#include "settings/past_lines.h"
 
 namespace kav {
 
@@ -19,10 +21,11 @@ class OfferStrip;
 /// Enter, Esc and "=" of the keyboard press keys of the screen, whatever has the focus. Everything
 /// else that is typed goes to the expression line, unless the focused widget uses it. The Edit menu
 /// works on the result if some of it is selected, else on the line. Up walks from the ends of the
-/// line through earlier ones, Down back, and then into the keys.
+/// line through earlier ones, Down back, and then into the keys. Ctrl+H shows and hides the history.
 class LineScreen : public KeyScreen {
  public:
-  LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys);
+  LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, PastRoom room,
+             PastNeighbour neighbour);
 
  protected:
   ExpressionView& Line() const { return *line_; }
@@ -31,9 +34,23 @@ class LineScreen : public KeyScreen {
   void Edit(EditCommand command) override;
   bool CanEdit(EditCommand command) const override;
 
-  /// Paints both lines, and only then has `save` write the model into the store, and the store to
-  /// disk.
-  void SaveAfterPainting(const std::function<void()>& save);
+  /// Paints both lines, and only then has `save` write the model into the store, the store to disk,
+  /// and `evaluated` kept in the history.
+  void SaveAfterPainting(const std::function<void()>& save,
+                         const std::optional<PastLine>& evaluated);
+
+  // The history of all sessions.
+  QRect Area() const override;
+  std::vector<MenuEntry> MoreToEdit() override;
+  /// The part of the window that it leaves for the screen.
+  QRect ScreenPart() const { return past_.ScreenPart(); }
+  /// To be called when everything else on the `body` above the menus is laid out.
+  void LayOutHistory(const QRect& body);
+  /// Writes into the line what the user chose there.
+  virtual void TakePast(const PastLine& past, PastPart part) = 0;
+  /// Hides and shows what the history lies over, where it has no room beside the screen.
+  virtual void Cover() { Keys().hide(); }
+  virtual void Uncover() { Keys().show(); }
 
   /// What the line comes to, before it is answered; nullopt to show nothing.
   virtual std::optional<std::u16string> LiveResult(std::u16string_view line) const = 0;
@@ -55,6 +72,8 @@ class LineScreen : public KeyScreen {
   virtual void OnEquals() = 0;
   virtual void OnClear() = 0;
 
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
@@ -68,6 +87,8 @@ class LineScreen : public KeyScreen {
   HistoryWalk walk_;
   OfferStrip* offers_ = nullptr;  ///< made for the first offer
   std::optional<std::u16string> offered_;
+  PastRoom room_;
+  PastSide past_;
 };
 
 }  // namespace kav

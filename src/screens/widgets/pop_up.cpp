@@ -43,7 +43,10 @@ QFont MenuFont(const QWidget& window) {
 }
 
 void PopUpAt(QMenu& menu, const QWidget& window, const MenuPlace& place) {
-  const QRect area = PortraitArea(window.size());
+  PopUpAt(menu, window, PortraitArea(window.size()), place);
+}
+
+void PopUpAt(QMenu& menu, const QWidget& window, const QRect& area, const MenuPlace& place) {
   const QRect point =
       DialogUnits(area, QSize(kPlaceWidth, kPlaceHeight)).Pixels(QRect(place.x, place.y, 1, 1));
   const int left = place.side == MenuSide::Left ? point.x() : point.x() - menu.sizeHint().width();

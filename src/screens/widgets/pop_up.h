@@ -3,6 +3,7 @@
 
 #include <QFont>
 #include <QPoint>
+#include <QRect>
 
 class QMenu;
 class QWidget;
@@ -20,5 +21,7 @@ QFont MenuFont(const QWidget& window);
 
 /// Opens `menu` at `place` of the screen or dialog `window`.
 void PopUpAt(QMenu& menu, const QWidget& window, const MenuPlace& place);
+/// The same for a screen that fills `area` of `window`.
+void PopUpAt(QMenu& menu, const QWidget& window, const QRect& area, const MenuPlace& place);
 
 }  // namespace kav

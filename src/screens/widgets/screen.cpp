@@ -183,12 +183,13 @@ void Screen::AddFileMenu(const FileCommands& commands) {
 
 void Screen::AddEditMenu(const EditHooks& hooks) {
   std::vector<MenuEntry> entries;
-  entries.reserve(kEditRows.size());
+  entries.reserve(kEditRows.size() + hooks.more.size());
   for (const EditRow& row : kEditRows) {
     entries.push_back(
         {row.text, [edit = hooks.edit, command = row.command] { edit(command); }, row.shortcut,
          [can = hooks.canEdit, command = row.command] { return can(command); }, row.tip});
   }
+  entries.insert(entries.end(), hooks.more.begin(), hooks.more.end());
   AddMenu(kEditMenu, entries);
 }
 
@@ -220,6 +221,10 @@ void Screen::Dress(QMenu* menu) {
 }
 
 void Screen::resizeEvent(QResizeEvent*) {
+  LayOutAll();
+}
+
+void Screen::LayOutAll() {
   const QRect area = Area();
   int text = TextPixels(area.height());
   menuBar_->setFont(ScreenFont(text));

@@ -42,6 +42,7 @@ enum class EditCommand { Undo, Redo, Cut, Copy, Paste, SelectAll };
 struct EditHooks {
   std::function<void(EditCommand)> edit;
   std::function<bool(EditCommand)> canEdit;  ///< asked each time the menu opens
+  std::vector<MenuEntry> more = {};
 };
 
 /// Carries the command out on a line, and whether that would change anything.
@@ -72,6 +73,9 @@ class Screen : public QWidget {
   virtual QRect Area() const { return PortraitArea(size()); }
   /// Called whenever the body has a new size: places everything on it.
   virtual void LayOut(const DialogUnits& units) = 0;
+
+  /// Places everything, as after a change of the window's size.
+  void LayOutAll();
 
   /// No menu if there are no entries.
   void AddMenu(std::u16string_view title, const std::vector<MenuEntry>& entries);

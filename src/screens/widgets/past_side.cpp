@@ -1,0 +1,142 @@
+#include "screens/widgets/past_side.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+#include "screens/widgets/look.h"
+#include "settings/keys.h"
+
+namespace kav {
+namespace {
+
+// By the height of the window: the width of a column, and those of a history that stands beside
+// one. Rows that are wider hold a line and its answer too far apart to be seen together.
+constexpr double kColumnShare = 0.75;
+constexpr double kLeastShare = 0.38;
+constexpr double kMostShare = 1.05;
+/// The same of a history beside a sheet, which needs the room more.
+constexpr double kSheetShare = 0.45;
+
+constexpr std::int32_t kShown = 1;
+constexpr std::int32_t kHidden = 0;
+
+}  // namespace
+
+PastPlaces PlacesBeside(QSize window, PastNeighbour neighbour) {
+  const int height = window.height();
+  const int column = qRound(height * kColumnShare);
+  const bool isColumn = neighbour == PastNeighbour::Column;
+  const int least = qRound(height * (isColumn ? kLeastShare : kSheetShare));
+  const int most = qRound(height * (isColumn ? kMostShare : kSheetShare));
+  const int width = std::min(window.width() - column, most);
+  if (width < least) return {QRect(QPoint(), window), {}};
+  const int rest = window.width() - width;
+  if (!isColumn) return {QRect(0, 0, rest, height), QRect(rest, 0, width, height)};
+  const int left = (rest - column) / 2;
+  return {QRect(left, 0, column, height), QRect(left + column, 0, width, height)};
+}
+
+PastSide::PastSide(QWidget& screen, Frame& frame, PastRoom room, PastNeighbour neighbour,
+                   PastSideHooks hooks)
+    : screen_(screen),
+      frame_(frame),
+      room_(room),
+      neighbour_(neighbour),
+      hooks_(std::move(hooks)),
+      isWanted_(neighbour == PastNeighbour::Column && frame.Store().Get(kHistoryShown) != kHidden) {
+}
+
+QRect PastSide::ScreenPart() const {
+  return isWanted_ ? PlacesBeside(screen_.size(), neighbour_).screen : screen_.rect();
+}
+
+QRect PastSide::PanelPart() const {
+  return isWanted_ ? PlacesBeside(screen_.size(), neighbour_).history : QRect();
+}
+
+void PastSide::LayOut(const QRect& keys, int pixels) {
+  keys_ = keys;
+  pixels_ = pixels;
+  if (panel_ == nullptr) return;
+  if (IsBeside() && isOver_) {
+    isOver_ = false;
+    hooks_.uncover();
+  }
+  Place();
+}
+
+void PastSide::Place() {
+  const bool isShown = IsBeside() || isOver_;
+  if (isShown) panel_->LayOut(isOver_ ? keys_ : PanelPart(), pixels_);
+  panel_->setVisible(isShown);
+  if (isShown) panel_->raise();
+}
+
+void PastSide::Painted() {
+  if (panel_ != nullptr || !IsBeside()) return;
+  // Reading and making it would keep the user from the line.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (panel_ == nullptr && IsBeside()) MakePanel();
+      },
+      Qt::QueuedConnection);
+}
+
+void PastSide::MakePanel() {
+  panel_ = new PastPanel(&screen_, PastLinesModel(frame_.Past(), frame_.Store(), room_),
+                         {.take = [this](const PastLine& past, PastPart part) { Take(past, part); },
+                          .close = [this] { Close(); },
+                          .leave = [this] { isOver_ ? Close() : hooks_.leave(); },
+                          .changed = [this] { frame_.SaveStore(); }});
+  Place();
+  panel_->Load();
+}
+
+void PastSide::Load() {
+  if (IsShown()) panel_->Load();
+}
+
+void PastSide::Toggle() {
+  IsShown() ? Close() : Show();
+}
+
+void PastSide::SetWanted(bool wanted) {
+  isWanted_ = wanted;
+  if (neighbour_ != PastNeighbour::Column) return;
+  frame_.Store().Set(kHistoryShown, wanted ? kShown : kHidden);
+  frame_.SaveStore();
+}
+
+void PastSide::Show() {
+  const bool hasRoom = !PlacesBeside(screen_.size(), neighbour_).history.isEmpty();
+  if (hasRoom) {
+    SetWanted(true);
+    hooks_.layOut();
+  } else {
+    isOver_ = true;
+    hooks_.cover();
+  }
+  if (panel_ == nullptr) MakePanel();
+  Place();
+  panel_->Load();
+  panel_->Enter();
+}
+
+void PastSide::Close() {
+  const bool wasOver = std::exchange(isOver_, false);
+  if (!wasOver) SetWanted(false);
+  // Before the panel goes with the keyboard, which would go anywhere.
+  if (wasOver) hooks_.uncover();
+  hooks_.leave();
+  panel_->hide();
+  if (!wasOver) hooks_.layOut();
+}
+
+void PastSide::Take(const PastLine& past, PastPart part) {
+  if (isOver_) Close();
+  hooks_.take(past, part);
+}
+
+}  // namespace kav

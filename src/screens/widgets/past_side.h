@@ -1,0 +1,83 @@
+// Where a screen with a line has the history of all sessions.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QRect>
+#include <functional>
+
+#include "line/past_lines_model.h"
+#include "screens/widgets/frame.h"
+#include "screens/widgets/past_panel.h"
+
+namespace kav {
+
+/// What a screen does with the room that the history leaves.
+enum class PastNeighbour {
+  Column,  ///< it is a column, beside which the history stands unless the user hid it
+  Sheet    ///< it uses all of it, and the history stands there only if the user asks for it
+};
+
+/// The parts of a window that the screen and the history beside it take.
+struct PastPlaces {
+  QRect screen;
+  QRect history;  ///< empty: there is no room for it
+};
+PastPlaces PlacesBeside(QSize window, PastNeighbour neighbour);
+
+/// What is asked of the screen.
+struct PastSideHooks {
+  std::function<void(const PastLine& past, PastPart part)> take;
+  std::function<void()> layOut;   ///< everything, because the history came or went
+  std::function<void()> uncover;  ///< shows what the history lay over
+  std::function<void()> cover;    ///< hides it, so that no key leads there
+  std::function<void()> leave;    ///< gives the keyboard to the line
+};
+
+/// The history beside the screen in a wide window, else over its keys. The panel is made when it is
+/// first shown, and what it shows is read then. Whether it stands beside a column is remembered.
+class PastSide final : public QObject {
+ public:
+  /// `screen` and `frame` must outlive it.
+  PastSide(QWidget& screen, Frame& frame, PastRoom room, PastNeighbour neighbour,
+           PastSideHooks hooks);
+
+  /// The part of the window that is the screen's.
+  QRect ScreenPart() const;
+  /// The part that is painted as one with the panel, which may come a moment later; empty if it
+  /// does not stand beside the screen.
+  QRect PanelPart() const;
+  /// To be called whenever the screen is laid out. `keys` is what the panel may lie over, `pixels`
+  /// the height of its letters.
+  void LayOut(const QRect& keys, int pixels);
+  /// To be called when the window was painted.
+  void Painted();
+
+  /// Shows the panel and gives it the keyboard, or hides it.
+  void Toggle();
+  /// Shows what was added, if the panel is shown.
+  void Load();
+
+ private:
+  bool IsBeside() const { return !PanelPart().isEmpty(); }
+  bool IsShown() const { return panel_ != nullptr && panel_->isVisibleTo(&screen_); }
+  void Show();
+  void Close();
+  void MakePanel();
+  void Place();
+  void Take(const PastLine& past, PastPart part);
+  void SetWanted(bool wanted);
+
+  QWidget& screen_;
+  Frame& frame_;
+  PastRoom room_;
+  PastNeighbour neighbour_;
+  PastSideHooks hooks_;
+  QPointer<PastPanel> panel_;
+  QRect keys_;
+  int pixels_ = 1;
+  bool isWanted_;        ///< beside the screen
+  bool isOver_ = false;  ///< the keys
+};
+
+}  // namespace kav
