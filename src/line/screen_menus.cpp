@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <utility>
 
 #include "line/line_texts.h"
 
@@ -52,7 +53,9 @@ Menu BuildHistoryMenu(const History& history) {
   for (std::size_t number = entries.size(); number > 0; --number) {
     // A stored count may be larger than the number of stored entries.
     if (entries[number - 1].empty()) continue;
-    menu.push_back({static_cast<int>(number), EntryLabel(entries[number - 1])});
+    MenuItem item{static_cast<int>(number), EntryLabel(entries[number - 1])};
+    if (item.text != entries[number - 1]) item.whole = entries[number - 1];
+    menu.push_back(std::move(item));
   }
   return menu;
 }

@@ -19,9 +19,13 @@ struct MenuItem {
   int id = 0;
   std::u16string text;
   MenuMark mark = MenuMark::None;
+  std::u16string whole = {};  ///< what `text` is the beginning of; empty if it is not cut
 
   bool IsSeparator() const { return id == 0; }
-  bool operator==(const MenuItem&) const = default;
+  /// `whole` tells nothing more about which item it is.
+  bool operator==(const MenuItem& other) const {
+    return id == other.id && text == other.text && mark == other.mark;
+  }
 };
 using Menu = std::vector<MenuItem>;
 

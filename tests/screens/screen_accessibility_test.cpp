@@ -57,6 +57,9 @@ TEST_F(ScreenAccessibilityTest, EntriesOfTheEditMenuAreDescribed) {
   EXPECT_EQ(entries,
             (std::map<QString, QString>{{"Copy", "Copy the selection and put it on the Clipboard"},
                                         {"Cut", "Cut the selection and put it on the Clipboard"},
+                                        {"History",
+                                         "Show or hide the lines of all sessions, with their "
+                                         "answers"},
                                         {"Paste", "Insert Clipboard contents"},
                                         {"Redo", ""},
                                         {"Select All", ""},

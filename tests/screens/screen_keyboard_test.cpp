@@ -319,11 +319,12 @@ TEST_F(ScreenKeyboardTest, TheEditMenuEnablesWhatItCanDo) {
     }
     return texts;
   };
-  EXPECT_EQ(enabled(), (Texts{u"&Paste", u"Select &All"}));
+  EXPECT_EQ(enabled(), (Texts{u"&Paste", u"Select &All", u"&History"}));
   Type("1");
-  EXPECT_EQ(enabled(), (Texts{u"&Undo", u"&Paste", u"Select &All"}));
+  EXPECT_EQ(enabled(), (Texts{u"&Undo", u"&Paste", u"Select &All", u"&History"}));
   Expression(*dlg_).selectAll();
-  EXPECT_EQ(enabled(), (Texts{u"&Undo", u"Cu&t", u"&Copy", u"&Paste", u"Select &All"}));
+  EXPECT_EQ(enabled(),
+            (Texts{u"&Undo", u"Cu&t", u"&Copy", u"&Paste", u"Select &All", u"&History"}));
 }
 
 TEST_F(ScreenKeyboardTest, TheResultIsSelectedAndCopied) {

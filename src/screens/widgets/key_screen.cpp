@@ -39,6 +39,11 @@ void KeyScreen::PopUp(const Menu& items, int key, const std::function<void(int)>
       continue;
     }
     QAction* action = menu->addAction(LabelOf(item.text));
+    if (!item.whole.empty()) {
+      menu->setToolTipsVisible(true);
+      action->setToolTip(TipOf(item.whole));
+      action->setStatusTip(QString::fromStdU16String(item.whole));
+    }
     connect(action, &QAction::triggered, this, [choose, id = item.id] { choose(id); });
     if (item.mark == MenuMark::None) continue;
     marked->addAction(action);

@@ -34,7 +34,11 @@ LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, Past
       room_(room),
       past_(*this, frame, room, neighbour,
             {.take = [this](const PastLine& past, PastPart part) { TakePast(past, part); },
-             .layOut = [this] { LayOutAll(); },
+             .layOut =
+                 [this] {
+                   LayOutAll();
+                   update();
+                 },
              .uncover = [this] { Uncover(); },
              .cover = [this] { Cover(); },
              .leave = [this] { line_->setFocus(); }}) {
@@ -62,10 +66,20 @@ std::vector<MenuEntry> LineScreen::MoreToEdit() {
            kHistoryTip}};
 }
 
+void LineScreen::Cover() {
+  result_->hide();
+  Keys().hide();
+}
+
+void LineScreen::Uncover() {
+  result_->show();
+  Keys().show();
+}
+
 void LineScreen::LayOutHistory(const QRect& body) {
   const int gap = std::max(body.height() / 80, 1);
   QRect keys = body;
-  keys.setTop(result_->geometry().bottom() + gap);
+  keys.setTop(line_->geometry().bottom() + gap);
   past_.LayOut(keys, TextPixels(Area().height()));
 }
 

@@ -49,8 +49,8 @@ class LineScreen : public KeyScreen {
   /// Writes into the line what the user chose there.
   virtual void TakePast(const PastLine& past, PastPart part) = 0;
   /// Hides and shows what the history lies over, where it has no room beside the screen.
-  virtual void Cover() { Keys().hide(); }
-  virtual void Uncover() { Keys().show(); }
+  virtual void Cover();
+  virtual void Uncover();
 
   /// What the line comes to, before it is answered; nullopt to show nothing.
   virtual std::optional<std::u16string> LiveResult(std::u16string_view line) const = 0;

@@ -238,6 +238,9 @@ bool PastPanel::PressInList(const QKeyEvent& key) {
 }
 
 bool PastPanel::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+    list_->viewport()->update();
+  }
   if (event->type() == QEvent::KeyPress) {
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (watched == search_ ? PressInField(key) : PressInList(key)) return true;

@@ -1,5 +1,6 @@
 #include "screens/widgets/past_rows_view.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -11,6 +12,7 @@
 #include "line/past_lines_texts.h"
 #include "screens/widgets/access_view.h"
 #include "screens/widgets/look.h"
+#include "screens/widgets/pop_up.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -23,11 +25,19 @@ constexpr double kRoomBeside = 0.4;
 /// The letters of a base's tag, by those of the answer.
 constexpr double kTagLetters = 0.7;
 
+constexpr float kFaint = 0.12F;
+
 /// Long texts are cut before they are measured: that takes time with each of their characters.
 constexpr qsizetype kMostMeasured = 400;
 
 QString Measured(const std::u16string& text) {
   return QString::fromStdU16String(text).left(kMostMeasured);
+}
+
+/// Whether the keyboard is in the view or in what stands around it.
+bool HasKeyboard(const QWidget* view) {
+  const QWidget* focus = QApplication::focusWidget();
+  return focus != nullptr && view != nullptr && view->parentWidget()->isAncestorOf(focus);
 }
 
 int RowHeight(const QFontMetrics& metrics) {
@@ -46,10 +56,14 @@ class PastRowPainter final : public QStyledItemDelegate {
              const QModelIndex& index) const override {
     const auto* rows = static_cast<const PastRows*>(index.model());
     const PastRow row = rows->Past().Row(static_cast<std::size_t>(index.row()));
-    const bool isMarked = option.state.testFlag(QStyle::State_Selected);
     const QPalette& palette = option.palette;
+    // Without the keyboard a row is marked faintly: it is not what the next key works on.
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    const bool isMarked = isSelected && HasKeyboard(option.widget);
+    QColor mark = palette.color(QPalette::Highlight);
+    if (!isMarked) mark.setAlphaF(kFaint);
     painter->save();
-    if (isMarked) painter->fillRect(option.rect, palette.color(QPalette::Highlight));
+    if (isSelected) painter->fillRect(option.rect, mark);
     painter->setPen(palette.color(QPalette::Mid));
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     painter->setPen(palette.color(isMarked ? QPalette::HighlightedText : QPalette::Text));
@@ -101,12 +115,10 @@ int PastRows::rowCount(const QModelIndex& parent) const {
 QVariant PastRows::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<std::size_t>(index.row());
   if (!index.isValid() || row >= past_.Count()) return {};
-  const QString all = QString::fromStdU16String(past_.Tip(row));
-  if (role == Qt::ToolTipRole) return QString(all).toHtmlEscaped().replace(u'\n', "<br>");
-  if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) {
-    return QString(all).replace(u'\n', u' ');
-  }
-  return {};
+  const std::u16string all = past_.Tip(row);
+  if (role == Qt::ToolTipRole) return TipOf(all);
+  if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
+  return QString::fromStdU16String(all).replace(u'\n', u' ');
 }
 
 PastRowsView::PastRowsView(PastRows& rows, Choose choose)

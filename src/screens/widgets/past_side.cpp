@@ -15,8 +15,9 @@ namespace {
 constexpr double kColumnShare = 0.75;
 constexpr double kLeastShare = 0.38;
 constexpr double kMostShare = 1.05;
-/// The same of a history beside a sheet, which needs the room more.
-constexpr double kSheetShare = 0.45;
+/// The same of a sheet that has room for all it shows, and of the widest history beside one.
+constexpr double kSheet = 1.34;
+constexpr double kSheetShare = 0.6;
 
 constexpr std::int32_t kShown = 1;
 constexpr std::int32_t kHidden = 0;
@@ -27,10 +28,11 @@ PastPlaces PlacesBeside(QSize window, PastNeighbour neighbour) {
   const int height = window.height();
   const int column = qRound(height * kColumnShare);
   const bool isColumn = neighbour == PastNeighbour::Column;
-  const int least = qRound(height * (isColumn ? kLeastShare : kSheetShare));
-  const int most = qRound(height * (isColumn ? kMostShare : kSheetShare));
-  const int width = std::min(window.width() - column, most);
-  if (width < least) return {QRect(QPoint(), window), {}};
+  const int least = qRound(height * kLeastShare);
+  if (window.width() < column + least) return {QRect(QPoint(), window), {}};
+  const int spare = window.width() - (isColumn ? column : qRound(height * kSheet));
+  const int width =
+      std::clamp(spare, least, qRound(height * (isColumn ? kMostShare : kSheetShare)));
   const int rest = window.width() - width;
   if (!isColumn) return {QRect(0, 0, rest, height), QRect(rest, 0, width, height)};
   const int left = (rest - column) / 2;

@@ -25,13 +25,13 @@ struct PastPlaces {
 };
 PastPlaces PlacesBeside(QSize window, PastNeighbour neighbour);
 
-/// What is asked of the screen.
+/// What is asked of the screen. What a panel lies over is hidden, so that no key leads there.
 struct PastSideHooks {
   std::function<void(const PastLine& past, PastPart part)> take;
-  std::function<void()> layOut;   ///< everything, because the history came or went
-  std::function<void()> uncover;  ///< shows what the history lay over
-  std::function<void()> cover;    ///< hides it, so that no key leads there
-  std::function<void()> leave;    ///< gives the keyboard to the line
+  std::function<void()> layOut;  ///< everything, because the history came or went
+  std::function<void()> uncover;
+  std::function<void()> cover;
+  std::function<void()> leave;  ///< gives the keyboard to the line
 };
 
 /// The history beside the screen in a wide window, else over its keys. The panel is made when it is

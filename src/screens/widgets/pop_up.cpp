@@ -5,9 +5,11 @@
 #include <QDialog>
 #include <QHoverEvent>
 #include <QMenu>
+#include <QStringList>
 
 #include "line/keypad.h"
 #include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
 
 namespace kav {
 namespace {
@@ -34,6 +36,20 @@ QMenu* NewPopUp(QWidget* owner, const QFont& font) {
   menu->setFont(font);
   QObject::connect(menu, &QMenu::aboutToHide, owner, [owner] { ForgetMouse(*owner->window()); });
   return menu;
+}
+
+QString TipOf(std::u16string_view text) {
+  constexpr qsizetype kLongestTip = 2400;
+  constexpr qsizetype kLongestLine = 60;
+  const QString shown = ToQt(text.substr(0, kLongestTip));
+  QStringList lines;
+  for (const QString& line : shown.split(u'\n')) {
+    for (qsizetype at = 0; at == 0 || at < line.size(); at += kLongestLine) {
+      lines.append(line.mid(at, kLongestLine).toHtmlEscaped());
+    }
+  }
+  if (shown.size() < static_cast<qsizetype>(text.size())) lines.last() += u'…';
+  return "<div style='white-space: pre'>" + lines.join("<br>") + "</div>";
 }
 
 QFont MenuFont(const QWidget& window) {

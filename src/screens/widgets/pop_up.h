@@ -4,6 +4,8 @@
 #include <QFont>
 #include <QPoint>
 #include <QRect>
+#include <QString>
+#include <string_view>
 
 class QMenu;
 class QWidget;
@@ -15,6 +17,10 @@ struct MenuPlace;
 /// An empty menu with the look of the screens and letters of `font`. It belongs to `owner`, and is
 /// deleted when it is closed.
 QMenu* NewPopUp(QWidget* owner, const QFont& font);
+
+/// `text`, with its line breaks, as a tip shows it as a whole: in lines that a screen has room for,
+/// and nothing in it is markup. Of a text that would fill the desktop, the beginning.
+QString TipOf(std::u16string_view text);
 
 /// The letters of the menus of a screen or dialog, `window`.
 QFont MenuFont(const QWidget& window);
