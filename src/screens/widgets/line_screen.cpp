@@ -135,11 +135,17 @@ void LineScreen::keyPressEvent(QKeyEvent* event) {
   QCoreApplication::sendEvent(line_, event);
 }
 
+/// The lines of all sessions; those that the screen itself knows if none are kept.
+HistoryWalk::Lines LineScreen::LinesToWalk() {
+  auto lines = TypedLinesOf(ParentFrame().Past(), room_);
+  return lines.empty() ? EarlierLines() : lines;
+}
+
 /// What the line itself has no use for.
 void LineScreen::PressInLine(QKeyEvent& event) {
   const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
   if (event.key() == Qt::Key_Up && isPlain) {
-    return WriteLine(*line_, walk_.Up(LineIn(*line_), [this] { return EarlierLines(); }));
+    return WriteLine(*line_, walk_.Up(LineIn(*line_), [this] { return LinesToWalk(); }));
   }
   if (event.key() == Qt::Key_Down) {
     const auto later = isPlain ? walk_.Down(LineIn(*line_)) : std::nullopt;

@@ -57,7 +57,7 @@ class LineScreen : public KeyScreen {
   /// Shows that. For whatever changes it besides the text of the line.
   void ShowLive();
 
-  /// The lines to which Up leads, the newest last. Asked for when it is first pressed in a line.
+  /// The screen's own lines, the newest last: Up leads to them if none of all sessions are kept.
   virtual HistoryWalk::Lines EarlierLines() const = 0;
   /// "=" is pressed: a walk through those is over, and so is what an earlier "=" led to.
   void FinishLine();
@@ -80,6 +80,7 @@ class LineScreen : public KeyScreen {
  private:
   bool PressKeyOf(const QKeyEvent& event);
   void PressInLine(QKeyEvent& event);
+  HistoryWalk::Lines LinesToWalk();
   QLineEdit& Edited() const;
 
   ExpressionView* line_;
