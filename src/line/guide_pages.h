@@ -1,9 +1,11 @@
 // The pages of the guide.
 #pragma once
 
+#include <string_view>
+
 namespace kav {
 
-/// What a page tells about. The guide's own order is that of its text.
+/// What a page tells about, in the order of the guide.
 enum class GuidePage {
   Scientific,
   Matrix,
@@ -18,5 +20,8 @@ enum class GuidePage {
   Constants,
   Settings
 };
+
+/// The heading of `page`.
+std::u16string_view HeadingOf(GuidePage page);
 
 }  // namespace kav

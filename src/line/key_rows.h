@@ -33,13 +33,15 @@ struct KeySource {
   std::optional<Key> sameAs = {};    ///< the scientific screen's key that shows and writes the same
   std::u16string_view caption = {};  ///< in place of that key's, if not empty
   Faces faces = Faces::Both;
-  std::u16string_view text = {};  ///< what a key without `sameAs` writes; empty for nothing
+  std::u16string_view text = {};         ///< what a key without `sameAs` writes; empty for nothing
+  std::u16string_view description = {};  ///< in place of that key's, if not empty
 };
 
 template <class K>
 KeyFace FaceFrom(const KeySource<K>& source, Face face) {
   KeyFace shown = source.sameAs ? FaceOf(*source.sameAs, face) : KeyFace{};
   if (!source.caption.empty()) shown.caption = source.caption;
+  if (!source.description.empty()) shown.description = source.description;
   if (!source.text.empty()) {
     shown.bare = KeyEdit{KeyEdit::Kind::Insert, source.text, {}, 0};
     shown.selected = shown.bare;
@@ -71,10 +73,13 @@ constexpr bool HoldEveryKey(const std::array<KeySource<K>, kCount>& sources, K l
 
 /// Every caption that a key may ever show.
 template <class K>
-std::vector<std::u16string_view> CaptionsOf(const KeyRow<K>& row) {
-  if (row.key == K::Deg) return {kDegreesCaption, kRadiansCaption};
-  if (row.plain.caption == row.shifted.caption) return {row.plain.caption};
-  return {row.plain.caption, row.shifted.caption};
+std::vector<FaceText> CaptionsOf(const KeyRow<K>& row) {
+  const FaceText plain{row.plain.caption, row.plain.description};
+  if (row.key == K::Deg) {
+    return {{kDegreesCaption, plain.description}, {kRadiansCaption, plain.description}};
+  }
+  if (row.plain.caption == row.shifted.caption) return {plain};
+  return {plain, {row.shifted.caption, row.shifted.description}};
 }
 
 }  // namespace kav

@@ -65,17 +65,19 @@ const KeyFace& FaceShown(Key key, BaseMode base, ShiftState shift) {
   return FaceOf(key, shift == ShiftState::On ? Face::Shifted : Face::Plain);
 }
 
-std::vector<std::u16string_view> CaptionsOf(const KeyPlace& place) {
-  if (place.key == Key::Deg) return {kDegreesCaption, kRadiansCaption};
-  std::vector<std::u16string_view> captions;
+std::vector<FaceText> CaptionsOf(const KeyPlace& place) {
+  const std::u16string_view plain = FaceOf(place.key, Face::Plain).description;
+  if (place.key == Key::Deg) return {{kDegreesCaption, plain}, {kRadiansCaption, plain}};
+  std::vector<FaceText> captions;
   if (place.key == Key::Dec) {
     for (const MenuItem& item : BuildBaseMenu(BaseMode::Decimal)) {
-      captions.push_back(BaseCaption(*BaseOfItem(item.id)));
+      captions.push_back({BaseCaption(*BaseOfItem(item.id)), plain});
     }
     return captions;
   }
   for (const Face face : {Face::Plain, Face::Shifted, Face::Base}) {
-    if (const KeyFace* shown = FindFace(place.key, face)) captions.push_back(shown->caption);
+    const KeyFace* shown = FindFace(place.key, face);
+    if (shown != nullptr) captions.push_back({shown->caption, shown->description});
   }
   return captions;
 }

@@ -17,7 +17,7 @@ enum class ShiftState { Off = 0, On = 1 };
 const KeyFace& FaceShown(Key key, BaseMode base, ShiftState shift);
 
 /// Every caption that a key may ever show.
-std::vector<std::u16string_view> CaptionsOf(const KeyPlace& place);
+std::vector<FaceText> CaptionsOf(const KeyPlace& place);
 
 /// One of the two Shift keys is visible; in hexadecimal the digits A to F are, in place of six
 /// functions.

@@ -20,7 +20,7 @@ constexpr std::array kPlaces{
     KeyPlace{Key::Clear,        KeyAt(111,  34, 22), KeyColour::Editing},
 
     KeyPlace{Key::Shift,        KeyAt(  3,  61, 24), KeyColour::Orange, "Alt+S"},
-    KeyPlace{Key::ShiftActive,  KeyAt(  3,  61, 24), KeyColour::ActiveShift, "Alt+S", kShiftIsOn},
+    KeyPlace{Key::ShiftActive,  KeyAt(  3,  61, 24), KeyColour::ActiveShift, "Alt+S"},
     KeyPlace{Key::Macro,        KeyAt( 29,  61, 24), KeyColour::Orange, "Alt+A"},
     KeyPlace{Key::Converter,    KeyAt( 55,  61, 25), KeyColour::Orange, "Alt+N"},
     KeyPlace{Key::Abs,          KeyAt( 82,  61, 24), KeyColour::Function},
@@ -87,7 +87,7 @@ constexpr KeyEdit Wrap(std::u16string_view prefix, std::u16string_view suffix) {
   return {KeyEdit::Kind::Wrap, prefix, suffix, prefix.empty() ? 0 : prefix.size() - 1};
 }
 
-/// A face of a key.
+/// A face of a key. In the functions below, `work` is its description.
 struct FaceRow {
   Key key;
   Face face;
@@ -95,38 +95,39 @@ struct FaceRow {
 };
 
 /// A key that acts on more than the line.
-constexpr FaceRow Command(Key key, std::u16string_view caption) {
-  return {key, Face::Plain, {caption, {}, {}}};
+constexpr FaceRow Command(Key key, std::u16string_view caption, std::u16string_view work) {
+  return {key, Face::Plain, {caption, {}, {}, work}};
 }
 
 /// Writes `text`, in place of a selection.
-constexpr FaceRow Typed(Key key, Face face, std::u16string_view caption, std::u16string_view text) {
-  return {key, face, {caption, Insert(text), Insert(text)}};
+constexpr FaceRow Typed(Key key, Face face, std::u16string_view caption, std::u16string_view text,
+                        std::u16string_view work) {
+  return {key, face, {caption, Insert(text), Insert(text), work}};
 }
 
 /// Writes a function's name and parentheses around the selection.
 constexpr FaceRow Function(Key key, Face face, std::u16string_view caption,
-                           std::u16string_view prefix) {
-  return {key, face, {caption, Wrap(prefix, kClose), Wrap(prefix, kClose)}};
+                           std::u16string_view prefix, std::u16string_view work) {
+  return {key, face, {caption, Wrap(prefix, kClose), Wrap(prefix, kClose), work}};
 }
 
 /// Writes an operator; a selection becomes its left operand in parentheses. `closing` is ")" and
 /// the operator.
 constexpr FaceRow Operator(Key key, Face face, std::u16string_view caption,
-                           std::u16string_view closing) {
-  return {key, face, {caption, Insert(closing.substr(kClose.size())), Wrap(kOpen, closing)}};
+                           std::u16string_view closing, std::u16string_view work) {
+  return {key, face, {caption, Insert(closing.substr(kClose.size())), Wrap(kOpen, closing), work}};
 }
 
 /// Writes `text`; a selection becomes its operand within `prefix` and ")".
 constexpr FaceRow Prefix(Key key, Face face, std::u16string_view caption, std::u16string_view text,
-                         std::u16string_view prefix) {
-  return {key, face, {caption, Insert(text), Wrap(prefix, kClose)}};
+                         std::u16string_view prefix, std::u16string_view work) {
+  return {key, face, {caption, Insert(text), Wrap(prefix, kClose), work}};
 }
 
 /// A sign. Without the parentheses of an operator, it is written one character behind the end of
 /// the selection.
-constexpr FaceRow Sign(Key key, std::u16string_view sign) {
-  return {key, Face::Plain, {sign, Insert(sign), Wrap({}, sign)}};
+constexpr FaceRow Sign(Key key, std::u16string_view sign, std::u16string_view work) {
+  return {key, Face::Plain, {sign, Insert(sign), Wrap({}, sign), work}};
 }
 
 constexpr KeyEdit RootEdit(KeyEdit::Kind kind) {
@@ -135,84 +136,84 @@ constexpr KeyEdit RootEdit(KeyEdit::Kind kind) {
 
 // clang-format off
 constexpr std::array kFaces{
-    Command(Key::Deg, kDegreesCaption),
-    Command(Key::Dec, kDecimalCaption),
-    Command(Key::Backspace, u"BS"),
-    Command(Key::Delete, u"DEL"),
-    Command(Key::PlayBack, u"PB"),
-    Command(Key::Clear, u"CLR"),
+    Command(Key::Deg, kDegreesCaption, u"degrees or radians: switches the unit of angles"),
+    Command(Key::Dec, kDecimalCaption, u"choose the number base: binary, octal, decimal or hexadecimal"),
+    Command(Key::Backspace, u"BS", u"delete the character before the caret, or the selection"),
+    Command(Key::Delete, u"DEL", u"delete the character after the caret, or the selection"),
+    Command(Key::PlayBack, u"PB", u"play back: put a line or an answer of the history at the caret"),
+    Command(Key::Clear, u"CLR", u"clear the line"),
 
-    Command(Key::Shift, u"Shift"),
-    Command(Key::ShiftActive, u"Shift"),
-    Command(Key::Macro, u"Mac"),
-    Command(Key::Converter, u"Cnv"),
-    Function(Key::Abs, Face::Plain,   u"ABS()", u"abs("),
-    Function(Key::Abs, Face::Shifted, u"INT()", u"int("),
-    Command(Key::MemoryMenu, u"M/C"),
+    Command(Key::Shift, u"Shift", u"show the second functions of the keys"),
+    Command(Key::ShiftActive, u"Shift", u"on: go back to the first functions of the keys"),
+    Command(Key::Macro, u"Mac", u"write a call of one of your macros"),
+    Command(Key::Converter, u"Cnv", u"convert the answer between units"),
+    Function(Key::Abs, Face::Plain,   u"ABS()", u"abs(", u"absolute value: the number without its sign"),
+    Function(Key::Abs, Face::Shifted, u"INT()", u"int(", u"whole part of a number"),
+    Command(Key::MemoryMenu, u"M/C", u"memory, memory variables and constants"),
 
-    Function(Key::Sin, Face::Plain,   u"SIN",  u"sin("),
-    Function(Key::Sin, Face::Shifted, u"ASIN", u"asin("),
-    Function(Key::Cos, Face::Plain,   u"COS",  u"cos("),
-    Function(Key::Cos, Face::Shifted, u"ACOS", u"acos("),
-    Function(Key::Tan, Face::Plain,   u"TAN",  u"tan("),
-    Function(Key::Tan, Face::Shifted, u"ATAN", u"atan("),
-    Typed   (Key::Pi,  Face::Plain,   u"Pi",   u"Pi"),
-    Operator(Key::Pi,  Face::Shifted, u"X!",   u")!"),
-    Operator(Key::Pi,  Face::Base,    u"AND",  u") AND "),
-    Operator(Key::Ncr, Face::Plain,   u"nCr",  u")C"),
-    Operator(Key::Ncr, Face::Shifted, u"nPr",  u")P"),
-    Operator(Key::Ncr, Face::Base,    u"OR",   u") OR "),
+    Function(Key::Sin, Face::Plain,   u"SIN",  u"sin(", u"sine of an angle"),
+    Function(Key::Sin, Face::Shifted, u"ASIN", u"asin(", u"angle of a sine"),
+    Function(Key::Cos, Face::Plain,   u"COS",  u"cos(", u"cosine of an angle"),
+    Function(Key::Cos, Face::Shifted, u"ACOS", u"acos(", u"angle of a cosine"),
+    Function(Key::Tan, Face::Plain,   u"TAN",  u"tan(", u"tangent of an angle"),
+    Function(Key::Tan, Face::Shifted, u"ATAN", u"atan(", u"angle of a tangent"),
+    Typed   (Key::Pi,  Face::Plain,   u"Pi",   u"Pi", u"the number pi, 3.14159..."),
+    Operator(Key::Pi,  Face::Shifted, u"X!",   u")!", u"factorial: the product of the whole numbers up to X"),
+    Operator(Key::Pi,  Face::Base,    u"AND",  u") AND ", u"logical and: the bits that both numbers have"),
+    Operator(Key::Ncr, Face::Plain,   u"nCr",  u")C", u"combinations: ways to choose r of n, in any order"),
+    Operator(Key::Ncr, Face::Shifted, u"nPr",  u")P", u"permutations: ways to choose r of n, in their order"),
+    Operator(Key::Ncr, Face::Base,    u"OR",   u") OR ", u"logical or: the bits that either number has"),
 
-    Function(Key::Sinh, Face::Plain,   u"SINH", u"sinh("),
-    Function(Key::Cosh, Face::Plain,   u"COSH", u"cosh("),
-    Function(Key::Tanh, Face::Plain,   u"TANH", u"tanh("),
-    Operator(Key::Tanh, Face::Shifted, u"<<",   u")<<"),
-    Operator(Key::Tanh, Face::Base,    u"<<",   u")<<"),
-    Function(Key::Log,  Face::Plain,   u"LOG",  u"log("),
-    Prefix  (Key::Log,  Face::Shifted, u"10^X", u"10^", u"10^("),
-    Operator(Key::Log,  Face::Base,    u"XOR",  u") XOR "),
-    Function(Key::Ln,   Face::Plain,   u"LN",   u"ln("),
-    Function(Key::Ln,   Face::Shifted, u"EXP",  u"exp("),
-    Operator(Key::Ln,   Face::Base,    u"XNOR", u") XNOR "),
+    Function(Key::Sinh, Face::Plain,   u"SINH", u"sinh(", u"hyperbolic sine"),
+    Function(Key::Cosh, Face::Plain,   u"COSH", u"cosh(", u"hyperbolic cosine"),
+    Function(Key::Tanh, Face::Plain,   u"TANH", u"tanh(", u"hyperbolic tangent"),
+    Operator(Key::Tanh, Face::Shifted, u"<<",   u")<<", u"shift left: times 2 to the power of the right number"),
+    Operator(Key::Tanh, Face::Base,    u"<<",   u")<<", u"shift left: times 2 to the power of the right number"),
+    Function(Key::Log,  Face::Plain,   u"LOG",  u"log(", u"logarithm to the base 10"),
+    Prefix  (Key::Log,  Face::Shifted, u"10^X", u"10^", u"10^(", u"10 to the power of X"),
+    Operator(Key::Log,  Face::Base,    u"XOR",  u") XOR ", u"exclusive or: the bits that just one number has"),
+    Function(Key::Ln,   Face::Plain,   u"LN",   u"ln(", u"natural logarithm, to the base e"),
+    Function(Key::Ln,   Face::Shifted, u"EXP",  u"exp(", u"e to the power of X"),
+    Operator(Key::Ln,   Face::Base,    u"XNOR", u") XNOR ", u"negated exclusive or: the bits in which both numbers agree"),
 
-    Function(Key::Sqrt,    Face::Plain,   u"SQRT", u"sqrt("),
-    FaceRow {Key::Sqrt,    Face::Shifted, {u"XthR", RootEdit(KeyEdit::Kind::Wrap), RootEdit(KeyEdit::Kind::WrapTwice)}},
-    Operator(Key::Square,  Face::Plain,   u"X^2",  u")^2"),
-    Prefix  (Key::Square,  Face::Shifted, u"1/X",  u"1/", u"1/("),
-    Operator(Key::Power,   Face::Plain,   u"Y^X",  u")^"),
-    Operator(Key::Power,   Face::Shifted, u">>",   u")>>"),
-    Operator(Key::Percent, Face::Plain,   u"%",    u")%"),
-    Function(Key::Percent, Face::Shifted, u"FRAC", u"frac("),
-    Prefix  (Key::Percent, Face::Base,    u"NOT",  u" NOT ", u"NOT("),
-    Function(Key::Parentheses, Face::Plain, u"(...)", kOpen),
+    Function(Key::Sqrt,    Face::Plain,   u"SQRT", u"sqrt(", u"square root"),
+    FaceRow {Key::Sqrt,    Face::Shifted, {u"XthR", RootEdit(KeyEdit::Kind::Wrap), RootEdit(KeyEdit::Kind::WrapTwice), u"X-th root of what stands before it"}},
+    Operator(Key::Square,  Face::Plain,   u"X^2",  u")^2", u"square: X times X"),
+    Prefix  (Key::Square,  Face::Shifted, u"1/X",  u"1/", u"1/(", u"reciprocal: 1 divided by X"),
+    Operator(Key::Power,   Face::Plain,   u"Y^X",  u")^", u"power: Y to the power of X"),
+    Operator(Key::Power,   Face::Shifted, u">>",   u")>>", u"shift right: divided by 2 to the power of the right number"),
+    Operator(Key::Percent, Face::Plain,   u"%",    u")%", u"remainder of a division"),
+    Function(Key::Percent, Face::Shifted, u"FRAC", u"frac(", u"fraction: what stands behind the point"),
+    Prefix  (Key::Percent, Face::Base,    u"NOT",  u" NOT ", u"NOT(", u"logical not: every bit turned over"),
+    Function(Key::Parentheses, Face::Plain, u"(...)", kOpen, u"parentheses around the selection, or around the caret"),
 
-    Typed   (Key::Seven,    Face::Plain, u"7", u"7"),
-    Typed   (Key::Eight,    Face::Plain, u"8", u"8"),
-    Typed   (Key::Nine,     Face::Plain, u"9", u"9"),
-    Typed   (Key::Open,     Face::Plain, u"(", u"("),
-    Typed   (Key::Close,    Face::Plain, u")", u")"),
-    Typed   (Key::Four,     Face::Plain, u"4", u"4"),
-    Typed   (Key::Five,     Face::Plain, u"5", u"5"),
-    Typed   (Key::Six,      Face::Plain, u"6", u"6"),
-    Operator(Key::Multiply, Face::Plain, u"*", u")*"),
-    Operator(Key::Divide,   Face::Plain, u"/", u")/"),
-    Typed   (Key::One,      Face::Plain, u"1", u"1"),
-    Typed   (Key::Two,      Face::Plain, u"2", u"2"),
-    Typed   (Key::Three,    Face::Plain, u"3", u"3"),
-    Sign    (Key::Add,      u"+"),
-    Sign    (Key::Subtract, u"-"),
-    Typed   (Key::Zero,       Face::Plain, u"0",   u"0"),
-    Typed   (Key::DoubleZero, Face::Plain, u"00",  u"00"),
-    Typed   (Key::Point,      Face::Plain, u".",   u"."),
-    Typed   (Key::Exp,        Face::Plain, u"Exp", u"E"),
-    Command (Key::Equals, u"="),
+    Typed   (Key::Seven,    Face::Plain, u"7", u"7", u"the digit seven"),
+    Typed   (Key::Eight,    Face::Plain, u"8", u"8", u"the digit eight"),
+    Typed   (Key::Nine,     Face::Plain, u"9", u"9", u"the digit nine"),
+    Typed   (Key::Open,     Face::Plain, u"(", u"(", u"opening parenthesis"),
+    Typed   (Key::Close,    Face::Plain, u")", u")", u"closing parenthesis"),
+    Typed   (Key::Four,     Face::Plain, u"4", u"4", u"the digit four"),
+    Typed   (Key::Five,     Face::Plain, u"5", u"5", u"the digit five"),
+    Typed   (Key::Six,      Face::Plain, u"6", u"6", u"the digit six"),
+    Operator(Key::Multiply, Face::Plain, u"*", u")*", u"multiply by what follows"),
+    Operator(Key::Divide,   Face::Plain, u"/", u")/", u"divide by what follows"),
+    Typed   (Key::One,      Face::Plain, u"1", u"1", u"the digit one"),
+    Typed   (Key::Two,      Face::Plain, u"2", u"2", u"the digit two"),
+    Typed   (Key::Three,    Face::Plain, u"3", u"3", u"the digit three"),
+    Sign    (Key::Add,      u"+", u"add what follows, or a plus sign"),
+    Sign    (Key::Subtract, u"-", u"subtract what follows, or a minus sign"),
+    Typed   (Key::Zero,       Face::Plain, u"0",   u"0", u"the digit zero"),
+    Typed   (Key::DoubleZero, Face::Plain, u"00",  u"00", u"two zeros"),
+    Typed   (Key::Point,      Face::Plain, u".",   u".", u"decimal point"),
+    Typed   (Key::Exp,        Face::Plain, u"Exp", u"E", u"times 10 to the power of the number that follows"),
+    Command (Key::Equals, u"=", u"calculate the line"),
 
-    Typed(Key::A, Face::Plain, u"A", u"A"),
-    Typed(Key::B, Face::Plain, u"B", u"B"),
-    Typed(Key::C, Face::Plain, u"C", u"C"),
-    Typed(Key::D, Face::Plain, u"D", u"D"),
-    Typed(Key::E, Face::Plain, u"E", u"E"),
-    Typed(Key::F, Face::Plain, u"F", u"F"),
+    Typed(Key::A, Face::Plain, u"A", u"A", u"the hexadecimal digit A, 10"),
+    Typed(Key::B, Face::Plain, u"B", u"B", u"the hexadecimal digit B, 11"),
+    Typed(Key::C, Face::Plain, u"C", u"C", u"the hexadecimal digit C, 12"),
+    Typed(Key::D, Face::Plain, u"D", u"D", u"the hexadecimal digit D, 13"),
+    Typed(Key::E, Face::Plain, u"E", u"E", u"the hexadecimal digit E, 14"),
+    Typed(Key::F, Face::Plain, u"F", u"F", u"the hexadecimal digit F, 15"),
 };
 // clang-format on
 

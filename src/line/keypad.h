@@ -72,7 +72,6 @@ struct KeyPlaceOf {
   /// Such as "Alt+D", for a key whose work cannot be typed; empty for none. No letter is one of the
   /// menus' in the menu bar.
   std::string_view shortcut = {};
-  std::u16string_view description = {};  ///< for screen readers, if the caption does not say it
 };
 using KeyPlace = KeyPlaceOf<Key>;
 
@@ -89,12 +88,19 @@ struct KeyEdit {
   std::size_t shift = 0;  ///< see ExpressionLine::WrapSelection
 };
 
-/// One caption of a key and what pressing it then writes; nullopt edits for keys that act on more
-/// than the line.
+/// One caption of a key and what pressing it then does and writes; nullopt edits for keys that act
+/// on more than the line.
 struct KeyFace {
   std::u16string_view caption;
   std::optional<KeyEdit> bare;      ///< without a selection
   std::optional<KeyEdit> selected;  ///< with one
+  std::u16string_view description;  ///< what the key does, in a few words
+};
+
+/// One of the captions that a key may ever show, and what the key then does.
+struct FaceText {
+  std::u16string_view caption;
+  std::u16string_view description;
 };
 
 /// Where the menu of `key` opens; nullopt for a key without one.

@@ -39,6 +39,5 @@ inline constexpr std::u16string_view kResultName = u"Result";
 inline constexpr std::u16string_view kDidYouMean = u"Did you mean";
 
 inline constexpr std::u16string_view kLiveResultName = u"Live result";
-inline constexpr std::u16string_view kShiftIsOn = u"on";
 
 }  // namespace kav

@@ -13,11 +13,11 @@ using Source = KeySource<PlotterKey>;
 
 // clang-format off
 constexpr std::array kSources{
-    Source{{PlotterKey::Add,           KeyAt(109,   2, 24), KeyColour::Orange, {}, kAddName},
-           {}, kAddCaption},
-    Source{{PlotterKey::Plot,          KeyAt(109,  13, 24), KeyColour::Equals},         {}, kPlotCaption},
-    Source{{PlotterKey::DeleteEquation, KeyAt(109,  25, 24), KeyColour::Orange, "Alt+R", kDeleteEquationName},
-           {}, kDeleteEquationCaption},
+    Source{{PlotterKey::Add,           KeyAt(109,   2, 24), KeyColour::Orange},
+           {}, kAddCaption, Faces::Both, {}, kAddName},
+    Source{{PlotterKey::Plot,          KeyAt(109,  13, 24), KeyColour::Equals},         {}, kPlotCaption, Faces::Both, {}, kPlotName},
+    Source{{PlotterKey::DeleteEquation, KeyAt(109,  25, 24), KeyColour::Orange, "Alt+R"},
+           {}, kDeleteEquationCaption, Faces::Both, {}, kDeleteEquationName},
 
     Source{{PlotterKey::Deg,           KeyAt(  3,  63, 20), KeyColour::Mode, "Alt+D"},  Key::Deg},
     Source{{PlotterKey::Macro,         KeyAt( 26,  63, 19), KeyColour::Orange, "Alt+A"}, Key::Macro},
@@ -27,10 +27,9 @@ constexpr std::array kSources{
     Source{{PlotterKey::Clear,         KeyAt(111,  63, 22), KeyColour::Editing},        Key::Clear},
 
     Source{{PlotterKey::Shift,         KeyAt(  3,  74, 24), KeyColour::Orange, "Alt+S"}, Key::Shift},
-    Source{{PlotterKey::ShiftActive,   KeyAt(  3,  74, 24), KeyColour::ActiveShift, "Alt+S", kShiftIsOn},
-           Key::ShiftActive},
+    Source{{PlotterKey::ShiftActive,   KeyAt(  3,  74, 24), KeyColour::ActiveShift, "Alt+S"}, Key::ShiftActive},
     Source{{PlotterKey::Variable,      KeyAt( 29,  74, 24), KeyColour::Function},
-           {}, kVariableCaption, Faces::Both, kVariable},
+           {}, kVariableCaption, Faces::Both, kVariable, kVariableName},
     Source{{PlotterKey::Abs,           KeyAt( 55,  74, 25), KeyColour::Function},       Key::Abs},
     Source{{PlotterKey::Factorial,     KeyAt( 82,  74, 24), KeyColour::Function},       Key::Pi, {}, Faces::Shifted},
     Source{{PlotterKey::Ncr,           KeyAt(108,  74, 25), KeyColour::Function},       Key::Ncr},

@@ -73,8 +73,12 @@ inline constexpr std::u16string_view kCoordinatesCaption = u"Coordinates";
 // What screen readers call the parts of the screen that have no caption, or a short one.
 inline constexpr std::u16string_view kEquationInputName = u"Equation";
 inline constexpr std::u16string_view kEquationListName = u"Equations";
-inline constexpr std::u16string_view kAddName = u"Add the equation";
-inline constexpr std::u16string_view kDeleteEquationName = u"Delete the selected equation";
+
+// What keys do that no other keypad has.
+inline constexpr std::u16string_view kAddName = u"add the equation to the list";
+inline constexpr std::u16string_view kDeleteEquationName = u"delete the selected equation";
+inline constexpr std::u16string_view kPlotName = u"draw the graph of the equations";
+inline constexpr std::u16string_view kVariableName = u"the variable x";
 
 /// Open the labels of the curves. Users know them as they are, with the lower-case x.
 inline constexpr std::array<std::u16string_view, 3> kCurvePrefixes{u"R:F1(X)=", u"G:F2(x)=",

@@ -26,9 +26,9 @@ struct StatisticsKeyRow {
   StatisticsKey key;
   LinePlace place;
   KeyColour colour;
-  std::u16string_view caption;           ///< not that of Model, which changes
-  std::u16string_view description = {};  ///< for screen readers, if the caption is no word
-  std::string_view shortcut = {};        ///< such as "Alt+C"; empty for none
+  std::u16string_view caption;      ///< not that of Model, which changes
+  std::u16string_view description;  ///< what it does, in a few words
+  std::string_view shortcut = {};   ///< such as "Alt+C"; empty for none
 };
 
 /// The buttons of a screen, each once, from the top.

@@ -64,11 +64,13 @@ std::u16string_view ModelCaption(RegressionModel model) {
   return ChoiceOf(model).caption;
 }
 
-std::vector<std::u16string_view> CaptionsOf(const StatisticsKeyRow& row) {
-  if (row.key != StatisticsKey::Model) return {row.caption};
-  std::vector<std::u16string_view> captions;
+std::vector<FaceText> CaptionsOf(const StatisticsKeyRow& row) {
+  if (row.key != StatisticsKey::Model) return {{row.caption, row.description}};
+  std::vector<FaceText> captions;
   captions.reserve(kModelChoices.size());
-  for (const ModelChoice& choice : kModelChoices) captions.push_back(choice.caption);
+  for (const ModelChoice& choice : kModelChoices) {
+    captions.push_back({choice.caption, row.description});
+  }
   return captions;
 }
 

@@ -31,6 +31,6 @@ std::u16string_view ModelItem(RegressionModel model);
 std::u16string_view ModelCaption(RegressionModel model);
 
 /// Every caption that a button may ever show.
-std::vector<std::u16string_view> CaptionsOf(const StatisticsKeyRow& row);
+std::vector<FaceText> CaptionsOf(const StatisticsKeyRow& row);
 
 }  // namespace kav

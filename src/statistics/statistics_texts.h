@@ -112,9 +112,9 @@ inline constexpr std::u16string_view kNoMemoryForGraph =
     u"There is not enough memory for the graph. Close other programs.";
 
 // The list, and the boxes over it.
-/// `key` is the digit that sorts by a column when pressed with Alt.
+/// `key` is the digit that sorts by a column when pressed with Ctrl.
 inline std::u16string SortHint(int key) {
-  return std::u16string(u"Sorts the rows (Alt+").append(IntegerText(key)).append(u")");
+  return std::u16string(u"Sorts the rows (Ctrl+").append(IntegerText(key)).append(u")");
 }
 /// What the arrow above a column says.
 inline constexpr std::u16string_view kSortedUpwards = u"Sorted, the smallest number first";

@@ -96,12 +96,12 @@ TEST_F(RowAccessTest, TheArrowOfTheSortedColumnIsTold) {
   const auto told = [this](int column) {
     return Access().child(column)->text(QAccessible::Description).toStdString();
   };
-  EXPECT_EQ(told(1), "Sorts the rows (Alt+2)");
+  EXPECT_EQ(told(1), "Sorts the rows (Ctrl+2)");
   table_->ShowSorted(DataSorting{1, DataList::Direction::Descending});
-  EXPECT_EQ(told(1), "Sorted, the largest number first. Sorts the rows (Alt+2)");
-  EXPECT_EQ(told(0), "Sorts the rows (Alt+1)");
+  EXPECT_EQ(told(1), "Sorted, the largest number first. Sorts the rows (Ctrl+2)");
+  EXPECT_EQ(told(0), "Sorts the rows (Ctrl+1)");
   table_->ShowSorted(DataSorting{0, DataList::Direction::Ascending});
-  EXPECT_EQ(told(0), "Sorted, the smallest number first. Sorts the rows (Alt+1)");
+  EXPECT_EQ(told(0), "Sorted, the smallest number first. Sorts the rows (Ctrl+1)");
   EXPECT_EQ(NameOf(Access().child(0)), "X");
 }
 

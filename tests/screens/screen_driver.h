@@ -41,6 +41,7 @@ inline ScreenDialogs FakeDialogs() {
   dialogs.storeVariable = [](QWidget*, const std::u16string&) {};
   dialogs.recallVariable = [](QWidget*) { return std::optional<std::u16string>(); };
   dialogs.constants = [](QWidget*) { return std::optional<std::u16string>(); };
+  dialogs.keys = [](QWidget*, const std::vector<ListedKey>&) {};
   dialogs.guide = [](QWidget*, GuidePage) {};
   return dialogs;
 }

@@ -266,22 +266,6 @@ TEST(StatisticsKeypad, CaptionsHaveThreeUnitsForACharacter) {
   }
 }
 
-TEST(StatisticsKeypad, CaptionsThatAreNoWordsAreDescribed) {
-  for (const DataShape shape : kShapes) {
-    for (const StatisticsKeyRow& row : StatisticsKeyRows(shape)) {
-      const bool isWord = std::all_of(row.caption.begin(), row.caption.end(), [](char16_t c) {
-        return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c == u' ';
-      });
-      const bool isAbbreviation = row.caption.size() < 4 && row.key > StatisticsKey::Load;
-      if (!isWord || isAbbreviation) {
-        EXPECT_FALSE(row.description.empty()) << Narrow(row.caption);
-      } else {
-        EXPECT_TRUE(row.description.empty()) << Narrow(row.caption);
-      }
-    }
-  }
-}
-
 TEST(StatisticsKeypad, MomentsAreThoseOfTheVariableInTheCaption) {
   struct Row {
     StatisticsKey key;

@@ -102,7 +102,7 @@ void DataTableView::MakeHeadings() {
   connect(&headings, &QHeaderView::sectionClicked, this, &DataTableView::PressHeading);
   connect(&headings, &QHeaderView::sectionResized, this, &DataTableView::OnColumnDragged);
   for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
-    auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_1 + column)), this);
+    auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + column)), this);
     connect(shortcut, &QShortcut::activated, this, [this, column] { PressHeading(column); });
   }
 }

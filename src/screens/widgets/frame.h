@@ -11,6 +11,7 @@
 
 #include "display/display_settings_model.h"
 #include "line/guide_pages.h"
+#include "line/key_help.h"
 #include "line/key_request.h"
 #include "settings/past_lines.h"
 #include "settings/settings_store.h"
@@ -34,6 +35,8 @@ struct ScreenDialogs {
   std::function<void(QWidget* parent, const std::u16string& value)> storeVariable;
   std::function<std::optional<std::u16string>(QWidget* parent)> recallVariable;
   std::function<std::optional<std::u16string>(QWidget* parent)> constants;
+  /// Lists the keys of a screen. Empty: there is no such list.
+  std::function<void(QWidget* parent, const std::vector<ListedKey>& keys)> keys;
   /// Opens the guide, beside `parent`, a screen or a dialog; it stays open. Empty: there is none.
   std::function<void(QWidget* parent, GuidePage page)> guide;
 };

@@ -29,6 +29,11 @@ KeyColours ColoursNow(const QAbstractButton& key, const KeyColours& colours) {
 
 void PaintKey(QPainter& painter, const QAbstractButton& key, const KeyColours& colours,
               const QFont& font) {
+  PaintKey(painter, key, colours, font, key.text());
+}
+
+void PaintKey(QPainter& painter, const QAbstractButton& key, const KeyColours& colours,
+              const QFont& font, const QString& caption) {
   const auto [background, text] = ColoursNow(key, colours);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
@@ -44,7 +49,7 @@ void PaintKey(QPainter& painter, const QAbstractButton& key, const KeyColours& c
   painter.setPen(text);
   painter.setFont(font);
   // Behind "&" stands the letter of a shortcut, which the caption does not show.
-  painter.drawText(key.rect(), Qt::AlignCenter | Qt::TextHideMnemonic, key.text());
+  painter.drawText(key.rect(), Qt::AlignCenter | Qt::TextHideMnemonic, caption);
 }
 
 }  // namespace kav

@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QString>
 
 class QAbstractButton;
 class QPainter;
@@ -21,5 +22,8 @@ KeyColours ColoursNow(const QAbstractButton& key, const KeyColours& colours);
 /// Paints all of `key`, its caption in `font`.
 void PaintKey(QPainter& painter, const QAbstractButton& key, const KeyColours& colours,
               const QFont& font);
+/// The same with another text in place of the caption.
+void PaintKey(QPainter& painter, const QAbstractButton& key, const KeyColours& colours,
+              const QFont& font, const QString& caption);
 
 }  // namespace kav

@@ -101,6 +101,16 @@ void KeyScreen::Do(const StoreMemoryVariable& request) {
   ParentFrame().SaveStore();
 }
 
+bool KeyScreen::event(QEvent* event) {
+  // Comes before each key that is pressed, whatever has the focus.
+  if (event->type() == QEvent::ShortcutOverride) held_.Hear(*static_cast<QKeyEvent*>(event));
+  return Screen::event(event);
+}
+
+void KeyScreen::OpenKeys() {
+  if (Dialogs().keys) Dialogs().keys(this, keys_->Listed());
+}
+
 std::optional<std::u16string> KeyScreen::RecallVariable() {
   auto value = Dialogs().recallVariable(this);
   // Variables may have been cleared in it as well.

@@ -10,6 +10,7 @@
 #include "display/display_settings_model.h"
 #include "line/key_request.h"
 #include "line/screen_menus.h"
+#include "screens/widgets/held_control.h"
 #include "screens/widgets/key_sheet.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/screen.h"
@@ -52,6 +53,8 @@ class KeyScreen : public Screen {
 
   const ScreenDialogs& Dialogs() const { return ParentFrame().Dialogs(); }
 
+  bool event(QEvent* event) override;
+
   // What keys ask for, as far as nothing comes back.
   void Do(const Nothing&) {}
   void Do(const TellStop& request);
@@ -63,9 +66,11 @@ class KeyScreen : public Screen {
 
  private:
   virtual void OnKeyNumber(int key) = 0;
+  void OpenKeys() override;
   std::function<void()> Opening(const std::function<void(QWidget*)>& open);
 
   KeySheet* keys_ = nullptr;
+  HeldControl held_{[this](KeyLettering lettering) { keys_->Show(lettering); }};
 };
 
 /// A KeyScreen, or one of its kinds (`Base`), as the picture of a `Model` that has a `Key` for each
@@ -154,8 +159,8 @@ std::vector<KeySpot> SpotsOf(const Rows& rows) {
   std::vector<KeySpot> spots;
   spots.reserve(rows.size());
   for (const auto& row : rows) {
-    spots.push_back({static_cast<int>(row.key), UnitsOf(row.place), row.colour, CaptionsOf(row),
-                     row.shortcut, row.description});
+    spots.push_back(
+        {static_cast<int>(row.key), UnitsOf(row.place), row.colour, CaptionsOf(row), row.shortcut});
   }
   return spots;
 }

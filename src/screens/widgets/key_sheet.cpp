@@ -1,7 +1,6 @@
 #include "screens/widgets/key_sheet.h"
 
 #include <QKeyEvent>
-#include <QKeySequence>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -42,7 +41,6 @@ KeySheet::KeySheet(QWidget* parent, std::vector<KeySpot> spots,
     const int id = spot.id;
     auto* view = new KeyView(std::move(spot), this);
     connect(view, &QAbstractButton::clicked, this, [onKey, id] { onKey(id); });
-    view->setAccessibleDescription(ToQt(view->Spot().description));
     keys_.push_back(view);
   }
   OrderTabs();
@@ -62,18 +60,23 @@ void KeySheet::OrderTabs() {
 void KeySheet::Refresh(const std::function<KeyState(int)>& stateOf) {
   for (KeyView* view : keys_) {
     const KeyState state = stateOf(view->Spot().id);
-    const QString caption = ToQt(state.caption);
-    if (view->text() != caption) {
-      view->setText(caption);
-      // A new text takes the old one's shortcut away.
-      const std::string_view shortcut = view->Spot().shortcut;
-      view->setShortcut(
-          QString::fromUtf8(shortcut.data(), static_cast<qsizetype>(shortcut.size())));
-      view->setToolTip(view->shortcut().toString(QKeySequence::NativeText));
-    }
+    view->Show(ToQt(state.caption));
     view->setEnabled(state.isEnabled);
     view->setVisible(state.isVisible);
   }
+}
+
+void KeySheet::Show(KeyLettering lettering) {
+  for (KeyView* view : keys_) view->Show(lettering);
+}
+
+std::vector<ListedKey> KeySheet::Listed() const {
+  std::vector<ListedKey> listed;
+  listed.reserve(keys_.size());
+  for (const KeyView* view : keys_) {
+    listed.push_back({view->Spot().captions, view->Spot().shortcut});
+  }
+  return listed;
 }
 
 void KeySheet::LayOut(const DialogUnits& units) {
@@ -84,8 +87,8 @@ void KeySheet::LayOut(const std::function<QRect(const QRect& spot)>& pixelsOf) {
   std::vector<SpacedText> captions;
   for (KeyView* view : keys_) {
     view->setGeometry(pixelsOf(view->Spot().place));
-    for (const std::u16string_view caption : view->Spot().captions) {
-      captions.push_back({ToQt(caption), view->TextWidth()});
+    for (const FaceText& caption : view->Spot().captions) {
+      captions.push_back({ToQt(caption.caption), view->TextWidth()});
     }
   }
   // One size for all captions that the keys can show: a mixture of sizes looks restless.

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "line/key_help.h"
 #include "screens/widgets/key_view.h"
 #include "screens/widgets/look.h"
 
@@ -29,6 +30,11 @@ class KeySheet final : public QWidget {
 
   /// Shows the keys as `stateOf` says of each id.
   void Refresh(const std::function<KeyState(int)>& stateOf);
+
+  void Show(KeyLettering lettering);
+
+  /// All keys, for the list of them.
+  std::vector<ListedKey> Listed() const;
 
   void LayOut(const DialogUnits& units);
   /// The same with the pixels of each spot as `pixelsOf` has them.

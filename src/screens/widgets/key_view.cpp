@@ -1,11 +1,16 @@
 #include "screens/widgets/key_view.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <algorithm>
 #include <utility>
 
+#include "line/key_help.h"
 #include "screens/widgets/key_painter.h"
 #include "screens/widgets/look.h"
+#include "screens/widgets/qt_text.h"
+#include "screens/widgets/tool_tip.h"
 
 namespace kav {
 namespace {
@@ -49,6 +54,27 @@ KeyView::KeyView(KeySpot spot, QWidget* parent) : QAbstractButton(parent), spot_
   setAttribute(Qt::WA_Hover);
 }
 
+void KeyView::Show(const QString& caption) {
+  if (text() == caption) return;
+  setText(caption);
+  // A new text takes the old one's shortcut away.
+  setShortcut(QKeySequence(QLatin1String(spot_.shortcut)));
+  setAccessibleDescription(ToQt(DescriptionOf(CaptionNow(), spot_.shortcut)));
+}
+
+void KeyView::Show(KeyLettering lettering) {
+  lettering_ = lettering;
+  if (!spot_.shortcut.empty()) update();
+}
+
+FaceText KeyView::CaptionNow() const {
+  const auto& all = spot_.captions;
+  const auto now = std::find_if(all.begin(), all.end(), [shown = text()](const FaceText& one) {
+    return ToQt(one.caption) == shown;
+  });
+  return now != all.end() ? *now : FaceText{};
+}
+
 void KeyView::SetTextHeight(int pixels) {
   textHeight_ = pixels;
   update();
@@ -64,7 +90,27 @@ QFont KeyView::TextFont() const {
 
 void KeyView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  PaintKey(painter, *this, ColoursOf(spot_.colour), TextFont());
+  if (lettering_ == KeyLettering::Captions || spot_.shortcut.empty()) {
+    return PaintKey(painter, *this, ColoursOf(spot_.colour), TextFont());
+  }
+  const QString keys = QLatin1String(spot_.shortcut);
+  const int text = FittingPixels({{keys, TextWidth()}}, textHeight_, 1);
+  PaintKey(painter, *this, ColoursOf(spot_.colour), ScreenFont(text), keys);
+}
+
+bool KeyView::event(QEvent* event) {
+  if (event->type() == QEvent::Enter) isTouched_ = false;
+  if (event->type() != QEvent::ToolTip) return QAbstractButton::event(event);
+  if (!isTouched_) {
+    ShowTip(*this, static_cast<QHelpEvent*>(event)->globalPos(),
+            ToQt(TipOf(CaptionNow(), spot_.shortcut)));
+  }
+  return true;
+}
+
+void KeyView::mousePressEvent(QMouseEvent* event) {
+  isTouched_ = event->source() != Qt::MouseEventNotSynthesized;
+  QAbstractButton::mousePressEvent(event);
 }
 
 void KeyView::keyPressEvent(QKeyEvent* event) {

@@ -125,7 +125,7 @@ void Screen::Obey(ScreenCommand command) {
     case ScreenCommand::Guide:
       return OpenGuide(this, Page());
     case ScreenCommand::Keys:
-      return;
+      return OpenKeys();
     case ScreenCommand::Config:
       if (config_) config_();
       return;

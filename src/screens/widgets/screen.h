@@ -90,6 +90,8 @@ class Screen : public QWidget {
   Frame& ParentFrame() const { return frame_; }
 
   void Obey(ScreenCommand command);
+  /// Lists what can be pressed here.
+  virtual void OpenKeys() {}
   /// The page of the guide that tells about this screen.
   virtual GuidePage Page() const { return GuidePage::Scientific; }
 
