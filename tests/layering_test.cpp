@@ -35,7 +35,7 @@ const std::vector<std::vector<std::string>> kFloors{
     {"plotter"},
     {"scientific", "matrix", "statistics"},
     {"screens/widgets"},
-    {"screens/display", "screens/grid", "screens/memory"},
+    {"screens/display", "screens/grid", "screens/help", "screens/memory"},
     {"screens/converter", "screens/macros", "screens/plotter"},
     {"screens/matrix", "screens/scientific", "screens/statistics"},
     {"cli", "app"},

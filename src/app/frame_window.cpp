@@ -12,6 +12,8 @@
 #include "screens/converter/converter_dlg.h"
 #include "screens/converter/user_conversion_dlg.h"
 #include "screens/display/display_settings_dlg.h"
+#include "screens/help/guide_dlg.h"
+#include "screens/help/keys_dlg.h"
 #include "screens/macros/macro_editor_dlg.h"
 #include "screens/macros/macro_list_dlg.h"
 #include "screens/matrix/matrix_dlg.h"
@@ -90,6 +92,10 @@ ScreenDialogs AllDialogs(SettingsStore& store) {
   };
   dialogs.recallVariable = [&store](QWidget* parent) { return RunRecallVariable(parent, store); };
   dialogs.constants = [](QWidget* parent) { return RunConstants(parent); };
+  dialogs.keys = RunKeys;
+  dialogs.guide = [guide = std::make_shared<Guide>()](QWidget* parent, GuidePage page) {
+    guide->Open(parent, page);
+  };
   return dialogs;
 }
 

@@ -14,6 +14,7 @@
 #include "app/frame_window.h"
 #include "screens/box_watch.h"
 #include "screens/graph_driver.h"
+#include "screens/help/guide_dlg.h"
 #include "screens/matrix/matrix_dlg.h"
 #include "screens/matrix/matrix_size_dlg.h"
 #include "screens/memory/constants_dlg.h"
@@ -112,6 +113,11 @@ class EveryWindow : public testing::Test {
                  [&](QWidget* w) { frame_->dialogs.storeVariable(w, u"1"); }),
         DialogOf("recall a variable", [&](QWidget* w) { Give(frame_->dialogs.recallVariable(w)); }),
         DialogOf("constants", [&](QWidget* w) { Give(RunConstants(w, {KAV_DATA_FOLDER})); }),
+        DialogOf("keys",
+                 [&](QWidget* w) {
+                   frame_->dialogs.keys(w, {{{{u"A", u"add"}}, "Alt+A"}});
+                 }),
+        DialogOf("guide", [](QWidget* w) { RunGuide(w, GuidePage::Macros); }),
         DialogOf("size of a matrix",
                  [](QWidget* w) {
                    RunMatrixSize(w, {3, 3});

@@ -20,6 +20,7 @@
 #include <QStyleOption>
 #include <QTabBar>
 #include <QTableView>
+#include <QTableWidget>
 #include <QToolButton>
 #include <QTreeView>
 #include <cmath>
@@ -188,7 +189,26 @@ class TextRoom {
     }
   }
 
+  /// Cells whose texts are broken between words.
+  void MeasureWrapped(const QTableWidget& table) const {
+    const int margin =
+        table.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &table) + 1;
+    const QFontMetricsF metrics(table.font());
+    for (int row = 0; row < table.rowCount(); ++row) {
+      for (int column = 0; column < table.columnCount(); ++column) {
+        const QString text = table.item(row, column)->text();
+        const QRect area = table.visualItemRect(table.item(row, column));
+        const QRectF room(0, 0, area.width() - 2 * margin, area.height());
+        const QSizeF needed = metrics.boundingRect(room, Qt::TextWordWrap, text).size();
+        EXPECT_LE(needed.width(), room.width() + 0.5) << NameOf(table, text) << " is cut";
+        EXPECT_LE(needed.height(), room.height() + 0.5) << NameOf(table, text) << " is cut";
+      }
+    }
+  }
+
   void MeasureItems(const QAbstractItemView& view) const {
+    const auto* table = qobject_cast<const QTableWidget*>(&view);
+    if (table != nullptr) return MeasureWrapped(*table);
     // A tree of texts in several lines shows whole what is selected in it beside it.
     if (qobject_cast<const QTreeView*>(&view) != nullptr) return;
     const int margin = view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1;

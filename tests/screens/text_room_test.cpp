@@ -13,9 +13,11 @@
 
 #include "app/frame_window.h"
 #include "converter/unit_tables.h"
+#include "line/key_state.h"
 #include "screens/box_watch.h"
 #include "screens/dialog_layout.h"
 #include "screens/graph_driver.h"
+#include "screens/help/guide_dlg.h"
 #include "screens/matrix/matrix_dlg.h"
 #include "screens/matrix/matrix_size_dlg.h"
 #include "screens/memory/constants_dlg.h"
@@ -184,6 +186,13 @@ TEST_F(TextRoomTest, TheMacros) {
                 {[](QDialog& dialog) { dialog.findChild<QListView*>()->setFocus(); },
                  [](QDialog& dialog) { TapButton(dialog, u"New"); }});
   MeasureDialog([&](QWidget* window) { frame_.dialogs.macroList(window); });
+}
+
+TEST_F(TextRoomTest, TheKeysAndTheGuide) {
+  std::vector<ListedKey> keys;
+  for (const KeyPlace& place : KeyPlaces()) keys.push_back({CaptionsOf(place), place.shortcut});
+  MeasureDialog([&](QWidget* window) { frame_.dialogs.keys(window, keys); });
+  MeasureDialog([](QWidget* window) { RunGuide(window, GuidePage::TwoVariable); });
 }
 
 TEST_F(TextRoomTest, TheConverter) {

@@ -63,6 +63,7 @@ class CConverterDlg final : public Dialog {
 
 CConverterDlg::CConverterDlg(QWidget* parent, SettingsStore& store, const ConverterInput& input)
     : Dialog(parent, kConverterTitle), store_(store), model_(store, input.value, input.positions) {
+  SetPage(GuidePage::Converter);
   value_->setAccessibleName(ToQt(kInputValueName));
   result_->setReadOnly(true);
   result_->setAccessibleName(ToQt(kConverterResultName));

@@ -25,6 +25,7 @@ class CUserConversionDlg final
 
 CUserConversionDlg::CUserConversionDlg(QWidget* parent, SettingsStore& store)
     : StoredListDlg(parent, store, kUserConversionsTitle, kUserConversionsName), store_(store) {
+  SetPage(GuidePage::OwnUnits);
   AddButton(EditorButton::Memory, kMemoryCaption, [this] { OnMemory(); });
   Start({{EditorButton::Memory, EditorButton::Save, EditorButton::Cancel}});
 }

@@ -60,6 +60,7 @@ class CDisplaySettingsDlg final : public Dialog {
 
 CDisplaySettingsDlg::CDisplaySettingsDlg(QWidget* parent, SettingsStore& store, DisplayPage first)
     : Dialog(parent, kDisplaySettingsTitle), store_(store), model_(store, first) {
+  SetPage(GuidePage::Settings);
   auto* all = new QVBoxLayout(this);
   all->addWidget(NewGroup());
   all->addWidget(matrixParts_);

@@ -33,6 +33,7 @@ class CMacroEditorDlg final : public StoredListDlg<MacroEditorModel, MacroFields
 
 CMacroEditorDlg::CMacroEditorDlg(QWidget* parent, SettingsStore& store)
     : StoredListDlg(parent, store, kMacroEditorTitle, kMacroListName), store_(store) {
+  SetPage(GuidePage::Macros);
   AddButton(EditorButton::Memory, kMemoryCaption, [this] { OnMemory(); });
   AddButton(EditorButton::Functions, kFunctionsButton, [this] { OnFunctions(); });
   AddButton(EditorButton::Variables, kVariablesButton, [this] { OnVariables(); });

@@ -45,6 +45,7 @@ class CMacroListDlg final : public Dialog {
 
 CMacroListDlg::CMacroListDlg(QWidget* parent, SettingsStore& store)
     : Dialog(parent, kMacroListTitle), model_(store) {
+  SetPage(GuidePage::Macros);
   formula_->setReadOnly(true);
   formula_->setFocusPolicy(Qt::NoFocus);
   formula_->setFrameShape(QFrame::NoFrame);

@@ -111,6 +111,7 @@ CConstantsDlg::CConstantsDlg(QWidget* parent, ConstantsModel& model)
       model_(model),
       list_(new ConstantsView(model, [this] { Refresh(); })),
       name_(new NameLabel(model)) {
+  SetPage(GuidePage::Constants);
   filter_->setPlaceholderText(ToQt(kFilterCaption));
   filter_->setAccessibleName(ToQt(kFilterCaption));
   filter_->setMaxLength(kLongestFilter);

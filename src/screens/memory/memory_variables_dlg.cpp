@@ -94,6 +94,7 @@ CMemoryVariablesDlg::CMemoryVariablesDlg(QWidget* parent, VariablesMode mode, Se
     : Dialog(parent, kVariablesTitle),
       model_(std::move(mode), store),
       action_(new DialogButton(model_.ActionCaption())) {
+  SetPage(GuidePage::Memory);
   list_->setAccessibleName(ToQt(kVariableListName));
   LetKeyboardFollow(*list_);
   list_->setItemDelegate(new LineDelegate(list_));

@@ -105,6 +105,7 @@ CGraphView::CGraphView(QWidget* parent, GraphInput input)
     : Dialog(parent, kGraphTitle),
       model_(std::move(input)),
       area_(new GraphAreaView(model_, Hooks())) {
+  SetPage(GuidePage::Graph);
   for (const GraphCurve& curve : model_.Input().curves) curves_->addItem(OneLine(curve.label));
   // However long the equations are, their beginnings are seen.
   curves_->KeepRoomFor({kBeginningOfCurve});

@@ -62,6 +62,16 @@ inline constexpr std::u16string_view kHelpMenu = u"&Help";
 inline constexpr std::u16string_view kGuideEntry = u"&Guide";
 inline constexpr std::u16string_view kKeysEntry = u"&Keys";
 
+// The guide and the list of keys.
+inline constexpr std::u16string_view kGuideTitle = u"Guide";
+inline constexpr std::u16string_view kPagesName = u"Pages";
+inline constexpr std::u16string_view kBackCaption = u"Back";
+inline constexpr std::u16string_view kSearchCaption = u"Search";
+inline constexpr std::u16string_view kNotFound = u"not found";
+inline constexpr std::u16string_view kKeysTitle = u"Keys";
+inline constexpr std::u16string_view kKeyHeading = u"Key";
+inline constexpr std::u16string_view kWorkHeading = u"What it does";
+
 // As screen readers call what has no caption.
 inline constexpr std::u16string_view kMenuBarName = u"Menus";
 inline constexpr std::u16string_view kKeysName = u"Keys";

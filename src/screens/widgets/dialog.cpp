@@ -1,12 +1,15 @@
 #include "screens/widgets/dialog.h"
 
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <algorithm>
 
 #include "common/number_text.h"
 #include "screens/widgets/access_view.h"
+#include "screens/widgets/guide_caller.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/pop_up.h"
 #include "screens/widgets/qt_text.h"
@@ -21,6 +24,19 @@ QRect AreaOver(const QWidget& opener) {
   const QWidget* window = opener.window();
   const QRect area = PortraitArea(window->size());
   return {window->mapToGlobal(area.topLeft()), area.size()};
+}
+
+/// `area` moved to the right or the left of `window`, whose frame it keeps clear of, if the desktop
+/// has room there.
+QRect Beside(const QWidget& window, const QRect& area) {
+  const QRect desktop = window.screen()->availableGeometry();
+  const QRect frame = window.frameGeometry();
+  const int gap = frame.width() - window.width();
+  for (const int x : {frame.right() + 1 + gap, frame.left() - gap - area.width()}) {
+    const QRect place(QPoint(x, window.geometry().y()), area.size());
+    if (desktop.contains(place)) return place;
+  }
+  return area;
 }
 
 void SetMargins(QLayout* layout, int pixels) {
@@ -44,6 +60,30 @@ Dialog::Dialog(QWidget* parent, std::u16string_view title) : QDialog(parent) {
 bool Dialog::RunModal() {
   if (parentWidget() != nullptr) PlaceOver(AreaOver(*parentWidget()));
   return exec() == Accepted;
+}
+
+void Dialog::ShowBeside(const QWidget& neighbour) {
+  setModal(false);
+  const QWidget& window = *neighbour.window();
+  if (!isVisible()) PlaceOver(Beside(window, AreaOver(window)));
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
+void Dialog::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier) return OpenGuide();
+  QDialog::keyPressEvent(event);
+}
+
+void Dialog::OpenGuide() {
+  std::optional<GuidePage> page;
+  for (QWidget* window = this; window != nullptr; window = window->parentWidget()) {
+    if (auto* screen = dynamic_cast<GuideCaller*>(window)) return screen->OpenGuide(this, page);
+    const auto* dialog = dynamic_cast<const Dialog*>(window);
+    if (dialog != nullptr && !page) page = dialog->page_;
+  }
 }
 
 void Dialog::TakeOnlyNeededHeight() {

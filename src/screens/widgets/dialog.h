@@ -4,7 +4,10 @@
 #include <QDialog>
 #include <QPushButton>
 #include <QString>
+#include <optional>
 #include <string_view>
+
+#include "line/guide_pages.h"
 
 class QMenu;
 
@@ -22,7 +25,14 @@ class Dialog : public QDialog {
   /// Whether it was accepted.
   bool RunModal();
 
+  /// Shows it without waiting for its end: beside the window of `neighbour` where the desktop has
+  /// room for it, else over it.
+  void ShowBeside(const QWidget& neighbour);
+
  protected:
+  /// F1 opens the guide at `page`, not at that of the dialog or the screen behind this one.
+  void SetPage(GuidePage page) { page_ = page; }
+
   /// For a dialog of a few parts: it is only as high as these need, in the middle of the area that
   /// it would cover else. To be called before RunModal.
   void TakeOnlyNeededHeight();
@@ -34,16 +44,19 @@ class Dialog : public QDialog {
   bool event(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
   /// Gives all parts letters `text` pixels high and margins that suit them.
   virtual void SetTextHeight(int text);
 
  private:
   void PlaceOver(const QRect& area);
+  void OpenGuide();
   void Scale();
   void ScaleDown();
   double Excess() const;
 
+  std::optional<GuidePage> page_;
   bool takesNeededHeight_ = false;
   int areaHeight_ = 0;  ///< of what is behind it; 0 for its own
 };

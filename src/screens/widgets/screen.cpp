@@ -123,7 +123,7 @@ void Screen::MakeShortcuts() {
 void Screen::Obey(ScreenCommand command) {
   switch (command) {
     case ScreenCommand::Guide:
-      return OpenGuide(this, Page());
+      return OpenGuide(this, {});
     case ScreenCommand::Keys:
       return OpenKeys();
     case ScreenCommand::Config:
@@ -141,8 +141,8 @@ void Screen::Obey(ScreenCommand command) {
   }
 }
 
-void Screen::OpenGuide(QWidget* window, GuidePage page) {
-  if (frame_.Dialogs().guide) frame_.Dialogs().guide(window, page);
+void Screen::OpenGuide(QWidget* window, std::optional<GuidePage> page) {
+  if (frame_.Dialogs().guide) frame_.Dialogs().guide(window, page.value_or(Page()));
 }
 
 void Screen::EndProgram() {

@@ -4,11 +4,13 @@
 #include <QKeySequence>
 #include <QWidget>
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "line/screen_commands.h"
 #include "screens/widgets/frame.h"
+#include "screens/widgets/guide_caller.h"
 #include "screens/widgets/leaving.h"
 #include "screens/widgets/look.h"
 
@@ -50,7 +52,7 @@ void EditLine(QLineEdit& line, EditCommand command);
 bool CanEditLine(const QLineEdit& line, EditCommand command);
 
 /// A calculating screen, a window of its own. It carries out the commands of ScreenShortcuts.
-class Screen : public QWidget {
+class Screen : public QWidget, public GuideCaller {
  public:
   /// `size` is that of the body in dialog units; the frame must outlive the screen.
   Screen(Frame& frame, QSize size);
@@ -65,8 +67,7 @@ class Screen : public QWidget {
     return MayLeave(reason) && (reason != LeaveReason::Ending || frame_.MayEnd(this));
   }
 
-  /// Opens the guide beside `window`, this screen or a dialog over it.
-  void OpenGuide(QWidget* window, GuidePage page);
+  void OpenGuide(QWidget* window, std::optional<GuidePage> page) override;
 
  protected:
   /// The part of the window that the screen fills, its menu bar included.

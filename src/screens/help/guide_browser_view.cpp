@@ -1,0 +1,167 @@
+#include "screens/help/guide_browser_view.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QImage>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <algorithm>
+
+#include "screens/widgets/app_texts.h"
+#include "screens/widgets/qt_text.h"
+
+namespace kav {
+namespace {
+
+constexpr const char* kGuideFile = "qrc:/guide/guide.md";
+constexpr int kUsualPictureWidth = 240;
+constexpr int kPageLevel = 2;
+constexpr QLatin1String kPictures(":/guide/images/");
+
+/// The places of the pictures of a text.
+std::vector<int> PicturesIn(const QTextDocument& text) {
+  std::vector<int> places;
+  for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+      const QTextFragment fragment = part.fragment();
+      if (fragment.charFormat().isImageFormat()) places.push_back(fragment.position());
+    }
+  }
+  return places;
+}
+
+/// The documents have some pictures in a notation behind which the toolkit does not go on reading.
+QString WithPlainPictures(QString text) {
+  static const QRegularExpression kPicture("<img src=\"([^\"]*)\"[^>]* alt=\"([^\"]*)\">");
+  static const QRegularExpression kFrame("</?p[^>]*>");
+  return text.replace(kPicture, "![\\2](\\1)").remove(kFrame);
+}
+
+}  // namespace
+
+GuideBrowser::GuideBrowser() {
+  setAccessibleName(ToQt(kGuideTitle));
+  setOpenExternalLinks(true);
+  connect(this, &QTextBrowser::sourceChanged, this, [this] {
+    FindPages();
+    place_.reset();
+    pictureWidth_ = 0;
+    if (isVisible()) FitPictures();
+  });
+  connect(verticalScrollBar(), &QAbstractSlider::actionTriggered, this, [this] { place_.reset(); });
+}
+
+void GuideBrowser::Open(std::u16string_view heading) {
+  setSource(QUrl(kGuideFile), QTextDocument::MarkdownResource);
+  const auto page = std::find_if(pages_.begin(), pages_.end(), [heading](const GuideHeading& one) {
+    return one.text == ToQt(heading);
+  });
+  if (page != pages_.end()) GoTo(*page);
+}
+
+void GuideBrowser::GoTo(const GuideHeading& heading) {
+  setTextCursor(QTextCursor(document()->findBlockByNumber(heading.block)));
+  place_ = heading.block;
+  KeepPlace();
+}
+
+void GuideBrowser::KeepPlace() {
+  if (place_) verticalScrollBar()->setValue(TopOf(*place_));
+}
+
+void GuideBrowser::NotePlace() {
+  if (!place_) place_ = cursorForPosition(QPoint(0, 0)).blockNumber();
+}
+
+int GuideBrowser::TopOf(int block) const {
+  const QTextBlock wanted = document()->findBlockByNumber(block);
+  return static_cast<int>(document()->documentLayout()->blockBoundingRect(wanted).top());
+}
+
+int GuideBrowser::PageNow() const {
+  const int top = verticalScrollBar()->value();
+  const auto behind = std::find_if(pages_.begin(), pages_.end(), [&](const GuideHeading& page) {
+    return TopOf(page.block) > top + height() / 4;
+  });
+  return static_cast<int>(behind - pages_.begin()) - 1;
+}
+
+bool GuideBrowser::FindNext(const QString& text) {
+  if (text.isEmpty()) return true;
+  place_.reset();
+  if (find(text)) return true;
+  const QTextCursor before = textCursor();
+  moveCursor(QTextCursor::Start);
+  if (find(text)) return true;
+  setTextCursor(before);
+  return false;
+}
+
+void GuideBrowser::SetFont(const QFont& font) {
+  if (document()->defaultFont() == font) return;
+  NotePlace();
+  setFont(font);
+  document()->setDefaultFont(font);
+  KeepPlace();
+}
+
+QVariant GuideBrowser::loadResource(int type, const QUrl& name) {
+  switch (type) {
+    case QTextDocument::ImageResource:
+      return QImage(1, 1, QImage::Format_RGB32);  // FitPictures has it
+    case QTextDocument::MarkdownResource:
+      return WithPlainPictures(
+          QString::fromUtf8(QTextBrowser::loadResource(type, name).toByteArray()));
+    default:
+      return QTextBrowser::loadResource(type, name);
+  }
+}
+
+void GuideBrowser::resizeEvent(QResizeEvent* event) {
+  NotePlace();
+  QTextBrowser::resizeEvent(event);
+  if (isVisible()) FitPictures();
+  KeepPlace();
+}
+
+void GuideBrowser::showEvent(QShowEvent* event) {
+  QTextBrowser::showEvent(event);
+  FitPictures();
+  KeepPlace();
+}
+
+void GuideBrowser::FindPages() {
+  pages_.clear();
+  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() != kPageLevel) continue;
+    pages_.push_back({block.text(), block.blockNumber()});
+  }
+}
+
+void GuideBrowser::FitPictures() {
+  const int room = viewport()->width() - 2 * static_cast<int>(document()->documentMargin());
+  const int width = std::clamp(room, 1, kUsualPictureWidth);
+  if (width == pictureWidth_) return;
+  pictureWidth_ = width;
+  for (const int place : PicturesIn(*document())) FitPicture(place);
+}
+
+void GuideBrowser::FitPicture(int place) {
+  QTextCursor cursor(document());
+  cursor.setPosition(place);
+  cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+  QTextImageFormat format = cursor.charFormat().toImageFormat();
+  const QUrl name(format.name());
+  QImage picture(kPictures + name.fileName());
+  if (picture.isNull()) return;
+  // Drawn smaller, the toolkit would leave pixels out.
+  const double scale = devicePixelRatioF();
+  picture = picture.scaledToWidth(qRound(pictureWidth_ * scale), Qt::SmoothTransformation);
+  picture.setDevicePixelRatio(scale);
+  document()->addResource(QTextDocument::ImageResource, name, picture);
+  format.setWidth(picture.deviceIndependentSize().width());
+  format.setHeight(picture.deviceIndependentSize().height());
+  cursor.setCharFormat(format);
+}
+
+}  // namespace kav

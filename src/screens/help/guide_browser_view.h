@@ -1,0 +1,55 @@
+// The text of the guide, with its pictures and links.
+#pragma once
+
+#include <QTextBrowser>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace kav {
+
+/// A heading of a document: its place among the blocks of the text.
+struct GuideHeading {
+  QString text;
+  int block;
+};
+
+/// Shows the guide, and the documents that it links to. Pictures are as wide as there is room, up
+/// to their usual width. Links that lead out of the documents are left to the desktop.
+class GuideBrowser final : public QTextBrowser {
+ public:
+  GuideBrowser();
+
+  /// Shows the guide at the page called `heading`.
+  void Open(std::u16string_view heading);
+  /// Scrolls to that heading of the document that is shown.
+  void GoTo(const GuideHeading& heading);
+
+  /// The headings of the pages of the document that is shown.
+  const std::vector<GuideHeading>& Pages() const { return pages_; }
+  /// The page that is seen at the top, as an index of them; -1 before the first.
+  int PageNow() const;
+
+  /// Selects the next place of `text`, from the beginning on after the last one; whether there is
+  /// one.
+  bool FindNext(const QString& text);
+
+  void SetFont(const QFont& font);
+
+ private:
+  QVariant loadResource(int type, const QUrl& name) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void FindPages();
+  void NotePlace();
+  void KeepPlace();
+  void FitPictures();
+  void FitPicture(int place);
+  int TopOf(int block) const;
+
+  std::vector<GuideHeading> pages_;
+  int pictureWidth_ = 0;
+  std::optional<int> place_;  ///< the block to stay at the top, if the user has not scrolled since
+};
+
+}  // namespace kav

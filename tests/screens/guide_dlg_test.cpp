@@ -1,0 +1,159 @@
+// The guide and the list of keys on the screen.
+#include "screens/help/guide_dlg.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "screens/box_watch.h"
+#include "screens/screen_driver.h"
+
+namespace kav::test::guide_dlg_test {
+namespace {
+
+class GuideDlgTest : public testing::Test {
+ protected:
+  ~GuideDlgTest() override { BoxWatch::Instance().TakeSeen(); }
+
+  /// Opens the guide over a window of that size, and closes it after `use`.
+  static void WithGuide(GuidePage page, QSize size, const std::function<void(QDialog&)>& use) {
+    QWidget window;
+    Show(window, size);
+    BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) {
+      use(dialog);
+      dialog.hide();
+    });
+    RunGuide(&window, page);
+  }
+  static QTextBrowser& TextIn(QWidget& guide) { return *guide.findChild<QTextBrowser*>(); }
+  static QComboBox& PagesIn(QWidget& guide) { return *guide.findChild<QComboBox*>(); }
+  static QLabel* FindLabel(QWidget& guide, const char* text) {
+    for (auto* label : guide.findChildren<QLabel*>()) {
+      if (label->isVisible() && label->text() == text) return label;
+    }
+    return nullptr;
+  }
+  /// The text of the block at the top.
+  static QString Top(QWidget& guide) {
+    const QTextBrowser& text = TextIn(guide);
+    return text.cursorForPosition({5, 5}).block().text();
+  }
+};
+
+TEST_F(GuideDlgTest, OpensAtThePageOfWhatIsAskedFor) {
+  const std::vector<std::pair<GuidePage, const char*>> rows{
+      {GuidePage::TwoVariable, "Statistics of two variables"},
+      {GuidePage::Converter, "Unit converter"}};
+  for (const auto& [page, heading] : rows) {
+    WithGuide(page, {360, 560}, [&, heading = heading](QDialog& guide) {
+      EXPECT_EQ(Top(guide).toStdString(), heading);
+      EXPECT_EQ(PagesIn(guide).currentText().toStdString(), heading);
+      EXPECT_EQ(QApplication::focusWidget(), &TextIn(guide));
+    });
+  }
+}
+
+TEST_F(GuideDlgTest, ItsPicturesHaveRoomAtEverySize) {
+  for (const QSize size : {QSize(180, 240), QSize(480, 640)}) {
+    WithGuide(GuidePage::Scientific, size, [&](QDialog& guide) {
+      QCoreApplication::processEvents();
+      QTextBrowser& text = TextIn(guide);
+      int pictures = 0;
+      for (auto block = text.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+          const auto format = part.fragment().charFormat().toImageFormat();
+          if (!format.isValid()) continue;
+          ++pictures;
+          EXPECT_GT(format.width(), 90);
+          EXPECT_LE(format.width(), text.viewport()->width());
+          const QVariant picture =
+              text.document()->resource(QTextDocument::ImageResource, format.name());
+          EXPECT_FALSE(picture.value<QImage>().isNull()) << format.name().toStdString();
+        }
+      }
+      EXPECT_EQ(pictures, 14);
+      EXPECT_EQ(Top(guide).toStdString(), "Scientific calculator");
+    });
+  }
+}
+
+TEST_F(GuideDlgTest, PagesAreChosenFromTheirList) {
+  WithGuide(GuidePage::Scientific, {360, 560}, [&](QDialog& guide) {
+    EXPECT_EQ(PagesIn(guide).count(), 12);
+    PagesIn(guide).setCurrentText("Macros");
+    EXPECT_EQ(Top(guide), "Macros");
+    TextIn(guide).verticalScrollBar()->setValue(0);
+    EXPECT_EQ(PagesIn(guide).currentIndex(), -1);
+  });
+}
+
+TEST_F(GuideDlgTest, LinksLeadToTheOtherDocumentsAndBack) {
+  WithGuide(GuidePage::Matrix, {360, 560}, [&](QDialog& guide) {
+    QAbstractButton& back = *FindKey(guide, u"Back");
+    EXPECT_FALSE(back.isEnabled());
+    for (const char* name : {"matrix.md", "plotter.md", "statistics.md", "constants.md"}) {
+      TextIn(guide).setSource(QUrl(name));
+      EXPECT_GT(TextIn(guide).document()->characterCount(), 1500) << name;
+      EXPECT_TRUE(back.isEnabled());
+      Click(back);
+    }
+    EXPECT_FALSE(back.isEnabled());
+    EXPECT_EQ(PagesIn(guide).count(), 12);
+    for (const char* name : {"units.md", "command-line.md"}) {
+      EXPECT_TRUE(QFile::exists(QString(":/guide/") + name)) << name;
+    }
+  });
+}
+
+TEST_F(GuideDlgTest, WordsAreSearchedFromPlaceToPlace) {
+  WithGuide(GuidePage::Converter, {360, 560}, [&](QDialog& guide) {
+    QTest::keyClick(&TextIn(guide), Qt::Key_F, Qt::ControlModifier);
+    auto* search = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(search, nullptr);
+    EXPECT_EQ(search->accessibleName(), "Search");
+    QTest::keyClicks(search, "mortgage");
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_EQ(TextIn(guide).textCursor().selectedText(), "mortgage");
+    EXPECT_EQ(PagesIn(guide).currentText(), "Scientific calculator");
+    QTest::keyClicks(search, "xyz");
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_NE(FindLabel(guide, "not found"), nullptr);
+    QTest::keyClick(search, Qt::Key_Backspace);
+    EXPECT_EQ(FindLabel(guide, "not found"), nullptr);
+    EXPECT_TRUE(guide.isVisible());
+  });
+}
+
+TEST_F(GuideDlgTest, StaysOpenBesideAScreenAndIsOneWindow) {
+  QWidget window;
+  Show(window, {240, 320});
+  Guide guide;
+  BoxWatch::Instance().ExpectDialog([](QDialog&) {});
+  guide.Open(&window, GuidePage::Graph);
+  QDialog* dialog = nullptr;
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    if (top->isVisible() && top->windowTitle() == "Guide") dialog = qobject_cast<QDialog*>(top);
+  }
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_FALSE(dialog->isModal());
+  EXPECT_FALSE(dialog->geometry().intersects(window.geometry())) << "the desktop has room for both";
+  guide.Open(&window, GuidePage::Memory);
+  EXPECT_EQ(Top(*dialog), "Memory variables");
+  QTest::keyClick(dialog, Qt::Key_Escape);
+  EXPECT_FALSE(dialog->isVisible());
+  BoxWatch::Instance().ExpectDialog([](QDialog&) {});
+  guide.Open(&window, GuidePage::Memory);
+  EXPECT_TRUE(dialog->isVisible());
+  dialog->hide();
+}
+
+}  // namespace
+}  // namespace kav::test::guide_dlg_test
