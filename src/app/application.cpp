@@ -11,7 +11,9 @@
 
 #include "app/session.h"
 #include "app/single_instance.h"
+#include "display/text_scale.h"
 #include "screens/widgets/app_texts.h"
+#include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
 #include "settings/file_descriptor.h"
 #include "store/settings_path.h"
@@ -70,6 +72,7 @@ int RunApplication(int argc, char** argv) {
   QGuiApplication::setQuitOnLastWindowClosed(false);
   if (instance.Result() == SingleInstance::Outcome::Busy) instance = BesideBusyOne();
   if (instance.Result() == SingleInstance::Outcome::Called) return 0;
+  SetDesktopTextShare(DesktopTextShare(QApplication::font().pointSizeF()));
   const Session session(std::move(instance), DefaultSettingsPath());
   return QApplication::exec();
 }

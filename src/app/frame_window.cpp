@@ -244,6 +244,32 @@ void FrameWindow::Exit() {
   QMetaObject::invokeMethod(this, exit, Qt::QueuedConnection);
 }
 
+void FrameWindow::ScaleText(TextStep step) {
+  const int percent = NextTextScale(TextScaleFromSetting(store_.Get(kTextScale)), step);
+  store_.Set(kTextScale, percent);
+  GrowWindow(percent);
+  if (auto* screen = dynamic_cast<Screen*>(Shown())) screen->LayOutAll();
+  SaveStore();
+}
+
+void FrameWindow::GrowWindow(int percent) {
+  QWidget* window = Shown();
+  if (window == nullptr || window->isMaximized() || window->isFullScreen()) return;
+  constexpr int kWhole = 100;
+  const int taken = std::clamp(store_.Get(kWindowScale), kLeastTextScale, kMostTextScale);
+  // A user who gave the window another size means that size, at this scale.
+  if (window->size() != grown_) first_ = window->size() * kWhole / taken;
+  const QMargins margins =
+      window->windowHandle() != nullptr ? window->windowHandle()->frameMargins() : QMargins();
+  const QRect desktop = window->screen()->availableGeometry();
+  const GrownSize grown = Grown(first_, percent, desktop.marginsRemoved(margins).size());
+  grown_ = grown.size;
+  store_.Set(kWindowScale, grown.percent);
+  QRect frame = window->frameGeometry();
+  frame.setSize(grown.size.grownBy(margins));
+  TakePlace(*window, {PlaceInFrame(frame, margins, Desktops())});
+}
+
 bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
   // Desktops put their frame around a window some time after it is shown, and then move it.
   const bool mayBeFramed = event->type() == QEvent::Move || event->type() == QEvent::WindowActivate;

@@ -72,6 +72,7 @@ class FrameWindow final : public QWidget, public Frame {
   void ImportSettings(QWidget* parent) override;
   void ChangeMode(ScreenMode mode) override;
   void Exit() override;
+  void ScaleText(TextStep step) override;
 
  private:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -80,6 +81,7 @@ class FrameWindow final : public QWidget, public Frame {
   void StartSoon();
   void Start();
   void KeepFrameOnDesktop();
+  void GrowWindow(int percent);
   const ScreenKind& KindOf(std::int32_t mode) const;
   void KeepPlace();
   void TakeImported(const std::string& toml);
@@ -91,6 +93,8 @@ class FrameWindow final : public QWidget, public Frame {
   ScreenDialogs dialogs_;
   FrameHooks hooks_;
   WindowPlace place_;
+  QSize first_;  ///< of the window that grew last, before it did
+  QSize grown_;  ///< what it grew to
   std::int32_t mode_;
   AppEvents events_;
   std::unique_ptr<QWidget> prepared_;  ///< made, but not shown yet

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "common/number_text.h"
+#include "screens/widgets/look.h"
 
 namespace kav {
 namespace {
@@ -80,6 +81,22 @@ QRect PlaceInFrame(const QRect& frame, const QMargins& margins, std::span<const 
   const QRect place = MovedOntoDesktop(frame, desktops);
   // A window is moved by the corner of its frame.
   return {place.topLeft(), place.marginsRemoved(margins).size()};
+}
+
+GrownSize Grown(QSize first, int percent, QSize most) {
+  constexpr int kWhole = 100;
+  const auto share = [](int part, int whole) { return part * kWhole / std::max(whole, 1); };
+  // A window that is larger than that already does not shrink for it.
+  const int largest = std::max(
+      kWhole, std::min(share(most.width(), first.width()), share(most.height(), first.height())));
+  const auto atLeast = [](int part, int whole) {
+    return (part * kWhole + whole - 1) / std::max(whole, 1);
+  };
+  const int smallest =
+      std::min(kWhole, std::max(atLeast(kSmallestWindow.width(), first.width()),
+                                atLeast(kSmallestWindow.height(), first.height())));
+  const int taken = std::clamp(percent, smallest, largest);
+  return {first * taken / kWhole, taken};
 }
 
 WindowPlace PlaceOf(const QWidget& window) {

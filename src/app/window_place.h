@@ -3,6 +3,7 @@
 
 #include <QMargins>
 #include <QRect>
+#include <QSize>
 #include <optional>
 #include <span>
 #include <string>
@@ -37,6 +38,16 @@ QRect FirstPlace(const QRect& desktop);
 /// The place for a window within a frame that takes `frame` with `margins` of it around the window:
 /// moved and shrunk so that the frame lies within the desktop that it overlaps most.
 QRect PlaceInFrame(const QRect& frame, const QMargins& margins, std::span<const QRect> desktops);
+
+/// A size, and how large it is beside one that was asked for, in percent.
+struct GrownSize {
+  QSize size;
+  int percent;
+};
+
+/// A window of `first` pixels grown by `percent`, or shrunk: in its shape, and as far as `most` and
+/// kSmallestWindow let it.
+GrownSize Grown(QSize first, int percent, QSize most);
 
 /// Reads and sets the place of a window.
 WindowPlace PlaceOf(const QWidget& window);

@@ -1,6 +1,7 @@
 // What the user reads on the scientific screen, apart from the captions of the keypad's table.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace kav {
@@ -39,5 +40,12 @@ inline constexpr std::u16string_view kResultName = u"Result";
 inline constexpr std::u16string_view kDidYouMean = u"Did you mean";
 
 inline constexpr std::u16string_view kLiveResultName = u"Live result";
+
+// The mark beside a result while the memory register is not 0, and what it stands for.
+inline constexpr std::u16string_view kMemoryMark = u"M";
+inline constexpr std::u16string_view kMemoryName = u"Memory";
+inline std::u16string MemoryIs(std::u16string_view value) {
+  return u"Memory: " + std::u16string(value);
+}
 
 }  // namespace kav

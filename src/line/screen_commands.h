@@ -18,7 +18,11 @@ enum class ScreenCommand {
   OneVariable,
   TwoVariable,
   Matrix,
-  Exit
+  Exit,
+  CopyLine,
+  LargerText,
+  SmallerText,
+  UsualText
 };
 
 struct ShortcutRow {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "common/number_text.h"
+#include "display/copied_text.h"
 #include "line/line_texts.h"
 #include "line/past_lines_model.h"
 #include "line/shown_number.h"
@@ -71,6 +72,21 @@ std::optional<std::u16string> MatrixModel::LiveResult(std::u16string_view line) 
   // There "=" gives no number either.
   if (Shown() == kAnswerMatrix) return std::nullopt;
   return LiveNumber(text, modes_, settings_.normal, macros_);
+}
+
+std::optional<std::u16string> MatrixModel::CopiedResult() const {
+  if (!lastAnswer_ || resultText_.empty()) return std::nullopt;
+  return PlainDigits(resultText_);
+}
+
+std::optional<std::u16string> MatrixModel::CopiedLine() const {
+  if (!answered_ || !CopiedResult()) return std::nullopt;
+  return LineAndResult(answered_->text, resultText_);
+}
+
+std::u16string MatrixModel::MemoryText() const {
+  if (converter_.memory == 0) return {};
+  return ShownNumber(converter_.memory, settings_.normal, BaseMode::Decimal);
 }
 
 std::u16string_view MatrixModel::Caption(MatrixKey key) const {

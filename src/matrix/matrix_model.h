@@ -66,6 +66,14 @@ class MatrixModel {
   /// Writes the mended line and evaluates it; does nothing without a mend.
   MatrixRequest TakeMend();
 
+  // What is copied and kept.
+  /// The result in plain digits; nullopt if there is none or a message in its place.
+  std::optional<std::u16string> CopiedResult() const;
+  /// The line that was answered, and its answer; nullopt if the result line shows none.
+  std::optional<std::u16string> CopiedLine() const;
+  /// The memory register as the result line would show it; empty while it is 0.
+  std::u16string MemoryText() const;
+
   // The keys and the menus that they open.
   std::u16string_view Caption(MatrixKey key) const;
   bool IsEnabled(MatrixKey key) const;

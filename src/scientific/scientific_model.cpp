@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "common/number_text.h"
+#include "display/copied_text.h"
 #include "line/line_texts.h"
 #include "line/past_lines_model.h"
 #include "line/shown_number.h"
@@ -39,6 +40,23 @@ std::optional<std::u16string> ScientificModel::LiveResult(std::u16string_view li
     return std::nullopt;
   }
   return LiveNumber(line, modes_, format_, macros_);
+}
+
+std::optional<std::u16string> ScientificModel::CopiedResult() const {
+  if (!errorText_.empty()) return std::nullopt;
+  return PlainDigits(resultText_);
+}
+
+std::optional<std::u16string> ScientificModel::CopiedLine() const {
+  // In another base the digits of the line would be another number's.
+  const bool isAnswered = answered_ && answered_->modes.baseMode == modes_.baseMode;
+  if (!isAnswered || !errorText_.empty()) return std::nullopt;
+  return LineAndResult(answered_->text, resultText_);
+}
+
+std::u16string ScientificModel::MemoryText() const {
+  if (converter_.memory == 0) return {};
+  return ShownNumber(converter_.memory, format_, modes_.baseMode);
 }
 
 std::u16string_view ScientificModel::Caption(Key key) const {

@@ -45,6 +45,15 @@ class ScientificModel {
   /// not want it.
   std::optional<std::u16string> LiveResult(std::u16string_view line) const;
 
+  // What is copied and kept.
+  /// The result in plain digits; nullopt if there is a message in its place.
+  std::optional<std::u16string> CopiedResult() const;
+  /// The line that was answered, and its answer; nullopt if the result line shows none.
+  std::optional<std::u16string> CopiedLine() const;
+  /// The memory register as the result line would show it; empty while it is 0.
+  std::u16string MemoryText() const;
+  BaseMode Base() const { return modes_.baseMode; }
+
   // The keys as they are now.
   std::u16string_view Caption(Key key) const;
   bool IsEnabled(Key key) const;

@@ -26,6 +26,11 @@ inline constexpr IntegerKey kPrecision{"Config", "Precision", 7};
 // Whether a line's result is shown while it is being typed: 1 or 0.
 inline constexpr IntegerKey kLiveResult{"Config", "Live Result", 1};
 
+// How large texts are: of their usual size, and of that how much the window has taken by growing.
+// Both in percent.
+inline constexpr IntegerKey kTextScale{"Config", "Text Scale", 100};
+inline constexpr IntegerKey kWindowScale{"Config", "Window Scale", 100};
+
 // The same for the cells of the matrix screen, and the defaults of a new matrix: rows and columns
 // (1 to 10), the alignment of its cells (0 left, 1 right) and the width of its columns in pixels.
 inline constexpr IntegerKey kMatrixDisplayType{"Config", "Matrix Display Type", 0};

@@ -99,6 +99,7 @@ void CMatrixDlg::ShowMatrix() {
   seenChanges_ = model_.Board().ChangeCount();
   Result().Show(model_.ResultText());
   ShowLive();
+  ShowMemory(model_.MemoryText());
   RefreshKeys();
   {
     const QSignalBlocker quiet(tabs_);
@@ -118,8 +119,8 @@ void CMatrixDlg::LayOut(const DialogUnits& units) {
   Keys().setGeometry(rect());
   Keys().LayOut(places.keys);
   Line().setGeometry(places.line);
-  Line().SetTextHeight(qRound(Line().height() * kLineTextHeight));
-  Result().LayOut(places.result);
+  Line().SetTextHeight(qRound(Line().height() * kLineTextHeight * TextShare()));
+  LayOutResult(places.result);
   tabs_->setGeometry(places.tabs);
   grid_.LayOut(places);
   LayOutHistory(body);

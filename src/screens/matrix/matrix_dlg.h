@@ -44,6 +44,8 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   void TakePast(const PastLine& past, PastPart part) override;
   void Cover() override;
   void Uncover() override;
+  std::optional<std::u16string> CopiedResult() const override { return model_.CopiedResult(); }
+  std::optional<std::u16string> CopiedLine() const override { return model_.CopiedLine(); }
   void ShowMatrix();
 
   // What a key asks for.

@@ -85,7 +85,7 @@ void EquationInputView::paintEvent(QPaintEvent*) {
 }
 
 void EquationInputView::resizeEvent(QResizeEvent*) {
-  const int most = qRound(height() * kInputTextHeight);
+  const int most = qRound(height() * kInputTextHeight * TextShare());
   const int outline = std::max(2, most / 6);
   // Each line has its part of what outline and margins leave of the height.
   const int text = PixelsForLine(most, (height() - 2 * outline - most / 4.0) / kLines);

@@ -40,6 +40,9 @@ void CScientificDlg::Refresh() {
   WriteLine(Line(), model_.Line());
   Result().Show(model_.ResultText());
   ShowLive();
+  ShowMemory(model_.MemoryText());
+  Line().SetBase(model_.Base());
+  Result().SetBase(model_.Base());
   RefreshKeys();
   Line().setFocus();
 }
@@ -48,8 +51,8 @@ void CScientificDlg::LayOut(const DialogUnits& units) {
   Keys().setGeometry(rect());
   Keys().LayOut(units);
   Line().setGeometry(units.Pixels(UnitsOf(kExpressionPlace)));
-  Line().SetTextHeight(qRound(Line().height() * kLineTextHeight));
-  Result().LayOut(units.Pixels(UnitsOf(kResultPlace)));
+  Line().SetTextHeight(qRound(Line().height() * kLineTextHeight * TextShare()));
+  LayOutResult(units.Pixels(UnitsOf(kResultPlace)));
   LayOutHistory(units.Pixels(QRect(0, 0, kScreenWidth, kScreenHeight)));
 }
 

@@ -35,6 +35,8 @@ class CScientificDlg final : public KeyScreenOf<Key, ScientificModel, LineScreen
   }
   HistoryWalk::Lines EarlierLines() const override { return TypedLines(model_.PastLines()); }
   void TakePast(const PastLine& past, PastPart part) override;
+  std::optional<std::u16string> CopiedResult() const override { return model_.CopiedResult(); }
+  std::optional<std::u16string> CopiedLine() const override { return model_.CopiedLine(); }
 
   void CarryOut(const ScientificRequest& request) override;
 

@@ -124,10 +124,10 @@ void DataFieldsView::LayOut(const DialogUnits& units, const StatisticsPlaces& pl
     place(*labels_[i], places.*RowOf(all_[i]).labelPlace);
     place(*lines_[i], places.*RowOf(all_[i]).place);
     rooms.push_back(RoomOf(*labels_[i]));
-    lines_[i]->SetTextHeight(qRound(lines_[i]->height() * kFieldText));
+    lines_[i]->SetTextHeight(qRound(lines_[i]->height() * kFieldText * TextShare()));
   }
   // One size for all labels.
-  const int most = qRound(lines_.front()->height() * kFieldText);
+  const int most = qRound(lines_.front()->height() * kFieldText * TextShare());
   const QFont font = ScreenFont(FittingPixels(rooms, most, 1));
   totalLabel_->setFont(font);
   for (QLabel* label : labels_) label->setFont(font);

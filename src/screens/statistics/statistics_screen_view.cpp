@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "display/comma_reading.h"
+#include "display/copied_text.h"
 #include "display/own_spelling.h"
 #include "line/line_texts.h"
 #include "screens/statistics/row_access_view.h"
@@ -22,6 +23,7 @@
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/offer_strip.h"
 #include "screens/widgets/qt_text.h"
+#include "screens/widgets/result_uses.h"
 #include "statistics/statistics_menus.h"
 #include "statistics/statistics_texts.h"
 
@@ -71,9 +73,15 @@ StatisticsScreen::StatisticsScreen(Frame& frame, ScreenMode mode,
   table_->installEventFilter(this);
   SetTableHooks();
   result_->setAccessibleName(ToQt(kResultName));
+  new ResultUses(result_, [this] { return CopiedResult(); });
   AddKeys(SpotsOf(StatisticsKeyRows(model_->Shape())));
   AddMenus(mode, DisplayPage::Normal, [this] { model_->TakeDisplaySettings(); });
   StatisticsScreen::Refresh();
+}
+
+std::optional<std::u16string> StatisticsScreen::CopiedResult() const {
+  if (model_->ResultText().empty()) return std::nullopt;
+  return PlainDigits(model_->ResultText());
 }
 
 void StatisticsScreen::SetTableHooks() {
@@ -134,7 +142,7 @@ void StatisticsScreen::LayOut(const DialogUnits& units) {
   Keys().LayOut(units);
   fields_.LayOut(units, places);
   table_->setGeometry(units.Pixels(UnitsOf(places.list)));
-  const int text = qRound(fields_.Line(DataField::X).height() * kFieldText);
+  const int text = qRound(fields_.Line(DataField::X).height() * kFieldText * TextShare());
   table_->SetTextHeight(PixelsForLine(text, text * kHighestLine));
   result_->LayOut(units.Pixels(UnitsOf(places.result)));
 }

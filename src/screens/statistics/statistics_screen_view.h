@@ -39,6 +39,7 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   void Refresh() override;
 
  private:
+  std::optional<std::u16string> CopiedResult() const;
   void SetTableHooks();
   void OnKey(StatisticsKey key) override;
   void OnHeading(std::size_t column);

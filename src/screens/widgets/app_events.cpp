@@ -7,6 +7,7 @@
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/pop_up.h"
+#include "screens/widgets/word_selection.h"
 
 namespace kav {
 namespace {
@@ -71,6 +72,8 @@ bool AppEvents::eventFilter(QObject* watched, QEvent* event) {
       SendRedo(watched, key);
       return true;
     }
+    case QEvent::MouseButtonDblClick:
+      return SelectWord(*watched, *event);
     case QEvent::Polish:
       Dress(watched);
       return false;

@@ -7,6 +7,7 @@ namespace kav {
 
 /// While it lives, the separator key of a keyboard's number pad writes a point, whatever the
 /// keyboard has on it: numbers are written with one. Ctrl+Y redoes wherever Ctrl+Shift+Z does.
+/// A double click into a text selects a whole number or name.
 /// And the menus that fields of text, and
 /// the boxes that dialogs for files make by themselves look like all others.
 class AppEvents final : public QObject {

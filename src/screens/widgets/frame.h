@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "display/display_settings_model.h"
+#include "display/text_scale.h"
 #include "line/guide_pages.h"
 #include "line/key_help.h"
 #include "line/key_request.h"
@@ -81,6 +82,8 @@ class Frame {
   // screen then makes room for a new one. `parent` is the screen.
   virtual void ExportSettings(QWidget* parent) = 0;
   virtual void ImportSettings(QWidget* parent) = 0;
+  /// Makes texts larger or smaller, and the shown window with them if it can be.
+  virtual void ScaleText(TextStep) {}
 
   // Both end the calling screen, but not before the current event has been handled.
   virtual void ChangeMode(ScreenMode mode) = 0;

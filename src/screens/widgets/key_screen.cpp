@@ -67,7 +67,8 @@ void KeyScreen::AddMenus(ScreenMode mode, DisplayPage page,
   AddFileMenu({Opening(config), Opening(dialogs.unitEditor), Opening(dialogs.macroEditor),
                mode == ScreenMode::Plotter ? kPlotterEditMacroEntry : kEditMacroEntry});
   AddEditMenu({[this](EditCommand command) { Edit(command); },
-               [this](EditCommand command) { return CanEdit(command); }, MoreToEdit()});
+               [this](EditCommand command) { return CanEdit(command); }, EntriesOfResult(),
+               MoreToEdit()});
   AddModeMenu(mode);
   AddHelpMenu();
 }

@@ -34,6 +34,8 @@ class KeyScreen : public Screen {
   virtual bool CanEdit(EditCommand command) const = 0;
   /// Entries below those of the Edit menu that every screen has.
   virtual std::vector<MenuEntry> MoreToEdit() { return {}; }
+  /// What the Edit menu does with results.
+  virtual ResultEntries EntriesOfResult() { return {}; }
 
   /// Makes the keys: once, after what the Tab key is to reach before them.
   void AddKeys(std::vector<KeySpot> keys);
@@ -153,14 +155,21 @@ inline QRect UnitsOf(const LinePlace& place) {
   return {place.x, place.y, place.width, place.height};
 }
 
+/// Whether `key` goes on working while it is held: those that delete a character do.
+template <class K>
+bool RepeatsWhenHeld(K key) {
+  if constexpr (requires { K::Backspace; }) return key == K::Backspace || key == K::Delete;
+  return false;
+}
+
 /// The keys of the rows of a keypad.
 template <class Rows>
 std::vector<KeySpot> SpotsOf(const Rows& rows) {
   std::vector<KeySpot> spots;
   spots.reserve(rows.size());
   for (const auto& row : rows) {
-    spots.push_back(
-        {static_cast<int>(row.key), UnitsOf(row.place), row.colour, CaptionsOf(row), row.shortcut});
+    spots.push_back({static_cast<int>(row.key), UnitsOf(row.place), row.colour, CaptionsOf(row),
+                     row.shortcut, RepeatsWhenHeld(row.key)});
   }
   return spots;
 }

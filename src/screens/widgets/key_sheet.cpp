@@ -15,6 +15,8 @@ namespace {
 
 /// Captions take at most this much of a key's height.
 constexpr double kTextHeight = 0.6;
+/// Or this much, if the user wants large texts.
+constexpr double kLargeTextHeight = 0.8;
 
 QPoint DirectionOf(int key) {
   switch (key) {
@@ -92,8 +94,11 @@ void KeySheet::LayOut(const std::function<QRect(const QRect& spot)>& pixelsOf) {
     }
   }
   // One size for all captions that the keys can show: a mixture of sizes looks restless.
-  const int most = static_cast<int>(keys_.front()->height() * kTextHeight);
+  const double share = TextShare();
+  const double wanted = std::min(kTextHeight * std::max(share, 1.0), kLargeTextHeight);
+  const int most = static_cast<int>(keys_.front()->height() * wanted);
   textHeight_ = FittingPixels(captions, most, 1);
+  if (share < 1) textHeight_ = std::max(static_cast<int>(textHeight_ * share), 1);
   for (KeyView* view : keys_) view->SetTextHeight(textHeight_);
 }
 

@@ -15,6 +15,10 @@
 namespace kav {
 namespace {
 
+/// As keyboards repeat.
+constexpr int kRepeatDelayMs = 500;
+constexpr int kRepeatIntervalMs = 50;
+
 struct KeyRgb {
   QRgb background;
   QRgb text;
@@ -52,6 +56,10 @@ KeyColours ColoursOf(KeyColour colour) {
 KeyView::KeyView(KeySpot spot, QWidget* parent) : QAbstractButton(parent), spot_(std::move(spot)) {
   setFocusPolicy(Qt::TabFocus);
   setAttribute(Qt::WA_Hover);
+  if (!spot_.repeats) return;
+  setAutoRepeat(true);
+  setAutoRepeatDelay(kRepeatDelayMs);
+  setAutoRepeatInterval(kRepeatIntervalMs);
 }
 
 void KeyView::Show(const QString& caption) {
@@ -109,6 +117,7 @@ bool KeyView::event(QEvent* event) {
 }
 
 void KeyView::mousePressEvent(QMouseEvent* event) {
+  hasRepeated_ = false;
   isTouched_ = event->source() != Qt::MouseEventNotSynthesized;
   QAbstractButton::mousePressEvent(event);
 }
@@ -116,10 +125,34 @@ void KeyView::mousePressEvent(QMouseEvent* event) {
 void KeyView::keyPressEvent(QKeyEvent* event) {
   // Space presses the key. All else, arrows and Enter included, is for the sheet or the screen.
   if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Select) {
+    if (!event->isAutoRepeat()) hasRepeated_ = false;
     QAbstractButton::keyPressEvent(event);
   } else {
     event->ignore();
   }
+}
+
+void KeyView::keyReleaseEvent(QKeyEvent* event) {
+  if (!event->isAutoRepeat() && EndsRepeating()) return;
+  QAbstractButton::keyReleaseEvent(event);
+}
+
+void KeyView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && EndsRepeating()) return;
+  QAbstractButton::mouseReleaseEvent(event);
+}
+
+/// Lets the key go without the work of a tap, if it has done its work while it was held.
+bool KeyView::EndsRepeating() {
+  if (!std::exchange(hasRepeated_, false) || !isDown()) return false;
+  setDown(false);
+  return true;
+}
+
+void KeyView::timerEvent(QTimerEvent* event) {
+  // The button's own timer works only while it is down, not beside it.
+  if (spot_.repeats && isDown()) hasRepeated_ = true;
+  QAbstractButton::timerEvent(event);
 }
 
 }  // namespace kav

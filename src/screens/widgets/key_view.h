@@ -16,7 +16,8 @@ struct KeySpot {
   QRect place;  ///< in dialog units
   KeyColour colour;
   std::vector<FaceText> captions;  ///< all that it may ever show
-  std::string_view shortcut = {};    ///< such as "Alt+D"; empty for none
+  std::string_view shortcut = {};  ///< such as "Alt+D"; empty for none
+  bool repeats = false;            ///< goes on working while it is held
 };
 
 /// What keys have written on them.
@@ -46,12 +47,17 @@ class KeyView final : public QAbstractButton {
  private:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
+  bool EndsRepeating();
 
   KeySpot spot_;
   FaceText CaptionNow() const;
 
+  bool hasRepeated_ = false;  ///< since it was pressed
   int textHeight_ = 1;
   KeyLettering lettering_ = KeyLettering::Captions;
   bool isTouched_ = false;  ///< by a finger, which rests on no key

@@ -11,6 +11,7 @@
 #include "line/line_texts.h"
 #include "line/past_lines_model.h"
 #include "line/past_lines_texts.h"
+#include "screens/widgets/app_texts.h"
 #include "screens/widgets/field_door.h"
 #include "screens/widgets/offer_strip.h"
 #include "screens/widgets/qt_text.h"
@@ -41,7 +42,8 @@ LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, Past
                  },
              .uncover = [this] { Uncover(); },
              .cover = [this] { Cover(); },
-             .leave = [this] { line_->setFocus(); }}) {
+             .leave = [this] { line_->setFocus(); }}),
+      uses_(new ResultUses(result_, [this] { return CopiedResult(); })) {
   line_->setAccessibleName(ToQt(kExpressionName));
   line_->setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
   line_->installEventFilter(this);
@@ -111,6 +113,7 @@ bool LineScreen::eventFilter(QObject* watched, QEvent* event) {
     // Before the line, which would write the "=" and uses Enter and Esc itself. It would also write
     // the letter of Alt and a letter, if that key is disabled.
     const auto& pressed = *static_cast<QKeyEvent*>(event);
+    if (pressed.matches(QKeySequence::Copy) && !line_->hasSelectedText()) return uses_->Copy();
     return PressKeyOf(pressed) || pressed.modifiers() == Qt::AltModifier;
   }
   if (event->type() == QEvent::InputMethod &&
@@ -175,6 +178,33 @@ void LineScreen::ShowFault(std::optional<Selection> place,
 
 void LineScreen::ShowLive() {
   line_->ShowLive(LiveResult(TextOf(*line_)));
+}
+
+void LineScreen::CopyLine() {
+  if (const auto text = CopiedLine()) CopyText(*text);
+}
+
+ResultEntries LineScreen::EntriesOfResult() {
+  return {{kCopyResultEntry,
+           [this] { uses_->Copy(); },
+           {},
+           [this] { return CopiedResult().has_value(); }},
+          {kCopyLineEntry, [this] { CopyLine(); },
+           QKeySequence(QLatin1String(ShortcutOf(ScreenCommand::CopyLine))),
+           [this] { return CopiedLine().has_value(); }}};
+}
+
+void LineScreen::ShowMemory(const std::u16string& value) {
+  if (memory_ == nullptr) {
+    if (value.empty()) return;
+    memory_ = new MemoryMark(result_);
+  }
+  memory_->Show(value);
+}
+
+void LineScreen::LayOutResult(const QRect& place) {
+  result_->LayOut(place);
+  if (memory_ != nullptr) memory_->LayOut();
 }
 
 QLineEdit& LineScreen::Edited() const {

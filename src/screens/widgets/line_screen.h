@@ -12,6 +12,7 @@
 #include "screens/widgets/key_screen.h"
 #include "screens/widgets/line_view.h"
 #include "screens/widgets/past_side.h"
+#include "screens/widgets/result_uses.h"
 #include "settings/past_lines.h"
 
 namespace kav {
@@ -21,7 +22,8 @@ class OfferStrip;
 /// Enter, Esc and "=" of the keyboard press keys of the screen, whatever has the focus. Everything
 /// else that is typed goes to the expression line, unless the focused widget uses it. The Edit menu
 /// works on the result if some of it is selected, else on the line. Up walks from the ends of the
-/// line through earlier ones, Down back, and then into the keys. Ctrl+H shows and hides the history.
+/// line through earlier ones, Down back, and then into the keys. Ctrl+H shows and hides the
+/// history.
 class LineScreen : public KeyScreen {
  public:
   LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, PastRoom room,
@@ -68,6 +70,15 @@ class LineScreen : public KeyScreen {
   /// The user took the offer.
   virtual void OnMend() {}
 
+  /// The result in plain digits, and the line with it; nullopt if there is none to copy.
+  virtual std::optional<std::u16string> CopiedResult() const = 0;
+  virtual std::optional<std::u16string> CopiedLine() const = 0;
+  void CopyLine() override;
+  ResultEntries EntriesOfResult() override;
+  /// Marks that the memory register is not 0: shows `value`, unless it is empty.
+  void ShowMemory(const std::u16string& value);
+  void LayOutResult(const QRect& place);
+
   // The keys that the keyboard presses.
   virtual void OnEquals() = 0;
   virtual void OnClear() = 0;
@@ -90,6 +101,8 @@ class LineScreen : public KeyScreen {
   std::optional<std::u16string> offered_;
   PastRoom room_;
   PastSide past_;
+  ResultUses* uses_;
+  MemoryMark* memory_ = nullptr;  ///< made when it is first shown
 };
 
 }  // namespace kav

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
+#include <utility>
 
 #include "common/number_text.h"
 #include "screens/widgets/look.h"
@@ -14,6 +15,8 @@ namespace {
 /// The share of a result line's height that its text takes, at most and at least.
 constexpr double kLargestText = 0.68;
 constexpr double kSmallestText = 0.3;
+/// Or at most so much, if the user wants large texts.
+constexpr double kLargestWanted = 0.8;
 
 /// As long as a line can be; beyond, widths in pixels leave the range that Qt lays text out in.
 constexpr int kLongestText = 1 << 20;
@@ -147,10 +150,16 @@ void ResultView::LayOut(const QRect& place) {
   FitText();
 }
 
+void ResultView::LeaveAtLeft(int pixels) {
+  if (std::exchange(atLeft_, pixels) != pixels && isVisible()) FitText();
+}
+
 void ResultView::FitText() {
-  const int most = static_cast<int>(height() * kLargestText);
+  const double share = TextShare();
+  const double wanted = std::min(kLargestText * share, kLargestWanted);
+  const int most = static_cast<int>(height() * wanted);
   const int least = static_cast<int>(height() * kSmallestText);
-  SetTextHeight(FittingPixels({{text(), width() - most}}, most, least));
+  SetTextHeight(FittingPixels({{text(), width() - most - atLeft_}}, most, std::min(least, most)));
   setCursorPosition(0);
 }
 

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <string>
 
+#include "engine/calc_modes.h"
 #include "line/expression_line.h"
 
 namespace kav {
@@ -18,6 +19,10 @@ class LineView : public QLineEdit {
   /// Letters are `pixels` high, or lower if the line would not fit the widget's present height.
   virtual void SetTextHeight(int pixels);
 
+  /// In which base its numbers are.
+  BaseMode Base() const { return base_; }
+  void SetBase(BaseMode base) { base_ = base; }
+
  protected:
   /// How thick the outline is that shows the focus.
   double FocusLine() const;
@@ -25,6 +30,9 @@ class LineView : public QLineEdit {
   void paintEvent(QPaintEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  BaseMode base_ = BaseMode::Decimal;
 };
 
 /// The text of the line, and the ends of its selection from left to right, whichever way it was
@@ -46,9 +54,13 @@ class ResultView final : public LineView {
 
   void Show(const std::u16string& text);
   void LayOut(const QRect& place);
+  /// Keeps a long text off what stands at the left.
+  void LeaveAtLeft(int pixels);
 
  private:
   void FitText();
+
+  int atLeft_ = 0;
 };
 
 }  // namespace kav

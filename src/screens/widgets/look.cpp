@@ -8,6 +8,10 @@ namespace kav {
 
 namespace {
 
+// Of the program, as its fonts are: widgets of all windows ask for them.
+double textShare = 1;
+double desktopTextShare = 1;
+
 /// The face that the keys are made for, if it is installed, else the one closest to it in shape and
 /// width.
 QString FaceName() {
@@ -86,8 +90,20 @@ QRect PortraitArea(QSize window) {
   return {(window.width() - width) / 2, (window.height() - height) / 2, width, height};
 }
 
+double TextShare() {
+  return textShare * desktopTextShare;
+}
+
+void SetTextShare(double share) {
+  textShare = share;
+}
+
+void SetDesktopTextShare(double share) {
+  desktopTextShare = share;
+}
+
 int TextPixels(int height) {
-  return qRound(height * 0.036);
+  return qRound(height * 0.036 * TextShare());
 }
 
 QRect DialogUnits::Pixels(const QRect& units) const {

@@ -55,6 +55,13 @@ inline constexpr QSize kSmallestWindow(180, 240);
 /// centred column.
 QRect PortraitArea(QSize window);
 
+/// How much larger than usual the texts of all windows are to be where they have room: what the
+/// user wants of a window of a size, and of the desktop. Windows take a new share when they are
+/// laid out the next time.
+double TextShare();
+void SetTextShare(double share);
+void SetDesktopTextShare(double share);
+
 /// The height in pixels of the text of menus and dialogs, if the portrait area is `height` pixels
 /// high.
 int TextPixels(int height);

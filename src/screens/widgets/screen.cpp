@@ -5,7 +5,10 @@
 #include <QMenu>
 #include <QPainter>
 #include <QShortcut>
+#include <QWheelEvent>
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 #include "screens/widgets/access_view.h"
@@ -15,6 +18,7 @@
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/pop_up.h"
 #include "screens/widgets/qt_text.h"
+#include "settings/keys.h"
 
 namespace kav {
 namespace {
@@ -133,6 +137,14 @@ void Screen::Obey(ScreenCommand command) {
       return setWindowState(windowState() ^ Qt::WindowFullScreen);
     case ScreenCommand::Exit:
       return EndProgram();
+    case ScreenCommand::CopyLine:
+      return CopyLine();
+    case ScreenCommand::LargerText:
+      return frame_.ScaleText(TextStep::Larger);
+    case ScreenCommand::SmallerText:
+      return frame_.ScaleText(TextStep::Smaller);
+    case ScreenCommand::UsualText:
+      return frame_.ScaleText(TextStep::Usual);
     default:
       break;
   }
@@ -183,11 +195,13 @@ void Screen::AddFileMenu(const FileCommands& commands) {
 
 void Screen::AddEditMenu(const EditHooks& hooks) {
   std::vector<MenuEntry> entries;
-  entries.reserve(kEditRows.size() + hooks.more.size());
+  entries.reserve(kEditRows.size() + hooks.results.size() + hooks.more.size());
   for (const EditRow& row : kEditRows) {
     entries.push_back(
         {row.text, [edit = hooks.edit, command = row.command] { edit(command); }, row.shortcut,
          [can = hooks.canEdit, command = row.command] { return can(command); }, row.tip});
+    if (row.command != EditCommand::Copy) continue;
+    entries.insert(entries.end(), hooks.results.begin(), hooks.results.end());
   }
   entries.insert(entries.end(), hooks.more.begin(), hooks.more.end());
   AddMenu(kEditMenu, entries);
@@ -220,11 +234,33 @@ void Screen::Dress(QMenu* menu) {
   menu->setFont(menuBar_->font());
 }
 
+void Screen::changeEvent(QEvent* event) {
+  // Texts of another size than the usual have another share of a window that fills the desktop.
+  const bool mayDiffer = frame_.Store().Get(kTextScale) != kUsualTextScale;
+  if (event->type() == QEvent::WindowStateChange && mayDiffer) LayOutAll();
+  QWidget::changeEvent(event);
+}
+
+void Screen::wheelEvent(QWheelEvent* event) {
+  if (event->modifiers() != Qt::ControlModifier) return QWidget::wheelEvent(event);
+  turned_ += event->angleDelta().y();
+  const int steps = turned_ / QWheelEvent::DefaultDeltasPerStep;
+  turned_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+  for (int i = 0; i < std::abs(steps); ++i) {
+    frame_.ScaleText(steps > 0 ? TextStep::Larger : TextStep::Smaller);
+  }
+}
+
 void Screen::resizeEvent(QResizeEvent*) {
   LayOutAll();
 }
 
 void Screen::LayOutAll() {
+  const double scale = TextScaleFromSetting(frame_.Store().Get(kTextScale));
+  // A window that cannot grow has the texts grow in it.
+  const bool isAtItsOwnSize = !isMaximized() && !isFullScreen();
+  const int grown = isAtItsOwnSize ? frame_.Store().Get(kWindowScale) : kUsualTextScale;
+  SetTextShare(scale / std::clamp(grown, kLeastTextScale, kMostTextScale));
   const QRect area = Area();
   int text = TextPixels(area.height());
   menuBar_->setFont(ScreenFont(text));

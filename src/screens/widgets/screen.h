@@ -41,10 +41,14 @@ struct FileCommands {
 /// What the entries of the Edit menu do.
 enum class EditCommand { Undo, Redo, Cut, Copy, Paste, SelectAll };
 
+/// The entries of the Edit menu of a screen with a result, which stand behind "Copy".
+using ResultEntries = std::vector<MenuEntry>;
+
 struct EditHooks {
   std::function<void(EditCommand)> edit;
   std::function<bool(EditCommand)> canEdit;  ///< asked each time the menu opens
   std::vector<MenuEntry> more = {};
+  ResultEntries results = {};
 };
 
 /// Carries the command out on a line, and whether that would change anything.
@@ -67,16 +71,18 @@ class Screen : public QWidget, public GuideCaller {
     return MayLeave(reason) && (reason != LeaveReason::Ending || frame_.MayEnd(this));
   }
 
+  /// Places everything, as after a change of the window's size: for texts of another size.
+  void LayOutAll();
+
   void OpenGuide(QWidget* window, std::optional<GuidePage> page) override;
 
  protected:
   /// The part of the window that the screen fills, its menu bar included.
   virtual QRect Area() const { return PortraitArea(size()); }
+  /// Copies the line and its result, on a screen that has them.
+  virtual void CopyLine() {}
   /// Called whenever the body has a new size: places everything on it.
   virtual void LayOut(const DialogUnits& units) = 0;
-
-  /// Places everything, as after a change of the window's size.
-  void LayOutAll();
 
   /// No menu if there are no entries.
   void AddMenu(std::u16string_view title, const std::vector<MenuEntry>& entries);
@@ -97,6 +103,8 @@ class Screen : public QWidget, public GuideCaller {
   virtual GuidePage Page() const { return GuidePage::Scientific; }
 
   void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
@@ -115,6 +123,7 @@ class Screen : public QWidget, public GuideCaller {
   BottomMenuBar* menuBar_;
   std::function<void()> config_;
   std::vector<ScreenChoice> others_;
+  int turned_ = 0;  ///< of the wheel, towards the next step of the texts' size
 };
 
 }  // namespace kav
