@@ -64,5 +64,27 @@ TEST(WindowPlace, FirstWindowsAreInTheMiddleAndNeverLargerThanTheDesktop) {
   EXPECT_EQ(FirstPlace({100, 0, 1360, 320}), QRect(600, 0, 360, 320));
 }
 
+TEST(WindowPlace, AWindowGrowsInItsShapeAsFarAsTheDesktopGoes) {
+  struct Row {
+    QSize first;
+    int percent;
+    QSize grown;
+    int taken;
+  };
+  const QSize desktop(1000, 1000);
+  const std::vector<Row> rows{
+      {{360, 560}, 100, {360, 560}, 100},   {{360, 560}, 150, {540, 840}, 150},
+      {{360, 560}, 50, {180, 280}, 50},     {{400, 800}, 200, {500, 1000}, 125},  // no higher
+      {{800, 400}, 200, {1000, 500}, 125},                                        // no wider
+      {{1200, 900}, 150, {1200, 900}, 100},  // wider than the desktop already
+      {{240, 320}, 50, {180, 240}, 75},      // the smallest there is
+  };
+  for (const Row& row : rows) {
+    const GrownSize grown = Grown(row.first, row.percent, desktop);
+    EXPECT_EQ(grown.size, row.grown) << row.first.width() << ' ' << row.percent;
+    EXPECT_EQ(grown.percent, row.taken) << row.first.width() << ' ' << row.percent;
+  }
+}
+
 }  // namespace
 }  // namespace kav::window_place_test

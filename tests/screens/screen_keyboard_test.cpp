@@ -319,12 +319,16 @@ TEST_F(ScreenKeyboardTest, TheEditMenuEnablesWhatItCanDo) {
     }
     return texts;
   };
-  EXPECT_EQ(enabled(), (Texts{u"&Paste", u"Select &All", u"&History"}));
+  EXPECT_EQ(enabled(), (Texts{u"Copy R&esult", u"&Paste", u"Select &All", u"&History"}));
   Type("1");
-  EXPECT_EQ(enabled(), (Texts{u"&Undo", u"&Paste", u"Select &All", u"&History"}));
-  Expression(*dlg_).selectAll();
   EXPECT_EQ(enabled(),
-            (Texts{u"&Undo", u"Cu&t", u"&Copy", u"&Paste", u"Select &All", u"&History"}));
+            (Texts{u"&Undo", u"Copy R&esult", u"&Paste", u"Select &All", u"&History"}));
+  Expression(*dlg_).selectAll();
+  EXPECT_EQ(enabled(), (Texts{u"&Undo", u"Cu&t", u"&Copy", u"Copy R&esult", u"&Paste",
+                              u"Select &All", u"&History"}));
+  Type("1=");
+  EXPECT_EQ(enabled(), (Texts{u"&Undo", u"Cu&t", u"&Copy", u"Copy R&esult",
+                              u"Copy &Line and Result", u"&Paste", u"Select &All", u"&History"}));
 }
 
 TEST_F(ScreenKeyboardTest, TheResultIsSelectedAndCopied) {

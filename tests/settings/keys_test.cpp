@@ -26,6 +26,8 @@ const std::vector<IntegerRow> kIntegers{
     {kDisplayType, "Config", "Display Type", 3},
     {kPrecision, "Config", "Precision", 7},
     {kLiveResult, "Config", "Live Result", 1},
+    {kTextScale, "Config", "Text Scale", 100},
+    {kWindowScale, "Config", "Window Scale", 100},
     {kCalHistoryCount, "History", "CalHistoryCount", 0},
     {kCalMHistoryCount, "MHistory", "CalMHistoryCount", 0},
     {kGrapHistoryCount, "History", "GrapHistoryCount", 0},

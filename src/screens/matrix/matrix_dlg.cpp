@@ -106,16 +106,19 @@ void CMatrixDlg::ShowMatrix() {
     tabs_->setCurrentIndex(model_.Shown());
   }
   grid_.Show();
+  // Longer texts may need more of a wide window.
+  if (isVisible() && grid_.NeedsOtherPlace(size())) Arrange();
 }
 
 QRect CMatrixDlg::Area() const {
-  return IsWideForMatrices(ScreenPart().size()) ? ScreenPart() : KeyScreenOf::Area();
+  return IsWiderThanUpright(ScreenPart().size()) ? ScreenPart() : KeyScreenOf::Area();
 }
 
 void CMatrixDlg::LayOut(const DialogUnits& units) {
   const QRect body = units.Pixels(QRect(0, 0, kScreenWidth, kScreenHeight));
+  const bool isUpright = !IsWiderThanUpright(ScreenPart().size());
   const MatrixPlaces places =
-      IsWideForMatrices(ScreenPart().size()) ? WidePlaces(body) : UprightPlaces(units);
+      isUpright ? UprightPlaces(units) : PlacesIn(ScreenPart().size(), body, grid_.Needs());
   Keys().setGeometry(rect());
   Keys().LayOut(places.keys);
   Line().setGeometry(places.line);

@@ -2,13 +2,17 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFontMetricsF>
 #include <QTimer>
 #include <QToolTip>
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
 
+#include "common/number_text.h"
 #include "display/own_spelling.h"
 #include "matrix/cell_table_text.h"
 #include "matrix/matrix_texts.h"
@@ -102,6 +106,9 @@ void MatrixGridView::Show() {
     Rebuild();
     WriteWidths();
     Scale();
+  } else if (places_.showsTexts) {
+    WriteWidths();
+    Scale();
   }
   WriteWidths();
   grid_->viewport()->update();
@@ -136,16 +143,54 @@ GridContent MatrixGridView::ContentOf(GridCell cell) const {
   return {model_.ShownMatrix().At(row, column), {alignment, model_.IsMarked(row, column)}};
 }
 
+int MatrixGridView::ShownWidth(int column) const {
+  const auto at = static_cast<std::size_t>(column);
+  return model_.Widths()[at] + grown_[at];
+}
+
 void MatrixGridView::WriteWidths() {
   for (int column = 0; column < grid_->Model().ColumnCount(); ++column) {
-    grid_->SetColumnWidth(column, model_.Widths()[static_cast<std::size_t>(column)]);
+    grid_->SetColumnWidth(column, ShownWidth(column));
   }
+}
+
+GridNeeds MatrixGridView::Needs() const {
+  const int columns = model_.ShownMatrix().columns;
+  GridNeeds needs{kHeaderColumnWidth, kHeaderColumnWidth + columns * model_.NewColumnWidth()};
+  for (int column = 0; column < columns; ++column) {
+    needs.texts +=
+        std::max(model_.Widths()[static_cast<std::size_t>(column + kHeaders)], NeededWidth(column));
+  }
+  return needs;
+}
+
+/// The same at any scale, other than the grid's own, whose letters have whole pixels.
+int MatrixGridView::NeededWidth(int column) const {
+  constexpr int kFine = 10;
+  constexpr std::size_t kLongestMeasured = 2000;
+  const QFontMetricsF metrics(ScreenFont(qRound(kFine * kCellText)));
+  const MatrixValue& matrix = model_.ShownMatrix();
+  double widest = 0;
+  for (int row = 0; row < matrix.rows; ++row) {
+    const std::u16string text = Shortened(matrix.At(row, column), kLongestMeasured);
+    widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdU16String(text)));
+  }
+  constexpr double kAround = 0.6;  // of the letters' height: margins and line
+  return static_cast<int>(std::ceil(widest / kFine + kAround * kCellText));
+}
+
+bool MatrixGridView::NeedsOtherPlace(QSize window) const {
+  if (!places_.showsTexts || !IsWideForMatrices(window)) return false;
+  return PlacesIn(window, places_.body, Needs()).grid != places_.grid;
 }
 
 void MatrixGridView::TakeWidths() {
   ColumnWidths widths = model_.Widths();
   for (int column = 0; column < grid_->Model().ColumnCount(); ++column) {
+    // A column that is shown wider than it is has not got that width from the user.
+    if (grid_->GetColumnWidth(column) == ShownWidth(column)) continue;
     widths[static_cast<std::size_t>(column)] = grid_->GetColumnWidth(column);
+    grown_[static_cast<std::size_t>(column)] = 0;
   }
   model_.SetColumnWidths(widths);
 }
@@ -171,7 +216,13 @@ void MatrixGridView::LayOut(const MatrixPlaces& places) {
 void MatrixGridView::Scale() {
   const MatrixValue& matrix = model_.ShownMatrix();
   const double scale = FittingScale(places_, matrix.rows, matrix.columns, model_.NewColumnWidth());
-  if (scale != grid_->Scale()) grid_->SetScale(scale, qRound(kCellText * scale));
+  if (places_.showsTexts) {
+    ScaleToTexts();
+  } else {
+    grown_ = {};
+    WriteWidths();
+    if (scale != grid_->Scale()) grid_->SetScale(scale, qRound(kCellText * scale));
+  }
   for (int column = 0; column < grid_->Model().ColumnCount(); ++column) {
     const int width = model_.Widths()[static_cast<std::size_t>(column)];
     int& kept = Fitted()[static_cast<std::size_t>(column)];
@@ -182,7 +233,57 @@ void MatrixGridView::Scale() {
   TakeWidths();
 }
 
+/// Where there is room beside an upright screen, columns of the usual width are as wide as their
+/// texts, and letters as small as it takes to see all of them.
+void MatrixGridView::ScaleToTexts() {
+  const MatrixValue& matrix = model_.ShownMatrix();
+  const double fitting = ScaleOfTexts(places_, matrix.rows, std::max(Needs().texts, Needs().usual));
+  // Letters have whole pixels, and so need a little more or less than their share.
+  constexpr int kMostTries = 6;
+  constexpr double kLess = 0.98;
+  double scale = fitting;
+  for (int i = 0; i < kMostTries; ++i) {
+    if (scale != grid_->Scale()) grid_->SetScale(scale, qRound(kCellText * scale));
+    const bool fits = WidthOfTexts() * scale <= places_.grid.width();
+    if (fits || Needs().texts * fitting > places_.grid.width() + 1) break;
+    scale *= kLess;
+  }
+  GrowColumns();
+}
+
+/// With the grid's own letters.
+int MatrixGridView::WidthOfTexts() const {
+  int width = kHeaderColumnWidth;
+  for (int column = kHeaders; column < grid_->Model().ColumnCount(); ++column) {
+    const int own = model_.Widths()[static_cast<std::size_t>(column)];
+    width += std::max(own, grid_->FittingWidth(column));
+  }
+  return width;
+}
+
+void MatrixGridView::GrowColumns() {
+  const int columns = model_.ShownMatrix().columns;
+  ColumnWidths wanted{};
+  int all = kHeaderColumnWidth;
+  int more = 0;
+  for (int column = kHeaders; column < columns + kHeaders; ++column) {
+    const auto at = static_cast<std::size_t>(column);
+    const int width = model_.Widths()[at];
+    all += width;
+    if (width == model_.NewColumnWidth())
+      wanted[at] = std::max(grid_->FittingWidth(column) - width, 0);
+    more += wanted[at];
+  }
+  const int room = std::max(static_cast<int>(places_.grid.width() / grid_->Scale()) - all, 0);
+  for (int& column : wanted) {
+    if (more > room) column = column * room / more;
+  }
+  grown_ = wanted;
+  WriteWidths();
+}
+
 void MatrixGridView::FitColumns() {
+  grown_ = {};
   grid_->AutoSizeColumns();
   TakeWidths();
   Fitted() = model_.Widths();

@@ -38,6 +38,10 @@ class MatrixGridView final {
   /// To be called when the model may show something else.
   void Show();
   void LayOut(const MatrixPlaces& places);
+  /// What the shown matrix needs.
+  GridNeeds Needs() const;
+  /// Whether in a window of that size it should stand elsewhere than it does.
+  bool NeedsOtherPlace(QSize window) const;
   void FitColumns();
   /// The whole text of a cell; whether the mouse is at one.
   bool ShowHint(const QHelpEvent& event);
@@ -71,6 +75,11 @@ class MatrixGridView final {
   void TakeWidths();
   void TakeWidth(int column, int width);
   void Scale();
+  void ScaleToTexts();
+  void GrowColumns();
+  int ShownWidth(int column) const;
+  int NeededWidth(int column) const;
+  int WidthOfTexts() const;
   ColumnWidths& Fitted();
 
   std::optional<CellRange> SelectedCells() const;
@@ -86,6 +95,8 @@ class MatrixGridView final {
   MatrixPlaces places_;
   /// The widths that columns got to fit their texts; 0 for others.
   std::array<ColumnWidths, kMatrixCount> fitted_{};
+  /// How much wider columns are shown than they are, to show their texts.
+  ColumnWidths grown_{};
   std::optional<int> inGrid_;  ///< the matrix that the grid was built for
   std::optional<RefusedEdit> refused_;
   std::u16string declined_;  ///< a cell's text whose comma is to stay as it is
