@@ -24,6 +24,7 @@
 #include "screens/statistics/one_variable_dlg.h"
 #include "screens/statistics/two_variable_dlg.h"
 #include "screens/widgets/app_texts.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
 #include "screens/widgets/screen.h"
@@ -112,7 +113,8 @@ FrameWindow::FrameWindow(SettingsStore& store, std::span<const ScreenKind> scree
       mode_(StoredMode(store)) {
   store_.Set(kVersion, kVersionNumber);
   setWindowTitle(ToQt(kApplicationName));
-  setPalette(ScreenPalette());
+  UseColours(LoadLookSettings(store_).colours);
+  Wear(*this, Attire::Window);
   TakePlace(*this, {place_.rect});
   // While the desktop is still bringing the frame up, there is time to make the first screen.
   QMetaObject::invokeMethod(this, &FrameWindow::PrepareScreen, Qt::QueuedConnection);

@@ -42,7 +42,10 @@ std::u16string Samples(const DisplayFormat& format) {
 }  // namespace
 
 DisplaySettingsModel::DisplaySettingsModel(const SettingsStore& store, DisplayPage first)
-    : kept_(LoadDisplaySettings(store)), page_(first), type_(KeptFormat().type) {
+    : kept_(LoadDisplaySettings(store)),
+      look_(LoadLookSettings(store)),
+      page_(first),
+      type_(KeptFormat().type) {
   FillBoxes();
 }
 
@@ -67,6 +70,7 @@ std::optional<DisplayRefusal> DisplaySettingsModel::TurnTo(DisplayPage page) {
 std::optional<DisplayRefusal> DisplaySettingsModel::Accept(SettingsStore& store) {
   if (auto refusal = TakeOver()) return refusal;
   StoreDisplaySettings(kept_, store);
+  StoreLookSettings(look_, store);
   return std::nullopt;
 }
 

@@ -8,6 +8,7 @@
 
 #include "common/refusal.h"
 #include "display/display_settings.h"
+#include "display/look_settings.h"
 
 namespace kav {
 
@@ -28,6 +29,8 @@ class DisplaySettingsModel {
   std::u16string_view GroupCaption() const;
   /// Whether the defaults of new matrices and the recommended type are shown.
   bool ShowsMatrixParts() const { return page_ == DisplayPage::Matrix; }
+  /// Whether the look of all windows is shown: where the other page has the defaults of matrices.
+  bool ShowsLook() const { return page_ == DisplayPage::Normal; }
 
   // The boxes, as the user left them.
   DisplayType Type() const { return type_; }
@@ -36,6 +39,7 @@ class DisplaySettingsModel {
   int MatrixRows() const { return kept_.matrixRows; }
   int MatrixColumns() const { return kept_.matrixColumns; }
   CellAlignment Alignment() const { return kept_.alignment; }
+  const LookSettings& Look() const { return look_; }
   /// Whether the precision box is enabled.
   bool TakesPrecision() const { return UsesPrecision(type_); }
 
@@ -46,6 +50,8 @@ class DisplaySettingsModel {
   void ChooseMatrixRows(int rows) { kept_.matrixRows = rows; }
   void ChooseMatrixColumns(int columns) { kept_.matrixColumns = columns; }
   void ChooseAlignment(CellAlignment alignment) { kept_.alignment = alignment; }
+
+  void ChooseLook(const LookSettings& look) { look_ = look; }
 
   /// A large and a small number, a line each, as the type and the precision in the boxes show them;
   /// if the precision box holds none, what it may hold.
@@ -66,6 +72,7 @@ class DisplaySettingsModel {
   void FillBoxes();
 
   DisplaySettings kept_;
+  LookSettings look_;
   DisplayPage page_;
   DisplayType type_;
   std::u16string precision_;

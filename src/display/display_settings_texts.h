@@ -32,6 +32,15 @@ inline constexpr std::u16string_view kSizeSign = u"X";
 inline constexpr std::u16string_view kAlignmentCaption = u"Text Align :";
 inline constexpr std::array<std::u16string_view, 2> kAlignments{u"Left", u"Right"};
 
+// The look of all windows.
+inline constexpr std::u16string_view kColoursCaption = u"Colours :";
+/// By the numbers of the choices.
+inline constexpr std::array<std::u16string_view, 4> kColourChoiceNames{u"System", u"Light", u"Dark",
+                                                                       u"High Contrast"};
+inline constexpr std::u16string_view kLiveResultCaption = u"Live Result";
+inline constexpr std::u16string_view kLiveResultMeaning =
+    u"Shows the result of a line while it is typed.";
+
 // What a screen reader calls the boxes that have no caption of their own.
 inline constexpr std::u16string_view kDefaultRowsName = u"Default Matrix Rows";
 inline constexpr std::u16string_view kDefaultColumnsName = u"Default Matrix Columns";

@@ -268,5 +268,27 @@ TEST_F(DisplaySettingsModelTest, TheExampleIsThatOfThePage) {
   EXPECT_EQ(model.Example(), u"1234567.891\n0.000123456789");
 }
 
+TEST_F(DisplaySettingsModelTest, TheLookStandsOnTheNormalPageAndIsStoredWithAllElse) {
+  const auto stored = [this](const char* name) {
+    return store.Get(SettingKey<std::int32_t>{"Config", name, -1});
+  };
+  EXPECT_TRUE(model.ShowsLook());
+  EXPECT_EQ(model.Look().colours, ColourChoice::System);
+  EXPECT_TRUE(model.Look().hasLiveResult);
+  model.ChooseLook({ColourChoice::Dark, false});
+  EXPECT_FALSE(model.TurnTo(DisplayPage::Matrix));
+  EXPECT_FALSE(model.ShowsLook());
+  EXPECT_EQ(stored("Colour Scheme"), -1);
+  model.TypeColumnWidth(u"9");
+  EXPECT_TRUE(model.Accept(store));
+  EXPECT_EQ(stored("Colour Scheme"), -1) << "nothing is stored of what was refused";
+  EXPECT_FALSE(model.Accept(store));
+  EXPECT_EQ(stored("Colour Scheme"), 2);
+  EXPECT_EQ(stored("Live Result"), 0);
+  const DisplaySettingsModel again(store, DisplayPage::Normal);
+  EXPECT_EQ(again.Look().colours, ColourChoice::Dark);
+  EXPECT_FALSE(again.Look().hasLiveResult);
+}
+
 }  // namespace
 }  // namespace kav::display_settings_model_test

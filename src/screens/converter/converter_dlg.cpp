@@ -11,6 +11,7 @@
 #include "screens/converter/choice_view.h"
 #include "screens/converter/user_conversion_dlg.h"
 #include "screens/memory/memory_variables_dlg.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
 #include "screens/widgets/field_door.h"
@@ -20,12 +21,6 @@
 
 namespace kav {
 namespace {
-
-void SetBase(QWidget& field, const QColor& colour) {
-  QPalette colours = field.palette();
-  colours.setColor(QPalette::Base, colour);
-  field.setPalette(colours);
-}
 
 class CConverterDlg final : public Dialog {
  public:
@@ -67,7 +62,7 @@ CConverterDlg::CConverterDlg(QWidget* parent, SettingsStore& store, const Conver
   value_->setAccessibleName(ToQt(kInputValueName));
   result_->setReadOnly(true);
   result_->setAccessibleName(ToQt(kConverterResultName));
-  SetBase(*result_, QColor(255, 255, 192));
+  Wear(*result_, Attire::Result);
   swap_->setAccessibleName(ToQt(kSwapName));
   LayOut();
   Connect();
@@ -155,7 +150,7 @@ void CConverterDlg::RefreshValue() {
   const QString text = ToQt(model_.Text());
   if (value_->text() != text) value_->setText(text);
   const auto refusal = model_.TextRefusal();
-  SetBase(*value_, refusal ? QColor(255, 208, 208) : QColor(Qt::white));
+  Wear(*value_, refusal ? Attire::Refused : Attire::Refusable);
   value_->setAccessibleDescription(refusal ? ToQt(*refusal) : QString());
 }
 

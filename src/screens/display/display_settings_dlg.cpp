@@ -11,7 +11,9 @@
 
 #include "display/display_settings_texts.h"
 #include "screens/display/display_type_view.h"
+#include "screens/display/look_view.h"
 #include "screens/display/matrix_defaults_view.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
 #include "screens/widgets/field_door.h"
@@ -53,6 +55,7 @@ class CDisplaySettingsDlg final : public Dialog {
   QLabel* meaning_ = RetainingSize(new QLabel(ToQt(kRecommendedMeaning)));
   FittingText<QLabel>* example_ = new FittingText<QLabel>(0);
   MatrixDefaultsView* matrixParts_ = RetainingSize(new MatrixDefaultsView(model_));
+  LookView* look_ = new LookView(model_);
   QTabBar* pages_ = new QTabBar;
   DialogButton* accept_ = new DialogButton(kOkCaption);
   DialogButton* cancel_ = new DialogButton(kCancelCaption);
@@ -63,7 +66,11 @@ CDisplaySettingsDlg::CDisplaySettingsDlg(QWidget* parent, SettingsStore& store, 
   SetPage(GuidePage::Settings);
   auto* all = new QVBoxLayout(this);
   all->addWidget(NewGroup());
-  all->addWidget(matrixParts_);
+  // In one place, of which each page shows its own.
+  auto* own = new QGridLayout;
+  own->addWidget(matrixParts_, 0, 0);
+  own->addWidget(look_, 0, 0);
+  all->addLayout(own);
   all->addStretch(1);
   all->addLayout(NewBottomRow());
   Connect();
@@ -134,6 +141,8 @@ void CDisplaySettingsDlg::Refresh() {
   precision_->setEnabled(model_.TakesPrecision());
   example_->Write(ToQt(model_.Example()));
   matrixParts_->Refresh();
+  look_->Refresh();
+  look_->setVisible(model_.ShowsLook());
   for (QWidget* part :
        std::initializer_list<QWidget*>{matrixParts_, &types_->RecommendedMark(), meaning_}) {
     part->setVisible(model_.ShowsMatrixParts());
@@ -154,9 +163,12 @@ void CDisplaySettingsDlg::OnPage(int page) {
 void CDisplaySettingsDlg::OnAccept() {
   if (AsksFirst(*this, [this] { OnAccept(); })) return;
   const auto refusal = model_.Accept(store_);
-  if (!refusal) return accept();
-  Refresh();
-  ShowRefusal(*refusal);
+  if (refusal) {
+    Refresh();
+    return ShowRefusal(*refusal);
+  }
+  UseColours(model_.Look().colours);
+  accept();
 }
 
 void CDisplaySettingsDlg::ShowRefusal(const Refusal<DisplayField>& refusal) {

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 
 #include "display/display_settings_texts.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -24,9 +25,7 @@ class RowButton final : public QRadioButton {
 
 DisplayTypeView::DisplayTypeView()
     : buttons_(new QButtonGroup(this)), mark_(new QLabel(ToQt(kRecommendedMark))) {
-  QPalette colours;
-  colours.setColor(QPalette::Window, QColor(192, 255, 192));
-  setPalette(colours);
+  Wear(*this, Attire::Choices);
   setAutoFillBackground(true);
   auto* rows = new QGridLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);

@@ -6,6 +6,7 @@
 
 #include "common/number_text.h"
 #include "display/number_in_room.h"
+#include "screens/widgets/colour_scheme.h"
 
 namespace kav {
 namespace {
@@ -16,12 +17,6 @@ constexpr QChar kNoRoom(u'#');
 /// A longer text is shown as one that is no number.
 constexpr std::size_t kLongestNumber = 400;
 
-constexpr QColor kLine(200, 206, 213);
-constexpr QColor kMarkedPaper(255, 226, 214);
-constexpr QColor kMarkedText(165, 30, 0);
-constexpr QColor kSelectedPaper(204, 226, 244);
-constexpr QColor kSelectedHeader(187, 205, 222);
-
 int LineWidth(const GridLook& look) {
   return std::max(1, static_cast<int>(look.scale / 2));
 }
@@ -31,15 +26,15 @@ QColor HeaderPaper(GridCell cell, const GridLook& look) {
   const bool isOfColumn = cell.column >= selection.left && cell.column <= selection.right;
   const bool isOfRow = cell.row >= selection.top && cell.row <= selection.bottom;
   const bool isSelected = !selection.IsNone() && (isOfColumn || isOfRow);
-  return isSelected ? kSelectedHeader : look.colours.color(QPalette::Window);
+  return isSelected ? ColourNow(Colour::SelectedHeader) : look.colours.color(QPalette::Window);
 }
 
 QColor Paper(GridCell cell, const GridLook& look) {
   if (look.grid.IsFixed(cell)) return HeaderPaper(cell, look);
   // The focus cell keeps its own paper, so that it can be told from what is selected with it.
-  if (look.selection.Contains(cell) && cell != look.focus) return kSelectedPaper;
+  if (look.selection.Contains(cell) && cell != look.focus) return ColourNow(Colour::SelectedPaper);
   const bool isMarked = look.grid.GetItemFormat(cell.row, cell.column).isMarked;
-  return isMarked ? kMarkedPaper : look.colours.color(QPalette::Base);
+  return isMarked ? ColourNow(Colour::MarkedPaper) : look.colours.color(QPalette::Base);
 }
 
 /// What a cell with `room` pixels across shows of a text that is too long for it. Of a number it is
@@ -79,7 +74,7 @@ void PaintText(QPainter& painter, const QRect& area, GridCell cell, const GridLo
   if (text.empty() || room.width() <= 0) return;
   const QString shown = Fitting(painter.fontMetrics(), text, room.width());
   const bool isMarked = format.isMarked && !isHeader;
-  painter.setPen(isMarked ? kMarkedText : look.colours.color(QPalette::Text));
+  painter.setPen(isMarked ? ColourNow(Colour::MarkedText) : look.colours.color(QPalette::Text));
   painter.drawText(room, static_cast<int>(TextAlignment(format) | Qt::TextSingleLine), shown);
 }
 
@@ -112,7 +107,7 @@ Qt::Alignment TextAlignment(GridFormat format) {
 
 void PaintCell(QPainter& painter, const QRect& area, GridCell cell, const GridLook& look) {
   const QRect inside = area.adjusted(0, 0, -LineWidth(look), -LineWidth(look));
-  painter.fillRect(area, kLine);
+  painter.fillRect(area, ColourNow(Colour::GridLine));
   painter.fillRect(inside, Paper(cell, look));
   PaintText(painter, inside, cell, look);
   if (cell == look.focus && inside.isValid()) PaintFocus(painter, inside, look);

@@ -11,6 +11,7 @@
 
 #include "common/number_text.h"
 #include "screens/grid/grid_painter_view.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/look.h"
 
 namespace kav {
@@ -66,7 +67,7 @@ GridTable::GridTable(QWidget* parent, std::pmr::memory_resource* memory)
                findChild<QAbstractButton*>({}, Qt::FindDirectChildrenOnly)} {
   setLayoutDirection(Qt::LeftToRight);
   setFrameShape(QFrame::NoFrame);
-  setPalette(ScreenPalette());
+  Wear(*this, Attire::Window);
   setAttribute(Qt::WA_InputMethodEnabled, false);
   setShowGrid(false);
   setAutoScroll(false);

@@ -11,6 +11,7 @@
 #include "memory/constants_table.h"
 #include "memory/memory_texts.h"
 #include "screens/memory/constants_view.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
 #include "screens/widgets/look.h"
@@ -119,10 +120,7 @@ CConstantsDlg::CConstantsDlg(QWidget* parent, ConstantsModel& model)
   name_->setAccessibleName(ToQt(kConstantName));
   value_->setAccessibleName(ToQt(kConstantValue));
   value_->setReadOnly(true);
-  QPalette colours = palette();
-  colours.setColor(QPalette::Base, QColor(255, 255, 192));
-  colours.setColor(QPalette::Text, Qt::black);
-  value_->setPalette(colours);
+  Wear(*value_, Attire::Result);
   LayOut();
   Connect();
   Refresh();

@@ -10,6 +10,7 @@
 
 #include "plotter/plotter_texts.h"
 #include "screens/plotter/graph_painter_view.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -72,18 +73,23 @@ void GraphAreaView::FitArea() {
   Redraw();
 }
 
+void GraphAreaView::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) isCurrent_ = false;
+  QWidget::changeEvent(event);
+}
+
 void GraphAreaView::resizeEvent(QResizeEvent*) {
   FitArea();
 }
 
 void GraphAreaView::paintEvent(QPaintEvent*) {
   FitArea();  // the window may be on another display now, with another resolution
-  if (!std::exchange(isCurrent_, true)) DrawGraph(model_, picture_);
+  if (!std::exchange(isCurrent_, true)) DrawGraph(model_, picture_, SchemeNow());
   QPainter painter(this);
   painter.save();
   painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
   painter.drawImage(0, 0, picture_);
-  PaintShapes(painter, BuildMarker(model_), model_.Area());
+  PaintShapes(painter, BuildMarker(model_), model_.Area(), SchemeNow());
   painter.restore();
   if (drag_ && !drag_->isTap && !model_.Traces()) PaintBand(painter);
   if (hasFocus()) PaintFocus(painter);

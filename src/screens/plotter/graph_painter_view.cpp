@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QVarLengthArray>
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "screens/widgets/look.h"
@@ -30,7 +31,26 @@ constexpr double kNarrowestStroke = 1.5;
 // The time to paint a path grows faster than its length.
 constexpr qsizetype kSegmentsAtOnce = 8;
 
-QColor ColourOf(GraphColour colour) {
+struct GraphColourRow {
+  GraphColour light;  ///< as the picture names it
+  Colour what;
+};
+
+constexpr std::array kGraphColours{
+    GraphColourRow{graph_colour::kPaper, Colour::GraphPaper},
+    GraphColourRow{graph_colour::kInk, Colour::GraphInk},
+    GraphColourRow{graph_colour::kGrid, Colour::GraphGrid},
+    GraphColourRow{graph_colour::kAxis, Colour::GraphAxis},
+    GraphColourRow{graph_colour::kMarker, Colour::GraphMarker},
+    GraphColourRow{graph_colour::kCurves[0], Colour::FirstCurve},
+    GraphColourRow{graph_colour::kCurves[1], Colour::SecondCurve},
+    GraphColourRow{graph_colour::kCurves[2], Colour::ThirdCurve},
+};
+
+QColor ColourIn(ColourScheme scheme, GraphColour colour) {
+  for (const auto& [light, what] : kGraphColours) {
+    if (light == colour) return ColourIn(scheme, what);
+  }
   return QColor::fromRgb(QRgb(colour));
 }
 
@@ -50,8 +70,8 @@ int Pixels(double length) {
 /// Paints each shape that it is called with.
 class ShapePainter {
  public:
-  ShapePainter(QPainter& painter, const PlotArea& area)
-      : painter_(painter), area_(area), scale_(area.Scale()) {
+  ShapePainter(QPainter& painter, const PlotArea& area, ColourScheme scheme)
+      : painter_(painter), area_(area), scale_(area.Scale()), scheme_(scheme) {
     QFont font = ScreenFont(Pixels(kGraphTextHeight * area.TextScale()));
     // The coloured fringes of subpixels suit one screen only, and a saved picture is shown on any.
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
@@ -61,7 +81,7 @@ class ShapePainter {
   void operator()(const GraphFrame& frame) {
     const QRect area = RectOf(frame.area);
     const QRect within = area.adjusted(Line(), Line(), -Line(), -Line());
-    const QColor ink = ColourOf(graph_colour::kInk);
+    const QColor ink = Shown(graph_colour::kInk);
     for (const QRect& side : {QRect(area.topLeft(), QSize(area.width(), Line())),
                               QRect(area.left(), within.bottom() + 1, area.width(), Line()),
                               QRect(area.topLeft(), QSize(Line(), area.height())),
@@ -78,7 +98,7 @@ class ShapePainter {
     const QRect wide = line.width() > line.height()
                            ? line.adjusted(Line(), -before, -Line(), after)
                            : line.adjusted(-before, Line(), after, -Line());
-    painter_.fillRect(wide, ColourOf(rule.colour));
+    painter_.fillRect(wide, Shown(rule.colour));
   }
 
   void operator()(const GraphStroke& stroke) {
@@ -86,9 +106,8 @@ class ShapePainter {
     for (const GraphPlace place : stroke.places) places.append(MiddleOf(place));
     Clip();
     painter_.setRenderHint(QPainter::Antialiasing);
-    painter_.setPen(QPen(ColourOf(stroke.colour),
-                         std::max(kNarrowestStroke, kStrokeGrowth * scale_), Qt::SolidLine,
-                         Qt::SquareCap, Qt::RoundJoin));
+    painter_.setPen(QPen(Shown(stroke.colour), std::max(kNarrowestStroke, kStrokeGrowth * scale_),
+                         Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
     for (qsizetype i = 0; i + 1 < places.size(); i += kSegmentsAtOnce) {
       // With one segment of the next piece, so that no seam is seen.
       const qsizetype count = std::min(kSegmentsAtOnce + 2, places.size() - i);
@@ -101,7 +120,7 @@ class ShapePainter {
     const int side = Pixels(scale_);
     Clip();
     painter_.fillRect(QRect(PixelAt(dot.place) - QPoint(side / 2, side / 2), QSize(side, side)),
-                      ColourOf(dot.colour));
+                      Shown(dot.colour));
     Restore();
   }
 
@@ -110,14 +129,14 @@ class ShapePainter {
     Clip();
     painter_.setRenderHint(QPainter::Antialiasing);
     painter_.setPen(Qt::NoPen);
-    painter_.setBrush(ColourOf(disc.colour));
+    painter_.setBrush(Shown(disc.colour));
     painter_.drawEllipse(MiddleOf(disc.place), radius, radius);
     Restore();
   }
 
   void operator()(const GraphText& text) {
     if (text.backing > 0) PaintBacking(text);
-    painter_.setPen(ColourOf(graph_colour::kInk));
+    painter_.setPen(Shown(graph_colour::kInk));
     // Some faces have more room below the letters. With all of it the text would leave the plot at
     // the top.
     const int descent =
@@ -127,7 +146,7 @@ class ShapePainter {
 
  private:
   void PaintBacking(const GraphText& text) {
-    QColor paper = ColourOf(graph_colour::kPaper);
+    QColor paper = Shown(graph_colour::kPaper);
     paper.setAlphaF(kBackingOpacity);
     const QPoint end = PixelAt(text.place);
     const int top = PixelAt({text.place.column, text.place.row - text.backing}).y();
@@ -136,6 +155,7 @@ class ShapePainter {
     painter_.fillRect(QRect(end.x() - free, top, width, end.y() - top), paper);
   }
 
+  QColor Shown(GraphColour colour) const { return ColourIn(scheme_, colour); }
   int Line() const { return std::max(static_cast<int>(kRuleGrowth * scale_), 1); }
   static QPoint PixelAt(GraphPlace place) {
     return {static_cast<int>(std::lround(place.column)), static_cast<int>(std::lround(place.row))};
@@ -149,6 +169,7 @@ class ShapePainter {
   QPainter& painter_;
   PlotArea area_;
   double scale_;
+  ColourScheme scheme_;
 };
 
 }  // namespace
@@ -166,22 +187,23 @@ QSize SizeAround(const PlotArea& area) {
   return {area.left + area.right + 1, area.top + area.bottom + 1};
 }
 
-void PaintShapes(QPainter& painter, const GraphPicture& shapes, const PlotArea& area) {
-  ShapePainter shapePainter(painter, area);
+void PaintShapes(QPainter& painter, const GraphPicture& shapes, const PlotArea& area,
+                 ColourScheme scheme) {
+  ShapePainter shapePainter(painter, area, scheme);
   for (const GraphShape& shape : shapes) std::visit(shapePainter, shape);
 }
 
-void PaintGraph(QPainter& painter, const GraphModel& model) {
+void PaintGraph(QPainter& painter, const GraphModel& model, ColourScheme scheme) {
   const PlotArea& area = model.Area();
-  painter.fillRect(QRect(QPoint(0, 0), SizeAround(area)), ColourOf(graph_colour::kPaper));
-  PaintShapes(painter, BuildPicture(model), area);
+  painter.fillRect(QRect(QPoint(0, 0), SizeAround(area)), ColourIn(scheme, Colour::GraphPaper));
+  PaintShapes(painter, BuildPicture(model), area, scheme);
 }
 
-void DrawGraph(const GraphModel& model, QImage& image) {
+void DrawGraph(const GraphModel& model, QImage& image, ColourScheme scheme) {
   const QSize size = SizeAround(model.Area());
   if (image.size() != size) image = QImage(size, QImage::Format_RGB32);
   QPainter painter(&image);
-  PaintGraph(painter, model);
+  PaintGraph(painter, model, scheme);
 }
 
 }  // namespace kav

@@ -5,6 +5,7 @@
 #include <QSize>
 
 #include "plotter/graph_picture.h"
+#include "screens/widgets/colours.h"
 
 class QPainter;
 
@@ -17,14 +18,18 @@ PlotArea AreaWithin(QSize size);
 /// The size of the picture around `area`, with the margins of AreaWithin.
 QSize SizeAround(const PlotArea& area);
 
+// The colours of a picture are those of `scheme`; a saved picture is light on every screen.
+
 /// Paints `shapes`, which were made for `area`. Places count from the upper left pixel of the
 /// painter. Curves, points and discs are clipped to the area.
-void PaintShapes(QPainter& painter, const GraphPicture& shapes, const PlotArea& area);
+void PaintShapes(QPainter& painter, const GraphPicture& shapes, const PlotArea& area,
+                 ColourScheme scheme = ColourScheme::Light);
 
 /// Paints the picture of `model` and the paper below it.
-void PaintGraph(QPainter& painter, const GraphModel& model);
+void PaintGraph(QPainter& painter, const GraphModel& model,
+                ColourScheme scheme = ColourScheme::Light);
 
 /// Makes `image` the picture of `model`, in Format_RGB32. An image of the right size is drawn over.
-void DrawGraph(const GraphModel& model, QImage& image);
+void DrawGraph(const GraphModel& model, QImage& image, ColourScheme scheme = ColourScheme::Light);
 
 }  // namespace kav

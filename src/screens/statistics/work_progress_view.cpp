@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
 #include "screens/widgets/look.h"
@@ -29,7 +30,7 @@ class WorkProgressView::Box final : public QDialog {
     const QRect area = PortraitArea(parent->window()->size());
     const int text = TextPixels(area.height());
     setWindowTitle(ToQt(title));
-    setPalette(ScreenPalette());
+    Wear(*this, Attire::Window);
     setFont(ScreenFont(text));
     setModal(true);
     auto* cancel = new DialogButton(kCancelCaption);

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/pop_up.h"
@@ -44,6 +45,7 @@ void SendRedo(QObject* receiver, QKeyEvent& key) {
 void DressMenu(QMenu& menu) {
   if (menu.parentWidget() == nullptr) return;
   menu.setStyle(ScreenStyle());
+  Wear(menu, Attire::Window);
   menu.setFont(MenuFont(*menu.parentWidget()->window()));
 }
 
@@ -74,6 +76,10 @@ bool AppEvents::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::MouseButtonDblClick:
       return SelectWord(*watched, *event);
+    case QEvent::ApplicationPaletteChange:
+    case QEvent::ThemeChange:
+      if (watched == qApp) FollowDesktop();
+      return false;
     case QEvent::Polish:
       Dress(watched);
       return false;

@@ -9,6 +9,7 @@
 
 #include "common/number_text.h"
 #include "screens/widgets/access_view.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/guide_caller.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/pop_up.h"
@@ -52,7 +53,7 @@ void GiveStyle(const QWidget& dialog) {
 Dialog::Dialog(QWidget* parent, std::u16string_view title) : QDialog(parent) {
   OfferWidgetsToScreenReaders();
   setWindowTitle(ToQt(title));
-  setPalette(ScreenPalette());
+  Wear(*this, Attire::Window);
   setMinimumSize(kSmallestWindow);
   setModal(true);
 }

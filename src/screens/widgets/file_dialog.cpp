@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <array>
 
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/look.h"
 
 namespace kav {
@@ -69,7 +70,7 @@ void Arrange(QFileDialog& dialog, QGridLayout& parts) {
   WidenFolderRow(parts);
   if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) MoveButtonsBelow(parts, *buttons);
   ShowNames(dialog);
-  dialog.setPalette(ScreenPalette());
+  Wear(dialog, Attire::Window);
   for (auto* part : dialog.findChildren<QWidget*>()) part->setStyle(ScreenStyle());
 }
 

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QPalette>
 
+#include "screens/widgets/colour_scheme.h"
+
 namespace kav {
 namespace {
 
@@ -14,6 +16,14 @@ QColor Mixed(QColor colour, QColor other, double share) {
           mix(colour.blue(), other.blue())};
 }
 
+/// The edge of a key: between its own colour and that of all edges, which in the strongest contrast
+/// is the edge itself.
+QColor EdgeOf(const QColor& background) {
+  const QColor edge = ColourNow(Colour::KeyEdge);
+  constexpr double kOwnShare = 0.6;
+  return HasStrongEdges(SchemeNow()) ? edge : Mixed(background, edge, kOwnShare);
+}
+
 }  // namespace
 
 KeyColours ColoursNow(const QAbstractButton& key, const KeyColours& colours) {
@@ -22,7 +32,9 @@ KeyColours ColoursNow(const QAbstractButton& key, const KeyColours& colours) {
     const QColor body = key.palette().color(QPalette::Window);
     return {Mixed(background, body, 0.35), Mixed(text, body, 0.35)};
   }
-  if (key.isDown()) return {Mixed(background, text, 0.75), text};
+  // A dark key that is held becomes lighter, and so loses more of its contrast than a light one.
+  const double held = SchemeNow() == ColourScheme::Dark ? 0.85 : 0.75;
+  if (key.isDown()) return {Mixed(background, text, held), text};
   if (key.underMouse()) return {Mixed(background, text, 0.93), text};
   return colours;
 }
@@ -41,8 +53,7 @@ void PaintKey(QPainter& painter, const QAbstractButton& key, const KeyColours& c
   const double line = qMax(1.0, key.height() / 36.0) * (key.hasFocus() ? 2 : 1);
   const double radius = key.height() * 0.18;
   const QRectF outline(key.rect());
-  painter.setBrush(key.hasFocus() ? key.palette().color(QPalette::Highlight)
-                                  : Mixed(background, QColor(70, 80, 90), 0.6));
+  painter.setBrush(key.hasFocus() ? key.palette().color(QPalette::Highlight) : EdgeOf(background));
   painter.drawRoundedRect(outline, radius, radius);
   painter.setBrush(background);
   painter.drawRoundedRect(outline.adjusted(line, line, -line, -line), radius - line, radius - line);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "line/key_help.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/key_painter.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
@@ -19,36 +20,34 @@ namespace {
 constexpr int kRepeatDelayMs = 500;
 constexpr int kRepeatIntervalMs = 50;
 
-struct KeyRgb {
-  QRgb background;
-  QRgb text;
+struct KeyPaint {
+  Colour background;
+  Colour text;
 };
 
-KeyRgb RgbOf(KeyColour colour) {
-  constexpr QRgb kBlack = qRgb(0, 0, 0);
-  constexpr QRgb kOrange = qRgb(255, 192, 126);
+KeyPaint PaintOf(KeyColour colour) {
   switch (colour) {
     case KeyColour::Digit:
-      return {qRgb(255, 255, 255), qRgb(255, 0, 0)};
+      return {Colour::DigitKey, Colour::DigitKeyText};
     case KeyColour::Orange:
-      return {kOrange, kBlack};
+      return {Colour::OrangeKey, Colour::OrangeKeyText};
     case KeyColour::ActiveShift:
-      return {kBlack, kOrange};
+      return {Colour::ActiveShiftKey, Colour::ActiveShiftKeyText};
     case KeyColour::Mode:
-      return {qRgb(189, 192, 255), kBlack};
+      return {Colour::ModeKey, Colour::ModeKeyText};
     case KeyColour::Editing:
-      return {qRgb(254, 192, 190), kBlack};
+      return {Colour::EditingKey, Colour::EditingKeyText};
     case KeyColour::Equals:
-      return {qRgb(0, 150, 222), qRgb(255, 255, 0)};
+      return {Colour::EqualsKey, Colour::EqualsKeyText};
     case KeyColour::Function:
       break;
   }
-  return {qRgb(192, 255, 192), kBlack};
+  return {Colour::FunctionKey, Colour::FunctionKeyText};
 }
 
 KeyColours ColoursOf(KeyColour colour) {
-  const auto [background, text] = RgbOf(colour);
-  return {QColor(background), QColor(text)};
+  const auto [background, text] = PaintOf(colour);
+  return {ColourNow(background), ColourNow(text)};
 }
 
 }  // namespace

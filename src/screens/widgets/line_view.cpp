@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "common/number_text.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
 
@@ -129,9 +130,7 @@ void WriteLine(QLineEdit& widget, const ExpressionLine& line) {
 ResultView::ResultView(QWidget* parent) : LineView(parent) {
   setReadOnly(true);
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  QPalette colours = palette();
-  colours.setColor(QPalette::Base, QColor(255, 255, 192));
-  setPalette(colours);
+  Wear(*this, Attire::Result);
 }
 
 void ResultView::Show(const std::u16string& text) {

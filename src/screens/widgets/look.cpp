@@ -4,6 +4,8 @@
 #include <QFontMetricsF>
 #include <algorithm>
 
+#include "screens/widgets/colour_scheme.h"
+
 namespace kav {
 
 namespace {
@@ -66,20 +68,11 @@ int PixelsForLine(int pixels, double height) {
   return std::max(pixels, 1);
 }
 
-QPalette ScreenPalette() {
-  // The same for the window in front and for those behind it, which so need no new painting.
-  QPalette palette(QColor(233, 236, 240), QColor(241, 243, 246));
-  palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::Text, Qt::black);
-  palette.setColor(QPalette::Disabled, QPalette::Base, palette.color(QPalette::Window));
-  palette.setColor(QPalette::Mid, QColor(173, 181, 189));
-  palette.setColor(QPalette::Highlight, QColor(0, 110, 190));
-  palette.setColor(QPalette::HighlightedText, Qt::white);
+const QPalette& ScreenPalette() {
+  static ColourScheme made = SchemeNow();
+  static QPalette palette = PaletteIn(made);
+  if (made != SchemeNow()) palette = PaletteIn(made = SchemeNow());
   return palette;
-}
-
-QColor BackdropColour() {
-  return {214, 219, 225};
 }
 
 QRect PortraitArea(QSize window) {

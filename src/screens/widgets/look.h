@@ -34,11 +34,9 @@ QStringList LongOnes(const QStringList& texts);
 /// lines of some fonts are much higher than their letters.
 int PixelsForLine(int pixels, double height);
 
-/// The colours of a screen. The desktop's may be dark, and the keys' are made for a light screen.
-QPalette ScreenPalette();
-
-/// The colour beside the portrait area of a wide window.
-QColor BackdropColour();
+/// The colours of a screen now. A widget that is to have them gets them by Wear, so that it has
+/// others as soon as the user or the desktop changes them.
+const QPalette& ScreenPalette();
 
 /// The desktop's style, except that fixed numbers of pixels grow with the text: the room around the
 /// entries of menus, ticks, arrows, the caret. It has to be set on each widget: children do not

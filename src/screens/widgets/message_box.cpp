@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "screens/widgets/app_texts.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
 
@@ -44,7 +45,7 @@ class ScaledBox final : public QMessageBox {
     // The text may hold a file name or a line of the user's, which must not be read as markup.
     setTextFormat(Qt::PlainText);
     if (!more.isEmpty()) setInformativeText(more);
-    setPalette(ScreenPalette());
+    Wear(*this, Attire::Window);
     if (parent != nullptr) area_ = PortraitArea(parent->window()->size()).size();
     setFont(ScreenFont(TextPixels(area_.height())));
     least_ = std::max(font().pixelSize() / 2, 1);
@@ -191,6 +192,7 @@ void DressFileBox(QObject& widget) {
   if (opener == nullptr || opener->layout() == nullptr) return;
   box->setFont(opener->font());
   box->setStyle(ScreenStyle());
+  Wear(*box, Attire::Window);
   for (auto* part : box->findChildren<QWidget*>()) part->setStyle(ScreenStyle());
   box->setIcon(box->icon());  // drawn anew, at the size that the style has by now
 }

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include "line/keypad.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
 
@@ -33,6 +34,7 @@ QMenu* NewPopUp(QWidget* owner, const QFont& font) {
   auto* menu = new QMenu(owner);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->setStyle(ScreenStyle());
+  Wear(*menu, Attire::Window);
   menu->setFont(font);
   QObject::connect(menu, &QMenu::aboutToHide, owner, [owner] { ForgetMouse(*owner->window()); });
   return menu;

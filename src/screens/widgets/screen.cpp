@@ -14,6 +14,7 @@
 #include "screens/widgets/access_view.h"
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/bottom_menu_bar.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/menu_access.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/pop_up.h"
@@ -109,7 +110,7 @@ Screen::Screen(Frame& frame, QSize size)
   OfferWidgetsToScreenReaders();
   DescribeMenusToScreenReaders();
   setWindowTitle(ToQt(kApplicationName));
-  setPalette(ScreenPalette());
+  Wear(*this, Attire::Window);
   setMinimumSize(kSmallestWindow);
   MakeShortcuts();
 }
@@ -231,6 +232,7 @@ QMenu* Screen::MakePopUp() {
 
 void Screen::Dress(QMenu* menu) {
   menu->setStyle(ScreenStyle());
+  Wear(*menu, Attire::Window);
   menu->setFont(menuBar_->font());
 }
 
@@ -275,7 +277,7 @@ void Screen::LayOutAll() {
 
 void Screen::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), BackdropColour());
+  painter.fillRect(rect(), ColourNow(Colour::Backdrop));
   painter.fillRect(Area(), palette().color(QPalette::Window));
 }
 

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/key_painter.h"
 #include "screens/widgets/look.h"
 
@@ -60,19 +61,20 @@ double TextShare(QStyle::PixelMetric metric) {
 /// What stands before a message: a character on a disc.
 struct Sign {
   char16_t character;
-  QRgb colour;
+  Colour disc;
+  Colour text = Colour::SignText;
 };
 
 std::optional<Sign> SignOf(QStyle::StandardPixmap icon) {
   switch (icon) {
     case QStyle::SP_MessageBoxCritical:
-      return Sign{u'×', qRgb(200, 30, 30)};
+      return Sign{u'×', Colour::StopSign};
     case QStyle::SP_MessageBoxWarning:
-      return Sign{u'!', qRgb(215, 130, 0)};
+      return Sign{u'!', Colour::WarningSign, Colour::WarningSignText};
     case QStyle::SP_MessageBoxQuestion:
-      return Sign{u'?', qRgb(0, 110, 190)};
+      return Sign{u'?', Colour::QuestionSign};
     case QStyle::SP_MessageBoxInformation:
-      return Sign{u'i', qRgb(0, 110, 190)};
+      return Sign{u'i', Colour::QuestionSign};
     default:
       return std::nullopt;
   }
@@ -84,12 +86,12 @@ QIcon DrawSign(const Sign& sign, int size) {
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(sign.colour));
+  painter.setBrush(ColourNow(sign.disc));
   painter.drawEllipse(picture.rect());
   QFont font = ScreenFont(size * 7 / 10);
   font.setBold(true);
   painter.setFont(font);
-  painter.setPen(Qt::white);
+  painter.setPen(ColourNow(sign.text));
   painter.drawText(picture.rect(), Qt::AlignCenter, QString(QChar(sign.character)));
   painter.end();
   return picture;
@@ -170,7 +172,8 @@ class TextMeasuredStyle final : public QProxyStyle {
     if (element != CE_PushButton || button == nullptr) {
       return QProxyStyle::drawControl(element, option, painter, widget);
     }
-    PaintKey(*painter, *button, {QColor(192, 255, 192), Qt::black}, button->font());
+    const KeyColours colours{ColourNow(Colour::FunctionKey), ColourNow(Colour::FunctionKeyText)};
+    PaintKey(*painter, *button, colours, button->font());
   }
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
