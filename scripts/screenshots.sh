@@ -1,13 +1,17 @@
 #!/usr/bin/env bash
 # screenshots.sh: takes the pictures in docs/images again, of the program on a display of its own: the
 # scientific screen in decimal, in hexadecimal and with Shift on, its dialogs, and the other screens,
-# each at three sizes. Nothing in them depends on the user's settings.
+# each at three sizes, and some of them dark. Nothing in them depends on the user's settings.
+# screenshots.sh FOLDER/: takes pictures to be looked at into FOLDER, in light, dark and strong colours
+# and in upright and wide windows: the same and also menus, message boxes and the rest. $sizes,
+# $schemes and $only choose among them.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
 scripts/packages.sh run pictures
 scripts/build.sh release kav-calculator
-mkdir -p docs/images
+folder=${1:-docs/images/}
+mkdir -p -- "$folder"
 
 home=$(mktemp -d)
 trap 'kill -- $(jobs -p) 2>/dev/null; wait; rm -rf -- "$home"' EXIT
@@ -67,13 +71,16 @@ focus() {
 
 # take NAME WIDTHxHEIGHT BASE DEED...: takes one picture, in the base numbered BASE, after the deeds. A
 # deed is a text to type, keys to press as in press:alt+s, or a dialog to choose as in focus:Constants.
-# $config may have further settings of the first section.
+# $config may have further settings of the first section, $colours the number of a colour scheme, $suffix
+# what the name of the picture ends with, and $only a pattern of the names of those to take. After
+# focus:screen the picture is of the display, with all windows that are open.
 take() {
-  local name=$1 size=$2 base=$3 window
+  local name=$1 size=$2 base=$3 window area
   shift 3
+  [[ $name =~ ^(${only-.*})$ ]] || return 0
   mkdir -p "$home/kav-calculator"
-  printf '[Config]\n"Window Geometry" = "0 0 %s"\n"Base Type" = %s\n%s\n%s' "${size/x/ }" "$base" \
-    "${config-}" "$stored" >"$home/kav-calculator/settings.toml"
+  printf '[Config]\n"Window Geometry" = "0 0 %s"\n"Colour Scheme" = %s\n"Base Type" = %s\n%s\n%s' \
+    "${size/x/ }" "${colours-0}" "$base" "${config-}" "$stored" >"$home/kav-calculator/settings.toml"
   build/release/src/app/kav-calculator &
   local calculator=$!
   xdotool mousemove 1279 1599
@@ -82,6 +89,8 @@ take() {
   for deed in "$@"; do
     case $deed in
       press:*) xdotool key "${deed#press:}" ;;
+      focus:screen) window=root ;;
+      hover:*) xdotool mousemove ${deed#hover:} sleep 1 ;;
       focus:*) focus "${deed#focus:}" ;;
       *) xdotool type "$deed" ;;
     esac
@@ -89,8 +98,10 @@ take() {
   done
   [[ $* == *focus:* ]] || xdotool key End  # after a key the caret shows for half a second
   sleep 0.2
-  import -window "$window" +repage -define png:exclude-chunks=date,time \
-    "docs/images/$name-$size.png"
+  # Menus open below a window at the top of the display.
+  [ "$window" != root ] || area=${size%x*}x$((${size#*x} * 3 / 2))
+  import -window "$window" -crop "${area:-$size}+0+0" +repage -define png:exclude-chunks=date,time \
+    "$folder$name-$size${suffix-}.png"
   kill "$calculator"
   wait "$calculator" || true
 }
@@ -108,7 +119,9 @@ for row in {1..10}; do
   for column in {1..10}; do ten_by_ten+="$((row * column))"$'\t'; done
 done
 
-for size in 240x320 480x640 1080x1440; do
+# The pictures of the guides at one size.
+take_views() {
+  local size=$1 values pairs
   take dec "$size" 1 '2*sin(30)+3!='
   take hex "$size" 2 'FF AND 3C='
   take shift "$size" 1 '8^(1/3)=' press:alt+s
@@ -131,4 +144,41 @@ for size in 240x320 480x640 1080x1440; do
   config='"Mode" = 4' take regression "$size" 1 "${pairs[@]}" press:alt+p focus:Graph
   config='"Mode" = 2' take plotter "$size" 1 'sqrt(x)'
   config='"Mode" = 2' take graph "$size" 1 press:ctrl+Return focus:Graph
+}
+
+# What opens over the screens, and the dialogs that the guides do not show, at one size.
+take_the_rest() {
+  local size=$1 values
+  take file-menu "$size" 1 press:alt+f press:Down focus:screen
+  take edit-menu "$size" 1 '1+2' press:alt+e press:Down focus:screen
+  take mode-menu "$size" 1 press:alt+m press:Down focus:screen
+  take bases "$size" 1 press:alt+b press:Down focus:screen
+  take memory-menu "$size" 1 press:alt+c press:Down focus:screen
+  take field-menu "$size" 1 '1+2' press:Menu press:Down press:Down focus:screen
+  take tooltip "$size" 1 '1/3=' press:Up "hover:$((${size%x*} / 2)) $((${size#*x} * 23 / 100))" focus:screen
+  take about "$size" 1 press:alt+f press:a focus:screen
+  take stop "$size" 1 press:alt+c press:Up press:Return focus:Constants zzzz press:Return focus:screen
+  take units-list "$size" 1 press:alt+n 'focus:Unit Converter' 1x press:Tab press:alt+Down focus:screen
+  take matrix-settings "$size" 1 press:alt+f press:c 'focus:Display Settings' press:shift+Tab \
+    press:shift+Tab press:shift+Tab press:Right
+  take store "$size" 1 '5=' press:alt+c press:Up press:Up press:Return 'focus:Memory Variable' press:Down
+  mapfile -d '' values < <(rows_of_data 9.8 10.1)
+  config='"Mode" = 3' take question "$size" 1 "${values[@]}" press:alt+f press:x focus:screen
+  config='"Mode" = 3' take file-to-open "$size" 1 press:ctrl+o focus:screen
+  config='"Mode" = 2' take plotter-options "$size" 1 press:ctrl+Return focus:Graph press:alt+g press:Up \
+    press:Return focus:screen
+  config='"Mode" = 5' take matrix-error "$size" 1 press:Tab press:Tab press:Tab $'x+\t2' focus:screen
+}
+
+if [ $# = 0 ]; then
+  for size in 240x320 480x640 1080x1440; do take_views "$size"; done
+  only='dec|matrix|graph' colours=2 suffix=-dark take_views 480x640
+  exit
+fi
+for colours in ${schemes-1 2 3}; do
+  suffix=-$colours
+  for size in ${sizes-240x320 360x560 480x640 1080x1440 1280x720}; do
+    take_views "$size"
+    take_the_rest "$size"
+  done
 done

@@ -37,7 +37,7 @@ inline constexpr std::u16string_view kColoursCaption = u"Colours :";
 /// By the numbers of the choices.
 inline constexpr std::array<std::u16string_view, 4> kColourChoiceNames{u"System", u"Light", u"Dark",
                                                                        u"High Contrast"};
-inline constexpr std::u16string_view kLiveResultCaption = u"Live Result";
+inline constexpr std::u16string_view kLiveResultCaption = u"Live result";
 inline constexpr std::u16string_view kLiveResultMeaning =
     u"Shows the result of a line while it is typed.";
 

@@ -18,10 +18,8 @@ inline constexpr std::int32_t kNoModeStored = -100;
 inline constexpr IntegerKey kMode{"Config", "Mode", kNoModeStored};
 inline constexpr TextKey kVersion{"Config", "Version", ""};
 
-// The look of all windows: the colours (0 the desktop's, 1 light, 2 dark, 3 of high contrast), and
-// whether the result of a line is shown while it is typed.
+// The colours of all windows: 0 the desktop's, 1 light, 2 dark, 3 of high contrast.
 inline constexpr IntegerKey kColourScheme{"Config", "Colour Scheme", 0};
-inline constexpr IntegerKey kLiveResult{"Config", "Live Result", 1};
 
 // How numbers are read and shown.
 inline constexpr IntegerKey kAngleType{"Config", "Angle Type", 1};

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "screens/test_fonts.h"
+#include "screens/widgets/colour_scheme.h"
 
 namespace kav::look_test {
 namespace {

@@ -10,8 +10,6 @@
 #include <span>
 #include <utility>
 
-#include "screens/widgets/look.h"
-
 namespace kav {
 namespace {
 
@@ -118,6 +116,13 @@ ColourScheme SchemeNow() {
 
 QColor ColourNow(Colour what) {
   return ColourIn(SchemeNow(), what);
+}
+
+const QPalette& ScreenPalette() {
+  static ColourScheme made = SchemeNow();
+  static QPalette palette = PaletteIn(made);
+  if (made != SchemeNow()) palette = PaletteIn(made = SchemeNow());
+  return palette;
 }
 
 void Wear(QWidget& widget, Attire attire) {

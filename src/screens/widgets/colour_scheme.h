@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QString>
 
 #include "display/look_settings.h"
 #include "screens/widgets/colours.h"
@@ -25,6 +26,10 @@ void FollowDesktop();
 
 ColourScheme SchemeNow();
 QColor ColourNow(Colour what);
+
+/// All colours of a window now. A widget that is to have them gets them by Wear, so that it has
+/// others as soon as the user or the desktop changes them.
+const QPalette& ScreenPalette();
 
 /// What a widget wears: all colours of a window, or some of its own over those of its parent.
 enum class Attire { Window, Result, Refusable, Refused, Choices };

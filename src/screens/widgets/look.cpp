@@ -4,8 +4,6 @@
 #include <QFontMetricsF>
 #include <algorithm>
 
-#include "screens/widgets/colour_scheme.h"
-
 namespace kav {
 
 namespace {
@@ -66,13 +64,6 @@ int PixelsForLine(int pixels, double height) {
     pixels = std::clamp(static_cast<int>(pixels * height / line), 1, pixels - 1);
   }
   return std::max(pixels, 1);
-}
-
-const QPalette& ScreenPalette() {
-  static ColourScheme made = SchemeNow();
-  static QPalette palette = PaletteIn(made);
-  if (made != SchemeNow()) palette = PaletteIn(made = SchemeNow());
-  return palette;
 }
 
 QRect PortraitArea(QSize window) {

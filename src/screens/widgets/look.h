@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QFont>
-#include <QPalette>
 #include <QRect>
 #include <QSize>
 #include <QString>
@@ -33,10 +32,6 @@ QStringList LongOnes(const QStringList& texts);
 /// The largest size from `pixels` down to 1 at which a line is no higher than `height` pixels. The
 /// lines of some fonts are much higher than their letters.
 int PixelsForLine(int pixels, double height);
-
-/// The colours of a screen now. A widget that is to have them gets them by Wear, so that it has
-/// others as soon as the user or the desktop changes them.
-const QPalette& ScreenPalette();
 
 /// The desktop's style, except that fixed numbers of pixels grow with the text: the room around the
 /// entries of menus, ticks, arrows, the caret. It has to be set on each widget: children do not

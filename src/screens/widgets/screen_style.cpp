@@ -17,6 +17,7 @@
 #include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/key_painter.h"
 #include "screens/widgets/look.h"
+#include "screens/widgets/outlined_parts.h"
 
 namespace kav {
 namespace {
@@ -158,6 +159,7 @@ class TextMeasuredStyle final : public QProxyStyle {
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
+    if (DrawOutlined(element, *option, *painter)) return;
     if (element != PE_PanelLineEdit) {
       return QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
@@ -166,6 +168,7 @@ class TextMeasuredStyle final : public QProxyStyle {
 
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
+    if (DrawOutlined(element, *option, *painter)) return;
     if (element == CE_ComboBoxLabel) return DrawChoice(option, painter, widget);
     if (element == CE_MenuItem) return DrawEntry(option, painter, widget);
     const auto* button = dynamic_cast<const QAbstractButton*>(widget);
