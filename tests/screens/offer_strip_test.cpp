@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "screens/screen_driver.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/look.h"
 
 namespace kav::test::offer_strip_test {
