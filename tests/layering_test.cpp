@@ -7,6 +7,7 @@
 #include <fstream>
 #include <map>
 #include <optional>
+#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -264,6 +265,42 @@ TEST(Layering, EverySourceOfTheLogicHasTheTestOfItsName) {
     if (source.extension() != ".cpp") continue;
     if (unit.kind != Kind::Logic && unit.kind != Kind::Store) continue;
     EXPECT_TRUE(fs::exists(TestFolder() / (unit.stem + "_test.cpp"))) << source;
+  }
+}
+
+/// Whether a text makes a colour of its own: by numbers or by the name of one.
+bool MakesAColour(const std::string& text) {
+  static const std::regex kColour(
+      R"(QColor\s*[({]\s*("|'|#|\d|Qt::|qRgb)|QColor\s+\w+\s*[({=]\s*[({]?\s*(\d|Qt::)|\bqRgba?\s*\(|)"
+      R"(Qt::(white|black|red|dark\w+|green|blue|cyan|magenta|yellow|gray|light[A-Z]\w+)\b)");
+  // Few lines can have one, and the search takes its time.
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    const bool mayHave = line.find("QColor") != std::string::npos ||
+                         line.find("qRgb") != std::string::npos ||
+                         line.find("Qt::") != std::string::npos;
+    if (mayHave && std::regex_search(line, kColour)) return true;
+  }
+  return false;
+}
+
+TEST(Layering, ColoursStandInOneTable) {
+  for (const auto& source : SourceFiles()) {
+    if (UnitOf(source).stem == "screens/widgets/colours") continue;
+    EXPECT_FALSE(MakesAColour(TextOf(source))) << source;
+  }
+}
+
+TEST(Layering, AColourIsSeen) {
+  for (const char* text :
+       {"QColor(1, 2, 3)", "QColor{255, 0, 0}", "QColor(Qt::white)", "QColor(\"red\")",
+        "constexpr QColor kLine(200, 206, 213);", "QColor colour = Qt::white;", "qRgb(1, 2, 3)",
+        "painter.setPen(Qt::black);", "setBrush(Qt::lightGray)", "QColor( qRgb(1, 2, 3))"}) {
+    EXPECT_TRUE(MakesAColour(text)) << text;
+  }
+  for (const char* text : {"QColor colour = palette().color(QPalette::Text);", "const QColor& a",
+                           "QColor::fromRgb(shade)", "Qt::transparent", "QColor(colour)"}) {
+    EXPECT_FALSE(MakesAColour(text)) << text;
   }
 }
 
