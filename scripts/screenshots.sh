@@ -155,7 +155,7 @@ take_the_rest() {
   take bases "$size" 1 press:alt+b press:Down focus:screen
   take memory-menu "$size" 1 press:alt+c press:Down focus:screen
   take field-menu "$size" 1 '1+2' press:Menu press:Down press:Down focus:screen
-  take tooltip "$size" 1 '1/3=' press:Up "hover:$((${size%x*} / 2)) $((${size#*x} * 23 / 100))" focus:screen
+  take tooltip "$size" 1 '1/3=' press:Up "hover:$((${size%x*} / 2)) $((${size#*x} * 33 / 100))" focus:screen
   take about "$size" 1 press:alt+f press:a focus:screen
   take stop "$size" 1 press:alt+c press:Up press:Return focus:Constants zzzz press:Return focus:screen
   take units-list "$size" 1 press:alt+n 'focus:Unit Converter' 1x press:Tab press:alt+Down focus:screen
@@ -172,7 +172,7 @@ take_the_rest() {
 
 if [ $# = 0 ]; then
   for size in 240x320 480x640 1080x1440; do take_views "$size"; done
-  only='dec|matrix|graph' colours=2 suffix=-dark take_views 480x640
+  only='dec|graph' colours=2 suffix=-dark take_views 480x640
   exit
 fi
 for colours in ${schemes-1 2 3}; do

@@ -5,10 +5,12 @@
 
 #include <QDir>
 #include <QSvgRenderer>
+#include <array>
 
 #include "screens/graph_driver.h"
 #include "screens/plotter/graph_painter_view.h"
 #include "screens/plotter/graph_saving_view.h"
+#include "screens/widgets/colour_scheme.h"
 
 namespace kav::test::graph_saving_test {
 namespace {
@@ -115,6 +117,35 @@ TEST(GraphSaving, TheRowsOfABmpStandFromTheBottomAndAreFilledUp) {
     }
     EXPECT_EQ(read, drawn);
   }
+}
+
+TEST_F(GraphSavingTest, ASavedPictureIsLightOnADarkScreen) {
+  const GraphModel model = [] {
+    GraphModel light(LabelledGraphOf({"x^2", "10*sin(x)", "1/x"}));
+    light.SetArea(AreaWithin({234, 236}));
+    return light;
+  }();
+  const auto printed = [&] {
+    return std::array{PrintGraph(model, GraphFile::Bmp), PrintGraph(model, GraphFile::Png),
+                      PrintGraph(model, GraphFile::Svg)};
+  };
+  const auto light = printed();
+  UseColours(ColourChoice::Dark);
+  EXPECT_EQ(printed(), light);
+  QImage seen;
+  DrawGraph(model, seen, SchemeNow());
+  EXPECT_LT(seen.pixelColor(0, 0).lightness(), 60);
+  Open(LabelledGraphOf({"x^2"}), [this] {
+    // Beside all lines.
+    const auto paper = [this] {
+      const QPoint beside(Area().width() / 30, Area().height() / 8);
+      return Picture().pixelColor(Area().center() - beside).lightness();
+    };
+    EXPECT_LT(paper(), 60);
+    UseColours(ColourChoice::Light);
+    EXPECT_EQ(paper(), 255) << "what was drawn before is drawn anew";
+  });
+  UseColours(ColourChoice::Light);
 }
 
 TEST_F(GraphSavingTest, ThePictureIsWhatIsSeenFromTwoPixelsLeftAndThreeAboveThePlot) {
