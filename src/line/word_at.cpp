@@ -9,7 +9,7 @@ bool IsDigit(char16_t c) {
   return c >= u'0' && c <= u'9';
 }
 
-bool IsHexDigit(char16_t c) {
+bool IsDigitOfHex(char16_t c) {
   return IsDigit(c) || (c >= u'A' && c <= u'F') || (c >= u'a' && c <= u'f');
 }
 
@@ -67,7 +67,7 @@ std::size_t EndOfDecimal(std::u16string_view text, std::size_t at, Commas commas
 /// The end of what begins at `at`, which is in the text.
 std::size_t EndOfWord(std::u16string_view text, std::size_t at, BaseMode base, Commas commas) {
   const std::size_t number = base == BaseMode::Hexadecimal && IsDigit(text[at])
-                                 ? EndOf(text, at, IsHexDigit)
+                                 ? EndOf(text, at, IsDigitOfHex)
                                  : EndOfDecimal(text, at, commas);
   if (number > at) return number;
   const std::size_t name = EndOf(text, at, [](char16_t c) { return IsLetter(c) || IsDigit(c); });

@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "screens/screen_driver.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/look.h"
 
 namespace kav::test::expression_view_test {
