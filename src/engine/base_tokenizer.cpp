@@ -95,4 +95,11 @@ CalcResult<TokenArray> TokenizeInBase(std::string_view text, BaseMode base) {
   });
 }
 
+std::optional<TextPlace> PlaceOfTokenInBase(std::string_view text, int token, BaseMode base) {
+  const BaseRules rules = RulesOf(base);
+  return FindToken(text, token, [&](TokenReader& reader, TokenArray& tokens) {
+    return ReadToken(reader, base, rules, tokens);
+  });
+}
+
 }  // namespace kav

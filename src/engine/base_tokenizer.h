@@ -1,6 +1,7 @@
 // Cuts text of the binary, octal and hexadecimal modes into tokens.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "engine/calc_error.h"
@@ -14,5 +15,8 @@ namespace kav {
 /// the letters a to f read as digits first, so "and" has to be written "AND" there. Fails as
 /// Tokenize does.
 CalcResult<TokenArray> TokenizeInBase(std::string_view text, BaseMode base);
+
+/// Where the token of the number `token` stands in a text that can be cut; nullopt if it has fewer.
+std::optional<TextPlace> PlaceOfTokenInBase(std::string_view text, int token, BaseMode base);
 
 }  // namespace kav

@@ -11,9 +11,11 @@
 namespace kav {
 namespace {
 
-CalcResult<double> WithMessage(const Expected<double, StepFailure>& answer) {
-  if (!answer) return MakeError(answer.error());
-  return *answer;
+/// `error`, which is about the token of the number `token` of `text`, with its place.
+CalcError AboutToken(int token, CalcError error, std::string_view text, BaseMode base) {
+  error.place =
+      base == BaseMode::Decimal ? PlaceOfToken(text, token) : PlaceOfTokenInBase(text, token, base);
+  return error;
 }
 
 }  // namespace
@@ -22,13 +24,17 @@ CalcResult<double> EvaluateFolded(std::string_view text, CalcModes modes) {
   const BaseMode base = modes.baseMode;
   auto tokens = base == BaseMode::Decimal ? Tokenize(text) : TokenizeInBase(text, base);
   if (!tokens) return std::move(tokens).error();
-  if (auto error = CheckOrder(*tokens, base)) return *std::move(error);
+  if (auto error = CheckOrder(*tokens, base)) {
+    return AboutToken(FaultyToken(*tokens, base), *std::move(error), text, base);
+  }
   SlotValues values;
   values.front() = 0;  // It is looked at even if blanks alone made no token.
   for (int i = 0; i < tokens->Count(); ++i) {
     values[static_cast<std::size_t>(i)] = (*tokens)[i].value;
   }
-  return WithMessage(RunSteps(Reduce(*tokens, base), values, modes.angleUnit));
+  const auto answer = RunSteps(Reduce(*tokens, base), values, modes.angleUnit);
+  if (answer) return *answer;
+  return AboutToken(answer.error().token, MakeError(answer.error()), text, base);
 }
 
 CalcResult<double> Evaluate(std::string_view text, CalcModes modes) {
@@ -39,7 +45,9 @@ CalcResult<double> Evaluate(std::string_view text, CalcModes modes) {
 
 CalcResult<double> EvaluateFormula(const CheckedFormula& formula, const VariableValues& at,
                                    AngleUnit unit) {
-  return WithMessage(formula.At(at, unit));
+  const auto answer = formula.At(at, unit);
+  if (!answer) return MakeError(answer.error());
+  return *answer;
 }
 
 }  // namespace kav

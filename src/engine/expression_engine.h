@@ -10,7 +10,8 @@
 namespace kav {
 
 /// The value, always finite, of `text`, folded as FoldCase does it; fails with the first thing
-/// wrong with its words, their order or the calculation.
+/// wrong with its words, their order or the calculation, and with its place in `text` if it has
+/// one.
 CalcResult<double> EvaluateFolded(std::string_view text, CalcModes modes);
 
 /// The value of `text` as the user typed it: its case is folded here.

@@ -43,7 +43,11 @@ CalcResult<CheckedFormula> CheckTokens(const TokenArray& tokens) {
 CalcResult<CheckedFormula> CheckFoldedFormula(std::string_view text, VariableType type) {
   auto tokens = TokenizeFormula(text, type);
   if (!tokens) return std::move(tokens).error();
-  return CheckTokens(*tokens);
+  auto formula = CheckTokens(*tokens);
+  if (formula) return formula;
+  CalcError error = std::move(formula).error();
+  error.place = PlaceOfToken(text, FaultyToken(*tokens, BaseMode::Decimal));
+  return error;
 }
 
 CalcResult<CheckedFormula> CheckFormula(std::string_view text, VariableType type) {

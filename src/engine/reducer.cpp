@@ -88,7 +88,7 @@ class Reduction {
     int open = close;
     while (open >= 0 && tokens_[open].symbol != '(') --open;
     // As many are opened as closed, but )+( closes before it opens.
-    if (open < 0) return Fail(Operation::FailExpression);
+    if (open < 0) return Fail(Operation::FailExpression, close);
     const Range inside{open + 1, close - 1};
     if (!ReduceRange(inside)) return false;
     const bool isArgument = open > 0 && tokens_[open - 1].symbol == 'F';
@@ -120,8 +120,8 @@ class Reduction {
   bool ApplyFunction(int function, Range range) {
     if (!ReduceTightOperators(range, SweepsIn(range))) return false;
     const int argument = NextOperand(range.first, range.last);
-    if (argument == kNone) return Fail(Operation::FailExpression);
-    Write(OperationOf(tokens_[function].functionCode), argument);
+    if (argument == kNone) return Fail(Operation::FailExpression, function);
+    Write(OperationOf(tokens_[function].functionCode), function, argument);
     tokens_[function] = {};
     return true;
   }
@@ -165,8 +165,8 @@ class Reduction {
     for (int i = range.first; i <= range.last; ++i) {
       if (tokens_[i].symbol != '!') continue;
       const int operand = PreviousOperand(i, range.first);
-      if (operand == kNone) return Fail(Operation::FailNeedsArgument);
-      Write(Operation::Factorial, operand);
+      if (operand == kNone) return Fail(Operation::FailNeedsArgument, i);
+      Write(Operation::Factorial, i, operand);
       tokens_[i].symbol = 0;
     }
     return true;
@@ -192,8 +192,8 @@ class Reduction {
   bool ApplyBinary(int at, Range range) {
     const int left = PreviousOperand(at, range.first);
     const int right = NextOperand(at, range.last);
-    if (left == kNone || right == kNone) return Fail(Operation::FailExpression);
-    Write(symbols_.operations[SymbolIndex(tokens_[at].symbol)], left, right);
+    if (left == kNone || right == kNone) return Fail(Operation::FailExpression, at);
+    Write(symbols_.operations[SymbolIndex(tokens_[at].symbol)], at, left, right);
     tokens_[at].symbol = 0;
     tokens_[right].isNumber = 0;
     tokens_[right].symbol = 0;  // A used-up variable must not look like an operator.
@@ -202,8 +202,8 @@ class Reduction {
 
   bool ApplyPrefix(Operation operation, int at, Range range) {
     const int operand = NextOperand(at, range.last);
-    if (operand == kNone) return Fail(Operation::FailExpression);
-    Write(operation, operand);
+    if (operand == kNone) return Fail(Operation::FailExpression, at);
+    Write(operation, at, operand);
     tokens_[at].symbol = 0;
     return true;
   }
@@ -239,20 +239,26 @@ class Reduction {
   void Finish() {
     const int last = tokens_.Count() - 1;
     const int answer = NextOperand(0, last);
-    if (answer == kNone || NextOperand(answer + 1, last) != kNone) {
-      Fail(Operation::FailExpression);
+    const int spare = answer == kNone ? kNone : NextOperand(answer + 1, last);
+    if (answer == kNone || spare != kNone) {
+      Fail(Operation::FailExpression, spare == kNone ? tokens_.Count() : spare);
       return;
     }
-    Write(Operation::Finish, answer);
+    // An answer out of range is the doing of the last operation.
+    Write(Operation::Finish, steps_.Count() == 0 ? answer : steps_.Last().token, answer);
   }
 
-  bool Fail(Operation failure) {
-    Write(failure, 0);
+  /// `token` is the one at fault.
+  bool Fail(Operation failure, int token) {
+    Write(failure, token, 0);
     return false;
   }
-  void Write(Operation operation, int target) { Write(operation, target, target); }
-  void Write(Operation operation, int target, int right) {
-    steps_.Append({operation, static_cast<std::uint8_t>(target), static_cast<std::uint8_t>(right)});
+  void Write(Operation operation, int token, int target) {
+    Write(operation, token, target, target);
+  }
+  void Write(Operation operation, int token, int target, int right) {
+    steps_.Append({operation, static_cast<std::uint8_t>(target), static_cast<std::uint8_t>(right),
+                   static_cast<std::uint8_t>(token)});
   }
 
   TokenArray& tokens_;

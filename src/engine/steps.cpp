@@ -237,7 +237,7 @@ bool MayRaise(Operation operation, CalcErrorCode code) {
 Expected<double, StepFailure> RunSteps(const StepList& steps, SlotValues& values, AngleUnit unit) {
   for (const Step& step : steps) {
     const Outcome done = RowOf(step.operation).apply(values[step.target], values[step.right], unit);
-    if (!done) return StepFailure{done.Code(), step.operation};
+    if (!done) return StepFailure{done.Code(), step.operation, step.token};
   }
   return values[steps.Last().target];
 }

@@ -67,6 +67,7 @@ struct Step {
   Operation operation;
   std::uint8_t target;
   std::uint8_t right;
+  std::uint8_t token = 0;  ///< that a failure of the step is about: its operator or function
 };
 
 /// The values of all tokens of a text, by slot; meaningless if the token is no operand.
@@ -92,12 +93,16 @@ class StepList {
 };
 
 /// Which error ended a run, and the operation that it names. Small, since runs come by the
-/// thousand.
+/// thousand. `token`, which only RunSteps tells, is that of the step; it does not tell two failures
+/// apart.
 struct StepFailure {
   CalcErrorCode code;
   Operation operation;
+  std::uint8_t token = 0;
 
-  bool operator==(const StepFailure&) const = default;
+  bool operator==(const StepFailure& other) const {
+    return code == other.code && operation == other.operation;
+  }
 };
 
 /// The same as an error with its message.

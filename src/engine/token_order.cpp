@@ -13,6 +13,8 @@ constexpr std::string_view kRoles = "0F()+-*/^!%pc<>aoxyn.";
 constexpr char kNumber = '0';
 constexpr char kNothing = '.';
 
+constexpr int kNone = -1;
+
 using RoleSet = std::uint32_t;
 
 constexpr std::uint8_t NumberOf(char role) {
@@ -97,27 +99,59 @@ bool ParenthesesMatch(const TokenArray& tokens) {
   return surplus == 0;
 }
 
-bool NeighboursMatch(const TokenArray& tokens, const OrderTable& order) {
+/// The ')' that closes nothing or else the first '(' that nothing closes; kNone if all match.
+int UnmatchedParenthesis(const TokenArray& tokens) {
+  int surplus = 0;
+  for (int i = 0; i < tokens.Count(); ++i) {
+    if (tokens[i].symbol == '(') ++surplus;
+    if (tokens[i].symbol == ')' && --surplus < 0) return i;
+  }
+  int unmatched = kNone;
+  int closing = 0;
+  for (int i = tokens.Count() - 1; i >= 0; --i) {
+    if (tokens[i].symbol == ')') ++closing;
+    if (tokens[i].symbol == '(' && --closing < 0) {
+      unmatched = i;
+      closing = 0;
+    }
+  }
+  return unmatched;
+}
+
+/// The first token that cannot stand behind the one before it: the count of tokens if the last
+/// cannot be the last, kNone if all can stand.
+int FirstMisfit(const TokenArray& tokens, const OrderTable& order) {
   constexpr std::uint8_t kBeyond = NumberOf(kNothing);
   RoleSet mayFollow = kAll;
   std::uint8_t before = kBeyond;
   for (int i = 0; i < tokens.Count(); ++i) {
     const std::uint8_t role = RoleOf(tokens[i]);
-    if (!Contains(mayFollow, role) || !Contains(order.before[role], before)) return false;
+    if (!Contains(mayFollow, role) || !Contains(order.before[role], before)) return i;
     mayFollow = order.after[role];
     before = role;
   }
-  return Contains(mayFollow, kBeyond);
+  return Contains(mayFollow, kBeyond) ? kNone : tokens.Count();
+}
+
+const OrderTable& TableOf(BaseMode base) {
+  return base == BaseMode::Decimal ? kDecimal : kInteger;
 }
 
 }  // namespace
 
 std::optional<CalcError> CheckOrder(const TokenArray& tokens, BaseMode base) {
   if (!ParenthesesMatch(tokens)) return MakeError(CalcErrorCode::UnmatchedParentheses);
-  if (!NeighboursMatch(tokens, base == BaseMode::Decimal ? kDecimal : kInteger)) {
-    return MakeError(CalcErrorCode::Expression);
-  }
+  if (FirstMisfit(tokens, TableOf(base)) != kNone) return MakeError(CalcErrorCode::Expression);
   return std::nullopt;
+}
+
+int FaultyToken(const TokenArray& tokens, BaseMode base) {
+  if (!ParenthesesMatch(tokens)) return UnmatchedParenthesis(tokens);
+  const int misfit = FirstMisfit(tokens, TableOf(base));
+  // What ends too early is at fault, not what ends it.
+  const bool isEnd = misfit == tokens.Count() || tokens[misfit].symbol == ')';
+  const bool isCutShort = isEnd && misfit > 0 && tokens[misfit - 1].kind == TokenKind::Operator;
+  return isCutShort ? misfit - 1 : misfit;
 }
 
 }  // namespace kav

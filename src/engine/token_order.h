@@ -13,4 +13,8 @@ namespace kav {
 /// that cannot have its neighbours; nullopt if there is none.
 std::optional<CalcError> CheckOrder(const TokenArray& tokens, BaseMode base);
 
+/// The token that a failure of CheckOrder is about: the first '(' that is never closed or the ')'
+/// that closes none, an operator without an operand, or one that does not fit what is before it.
+int FaultyToken(const TokenArray& tokens, BaseMode base);
+
 }  // namespace kav

@@ -11,6 +11,13 @@ std::optional<CalcError> ReadShift(TokenReader& reader, TokenArray& tokens) {
   return std::nullopt;
 }
 
+TextPlace PlaceSince(const char* start, const TokenReader& reader, std::string_view text) {
+  const auto position = static_cast<std::size_t>(start - text.data());
+  const auto taken = static_cast<std::size_t>(reader.Next() - start);
+  const std::string_view token = TrimBlanks(text.substr(position, taken));
+  return {position, token.empty() ? Utf8Length(text.substr(position)) : token.size()};
+}
+
 CalcError UnsupportedCharacter(const TokenReader& reader) {
   const std::string_view rest = reader.Rest();
   return MakeError(CalcErrorCode::NotSupported, rest.substr(0, Utf8Length(rest)));

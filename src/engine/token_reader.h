@@ -25,6 +25,7 @@ class TokenReader {
   /// The next character; not at the end.
   char Peek() const { return *next_; }
   void Skip() { ++next_; }
+  const char* Next() const { return next_; }
   void SkipTo(const char* next) { next_ = next; }
 
   /// Takes the characters up to the first that `belongs` refuses.
@@ -44,20 +45,42 @@ class TokenReader {
   const char* end_;
 };
 
+/// What `reader` has taken of `text` since it stood at `start`, without the blanks behind it; if it
+/// has taken nothing, the character that comes next, which may have several bytes.
+TextPlace PlaceSince(const char* start, const TokenReader& reader, std::string_view text);
+
 /// Cuts `text` into tokens. `readToken(reader, tokens)` appends the token that comes next or
 /// answers why it cannot. Fails if `text` is empty, with what `readToken` answers, or with a token
-/// too many.
+/// too many; the last two with their place.
 template <class ReadToken>
 CalcResult<TokenArray> ReadTokens(std::string_view text, ReadToken readToken) {
   CalcResult<TokenArray> tokens = TokenArray();  // Returned as it is, never copied.
   std::optional<CalcError> error;
   if (text.empty()) error = MakeError(CalcErrorCode::NullExpression);
   TokenReader reader(text);
+  const char* start = nullptr;
   for (reader.SkipBlanks(); !error && !reader.AtEnd(); reader.SkipBlanks()) {
+    start = reader.Next();
     error = tokens->IsFull() ? MakeError(CalcErrorCode::LengthLimit) : readToken(reader, *tokens);
   }
+  if (error && start != nullptr) error->place = PlaceSince(start, reader, text);
   if (error) tokens = *std::move(error);
   return tokens;
+}
+
+/// Where the token of the number `wanted` (from 0) stands in `text`, whose tokens up to that one
+/// can be read; nullopt if there are fewer. To read twice what failed costs nothing as long as
+/// nothing fails, while places kept with the tokens would cost every line.
+template <class ReadToken>
+std::optional<TextPlace> FindToken(std::string_view text, int wanted, ReadToken readToken) {
+  TokenArray tokens;
+  TokenReader reader(text);
+  for (reader.SkipBlanks(); !reader.AtEnd(); reader.SkipBlanks()) {
+    const char* const start = reader.Next();
+    if (tokens.IsFull() || readToken(reader, tokens)) break;
+    if (tokens.Count() > wanted) return PlaceSince(start, reader, text);
+  }
+  return std::nullopt;
 }
 
 /// Reads a run of '<' and '>': exactly "<<" or ">>" is a shift, any other run is not supported.

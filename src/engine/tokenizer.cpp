@@ -178,4 +178,12 @@ CalcResult<TokenArray> TokenizeFormula(std::string_view text, VariableType type)
   return tokens;
 }
 
+std::optional<TextPlace> PlaceOfToken(std::string_view text, int token) {
+  // In a text without variables none is met before `token`.
+  Variables all(VariableType::XYZ);
+  return FindToken(text, token, [&](TokenReader& reader, TokenArray& tokens) {
+    return ReadToken(reader, tokens, all);
+  });
+}
+
 }  // namespace kav

@@ -1,6 +1,7 @@
 // Cuts decimal text into tokens.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "engine/calc_error.h"
@@ -18,5 +19,9 @@ CalcResult<TokenArray> Tokenize(std::string_view text);
 /// The same for a formula: "x", "y" and "z" become variable tokens. A variable that `type` lacks is
 /// refused where it stands, one that `type` has and the formula does not use at the end.
 CalcResult<TokenArray> TokenizeFormula(std::string_view text, VariableType type);
+
+/// Where the token of the number `token` stands in a text or formula that can be cut; nullopt if it
+/// has fewer.
+std::optional<TextPlace> PlaceOfToken(std::string_view text, int token);
 
 }  // namespace kav

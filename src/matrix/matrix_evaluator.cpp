@@ -1,5 +1,7 @@
 #include "matrix/matrix_evaluator.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -12,12 +14,19 @@
 namespace kav {
 
 CalcResult<MatrixValue> MatrixEvaluator::Evaluate(std::string_view text) {
-  const std::string folded = FoldCase(TrimBlanks(text), BaseMode::Decimal);
-  if (folded.empty()) return MakeError(CalcErrorCode::NullExpression);
+  const std::string folded = FoldCase(text, BaseMode::Decimal);
+  if (TrimBlanks(folded).empty()) return MakeError(CalcErrorCode::NullExpression);
   auto tokens = TokenizeMatrixExpression(folded);
   if (!tokens) return std::move(tokens).error();
-  if (auto error = CheckMatrixOrder(*tokens)) return *std::move(error);
-  return ReduceMatrixTokens(*std::move(tokens), matrices_, files_);
+  if (auto error = CheckMatrixOrder(*tokens)) {
+    error->place = PlaceOfMatrixToken(folded, FaultyMatrixToken(*tokens));
+    return *std::move(error);
+  }
+  auto result = ReduceMatrixTokens(*std::move(tokens), matrices_, files_);
+  if (result || !result.error().place) return result;
+  CalcError error = std::move(result).error();
+  error.place = PlaceOfMatrixToken(folded, error.place->position);
+  return error;
 }
 
 }  // namespace kav

@@ -17,7 +17,8 @@ class MatrixEvaluator {
       : matrices_(matrices), files_(files) {}
 
   /// The matrix that `text` (UTF-8) stands for; the case of letters does not count. Fails with an
-  /// error of the engine or of matrix_error.h. Either way it leaves no file behind.
+  /// error of the engine or of matrix_error.h, with its place in `text` if it has one. Either way
+  /// it leaves no file behind.
   CalcResult<MatrixValue> Evaluate(std::string_view text);
 
  private:

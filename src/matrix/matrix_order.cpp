@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace kav {
 namespace {
@@ -42,14 +43,29 @@ bool MayFollow(char left, char right) {
   });
 }
 
-bool NeighboursMatch(const MatrixTokens& tokens) {
+/// The first token that cannot stand behind the one before it: the count of tokens if the last
+/// cannot be the last, nullopt if all can stand.
+std::optional<std::size_t> FirstMisfit(const MatrixTokens& tokens) {
   char before = kNothing;
-  for (const MatrixToken& token : tokens) {
-    const char role = RoleOf(token);
-    if (!MayFollow(before, role)) return false;
+  for (std::size_t i = 0; i < tokens.size(); ++i) {
+    const char role = RoleOf(tokens[i]);
+    if (!MayFollow(before, role)) return i;
     before = role;
   }
-  return MayFollow(before, kNothing);
+  return MayFollow(before, kNothing) ? std::nullopt : std::optional(tokens.size());
+}
+
+/// The ")" that closes nothing or else the first "(" that nothing closes; nullopt if all match.
+std::optional<std::size_t> UnmatchedParenthesis(const MatrixTokens& tokens) {
+  std::vector<std::size_t> open;
+  for (std::size_t i = 0; i < tokens.size(); ++i) {
+    const char role = RoleOf(tokens[i]);
+    if (role == '(') open.push_back(i);
+    if (role != ')') continue;
+    if (open.empty()) return i;
+    open.pop_back();
+  }
+  return open.empty() ? std::nullopt : std::optional(open.front());
 }
 
 std::ptrdiff_t CountOf(char role, const MatrixTokens& tokens) {
@@ -63,8 +79,18 @@ std::optional<CalcError> CheckMatrixOrder(const MatrixTokens& tokens) {
   if (CountOf('(', tokens) != CountOf(')', tokens)) {
     return MakeError(CalcErrorCode::UnmatchedParentheses);
   }
-  if (!NeighboursMatch(tokens)) return MakeError(CalcErrorCode::Expression);
+  if (FirstMisfit(tokens)) return MakeError(CalcErrorCode::Expression);
   return std::nullopt;
+}
+
+std::size_t FaultyMatrixToken(const MatrixTokens& tokens) {
+  if (CountOf('(', tokens) != CountOf(')', tokens)) return *UnmatchedParenthesis(tokens);
+  const std::size_t misfit = FirstMisfit(tokens).value_or(0);
+  // What ends too early is at fault, not what ends it.
+  const bool isEnd = misfit == tokens.size() || RoleOf(tokens[misfit]) == ')';
+  const bool isCutShort =
+      isEnd && misfit > 0 && std::holds_alternative<MatrixOperator>(tokens[misfit - 1]);
+  return isCutShort ? misfit - 1 : misfit;
 }
 
 }  // namespace kav

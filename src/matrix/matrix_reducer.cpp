@@ -25,6 +25,12 @@ CalcError ExpressionError() {
   return MakeError(CalcErrorCode::Expression);
 }
 
+/// `error`, which is about the token of the number `token`.
+CalcError AboutToken(std::size_t token, CalcError error) {
+  error.place = TextPlace{token, 1};
+  return error;
+}
+
 bool IsOneOf(std::string_view symbols, const MatrixToken& token) {
   const auto* symbol = std::get_if<MatrixOperator>(&token);
   return symbol != nullptr && symbols.find(static_cast<char>(*symbol)) != symbols.npos;
@@ -71,7 +77,7 @@ class MatrixReducer {
   Failure ReduceGroup(std::size_t close) {
     std::size_t open = close;
     while (!Is(MatrixPunctuation::Open, tokens_[open])) {
-      if (open == 0) return ExpressionError();
+      if (open == 0) return AboutToken(close, ExpressionError());
       --open;
     }
     const Range inside{open + 1, close};
@@ -79,7 +85,10 @@ class MatrixReducer {
     UseUp(open);
     UseUp(close);
     const bool isCall = open > 0 && std::holds_alternative<MatrixFunction>(tokens_[open - 1]);
-    return isCall ? ReduceFunction(open - 1, inside) : std::nullopt;
+    if (!isCall) return std::nullopt;
+    auto failure = ReduceFunction(open - 1, inside);
+    if (failure) failure = AboutToken(open - 1, *std::move(failure));
+    return failure;
   }
 
   Failure ReduceOperators(Range range) {
@@ -95,7 +104,7 @@ class MatrixReducer {
     for (std::size_t i = range.end; i-- > range.first;) {
       if (!IsOneOf(kSums, tokens_[i]) || ValueBefore(i, range)) continue;
       const auto value = ValueAfter(i, range);
-      if (!value) return ExpressionError();
+      if (!value) return AboutToken(i, ExpressionError());
       if (auto failure = ReduceSign(i, *value)) return failure;
     }
     return std::nullopt;
@@ -117,8 +126,10 @@ class MatrixReducer {
       if (!IsOneOf(symbols, tokens_[i])) continue;
       const auto left = ValueBefore(i, range);
       const auto right = ValueAfter(i, range);
-      if (!left || !right) return ExpressionError();
-      if (auto failure = ReduceOperator(*left, i, *right)) return failure;
+      if (!left || !right) return AboutToken(i, ExpressionError());
+      if (auto failure = ReduceOperator(*left, i, *right)) {
+        return AboutToken(i, *std::move(failure));
+      }
     }
     return std::nullopt;
   }
@@ -213,7 +224,9 @@ class MatrixReducer {
   CalcResult<MatrixValue> TakeAnswer() {
     const Range all{0, tokens_.size()};
     const std::size_t only = FirstValue(all);
-    if (only == all.end || FirstValue({only + 1, all.end}) != all.end) return ExpressionError();
+    if (only == all.end) return ExpressionError();
+    const std::size_t spare = FirstValue({only + 1, all.end});
+    if (spare != all.end) return AboutToken(spare, ExpressionError());
     if (answer_) return *std::move(answer_);
     auto operand = Load(only);
     if (!operand) return NoRoomForMatrix();

@@ -13,7 +13,8 @@ namespace kav {
 /// later operation reads goes through a file, named after the place of the token that it replaces;
 /// the last operation's result needs none. All files are removed in the end. Fails with the first
 /// operation that cannot be done, with NoRoomForMatrix if a file cannot be written or read, and
-/// with CalcErrorCode::Expression if anything but one matrix is left.
+/// with CalcErrorCode::Expression if anything but one matrix is left. The place of a failure, if it
+/// has one, counts `tokens`, not characters.
 CalcResult<MatrixValue> ReduceMatrixTokens(MatrixTokens tokens, const Matrices& matrices,
                                            IntermediateMatrices& files);
 

@@ -89,12 +89,29 @@ CalcResult<MatrixTokens> TokenizeMatrixExpression(std::string_view text) {
   MatrixTokens tokens;
   TokenReader reader(text);
   for (reader.SkipBlanks(); !reader.AtEnd(); reader.SkipBlanks()) {
-    if (tokens.size() == kMostMatrixTokens) return MakeError(CalcErrorCode::LengthLimit);
-    auto token = ReadToken(reader);
-    if (!token) return std::move(token).error();
+    const char* const start = reader.Next();
+    auto token = tokens.size() == kMostMatrixTokens
+                     ? CalcResult<MatrixToken>(MakeError(CalcErrorCode::LengthLimit))
+                     : ReadToken(reader);
+    if (!token) {
+      CalcError error = std::move(token).error();
+      error.place = PlaceSince(start, reader, text);
+      return error;
+    }
     tokens.push_back(*std::move(token));
   }
   return tokens;
+}
+
+std::optional<TextPlace> PlaceOfMatrixToken(std::string_view text, std::size_t token) {
+  TokenReader reader(text);
+  for (reader.SkipBlanks(); !reader.AtEnd(); reader.SkipBlanks()) {
+    const char* const start = reader.Next();
+    if (!ReadToken(reader)) break;
+    if (token == 0) return PlaceSince(start, reader, text);
+    --token;
+  }
+  return std::nullopt;
 }
 
 }  // namespace kav

@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "support/shown.h"
 
 namespace kav::calc_error_test {
 namespace {
@@ -69,6 +74,81 @@ TEST(CalcError, AreEqualWhereCodeAndMessageAre) {
   EXPECT_NE(MakeError(CalcErrorCode::Free, "a"), MakeError(CalcErrorCode::Free, "b"));
   EXPECT_NE(MakeError(CalcErrorCode::Free, "Expression error."),
             MakeError(CalcErrorCode::Expression));
+}
+
+TEST(CalcError, ThePlaceTellsNoTwoApart) {
+  CalcError here = MakeError(CalcErrorCode::Expression);
+  here.place = TextPlace{1, 2};
+  EXPECT_EQ(here, MakeError(CalcErrorCode::Expression));
+}
+
+/// `text`, to which `error` belongs, with the place of the error in braces.
+std::string Marked(std::string text, const CalcError& error) {
+  if (!error.place) return "nowhere: " + text;
+  text.insert(error.place->position + error.place->length, "}");
+  return text.insert(error.place->position, "{");
+}
+
+/// Evaluates the rows, which are marked as Marked does it, without their braces.
+void ExpectPlaces(CalcModes modes, const std::vector<std::string>& rows) {
+  for (const std::string& row : rows) {
+    std::string text = row;
+    std::erase_if(text, [](char c) { return c == '{' || c == '}'; });
+    const auto answer = Evaluate(text, modes);
+    ASSERT_FALSE(answer) << row;
+    EXPECT_EQ(Marked(text, answer.error()), row);
+  }
+}
+
+TEST(CalcErrorPlace, IsWhatCannotBeRead) {
+  ExpectPlaces(test::kDegrees,
+               {"2+{foo}*3", "  {Foo}(2)", "3{$}", "1+{\xC3\xA4}+1", "1{<}2", "2*{1.2.3}-1",
+                "{1e5.2}", "1+ {sin}", "1+ {sin}  ", "2*{1234567890123456789012345678901}"});
+  ExpectPlaces(test::kBinary, {"101+{111111111111111111111111111111111}", "10{2}", "1 {and}",
+                               "1 {nand} 1", "1+{sin} 1"});
+  ExpectPlaces(test::kHexadecimal, {"A+{g}+1", "ff AND {123456789}"});
+}
+
+TEST(CalcErrorPlace, OfATokenTooManyIsThatToken) {
+  std::string ones = "1";
+  for (int i = 0; i < 75; ++i) ones += "+1";
+  ExpectPlaces(test::kDegrees, {ones + "{+}12"});
+}
+
+TEST(CalcErrorPlace, OfParenthesesIsTheOneWithoutAPartner) {
+  ExpectPlaces(test::kDegrees,
+               {"{(}1+2", "1+{(}(2)", "(1)+{(}2+(3", "{(}((1))", "1+2{)}", "(1){)}+(2)", "{)}+(("});
+  ExpectPlaces(test::kOctal, {"7*{(}7"});
+}
+
+TEST(CalcErrorPlace, OfAWrongOrderIsTheOffender) {
+  ExpectPlaces(test::kDegrees, {"1{+}", "2*(3{-})", "({*}2)", "{*}2", "4+{*}2", "2{(}3)", "(2){3}",
+                                "2{sin}30", "3!{!}", "1+({)}", "1 + 2 {/} "});
+  ExpectPlaces(test::kBinary, {"1 or {or} 1", "1{+}", "1 and {-}1", "{<<}1"});
+}
+
+TEST(CalcErrorPlace, OfACalculationIsItsOperatorOrFunction) {
+  ExpectPlaces(test::kDegrees,
+               {"1+1{/}0-2", "7{%}(1-1)", "8{>>}0", "2+{log}(0)", "{sqrt}-1", "3+({tan}90)",
+                "2+2.5{!}", "2{c}5", "5.5{p}2+1", "150{!}", "4*{/}2", "1e300{*}1e300", "10{^}400",
+                "{1e400}", "1+1e400{*}2", "2+({sin})", "{)}+(", "2 {3}", "5--1{/}0"});
+  ExpectPlaces(test::kHexadecimal, {"F AND F {/} 0", "1-(2 {>>} 0)"});
+}
+
+TEST(CalcErrorPlace, IsNowhereInATextOfBlanks) {
+  EXPECT_EQ(Evaluate(" ", test::kDegrees).error().place, std::nullopt);
+  EXPECT_EQ(Evaluate("", test::kDegrees).error().place, std::nullopt);
+}
+
+TEST(CalcErrorPlace, OfAFormulaIsInTheFormula) {
+  for (const std::string row : {"x+{foo}", "x*{y}", "2+x{(}3)", "{(}x", "X{+}"}) {
+    std::string text = row;
+    std::erase_if(text, [](char c) { return c == '{' || c == '}'; });
+    const auto formula = CheckFormula(text, VariableType::X);
+    ASSERT_FALSE(formula) << row;
+    EXPECT_EQ(Marked(text, formula.error()), row);
+  }
+  EXPECT_EQ(CheckFormula("1+1", VariableType::X).error().place, std::nullopt);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <optional>
 #include <string>
 
 #include "support/matrix_table.h"
@@ -99,6 +100,35 @@ TEST_F(MatrixEvaluatorTest, EveryMessage) {
   for (const auto& row : rows) {
     EXPECT_EQ(Told(row.text), std::string("error: ") + row.result) << row.text;
   }
+}
+
+TEST_F(MatrixEvaluatorTest, AFailureHasItsPlace) {
+  // In braces.
+  for (const std::string row :
+       {"[M1]+{[M4]}", " [M1]*{foo}([M2])", "[M1]{/}2", "{1.2.3}*[M1]", "[M1]+ {inverse} ",
+        "{(}([M1])", "([M1]){)}+[M1]", "[M1]{+}", "[M1]*([M1]{-})", "[M1]+{*}[M2]", "[M1]{(}[M2])",
+        "[M1],{[M2]}", "  [M1]-[M1] {+} [M3]", "2*[M1]{^}2.5", "1-{Determinant}([M3])",
+        "[M1]*{inverse}(2)", "[M1]{-}1e999+[M1]", "{)}+("}) {
+    std::string text = row;
+    std::erase_if(text, [](char c) { return c == '{' || c == '}'; });
+    const auto answer = MatrixEvaluator(matrices_, files_).Evaluate(text);
+    ASSERT_FALSE(answer) << row;
+    ASSERT_TRUE(answer.error().place) << row;
+    const auto [position, length] = *answer.error().place;
+    EXPECT_EQ(text.insert(position + length, "}").insert(position, "{"), row);
+  }
+  EXPECT_EQ(MatrixEvaluator(matrices_, files_).Evaluate("").error().place, std::nullopt);
+}
+
+TEST_F(MatrixEvaluatorTest, SignsBehindOperatorsBelongToTheOperandBehindThem) {
+  EXPECT_EQ(Told("[M1]--[M2]"), "3 2; 4 5");
+  EXPECT_EQ(Told("[M1]-2*-[M2]"), "5 2; 5 6");
+  EXPECT_EQ(Told("[M1]-[M2]--[M2]"), "1 2; 3 4");
+  EXPECT_EQ(Told("[M1]++[M2]"), "3 2; 4 5");
+  EXPECT_EQ(Told("5*[M1]---[M1]"), "4 8; 12 16");
+  EXPECT_EQ(Told("[M1]-2^-1"), "0.5 1.5; 2.5 3.5");
+  EXPECT_EQ(Told("[M1]--[M1]^2"), "-6 -8; -12 -18");
+  EXPECT_EQ(Told("[M1]--transpose([M1])"), "2 5; 5 8");
 }
 
 TEST_F(MatrixEvaluatorTest, TheCellsOfAResultThatOverflowsHoldTheMessage) {
