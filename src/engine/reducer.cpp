@@ -110,7 +110,7 @@ class Reduction {
 
   /// The levels that bind more tightly than a function whose argument has no parentheses.
   bool ReduceTightOperators(Range range, unsigned sweeps) {
-    return ((sweeps & kSigns) == 0 || (SweepMinus(range) && SweepPlus(range))) &&
+    return ((sweeps & kSigns) == 0 || (SweepSigns('-', range) && SweepSigns('+', range))) &&
            ((sweeps & kFactorials) == 0 || SweepFactorials(range)) &&
            ((sweeps & kSelections) == 0 || SweepBinary(range, kSelections)) &&
            ((sweeps & kPowers) == 0 || SweepPowers(range));
@@ -141,23 +141,26 @@ class Reduction {
     return true;
   }
 
-  /// The sweep ends at the first '-' that has an operand before it. Signs to the right of it stay,
-  /// so 2-3*-4 fails for want of an operand.
-  bool SweepMinus(Range range) {
+  /// A sign without an operand before it belongs to the operand behind it. Only if values stand
+  /// side by side, such a sign to the right of a binary one stays, since it may join the values:
+  /// 2--3 4 is 2-3-4.
+  bool SweepSigns(char sign, Range range) {
+    bool isBehindBinary = false;
     for (int i = range.first; i <= range.last; ++i) {
-      if (tokens_[i].symbol != '-') continue;
-      if (IsBinarySign(i, range)) break;
-      if (!ApplyPrefix(Operation::Negate, i, range)) return false;
+      if (tokens_[i].symbol != sign) continue;
+      if (IsBinarySign(i, range)) {
+        isBehindBinary = true;
+        continue;
+      }
+      if (isBehindBinary && HasValuesSideBySide()) break;
+      if (!ApplySign(i, range)) return false;
     }
     return true;
   }
 
-  bool SweepPlus(Range range) {
-    for (int i = range.first; i <= range.last; ++i) {
-      if (tokens_[i].symbol != '+') continue;
-      if (IsBinarySign(i, range)) break;
-      tokens_[i].symbol = 0;
-    }
+  bool ApplySign(int at, Range range) {
+    if (tokens_[at].symbol == '-') return ApplyPrefix(Operation::Negate, at, range);
+    tokens_[at].symbol = 0;
     return true;
   }
 
@@ -213,6 +216,19 @@ class Reduction {
     for (int i = sign - 1; i >= range.first; --i) {
       if (tokens_[i].isNumber != 0 || tokens_[i].symbol == '!') return true;
       if (tokens_[i].symbol != 0) return false;
+    }
+    return false;
+  }
+
+  /// Whether two values stand side by side anywhere. A function is one that is still to come.
+  bool HasValuesSideBySide() const {
+    bool isBehindValue = false;
+    for (int i = 0; i < tokens_.Count(); ++i) {
+      const CalcToken& token = tokens_[i];
+      const bool isNumber = token.isNumber != 0;
+      if (!isNumber && token.symbol == 0) continue;
+      if (isBehindValue && (isNumber || token.symbol == 'F')) return true;
+      isBehindValue = isNumber || token.symbol == ')';
     }
     return false;
   }

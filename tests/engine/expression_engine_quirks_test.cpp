@@ -34,18 +34,35 @@ TEST(Quirks, ANegativeExponentNeedsNoParentheses) {
   ExpectValues(kDegrees, {{"2^-1", 0.5}, {"4^-0.5", 0.5}, {"-2^-1", -0.5}, {"3*2^-1", 1.5}});
 }
 
-TEST(Quirks, ANegativeExponentBehindABinaryMinusIsAnError) {
-  ExpectMessages(kDegrees, {{"2-3^-4", kWrong}, {"1-2^-1", kWrong}});
-  ExpectValues(kDegrees, {{"2-3^(-1)*3", 1}});
+TEST(Quirks, ANegativeExponentBehindABinaryMinusNeedsNoParenthesesEither) {
+  ExpectValues(kDegrees, {{"10-2^-2", 9.75}, {"1-2^-1", 0.5}, {"2-3^(-1)*3", 1}});
+  // A loan of 250,000 over 30 years at 5 % a year.
+  const double growth = std::pow(1 + 0.05 / 12, -360);
+  ExpectValues(kDegrees,
+               {{"250000*(0.05/12)/(1-(1+0.05/12)^-360)", 250000 * (0.05 / 12) / (1 - growth)}});
 }
 
-TEST(Quirks, AMinusBehindABinaryMinusIsAnError) {
-  ExpectMessages(kDegrees, {{"2-3*-4", kWrong}, {"2--3", kWrong}, {"2-3/-4", kWrong}});
+TEST(Quirks, AMinusBehindAnOperatorBelongsToItsOperand) {
+  ExpectValues(kDegrees,
+               {{"5--3", 8},          {"2-3*-4", 14},    {"2--3", 5},        {"2-3/-4", 2.75},
+                {"5--3^2", -4},       {"5---3", 2},      {"5-+-3", 8},       {"5-3+-4", -2},
+                {"5-3--4", 6},        {"5+3-+4", 4},     {"5--(1-3)", 3},    {"(5--3)*-2", -16},
+                {"5-2c-sin(-90)", 3}, {"5--sin30", 5.5}, {"5--sin-30", 4.5}, {"sin30-2*-4", 8.5},
+                {"3!--2", 8},         {"9-7%-4", 6},     {"9-1<<+2", 5},     {"-5--5", 0}});
+  ExpectMessages(kDegrees, {{"3--2!", "! is not supported non-integer."},
+                            {"5--1/0", "Division exceeded calculation limit."},
+                            {"5-4*/-2", kWrong},
+                            {"5--4*/2", kWrong},
+                            {"2 3--4", kWrong},
+                            {"5--(sin)", kWrong}});
+  ExpectValues(kBinary, {{"101--11", 8}, {"10-11*-100", 14}, {"1 or 1-1--10", 2}});
+  ExpectValues(kHexadecimal, {{"f--1", 16}, {"f-2>>-1--1", 16}});
+  ExpectValues(kOctal, {{"17---2", 13}, {"5--not 0", 4}});
   ExpectValues(kDegrees, {{"2-3*(-4)", 14}, {"2-(-3)", 5}, {"2*-3-4", -10}, {"2+3*-4", -10}});
 }
 
-TEST(Quirks, APlusBehindABinaryPlusIsAnError) {
-  ExpectMessages(kDegrees, {{"2++3", kWrong}, {"2+3*+4", kWrong}});
+TEST(Quirks, APlusBehindAnOperatorBelongsToItsOperand) {
+  ExpectValues(kDegrees, {{"2++3", 5}, {"2+3*+4", 14}, {"2+++3", 5}, {"1+2-+3", 0}});
   ExpectValues(kDegrees, {{"2-+3", -1}, {"2+-3", -1}, {"2-3*+4", -10}, {"++3", 3}, {"--3", 3}});
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -12,6 +13,7 @@
 #include "support/effort.h"
 #include "support/locales.h"
 #include "support/plain_engine.h"
+#include "support/plain_tokens.h"
 #include "support/processor_time.h"
 #include "support/random_text.h"
 #include "support/shown.h"
@@ -69,6 +71,47 @@ TEST(RandomText, PiecesThrownTogetherGetTheAnswerOfTheRules) {
     for (int i = 0; i < Tries(50000); ++i) {
       const std::size_t most = i % 100 == 0 ? 80 : 1 + static_cast<std::size_t>(i % 9);
       ASSERT_NO_FATAL_FAILURE(ExpectPlainAnswer(thrower.Throw(most), modes));
+    }
+  }
+}
+
+/// Whether a sign of `tokens` stands behind an operator, and the same sign behind a value earlier.
+bool HasSignBehindBinaryOne(const test::PlainTokens& tokens) {
+  bool isBehind[2] = {false, false};
+  for (std::size_t i = 1; i < tokens.size(); ++i) {
+    const char symbol = tokens[i].symbol;
+    if (symbol != '+' && symbol != '-') continue;
+    bool& isBehindThis = isBehind[symbol == '+' ? 0 : 1];
+    const bool isBinary = std::string_view("V)!").find(tokens[i - 1].symbol) != std::string::npos;
+    if (!isBinary && isBehindThis) return true;
+    isBehindThis = isBehindThis || isBinary;
+  }
+  return false;
+}
+
+/// Of the rule that signs belong to their operand only up to the first binary one: every answer
+/// stays, and so does every message but those that such a sign causes.
+void ExpectNothingElseChanged(const std::string& text, CalcModes modes) {
+  const auto few = test::PlainEvaluate(text, modes, nullptr, test::PlainSigns::BeforeABinaryOne);
+  const auto answer = EvaluateFolded(text, modes);
+  const std::string message(MessageOf(answer));
+  if (message != few.message) {
+    ASSERT_NE(few.message, "") << text;
+    ASSERT_TRUE(HasSignBehindBinaryOne(test::ReadPlainTokens(text, modes.baseMode).tokens)) << text;
+  } else if (answer) {
+    ASSERT_EQ(BitsOf(*answer), BitsOf(few.value)) << text;
+  }
+}
+
+// KAV_SIGN_LINES asks for more of them, ten million for example.
+TEST(RandomText, SignsBehindABinaryOneChangeNothingElse) {
+  const char* asked = std::getenv("KAV_SIGN_LINES");
+  const int lines = asked == nullptr ? Tries(100000) : std::atoi(asked);
+  for (const CalcModes modes : kModes) {
+    test::OrderedWriter writer(39, modes.baseMode);
+    for (int i = 0; i < lines / 5; ++i) {
+      ASSERT_NO_FATAL_FAILURE(
+          ExpectNothingElseChanged(writer.Write(1 + static_cast<std::size_t>(i % 12)), modes));
     }
   }
 }

@@ -143,15 +143,18 @@ TEST(Reducer, SignsPileUp) {
                {"-(2)-3", "neg 2; sub 2 5; finish 2"}});
 }
 
-// The sweep of signs ends at the first one between two operands. What follows fails for want of an
-// operand, unless parentheses or a function give it a sweep of its own.
-TEST(Reducer, SignsBehindABinarySignStay) {
-  ExpectSteps({{"2-3*-4", "mul 2 5; sub 0 2; fail"},
-               {"2--3", "sub 0 3; fail"},
-               {"2++3", "add 0 3; fail"},
-               {"2+3*+4", "mul 2 5; add 0 2; fail"},
-               {"2-3^-4", "lastpow 2 5; sub 0 2; fail"},
-               {"3!-2*-1", "fact 0; mul 3 6; sub 0 3; fail"},
+TEST(Reducer, SignsBehindABinarySignBelongToTheOperandBehindThem) {
+  ExpectSteps({{"2-3*-4", "neg 5; mul 2 5; sub 0 2; finish 0"},
+               {"2--3", "neg 3; sub 0 3; finish 0"},
+               {"2---3", "neg 4; neg 4; sub 0 4; finish 0"},
+               {"2-+-3", "neg 4; sub 0 4; finish 0"},
+               {"2++3", "add 0 3; finish 0"},
+               {"2+3*+4", "mul 2 5; add 0 2; finish 0"},
+               {"2-3^-4", "neg 5; lastpow 2 5; sub 0 2; finish 0"},
+               {"3!-2*-1", "neg 6; fact 0; mul 3 6; sub 0 3; finish 0"},
+               {"2-3-4*-5", "neg 7; mul 4 7; sub 0 2; sub 0 4; finish 0"},
+               {"sin1-2*-3", "neg 6; sin 1; mul 3 6; sub 1 3; finish 1"},
+               {"2-3*-sin30", "sin 6; neg 6; mul 2 6; sub 0 2; finish 0"},
                {"2-3*(-4)", "neg 6; mul 2 6; sub 0 2; finish 0"},
                {"2-3*sin-30", "neg 6; sin 6; mul 2 6; sub 0 2; finish 0"},
                {"2-3*+4", "mul 2 5; sub 0 2; finish 0"}});
@@ -177,7 +180,9 @@ TEST(Reducer, ValuesLeftSideBySideFail) {
 // An operand too many can serve an operator that has one too few.
 TEST(Reducer, ASpareValueServesASpareOperator) {
   ExpectSteps({{"4*/2 3", "mul 0 3; div 0 4; finish 0"},
-               {"2-3*-4 5", "mul 2 5; sub 0 2; sub 0 6; finish 0"}});
+               {"2-3*-4 5", "mul 2 5; sub 0 2; sub 0 6; finish 0"},
+               {"2--(3)sin30", "sin 7; sub 0 4; sub 0 7; finish 0"},
+               {"2++3 4", "add 0 3; add 0 4; finish 0"}});
 }
 
 TEST(Reducer, AGroupThatIsNotOpenedFails) {
@@ -210,11 +215,13 @@ TEST(Reducer, NotBindsMostTightly) {
               BaseMode::Binary);
 }
 
-TEST(Reducer, SignsInABaseEndTheSameWay) {
+TEST(Reducer, SignsInABaseBelongTheSameWay) {
   ExpectSteps({{"--1", "neg 2; neg 2; finish 2"},
                {"1+-1", "neg 3; add 0 3; finish 0"},
-               {"1--1", "sub 0 3; fail"},
-               {"1-1*-1", "mul 2 5; sub 0 2; fail"}},
+               {"1--1", "neg 3; sub 0 3; finish 0"},
+               {"1-1*-1", "neg 5; mul 2 5; sub 0 2; finish 0"},
+               {"1--not 1", "not 4; neg 4; sub 0 4; finish 0"},
+               {"1--1 1", "sub 0 3; sub 0 4; finish 0"}},
               BaseMode::Binary);
 }
 

@@ -11,7 +11,8 @@ namespace {
 /// Reduces tokens whose order is right.
 class PlainReduction {
  public:
-  PlainReduction(PlainTokens tokens, CalcModes modes) : t_(std::move(tokens)), modes_(modes) {}
+  PlainReduction(PlainTokens tokens, CalcModes modes, PlainSigns signs)
+      : t_(std::move(tokens)), modes_(modes), signs_(signs) {}
 
   PlainAnswer Run() {
     ReduceGroups();
@@ -114,19 +115,31 @@ class PlainReduction {
   }
 
   void Signs(Index from, Index to, char sign) {
+    bool isBehindBinary = false;
     for (Index i = from; i <= to && !Failed(); ++i) {
       if (At(i).symbol != sign) continue;
       Index before = i - 1;
       while (before >= from && At(before).symbol == 0) --before;
       const bool isBinary =
           before >= from && (At(before).symbol == 'V' || At(before).symbol == '!');
-      if (isBinary) return;
+      isBehindBinary = isBehindBinary || isBinary;
+      if (isBehindBinary && (signs_ == PlainSigns::BeforeABinaryOne || HasSideBySide())) return;
+      if (isBinary) continue;
       if (sign == '-') {
         const Index operand = Seek(i, 1, to);
         if (!Failed()) At(operand).value *= -1.0;
       }
       At(i).symbol = 0;
     }
+  }
+
+  bool HasSideBySide() const {
+    std::string live;
+    for (const PlainToken& token : t_) {
+      if (token.symbol != 0) live += token.symbol;
+    }
+    return live.find("VV") != live.npos || live.find("VF") != live.npos ||
+           live.find(")F") != live.npos;
   }
 
   void Factorials(Index from, Index to) {
@@ -210,18 +223,20 @@ class PlainReduction {
 
   PlainTokens t_;
   CalcModes modes_;
+  PlainSigns signs_;
   std::string message_;
   std::pair<double, double> lastPower_;
 };
 
 }  // namespace
 
-PlainAnswer PlainEvaluate(std::string_view text, CalcModes modes, const PlainVariables* variables) {
+PlainAnswer PlainEvaluate(std::string_view text, CalcModes modes, const PlainVariables* variables,
+                          PlainSigns signs) {
   const PlainText read = ReadPlainTokens(text, modes.baseMode, variables);
   if (!read.message.empty()) return {0, read.message};
   const std::string message = PlainOrderMessage(read.tokens, modes.baseMode);
   if (!message.empty()) return {0, message};
-  return PlainReduction(read.tokens, modes).Run();
+  return PlainReduction(read.tokens, modes, signs).Run();
 }
 
 }  // namespace kav::test

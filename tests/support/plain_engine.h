@@ -16,8 +16,13 @@ struct PlainAnswer {
   std::string message;
 };
 
+/// Which signs belong to the operand behind them: only those before the first binary one, or all
+/// that have no operand before them, unless values stand side by side.
+enum class PlainSigns { BeforeABinaryOne, All };
+
 /// What `text`, with its case folded already, comes to; with `variables` it may use x, y and z.
 PlainAnswer PlainEvaluate(std::string_view text, CalcModes modes,
-                          const PlainVariables* variables = nullptr);
+                          const PlainVariables* variables = nullptr,
+                          PlainSigns signs = PlainSigns::All);
 
 }  // namespace kav::test

@@ -107,7 +107,7 @@ void CMatrixDlg::ShowMatrix() {
   }
   grid_.Show();
   // Longer texts may need more of a wide window.
-  if (isVisible() && grid_.NeedsOtherPlace(size())) LayOutAll();
+  if (isVisible() && grid_.NeedsOtherPlace(ScreenPart().size())) LayOutAll();
 }
 
 QRect CMatrixDlg::Area() const {
