@@ -86,20 +86,23 @@ std::optional<CalcError> ReadToken(TokenReader& reader, BaseMode base, const Bas
   return std::nullopt;
 }
 
+CalcResult<TokenArray> ReadAll(std::string_view text, BaseMode base,
+                               int most = TokenArray::kCapacity) {
+  const BaseRules rules = RulesOf(base);
+  const auto read = [&](TokenReader& reader, TokenArray& tokens) {
+    return ReadToken(reader, base, rules, tokens);
+  };
+  return ReadTokens(text, read, most);
+}
+
 }  // namespace
 
 CalcResult<TokenArray> TokenizeInBase(std::string_view text, BaseMode base) {
-  const BaseRules rules = RulesOf(base);
-  return ReadTokens(text, [&](TokenReader& reader, TokenArray& tokens) {
-    return ReadToken(reader, base, rules, tokens);
-  });
+  return ReadAll(text, base);
 }
 
 std::optional<TextPlace> PlaceOfTokenInBase(std::string_view text, int token, BaseMode base) {
-  const BaseRules rules = RulesOf(base);
-  return FindToken(text, token, [&](TokenReader& reader, TokenArray& tokens) {
-    return ReadToken(reader, base, rules, tokens);
-  });
+  return PlaceBetween(ReadAll(text, base, token), ReadAll(text, base, token + 1), text);
 }
 
 }  // namespace kav

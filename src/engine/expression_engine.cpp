@@ -24,9 +24,8 @@ CalcResult<double> EvaluateFolded(std::string_view text, CalcModes modes) {
   const BaseMode base = modes.baseMode;
   auto tokens = base == BaseMode::Decimal ? Tokenize(text) : TokenizeInBase(text, base);
   if (!tokens) return std::move(tokens).error();
-  if (auto error = CheckOrder(*tokens, base)) {
-    return AboutToken(FaultyToken(*tokens, base), *std::move(error), text, base);
-  }
+  const int faulty = FaultyToken(*tokens, base);
+  if (faulty >= 0) return AboutToken(faulty, *CheckOrder(*tokens, base), text, base);
   SlotValues values;
   values.front() = 0;  // It is looked at even if blanks alone made no token.
   for (int i = 0; i < tokens->Count(); ++i) {

@@ -110,7 +110,7 @@ class Reduction {
 
   /// The levels that bind more tightly than a function whose argument has no parentheses.
   bool ReduceTightOperators(Range range, unsigned sweeps) {
-    return ((sweeps & kSigns) == 0 || (SweepSigns('-', range) && SweepSigns('+', range))) &&
+    return ((sweeps & kSigns) == 0 || SweepSigns(range)) &&
            ((sweeps & kFactorials) == 0 || SweepFactorials(range)) &&
            ((sweeps & kSelections) == 0 || SweepBinary(range, kSelections)) &&
            ((sweeps & kPowers) == 0 || SweepPowers(range));
@@ -142,18 +142,20 @@ class Reduction {
   }
 
   /// A sign without an operand before it belongs to the operand behind it. Only if values stand
-  /// side by side, such a sign to the right of a binary one stays, since it may join the values:
-  /// 2--3 4 is 2-3-4.
-  bool SweepSigns(char sign, Range range) {
-    bool isBehindBinary = false;
+  /// side by side, such a sign to the right of the same binary one stays, since it may join the
+  /// values: 2--3 4 is 2-3-4.
+  bool SweepSigns(Range range) {
+    bool isBehindMinus = false;
+    bool isBehindPlus = false;
     for (int i = range.first; i <= range.last; ++i) {
-      if (tokens_[i].symbol != sign) continue;
+      const char symbol = tokens_[i].symbol;
+      if (symbol != '-' && symbol != '+') continue;
+      bool& isBehindBinary = symbol == '-' ? isBehindMinus : isBehindPlus;
       if (IsBinarySign(i, range)) {
         isBehindBinary = true;
-        continue;
+      } else if (!(isBehindBinary && HasValuesSideBySide()) && !ApplySign(i, range)) {
+        return false;
       }
-      if (isBehindBinary && HasValuesSideBySide()) break;
-      if (!ApplySign(i, range)) return false;
     }
     return true;
   }
@@ -167,7 +169,7 @@ class Reduction {
   bool SweepFactorials(Range range) {
     for (int i = range.first; i <= range.last; ++i) {
       if (tokens_[i].symbol != '!') continue;
-      const int operand = PreviousOperand(i, range.first);
+      const int operand = PreviousOperand(i - 1, range.first);
       if (operand == kNone) return Fail(Operation::FailNeedsArgument, i);
       Write(Operation::Factorial, i, operand);
       tokens_[i].symbol = 0;
@@ -193,8 +195,8 @@ class Reduction {
   }
 
   bool ApplyBinary(int at, Range range) {
-    const int left = PreviousOperand(at, range.first);
-    const int right = NextOperand(at, range.last);
+    const int left = PreviousOperand(at - 1, range.first);
+    const int right = NextOperand(at + 1, range.last);
     if (left == kNone || right == kNone) return Fail(Operation::FailExpression, at);
     Write(symbols_.operations[SymbolIndex(tokens_[at].symbol)], at, left, right);
     tokens_[at].symbol = 0;
@@ -204,7 +206,7 @@ class Reduction {
   }
 
   bool ApplyPrefix(Operation operation, int at, Range range) {
-    const int operand = NextOperand(at, range.last);
+    const int operand = NextOperand(at + 1, range.last);
     if (operand == kNone) return Fail(Operation::FailExpression, at);
     Write(operation, at, operand);
     tokens_[at].symbol = 0;

@@ -64,10 +64,15 @@ static_assert(OperationOf(FunctionCode::Frac) == Operation::Frac,
 /// One step: slot `target` takes the result of the operation on slots `target` and `right` (the
 /// latter only if the operation has two operands). A slot has the number of its token.
 struct Step {
+  Step() = default;  // Sets nothing: lists of steps are filled as far as they are used.
+  constexpr Step(Operation what, std::uint8_t targetSlot, std::uint8_t rightSlot,
+                 std::uint8_t about = 0)
+      : operation(what), target(targetSlot), right(rightSlot), token(about) {}
+
   Operation operation;
   std::uint8_t target;
   std::uint8_t right;
-  std::uint8_t token = 0;  ///< that a failure of the step is about: its operator or function
+  std::uint8_t token;  ///< that a failure of the step is about: its operator or function
 };
 
 /// The values of all tokens of a text, by slot; meaningless if the token is no operand.

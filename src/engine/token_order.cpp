@@ -133,21 +133,18 @@ int FirstMisfit(const TokenArray& tokens, const OrderTable& order) {
   return Contains(mayFollow, kBeyond) ? kNone : tokens.Count();
 }
 
-const OrderTable& TableOf(BaseMode base) {
-  return base == BaseMode::Decimal ? kDecimal : kInteger;
-}
-
 }  // namespace
 
 std::optional<CalcError> CheckOrder(const TokenArray& tokens, BaseMode base) {
-  if (!ParenthesesMatch(tokens)) return MakeError(CalcErrorCode::UnmatchedParentheses);
-  if (FirstMisfit(tokens, TableOf(base)) != kNone) return MakeError(CalcErrorCode::Expression);
-  return std::nullopt;
+  if (FaultyToken(tokens, base) == kNone) return std::nullopt;
+  return MakeError(ParenthesesMatch(tokens) ? CalcErrorCode::Expression
+                                            : CalcErrorCode::UnmatchedParentheses);
 }
 
 int FaultyToken(const TokenArray& tokens, BaseMode base) {
   if (!ParenthesesMatch(tokens)) return UnmatchedParenthesis(tokens);
-  const int misfit = FirstMisfit(tokens, TableOf(base));
+  const int misfit = FirstMisfit(tokens, base == BaseMode::Decimal ? kDecimal : kInteger);
+  if (misfit == kNone) return kNone;
   // What ends too early is at fault, not what ends it.
   const bool isEnd = misfit == tokens.Count() || tokens[misfit].symbol == ')';
   const bool isCutShort = isEnd && misfit > 0 && tokens[misfit - 1].kind == TokenKind::Operator;

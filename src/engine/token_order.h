@@ -14,7 +14,8 @@ namespace kav {
 std::optional<CalcError> CheckOrder(const TokenArray& tokens, BaseMode base);
 
 /// The token that a failure of CheckOrder is about: the first '(' that is never closed or the ')'
-/// that closes none, an operator without an operand, or one that does not fit what is before it.
+/// that closes none, an operator without an operand, or one that does not fit what is before it;
+/// -1 if nothing fails.
 int FaultyToken(const TokenArray& tokens, BaseMode base);
 
 }  // namespace kav

@@ -18,6 +18,14 @@ TextPlace PlaceSince(const char* start, const TokenReader& reader, std::string_v
   return {position, token.empty() ? Utf8Length(text.substr(position)) : token.size()};
 }
 
+std::optional<TextPlace> PlaceBetween(const CalcResult<TokenArray>& before,
+                                      const CalcResult<TokenArray>& with, std::string_view text) {
+  if (before || !before.error().place) return std::nullopt;
+  const std::size_t start = before.error().place->position;
+  const std::size_t end = with || !with.error().place ? text.size() : with.error().place->position;
+  return TextPlace{start, TrimBlanks(text.substr(start, end - start)).size()};
+}
+
 CalcError UnsupportedCharacter(const TokenReader& reader) {
   const std::string_view rest = reader.Rest();
   return MakeError(CalcErrorCode::NotSupported, rest.substr(0, Utf8Length(rest)));

@@ -50,10 +50,11 @@ class TokenReader {
 TextPlace PlaceSince(const char* start, const TokenReader& reader, std::string_view text);
 
 /// Cuts `text` into tokens. `readToken(reader, tokens)` appends the token that comes next or
-/// answers why it cannot. Fails if `text` is empty, with what `readToken` answers, or with a token
-/// too many; the last two with their place.
+/// answers why it cannot. There is room for `most`. Fails if `text` is empty, with what `readToken`
+/// answers, or with a token too many; the last two with their place.
 template <class ReadToken>
-CalcResult<TokenArray> ReadTokens(std::string_view text, ReadToken readToken) {
+CalcResult<TokenArray> ReadTokens(std::string_view text, ReadToken readToken,
+                                  int most = TokenArray::kCapacity) {
   CalcResult<TokenArray> tokens = TokenArray();  // Returned as it is, never copied.
   std::optional<CalcError> error;
   if (text.empty()) error = MakeError(CalcErrorCode::NullExpression);
@@ -61,27 +62,19 @@ CalcResult<TokenArray> ReadTokens(std::string_view text, ReadToken readToken) {
   const char* start = nullptr;
   for (reader.SkipBlanks(); !error && !reader.AtEnd(); reader.SkipBlanks()) {
     start = reader.Next();
-    error = tokens->IsFull() ? MakeError(CalcErrorCode::LengthLimit) : readToken(reader, *tokens);
+    error = tokens->Count() >= most ? MakeError(CalcErrorCode::LengthLimit)
+                                    : readToken(reader, *tokens);
   }
   if (error && start != nullptr) error->place = PlaceSince(start, reader, text);
   if (error) tokens = *std::move(error);
   return tokens;
 }
 
-/// Where the token of the number `wanted` (from 0) stands in `text`, whose tokens up to that one
-/// can be read; nullopt if there are fewer. To read twice what failed costs nothing as long as
-/// nothing fails, while places kept with the tokens would cost every line.
-template <class ReadToken>
-std::optional<TextPlace> FindToken(std::string_view text, int wanted, ReadToken readToken) {
-  TokenArray tokens;
-  TokenReader reader(text);
-  for (reader.SkipBlanks(); !reader.AtEnd(); reader.SkipBlanks()) {
-    const char* const start = reader.Next();
-    if (tokens.IsFull() || readToken(reader, tokens)) break;
-    if (tokens.Count() > wanted) return PlaceSince(start, reader, text);
-  }
-  return std::nullopt;
-}
+/// Where a token stands in `text`, cut once with room for the tokens before it alone, and once with
+/// room for it too: up to the next token, without blanks. nullopt if there is no such token. To cut
+/// again what failed costs nothing as long as nothing fails; a place in each token would.
+std::optional<TextPlace> PlaceBetween(const CalcResult<TokenArray>& before,
+                                      const CalcResult<TokenArray>& with, std::string_view text);
 
 /// Reads a run of '<' and '>': exactly "<<" or ">>" is a shift, any other run is not supported.
 std::optional<CalcError> ReadShift(TokenReader& reader, TokenArray& tokens);

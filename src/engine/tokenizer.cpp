@@ -157,10 +157,12 @@ std::optional<CalcError> ReadToken(TokenReader& reader, TokenArray& tokens, Vari
   return std::nullopt;
 }
 
-CalcResult<TokenArray> ReadAll(std::string_view text, Variables& variables) {
-  return ReadTokens(text, [&](TokenReader& reader, TokenArray& tokens) {
+CalcResult<TokenArray> ReadAll(std::string_view text, Variables& variables,
+                               int most = TokenArray::kCapacity) {
+  const auto read = [&](TokenReader& reader, TokenArray& tokens) {
     return ReadToken(reader, tokens, variables);
-  });
+  };
+  return ReadTokens(text, read, most);
 }
 
 }  // namespace
@@ -181,9 +183,7 @@ CalcResult<TokenArray> TokenizeFormula(std::string_view text, VariableType type)
 std::optional<TextPlace> PlaceOfToken(std::string_view text, int token) {
   // In a text without variables none is met before `token`.
   Variables all(VariableType::XYZ);
-  return FindToken(text, token, [&](TokenReader& reader, TokenArray& tokens) {
-    return ReadToken(reader, tokens, all);
-  });
+  return PlaceBetween(ReadAll(text, all, token), ReadAll(text, all, token + 1), text);
 }
 
 }  // namespace kav
