@@ -103,9 +103,9 @@ void ExpectNothingElseChanged(const std::string& text, CalcModes modes) {
   }
 }
 
-// KAV_SIGN_LINES asks for more of them, ten million for example.
+// KAV_TEST_SIGN_LINES asks for more of them, ten million for example.
 TEST(RandomText, SignsBehindABinaryOneChangeNothingElse) {
-  const char* asked = std::getenv("KAV_SIGN_LINES");
+  const char* asked = std::getenv("KAV_TEST_SIGN_LINES");
   const int lines = asked == nullptr ? Tries(100000) : std::atoi(asked);
   for (const CalcModes modes : kModes) {
     test::OrderedWriter writer(39, modes.baseMode);
