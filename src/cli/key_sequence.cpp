@@ -101,8 +101,12 @@ std::optional<std::string> KeySequence::CarryOut(const ScientificRequest& reques
 }
 
 void KeySequence::Type(std::string_view text) {
+  std::u16string typed = Widen(text);
+  // As at a keyboard, where it comes before the rest.
+  if (!typed.empty() && screen_.TypeOperator(typed.front())) typed.erase(0, 1);
+  if (typed.empty() && !text.empty()) return;
   ExpressionLine line = screen_.Line();
-  line.InsertText(Widen(text));
+  line.InsertText(typed);
   screen_.SetLine(line.Text(), line.Selected());
 }
 

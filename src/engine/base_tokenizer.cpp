@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "common/ascii.h"
+#include "engine/function_names.h"
 #include "engine/token_reader.h"
 
 namespace kav {
@@ -60,9 +61,20 @@ std::optional<CalcError> ReadWord(TokenReader& reader, BaseMode base, TokenArray
   return std::nullopt;
 }
 
+/// Whether the word "ans" stands next. Its first letter is a digit in hexadecimal.
+bool IsAnswerNext(const TokenReader& reader) {
+  TokenReader ahead = reader;
+  return ahead.TakeWord() == kAnswerWord;
+}
+
 std::optional<CalcError> ReadToken(TokenReader& reader, BaseMode base, const BaseRules& rules,
-                                   TokenArray& tokens) {
+                                   std::optional<double> answer, TokenArray& tokens) {
   const char c = reader.Peek();
+  if (answer && IsAnswerNext(reader)) {
+    tokens.Append(NumberToken(*answer));
+    reader.TakeWord();
+    return std::nullopt;
+  }
   if (DigitValue(c) < rules.radix) return ReadNumber(reader, rules, tokens);
   if (IsLetter(c)) return ReadWord(reader, base, tokens);
   switch (c) {
@@ -86,23 +98,25 @@ std::optional<CalcError> ReadToken(TokenReader& reader, BaseMode base, const Bas
   return std::nullopt;
 }
 
-CalcResult<TokenArray> ReadAll(std::string_view text, BaseMode base,
+CalcResult<TokenArray> ReadAll(std::string_view text, BaseMode base, std::optional<double> answer,
                                int most = TokenArray::kCapacity) {
   const BaseRules rules = RulesOf(base);
   const auto read = [&](TokenReader& reader, TokenArray& tokens) {
-    return ReadToken(reader, base, rules, tokens);
+    return ReadToken(reader, base, rules, answer, tokens);
   };
   return ReadTokens(text, read, most);
 }
 
 }  // namespace
 
-CalcResult<TokenArray> TokenizeInBase(std::string_view text, BaseMode base) {
-  return ReadAll(text, base);
+CalcResult<TokenArray> TokenizeInBase(std::string_view text, BaseMode base,
+                                       std::optional<double> answer) {
+  return ReadAll(text, base, answer);
 }
 
 std::optional<TextPlace> PlaceOfTokenInBase(std::string_view text, int token, BaseMode base) {
-  return PlaceBetween(ReadAll(text, base, token), ReadAll(text, base, token + 1), text);
+  // In a text without an answer none is met before `token`.
+  return PlaceBetween(ReadAll(text, base, 0, token), ReadAll(text, base, 0, token + 1), text);
 }
 
 }  // namespace kav

@@ -1,7 +1,8 @@
-// What a calculation depends on besides its text: the angle unit and the number base.
+// What a calculation depends on besides its text: the angle unit, the number base, the last answer.
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace kav {
 
@@ -29,6 +30,8 @@ constexpr BaseMode BaseModeFromSetting(std::int32_t stored) {
 struct CalcModes {
   AngleUnit angleUnit = AngleUnit::Degrees;
   BaseMode baseMode = BaseMode::Decimal;
+  /// The number that the word "ans" stands for; without one, "ans" is a word like any unknown one.
+  std::optional<double> answer = {};
 };
 
 }  // namespace kav

@@ -22,7 +22,8 @@ CalcError AboutToken(int token, CalcError error, std::string_view text, BaseMode
 
 CalcResult<double> EvaluateFolded(std::string_view text, CalcModes modes) {
   const BaseMode base = modes.baseMode;
-  auto tokens = base == BaseMode::Decimal ? Tokenize(text) : TokenizeInBase(text, base);
+  auto tokens = base == BaseMode::Decimal ? Tokenize(text, modes.answer)
+                                          : TokenizeInBase(text, base, modes.answer);
   if (!tokens) return std::move(tokens).error();
   const int faulty = FaultyToken(*tokens, base);
   if (faulty >= 0) return AboutToken(faulty, *CheckOrder(*tokens, base), text, base);

@@ -1,4 +1,4 @@
-// The functions of the engine: their names, and their codes in tokens.
+// The words of the engine: the names of functions, with their codes in tokens, and of numbers.
 #pragma once
 
 #include <array>
@@ -13,6 +13,10 @@ struct FunctionName {
   std::string_view name;
   FunctionCode code;
 };
+
+/// The last answer, where there is one.
+inline constexpr std::string_view kAnswerWord = "ans";
+inline constexpr std::string_view kPiWord = "pi";
 
 /// All functions, in the order in which lists show them.
 inline constexpr std::array kFunctionNames{

@@ -19,11 +19,13 @@ CalcError FreeError(std::string_view message) {
   return MakeError(CalcErrorCode::Free, message);
 }
 
-/// The variables of a formula and which of them it has used. Plain text has none.
+/// The variables of a formula and which of them it has used. Plain text has none, but may have an
+/// answer.
 class Variables {
  public:
-  Variables() = default;
-  explicit Variables(VariableType type) : count_(static_cast<std::size_t>(type) + 1) {}
+  explicit Variables(std::optional<double> answer) : answer_(answer) {}
+  explicit Variables(VariableType type, std::optional<double> answer = {})
+      : count_(static_cast<std::size_t>(type) + 1), answer_(answer) {}
 
   bool IsVariable(std::string_view word) const {
     return count_ != 0 && word.size() == 1 && word.front() >= 'x' && word.front() <= 'z';
@@ -36,6 +38,8 @@ class Variables {
     used_[index] = true;
     return std::nullopt;
   }
+  /// What the word "ans" stands for.
+  std::optional<double> LastAnswer() const { return answer_; }
   std::optional<CalcError> CheckAllUsed() const {
     constexpr std::array<std::string_view, 3> kMissing{"Argument error : Missing variable X",
                                                        "Argument error : Missing variable Y",
@@ -49,6 +53,7 @@ class Variables {
  private:
   std::size_t count_ = 0;
   std::array<bool, 3> used_{};
+  std::optional<double> answer_;
 };
 
 /// The characters of a number: digits, '.', 'e', and a sign right after an 'e'.
@@ -114,8 +119,12 @@ std::optional<CalcError> ReadFunction(std::string_view word, TokenReader& reader
 
 std::optional<CalcError> ReadWord(TokenReader& reader, TokenArray& tokens, Variables& variables) {
   const std::string_view word = reader.TakeWord();
-  if (word == "pi") {
+  if (word == kPiWord) {
     tokens.Append(NumberToken(kPi));
+    return std::nullopt;
+  }
+  if (word == kAnswerWord && variables.LastAnswer()) {
+    tokens.Append(NumberToken(*variables.LastAnswer()));
     return std::nullopt;
   }
   if (word == "p" || word == "c") {
@@ -167,8 +176,8 @@ CalcResult<TokenArray> ReadAll(std::string_view text, Variables& variables,
 
 }  // namespace
 
-CalcResult<TokenArray> Tokenize(std::string_view text) {
-  Variables none;
+CalcResult<TokenArray> Tokenize(std::string_view text, std::optional<double> answer) {
+  Variables none(answer);
   return ReadAll(text, none);
 }
 
@@ -181,8 +190,8 @@ CalcResult<TokenArray> TokenizeFormula(std::string_view text, VariableType type)
 }
 
 std::optional<TextPlace> PlaceOfToken(std::string_view text, int token) {
-  // In a text without variables none is met before `token`.
-  Variables all(VariableType::XYZ);
+  // In a text without variables, or without an answer, none is met before `token`.
+  Variables all(VariableType::XYZ, 0);
   return PlaceBetween(ReadAll(text, all, token), ReadAll(text, all, token + 1), text);
 }
 

@@ -13,8 +13,9 @@ namespace kav {
 enum class VariableType { X = 0, XY = 1, XYZ = 2 };
 
 /// Cuts `text` (in lower case) into tokens. Fails if it is empty, or with the first number, word or
-/// character that cannot stand, or with the 152nd token.
-CalcResult<TokenArray> Tokenize(std::string_view text);
+/// character that cannot stand, or with the 152nd token. The word "ans" is `answer`, if there is
+/// one.
+CalcResult<TokenArray> Tokenize(std::string_view text, std::optional<double> answer = {});
 
 /// The same for a formula: "x", "y" and "z" become variable tokens. A variable that `type` lacks is
 /// refused where it stands, one that `type` has and the formula does not use at the end.

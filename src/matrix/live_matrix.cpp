@@ -54,11 +54,12 @@ std::u16string OrderText(const MatrixValue& matrix) {
 
 }  // namespace
 
-std::optional<std::u16string> LiveOrder(std::u16string_view line, const Matrices& matrices) {
+std::optional<std::u16string> LiveOrder(std::u16string_view line, const Matrices& matrices,
+                                        std::optional<double> answer) {
   if (line.size() > kLongestLiveLine || !HasSmallExponents(line)) return std::nullopt;
   if (FirstInvalidMatrix(line, matrices)) return std::nullopt;
   FewMatrices intermediate;
-  const auto result = MatrixEvaluator(matrices, intermediate).Evaluate(Narrow(line));
+  const auto result = MatrixEvaluator(matrices, intermediate).Evaluate(Narrow(line), answer);
   return result ? std::optional(OrderText(*result)) : std::nullopt;
 }
 

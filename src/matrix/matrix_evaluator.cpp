@@ -13,10 +13,11 @@
 
 namespace kav {
 
-CalcResult<MatrixValue> MatrixEvaluator::Evaluate(std::string_view text) {
+CalcResult<MatrixValue> MatrixEvaluator::Evaluate(std::string_view text,
+                                                  std::optional<double> answer) {
   const std::string folded = FoldCase(text, BaseMode::Decimal);
   if (TrimBlanks(folded).empty()) return MakeError(CalcErrorCode::NullExpression);
-  auto tokens = TokenizeMatrixExpression(folded);
+  auto tokens = TokenizeMatrixExpression(folded, answer);
   if (!tokens) return std::move(tokens).error();
   if (auto error = CheckMatrixOrder(*tokens)) {
     error->place = PlaceOfMatrixToken(folded, FaultyMatrixToken(*tokens));

@@ -1,6 +1,7 @@
 // Matrix expressions, from their text to their result.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "engine/calc_error.h"
@@ -18,8 +19,8 @@ class MatrixEvaluator {
 
   /// The matrix that `text` (UTF-8) stands for; the case of letters does not count. Fails with an
   /// error of the engine or of matrix_error.h, with its place in `text` if it has one. Either way
-  /// it leaves no file behind.
-  CalcResult<MatrixValue> Evaluate(std::string_view text);
+  /// it leaves no file behind. The word "ans" is the number `answer`, if there is one.
+  CalcResult<MatrixValue> Evaluate(std::string_view text, std::optional<double> answer = {});
 
  private:
   const Matrices& matrices_;

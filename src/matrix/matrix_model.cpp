@@ -10,7 +10,7 @@
 #include "line/line_texts.h"
 #include "line/past_lines_model.h"
 #include "line/shown_number.h"
-#include "macros/line_fault.h"
+#include "line/typed_operator.h"
 #include "macros/macro_call.h"
 #include "matrix/cell_number.h"
 #include "matrix/cell_table_text.h"
@@ -46,7 +46,7 @@ std::u16string PastAnswer(const MatrixValue& answer) {
 MatrixModel::MatrixModel(SettingsStore& store)
     : store_(store),
       macros_(store),
-      modes_{AngleUnitFromSetting(store.Get(kAngleType)), BaseMode::Decimal},
+      modes_{AngleUnitFromSetting(store.Get(kAngleType)), BaseMode::Decimal, 0.0},
       settings_(LoadDisplaySettings(store)),
       converter_(store),
       history_(History::Load(store, kMatrixHistory)),
@@ -63,12 +63,16 @@ void MatrixModel::SetLine(std::u16string text, Selection selection) {
   line_.Set(std::move(text), selection);
 }
 
+bool MatrixModel::TypeOperator(char16_t typed) {
+  return kav::TypeOperator(typed, BaseMode::Decimal, line_);
+}
+
 std::optional<std::u16string> MatrixModel::LiveResult(std::u16string_view line) const {
   if (store_.Get(kLiveResult) == 0) return std::nullopt;
   const bool isAnswered = answered_ && answered_->Is(line, modes_);
   if (isAnswered && answeredChanges_ == board_.ChangeCount()) return std::nullopt;
   const std::u16string_view text = TrimBlanks(line);
-  if (IsMatrixExpression(text)) return LiveOrder(text, AllMatrices());
+  if (IsMatrixExpression(text)) return LiveOrder(text, AllMatrices(), modes_.answer);
   // There "=" gives no number either.
   if (Shown() == kAnswerMatrix) return std::nullopt;
   return LiveNumber(text, modes_, settings_.normal, macros_);
@@ -164,14 +168,15 @@ MatrixRequest MatrixModel::Evaluate() {
 
 void MatrixModel::EvaluateNumber(std::u16string_view text) {
   line_.SelectAll();
-  const auto value = EvaluateTypedLine(line_.Text(), modes_, store_, macros_);
+  const auto value = EvaluateTypedLine(text, modes_, store_, macros_);
   if (value) {
     lastAnswer_ = *value;
+    modes_.answer = *value;
     ShowAnswer();
     return Note(text, resultText_);
   }
   lastAnswer_.reset();
-  fault_ = FaultOf(line_.Text(), value.error(), modes_, macros_);
+  fault_ = FaultOfLine(value.error().place);
   const bool isEmpty = value.error().cause == LineFailure::Cause::EmptyLine;
   if (!isEmpty) Note(text, {});
   resultText_ = isEmpty ? std::u16string(kNoExpression) : Widen(value.error().message);
@@ -184,11 +189,11 @@ MatrixRequest MatrixModel::EvaluateMatrix(std::u16string_view text) {
   resultText_.clear();
   const auto invalid = FirstInvalidMatrix(text, AllMatrices());
   if (invalid) return TellInvalid(AllMatrices(), *invalid);
-  auto result = MatrixEvaluator(AllMatrices(), files_).Evaluate(Narrow(text));
+  auto result = MatrixEvaluator(AllMatrices(), files_).Evaluate(Narrow(text), modes_.answer);
   // Before the answer replaces a matrix that the line names.
   std::u16string news = notes_.NewsOf(text, AllMatrices(), settings_.matrix);
   if (!result) {
-    fault_ = MatrixFaultOf(line_.Text(), result.error(), AllMatrices());
+    fault_ = FaultOfLine(result.error().place);
     board_.Lock();
     return TellStop{Widen(result.error().message), std::move(news)};
   }
@@ -218,6 +223,11 @@ void MatrixModel::ShowAnswer() {
 const std::optional<LineFault>& MatrixModel::Fault() const {
   static const std::optional<LineFault> kNone;
   return answered_ && answered_->text == line_.Text() ? fault_ : kNone;
+}
+
+LineFault MatrixModel::FaultOfLine(std::optional<TextPlace> place) const {
+  return MatrixFaultOf(line_.Text(), place,
+                       {AllMatrices(), modes_, macros_, Shown() != kAnswerMatrix});
 }
 
 MatrixRequest MatrixModel::TakeMend() {

@@ -54,6 +54,9 @@ class MatrixModel {
   // The two lines.
   const ExpressionLine& Line() const { return line_; }
   void SetLine(std::u16string text, Selection selection);
+  /// An operator typed while all of the line is selected goes on with that line, as its key does.
+  /// False: nothing was done, and `typed` is a character like others.
+  bool TypeOperator(char16_t typed);
   /// The answer or message of the last number expression; empty before the first and after a
   /// matrix expression, whose answer it would stand above.
   const std::u16string& ResultText() const { return resultText_; }
@@ -158,6 +161,7 @@ class MatrixModel {
   void Note(std::u16string_view text, std::u16string_view answer);
   void EvaluateNumber(std::u16string_view text);
   MatrixRequest EvaluateMatrix(std::u16string_view text);
+  LineFault FaultOfLine(std::optional<TextPlace> place) const;
   void ShowAnswer();
   MatrixRequest Insert(double value);
   MatrixRequest ChooseTool(int id);
@@ -166,7 +170,7 @@ class MatrixModel {
 
   SettingsStore& store_;
   MacroStore macros_;
-  CalcModes modes_;
+  CalcModes modes_;  ///< with the last number answered, whatever failed since
   DisplaySettings settings_;
   ConverterLink converter_;
   History history_;

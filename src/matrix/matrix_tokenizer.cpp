@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "common/number_text.h"
+#include "engine/function_names.h"
 #include "engine/token_reader.h"
 #include "matrix/matrix_functions.h"
 #include "matrix/matrix_value.h"
@@ -55,8 +56,9 @@ CalcResult<MatrixToken> ReadMatrixName(TokenReader& reader) {
   return MatrixToken(MatrixSlot{static_cast<int>(found - kNames.begin())});
 }
 
-CalcResult<MatrixToken> ReadFunction(TokenReader& reader) {
+CalcResult<MatrixToken> ReadWord(TokenReader& reader, std::optional<double> answer) {
   const std::string_view word = reader.TakeWord();
+  if (word == kAnswerWord && answer) return MatrixToken(*answer);
   const auto functions = MatrixFunctions();
   const auto found = std::find_if(functions.begin(), functions.end(),
                                   [&](const MatrixFunctionRow& row) { return row.name == word; });
@@ -75,24 +77,25 @@ CalcResult<MatrixToken> ReadSymbol(TokenReader& reader) {
   return MatrixToken(static_cast<MatrixPunctuation>(c));
 }
 
-CalcResult<MatrixToken> ReadToken(TokenReader& reader) {
+CalcResult<MatrixToken> ReadToken(TokenReader& reader, std::optional<double> answer) {
   const char c = reader.Peek();
   if (IsDigit(c) || c == '.') return ReadNumber(reader);
-  if (IsLetter(c)) return ReadFunction(reader);
+  if (IsLetter(c)) return ReadWord(reader, answer);
   if (c == '[') return ReadMatrixName(reader);
   return ReadSymbol(reader);
 }
 
 }  // namespace
 
-CalcResult<MatrixTokens> TokenizeMatrixExpression(std::string_view text) {
+CalcResult<MatrixTokens> TokenizeMatrixExpression(std::string_view text,
+                                                  std::optional<double> answer) {
   MatrixTokens tokens;
   TokenReader reader(text);
   for (reader.SkipBlanks(); !reader.AtEnd(); reader.SkipBlanks()) {
     const char* const start = reader.Next();
     auto token = tokens.size() == kMostMatrixTokens
                      ? CalcResult<MatrixToken>(MakeError(CalcErrorCode::LengthLimit))
-                     : ReadToken(reader);
+                     : ReadToken(reader, answer);
     if (!token) {
       CalcError error = std::move(token).error();
       error.place = PlaceSince(start, reader, text);
@@ -107,7 +110,7 @@ std::optional<TextPlace> PlaceOfMatrixToken(std::string_view text, std::size_t t
   TokenReader reader(text);
   for (reader.SkipBlanks(); !reader.AtEnd(); reader.SkipBlanks()) {
     const char* const start = reader.Next();
-    if (!ReadToken(reader)) break;
+    if (!ReadToken(reader, 0)) break;
     if (token == 0) return PlaceSince(start, reader, text);
     --token;
   }

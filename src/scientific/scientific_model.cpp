@@ -8,6 +8,7 @@
 #include "line/line_texts.h"
 #include "line/past_lines_model.h"
 #include "line/shown_number.h"
+#include "line/typed_operator.h"
 #include "macros/line_fault.h"
 #include "macros/macro_call.h"
 #include "settings/keys.h"
@@ -16,8 +17,8 @@ namespace kav {
 ScientificModel::ScientificModel(SettingsStore& store)
     : store_(store),
       macros_(store),
-      modes_{AngleUnitFromSetting(store.Get(kAngleType)),
-             BaseModeFromSetting(store.Get(kBaseType))},
+      modes_{AngleUnitFromSetting(store.Get(kAngleType)), BaseModeFromSetting(store.Get(kBaseType)),
+             0.0},
       format_(LoadDisplayFormat(store)),
       converter_(store),
       history_(History::Load(store, kCalculatorHistory)) {
@@ -33,6 +34,10 @@ void ScientificModel::Save() const {
 
 void ScientificModel::SetLine(std::u16string text, Selection selection) {
   line_.Set(std::move(text), selection);
+}
+
+bool ScientificModel::TypeOperator(char16_t typed) {
+  return kav::TypeOperator(typed, modes_.baseMode, line_);
 }
 
 std::optional<std::u16string> ScientificModel::LiveResult(std::u16string_view line) const {
@@ -151,6 +156,7 @@ void ScientificModel::Evaluate() {
 
 void ScientificModel::Answer(double value) {
   lastAnswer_ = value;
+  modes_.answer = value;
   fault_.reset();
   errorText_.clear();
   ShowAnswer();

@@ -41,6 +41,9 @@ class ScientificModel {
   const ExpressionLine& Line() const { return line_; }
   void SetLine(std::u16string text, Selection selection);
   const std::u16string& ResultText() const { return resultText_; }
+  /// An operator typed while all of the line is selected goes on with that line, as its key does.
+  /// False: nothing was done, and `typed` is a character like others.
+  bool TypeOperator(char16_t typed);
   /// What `line` comes to, before "=" says it. nullopt if there is nothing to say, or the user does
   /// not want it.
   std::optional<std::u16string> LiveResult(std::u16string_view line) const;
@@ -111,7 +114,7 @@ class ScientificModel {
 
   SettingsStore& store_;
   MacroStore macros_;
-  CalcModes modes_;
+  CalcModes modes_;  ///< with the last answer, whatever failed since
   DisplayFormat format_;
   ConverterLink converter_;
   History history_;

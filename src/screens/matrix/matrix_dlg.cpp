@@ -84,6 +84,13 @@ void CMatrixDlg::OnTab(int index) {
   if (isByKeys) tabs_->setFocus();
 }
 
+bool CMatrixDlg::OnOperator(char16_t typed) {
+  TakeLine();
+  if (!model_.TypeOperator(typed)) return false;
+  Refresh();
+  return true;
+}
+
 void CMatrixDlg::TakeLine() {
   model_.SetLine(TextOf(Line()), SelectionOf(Line()));
 }

@@ -31,6 +31,7 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   void OnKey(MatrixKey key) override;
   void OnEquals() override { OnKey(MatrixKey::Equals); }
   void OnClear() override { OnKey(MatrixKey::Clear); }
+  bool OnOperator(char16_t typed) override;
   void OnTab(int index);
   void TakeLine() override;
   void Refresh() override;

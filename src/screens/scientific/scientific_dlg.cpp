@@ -32,6 +32,13 @@ void CScientificDlg::OnKey(Key key) {
   if (isEquals) SaveAfterPainting([this] { model_.Save(); }, model_.Evaluated());
 }
 
+bool CScientificDlg::OnOperator(char16_t typed) {
+  TakeLine();
+  if (!model_.TypeOperator(typed)) return false;
+  Refresh();
+  return true;
+}
+
 void CScientificDlg::TakeLine() {
   model_.SetLine(TextOf(Line()), SelectionOf(Line()));
 }

@@ -24,6 +24,7 @@ class CScientificDlg final : public KeyScreenOf<Key, ScientificModel, LineScreen
   void OnKey(Key key) override;
   void OnEquals() override { OnKey(Key::Equals); }
   void OnClear() override { OnKey(Key::Clear); }
+  bool OnOperator(char16_t typed) override;
   void TakeLine() override;
   void Refresh() override;
   std::optional<MenuPlace> PlaceOfMenu(int key) const override {

@@ -108,18 +108,32 @@ bool LineScreen::PressKeyOf(const QKeyEvent& event) {
   return true;
 }
 
+/// Whether `typed` begins with an operator that the model has taken; the line then has the rest,
+/// too.
+bool LineScreen::TakeOperator(const QString& typed) {
+  if (typed.isEmpty() || !line_->hasSelectedText()) return false;
+  if (!OnOperator(typed.front().unicode())) return false;
+  line_->insert(typed.mid(1));
+  return true;
+}
+
 bool LineScreen::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     // Before the line, which would write the "=" and uses Enter and Esc itself. It would also write
     // the letter of Alt and a letter, if that key is disabled.
     const auto& pressed = *static_cast<QKeyEvent*>(event);
     if (pressed.matches(QKeySequence::Copy) && !line_->hasSelectedText()) return uses_->Copy();
-    return PressKeyOf(pressed) || pressed.modifiers() == Qt::AltModifier;
+    const bool isCommand = (pressed.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+    return PressKeyOf(pressed) || pressed.modifiers() == Qt::AltModifier ||
+           (!isCommand && TakeOperator(pressed.text()));
   }
-  if (event->type() == QEvent::InputMethod &&
-      static_cast<QInputMethodEvent*>(event)->commitString() == u"=") {
-    OnEquals();
-    return true;
+  if (event->type() == QEvent::InputMethod) {
+    const QString committed = static_cast<QInputMethodEvent*>(event)->commitString();
+    if (committed == u"=") {
+      OnEquals();
+      return true;
+    }
+    if (TakeOperator(committed)) return true;
   }
   // A user who goes to the line is done with the result; a menu only gives the focus back.
   if (event->type() == QEvent::FocusIn && !IsReturn(*static_cast<QFocusEvent*>(event))) {

@@ -82,6 +82,9 @@ class LineScreen : public KeyScreen {
   // The keys that the keyboard presses.
   virtual void OnEquals() = 0;
   virtual void OnClear() = 0;
+  /// Has the model take a character that is typed, if it is an operator that goes on with the line.
+  /// False: it is a character like others.
+  virtual bool OnOperator(char16_t typed) = 0;
 
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -92,6 +95,7 @@ class LineScreen : public KeyScreen {
   bool PressKeyOf(const QKeyEvent& event);
   void PressInLine(QKeyEvent& event);
   HistoryWalk::Lines LinesToWalk();
+  bool TakeOperator(const QString& typed);
   QLineEdit& Edited() const;
 
   ExpressionView* line_;
