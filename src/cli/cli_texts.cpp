@@ -79,6 +79,10 @@ std::string NotAMemoryVariable(std::string_view text, int count) {
          PrintInteger(count) + ".";
 }
 
+std::string DidYouMean(std::string_view line) {
+  return std::string("did you mean ").append(line) + '?';
+}
+
 std::string NotAUserConversion(std::string_view text) {
   return Quoted(text) + " is no user-define unit convert.";
 }

@@ -12,6 +12,9 @@ namespace kav {
 inline constexpr std::string_view kProgramName = "kavcalc";
 inline constexpr std::string_view kFailureMark = "error: ";
 inline constexpr std::string_view kPrompt = "> ";
+// What is no expression at the prompt, in any case.
+inline constexpr std::string_view kHelpWord = "help";
+inline constexpr std::string_view kQuitWord = "quit";
 /// The argument that stands for standard input where a file may be named, and what messages call
 /// it.
 inline constexpr std::string_view kStandardInput = "-";
@@ -34,6 +37,7 @@ std::string NeedsTheWindow(std::string_view key);
 std::string NotVariables(std::string_view text);
 std::string NotAMemoryVariable(std::string_view text, int count);
 std::string NotAUserConversion(std::string_view text);
+std::string DidYouMean(std::string_view line);
 
 // Messages on standard error, which follow the program's name. `reason` is a text of the system.
 std::string CannotRead(std::string_view reason);

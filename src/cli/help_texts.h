@@ -64,11 +64,30 @@ stands behind "--" or a digit, "." or "(" follows the "-".
 Exit status: 0 everything was answered, 1 something failed, 2 the arguments were
 unusable.)text";
 
+// What "help" shows at the prompt.
+inline constexpr std::string_view kPromptHelp =
+    R"text(Type an expression and press Enter:
+
+  2*(3+4)^2      + - * / ^ and parentheses; % is the remainder
+  sqrt(2)        sin cos tan asin acos atan sinh cosh tanh log ln exp sqrt abs
+                 int frac
+  5!  5c2  5p2   factorial, combinations, permutations
+  2*pi           pi is 3.14159...
+  ans/2          ans is the last answer, 0 before the first
+  M:area(2,3)    a macro that was made in the window or with "kavcalc macro add"
+
+Tab completes names, the arrows go through earlier lines, Ctrl-R searches them,
+Ctrl-C gives up a line. "help" shows this, "quit" or Ctrl-D ends. Angles, bases
+and displays are options: "kavcalc eval --help" names them.
+)text";
+
 inline constexpr std::string_view kEvalDetails =
     R"text(Evaluates each expression just as "=" does it on the scientific screen, calls of
 macros ("M:name(...)") included. With neither arguments nor piped input it
-prompts for expressions: Tab completes names, the arrows go through the history,
-Ctrl-D ends. Without --angle, angles are in the unit that is set in the window.
+prompts for expressions: "ans" is the last answer there, "help" tells more, Tab
+completes names, the arrows go through the history, "quit" or Ctrl-D ends. At a
+terminal a "^" stands below the place of a failure, perhaps with a line that was
+meant. Without --angle, angles are in the unit that is set in the window.
 
   kavcalc --angle deg '2*sin(30)+3!'      7
   kavcalc -- '-sqrt(4)'                   -2

@@ -2,21 +2,26 @@
 
 #include <unistd.h>
 
+#include <utility>
+
 #include "cli/answer_writer.h"
 #include "cli/cli_texts.h"
 #include "cli/evaluation.h"
+#include "cli/help_texts.h"
 #include "cli/line_editor.h"
 #include "cli/prompt_lines.h"
 #include "cli/typed_spelling.h"
+#include "common/ascii.h"
 #include "common/number_text.h"
 #include "engine/function_names.h"
+#include "settings/file_descriptor.h"
 
 namespace kav {
 namespace {
 
 /// The names that expressions in `base` can use, each with the text that follows it in a line.
 std::vector<std::string> KnownNames(BaseMode base, const MacroStore& macros) {
-  std::vector<std::string> names;
+  std::vector<std::string> names{std::string(kAnswerWord)};
   if (base == BaseMode::Decimal) {
     names.emplace_back("pi");
     for (const FunctionName& function : kFunctionNames) {
@@ -25,6 +30,25 @@ std::vector<std::string> KnownNames(BaseMode base, const MacroStore& macros) {
   }
   for (int i = 0; i < macros.Count(); ++i) names.push_back("M:" + macros.At(i).name + "(");
   return names;
+}
+
+bool IsWord(std::string_view line, std::string_view word) {
+  return EqualsIgnoringCase(TrimBlanks(line), word);
+}
+
+/// Answers `line` on the terminal, and shows where it failed.
+Answer AnswerLine(std::string_view line, Evaluation& evaluation, AnswerWriter& answers) {
+  auto value = evaluation.Value(line);
+  if (value) {
+    evaluation.SetAnswer(*value);
+    answers.Write(*value);
+    return *value;
+  }
+  // Answers go to the terminal, too, so the message comes last, right before the next prompt.
+  static_cast<void>(WriteAll(STDOUT_FILENO, evaluation.NoteOn(line, value.error())));
+  Failure failure{std::move(value).error().message};
+  answers.Write(failure);
+  return failure;
 }
 
 }  // namespace
@@ -45,16 +69,20 @@ int RunPrompt(const Options& options) {
     const bool isAnswer = editor.Read(answer, question) == LineEditor::Outcome::Line;
     return isAnswer ? std::optional(answer) : std::nullopt;
   };
+  evaluation.SetAnswer(0);
   std::string line;
   for (;;) {
     pastLines.TakeOver();
     const auto outcome = editor.Read(line, kPrompt);
     if (outcome == LineEditor::Outcome::End || answers.IsBroken()) return answers.Finish();
     if (outcome == LineEditor::Outcome::GivenUp || TrimBlanks(line).empty()) continue;
+    if (IsWord(line, kQuitWord)) return answers.Finish();
+    if (IsWord(line, kHelpWord)) {
+      answers.Write(std::string(kPromptHelp));
+      continue;
+    }
     line = TypedSpelling(line, ask);
-    const Answer answer = evaluation.AnswerTo(line);
-    answers.Write(answer);
-    pastLines.Add(line, answer);
+    pastLines.Add(line, AnswerLine(line, evaluation, answers));
   }
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "common/ascii.h"
 #include "common/number_text.h"
 #include "line/expression_line.h"
 #include "line/near_words.h"
@@ -93,6 +94,20 @@ std::vector<std::u16string> WithKnownWords(const Broken& broken, const KnownWord
   return lines;
 }
 
+/// Where `line` becomes `mended`: a whole word of it, if it is a word that changes.
+TextPlace ChangedPlace(std::u16string_view line, std::u16string_view mended) {
+  const TextChange change = ChangeBetween(line, mended);
+  std::size_t start = change.start;
+  std::size_t end = start + change.length;
+  const bool isWord =
+      !change.text.empty() ? IsLetter(change.text.front()) : start < end && IsLetter(line[start]);
+  while (isWord && start > 0 && IsLetter(line[start - 1])) --start;
+  while (isWord && end < line.size() && IsLetter(line[end])) ++end;
+  // What is missing is missing behind a character.
+  if (start == end && start > 0) return {start - 1, 0};
+  return {start, end - start};
+}
+
 }  // namespace
 
 std::optional<std::u16string> MendOf(std::u16string_view line, const KnownWords& words,
@@ -119,8 +134,7 @@ LineFault MakeFault(std::u16string_view line, std::optional<TextPlace> known,
   if (known) {
     fault.place = WidenedPlace(Narrow(line), *known);
   } else if (fault.mended) {
-    const TextChange change = ChangeBetween(line, *fault.mended);
-    fault.place = TextPlace{change.start, change.length};
+    fault.place = ChangedPlace(line, *fault.mended);
   }
   return fault;
 }

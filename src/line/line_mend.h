@@ -17,6 +17,8 @@ namespace kav {
 struct LineFault {
   std::optional<TextPlace> place;
   std::optional<std::u16string> mended;
+
+  bool operator==(const LineFault&) const = default;
 };
 
 /// Tells whether a line has a value.

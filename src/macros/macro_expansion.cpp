@@ -105,7 +105,9 @@ Expected<std::string_view, CallFailure> ExpandCall(std::string_view line, std::s
 }
 
 TextPlace PlaceOf(std::string_view part, std::string_view line) {
-  return {static_cast<std::size_t>(part.data() - line.data()), part.size()};
+  const auto start = static_cast<std::size_t>(part.data() - line.data());
+  // What is missing is missing behind a character.
+  return {part.empty() && start > 0 ? start - 1 : start, part.size()};
 }
 
 }  // namespace

@@ -327,5 +327,46 @@ TEST_F(Prompt, AnUnknownTerminalWillDo) {
   EXPECT_TRUE(terminal.Shows("2\r\n> "));
 }
 
+TEST_F(Prompt, TheLastAnswerIsAWord) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("1/8\r");
+  ASSERT_TRUE(terminal.Shows("\r\n0.125\r\n> "));
+  terminal.Type("1/0\r");
+  ASSERT_TRUE(terminal.Shows("limit.\r\n> "));
+  terminal.Type("8*an\t\r");
+  ASSERT_TRUE(terminal.Shows("s\r\n1\r\n> "));
+}
+
+TEST_F(Prompt, AFailureIsShownWithItsPlaceAndWhatWasMeant) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type("1+sine(30)\r");
+  ASSERT_TRUE(
+      terminal.Shows("\r\n  1+sine(30)\r\n    ^\r\ndid you mean 1+sin(30)?\r\n"
+                     "error: sine is not supported.\r\n> "));
+}
+
+TEST_F(Prompt, AnArgumentThatFailsAtATerminalIsShownSo) {
+  Terminal terminal({"2*(1+sine(30))", "7"}, Environment());
+  EXPECT_TRUE(
+      terminal.Shows("  2*(1+sine(30))\r\n       ^\r\ndid you mean 2*(1+sin(30))?\r\n"
+                     "error: sine is not supported.\r\n7\r\n"));
+  EXPECT_EQ(terminal.Status(), 1);
+}
+
+TEST_F(Prompt, HelpTellsWhatToTypeAndQuitEnds) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type(" Help \r");
+  ASSERT_TRUE(terminal.Shows("\r\nType an expression"));
+  ASSERT_TRUE(terminal.Shows("\"quit\" or Ctrl-D ends"));
+  ASSERT_TRUE(terminal.Shows("\r\n> "));
+  terminal.Type("help+1\r");
+  ASSERT_TRUE(terminal.Shows("error: help is not supported.\r\n> "));
+  terminal.Type("quit\r");
+  EXPECT_EQ(terminal.Status(), 1);
+}
+
 }  // namespace
 }  // namespace kav::test::prompt_test

@@ -306,5 +306,56 @@ TEST_F(MatrixScreen, PastLinesAndAnswersReplaceTheSelection) {
   EXPECT_EQ(MarkedNow(), u"1[M1]*24000|3");
 }
 
+// The word "ans", operators behind "=", and lines that are mended.
+
+TEST_F(MatrixScreen, TheLastNumberIsAWordOfBothKindsOfLines) {
+  Fill(0, u"1 2; 3 4");
+  Evaluate(u"6*7");
+  Evaluate(u"1/0");
+  Evaluate(u"ans/2");
+  EXPECT_EQ(model_->ResultText(), u"21");
+  EXPECT_EQ(Evaluate(u"[M1]*Ans"), u"");
+  EXPECT_EQ(Shown(), u"21 42; 63 84");
+  EXPECT_EQ(Evaluate(u"[M Ans]-ans*[M1]+[M1]"), u"");
+  EXPECT_EQ(Shown(), u"1 2; 3 4");
+}
+
+TEST_F(MatrixScreen, ATypedOperatorGoesOnWithTheWholeLine) {
+  Fill(0, u"1 2; 3 4");
+  Evaluate(u"[M1]");
+  EXPECT_TRUE(model_->TypeOperator(u'^'));
+  EXPECT_EQ(model_->Line().Text(), u"([M1])^");
+  EXPECT_FALSE(model_->TypeOperator(u'^'));
+}
+
+TEST_F(MatrixScreen, ALineWithOneMendIsMendedAndEvaluated) {
+  Fill(0, u"1 2; 3 4");
+  struct Row {
+    const char16_t* line;
+    const char16_t* mended;  ///< empty for none
+  };
+  for (const Row& row : {
+           Row{u"2[M1]", u"2*[M1]"},
+           Row{u"transpse([M1])", u"transpose([M1])"},
+           Row{u"det([M1])", u"determinant([M1])"},
+           Row{u"transpose([M1]", u"transpose([M1])"},
+           Row{u"[M1][M1]", u"[M1]*[M1]"},
+           Row{u"[M1]+", u"[M1]"},
+           Row{u"sine(30)", u"sin(30)"},
+           Row{u"[M1]/2", u""},
+           Row{u"[M1]+2", u""},
+       }) {
+    model_->Show(0);
+    Evaluate(row.line);
+    ASSERT_TRUE(model_->Fault()) << Narrow(row.line);
+    EXPECT_EQ(model_->Fault()->mended.value_or(u""), row.mended) << Narrow(row.line);
+    model_->TakeMend();
+    EXPECT_EQ(model_->Fault().has_value(), *row.mended == 0) << Narrow(row.line);
+  }
+  Evaluate(u"2[M1]");
+  model_->TakeMend();
+  EXPECT_EQ(Shown(), u"2 4; 6 8");
+}
+
 }  // namespace
 }  // namespace kav::matrix_model_evaluate_test

@@ -71,6 +71,22 @@ TEST_F(ScreenKeyboardTest, AnEqualsSignEvaluatesAndIsNotWritten) {
   EXPECT_EQ(Line(), u"[1+1]");
 }
 
+TEST_F(ScreenKeyboardTest, AnOperatorGoesOnWithTheLineBehindEquals) {
+  Type("1+2=*3=");
+  EXPECT_EQ(Line(), u"[(1+2)*3]");
+  EXPECT_EQ(Answer(), u"9");
+  Type("+1=");
+  EXPECT_EQ(Line(), u"[(1+2)*3+1]");
+  QInputMethodEvent event;
+  event.setCommitString("/");
+  QCoreApplication::sendEvent(&Expression(*dlg_), &event);
+  EXPECT_EQ(Line(), u"((1+2)*3+1)/|");
+  Type("2=");
+  EXPECT_EQ(Answer(), u"5");
+  Type("7");
+  EXPECT_EQ(Line(), u"7|");
+}
+
 TEST_F(ScreenKeyboardTest, AnEqualsSignFromAnInputMethodEvaluatesToo) {
   Type("1+1");
   QInputMethodEvent event;
