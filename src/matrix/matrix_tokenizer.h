@@ -12,7 +12,8 @@ namespace kav {
 
 /// The tokens of `text` (UTF-8, lower case). Fails at the first number, name or character that is
 /// malformed or unknown, and with CalcErrorCode::LengthLimit if there are more than
-/// kMostMatrixTokens; either with its place. The word "ans" is the number `answer`, if there is one.
+/// kMostMatrixTokens; either with its place. The word "ans" is the number `answer`, if there is
+/// one.
 CalcResult<MatrixTokens> TokenizeMatrixExpression(std::string_view text,
                                                   std::optional<double> answer = {});
 

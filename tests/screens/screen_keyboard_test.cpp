@@ -337,8 +337,7 @@ TEST_F(ScreenKeyboardTest, TheEditMenuEnablesWhatItCanDo) {
   };
   EXPECT_EQ(enabled(), (Texts{u"Copy R&esult", u"&Paste", u"Select &All", u"&History"}));
   Type("1");
-  EXPECT_EQ(enabled(),
-            (Texts{u"&Undo", u"Copy R&esult", u"&Paste", u"Select &All", u"&History"}));
+  EXPECT_EQ(enabled(), (Texts{u"&Undo", u"Copy R&esult", u"&Paste", u"Select &All", u"&History"}));
   Expression(*dlg_).selectAll();
   EXPECT_EQ(enabled(), (Texts{u"&Undo", u"Cu&t", u"&Copy", u"Copy R&esult", u"&Paste",
                               u"Select &All", u"&History"}));
