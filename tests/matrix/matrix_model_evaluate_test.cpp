@@ -343,7 +343,7 @@ TEST_F(MatrixScreen, ALineWithOneMendIsMendedAndEvaluated) {
            Row{u"[M1]+", u"[M1]"},
            Row{u"sine(30)", u"sin(30)"},
            Row{u"[M1]/2", u""},
-           Row{u"[M1]+2", u""},
+           Row{u"[M4]", u""},
        }) {
     model_->Show(0);
     Evaluate(row.line);
