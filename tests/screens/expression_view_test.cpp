@@ -12,7 +12,6 @@
 
 #include "screens/screen_driver.h"
 #include "screens/widgets/colour_scheme.h"
-#include "screens/widgets/look.h"
 
 namespace kav::test::expression_view_test {
 namespace {
@@ -45,7 +44,7 @@ int Count(const QImage& picture, const QRect& part, const QColor& colour) {
 
 class ExpressionViewTest : public ScientificScreen {
  protected:
-  ExpressionView& View() { return *dlg_->findChild<ExpressionView*>(); }
+  ExpressionView& View() { return dynamic_cast<ExpressionView&>(Expression(*dlg_)); }
   int Letters() { return View().font().pixelSize(); }
   /// The live result as it is seen; empty if it is not.
   QString Live() {
@@ -232,10 +231,10 @@ TEST_F(ExpressionViewTest, ScreenReadersFindTheLiveResultAndAreNotToldOfIt) {
 }
 
 TEST_F(ExpressionViewTest, FaintIsStillReadable) {
-  QPalette dark = ScreenPalette();
+  QPalette dark = View().palette();
   dark.setColor(QPalette::Base, QColor(30, 30, 30));
   dark.setColor(QPalette::Text, QColor(230, 230, 230));
-  for (const QPalette& palette : {ScreenPalette(), dark}) {
+  for (const QPalette& palette : {View().palette(), dark}) {
     EXPECT_GE(Contrast(FaintColour(palette), palette.color(QPalette::Base)), 4.5);
     const QColor tint = FormatOf(LineMark::Pair, palette).background().color();
     EXPECT_GE(Contrast(palette.color(QPalette::Text), tint), 4.5);

@@ -91,6 +91,14 @@ bool CMatrixDlg::OnOperator(char16_t typed) {
   return true;
 }
 
+void CMatrixDlg::OnMend() {
+  if (!grid_.FinishEdit()) return;
+  TakeLine();
+  FinishLine();
+  Follow(model_.TakeMend());
+  SaveAfterPainting([this] { model_.Save(); }, model_.Evaluated());
+}
+
 void CMatrixDlg::TakeLine() {
   model_.SetLine(TextOf(Line()), SelectionOf(Line()));
 }
@@ -98,6 +106,7 @@ void CMatrixDlg::TakeLine() {
 void CMatrixDlg::Refresh() {
   WriteLine(Line(), model_.Line());
   ShowMatrix();
+  ShowFault(model_.Fault());
   Line().setFocus();
 }
 

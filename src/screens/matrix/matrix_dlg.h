@@ -30,6 +30,7 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
  private:
   void OnKey(MatrixKey key) override;
   void OnEquals() override { OnKey(MatrixKey::Equals); }
+  void OnMend() override;
   void OnClear() override { OnKey(MatrixKey::Clear); }
   bool OnOperator(char16_t typed) override;
   void OnTab(int index);

@@ -39,6 +39,13 @@ bool CScientificDlg::OnOperator(char16_t typed) {
   return true;
 }
 
+void CScientificDlg::OnMend() {
+  TakeLine();
+  FinishLine();
+  Follow(model_.TakeMend());
+  SaveAfterPainting([this] { model_.Save(); }, model_.Evaluated());
+}
+
 void CScientificDlg::TakeLine() {
   model_.SetLine(TextOf(Line()), SelectionOf(Line()));
 }
@@ -51,6 +58,7 @@ void CScientificDlg::Refresh() {
   Line().SetBase(model_.Base());
   Result().SetBase(model_.Base());
   RefreshKeys();
+  ShowFault(model_.Fault());
   Line().setFocus();
 }
 

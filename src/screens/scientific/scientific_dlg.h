@@ -23,6 +23,7 @@ class CScientificDlg final : public KeyScreenOf<Key, ScientificModel, LineScreen
  private:
   void OnKey(Key key) override;
   void OnEquals() override { OnKey(Key::Equals); }
+  void OnMend() override;
   void OnClear() override { OnKey(Key::Clear); }
   bool OnOperator(char16_t typed) override;
   void TakeLine() override;

@@ -25,6 +25,10 @@ bool IsReturn(const QFocusEvent& event) {
          event.reason() == Qt::ActiveWindowFocusReason;
 }
 
+Selection SelectionAt(TextPlace place) {
+  return {place.position, place.position + place.length};
+}
+
 }  // namespace
 
 LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, PastRoom room,
@@ -173,12 +177,13 @@ void LineScreen::PressInLine(QKeyEvent& event) {
 
 void LineScreen::FinishLine() {
   walk_.End();
-  ShowFault(std::nullopt, std::nullopt);
+  ShowFault(std::nullopt);
 }
 
-void LineScreen::ShowFault(std::optional<Selection> place,
-                           const std::optional<std::u16string>& mended) {
-  line_->MarkFault(place);
+void LineScreen::ShowFault(const std::optional<LineFault>& fault) {
+  const std::optional<TextPlace> place = fault ? fault->place : std::nullopt;
+  line_->MarkFault(place ? std::optional(SelectionAt(*place)) : std::nullopt);
+  const std::optional<std::u16string> mended = fault ? fault->mended : std::nullopt;
   if (mended == offered_) return;
   offered_ = mended;
   if (offers_ != nullptr) offers_->Drop();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "line/history_walk.h"
+#include "line/line_mend.h"
 #include "screens/widgets/expression_view.h"
 #include "screens/widgets/key_screen.h"
 #include "screens/widgets/line_view.h"
@@ -64,11 +65,11 @@ class LineScreen : public KeyScreen {
   /// "=" is pressed: a walk through those is over, and so is what an earlier "=" led to.
   void FinishLine();
 
-  /// Marks where the last "=" failed (nullopt: nowhere to be told), and offers `mended`, if there
-  /// is one, below the result. That is said once for each "=".
-  void ShowFault(std::optional<Selection> place, const std::optional<std::u16string>& mended);
+  /// Marks where the last "=" failed, and offers the mend, if there is one, below the result, once
+  /// for each "="; nullopt if it did not fail.
+  void ShowFault(const std::optional<LineFault>& fault);
   /// The user took the offer.
-  virtual void OnMend() {}
+  virtual void OnMend() = 0;
 
   /// The result in plain digits, and the line with it; nullopt if there is none to copy.
   virtual std::optional<std::u16string> CopiedResult() const = 0;
