@@ -3,6 +3,8 @@
 #include <QFontMetricsF>
 #include <QInputMethodEvent>
 #include <QPainter>
+#include <QPolygonF>
+#include <QTextLayout>
 #include <QtMath>
 #include <algorithm>
 #include <utility>
@@ -133,6 +135,33 @@ void ExpressionView::resizeEvent(QResizeEvent* event) {
 void ExpressionView::paintEvent(QPaintEvent* event) {
   LineView::paintEvent(event);
   if (isCut_) PaintEllipses();
+  if (isComposing_) return;
+  for (const MarkedPart& part : marked_) {
+    if (part.mark == LineMark::Fault) PaintWave(part);
+  }
+}
+
+/// Below the letters, where also a selection does not reach.
+void ExpressionView::PaintWave(const MarkedPart& part) {
+  if (text().size() > kMostMeasured) return;
+  QTextLayout letters(text(), font());
+  letters.beginLayout();
+  const QTextLine line = letters.createLine();
+  letters.endLayout();
+  const double origin = cursorRect().center().x() - line.cursorToX(cursorPosition());
+  const double end = origin + line.cursorToX(part.start + part.length);
+  const double step = std::max(2.0, font().pixelSize() / 8.0);
+  const double lowest = height() - FocusLine() - 1;
+  const double top = std::min((height() + fontMetrics().height()) / 2.0 + 1, lowest - step);
+  const double start = origin + line.cursorToX(part.start);
+  const int steps = std::max(qRound((end - start) / step), 2);
+  QPolygonF wave;
+  for (int i = 0; i <= steps; ++i) wave.append({start + i * step, i % 2 == 0 ? top + step : top});
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setClipRect(rect().adjusted(textMargins().left(), 0, -textMargins().right(), 0));
+  painter.setPen(QPen(palette().color(QPalette::Text), std::max(1.0, font().pixelSize() / 16.0)));
+  painter.drawPolyline(wave);
 }
 
 void ExpressionView::PaintEllipses() {

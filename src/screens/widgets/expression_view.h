@@ -39,6 +39,7 @@ class ExpressionView final : public LineView {
   void PlaceLive();
   void Mark();
   void PaintEllipses();
+  void PaintWave(const MarkedPart& part);
   int TextWidth(int pixels) const;
 
   int normal_ = 0;      ///< the height of letters that have room; 0 before the first layout
