@@ -20,8 +20,9 @@ constexpr double kSmallestText = 0.5;
 constexpr double kLiveText = 0.46;
 constexpr int kSmallestLive = 9;
 
-/// What a line keeps free beside its text within its margins, and for the caret.
-constexpr int kBesideText = 6;
+/// What a line keeps free beside its text within its margins, for the caret, and for the pixels by
+/// which a text with marks in it may be wider than without.
+constexpr int kBesideText = 12;
 
 /// No screen is as wide as more letters than these; to measure them would take long.
 constexpr int kMostMeasured = 2000;
