@@ -10,6 +10,8 @@
 namespace kav {
 namespace {
 
+using namespace std::string_view_literals;
+
 constexpr char16_t kRoot = u'√';
 constexpr char16_t kBlank = u' ';
 constexpr char16_t kApostrophe = u'\'';
@@ -26,7 +28,7 @@ constexpr Spelling kSpellings[] = {
     {u'×', u"*"},      {u'·', u"*"},      {u'⋅', u"*"},      {u'∙', u"*"},     {u'✕', u"*"},
     {u'✖', u"*"},      {u'∗', u"*"},      {u'÷', u"/"},      {u'∕', u"/"},     {u'⁄', u"/"},
     {u'−', u"-"},      {u'–', u"-"},      {u'—', u"-"},      {u'‐', u"-"},     {u'‑', u"-"},
-    {u'‒', u"-"},      {u'π', u"pi"},     {u'’', u"'"},      {u'‘', u"'"},     {u'ʼ', u"'"},
+    {u'‒', u"-"},      {u'π', u"Pi"},     {u'’', u"'"},      {u'‘', u"'"},     {u'ʼ', u"'"},
     {u'′', u"'"},      {u'\u00AD', u""},  {u'\u200B', u""},  {u'\u200C', u""}, {u'\u200D', u""},
     {u'\u200E', u""},  {u'\u200F', u""},  {u'\u2060', u""},  {u'\uFEFF', u""}, {u'\u00A0', u" "},
     {u'\u202F', u" "}, {u'\u205F', u" "}, {u'\u3000', u" "},
@@ -182,7 +184,8 @@ std::size_t EndOfOperand(std::u16string_view text, std::size_t at) {
     end = std::min(text.find(u'(', end), text.size());
   }
   if (end < text.size() && text[end] == u'(') return orNone(EndOfGroup(text, end));
-  const bool isValue = word == u"pi" || word == u"x" || word == u"y" || word == u"z";
+  const bool isValue =
+      EqualsIgnoringCase(word, u"pi"sv) || word == u"x" || word == u"y" || word == u"z";
   return isValue ? end : at;
 }
 
@@ -235,10 +238,15 @@ std::u16string OwnPiece(char16_t before, std::u16string_view piece, char16_t aft
 }
 
 std::u16string OwnCells(std::u16string text) {
+  // Nearly every text has nothing to change: one look, without a branch a character.
+  bool isPlain = true;
+  bool hasBlank = false;
+  for (const char16_t c : text) {
+    isPlain &= c <= u'~' && c != kApostrophe;
+    hasBlank |= c == kBlank;
+  }
   const bool separates = text.find_first_of(u"\t;") != text.npos;
-  const auto isForeign = [](char16_t c) { return c > u'~' || c == kApostrophe; };
-  const bool isPlain = std::none_of(text.begin(), text.end(), isForeign);
-  if (isPlain && !(separates && PartsDigits(text, kBlank))) return text;
+  if (isPlain && !(hasBlank && separates && PartsDigits(text, kBlank))) return text;
   if (!isPlain) {
     // Spaces that hold a number together, as against those between cells.
     std::replace(text.begin(), text.end(), u'\u202F', kNoBreakSpace);

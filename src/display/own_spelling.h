@@ -7,7 +7,7 @@
 namespace kav {
 
 /// `text` for a line or for a field of one number. Signs of other keyboards and of the web become
-/// those of expressions: × · ÷ − become * * / -, superscripts ^2, √2 sqrt(2), π pi, characters of
+/// those of expressions: × · ÷ − become * * / -, superscripts ^2, √2 sqrt(2), π Pi, characters of
 /// full width plain ones; no-break and thin spaces become blanks, invisible characters go. A number
 /// whose digits stand in groups of three, between blanks, apostrophes or more commas than one
 /// decimal comma could be, loses these; so does a number with a comma between thousands and a

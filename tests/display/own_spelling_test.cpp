@@ -35,14 +35,14 @@ TEST(OwnSpelling, WritesSignsOfOtherKeyboardsAsItsOwn) {
       {u"2¹²", u"2^12"},
       {u"2²3", u"2^(2)3"},
       {u"2²³", u"2^23"},
-      {u"π", u"pi"},
-      {u"2*π*6371", u"2*pi*6371"},
-      {u"sinπ", u"sin pi"},
-      {u"πx", u"pi x"},
+      {u"π", u"Pi"},
+      {u"2*π*6371", u"2*Pi*6371"},
+      {u"sinπ", u"sin Pi"},
+      {u"πx", u"Pi x"},
       {u"ｓｉｎ（３０）＋１．５", u"sin(30)+1.5"},
       {u"1\u00A0+\u20092\u202F*\u30003", u"1 + 2 * 3"},
       {u"\uFEFF1\u200B2", u"12"},
-      {u"π×5²÷2−√9", u"pi*5^2/2-sqrt(9)"},
+      {u"π×5²÷2−√9", u"Pi*5^2/2-sqrt(9)"},
   };
   for (const auto& [foreign, own] : rows) EXPECT_EQ(OwnSpelling(foreign), own) << Narrow(foreign);
 }
@@ -54,7 +54,7 @@ TEST(OwnSpelling, WritesARootAsACallOfWhatStandsBehindIt) {
       {u"√2^2", u"sqrt(2)^2"},
       {u"√1.5e3*2", u"sqrt(1.5e3)*2"},
       {u"√2e", u"sqrt(2)e"},
-      {u"√π", u"sqrt(pi)"},
+      {u"√π", u"sqrt(Pi)"},
       {u"√x+1", u"sqrt(x)+1"},
       {u"√√16", u"sqrt(sqrt(16))"},
       {u"√sin(30)", u"sqrt(sin(30))"},
@@ -129,9 +129,9 @@ TEST(OwnSpelling, NumbersOfTwoCellsOrLinesStayTwo) {
 }
 
 TEST(OwnPiece, DoesNotGrowTogetherWithWordsBesideIt) {
-  EXPECT_EQ(OwnPiece(u'n', u"π", 0), u" pi");
-  EXPECT_EQ(OwnPiece(0, u"π", u'x'), u"pi ");
-  EXPECT_EQ(OwnPiece(u'2', u"π", u')'), u"pi");
+  EXPECT_EQ(OwnPiece(u'n', u"π", 0), u" Pi");
+  EXPECT_EQ(OwnPiece(0, u"π", u'x'), u"Pi ");
+  EXPECT_EQ(OwnPiece(u'2', u"π", u')'), u"Pi");
   EXPECT_EQ(OwnPiece(u'n', u"√2", u'x'), u" sqrt(2)");
   EXPECT_EQ(OwnPiece(u's', u"i", u'n'), u"i");
   EXPECT_EQ(OwnPiece(u's', u"in", 0), u"in");

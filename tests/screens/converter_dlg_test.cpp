@@ -13,6 +13,7 @@
 #include "screens/box_watch.h"
 #include "screens/converter_driver.h"
 #include "screens/dialog_layout.h"
+#include "screens/offer_driver.h"
 #include "settings/keys.h"
 #include "support/processor_time.h"
 #include "support/stored_conversions.h"
@@ -230,6 +231,22 @@ TEST_F(ConverterDlgTest, ATextThatIsNoNumberIsMarkedAndRefused) {
     EXPECT_EQ(Value().palette().color(QPalette::Base), QColor(Qt::white));
     EXPECT_TRUE(FindKey(*dlg_, u"MEM")->isEnabled());
   });
+}
+
+TEST_F(ConverterDlgTest, ACommaIsAskedAboutBeforeTheResultIsTaken) {
+  const auto outcome = RunMiles([this] {
+    Replace("1 000");
+    Tap(u"OK");
+  });
+  EXPECT_EQ(outcome.result, u"1609.344");
+  const auto asked = RunMiles([this] {
+    Replace("1,5");
+    EXPECT_EQ(ResultText(), u"");
+    Tap(u"OK");
+    EXPECT_EQ(Asked(*dlg_), "15 or 1.5?");
+    Press(Qt::Key_2);
+  });
+  EXPECT_EQ(asked.result, u"2.414016");
 }
 
 TEST_F(ConverterDlgTest, AValueThatCannotBeShownIsRefusedAndTheSelectionsStay) {

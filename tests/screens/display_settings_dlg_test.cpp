@@ -16,6 +16,7 @@
 
 #include "screens/dialog_layout.h"
 #include "screens/display_settings_driver.h"
+#include "screens/offer_driver.h"
 
 namespace kav::test::display_settings_dlg_test {
 namespace {
@@ -341,6 +342,20 @@ TEST_F(DisplaySettingsDlgTest, AllHasRoomAtEverySizeOnBothPages) {
       Tap(u"Cancel");
     });
   }
+}
+
+TEST_F(DisplaySettingsDlgTest, NumbersOfOtherSpellingAreTaken) {
+  RunMatrix([&] {
+    ChooseType(u"Fixed Point");
+    Precision().setText("８");
+    EXPECT_EQ(Precision().text(), "8");
+    Width().setText("1,5");
+    Tap(u"OK");
+    EXPECT_EQ(Asked(*dlg_), "15 or 1.5?");
+    Press(Qt::Key_1);
+  });
+  EXPECT_EQ(store_.Get(kMatrixPrecision), 8);
+  EXPECT_EQ(store_.Get(kMatrixColumnWidth), 15);
 }
 
 TEST_F(DisplaySettingsDlgTest, ChangingThePageMovesNothing) {

@@ -80,11 +80,11 @@ class FieldDoorTest : public testing::Test {
 
 TEST_F(FieldDoorTest, TypedSignsAreItsOwn) {
   for (const char* sign : {"2", "×", "3", "÷", "π", "−", "４", "²"}) TypeSign(sign);
-  EXPECT_EQ(Line(), "2*3/pi-4^2");
+  EXPECT_EQ(Line(), "2*3/Pi-4^2");
   EXPECT_EQ(line_.cursorPosition(), 10);
   line_.clear();
   for (const char* sign : {"s", "i", "n", "π"}) TypeSign(sign);
-  EXPECT_EQ(Line(), "sin pi");
+  EXPECT_EQ(Line(), "sin Pi");
   formula_->setFocus();
   for (const char* sign : {"x", "²", "×", "√"}) TypeSign(sign);
   EXPECT_EQ(Formula(), "x^2*sqrt ");

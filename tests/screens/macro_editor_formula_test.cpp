@@ -4,6 +4,7 @@
 #include <QClipboard>
 
 #include "screens/macro_editor_driver.h"
+#include "screens/offer_driver.h"
 #include "support/macro_function_rows.h"
 
 namespace kav::test::macro_editor_formula_test {
@@ -196,6 +197,18 @@ TEST_F(MacroEditorFormulaTest, NoKeyBreaksTheLine) {
     Press(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_TRUE(HasFocus(Type()));
     EXPECT_EQ(Formula().toPlainText(), "x");
+  });
+}
+
+TEST_F(MacroEditorFormulaTest, ACommaIsAskedAboutBeforeTheFormulaIsSaved) {
+  OpenNew([this] {
+    Name().setText("F");
+    PutFormula(u"x*1,5|");
+    Tap(u"Save");
+    EXPECT_EQ(Asked(Dlg()), "15 or 1.5?");
+    TapOffer(Dlg(), "1.5");
+    EXPECT_FALSE(IsEditing());
+    EXPECT_EQ(Formula().toPlainText(), "x*1.5");
   });
 }
 

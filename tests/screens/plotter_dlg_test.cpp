@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 
+#include "screens/offer_driver.h"
 #include "screens/plotter_driver.h"
 #include "support/stored_macros.h"
 
@@ -355,6 +356,21 @@ TEST_F(PlotterDlgTest, TheEditMenuWorksOnTheInputOrTheFieldThatHasTheFocus) {
   Tap(u"CLR");
   ChooseFrom(*dlg_, u"&Edit", u"&Paste");
   EXPECT_EQ(Text(), u"34");
+}
+
+TEST_F(PlotterDlgTest, OtherSpellingOfEquationsAndRangesIsTakenAsItIsMeant) {
+  Type("x*1,5");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Asked(*dlg_), "15 or 1.5?");
+  Key(Qt::Key_2);
+  EXPECT_EQ(Equations(), Texts{u"x*1.5"});
+  TypeInto("X max", "1,234");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Asked(*dlg_), "1234 or 1.234?");
+  Key(Qt::Key_Escape);
+  TypeInto("X max", "2'000");
+  Click(Input());
+  EXPECT_EQ(Asked(*dlg_), "");
 }
 
 TEST_F(PlotterDlgTest, TheModeMenuLeadsToTheOtherScreens) {

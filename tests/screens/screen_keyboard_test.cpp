@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <set>
 
+#include "screens/offer_driver.h"
 #include "screens/screen_driver.h"
 #include "screens/widgets/app_events.h"
 
@@ -366,6 +367,26 @@ TEST_F(ScreenKeyboardTest, OnlyOneOfTheTwoLinesShowsWhatIsCopied) {
   Result(*dlg_).selectAll();
   Click(Expression(*dlg_));
   EXPECT_FALSE(Result(*dlg_).hasSelectedText());
+}
+
+TEST_F(ScreenKeyboardTest, ATypedCommaIsAskedAboutBeforeTheLineIsEvaluated) {
+  Type("1,234*2=");
+  EXPECT_EQ(Asked(*dlg_), "1234 or 1.234?");
+  EXPECT_EQ(Answer(), u"0");
+  Key(Qt::Key_2);
+  EXPECT_EQ(Expression(*dlg_).text(), "1.234*2");
+  EXPECT_EQ(Answer(), u"2.468");
+  Put(u"1,5|");
+  Tap(u"=");
+  TapOffer(*dlg_, "15");
+  EXPECT_EQ(Answer(), u"15");
+  Put(u"2,5|");
+  Key(Qt::Key_Return);
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Line(), u"2,5|") << "Esc was for the question";
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Asked(*dlg_), "");
+  EXPECT_EQ(Answer(), u", is not supported.");
 }
 
 }  // namespace

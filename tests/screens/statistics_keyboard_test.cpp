@@ -278,5 +278,20 @@ TEST_F(StatisticsKeyboardTest, AltAndALetterWritesNothingWhereTheKeyIsDisabled) 
   EXPECT_EQ(TextIn("X"), "");
 }
 
+TEST_F(StatisticsKeyboardTest, NumbersOfOtherSpellingBecomeRows) {
+  Put("X", "1 234");
+  Put("Count", "２");
+  Tap(u"Add");
+  EXPECT_EQ(Rows(), "1234 2");
+  Put("X", "1,5");
+  Tap(u"Add");
+  EXPECT_EQ(Asked(*dlg_), "15 or 1.5?");
+  EXPECT_EQ(Rows(), "1234 2") << "nothing is guessed";
+  TapOffer(*dlg_, "1.5");
+  EXPECT_EQ(Rows(), "1.5 2;1234 2");
+  PasteIntoList("−1\u202F234\t５\n1'000\t3\n");
+  EXPECT_EQ(Rows(), "-1234 5;1000 3;1.5 2;1234 2");
+}
+
 }  // namespace
 }  // namespace kav::test::statistics_keyboard_test

@@ -7,6 +7,7 @@
 
 #include "converter/user_conversions.h"
 #include "screens/dialog_layout.h"
+#include "screens/offer_driver.h"
 #include "screens/user_conversion_driver.h"
 #include "store/user_settings_store.h"
 #include "support/processor_time.h"
@@ -208,6 +209,22 @@ TEST_F(UserConversionDlgTest, ARateOfAnyMagnitudeIsStoredAsTyped) {
                                                     {"-1E+300 -> x", "-1E+300"},
                                                     {"+0.0000001 -> x", "+0.0000001"},
                                                     {".5 -> x", ".5"}}));
+}
+
+TEST_F(UserConversionDlgTest, ARateIsStoredInItsOwnSpelling) {
+  Open([this] {
+    for (const char* rate : {"1,000,000.5", "1’000", "1,5"}) {
+      Tap(u"New");
+      Fill(rate, "x", rate);
+      Tap(u"Save");
+    }
+    EXPECT_EQ(Asked(Dlg()), "15 or 1.5?");
+    TapOffer(Dlg(), "1.5");
+    EXPECT_FALSE(IsEditing());
+  });
+  EXPECT_EQ(StoredConversions(store_),
+            (Conversions{
+                {"1,000,000.5 -> x", "1000000.5"}, {"1’000 -> x", "1000"}, {"1,5 -> x", "1.5"}}));
 }
 
 TEST_F(UserConversionDlgTest, NamesOfTenThousandCharactersAreKeptInFull) {
