@@ -62,7 +62,7 @@ std::u16string WithOwnPiece(std::u16string_view line, const Piece& piece) {
 
 class FieldDoor : public QObject {
  public:
-  FieldDoor(QWidget& field, DoorKind kind) : QObject(&field), field_(field), kind_(kind) {
+  FieldDoor(QWidget& field, DoorKind kind) : field_(field), kind_(kind) {
     setObjectName(QLatin1String(kDoorName));
     field.installEventFilter(this);
   }
@@ -264,12 +264,11 @@ class FormulaDoor final : public FieldDoor {
 }  // namespace
 
 void OpenDoor(QLineEdit& field, DoorKind kind) {
-  // The field owns it.
-  std::make_unique<LineDoor>(field, kind).release();
+  std::make_unique<LineDoor>(field, kind).release()->setParent(&field);
 }
 
 void OpenDoor(FormulaView& field) {
-  std::make_unique<FormulaDoor>(field).release();
+  std::make_unique<FormulaDoor>(field).release()->setParent(&field);
 }
 
 bool AsksFirst(const QWidget& parent, const std::function<void()>& goOn) {

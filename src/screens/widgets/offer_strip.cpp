@@ -82,7 +82,8 @@ QPushButton* NewButton(QWidget& strip, const QString& name) {
 
 }  // namespace
 
-OfferStrip::OfferStrip(QWidget* screen) {
+OfferStrip::OfferStrip(QWidget* screen)
+    : label_(new QLabel(this)), close_(NewButton(*this, ToQt(kGiveUpOffer))) {
   // Before it has a parent: a screen reader that listens asks for the children of a window as they
   // come.
   OfferWidgetsToScreenReaders();
@@ -90,10 +91,8 @@ OfferStrip::OfferStrip(QWidget* screen) {
   setAccessibleName(ToQt(kOfferName));
   setObjectName(QLatin1String(kStripName));
   hide();
-  label_ = new QLabel(this);
   label_->setStyle(ScreenStyle());
   label_->setTextFormat(Qt::PlainText);
-  close_ = NewButton(*this, ToQt(kGiveUpOffer));
   close_->setText(QStringLiteral("×"));
   close_->setToolTip(ToQt(kGiveUpOffer));
   connect(close_, &QPushButton::clicked, this, [this] { GiveUp(); });
@@ -104,8 +103,10 @@ OfferStrip::OfferStrip(QWidget* screen) {
 void OfferStrip::Offers(const QWidget& field, std::u16string_view question,
                         std::vector<Offer> offers, std::function<void()> giveUp) {
   Drop();
-  // The strip reads keys that come to it, and gives the keyboard back to it.
-  field_ = const_cast<QWidget*>(&field);
+  for (auto* part : parentWidget()->findChildren<QWidget*>()) {
+    if (part == &field) field_ = part;
+  }
+  if (field_ == nullptr) return;
   field_->installEventFilter(this);
   if (auto* line = qobject_cast<QLineEdit*>(field_.data())) {
     connect(line, &QLineEdit::textChanged, this, [this] { Drop(); });
