@@ -181,6 +181,10 @@ TEST_F(FieldDoorTest, EscLeavesThePasteAndIsNotAskedAgain) {
   EXPECT_FALSE(Asks(line_)) << "the calculation refuses it";
   TypeSign("0");
   EXPECT_TRUE(Asks(line_)) << "another text";
+  Press(Qt::Key_Escape);
+  line_.clear();
+  Paste("1,50");
+  EXPECT_EQ(Asked(screen_), "150 or 1.50?") << "the same text, but pasted anew";
 }
 
 TEST_F(FieldDoorTest, TypedCommasAreAskedAboutWhenTheyAreTaken) {

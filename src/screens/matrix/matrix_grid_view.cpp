@@ -89,6 +89,7 @@ void MatrixGridView::TellRefusedEdit() {
     AskForCommas(*grid_, LineQuestionText(*question), *question, take, giveUp);
     return OfferStripOf(*grid_).Enter();
   }
+  declined_.clear();
   ShowStop(grid_->parentWidget(), refused.why);
   grid_->EditCell(refused.cell, refused.text);
 }

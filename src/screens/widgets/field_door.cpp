@@ -93,6 +93,7 @@ class FieldDoor : public QObject {
 
   void OnChanged() {
     if (isWriting_) return;
+    declined_.clear();
     const std::u16string now = Text();
     const std::u16string before = std::exchange(known_, now);
     const TextChange change = ChangeBetween(before, now);

@@ -27,7 +27,7 @@ void OpenDoor(FormulaView& field);
 /// To be called before what stands in the fields within `parent`, or in `parent` itself, is taken.
 /// Spells what was typed into them; answers true if one of them asks about a comma. Then nothing is
 /// to be taken yet: `goOn` is called after the answer. Whoever leaves the text as it is is not
-/// asked again about the same text.
+/// asked again until the text has changed.
 bool AsksFirst(const QWidget& parent, const std::function<void()>& goOn);
 
 }  // namespace kav
