@@ -4,6 +4,7 @@
 #include <set>
 
 #include "screens/screen_layout.h"
+#include "settings/keys.h"
 
 namespace kav::test::screen_layout_test {
 namespace {
@@ -110,7 +111,9 @@ TEST_F(ScreenLayoutTest, TheMenuBarStandsAtTheBottom) {
   }
 }
 
-TEST_F(ScreenLayoutTest, AWideWindowKeepsTheScreenUprightInItsMiddle) {
+TEST_F(ScreenLayoutTest, AWideWindowWithoutHistoryKeepsTheScreenUprightInItsMiddle) {
+  frame_.store.Set(kHistoryShown, 0);
+  Open();
   Resize({1200, 640});
   const QRect line = AreaOf(Expression(*dlg_));
   EXPECT_LE(line.width(), 480);

@@ -46,7 +46,8 @@ TEST_F(ScreenRequestsTest, TheEditMenuSaysWhatItsEntriesDo) {
   }
   EXPECT_EQ(tips, (Texts{u"Cut the selection and put it on the Clipboard",
                          u"Copy the selection and put it on the Clipboard",
-                         u"Insert Clipboard contents"}));
+                         u"Insert Clipboard contents",
+                         u"Show or hide the lines of all sessions, with their answers"}));
 }
 
 TEST_F(ScreenRequestsTest, AMenuHasItsPlaceOnTheScreenAtAnySize) {
@@ -55,8 +56,9 @@ TEST_F(ScreenRequestsTest, AMenuHasItsPlaceOnTheScreenAtAnySize) {
     QSize window;
     QRect screen;
   };
-  // Of the wide window, a column in the middle is the screen.
-  for (const Row& row : {Row{{240, 320}, {0, 0, 240, 320}}, Row{{400, 300}, {87, 0, 225, 300}}}) {
+  // Of the wide windows, a column is the screen: beside the history, or in the middle without it.
+  for (const Row& row : {Row{{240, 320}, {0, 0, 240, 320}}, Row{{400, 300}, {0, 0, 225, 300}},
+                         Row{{310, 300}, {42, 0, 225, 300}}}) {
     dlg_->resize(row.window);
     const auto at = [&](int x, int y) {
       return dlg_->mapToGlobal(row.screen.topLeft()) +
