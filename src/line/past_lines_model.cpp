@@ -42,6 +42,15 @@ std::vector<std::u16string> TypedLinesOf(PastLines& lines, PastRoom room) {
   return typed;
 }
 
+std::vector<std::u16string> Joined(std::vector<std::u16string> own,
+                                   const std::vector<std::u16string>& all) {
+  std::erase_if(own, [&all](const std::u16string& line) {
+    return std::find(all.begin(), all.end(), line) != all.end();
+  });
+  own.insert(own.end(), all.begin(), all.end());
+  return own;
+}
+
 bool HasNumber(const PastLine& past) {
   const std::size_t first = past.answer.find_first_not_of('-');
   if (first == past.answer.npos) return false;

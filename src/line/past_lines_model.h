@@ -24,6 +24,11 @@ void KeepPastLine(PastLines& lines, const SettingsStore& store, PastLine line);
 /// The lines of `room` as they were typed, the newest last.
 std::vector<std::u16string> TypedLinesOf(PastLines& lines, PastRoom room);
 
+/// Those of `own`, the lines of one screen, that are not among `all`, and then these: an earlier
+/// version kept only the former.
+std::vector<std::u16string> Joined(std::vector<std::u16string> own,
+                                   const std::vector<std::u16string>& all);
+
 /// Whether the answer of `past` is a number that can be inserted.
 bool HasNumber(const PastLine& past);
 /// The answer of `past`, which must have a number, as the line of a screen in `base` takes it: in

@@ -138,6 +138,12 @@ TEST_F(PastLinesModelTest, LinesAsTheyWereTypedTheNewestLast) {
   EXPECT_EQ(TypedLinesOf(lines_, PastRoom::Matrix), Texts{});
 }
 
+TEST(PastLinesOfAScreen, StandBeforeThoseOfAllSessionsThatDoNotHoldThem) {
+  EXPECT_EQ(Joined({u"1", u"3"}, {u"2", u"3"}), (Texts{u"1", u"2", u"3"}));
+  EXPECT_EQ(Joined({u"1"}, {}), Texts{u"1"});
+  EXPECT_EQ(Joined({}, {u"1"}), Texts{u"1"});
+}
+
 TEST(PastAnswers, AreInsertedAsTheTwentyEntriesAre) {
   struct Row {
     const char16_t* answer;

@@ -303,6 +303,16 @@ TEST_F(PastPanelTest, TheMatrixScreenHasItsOwnLines) {
       QTest::qWaitFor([this] { return frame_.Past().Of(PastRoom::Matrix).back().line == "2+2"; }));
 }
 
+TEST_F(PastPanelTest, UpLeadsThroughTheLinesOfAllSessions) {
+  Keep("40+2", "42");
+  Keep("[M1]", "", 1, PastOrigin::Matrix);
+  Open({360, 560});
+  Type("1+1=");
+  Key(Qt::Key_Up);
+  EXPECT_EQ(Line(), u"40+2|") << "what was just evaluated stands there already";
+  EXPECT_EQ(frame_.Past().Of(PastRoom::Calculator).size(), 2U);
+}
+
 TEST_F(PastPanelTest, AWindowThatGetsWideTakesItOffTheKeys) {
   Keep("1+1", "2");
   Open({360, 560});

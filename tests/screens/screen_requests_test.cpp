@@ -44,10 +44,10 @@ TEST_F(ScreenRequestsTest, TheEditMenuSaysWhatItsEntriesDo) {
   for (const QAction* action : MenuOf(*dlg_, u"&Edit")->actions()) {
     if (!action->statusTip().isEmpty()) tips.push_back(action->statusTip().toStdU16String());
   }
-  EXPECT_EQ(tips, (Texts{u"Cut the selection and put it on the Clipboard",
-                         u"Copy the selection and put it on the Clipboard",
-                         u"Insert Clipboard contents",
-                         u"Show or hide the lines of all sessions, with their answers"}));
+  EXPECT_EQ(tips,
+            (Texts{u"Cut the selection and put it on the Clipboard",
+                   u"Copy the selection and put it on the Clipboard", u"Insert Clipboard contents",
+                   u"Show or hide the lines of all sessions, with their answers"}));
 }
 
 TEST_F(ScreenRequestsTest, AMenuHasItsPlaceOnTheScreenAtAnySize) {

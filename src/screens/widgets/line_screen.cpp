@@ -15,6 +15,7 @@
 #include "screens/widgets/field_door.h"
 #include "screens/widgets/offer_strip.h"
 #include "screens/widgets/qt_text.h"
+#include "settings/keys.h"
 
 namespace kav {
 namespace {
@@ -57,6 +58,10 @@ LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, Past
   AddKeys(std::move(keys));
   auto* history = new QShortcut(QKeySequence(QLatin1String(kHistoryKeys)), this);
   connect(history, &QShortcut::activated, this, [this] { past_.Toggle(); });
+}
+
+LineScreen::~LineScreen() {
+  KeepEvaluated();
 }
 
 QRect LineScreen::Area() const {
@@ -158,8 +163,9 @@ void LineScreen::keyPressEvent(QKeyEvent* event) {
 
 /// The lines of all sessions; those that the screen itself knows if none are kept.
 HistoryWalk::Lines LineScreen::LinesToWalk() {
-  auto lines = TypedLinesOf(ParentFrame().Past(), room_);
-  return lines.empty() ? EarlierLines() : lines;
+  KeepEvaluated();
+  if (ParentFrame().Store().Get(kHistoryKept) == 0) return EarlierLines();
+  return Joined(EarlierLines(), TypedLinesOf(ParentFrame().Past(), room_));
 }
 
 /// What the line itself has no use for.
@@ -244,12 +250,20 @@ void LineScreen::SaveAfterPainting(const std::function<void()>& save,
   // The disk may be slow, and the user waits for the answer.
   line_->repaint();
   result_->repaint();
-  QTimer::singleShot(0, this, [this, save, evaluated] {
+  if (evaluated) evaluated_.push_back(*evaluated);
+  QTimer::singleShot(0, this, [this, save] {
     save();
-    if (evaluated) KeepPastLine(ParentFrame().Past(), ParentFrame().Store(), *evaluated);
+    KeepEvaluated();
     ParentFrame().SaveStore();
     past_.Load();
   });
+}
+
+void LineScreen::KeepEvaluated() {
+  for (PastLine& past : evaluated_) {
+    KeepPastLine(ParentFrame().Past(), ParentFrame().Store(), std::move(past));
+  }
+  evaluated_.clear();
 }
 
 }  // namespace kav

@@ -29,6 +29,7 @@ class LineScreen : public KeyScreen {
  public:
   LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, PastRoom room,
              PastNeighbour neighbour);
+  ~LineScreen() override;
 
  protected:
   ExpressionView& Line() const { return *line_; }
@@ -97,6 +98,7 @@ class LineScreen : public KeyScreen {
   void PressInLine(QKeyEvent& event);
   HistoryWalk::Lines LinesToWalk();
   bool TakeOperator(const QString& typed);
+  void KeepEvaluated();
   QLineEdit& Edited() const;
 
   ExpressionView* line_;
@@ -106,6 +108,7 @@ class LineScreen : public KeyScreen {
   std::optional<std::u16string> offered_;
   PastRoom room_;
   PastSide past_;
+  std::vector<PastLine> evaluated_;  ///< not kept in the history yet
   ResultUses* uses_;
   MemoryMark* memory_ = nullptr;  ///< made when it is first shown
 };
