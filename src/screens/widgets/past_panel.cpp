@@ -119,7 +119,8 @@ void PastPanel::LayOut(const QRect& place, int pixels) {
     layout()->setSpacing(qRound(pixels * kRoomBetween));
     list_->SetTextHeight(pixels);
     layout()->activate();
-    if (layout()->minimumSize().width() <= place.width()) break;
+    const QSize least = layout()->minimumSize();
+    if (least.width() <= place.width() && least.height() <= place.height()) break;
   }
   setGeometry(place);
 }

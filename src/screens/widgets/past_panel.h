@@ -31,7 +31,7 @@ class PastPanel final : public QWidget {
 
   /// Shows what was added meanwhile; the marked row stays the marked one.
   void Load();
-  /// Letters are `pixels` high, or lower if the buttons would have no room.
+  /// Letters are `pixels` high, or lower if the buttons and a row would have no room.
   void LayOut(const QRect& place, int pixels);
   /// Gives the keyboard to the field.
   void Enter();

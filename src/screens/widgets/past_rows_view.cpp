@@ -143,6 +143,7 @@ void PastRowsView::SetRow(int row) {
 void PastRowsView::SetTextHeight(int pixels) {
   setFont(ScreenFont(pixels));
   verticalScrollBar()->setSingleStep(RowHeight(fontMetrics()));
+  setMinimumHeight(RowHeight(fontMetrics()));
 }
 
 void PastRowsView::mousePressEvent(QMouseEvent* event) {

@@ -40,7 +40,7 @@ class PastRowsView final : public QListView {
   /// The row of the keys, -1 for none.
   int Row() const { return currentIndex().row(); }
   void SetRow(int row);
-  /// Rows for letters of `pixels`.
+  /// Rows for letters of `pixels`. One of them has room at least.
   void SetTextHeight(int pixels);
 
  private:
