@@ -13,6 +13,7 @@
 #include "app/single_instance.h"
 #include "display/text_scale.h"
 #include "screens/widgets/app_texts.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
 #include "settings/file_descriptor.h"
@@ -49,6 +50,7 @@ SingleInstance Claim(std::chrono::milliseconds patience) {
 /// if there is nothing left to do.
 SingleInstance BesideBusyOne() {
   const EndWatch end;
+  UseColours(ColourChoice::System);  // the settings are not read yet
   const std::vector<std::u16string> answers{std::u16string(kStartAnother)};
   if (!AskWhich(nullptr, kDoesNotAnswer, answers)) return SingleInstance::Over();
   SingleInstance instance = Claim(std::chrono::milliseconds(0));

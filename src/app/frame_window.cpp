@@ -224,6 +224,7 @@ void FrameWindow::TakeImported(const std::string& toml) {
   Shown()->setAttribute(Qt::WA_QuitOnClose, false);
   CloseScreen(activeSlot_);
   const auto refusal = hooks_.importSettings(toml);
+  UseColours(LoadLookSettings(store_).colours);
   mode_ = StoredMode(store_);
   SwitchMode();
   if (refusal) ShowStop(Shown(), *refusal);

@@ -10,6 +10,7 @@
 #include "app/session.h"
 #include "screens/box_watch.h"
 #include "screens/screen_driver.h"
+#include "screens/widgets/colour_scheme.h"
 #include "settings/keys.h"
 #include "support/temporary_folder.h"
 
@@ -91,6 +92,23 @@ TEST_F(SettingsTransferTest, WhatIsExportedStandsAgainAfterAnImport) {
   EXPECT_EQ(stored.Get(kCalHistoryCount), 2);
   EXPECT_EQ(stored.Get(CalHistoryEntry(2)), "6*7");
   EXPECT_NE(FileContent(Path() + ".before-import").find("1+1"), std::string::npos);
+}
+
+TEST_F(SettingsTransferTest, WindowsHaveTheColoursOfTheImportAtOnce) {
+  EXPECT_EQ(SchemeNow(), ColourScheme::Light);
+  Export("all.toml");
+  std::string text = FileContent(folder_.File("all.toml"));
+  const std::string section = "[Config]\n";
+  ASSERT_NE(text.find(section), std::string::npos);
+  text.insert(text.find(section) + section.size(), "\"Colour Scheme\" = 2\n");
+  PutFile(folder_.File("dark.toml"), text);
+  Import("dark.toml", QMessageBox::Yes);
+  QTest::qWait(20);
+  WaitForScreen();
+  EXPECT_LT(Screen()->grab().toImage().pixelColor(0, 0).lightness(), 60);
+  BoxWatch::Instance().TakeSeen();
+  session_.reset();
+  UseColours(ColourChoice::Light);
 }
 
 TEST_F(SettingsTransferTest, NoChangesNothingAndWhatIsNoExportIsRefused) {
