@@ -15,6 +15,7 @@
 
 #include "screens/box_watch.h"
 #include "screens/screen_driver.h"
+#include "screens/widgets/colour_scheme.h"
 
 namespace kav::test::guide_dlg_test {
 namespace {
@@ -59,6 +60,29 @@ TEST_F(GuideDlgTest, OpensAtThePageOfWhatIsAskedFor) {
       EXPECT_EQ(QApplication::focusWidget(), &TextIn(guide));
     });
   }
+}
+
+TEST_F(GuideDlgTest, ItsLinksCanBeReadInEveryScheme) {
+  WithGuide(GuidePage::Scientific, {360, 560}, [](QDialog& guide) {
+    QTextBrowser& text = TextIn(guide);
+    for (const auto choice :
+         {ColourChoice::Dark, ColourChoice::HighContrast, ColourChoice::Light}) {
+      UseColours(choice);
+      int links = 0;
+      for (auto block = text.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+          const QTextCharFormat format = part.fragment().charFormat();
+          if (!format.isAnchor()) continue;
+          ++links;
+          EXPECT_GE(
+              ContrastBetween(format.foreground().color(), text.palette().color(QPalette::Base)),
+              4.5)
+              << part.fragment().text().toStdString();
+        }
+      }
+      EXPECT_GT(links, 0);
+    }
+  });
 }
 
 TEST_F(GuideDlgTest, ItsPicturesHaveRoomAtEverySize) {

@@ -18,15 +18,25 @@ constexpr int kUsualPictureWidth = 240;
 constexpr int kPageLevel = 2;
 constexpr QLatin1String kPictures(":/guide/images/");
 
+/// The parts of a text whose format `isWanted`.
+template <class IsWanted>
+std::vector<QTextFragment> PartsOf(const QTextDocument& text, IsWanted isWanted) {
+  std::vector<QTextFragment> parts;
+  for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+      if (isWanted(part.fragment().charFormat())) parts.push_back(part.fragment());
+    }
+  }
+  return parts;
+}
+
 /// The places of the pictures of a text.
 std::vector<int> PicturesIn(const QTextDocument& text) {
   std::vector<int> places;
-  for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
-    for (auto part = block.begin(); !part.atEnd(); ++part) {
-      const QTextFragment fragment = part.fragment();
-      if (fragment.charFormat().isImageFormat()) places.push_back(fragment.position());
-    }
-  }
+  const auto isPicture = [](const QTextCharFormat& format) { return format.isImageFormat(); };
+  const std::vector<QTextFragment> parts = PartsOf(text, isPicture);
+  places.reserve(parts.size());
+  for (const QTextFragment& part : parts) places.push_back(part.position());
   return places;
 }
 
@@ -44,6 +54,7 @@ GuideBrowser::GuideBrowser() {
   setOpenExternalLinks(true);
   connect(this, &QTextBrowser::sourceChanged, this, [this] {
     FindPages();
+    ColourLinks();
     place_.reset();
     pictureWidth_ = 0;
     if (isVisible()) FitPictures();
@@ -115,6 +126,24 @@ QVariant GuideBrowser::loadResource(int type, const QUrl& name) {
     default:
       return QTextBrowser::loadResource(type, name);
   }
+}
+
+/// A document has its links in the colour of the desktop's, whatever is below them.
+void GuideBrowser::ColourLinks() {
+  const auto isLink = [](const QTextCharFormat& format) { return format.isAnchor(); };
+  QTextCharFormat colour;
+  colour.setForeground(palette().link());
+  QTextCursor cursor(document());
+  for (const QTextFragment& link : PartsOf(*document(), isLink)) {
+    cursor.setPosition(link.position());
+    cursor.setPosition(link.position() + link.length(), QTextCursor::KeepAnchor);
+    cursor.mergeCharFormat(colour);
+  }
+}
+
+void GuideBrowser::changeEvent(QEvent* event) {
+  QTextBrowser::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) ColourLinks();
 }
 
 void GuideBrowser::resizeEvent(QResizeEvent* event) {

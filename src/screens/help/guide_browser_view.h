@@ -40,6 +40,8 @@ class GuideBrowser final : public QTextBrowser {
   QVariant loadResource(int type, const QUrl& name) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void ColourLinks();
   void FindPages();
   void NotePlace();
   void KeepPlace();
