@@ -167,6 +167,11 @@ take_the_rest() {
   config='"Mode" = 3' take file-to-open "$size" 1 press:ctrl+o focus:screen
   config='"Mode" = 2' take plotter-options "$size" 1 press:ctrl+Return focus:Graph press:alt+g press:Up \
     press:Return focus:screen
+  take guide "$size" 1 press:F1 focus:screen
+  take keys "$size" 1 press:alt+h press:Down press:Return focus:screen
+  take history "$size" 1 '1+2=' press:ctrl+h focus:screen
+  take live-result "$size" 1 '2*3+(4' focus:screen
+  take fault "$size" 1 '2*(3+=' focus:screen
   config='"Mode" = 5' take matrix-error "$size" 1 press:Tab press:Tab press:Tab $'x+\t2' focus:screen
 }
 

@@ -89,7 +89,7 @@ class FrameWindowTest : public testing::Test {
     screens_ = screens;
     frame_ = std::make_unique<FrameWindow>(
         store_, screens_, ScreenDialogs{},
-        FrameHooks{[this] { ++saves_; }, [this] { ++started_; }, [this] { ++finished_; }, {}, {}});
+        FrameHooks{[this] { ++saves_; }, [this] { ++started_; }, [this] { ++finished_; }, nullptr, {}, {}});
   }
   std::string ShownName() const {
     return frame_->Shown() != nullptr ? frame_->Shown()->objectName().toStdString() : "none";
