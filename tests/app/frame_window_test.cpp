@@ -87,9 +87,13 @@ class FrameWindowTest : public testing::Test {
     frame_.reset();
     started_ = 0;
     screens_ = screens;
-    frame_ = std::make_unique<FrameWindow>(
-        store_, screens_, ScreenDialogs{},
-        FrameHooks{[this] { ++saves_; }, [this] { ++started_; }, [this] { ++finished_; }, nullptr, {}, {}});
+    frame_ = std::make_unique<FrameWindow>(store_, screens_, ScreenDialogs{},
+                                           FrameHooks{[this] { ++saves_; },
+                                                      [this] { ++started_; },
+                                                      [this] { ++finished_; },
+                                                      nullptr,
+                                                      {},
+                                                      {}});
   }
   std::string ShownName() const {
     return frame_->Shown() != nullptr ? frame_->Shown()->objectName().toStdString() : "none";
