@@ -56,7 +56,7 @@ const std::vector<Header> kHeaders{
     {"iterator", "back_inserter make_reverse_iterator"},
     {"limits", "numeric_limits"},
     {"map", "map"},
-    {"memory", "make_unique make_unique_for_overwrite unique_ptr"},
+    {"memory", "make_shared make_unique make_unique_for_overwrite unique_ptr"},
     {"memory_resource", "pmr"},
     {"new", "bad_alloc"},
     {"numeric", "accumulate iota midpoint"},

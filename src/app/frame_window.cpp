@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "app/settings_transfer.h"

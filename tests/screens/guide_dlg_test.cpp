@@ -137,6 +137,25 @@ TEST_F(GuideDlgTest, LinksLeadToTheOtherDocumentsAndBack) {
   });
 }
 
+TEST_F(GuideDlgTest, TheKeyboardGoesFromLinkToLink) {
+  WithGuide(GuidePage::Matrix, {360, 560}, [&](QDialog& guide) {
+    QTextBrowser& text = TextIn(guide);
+    const auto linkAfter = [&](Qt::Key key) {
+      QTest::keyClick(&text, key);
+      return text.textCursor().selectedText().toStdString();
+    };
+    EXPECT_EQ(linkAfter(Qt::Key_Right), "matrix.md");
+    EXPECT_EQ(linkAfter(Qt::Key_Right), "statistics.md");
+    EXPECT_EQ(linkAfter(Qt::Key_Left), "matrix.md");
+    EXPECT_EQ(linkAfter(Qt::Key_Left), "matrix.md") << "it is the first";
+    QTest::keyClick(&text, Qt::Key_Return);
+    EXPECT_EQ(text.source().fileName(), "matrix.md");
+    EXPECT_EQ(PagesIn(guide).itemText(0), "What the line understands");
+    QTest::keyClick(&text, Qt::Key_Tab);
+    EXPECT_NE(QApplication::focusWidget(), &text);
+  });
+}
+
 TEST_F(GuideDlgTest, WordsAreSearchedFromPlaceToPlace) {
   WithGuide(GuidePage::Converter, {360, 560}, [&](QDialog& guide) {
     QTest::keyClick(&TextIn(guide), Qt::Key_F, Qt::ControlModifier);

@@ -171,8 +171,8 @@ TEST_F(PlotterLayoutTest, EveryPartHasAName) {
         ->text(QAccessible::Description)
         .toStdString();
   };
-  EXPECT_EQ(saidOf(u"A"), "Add the equation");
-  EXPECT_EQ(saidOf(u"D"), "Delete the selected equation");
+  EXPECT_EQ(saidOf(u"A"), "add the equation to the list");
+  EXPECT_EQ(saidOf(u"D"), "delete the selected equation (Alt+R)");
 }
 
 TEST_F(PlotterLayoutTest, TabGoesFromTheInputThroughListAndRangeToTheKeys) {

@@ -2,10 +2,13 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QImage>
+#include <QKeyEvent>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <algorithm>
+#include <cstddef>
+#include <vector>
 
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/qt_text.h"
@@ -28,6 +31,22 @@ std::vector<QTextFragment> PartsOf(const QTextDocument& text, IsWanted isWanted)
     }
   }
   return parts;
+}
+
+/// The links of a text, each selected.
+std::vector<QTextCursor> LinksIn(const QTextDocument& text) {
+  std::vector<QTextCursor> links;
+  for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+      const QTextFragment fragment = part.fragment();
+      if (!fragment.charFormat().isAnchor()) continue;
+      QTextCursor link(block);
+      link.setPosition(fragment.position());
+      link.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+      links.push_back(link);
+    }
+  }
+  return links;
 }
 
 /// The places of the pictures of a text.
@@ -157,6 +176,39 @@ void GuideBrowser::showEvent(QShowEvent* event) {
   QTextBrowser::showEvent(event);
   FitPictures();
   KeepPlace();
+}
+
+void GuideBrowser::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Left:
+      return GoToLink(-1);
+    case Qt::Key_Right:
+      return GoToLink(1);
+    case Qt::Key_Return:
+    case Qt::Key_Enter: {
+      const QString link = textCursor().charFormat().anchorHref();
+      if (textCursor().hasSelection() && !link.isEmpty()) setSource(QUrl(link));
+      return;
+    }
+    default:
+      return QTextBrowser::keyPressEvent(event);
+  }
+}
+
+bool GuideBrowser::focusNextPrevChild(bool next) {
+  return QAbstractScrollArea::focusNextPrevChild(next);
+}
+
+void GuideBrowser::GoToLink(int links) {
+  const std::vector<QTextCursor> all = LinksIn(*document());
+  const QTextCursor now = textCursor();
+  const auto behind =
+      std::find_if(all.begin(), all.end(), [&](const QTextCursor& link) { return now < link; });
+  auto wanted = behind - all.begin();
+  if (links < 0) wanted -= now.hasSelection() ? 2 : 1;
+  if (wanted < 0 || wanted >= static_cast<std::ptrdiff_t>(all.size())) return;
+  place_.reset();
+  setTextCursor(all[static_cast<std::size_t>(wanted)]);
 }
 
 void GuideBrowser::FindPages() {

@@ -15,7 +15,8 @@ struct GuideHeading {
 };
 
 /// Shows the guide, and the documents that it links to. Pictures are as wide as there is room, up
-/// to their usual width. Links that lead out of the documents are left to the desktop.
+/// to their usual width. Tab leaves it: Left and Right go from link to link, and Enter follows one.
+/// Links that lead out of the documents are left to the desktop.
 class GuideBrowser final : public QTextBrowser {
  public:
   GuideBrowser();
@@ -42,6 +43,9 @@ class GuideBrowser final : public QTextBrowser {
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
   void ColourLinks();
+  void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+  void GoToLink(int links);
   void FindPages();
   void NotePlace();
   void KeepPlace();

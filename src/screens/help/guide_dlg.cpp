@@ -8,6 +8,8 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <cstddef>
+#include <memory>
 #include <vector>
 
 #include "screens/help/guide_browser_view.h"

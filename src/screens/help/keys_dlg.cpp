@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -27,6 +28,16 @@ QString KeyText(const KeyListRow& row) {
   if (row.shortcut.empty()) return ToQt(row.key);
   return ToQt(row.key) + " (" + ToQt(row.shortcut) + ')';
 }
+
+/// Leaves a little room above and below the lines of a row.
+class RoomyDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) +
+           QSize(0, option.fontMetrics.height() / 6 + 2);
+  }
+};
 
 class CKeysDlg final : public Dialog {
  public:
@@ -64,6 +75,7 @@ CKeysDlg::CKeysDlg(QWidget* parent, const std::vector<ListedKey>& keys)
   table_->verticalHeader()->setMinimumSectionSize(1);
   table_->horizontalHeader()->setSectionsClickable(false);
   table_->horizontalHeader()->setMinimumSectionSize(1);
+  table_->setItemDelegate(new RoomyDelegate(table_));
   LetKeyboardFollow(*table_);
   connect(search_, &QLineEdit::textChanged, this, &CKeysDlg::Refresh);
   connect(close_, &QPushButton::clicked, this, &QDialog::accept);
