@@ -200,7 +200,7 @@ class Scientific final : public test::Screen {
 
 TEST(GuidePages, ItsExpressionsGiveWhatItSays) {
   Scientific screen;
-  ExpectTrue(GuidePage::Scientific, 21, [&](const Item& item) -> std::optional<Example> {
+  ExpectTrue(GuidePage::Scientific, 23, [&](const Item& item) -> std::optional<Example> {
     const auto given = Given(item);
     EXPECT_TRUE(given && item.codes.size() == 1);
     return Example{given.value_or(""), screen.Answer(item.texts[0], item.codes[0])};

@@ -69,6 +69,8 @@ QString WithPlainPictures(QString text) {
 }  // namespace
 
 GuideBrowser::GuideBrowser() {
+  setFrameStyle(QFrame::Box | QFrame::Plain);
+  ShowFocus();
   setAccessibleName(ToQt(kGuideTitle));
   setOpenExternalLinks(true);
   connect(this, &QTextBrowser::sourceChanged, this, [this] {
@@ -176,6 +178,25 @@ void GuideBrowser::showEvent(QShowEvent* event) {
   QTextBrowser::showEvent(event);
   FitPictures();
   KeepPlace();
+}
+
+void GuideBrowser::focusInEvent(QFocusEvent* event) {
+  QTextBrowser::focusInEvent(event);
+  ShowFocus();
+}
+
+void GuideBrowser::focusOutEvent(QFocusEvent* event) {
+  QTextBrowser::focusOutEvent(event);
+  ShowFocus();
+}
+
+void GuideBrowser::ShowFocus() {
+  // Of nothing else in it: all other colours go on following the window's.
+  QPalette frame;
+  frame.setColor(QPalette::WindowText,
+                 palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+  setPalette(frame);
+  setLineWidth(hasFocus() ? 2 : 1);
 }
 
 void GuideBrowser::keyPressEvent(QKeyEvent* event) {

@@ -43,7 +43,10 @@ class GuideBrowser final : public QTextBrowser {
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
   void ColourLinks();
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void ShowFocus();
   bool focusNextPrevChild(bool next) override;
   void GoToLink(int links);
   void FindPages();
