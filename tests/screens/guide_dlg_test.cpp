@@ -100,7 +100,9 @@ TEST_F(GuideDlgTest, ItsPicturesHaveRoomAtEverySize) {
           EXPECT_LE(format.width(), text.viewport()->width());
           const QVariant picture =
               text.document()->resource(QTextDocument::ImageResource, format.name());
-          EXPECT_FALSE(picture.value<QImage>().isNull()) << format.name().toStdString();
+          EXPECT_EQ(picture.value<QImage>().deviceIndependentSize(),
+                    QSizeF(format.width(), format.height()))
+              << format.name().toStdString();
         }
       }
       EXPECT_EQ(pictures, 14);

@@ -260,7 +260,8 @@ void GuideBrowser::FitPicture(int place) {
   const double scale = devicePixelRatioF();
   picture = picture.scaledToWidth(qRound(pictureWidth_ * scale), Qt::SmoothTransformation);
   picture.setDevicePixelRatio(scale);
-  document()->addResource(QTextDocument::ImageResource, name, picture);
+  document()->addResource(QTextDocument::ImageResource, document()->baseUrl().resolved(name),
+                          picture);
   format.setWidth(picture.deviceIndependentSize().width());
   format.setHeight(picture.deviceIndependentSize().height());
   cursor.setCharFormat(format);
