@@ -198,6 +198,7 @@ class TextRoom {
       for (int column = 0; column < table.columnCount(); ++column) {
         const QString text = table.item(row, column)->text();
         const QRect area = table.visualItemRect(table.item(row, column));
+        EXPECT_LE(area.right(), table.viewport()->width()) << NameOf(table, text) << " is cut";
         const QRectF room(0, 0, area.width() - 2 * margin, area.height());
         const QSizeF needed = metrics.boundingRect(room, Qt::TextWordWrap, text).size();
         EXPECT_LE(needed.width(), room.width() + 0.5) << NameOf(table, text) << " is cut";

@@ -48,7 +48,7 @@ class CKeysDlg final : public Dialog {
   void Refresh();
   void ShareWidth();
   void SetTextHeight(int text) override;
-  void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
   std::vector<KeyListRow> rows_;
   QLineEdit* search_ = new QLineEdit;
@@ -77,6 +77,7 @@ CKeysDlg::CKeysDlg(QWidget* parent, const std::vector<ListedKey>& keys)
   table_->horizontalHeader()->setMinimumSectionSize(1);
   table_->setItemDelegate(new RoomyDelegate(table_));
   LetKeyboardFollow(*table_);
+  table_->viewport()->installEventFilter(this);
   connect(search_, &QLineEdit::textChanged, this, &CKeysDlg::Refresh);
   connect(close_, &QPushButton::clicked, this, &QDialog::accept);
   LayOut();
@@ -125,11 +126,10 @@ void CKeysDlg::SetTextHeight(int text) {
   ShareWidth();
 }
 
-void CKeysDlg::resizeEvent(QResizeEvent* event) {
-  Dialog::resizeEvent(event);
-  // At once: a line more or less is seen.
-  layout()->activate();
-  ShareWidth();
+bool CKeysDlg::eventFilter(QObject* watched, QEvent* event) {
+  const bool isHandled = Dialog::eventFilter(watched, event);
+  if (event->type() == QEvent::Resize) ShareWidth();
+  return isHandled;
 }
 
 }  // namespace
