@@ -297,6 +297,50 @@ TEST_F(FrameWindowTest, NoScreenOpensAfterExit) {
   EXPECT_EQ(ShownName(), "none");
 }
 
+TEST_F(FrameWindowTest, AWindowGrowsAndShrinksWithItsTexts) {
+  Start(kOneThatAsks);
+  const QSize first(360, 560);
+  QWidget& window = *frame_->Shown();
+  ASSERT_EQ(window.size(), first);
+  const QSize desktop = QGuiApplication::primaryScreen()->availableGeometry().size();
+  ASSERT_EQ(desktop, QSize(800, 800));
+  frame_->ScaleText(TextStep::Larger);
+  EXPECT_EQ(window.size(), QSize(396, 616));
+  EXPECT_EQ(store_.Get(kTextScale), 110);
+  EXPECT_EQ(TextShare(), 1) << "the window has grown with them";
+  for (int i = 0; i < 4; ++i) frame_->ScaleText(TextStep::Larger);
+  EXPECT_EQ(window.size(), QSize(511, 795)) << "the desktop is no higher";
+  EXPECT_EQ(store_.Get(kTextScale), 150);
+  EXPECT_DOUBLE_EQ(TextShare(), 150.0 / 142);
+  EXPECT_TRUE(QRect(QPoint(), desktop).contains(window.frameGeometry()));
+  frame_->ScaleText(TextStep::Usual);
+  EXPECT_EQ(window.size(), first);
+  EXPECT_EQ(store_.Get(kTextScale), 100);
+  EXPECT_EQ(TextShare(), 1);
+  EXPECT_EQ(saves_, 6);
+}
+
+TEST_F(FrameWindowTest, AWindowOfTheUsersSizeKeepsItsShapeAtEveryScale) {
+  Start(kOneThatAsks);
+  QWidget& window = *frame_->Shown();
+  frame_->ScaleText(TextStep::Larger);
+  window.resize(440, 330);
+  frame_->ScaleText(TextStep::Usual);
+  EXPECT_EQ(window.size(), QSize(400, 300));
+}
+
+TEST_F(FrameWindowTest, AMaximizedWindowStaysAndItsTextsGrow) {
+  Start(kOneThatAsks);
+  QWidget& window = *frame_->Shown();
+  window.showMaximized();
+  const QSize size = window.size();
+  for (int i = 0; i < 3; ++i) frame_->ScaleText(TextStep::Larger);
+  EXPECT_EQ(window.size(), size);
+  EXPECT_EQ(store_.Get(kWindowScale), 100);
+  EXPECT_DOUBLE_EQ(TextShare(), 1.3);
+  frame_->ScaleText(TextStep::Usual);
+}
+
 TEST_F(FrameWindowTest, AScreenTakesThePlaceAndSizeOfTheOneBefore) {
   Start();
   frame_->Shown()->move(77, 55);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QFontMetrics>
 #include <QScrollBar>
 #include <QToolButton>
@@ -63,6 +64,48 @@ TEST_F(MatrixLayoutTest, TheLargestMatrixIsSeenWholeWhereTheWindowHasRoomForIt) 
   EXPECT_LT(AreaOn(*dlg_, Grid()).right(), AreaOn(*dlg_, *FindKey(*dlg_, u"7")).left());
   EXPECT_GT(Grid().width(), 640);
   EXPECT_GT(Grid().height(), 400);
+}
+
+TEST_F(MatrixLayoutTest, TheLargestMatrixOfLongNumbersIsSeenWholeInAWideWindow) {
+  OpenLargest();
+  QString rows;
+  for (int row = 0; row < 10; ++row) {
+    for (int column = 0; column < 10; ++column) {
+      rows += QString("-%1.23456789012e+%2").arg(1 + row % 9).arg(10 + column);
+      rows += column < 9 ? '\t' : '\n';
+    }
+  }
+  for (const QSize size : {QSize(1280, 720), QSize(1920, 1080), QSize(3840, 2160)}) {
+    SCOPED_TRACE(size.width());
+    ResizeScreen(*dlg_, size);
+    ClickCell(1, 1);
+    QGuiApplication::clipboard()->setText(rows);
+    Key(Qt::Key_V, Qt::ControlModifier);
+    const QRect room = Grid().viewport()->geometry();
+    EXPECT_TRUE(room.contains(Grid().CellArea({1, 1})));
+    EXPECT_TRUE(room.contains(Grid().CellArea({10, 10})));
+    for (int column = 1; column <= 10; ++column) {
+      EXPECT_GE(Grid().GetColumnWidth(column), Grid().FittingWidth(column)) << column;
+    }
+    EXPECT_GE(Grid().font().pixelSize(), 10);
+    ExpectEveryCaptionFits(*dlg_);
+    ExpectNothingOverlaps(*dlg_, {&Tabs(), &Grid()});
+  }
+  // An upright window has the widths that the user gave, as it was.
+  ResizeScreen(*dlg_, {360, 560});
+  for (int column = 1; column <= 10; ++column) EXPECT_EQ(Grid().GetColumnWidth(column), 60);
+}
+
+TEST_F(MatrixLayoutTest, NothingOfAWideWindowIsLeftAside) {
+  for (const QSize size : {QSize(500, 560), QSize(900, 800), QSize(1280, 720), QSize(1920, 1080)}) {
+    SCOPED_TRACE(size.width());
+    ResizeScreen(*dlg_, size);
+    const QRect line = AreaOn(*dlg_, Expression(*dlg_));
+    EXPECT_LE(line.left(), size.width() / 40);
+    EXPECT_GE(line.right(), size.width() - size.width() / 30);
+    ExpectEveryCaptionFits(*dlg_);
+    ExpectNothingOverlaps(*dlg_, {&Tabs(), &Grid()});
+  }
 }
 
 TEST_F(MatrixLayoutTest, AFittedColumnIsFittedAtEverySize) {
