@@ -106,7 +106,7 @@ TEST_F(ResultUsesTest, ADoubleClickSelectsTheWholeNumber) {
   const QFontMetrics metrics = line.fontMetrics();
   const auto clickOn = [&](int character) {
     const QString before = line.text().left(character);
-    const int x = line.cursorRect().center().x() -
+    const int x = line.inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x() -
                   metrics.horizontalAdvance(line.text().mid(character)) +
                   metrics.horizontalAdvance(line.text()[character]) / 2;
     line.end(false);
@@ -254,6 +254,8 @@ class ScalingFrame final : public Frame {
   const ScreenDialogs& Dialogs() const override { return dialogs; }
   std::vector<ScreenChoice> ScreensBeside(ScreenMode) const override { return {}; }
   void SaveStore() override {}
+  void ExportSettings(QWidget*) override {}
+  void ImportSettings(QWidget*) override {}
   void ChangeMode(ScreenMode) override {}
   void Exit() override {}
   void ScaleText(TextStep step) override { steps.push_back(step); }

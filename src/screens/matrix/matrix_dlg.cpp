@@ -140,7 +140,7 @@ void CMatrixDlg::LayOut(const DialogUnits& units) {
   Line().setGeometry(places.line);
   Line().SetTextHeight(qRound(Line().height() * kLineTextHeight * TextShare()));
   LayOutResult(places.result);
-  tabs_->setGeometry(places.tabs);
+  tabs_->LayOut(places.tabs);
   grid_.LayOut(places);
   LayOutHistory(body);
 }

@@ -11,9 +11,9 @@
 #include "screens/matrix/matrix_grid_view.h"
 #include "screens/widgets/line_screen.h"
 
-class QTabBar;
-
 namespace kav {
+
+class MatrixTabs;
 
 /// Loads the settings when it is made and writes them into the frame's store when it is destroyed;
 /// after each "=" it also has them saved to disk.
@@ -76,7 +76,7 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   void ShowNeighbour(int step);
 
   MatrixModel model_;
-  QTabBar* tabs_;
+  MatrixTabs* tabs_;
   MatrixGridView grid_;
   bool editsGrid_ = false;       ///< the grid had the focus later than the line
   bool isLineNewer_ = false;     ///< the line was edited later than a matrix

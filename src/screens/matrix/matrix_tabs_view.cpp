@@ -12,6 +12,8 @@ namespace {
 
 /// Of the height of the tabs.
 constexpr double kTextHeight = 0.55;
+/// Or this much, if the user wants large texts.
+constexpr double kLargeTextHeight = 0.7;
 /// What the text of a tab leaves free of it at least, in pixels.
 constexpr int kMargins = 4;
 
@@ -25,13 +27,23 @@ MatrixTabs::MatrixTabs(QWidget* parent) : QTabBar(parent) {
   for (const auto name : kMatrixNames) addTab(ToQt(name));
 }
 
+void MatrixTabs::LayOut(const QRect& place) {
+  setGeometry(place);
+  FitTexts();
+}
+
 void MatrixTabs::resizeEvent(QResizeEvent* event) {
-  const int most = qRound(height() * kTextHeight);
+  FitTexts();
+  QTabBar::resizeEvent(event);
+}
+
+void MatrixTabs::FitTexts() {
+  const double wanted = std::min(kTextHeight * TextShare(), kLargeTextHeight);
+  const int most = std::max(qRound(height() * wanted), 1);
   setFont(ScreenFont(most));
   int needed = count() * kMargins;
   for (int i = 0; i < count(); ++i) needed += TextWidth(i);
   if (needed > width()) setFont(ScreenFont(most * width() / needed));
-  QTabBar::resizeEvent(event);
 }
 
 QSize MatrixTabs::tabSizeHint(int index) const {

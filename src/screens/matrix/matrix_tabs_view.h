@@ -11,10 +11,13 @@ class MatrixTabs final : public QTabBar {
  public:
   explicit MatrixTabs(QWidget* parent);
 
+  void LayOut(const QRect& place);
+
  private:
   void resizeEvent(QResizeEvent* event) override;
   QSize tabSizeHint(int index) const override;
   QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
+  void FitTexts();
   int TextWidth(int index) const;
 };
 

@@ -85,6 +85,10 @@ void EquationInputView::paintEvent(QPaintEvent*) {
 }
 
 void EquationInputView::resizeEvent(QResizeEvent*) {
+  FitText();
+}
+
+void EquationInputView::FitText() {
   const int most = qRound(height() * kInputTextHeight * TextShare());
   const int outline = std::max(2, most / 6);
   // Each line has its part of what outline and margins leave of the height.

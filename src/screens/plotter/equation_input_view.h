@@ -13,6 +13,9 @@ class EquationInputView final : public QWidget {
  public:
   explicit EquationInputView(QWidget* parent);
 
+  /// Gives the letters their size.
+  void FitText();
+
   FormulaView& Formula() const { return *formula_; }
 
   // What the Edit menu does to it, and whether there is something to do.

@@ -138,6 +138,7 @@ void CPlotterDlg::LayOut(const DialogUnits& units) {
   Keys().setGeometry(rect());
   Keys().LayOut(units);
   input_->setGeometry(units.Pixels(UnitsOf(kEquationInputPlace)));
+  input_->FitText();
   list_->setGeometry(units.Pixels(UnitsOf(kEquationListPlace)));
   range_.LayOut(units);
   grid_->setGeometry(units.Pixels(UnitsOf(kGridBoxPlace)));
