@@ -56,6 +56,8 @@ TEST_F(ScreenAccessibilityTest, EntriesOfTheEditMenuAreDescribed) {
   }
   EXPECT_EQ(entries,
             (std::map<QString, QString>{{"Copy", "Copy the selection and put it on the Clipboard"},
+                                        {"Copy Line and Result", ""},
+                                        {"Copy Result", ""},
                                         {"Cut", "Cut the selection and put it on the Clipboard"},
                                         {"History",
                                          "Show or hide the lines of all sessions, with their "

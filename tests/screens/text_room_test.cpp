@@ -44,23 +44,17 @@ constexpr QSize kWindows[] = {{180, 240},  {180, 280},   {240, 320},   {241, 333
 /// How high a dialog is to be.
 enum class Height { OfTheArea, AsNeeded };
 
-/// Where the toolkit draws or writes twice as large, the large windows take long and tell nothing
-/// more.
+/// Where the toolkit draws twice as large, the large windows take long and tell nothing more.
 std::span<const QSize> Windows() {
   constexpr std::size_t kSmallOnes = 7;
   static_assert(kWindows[kSmallOnes - 1] == QSize(480, 640));
   const std::span<const QSize> all(kWindows);
-  const bool isLarge =
-      std::getenv("KAV_TEST_DPI") != nullptr || std::getenv("KAV_TEST_TEXT") != nullptr;
-  return isLarge ? all.first(kSmallOnes) : all;
+  return std::getenv("KAV_TEST_DPI") != nullptr ? all.first(kSmallOnes) : all;
 }
 
 class TextRoomTest : public testing::Test {
  protected:
   TextRoomTest() {
-    constexpr double kPercent = 100;
-    const char* share = std::getenv("KAV_TEST_TEXT");
-    if (share != nullptr) SetDesktopTextShare(std::atoi(share) / kPercent);
     StoreMacros(frame_.store,
                 {{"hyp", "TYPE2 : F(X,Y)", "sqrt(x^2+y^2)"}, {"box", "TYPE3 : F(X,Y,Z)", "x*y*z"}});
     frame_.store.Set(kMatrixRows, 10);

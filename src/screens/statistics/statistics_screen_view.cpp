@@ -34,6 +34,9 @@ namespace {
 /// room for too few rows.
 constexpr double kHighestLine = 1.3;
 
+/// Columns leave numbers room for letters that are so much larger.
+constexpr double kLargeNumbers = 1.3;
+
 constexpr FileKind kDataFiles{u"TXT(*.txt)", u"txt"};
 
 bool IsByTab(const QFocusEvent& event) {
@@ -142,7 +145,8 @@ void StatisticsScreen::LayOut(const DialogUnits& units) {
   Keys().LayOut(units);
   fields_.LayOut(units, places);
   table_->setGeometry(units.Pixels(UnitsOf(places.list)));
-  const int text = qRound(fields_.Line(DataField::X).height() * kFieldText * TextShare());
+  const int text = qRound(fields_.Line(DataField::X).height() * kFieldText *
+                          std::min(TextShare(), kLargeNumbers));
   table_->SetTextHeight(PixelsForLine(text, text * kHighestLine));
   result_->LayOut(units.Pixels(UnitsOf(places.result)));
 }

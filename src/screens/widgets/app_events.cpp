@@ -47,6 +47,8 @@ void DressMenu(QMenu& menu) {
   menu.setStyle(ScreenStyle());
   Wear(menu, Attire::Window);
   menu.setFont(MenuFont(*menu.parentWidget()->window()));
+  const QWidget& window = *menu.parentWidget()->window();
+  FitMenu(menu, MenuFont(window), window);
 }
 
 void Dress(QObject* watched) {

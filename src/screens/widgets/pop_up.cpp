@@ -60,6 +60,15 @@ QFont MenuFont(const QWidget& window) {
   return ScreenFont(TextPixels(PortraitArea(window.size()).height()));
 }
 
+void FitMenu(QMenu& menu, const QFont& font, const QWidget& window) {
+  menu.setFont(font);
+  const int room = PortraitArea(window.size()).width();
+  int pixels = font.pixelSize();
+  // An entry may be a long name of the user's: letters stay large enough to be read.
+  const int least = pixels / 2;
+  while (pixels > least && menu.sizeHint().width() > room) menu.setFont(ScreenFont(--pixels));
+}
+
 void PopUpAt(QMenu& menu, const QWidget& window, const MenuPlace& place) {
   PopUpAt(menu, window, PortraitArea(window.size()), place);
 }

@@ -25,6 +25,9 @@ QString TipOf(std::u16string_view text);
 /// The letters of the menus of a screen or dialog, `window`.
 QFont MenuFont(const QWidget& window);
 
+/// Gives `menu` letters of `font`, or smaller ones if it would be wider than `window` else.
+void FitMenu(QMenu& menu, const QFont& font, const QWidget& window);
+
 /// Opens `menu` at `place` of the screen or dialog `window`.
 void PopUpAt(QMenu& menu, const QWidget& window, const MenuPlace& place);
 /// The same for a screen that fills `area` of `window`.

@@ -234,6 +234,7 @@ void Screen::Dress(QMenu* menu) {
   menu->setStyle(ScreenStyle());
   Wear(*menu, Attire::Window);
   menu->setFont(menuBar_->font());
+  FitMenu(*menu, menuBar_->font(), *this);
 }
 
 void Screen::changeEvent(QEvent* event) {
