@@ -238,19 +238,19 @@ TEST_F(ResultUsesTest, KeysAndMenusFollowTheSizeOfTexts) {
   EXPECT_EQ(menu, 20);  // 0.036 of 560
   frame_.store.Set(kTextScale, 150);
   auto& screen = dynamic_cast<Screen&>(*dlg_);
-  screen.Arrange();
+  screen.LayOutAll();
   EXPECT_EQ(menuPixels(), 30);
   frame_.store.Set(kTextScale, 50);
-  screen.Arrange();
+  screen.LayOutAll();
   EXPECT_EQ(menuPixels(), 10);
   EXPECT_DOUBLE_EQ(TextShare(), 0.5);
   // A window that grew with the texts needs no larger ones of its own.
   frame_.store.Set(kWindowScale, 50);
-  screen.Arrange();
+  screen.LayOutAll();
   EXPECT_EQ(menuPixels(), menu);
   frame_.store.Set(kTextScale, 100);
   frame_.store.Set(kWindowScale, 100);
-  screen.Arrange();
+  screen.LayOutAll();
   EXPECT_EQ(dlg_->grab().toImage(), usual);
 }
 
