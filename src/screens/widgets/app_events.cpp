@@ -46,7 +46,6 @@ void DressMenu(QMenu& menu) {
   if (menu.parentWidget() == nullptr) return;
   menu.setStyle(ScreenStyle());
   Wear(menu, Attire::Window);
-  menu.setFont(MenuFont(*menu.parentWidget()->window()));
   const QWidget& window = *menu.parentWidget()->window();
   FitMenu(menu, MenuFont(window), window);
 }

@@ -233,7 +233,6 @@ QMenu* Screen::MakePopUp() {
 void Screen::Dress(QMenu* menu) {
   menu->setStyle(ScreenStyle());
   Wear(*menu, Attire::Window);
-  menu->setFont(menuBar_->font());
   FitMenu(*menu, menuBar_->font(), *this);
 }
 
