@@ -31,6 +31,7 @@ class FailingScreen final : public LineScreen {
   void OnEquals() override { done += "= "; }
   void OnClear() override { done += "CLR "; }
   void OnMend() override { done += "mend "; }
+  bool OnOperator(char16_t) override { return false; }
   void TakeLine() override {}
   void Refresh() override {}
   std::optional<std::u16string> LiveResult(std::u16string_view) const override { return {}; }

@@ -67,8 +67,8 @@ void KeyScreen::AddMenus(ScreenMode mode, DisplayPage page,
   AddFileMenu({Opening(config), Opening(dialogs.unitEditor), Opening(dialogs.macroEditor),
                mode == ScreenMode::Plotter ? kPlotterEditMacroEntry : kEditMacroEntry});
   AddEditMenu({[this](EditCommand command) { Edit(command); },
-               [this](EditCommand command) { return CanEdit(command); }, EntriesOfResult(),
-               MoreToEdit()});
+               [this](EditCommand command) { return CanEdit(command); }, MoreToEdit(),
+               EntriesOfResult()});
   AddModeMenu(mode);
   AddHelpMenu();
 }
