@@ -69,10 +69,14 @@ struct Range {
   int last;
 };
 
+/// The signs that are taken as those of the operand behind them: up to the first binary '-' or '+',
+/// or all that stand behind an operator.
+enum class Signs : std::uint8_t { BeforeBinaryOne, All };
+
 class Reduction {
  public:
-  Reduction(TokenArray& tokens, const SymbolTable& symbols, StepList& steps)
-      : tokens_(tokens), symbols_(symbols), steps_(steps) {}
+  Reduction(TokenArray& tokens, const SymbolTable& symbols, Signs signs, StepList& steps)
+      : tokens_(tokens), symbols_(symbols), signs_(signs), steps_(steps) {}
 
   void ReduceAll() {
     for (int i = 0; i < tokens_.Count(); ++i) {
@@ -141,9 +145,6 @@ class Reduction {
     return true;
   }
 
-  /// A sign without an operand before it belongs to the operand behind it. Only if values stand
-  /// side by side, such a sign to the right of the same binary one stays, since it may join the
-  /// values: 2--3 4 is 2-3-4.
   bool SweepSigns(Range range) {
     bool isBehindMinus = false;
     bool isBehindPlus = false;
@@ -151,9 +152,10 @@ class Reduction {
       const char symbol = tokens_[i].symbol;
       if (symbol != '-' && symbol != '+') continue;
       bool& isBehindBinary = symbol == '-' ? isBehindMinus : isBehindPlus;
+      if (isBehindBinary && (signs_ == Signs::BeforeBinaryOne || IsSpareSign(i))) continue;
       if (IsBinarySign(i, range)) {
         isBehindBinary = true;
-      } else if (!(isBehindBinary && HasValuesSideBySide()) && !ApplySign(i, range)) {
+      } else if (!ApplySign(i, range)) {
         return false;
       }
     }
@@ -172,7 +174,7 @@ class Reduction {
       const int operand = PreviousOperand(i - 1, range.first);
       if (operand == kNone) return Fail(Operation::FailNeedsArgument, i);
       Write(Operation::Factorial, i, operand);
-      tokens_[i].symbol = 0;
+      tokens_[i] = {};  // Not the kind of an operator: a sign behind it is binary.
     }
     return true;
   }
@@ -220,6 +222,12 @@ class Reduction {
       if (tokens_[i].symbol != 0) return false;
     }
     return false;
+  }
+
+  /// Whether a sign to the right of a binary one is none: it does not stand behind an operator, or
+  /// values stand side by side, so that the text has no meaning.
+  bool IsSpareSign(int sign) const {
+    return tokens_[sign - 1].kind != TokenKind::Operator || HasValuesSideBySide();
   }
 
   /// Whether two values stand side by side anywhere. A function is one that is still to come.
@@ -281,14 +289,23 @@ class Reduction {
 
   TokenArray& tokens_;
   const SymbolTable& symbols_;
+  Signs signs_;
   StepList& steps_;
 };
 
 }  // namespace
 
 StepList Reduce(TokenArray& tokens, BaseMode base) {
+  const SymbolTable& symbols = base == BaseMode::Decimal ? kDecimal : kInteger;
+  const TokenArray text = tokens;
   StepList steps;
-  Reduction(tokens, base == BaseMode::Decimal ? kDecimal : kInteger, steps).ReduceAll();
+  Reduction(tokens, symbols, Signs::BeforeBinaryOne, steps).ReduceAll();
+  if (steps.Last().operation != Operation::FailExpression) return steps;
+  // 5--3 and 10-3^-2 have no other meaning. What has one by the signs up to a binary one keeps it.
+  tokens = text;
+  StepList withAllSigns;
+  Reduction(tokens, symbols, Signs::All, withAllSigns).ReduceAll();
+  if (withAllSigns.Last().operation != Operation::FailExpression) steps = withAllSigns;
   return steps;
 }
 

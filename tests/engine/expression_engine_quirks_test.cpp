@@ -53,12 +53,20 @@ TEST(Quirks, AMinusBehindAnOperatorBelongsToItsOperand) {
                             {"5--1/0", "Division exceeded calculation limit."},
                             {"5-4*/-2", kWrong},
                             {"5--4*/2", kWrong},
+                            {"sin1-4^/2-3", kWrong},
+                            {"sin1-4^/(2)-3", kWrong},
+                            {"sin1-4^/2!-3", kWrong},
                             {"2 3--4", kWrong},
                             {"5--(sin)", kWrong}});
   ExpectValues(kBinary, {{"101--11", 8}, {"10-11*-100", 14}, {"1 or 1-1--10", 2}});
   ExpectValues(kHexadecimal, {{"f--1", 16}, {"f-2>>-1--1", 16}});
   ExpectValues(kOctal, {{"17---2", 13}, {"5--not 0", 4}});
   ExpectValues(kDegrees, {{"2-3*(-4)", 14}, {"2-(-3)", 5}, {"2*-3-4", -10}, {"2+3*-4", -10}});
+}
+
+// Powers behind a bare function are taken before it, past a sign that stays; a '+' then serves it.
+TEST(Quirks, WhatASignBehindABareFunctionCameToStays) {
+  ExpectValues(kDegrees, {{"sin30-2^-1+3", -4.5}, {"abs1-33c-1+2", -34}, {"abs1-2^-1", 0.5}});
 }
 
 TEST(Quirks, APlusBehindAnOperatorBelongsToItsOperand) {

@@ -12,7 +12,14 @@ namespace {
 class PlainReduction {
  public:
   PlainReduction(PlainTokens tokens, CalcModes modes, PlainSigns signs)
-      : t_(std::move(tokens)), modes_(modes), signs_(signs) {}
+      : text_(tokens), t_(std::move(tokens)), modes_(modes), signs_(signs) {}
+
+  /// Whether every operator finds its operands and one value is left, whatever the values are.
+  bool Fits() {
+    isDry_ = true;
+    for (PlainToken& token : t_) token.value = 1;
+    return Run().message.empty();
+  }
 
   PlainAnswer Run() {
     ReduceGroups();
@@ -77,7 +84,7 @@ class PlainReduction {
       if (At(i).symbol != 'n') continue;
       const Index operand = Seek(i, 1, to);
       if (Failed()) return;
-      At(operand).value = -1.0 - PlainInt32(At(operand).value);
+      if (!isDry_) At(operand).value = -1.0 - PlainInt32(At(operand).value);
       At(i).symbol = 0;
     }
     Signs(from, to, '-');
@@ -109,7 +116,7 @@ class PlainReduction {
       if (Failed()) return;
       const std::string& name = At(i).name;
       if (!PlainIsInDomain(name, value, modes_.angleUnit)) return FailLimit(name);
-      value = PlainApply(name, value, modes_.angleUnit);
+      if (!isDry_) value = PlainApply(name, value, modes_.angleUnit);
       At(i).symbol = 0;
     }
   }
@@ -124,10 +131,13 @@ class PlainReduction {
           before >= from && (At(before).symbol == 'V' || At(before).symbol == '!');
       isBehindBinary = isBehindBinary || isBinary;
       if (isBehindBinary && (signs_ == PlainSigns::BeforeABinaryOne || HasSideBySide())) return;
-      if (isBinary) continue;
+      const bool isBehindOperand =
+          i > 0 && std::string_view("V)!").find(text_[static_cast<std::size_t>(i - 1)].symbol) !=
+                       std::string_view::npos;
+      if (isBinary || (isBehindBinary && isBehindOperand)) continue;
       if (sign == '-') {
         const Index operand = Seek(i, 1, to);
-        if (!Failed()) At(operand).value *= -1.0;
+        if (!Failed() && !isDry_) At(operand).value *= -1.0;
       }
       At(i).symbol = 0;
     }
@@ -170,6 +180,7 @@ class PlainReduction {
   }
 
   double Calculate(char symbol, double a, double b) {
+    if (isDry_) return 1;
     if (symbol == 'p' || symbol == 'c') return Arrange(symbol, a, b);
     if (symbol == '^') {
       lastPower_ = {a, b};
@@ -221,8 +232,10 @@ class PlainReduction {
   void FailLimit(const std::string& name) { Fail(name + " exceeded calculation limit."); }
   void FailNotInteger(const std::string& name) { Fail(name + " is not supported non-integer."); }
 
+  const PlainTokens text_;  ///< before anything is reduced
   PlainTokens t_;
   CalcModes modes_;
+  bool isDry_ = false;
   PlainSigns signs_;
   std::string message_;
   std::pair<double, double> lastPower_;
@@ -236,7 +249,11 @@ PlainAnswer PlainEvaluate(std::string_view text, CalcModes modes, const PlainVar
   if (!read.message.empty()) return {0, read.message};
   const std::string message = PlainOrderMessage(read.tokens, modes.baseMode);
   if (!message.empty()) return {0, message};
-  return PlainReduction(read.tokens, modes, signs).Run();
+  const auto reduction = [&](PlainSigns some) { return PlainReduction(read.tokens, modes, some); };
+  const bool needsAll = signs == PlainSigns::All &&
+                        !reduction(PlainSigns::BeforeABinaryOne).Fits() &&
+                        reduction(PlainSigns::All).Fits();
+  return reduction(needsAll ? PlainSigns::All : PlainSigns::BeforeABinaryOne).Run();
 }
 
 }  // namespace kav::test

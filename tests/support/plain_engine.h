@@ -16,8 +16,9 @@ struct PlainAnswer {
   std::string message;
 };
 
-/// Which signs belong to the operand behind them: only those before the first binary one, or all
-/// that have no operand before them, unless values stand side by side.
+/// Which signs belong to the operand behind them: only those before the first binary one, or, if
+/// these leave an operator without an operand, all behind operators, unless values stand side by
+/// side.
 enum class PlainSigns { BeforeABinaryOne, All };
 
 /// What `text`, with its case folded already, comes to; with `variables` it may use x, y and z.
