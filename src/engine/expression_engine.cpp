@@ -11,6 +11,12 @@
 namespace kav {
 namespace {
 
+CalcResult<TokenArray> Cut(std::string_view text, const CalcModes& modes) {
+  return modes.baseMode == BaseMode::Decimal
+             ? Tokenize(text, modes.answer)
+             : TokenizeInBase(text, modes.baseMode, modes.answer);
+}
+
 /// `error`, which is about the token of the number `token` of `text`, with its place.
 CalcError AboutToken(int token, CalcError error, std::string_view text, BaseMode base) {
   error.place =
@@ -22,8 +28,7 @@ CalcError AboutToken(int token, CalcError error, std::string_view text, BaseMode
 
 CalcResult<double> EvaluateFolded(std::string_view text, CalcModes modes) {
   const BaseMode base = modes.baseMode;
-  auto tokens = base == BaseMode::Decimal ? Tokenize(text, modes.answer)
-                                          : TokenizeInBase(text, base, modes.answer);
+  auto tokens = Cut(text, modes);
   if (!tokens) return std::move(tokens).error();
   const int faulty = FaultyToken(*tokens, base);
   if (faulty >= 0) return AboutToken(faulty, *CheckOrder(*tokens, base), text, base);
@@ -32,7 +37,12 @@ CalcResult<double> EvaluateFolded(std::string_view text, CalcModes modes) {
   for (int i = 0; i < tokens->Count(); ++i) {
     values[static_cast<std::size_t>(i)] = (*tokens)[i].value;
   }
-  const auto answer = RunSteps(Reduce(*tokens, base), values, modes.angleUnit);
+  StepList steps = Reduce(*tokens, base, Signs::BeforeBinaryOne);
+  if (LacksOperand(steps)) {
+    auto again = Cut(text, modes);
+    steps = ReduceAgain(*again, base, steps);
+  }
+  const auto answer = RunSteps(steps, values, modes.angleUnit);
   if (answer) return *answer;
   return AboutToken(answer.error().token, MakeError(answer.error()), text, base);
 }

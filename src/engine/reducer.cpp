@@ -69,10 +69,6 @@ struct Range {
   int last;
 };
 
-/// The signs that are taken as those of the operand behind them: up to the first binary '-' or '+',
-/// or all that stand behind an operator.
-enum class Signs : std::uint8_t { BeforeBinaryOne, All };
-
 class Reduction {
  public:
   Reduction(TokenArray& tokens, const SymbolTable& symbols, Signs signs, StepList& steps)
@@ -295,18 +291,23 @@ class Reduction {
 
 }  // namespace
 
-StepList Reduce(TokenArray& tokens, BaseMode base) {
-  const SymbolTable& symbols = base == BaseMode::Decimal ? kDecimal : kInteger;
-  const TokenArray text = tokens;
+StepList Reduce(TokenArray& tokens, BaseMode base, Signs signs) {
   StepList steps;
-  Reduction(tokens, symbols, Signs::BeforeBinaryOne, steps).ReduceAll();
-  if (steps.Last().operation != Operation::FailExpression) return steps;
-  // 5--3 and 10-3^-2 have no other meaning. What has one by the signs up to a binary one keeps it.
-  tokens = text;
-  StepList withAllSigns;
-  Reduction(tokens, symbols, Signs::All, withAllSigns).ReduceAll();
-  if (withAllSigns.Last().operation != Operation::FailExpression) steps = withAllSigns;
+  Reduction(tokens, base == BaseMode::Decimal ? kDecimal : kInteger, signs, steps).ReduceAll();
   return steps;
+}
+
+StepList Reduce(TokenArray& tokens, BaseMode base) {
+  const TokenArray text = tokens;
+  const StepList steps = Reduce(tokens, base, Signs::BeforeBinaryOne);
+  if (!LacksOperand(steps)) return steps;
+  tokens = text;
+  return ReduceAgain(tokens, base, steps);
+}
+
+StepList ReduceAgain(TokenArray& tokens, BaseMode base, const StepList& steps) {
+  const StepList withAllSigns = Reduce(tokens, base, Signs::All);
+  return LacksOperand(withAllSigns) ? steps : withAllSigns;
 }
 
 }  // namespace kav
