@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
+#include <span>
 
 #include "cli/cli_texts.h"
 #include "common/number_text.h"
@@ -29,9 +29,8 @@ constexpr CharacterRange kWithoutWidth[] = {{0x0300, 0x036F}, {0x1AB0, 0x1AFF}, 
                                             {0x200B, 0x200F}, {0x20D0, 0x20FF}, {0xFE00, 0xFE0F},
                                             {0xFE20, 0xFE2F}};
 
-template <std::size_t kCount>
-bool IsAmong(const CharacterRange (&ranges)[kCount], char32_t c) {
-  return std::any_of(std::begin(ranges), std::end(ranges),
+bool IsAmong(std::span<const CharacterRange> ranges, char32_t c) {
+  return std::any_of(ranges.begin(), ranges.end(),
                      [c](const CharacterRange& row) { return c >= row.first && c <= row.last; });
 }
 

@@ -66,9 +66,9 @@ std::u16string_view SpellingOf(char16_t c, char16_t& own) {
   if (IsWideSpace(c)) own = kBlank;
   if (c >= u'！' && c <= u'～') own = static_cast<char16_t>(c - u'！' + u'!');
   if (own == c && c > u'~') {
-    const auto* known = std::find_if(std::begin(kSpellings), std::end(kSpellings),
-                                     [c](const Spelling& row) { return row.character == c; });
-    if (known != std::end(kSpellings)) return known->own;
+    for (const Spelling& row : kSpellings) {
+      if (row.character == c) return row.own;
+    }
   }
   return {&own, 1};
 }

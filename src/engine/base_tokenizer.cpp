@@ -110,7 +110,7 @@ CalcResult<TokenArray> ReadAll(std::string_view text, BaseMode base, std::option
 }  // namespace
 
 CalcResult<TokenArray> TokenizeInBase(std::string_view text, BaseMode base,
-                                       std::optional<double> answer) {
+                                      std::optional<double> answer) {
   return ReadAll(text, base, answer);
 }
 

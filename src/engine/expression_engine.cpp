@@ -12,9 +12,8 @@ namespace kav {
 namespace {
 
 CalcResult<TokenArray> Cut(std::string_view text, const CalcModes& modes) {
-  return modes.baseMode == BaseMode::Decimal
-             ? Tokenize(text, modes.answer)
-             : TokenizeInBase(text, modes.baseMode, modes.answer);
+  return modes.baseMode == BaseMode::Decimal ? Tokenize(text, modes.answer)
+                                             : TokenizeInBase(text, modes.baseMode, modes.answer);
 }
 
 /// `error`, which is about the token of the number `token` of `text`, with its place.

@@ -258,7 +258,8 @@ TEST_F(ScreenDialogsTest, DisplaySettingsChangeTheAnswerThatIsShown) {
 
 TEST_F(ScreenDialogsTest, EveryDialogOfTheProgramIsOffered) {
   EXPECT_EQ(Offered(MenuOf(*dlg_, u"&File")),
-            (Texts{u"&About...", u"&Config...", u"Edit &Unit Convert", u"Edit &Macro", u"E&xit"}));
+            (Texts{u"&About...", u"&Config...", u"Edit &Unit Convert", u"Edit &Macro",
+                   u"Ex&port Settings...", u"&Import Settings...", u"E&xit"}));
   Tap(u"M/C");
   EXPECT_EQ(Offered(OpenMenu()),
             (Texts{u"Memory +", u"Memory -", u"Memory Recall", u"Memory Clear", u"-",

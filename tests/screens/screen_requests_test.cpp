@@ -28,7 +28,8 @@ TEST_F(ScreenRequestsTest, EverythingIsOffered) {
                    {ScreenMode::Matrix, u"Matrix Calculator"}};
   OpenAnew();
   EXPECT_EQ(Offered(MenuOf(*dlg_, u"&File")),
-            (Texts{u"&About...", u"&Config...", u"Edit &Unit Convert", u"Edit &Macro", u"E&xit"}));
+            (Texts{u"&About...", u"&Config...", u"Edit &Unit Convert", u"Edit &Macro",
+                   u"Ex&port Settings...", u"&Import Settings...", u"E&xit"}));
   EXPECT_EQ(Offered(MenuOf(*dlg_, u"&Mode")), (Texts{u"Function Plotter", u"Matrix Calculator"}));
   EXPECT_TRUE(FindKey(*dlg_, u"Mac")->isEnabled());
   EXPECT_TRUE(FindKey(*dlg_, u"Cnv")->isEnabled());

@@ -300,7 +300,8 @@ TEST(ReplaceAndKeep, KeepsTheOldFileAsideAndItsPermissions) {
   PutFile(folder.File("a.damaged"), "earlier");
   PutFile(folder.File("a"), "?");
   chmod(folder.File("a").c_str(), 0640);
-  EXPECT_EQ(ReplaceAndKeep(folder.File("a"), "new", kDamagedMark, NewFileOwner::ThisUser), std::nullopt);
+  EXPECT_EQ(ReplaceAndKeep(folder.File("a"), "new", kDamagedMark, NewFileOwner::ThisUser),
+            std::nullopt);
   EXPECT_EQ(folder.Names(), (Names{"a", "a.damaged", "a.damaged-2"}));
   EXPECT_EQ(FileContent(folder.File("a")), "new");
   EXPECT_EQ(FileContent(folder.File("a.damaged-2")), "?");
@@ -315,7 +316,8 @@ TEST(ReplaceAndKeep, LeavesTheOldFileInItsPlaceIfTheNewCannotBeWritten) {
               SurviveSizeLimit();
               const rlimit limit{0, 0};
               if (setrlimit(RLIMIT_FSIZE, &limit) != 0) return 2;
-              const auto error = ReplaceAndKeep(folder.File("a"), "new", kDamagedMark, NewFileOwner::ThisUser);
+              const auto error =
+                  ReplaceAndKeep(folder.File("a"), "new", kDamagedMark, NewFileOwner::ThisUser);
               return error == FileError::SizeLimit ? 0 : 1;
             }),
             0);

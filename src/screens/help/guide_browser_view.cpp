@@ -3,6 +3,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QImage>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -18,6 +19,7 @@ namespace {
 
 constexpr const char* kGuideFile = "qrc:/guide/guide.md";
 constexpr int kUsualPictureWidth = 240;
+constexpr int kOutline = 2;
 constexpr int kPageLevel = 2;
 constexpr QLatin1String kPictures(":/guide/images/");
 
@@ -70,7 +72,7 @@ QString WithPlainPictures(QString text) {
 
 GuideBrowser::GuideBrowser() {
   setFrameStyle(QFrame::Box | QFrame::Plain);
-  ShowFocus();
+  setLineWidth(kOutline);
   setAccessibleName(ToQt(kGuideTitle));
   setOpenExternalLinks(true);
   connect(this, &QTextBrowser::sourceChanged, this, [this] {
@@ -180,23 +182,29 @@ void GuideBrowser::showEvent(QShowEvent* event) {
   KeepPlace();
 }
 
+bool GuideBrowser::event(QEvent* event) {
+  const bool isDone = QTextBrowser::event(event);
+  // Painted over the frame, whose own colour is that of a text.
+  if (event->type() == QEvent::Paint) PaintOutline();
+  return isDone;
+}
+
+void GuideBrowser::PaintOutline() {
+  const int width = frameWidth();
+  QPainter painter(this);
+  painter.setPen(QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), width));
+  const int half = width / 2;
+  painter.drawRect(rect().adjusted(half, half, -half - 1, -half - 1));
+}
+
 void GuideBrowser::focusInEvent(QFocusEvent* event) {
   QTextBrowser::focusInEvent(event);
-  ShowFocus();
+  update();
 }
 
 void GuideBrowser::focusOutEvent(QFocusEvent* event) {
   QTextBrowser::focusOutEvent(event);
-  ShowFocus();
-}
-
-void GuideBrowser::ShowFocus() {
-  // Of nothing else in it: all other colours go on following the window's.
-  QPalette frame;
-  frame.setColor(QPalette::WindowText,
-                 palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
-  setPalette(frame);
-  setLineWidth(hasFocus() ? 2 : 1);
+  update();
 }
 
 void GuideBrowser::keyPressEvent(QKeyEvent* event) {

@@ -43,10 +43,11 @@ class GuideBrowser final : public QTextBrowser {
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
   void ColourLinks();
+  bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void ShowFocus();
+  void PaintOutline();
   bool focusNextPrevChild(bool next) override;
   void GoToLink(int links);
   void FindPages();

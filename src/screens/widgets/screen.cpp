@@ -8,7 +8,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <array>
-#include <cstdlib>
+#include <cmath>
 #include <utility>
 
 #include "screens/widgets/access_view.h"

@@ -1,0 +1,53 @@
+#include "line/near_words.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "common/number_text.h"
+#include "support/shown.h"
+
+namespace kav::test::near_words_test {
+namespace {
+
+std::string Near(std::u16string_view text) {
+  KnownWords words = WordsOf(kDegrees);
+  words.push_back({u"area", PieceKind::Call});
+  std::string list;
+  for (const std::u16string& word : WordsNear(text, words)) {
+    if (!list.empty()) list += ' ';
+    list += Narrow(word);
+  }
+  return list;
+}
+
+TEST(NearWords, AWordWithOneLetterMoreLessOrOther) {
+  EXPECT_EQ(Near(u"sqt"), "sqrt");
+  EXPECT_EQ(Near(u"sqrrt"), "sqrt");
+  EXPECT_EQ(Near(u"sqrp"), "sqrt");
+  EXPECT_EQ(Near(u"sqtr"), "sqrt");
+  EXPECT_EQ(Near(u"frca"), "frac");
+}
+
+TEST(NearWords, AnotherUsualNameStandsForOneWord) {
+  EXPECT_EQ(Near(u"sine"), "sin");
+  EXPECT_EQ(Near(u"arctan"), "atan");
+  EXPECT_EQ(Near(u"lg"), "log");
+}
+
+TEST(NearWords, TwoNeighboursAreBothTold) {
+  const std::string near = Near(u"sinn");
+  EXPECT_NE(near.find("sin"), std::string::npos);
+  EXPECT_NE(near.find("sinh"), std::string::npos);
+}
+
+TEST(NearWords, FarWordsHaveNone) {
+  for (const char16_t* word : {u"banana", u"q", u"xyzzy"}) EXPECT_EQ(Near(word), "");
+}
+
+TEST(NearWords, AMacroIsMeantByItsNameAlone) {
+  EXPECT_EQ(Near(u"area"), "M:area");
+}
+
+}  // namespace
+}  // namespace kav::test::near_words_test
