@@ -29,63 +29,26 @@ namespace {
 constexpr std::array kReadOnly{kMatrixDisplayType, kMatrixPrecision,   kMatrixRows,  kMatrixColumns,
                                kMatrixAlignment,   kMatrixColumnWidth, kDisplayType, kPrecision};
 
-/// For a matrix that no line can take and no file keep. The cell to mend is named if one is empty.
-TellStop TellInvalid(const Matrices& matrices, int index) {
-  const auto cell = FirstEmptyCell(matrices[static_cast<std::size_t>(index)]);
-  return {MatrixIsInvalid(index), cell ? CellIsEmpty(cell->row, cell->column) : std::u16string()};
-}
-
-/// A matrix as the history of all sessions names it: the size, or the number if it has only one.
-std::u16string PastAnswer(const MatrixValue& answer) {
-  if (answer.rows == 1 && answer.columns == 1) return answer.At(0, 0);
-  return MatrixOf(answer.rows, answer.columns);
-}
-
 }  // namespace
 
 MatrixModel::MatrixModel(SettingsStore& store)
     : store_(store),
       macros_(store),
-      modes_{AngleUnitFromSetting(store.Get(kAngleType)), BaseMode::Decimal, 0.0},
       settings_(LoadDisplaySettings(store)),
       converter_(store),
       history_(History::Load(store, kMatrixHistory)),
-      board_(settings_) {}
+      board_(settings_),
+      answers_(store, macros_, settings_, board_) {}
 
 void MatrixModel::Save() const {
-  store_.Set(kAngleType, static_cast<std::int32_t>(modes_.angleUnit));
+  store_.Set(kAngleType, static_cast<std::int32_t>(answers_.Angle()));
   for (const IntegerKey& key : kReadOnly) store_.Set(key, store_.Get(key));
   converter_.Save(store_);
   history_.Save(store_, kMatrixHistory);
 }
 
-void MatrixModel::SetLine(std::u16string text, Selection selection) {
-  line_.Set(std::move(text), selection);
-}
-
 bool MatrixModel::TypeOperator(char16_t typed) {
   return kav::TypeOperator(typed, BaseMode::Decimal, line_);
-}
-
-std::optional<std::u16string> MatrixModel::LiveResult(std::u16string_view line) const {
-  if (store_.Get(kLiveResult) == 0) return std::nullopt;
-  const bool isAnswered = answered_ && answered_->Is(line, modes_);
-  if (isAnswered && answeredChanges_ == board_.ChangeCount()) return std::nullopt;
-  const std::u16string_view text = TrimBlanks(line);
-  if (IsMatrixExpression(text)) return LiveOrder(text, AllMatrices(), modes_.answer);
-  // There "=" gives no number either.
-  if (Shown() == kAnswerMatrix) return std::nullopt;
-  return LiveNumber(text, modes_, settings_.normal, macros_);
-}
-
-std::optional<std::u16string> MatrixModel::CopiedResult() const {
-  if (!lastAnswer_ || resultText_.empty()) return std::nullopt;
-  return PlainDigits(resultText_);
-}
-
-std::optional<std::u16string> MatrixModel::CopiedLine() const {
-  if (!answered_ || !CopiedResult()) return std::nullopt;
-  return LineAndResult(answered_->text, resultText_);
 }
 
 std::u16string MatrixModel::MemoryText() const {
@@ -94,7 +57,7 @@ std::u16string MatrixModel::MemoryText() const {
 }
 
 std::u16string_view MatrixModel::Caption(MatrixKey key) const {
-  return key == MatrixKey::Deg ? AngleCaption(modes_.angleUnit) : RowOf(key).plain.caption;
+  return key == MatrixKey::Deg ? AngleCaption(answers_.Angle()) : RowOf(key).plain.caption;
 }
 
 bool MatrixModel::IsEnabled(MatrixKey key) const {
@@ -123,12 +86,8 @@ MatrixRequest MatrixModel::Press(MatrixKey key) {
       return AskFirst<MatrixKey>{key, kClearCellsQuestion};
     case MatrixKey::Size:
       return AskMatrixSize{ShownMatrix().rows, ShownMatrix().columns};
-    case MatrixKey::Equals: {
-      MatrixRequest request = Evaluate();
-      answered_ = AnsweredLine{line_.Text(), modes_};
-      answeredChanges_ = board_.ChangeCount();
-      return request;
-    }
+    case MatrixKey::Equals:
+      return Evaluate();
     default:
       Write(key);
       return Nothing{};
@@ -138,14 +97,13 @@ MatrixRequest MatrixModel::Press(MatrixKey key) {
 void MatrixModel::Write(MatrixKey key) {
   switch (key) {
     case MatrixKey::Deg:
-      modes_.angleUnit = OtherAngleUnit(modes_.angleUnit);
-      return;
+      return answers_.ToggleAngle();
     case MatrixKey::Backspace:
       return line_.DeleteBackward();
     case MatrixKey::Delete:
       return line_.DeleteForward();
     case MatrixKey::Clear:
-      fault_.reset();
+      answers_.ForgetFault();
       return line_.Clear();
     default:
       break;
@@ -153,81 +111,18 @@ void MatrixModel::Write(MatrixKey key) {
   ApplyFace(RowOf(key).plain, line_);
 }
 
-MatrixRequest MatrixModel::Evaluate() {
-  const std::u16string text(TrimBlanks(std::u16string_view(line_.Text())));
-  fault_.reset();
-  evaluated_.reset();
-  if (IsMatrixExpression(text)) {
-    line_.SelectAll();
-    return EvaluateMatrix(text);
-  }
-  // A number beside [M Ans] would look like a part of that answer.
-  if (Shown() != kAnswerMatrix) EvaluateNumber(text);
-  return Nothing{};
-}
-
-void MatrixModel::EvaluateNumber(std::u16string_view text) {
-  line_.SelectAll();
-  const auto value = EvaluateTypedLine(text, modes_, store_, macros_);
-  if (value) {
-    lastAnswer_ = *value;
-    modes_.answer = *value;
-    ShowAnswer();
-    return Note(text, resultText_);
-  }
-  lastAnswer_.reset();
-  fault_ = FaultOfLine(value.error().place);
-  const bool isEmpty = value.error().cause == LineFailure::Cause::EmptyLine;
-  if (!isEmpty) Note(text, {});
-  resultText_ = isEmpty ? std::u16string(kNoExpression) : Widen(value.error().message);
-}
-
-MatrixRequest MatrixModel::EvaluateMatrix(std::u16string_view text) {
-  history_.Add(std::u16string(text));
-  Note(text, {});
-  // A number of an earlier line would look like a part of this one's answer.
-  resultText_.clear();
-  const auto invalid = FirstInvalidMatrix(text, AllMatrices());
-  if (invalid) return TellInvalid(AllMatrices(), *invalid);
-  auto result = MatrixEvaluator(AllMatrices(), files_).Evaluate(Narrow(text), modes_.answer);
-  // Before the answer replaces a matrix that the line names.
-  std::u16string news = notes_.NewsOf(text, AllMatrices(), settings_.matrix);
-  if (!result) {
-    fault_ = FaultOfLine(result.error().place);
-    board_.Lock();
-    return TellStop{Widen(result.error().message), std::move(news)};
-  }
-  Note(text, PastAnswer(*result));
-  board_.TakeAnswer(*std::move(result));
-  if (news.empty()) return Nothing{};
-  return TellNotice{std::move(news)};
-}
-
-void MatrixModel::Note(std::u16string_view text, std::u16string_view answer) {
-  evaluated_ = MakePastLine(PastOrigin::Matrix, text, answer, BaseMode::Decimal);
-}
-
-void MatrixModel::TakePastLine(const PastLine& past) {
-  line_.InsertText(Widen(past.line));
-}
-
 void MatrixModel::TakePastAnswer(const PastLine& past) {
   if (!HasNumber(past)) return;
   line_.InsertText(AnswerInsertion(past, settings_.normal, BaseMode::Decimal));
 }
 
-void MatrixModel::ShowAnswer() {
-  resultText_ = ShownNumber(*lastAnswer_, settings_.normal, BaseMode::Decimal);
-}
-
-const std::optional<LineFault>& MatrixModel::Fault() const {
-  static const std::optional<LineFault> kNone;
-  return answered_ && answered_->text == line_.Text() ? fault_ : kNone;
-}
-
-LineFault MatrixModel::FaultOfLine(std::optional<TextPlace> place) const {
-  return MatrixFaultOf(line_.Text(), place,
-                       {AllMatrices(), modes_, macros_, Shown() != kAnswerMatrix});
+MatrixRequest MatrixModel::Evaluate() {
+  const std::u16string text(TrimBlanks(std::u16string_view(line_.Text())));
+  const bool isMatrixLine = IsMatrixExpression(text);
+  if (isMatrixLine) history_.Add(text);
+  if (isMatrixLine || answers_.TakesNumbers()) line_.SelectAll();
+  MatrixOutcome outcome = answers_.Evaluate(line_.Text());
+  return std::visit([](auto& request) -> MatrixRequest { return std::move(request); }, outcome);
 }
 
 MatrixRequest MatrixModel::TakeMend() {
@@ -296,7 +191,7 @@ MatrixRequest MatrixModel::ChooseTool(int id) {
 }
 
 MatrixRequest MatrixModel::ConverterRequest() const {
-  const double answer = lastAnswer_.value_or(0);
+  const double answer = answers_.Last().value_or(0);
   return converter_.Request(answer == 0
                                 ? std::u16string(kValueToConvert)
                                 : InsertedNumber(answer, settings_.normal, BaseMode::Decimal));
@@ -327,10 +222,6 @@ MatrixRequest MatrixModel::ChooseMatrixTool(int id) {
   return Nothing{};
 }
 
-void MatrixModel::TakeConverter(const ConverterOutcome& outcome) {
-  converter_.Take(outcome, line_);
-}
-
 void MatrixModel::TakeMacro(int index) {
   WriteMacroCall(index, macros_, line_);
 }
@@ -352,7 +243,7 @@ MatrixRequest MatrixModel::Insert(double value) {
 
 void MatrixModel::TakeDisplaySettings() {
   settings_ = LoadDisplaySettings(store_);
-  if (lastAnswer_ && !resultText_.empty()) ShowAnswer();
+  answers_.ShowAgain();
 }
 
 bool MatrixModel::IsMarked(int row, int column) const {

@@ -8,22 +8,20 @@
 #include <utility>
 #include <variant>
 
+#include "common/number_text.h"
 #include "display/display_settings.h"
-#include "engine/calc_modes.h"
 #include "line/converter_link.h"
 #include "line/expression_line.h"
 #include "line/history.h"
 #include "line/key_request.h"
 #include "line/line_mend.h"
 #include "line/screen_menus.h"
-#include "macros/live_result.h"
 #include "macros/macro_store.h"
-#include "matrix/cell_notes.h"
+#include "matrix/matrix_answers.h"
 #include "matrix/matrix_board.h"
 #include "matrix/matrix_edits.h"
 #include "matrix/matrix_keypad.h"
 #include "matrix/matrix_value.h"
-#include "matrix/temporary_matrices.h"
 #include "settings/past_lines.h"
 #include "settings/settings_store.h"
 
@@ -53,27 +51,29 @@ class MatrixModel {
 
   // The two lines.
   const ExpressionLine& Line() const { return line_; }
-  void SetLine(std::u16string text, Selection selection);
+  void SetLine(std::u16string text, Selection selection) { line_.Set(std::move(text), selection); }
   /// An operator typed while all of the line is selected goes on with that line, as its key does.
   /// False: nothing was done, and `typed` is a character like others.
   bool TypeOperator(char16_t typed);
   /// The answer or message of the last number expression; empty before the first and after a
   /// matrix expression, whose answer it would stand above.
-  const std::u16string& ResultText() const { return resultText_; }
+  const std::u16string& ResultText() const { return answers_.Text(); }
   /// What `line` comes to, before "=" says it: a number, or the order of a matrix. nullopt if there
   /// is nothing to say, or the user does not want it.
-  std::optional<std::u16string> LiveResult(std::u16string_view line) const;
+  std::optional<std::u16string> LiveResult(std::u16string_view line) const {
+    return answers_.Live(line);
+  }
   const History& PastLines() const { return history_; }
   /// About the line, if the last "=" failed and the line is still that one.
-  const std::optional<LineFault>& Fault() const;
+  const std::optional<LineFault>& Fault() const { return answers_.FaultIn(line_.Text()); }
   /// Writes the mended line and evaluates it; does nothing without a mend.
   MatrixRequest TakeMend();
 
   // What is copied and kept.
   /// The result in plain digits; nullopt if there is none or a message in its place.
-  std::optional<std::u16string> CopiedResult() const;
+  std::optional<std::u16string> CopiedResult() const { return answers_.CopiedResult(); }
   /// The line that was answered, and its answer; nullopt if the result line shows none.
-  std::optional<std::u16string> CopiedLine() const;
+  std::optional<std::u16string> CopiedLine() const { return answers_.CopiedLine(); }
   /// The memory register as the result line would show it; empty while it is 0.
   std::u16string MemoryText() const;
 
@@ -87,7 +87,7 @@ class MatrixModel {
   MatrixRequest Choose(MatrixKey key, int id);
 
   // What dialogs bring back. A number beyond the range of double is told, and not inserted.
-  void TakeConverter(const ConverterOutcome& outcome);
+  void TakeConverter(const ConverterOutcome& outcome) { converter_.Take(outcome, line_); }
   void TakeMacro(int index);
   MatrixRequest TakeVariable(std::u16string_view value);
   MatrixRequest TakeConstant(std::u16string_view value);
@@ -95,9 +95,9 @@ class MatrixModel {
   void TakeDisplaySettings();
 
   /// What the last "=" evaluated, for the history of all sessions; nullopt if it did nothing.
-  const std::optional<PastLine>& Evaluated() const { return evaluated_; }
+  const std::optional<PastLine>& Evaluated() const { return answers_.Evaluated(); }
   // Both replace the selection; an answer only if it is a number.
-  void TakePastLine(const PastLine& past);
+  void TakePastLine(const PastLine& past) { line_.InsertText(Widen(past.line)); }
   void TakePastAnswer(const PastLine& past);
 
   // The matrices and the one that is shown.
@@ -158,11 +158,6 @@ class MatrixModel {
  private:
   void Write(MatrixKey key);
   MatrixRequest Evaluate();
-  void Note(std::u16string_view text, std::u16string_view answer);
-  void EvaluateNumber(std::u16string_view text);
-  MatrixRequest EvaluateMatrix(std::u16string_view text);
-  LineFault FaultOfLine(std::optional<TextPlace> place) const;
-  void ShowAnswer();
   MatrixRequest Insert(double value);
   MatrixRequest ChooseTool(int id);
   MatrixRequest ChooseMatrixTool(int id);
@@ -170,20 +165,12 @@ class MatrixModel {
 
   SettingsStore& store_;
   MacroStore macros_;
-  CalcModes modes_;  ///< with the last number answered, whatever failed since
   DisplaySettings settings_;
   ConverterLink converter_;
   History history_;
   MatrixBoard board_;
-  CellNotes notes_;
-  TemporaryMatrices files_;
+  MatrixAnswers answers_;
   ExpressionLine line_;
-  std::u16string resultText_;
-  std::optional<PastLine> evaluated_;
-  std::optional<AnsweredLine> answered_;  ///< by the last "="
-  std::optional<LineFault> fault_;        ///< of that line, if it failed
-  std::size_t answeredChanges_ = 0;       ///< of the matrices by then
-  std::optional<double> lastAnswer_;      ///< nullopt after a failure and before the first
 };
 
 }  // namespace kav

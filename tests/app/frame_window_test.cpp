@@ -1,4 +1,4 @@
-// The frame: start, changes of screen, the end, and where the window stands.
+// The frame: start, changes of screen, and the end.
 #include "app/frame_window.h"
 
 #include <gtest/gtest.h>
@@ -6,110 +6,12 @@
 #include <QPainter>
 #include <QWindow>
 
-#include "screens/screen_driver.h"
-#include "settings/keys.h"
+#include "app/frame_driver.h"
 
 namespace kav::test::frame_window_test {
 namespace {
 
-/// What happened to screens, in order: "make 1", "show 1", "close 1", "destroy 1".
-std::vector<std::string> events;
-
-class FakeScreen final : public QWidget {
- public:
-  explicit FakeScreen(ScreenMode mode) : number_(std::to_string(static_cast<int>(mode))) {
-    setObjectName(QString::fromStdString(number_));
-    events.push_back("make " + number_);
-  }
-  ~FakeScreen() override { events.push_back("destroy " + number_); }
-
- private:
-  void showEvent(QShowEvent*) override { events.push_back("show " + number_); }
-  void closeEvent(QCloseEvent*) override { events.push_back("close " + number_); }
-
-  std::string number_;
-};
-
-template <ScreenMode kMode>
-std::unique_ptr<QWidget> MakeFake(Frame&) {
-  return std::make_unique<FakeScreen>(kMode);
-}
-
-const std::vector<ScreenKind> kAllFive{
-    {ScreenMode::Scientific, u"Scientific Calculator", MakeFake<ScreenMode::Scientific>},
-    {ScreenMode::Plotter, u"Function Plotter", MakeFake<ScreenMode::Plotter>},
-    {ScreenMode::OneVariable, u"1-Var Statistics", MakeFake<ScreenMode::OneVariable>},
-    {ScreenMode::TwoVariable, u"2-Var Statistics", MakeFake<ScreenMode::TwoVariable>},
-    {ScreenMode::Matrix, u"Matrix Calculator", MakeFake<ScreenMode::Matrix>},
-};
-
-/// Whether it may be left.
-bool mayLeave = true;
-
-/// Notes when its user leaves it.
-class AskingScreen final : public Screen {
- public:
-  explicit AskingScreen(Frame& frame) : Screen(frame, {100, 100}) {
-    AddFileMenu({});
-    AddModeMenu(ScreenMode::Scientific);
-  }
-  bool MayLeave(LeaveReason reason) override {
-    events.emplace_back(reason == LeaveReason::Ending ? "ending" : "switching");
-    return mayLeave;
-  }
-
- private:
-  void LayOut(const DialogUnits&) override {}
-};
-
-const std::vector<ScreenKind> kOneThatAsks{
-    {ScreenMode::Scientific, u"Scientific Calculator",
-     [](Frame& frame) -> std::unique_ptr<QWidget> {
-       return std::make_unique<AskingScreen>(frame);
-     }},
-    {ScreenMode::Matrix, u"Matrix Calculator", MakeFake<ScreenMode::Matrix>},
-};
-
-class FrameWindowTest : public testing::Test {
- protected:
-  FrameWindowTest() {
-    events.clear();
-    mayLeave = true;
-  }
-
-  /// Makes the frame and waits for the first screen.
-  void Start(const std::vector<ScreenKind>& screens = kAllFive) {
-    MakeFrame(screens);
-    frame_->show();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return started_ > 0; }));
-  }
-  void MakeFrame(const std::vector<ScreenKind>& screens = kAllFive) {
-    frame_.reset();
-    started_ = 0;
-    screens_ = screens;
-    frame_ = std::make_unique<FrameWindow>(store_, screens_, ScreenDialogs{},
-                                           FrameHooks{[this] { ++saves_; },
-                                                      [this] { ++started_; },
-                                                      [this] { ++finished_; },
-                                                      nullptr,
-                                                      {},
-                                                      {}});
-  }
-  std::string ShownName() const {
-    return frame_->Shown() != nullptr ? frame_->Shown()->objectName().toStdString() : "none";
-  }
-  void ChangeTo(ScreenMode mode) {
-    frame_->ChangeMode(mode);
-    QCoreApplication::processEvents();
-  }
-
-  MemorySettingsStore store_;
-  std::vector<ScreenKind> screens_;
-  std::unique_ptr<FrameWindow> frame_;
-  int saves_ = 0;
-  int started_ = 0;
-  int finished_ = 0;
-};
+using FrameWindowTest = FrameOfScreens;
 
 TEST_F(FrameWindowTest, AFirstStartOpensTheScientificScreenAndNotesTheVersion) {
   Start();
@@ -295,107 +197,6 @@ TEST_F(FrameWindowTest, NoScreenOpensAfterExit) {
   frame_->ChangeMode(ScreenMode::Plotter);
   QCoreApplication::processEvents();
   EXPECT_EQ(ShownName(), "none");
-}
-
-TEST_F(FrameWindowTest, AWindowGrowsAndShrinksWithItsTexts) {
-  Start(kOneThatAsks);
-  const QSize first(360, 560);
-  QWidget& window = *frame_->Shown();
-  ASSERT_EQ(window.size(), first);
-  const QSize desktop = QGuiApplication::primaryScreen()->availableGeometry().size();
-  ASSERT_EQ(desktop, QSize(800, 800));
-  frame_->ScaleText(TextStep::Larger);
-  EXPECT_EQ(window.size(), QSize(396, 616));
-  EXPECT_EQ(store_.Get(kTextScale), 110);
-  EXPECT_EQ(TextShare(), 1) << "the window has grown with them";
-  for (int i = 0; i < 4; ++i) frame_->ScaleText(TextStep::Larger);
-  EXPECT_EQ(window.size(), QSize(511, 795)) << "the desktop is no higher";
-  EXPECT_EQ(store_.Get(kTextScale), 150);
-  EXPECT_DOUBLE_EQ(TextShare(), 150.0 / 142);
-  EXPECT_TRUE(QRect(QPoint(), desktop).contains(window.frameGeometry()));
-  frame_->ScaleText(TextStep::Usual);
-  EXPECT_EQ(window.size(), first);
-  EXPECT_EQ(store_.Get(kTextScale), 100);
-  EXPECT_EQ(TextShare(), 1);
-  EXPECT_EQ(saves_, 6);
-}
-
-TEST_F(FrameWindowTest, AWindowOfTheUsersSizeKeepsItsShapeAtEveryScale) {
-  Start(kOneThatAsks);
-  QWidget& window = *frame_->Shown();
-  frame_->ScaleText(TextStep::Larger);
-  window.resize(440, 330);
-  frame_->ScaleText(TextStep::Usual);
-  EXPECT_EQ(window.size(), QSize(400, 300));
-}
-
-TEST_F(FrameWindowTest, AMaximizedWindowStaysAndItsTextsGrow) {
-  Start(kOneThatAsks);
-  QWidget& window = *frame_->Shown();
-  window.showMaximized();
-  const QSize size = window.size();
-  for (int i = 0; i < 3; ++i) frame_->ScaleText(TextStep::Larger);
-  EXPECT_EQ(window.size(), size);
-  EXPECT_EQ(store_.Get(kWindowScale), 100);
-  EXPECT_DOUBLE_EQ(TextShare(), 1.3);
-  frame_->ScaleText(TextStep::Usual);
-}
-
-TEST_F(FrameWindowTest, AScreenTakesThePlaceAndSizeOfTheOneBefore) {
-  Start();
-  frame_->Shown()->move(77, 55);
-  frame_->Shown()->resize(333, 444);
-  QCoreApplication::processEvents();
-  ChangeTo(ScreenMode::Plotter);
-  EXPECT_EQ(frame_->Shown()->pos(), QPoint(77, 55));
-  EXPECT_EQ(frame_->Shown()->size(), QSize(333, 444));
-  // It fills the desktop as well, as long as the program runs.
-  frame_->Shown()->setWindowState(Qt::WindowFullScreen);
-  ChangeTo(ScreenMode::Matrix);
-  EXPECT_TRUE(frame_->Shown()->isFullScreen());
-  frame_.reset();
-  EXPECT_EQ(store_.Get(kWindowGeometry), "77 55 333 444");
-}
-
-TEST_F(FrameWindowTest, AMaximizedScreenHandsThatOnToo) {
-  Start();
-  frame_->Shown()->showMaximized();
-  QCoreApplication::processEvents();
-  ChangeTo(ScreenMode::Plotter);
-  EXPECT_TRUE(frame_->Shown()->isMaximized());
-  frame_.reset();
-  EXPECT_TRUE(QString::fromStdString(store_.Get(kWindowGeometry)).endsWith(" maximized"));
-  Start();
-  EXPECT_TRUE(frame_->Shown()->isMaximized());
-}
-
-TEST_F(FrameWindowTest, TheWindowOpensWhereItWasClosed) {
-  store_.Set(kWindowGeometry, "30 40 300 500");
-  Start();
-  EXPECT_EQ(frame_->Shown()->pos(), QPoint(30, 40));
-  EXPECT_EQ(frame_->Shown()->size(), QSize(300, 500));
-}
-
-TEST_F(FrameWindowTest, AWindowOffTheDesktopIsBroughtBack) {
-  const QRect desktop = QGuiApplication::primaryScreen()->availableGeometry();
-  for (const char* stored : {"-5000 -5000 300 400", "90000 20 300 400", "10 10 99999 99999"}) {
-    frame_.reset();
-    store_.Set(kWindowGeometry, stored);
-    Start();
-    EXPECT_TRUE(desktop.contains(frame_->Shown()->windowHandle()->frameGeometry())) << stored;
-  }
-}
-
-TEST_F(FrameWindowTest, AFirstWindowOpensInTheMiddleAtAComfortableSize) {
-  for (const char* stored : {"", "nonsense", "1 2 3", "0 0 -5 7"}) {
-    frame_.reset();
-    store_.Set(kWindowGeometry, stored);
-    Start();
-    const QRect desktop = QGuiApplication::primaryScreen()->availableGeometry();
-    EXPECT_EQ(frame_->Shown()->size(), QSize(360, 560).boundedTo(desktop.size())) << stored;
-    const QPoint middle(desktop.center() - frame_->Shown()->rect().center());
-    EXPECT_LE((frame_->Shown()->pos() - middle).manhattanLength(), 2) << stored;
-  }
 }
 
 TEST_F(FrameWindowTest, AMinimizedScreenComesToTheFrontRestored) {

@@ -34,6 +34,21 @@ CGridCtrl* NewGrid(QWidget* parent) {
   return new CGridCtrl(parent);
 }
 
+/// What a column needs to show its texts at scale 1, counted from 0: as in a larger scale, because
+/// letters have whole pixels.
+int NeededWidth(const MatrixValue& matrix, int column) {
+  constexpr int kFine = 10;
+  constexpr std::size_t kLongestMeasured = 2000;
+  const QFontMetricsF metrics(ScreenFont(qRound(kFine * kCellText)));
+  double widest = 0;
+  for (int row = 0; row < matrix.rows; ++row) {
+    const std::u16string text = Shortened(matrix.At(row, column), kLongestMeasured);
+    widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdU16String(text)));
+  }
+  constexpr double kAround = 0.6;  // of the letters' height: margins and line
+  return static_cast<int>(std::ceil(widest / kFine + kAround * kCellText));
+}
+
 }  // namespace
 
 MatrixGridView::MatrixGridView(QWidget* parent, MatrixModel& model, MatrixGridHooks hooks)
@@ -92,11 +107,6 @@ void MatrixGridView::TellRefusedEdit() {
   declined_.clear();
   ShowStop(grid_->parentWidget(), refused.why);
   grid_->EditCell(refused.cell, refused.text);
-}
-
-bool MatrixGridView::FinishEdit() {
-  grid_->FinishEdit();
-  return !refused_;
 }
 
 void MatrixGridView::Show() {
@@ -159,25 +169,10 @@ GridNeeds MatrixGridView::Needs() const {
   const int columns = model_.ShownMatrix().columns;
   GridNeeds needs{kHeaderColumnWidth, kHeaderColumnWidth + columns * model_.NewColumnWidth()};
   for (int column = 0; column < columns; ++column) {
-    needs.texts +=
-        std::max(model_.Widths()[static_cast<std::size_t>(column + kHeaders)], NeededWidth(column));
+    needs.texts += std::max(model_.Widths()[static_cast<std::size_t>(column + kHeaders)],
+                            NeededWidth(model_.ShownMatrix(), column));
   }
   return needs;
-}
-
-/// The same at any scale, other than the grid's own, whose letters have whole pixels.
-int MatrixGridView::NeededWidth(int column) const {
-  constexpr int kFine = 10;
-  constexpr std::size_t kLongestMeasured = 2000;
-  const QFontMetricsF metrics(ScreenFont(qRound(kFine * kCellText)));
-  const MatrixValue& matrix = model_.ShownMatrix();
-  double widest = 0;
-  for (int row = 0; row < matrix.rows; ++row) {
-    const std::u16string text = Shortened(matrix.At(row, column), kLongestMeasured);
-    widest = std::max(widest, metrics.horizontalAdvance(QString::fromStdU16String(text)));
-  }
-  constexpr double kAround = 0.6;  // of the letters' height: margins and line
-  return static_cast<int>(std::ceil(widest / kFine + kAround * kCellText));
 }
 
 bool MatrixGridView::NeedsOtherPlace(QSize window) const {
@@ -201,10 +196,6 @@ void MatrixGridView::TakeWidth(int column, int width) {
   TakeWidths();
   const bool isFitted = width == grid_->FittingWidth(column);
   Fitted()[static_cast<std::size_t>(column)] = isFitted ? width : 0;
-}
-
-ColumnWidths& MatrixGridView::Fitted() {
-  return fitted_[static_cast<std::size_t>(model_.Shown())];
 }
 
 void MatrixGridView::LayOut(const MatrixPlaces& places) {

@@ -48,7 +48,10 @@ class MatrixGridView final {
 
   /// Ends an edit that is going on; whether its text was taken. If it was not, the user is told,
   /// and the edit goes on.
-  bool FinishEdit();
+  bool FinishEdit() {
+    grid_->FinishEdit();
+    return !refused_;
+  }
   // The commands of the Edit menu, but for undo and redo.
   void Edit(EditCommand command);
   bool CanEdit(EditCommand command) const;
@@ -78,9 +81,8 @@ class MatrixGridView final {
   void ScaleToTexts();
   void GrowColumns();
   int ShownWidth(int column) const;
-  int NeededWidth(int column) const;
   int WidthOfTexts() const;
-  ColumnWidths& Fitted();
+  ColumnWidths& Fitted() { return fitted_[static_cast<std::size_t>(model_.Shown())]; }
 
   std::optional<CellRange> SelectedCells() const;
   void CopyCells() const;
