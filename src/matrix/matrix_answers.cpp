@@ -62,7 +62,7 @@ void MatrixAnswers::EvaluateNumber(const std::u16string& line) {
   const auto value = EvaluateTypedLine(text, modes_, store_, macros_);
   if (value) {
     last_ = modes_.answer = *value;
-    ShowAgain();
+    text_ = ShownNumber(*value, settings_.normal, BaseMode::Decimal);
     return Note(text, text_);
   }
   last_.reset();
@@ -115,7 +115,7 @@ std::optional<std::u16string> MatrixAnswers::Live(std::u16string_view line) cons
 }
 
 void MatrixAnswers::ShowAgain() {
-  if (last_) text_ = ShownNumber(*last_, settings_.normal, BaseMode::Decimal);
+  if (last_ && !text_.empty()) text_ = ShownNumber(*last_, settings_.normal, BaseMode::Decimal);
 }
 
 std::optional<std::u16string> MatrixAnswers::CopiedResult() const {

@@ -50,7 +50,7 @@ class MatrixAnswers {
   const std::u16string& Text() const { return text_; }
   const std::optional<double>& Last() const { return last_; }
   const std::optional<PastLine>& Evaluated() const { return evaluated_; }
-  /// Writes the number again, in the display settings of now.
+  /// Writes a number that is shown again, in the display settings of now.
   void ShowAgain();
   std::optional<std::u16string> CopiedResult() const;
   std::optional<std::u16string> CopiedLine() const;

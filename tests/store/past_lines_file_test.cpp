@@ -78,14 +78,14 @@ TEST_F(PastLinesFileTest, WindowsAndPromptsAddToOneFile) {
 TEST_F(PastLinesFileTest, DeletingAndClearingReachTheDiskAndOtherProcesses) {
   PastLinesFile window = Open(StoreUser::Window);
   PastLinesFile prompt = Open();
-  for (const char* text : {"1", "22", "3"}) window.Add(Line(text));
+  for (const char* text : {"1", "second", "3"}) window.Add(Line(text));
   window.Add(Line("[M1]", "", PastOrigin::Matrix));
   const PastLine second = prompt.Of(PastRoom::Calculator)[1];
   EXPECT_TRUE(window.Remove(second.id));
-  EXPECT_EQ(Text().find("22"), std::string::npos);
+  EXPECT_EQ(Text().find("second"), std::string::npos);
   EXPECT_EQ(TextsOf(prompt), (Lines{"1", "3"}));
   EXPECT_TRUE(prompt.PutBack(second));
-  EXPECT_EQ(TextsOf(window), (Lines{"1", "22", "3"}));
+  EXPECT_EQ(TextsOf(window), (Lines{"1", "second", "3"}));
   EXPECT_TRUE(window.Clear(PastRoom::Calculator));
   EXPECT_EQ(TextsOf(prompt), Lines{});
   EXPECT_EQ(TextsOf(prompt, PastRoom::Matrix), (Lines{"[M1]"}));
