@@ -90,7 +90,10 @@ take() {
     case $deed in
       press:*) xdotool key "${deed#press:}" ;;
       focus:screen) window=root ;;
-      hover:*) xdotool mousemove ${deed#hover:} sleep 0.2 mousemove_relative 2 2 sleep 1 ;;
+      hover:*)
+        at=${deed#hover:}
+        xdotool mousemove "${at% *}" "${at#* }" sleep 0.2 mousemove_relative 2 2 sleep 1
+        ;;
       focus:*) focus "${deed#focus:}" ;;
       *) xdotool type "$deed" ;;
     esac
