@@ -11,6 +11,7 @@
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_file.h"
 #include "matrix/matrix_line.h"
+#include "matrix/temporary_matrices.h"
 
 namespace {
 

@@ -82,8 +82,8 @@ std::vector<std::u16string> WithKnownWords(const Broken& broken, const KnownWord
     longer.reserve(lines.size() * near.size());
     for (const std::u16string& line : lines) {
       for (const std::u16string& word : near) {
-        longer.push_back(line + std::u16string(broken.line.substr(done, piece.start - done)) +
-                         word);
+        longer.push_back(line);
+        longer.back().append(broken.line.substr(done, piece.start - done)).append(word);
       }
     }
     lines = std::move(longer);

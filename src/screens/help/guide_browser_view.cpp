@@ -225,7 +225,8 @@ void GuideBrowser::keyPressEvent(QKeyEvent* event) {
 }
 
 bool GuideBrowser::focusNextPrevChild(bool next) {
-  return QAbstractScrollArea::focusNextPrevChild(next);
+  // Past its parent class, which would lead to the next link.
+  return QAbstractScrollArea::focusNextPrevChild(next);  // NOLINT(bugprone-parent-virtual-call)
 }
 
 void GuideBrowser::GoToLink(int links) {

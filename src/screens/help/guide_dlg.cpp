@@ -38,7 +38,7 @@ class CGuideDlg final : public Dialog {
   void ShowPageNow();
   void SetTextHeight(int text) override;
 
-  ChoiceBox* pages_ = new ChoiceBox(kPagesName);
+  ChoiceBox* pages_ = new ChoiceBox(kGuidePagesName);
   DialogButton* back_ = new DialogButton(kBackCaption);
   GuideBrowser* text_ = new GuideBrowser;
   QLineEdit* search_ = new QLineEdit;

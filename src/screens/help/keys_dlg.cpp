@@ -1,5 +1,6 @@
 #include "screens/help/keys_dlg.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>

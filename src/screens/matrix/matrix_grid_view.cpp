@@ -169,7 +169,7 @@ GridNeeds MatrixGridView::Needs() const {
   const int columns = model_.ShownMatrix().columns;
   GridNeeds needs{kHeaderColumnWidth, kHeaderColumnWidth + columns * model_.NewColumnWidth()};
   for (int column = 0; column < columns; ++column) {
-    needs.texts += std::max(model_.Widths()[static_cast<std::size_t>(column + kHeaders)],
+    needs.texts += std::max(model_.Widths()[static_cast<std::size_t>(column) + kHeaders],
                             NeededWidth(model_.ShownMatrix(), column));
   }
   return needs;

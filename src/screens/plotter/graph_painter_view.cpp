@@ -47,7 +47,7 @@ constexpr std::array kGraphColours{
     GraphColourRow{graph_colour::kCurves[2], Colour::ThirdCurve},
 };
 
-QColor ColourIn(ColourScheme scheme, GraphColour colour) {
+QColor ColourOfGraph(ColourScheme scheme, GraphColour colour) {
   for (const auto& [light, what] : kGraphColours) {
     if (light == colour) return ColourIn(scheme, what);
   }
@@ -155,7 +155,7 @@ class ShapePainter {
     painter_.fillRect(QRect(end.x() - free, top, width, end.y() - top), paper);
   }
 
-  QColor Shown(GraphColour colour) const { return ColourIn(scheme_, colour); }
+  QColor Shown(GraphColour colour) const { return ColourOfGraph(scheme_, colour); }
   int Line() const { return std::max(static_cast<int>(kRuleGrowth * scale_), 1); }
   static QPoint PixelAt(GraphPlace place) {
     return {static_cast<int>(std::lround(place.column)), static_cast<int>(std::lround(place.row))};

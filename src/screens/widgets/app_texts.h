@@ -66,7 +66,7 @@ inline constexpr std::u16string_view kKeysEntry = u"&Keys";
 
 // The guide and the list of keys.
 inline constexpr std::u16string_view kGuideTitle = u"Guide";
-inline constexpr std::u16string_view kPagesName = u"Pages";
+inline constexpr std::u16string_view kGuidePagesName = u"Pages";
 inline constexpr std::u16string_view kBackCaption = u"Back";
 inline constexpr std::u16string_view kSearchCaption = u"Search";
 inline constexpr std::u16string_view kNotFound = u"not found";

@@ -8,7 +8,7 @@
 namespace kav {
 
 void AskForCommas(const QWidget& field, std::u16string_view text, const CommaQuestion& question,
-                  std::function<void(CommaMeaning)> take, std::function<void()> giveUp) {
+                  const std::function<void(CommaMeaning)>& take, std::function<void()> giveUp) {
   std::vector<Offer> offers;
   offers.reserve(question.meanings.size());
   for (const CommaMeaning meaning : question.meanings) {

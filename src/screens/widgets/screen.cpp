@@ -36,7 +36,7 @@ void AddAction(QMenu* menu, const MenuEntry& entry) {
 }
 
 QKeySequence KeysOf(ScreenCommand command) {
-  return QKeySequence(QLatin1String(ShortcutOf(command)));
+  return {QLatin1String(ShortcutOf(command))};
 }
 
 /// The command that leads to the screen `mode`: both have the order of the stored numbers.
