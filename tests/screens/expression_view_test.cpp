@@ -1,6 +1,7 @@
 // The expression line as a picture: how large its letters are, what it marks, what stands beside
 // it.
 #include "screens/widgets/expression_view.h"
+#include "screens/widgets/colours.h"
 
 #include <gtest/gtest.h>
 
@@ -18,19 +19,6 @@ namespace {
 
 /// Pixels between two colours that happen to have a third one.
 constexpr int kStray = 20;
-
-double Luminance(const QColor& colour) {
-  const auto part = [](double c) {
-    return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
-         0.0722 * part(colour.blueF());
-}
-
-double Contrast(const QColor& a, const QColor& b) {
-  const auto [dark, light] = std::minmax(Luminance(a), Luminance(b));
-  return (light + 0.05) / (dark + 0.05);
-}
 
 int Count(const QImage& picture, const QRect& part, const QColor& colour) {
   int count = 0;
@@ -235,9 +223,9 @@ TEST_F(ExpressionViewTest, FaintIsStillReadable) {
   dark.setColor(QPalette::Base, QColor(30, 30, 30));
   dark.setColor(QPalette::Text, QColor(230, 230, 230));
   for (const QPalette& palette : {View().palette(), dark}) {
-    EXPECT_GE(Contrast(FaintColour(palette), palette.color(QPalette::Base)), 4.5);
+    EXPECT_GE(ContrastBetween(FaintColour(palette), palette.color(QPalette::Base)), 4.5);
     const QColor tint = FormatOf(LineMark::Pair, palette).background().color();
-    EXPECT_GE(Contrast(palette.color(QPalette::Text), tint), 4.5);
+    EXPECT_GE(ContrastBetween(palette.color(QPalette::Text), tint), 4.5);
   }
 }
 
