@@ -49,7 +49,8 @@ class ScaledBox final : public QMessageBox {
     if (parent != nullptr) area_ = PortraitArea(parent->window()->size()).size();
     setFont(ScreenFont(TextPixels(area_.height())));
     // Half of the usual size: who wants larger texts has them where there is room.
-    least_ = std::max(qRound(font().pixelSize() / (2 * std::max(TextShare(), 1.0))), 1);
+    const int half = font().pixelSize() / 2;
+    least_ = std::max(qRound(half / std::max(TextShare(), 1.0)), 1);
     setStyle(ScreenStyle());
     for (QWidget* widget : findChildren<QWidget*>()) widget->setStyle(ScreenStyle());
     setIcon(icon);  // drawn anew, at the size that the style has by now
