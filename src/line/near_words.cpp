@@ -73,6 +73,8 @@ std::vector<std::u16string> MacrosNear(std::u16string_view name, const KnownWord
 bool IsUnknown(const LinePiece& piece, std::u16string_view text, const KnownWords& words) {
   if (piece.kind == PieceKind::Unknown) return IsLetter(text.front());
   if (piece.kind != PieceKind::Call) return false;
+  // The name of a macro without its mark calls nothing.
+  if (text.find(u':') == text.npos) return true;
   text.remove_prefix(kCallMark16.size());
   return std::none_of(words.begin(), words.end(),
                       [&](const KnownWord& word) { return IsMacro(word) && word.text == text; });

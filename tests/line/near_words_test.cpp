@@ -49,5 +49,12 @@ TEST(NearWords, AMacroIsMeantByItsNameAlone) {
   EXPECT_EQ(Near(u"area"), "M:area");
 }
 
+TEST(NearWords, TheNameOfAMacroWithoutItsMarkCallsNothing) {
+  const KnownWords words{{u"f", PieceKind::Call}};
+  EXPECT_TRUE(IsUnknown({PieceKind::Call, 0, 1}, u"f", words));
+  EXPECT_FALSE(IsUnknown({PieceKind::Call, 0, 3}, u"M:f", words));
+  EXPECT_TRUE(IsUnknown({PieceKind::Call, 0, 3}, u"M:g", words));
+}
+
 }  // namespace
 }  // namespace kav::test::near_words_test
