@@ -130,7 +130,6 @@ void CGraphView::MakeMenu() {
   menu->addSeparator();
   QAction* options = menu->addAction(ToQt(kGraphOptionsEntry), this, &CGraphView::OnOptions);
   options->setShortcut(QKeySequence(QLatin1String(kOptionsKey)));
-  connect(menu, &QMenu::aboutToShow, menu, [this, menu] { menu->setFont(font()); });
 }
 
 void CGraphView::LayOut() {
@@ -237,6 +236,7 @@ void CGraphView::Refresh() {
 
 void CGraphView::SetTextHeight(int text) {
   Dialog::SetTextHeight(text);
+  menuBar_->SetLetters(font());
   // The plot is as wide as possible, and the menu bar as wide as the window, as on every screen.
   layout()->setContentsMargins(0, 0, 0, 0);
   layout()->setSpacing(0);

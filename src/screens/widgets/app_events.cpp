@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMenuBar>
 
 #include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/look.h"
@@ -42,16 +43,17 @@ void SendRedo(QObject* receiver, QKeyEvent& key) {
   key.setAccepted(redo.isAccepted());
 }
 
-void DressMenu(QMenu& menu) {
+void DressPolished(QMenu& menu) {
   if (menu.parentWidget() == nullptr) return;
-  menu.setStyle(ScreenStyle());
-  Wear(menu, Attire::Window);
   const QWidget& window = *menu.parentWidget()->window();
-  FitMenu(menu, MenuFont(window), window);
+  const auto* bar = qobject_cast<const QMenuBar*>(menu.parentWidget());
+  if (bar == nullptr) return DressMenu(menu, MenuFont(window), window);
+  // Polished with its window, long before that has its size, it cannot be fitted yet.
+  DressMenu(menu, bar->font());
 }
 
 void Dress(QObject* watched) {
-  if (auto* menu = qobject_cast<QMenu*>(watched)) DressMenu(*menu);
+  if (auto* menu = qobject_cast<QMenu*>(watched)) DressPolished(*menu);
   DressFileBox(*watched);
 }
 

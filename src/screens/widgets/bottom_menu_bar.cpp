@@ -8,13 +8,18 @@
 
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/look.h"
+#include "screens/widgets/pop_up.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
 BottomMenuBar::BottomMenuBar(QWidget* parent) : QMenuBar(parent) {
   setNativeMenuBar(false);  // the desktop's own would not stand at the bottom
-  setStyle(ScreenStyle());
   setAccessibleName(ToQt(kMenuBarName));
+}
+
+void BottomMenuBar::SetLetters(const QFont& font) {
+  setFont(font);
+  if (style() != ScreenStyle()) setStyle(ScreenStyle());
 }
 
 void BottomMenuBar::Enter() {
@@ -30,6 +35,7 @@ void BottomMenuBar::actionEvent(QActionEvent* event) {
   QMenu* menu = event->action()->menu();
   if (event->type() != QEvent::ActionAdded || menu == nullptr) return;
   menu->setAccessibleName(menu->title().remove(u'&'));
+  connect(menu, &QMenu::aboutToShow, this, [this, menu] { DressMenu(*menu, font(), *window()); });
 }
 
 void BottomMenuBar::keyPressEvent(QKeyEvent* event) {

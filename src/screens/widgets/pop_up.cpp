@@ -33,9 +33,7 @@ void ForgetMouse(const QWidget& window) {
 QMenu* NewPopUp(QWidget* owner, const QFont& font) {
   auto* menu = new QMenu(owner);
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  menu->setStyle(ScreenStyle());
-  Wear(*menu, Attire::Window);
-  menu->setFont(font);
+  DressMenu(*menu, font);
   QObject::connect(menu, &QMenu::aboutToHide, owner, [owner] { ForgetMouse(*owner->window()); });
   return menu;
 }
@@ -60,8 +58,14 @@ QFont MenuFont(const QWidget& window) {
   return ScreenFont(TextPixels(PortraitArea(window.size()).height()));
 }
 
-void FitMenu(QMenu& menu, const QFont& font, const QWidget& window) {
+void DressMenu(QMenu& menu, const QFont& font) {
+  menu.setStyle(ScreenStyle());
+  Wear(menu, Attire::Window);
   menu.setFont(font);
+}
+
+void DressMenu(QMenu& menu, const QFont& font, const QWidget& window) {
+  DressMenu(menu, font);
   const int room = PortraitArea(window.size()).width();
   int pixels = font.pixelSize();
   // An entry may be a long name of the user's: letters stay large enough to be read.

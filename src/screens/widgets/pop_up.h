@@ -25,8 +25,10 @@ QString TipOf(std::u16string_view text);
 /// The letters of the menus of a screen or dialog, `window`.
 QFont MenuFont(const QWidget& window);
 
-/// Gives `menu` letters of `font`, or smaller ones if it would be wider than `window` else.
-void FitMenu(QMenu& menu, const QFont& font, const QWidget& window);
+/// Gives `menu` the look of the screens and letters of `font`.
+void DressMenu(QMenu& menu, const QFont& font);
+/// The same, with smaller letters if it would be wider than `window` else.
+void DressMenu(QMenu& menu, const QFont& font, const QWidget& window);
 
 /// Opens `menu` at `place` of the screen or dialog `window`.
 void PopUpAt(QMenu& menu, const QWidget& window, const MenuPlace& place);

@@ -180,7 +180,6 @@ void Screen::AddMenu(std::u16string_view title, const std::vector<MenuEntry>& en
   if (entries.empty()) return;
   QMenu* menu = menuBar_->addMenu(ToQt(title));
   for (const MenuEntry& entry : entries) AddAction(menu, entry);
-  connect(menu, &QMenu::aboutToShow, menu, [this, menu] { Dress(menu); });
 }
 
 void Screen::AddFileMenu(const FileCommands& commands) {
@@ -230,12 +229,6 @@ QMenu* Screen::MakePopUp() {
   return NewPopUp(this, menuBar_->font());
 }
 
-void Screen::Dress(QMenu* menu) {
-  menu->setStyle(ScreenStyle());
-  Wear(*menu, Attire::Window);
-  FitMenu(*menu, menuBar_->font(), *this);
-}
-
 void Screen::changeEvent(QEvent* event) {
   // Texts of another size than the usual have another share of a window that fills the desktop.
   const bool mayDiffer = frame_.Store().Get(kTextScale) != kUsualTextScale;
@@ -265,10 +258,10 @@ void Screen::LayOutAll() {
   SetTextShare(scale / std::clamp(grown, kLeastTextScale, kMostTextScale));
   const QRect area = Area();
   int text = TextPixels(area.height());
-  menuBar_->setFont(ScreenFont(text));
+  menuBar_->SetLetters(ScreenFont(text));
   // In a wide face, the titles have room in smaller letters only.
   while (text > 1 && menuBar_->sizeHint().width() > area.width()) {
-    menuBar_->setFont(ScreenFont(--text));
+    menuBar_->SetLetters(ScreenFont(--text));
   }
   const int menuHeight = menuBar_->sizeHint().height();
   menuBar_->setGeometry(area.x(), area.bottom() + 1 - menuHeight, area.width(), menuHeight);

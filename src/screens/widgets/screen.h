@@ -110,7 +110,6 @@ class Screen : public QWidget, public GuideCaller {
   bool focusNextPrevChild(bool next) override;
 
  private:
-  void Dress(QMenu* menu);
   void MakeShortcuts();
   void EndProgram();
   void GoTo(ScreenMode mode);

@@ -121,7 +121,10 @@ class TextMeasuredStyle final : public QProxyStyle {
                   const QWidget* widget) const override {
     if (metric == PM_MenuBarItemSpacing) return 0;
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    return std::max(usual, qRound(TextHeight(option, widget) * TextShare(metric)));
+    const double share = TextShare(metric);
+    // A font is not loaded to be multiplied by nothing: that takes as long as much of a start.
+    if (share == 0) return usual;
+    return std::max(usual, qRound(TextHeight(option, widget) * share));
   }
 
   QRect subElementRect(SubElement element, const QStyleOption* option,
