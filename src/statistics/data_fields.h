@@ -30,6 +30,12 @@ constexpr std::u16string TypedRow::*TextOf(DataField field) {
   return kTexts[static_cast<std::size_t>(field)];
 }
 
+/// The field whose values stand in `column`, as DataList::Sort numbers the columns.
+constexpr DataField FieldOfColumn(std::size_t column, DataShape shape) {
+  if (column >= VariablesOf(shape)) return DataField::Count;
+  return column == 0 ? DataField::X : DataField::Y;
+}
+
 /// The values of the fields: finite numbers, and a count from kLeastCount to kLargestCount. `y` is
 /// 0 for one variable.
 struct FieldNumbers {

@@ -190,6 +190,12 @@ void DropRows(DataList& list);
 /// Hands the machine what was freed, which the allocator would keep for rows to come.
 void GiveFreedMemoryBack();
 
+/// A cell of a list; columns are as DataList::Sort numbers them.
+struct DataCell {
+  std::size_t row;
+  std::size_t column;
+};
+
 /// What rows were sorted by: a column as DataList::Sort numbers them.
 struct DataSorting {
   std::size_t column;

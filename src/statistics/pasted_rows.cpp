@@ -160,6 +160,12 @@ Pasted ReadPastedRows(std::u16string_view text, DataShape shape, DisplayFormat f
   }
 }
 
+std::optional<std::u16string_view> OneCellOf(std::u16string_view text) {
+  const std::u16string_view cell = TrimBlanks(text.substr(0, text.find_last_not_of(u"\r\n") + 1));
+  if (cell.empty() || cell.find_first_of(u"\t;, \r\n") != cell.npos) return std::nullopt;
+  return cell;
+}
+
 std::u16string PrintRows(const DataList& list, std::span<const std::size_t> indices) {
   std::u16string text;
   const auto append = [&text](std::string_view column, char16_t end) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,6 +29,10 @@ std::variant<PastedRows, WorkFailed, WorkCancelled> ReadPastedRows(std::u16strin
                                                                    DataShape shape,
                                                                    DisplayFormat format,
                                                                    const WorkProgress& progress);
+
+/// All of `text` without blanks and line ends around it, if nothing in it separates columns or
+/// lines; nullopt if it is more than one cell, or none.
+std::optional<std::u16string_view> OneCellOf(std::u16string_view text);
 
 /// The rows at `indices` as lines that end with LF, a TAB between columns.
 std::u16string PrintRows(const DataList& list, std::span<const std::size_t> indices);

@@ -322,4 +322,39 @@ std::optional<std::u16string> StatisticsModel::PasteRows(std::u16string_view tex
   return std::move(pasted->complaint);
 }
 
+std::optional<std::u16string> StatisticsModel::PasteAt(const std::optional<DataCell>& cell,
+                                                       std::u16string_view text,
+                                                       const WorkProgress& progress) {
+  const auto number = cell ? OneCellOf(text) : std::nullopt;
+  if (!number) return PasteRows(text, progress);
+  const bool isThere = cell->row < list_.RowCount() && cell->column <= VariablesOf(Shape());
+  return isThere && !IsEditing() ? Overwrite(*cell, *number) : std::nullopt;
+}
+
+/// Gives a cell the number `text`; the other cells of its row stay as they are.
+std::optional<std::u16string> StatisticsModel::Overwrite(const DataCell& cell,
+                                                         std::u16string_view text) {
+  const DataField field = FieldOfColumn(cell.column, Shape());
+  TypedRow typed{u"0", u"0"};
+  typed.*TextOf(field) = text;
+  const auto read = ReadTypedRow(typed, Shape());
+  if (!read) return read.error().text;
+  std::array<std::string, kMostVariables> texts;
+  for (std::size_t i = 0; i < VariablesOf(Shape()); ++i) texts[i] = list_.ValueText(cell.row, i);
+  std::optional<std::int32_t> count;
+  if (!list_.CountText(cell.row).empty()) count = list_.Count(cell.row);
+  if (field == DataField::Count) {
+    count = read->count;
+  } else {
+    const double value = field == DataField::X ? read->x : read->y;
+    texts[cell.column] = Narrow(PlainText(value, format_));
+  }
+  const auto refusal = list_.Rewrite(cell.row, {{texts[0], texts[1]}, count});
+  if (refusal) return WhyRowsDoNotFit(*refusal);
+  selected_ = cell.row;
+  EndEdit();
+  MarkChanged();
+  return std::nullopt;
+}
+
 }  // namespace kav

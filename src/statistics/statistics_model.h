@@ -84,6 +84,11 @@ class StatisticsModel {
   std::u16string CopyRows(std::span<const std::size_t> rows) const;
   /// Inserts the rows of `text` at the top of the list. Answers what the user is told, if anything.
   std::optional<std::u16string> PasteRows(std::u16string_view text, const WorkProgress& progress);
+  /// Takes a text that is dropped on a cell, or beside the rows. One number takes the place of what
+  /// is in the cell, as if it were typed after "Edit"; all else is pasted. Answers what the user is
+  /// told, if anything.
+  std::optional<std::u16string> PasteAt(const std::optional<DataCell>& cell,
+                                        std::u16string_view text, const WorkProgress& progress);
 
  protected:
   /// Presses a result button, which is enabled. Here it is one that shows a moment.
@@ -109,6 +114,7 @@ class StatisticsModel {
   StatisticsRequest BeginEdit();
   StatisticsRequest ApplyEdit();
   void EndEdit();
+  std::optional<std::u16string> Overwrite(const DataCell& cell, std::u16string_view text);
   StatisticsRequest AskDelete() const;
   void TakeRows(DataList rows);
   void EnableGrown(std::size_t before);

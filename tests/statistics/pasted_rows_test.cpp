@@ -170,6 +170,15 @@ TEST(PastedRows, NoLocaleChangesANumber) {
   }
 }
 
+TEST(PastedRows, OneCellHasNothingThatSeparates) {
+  for (const auto* text : {u"7", u" 7 ", u"7\n", u"7\r\n", u" 7 \n\n"}) {
+    EXPECT_EQ(OneCellOf(text), u"7") << Narrow(text);
+  }
+  for (const auto* text : {u"", u" ", u"\n", u"7 8", u"7\t8", u"7;", u"1,5", u"\t7", u"7\n8"}) {
+    EXPECT_EQ(OneCellOf(text), std::nullopt) << Narrow(text);
+  }
+}
+
 TEST(PrintRows, RowsAreLinesWithTabsInTheGivenOrder) {
   DataList one(DataShape::OneVariable);
   EXPECT_EQ(one.Append({{"2", {}}, 3}), std::nullopt);

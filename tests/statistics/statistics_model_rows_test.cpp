@@ -282,5 +282,61 @@ TEST_F(OneVariableRows, SortingNoRowsTurnsTheDirectionToo) {
   EXPECT_EQ(Rows(), "1 1; 2 1");
 }
 
+// Texts that are dropped on the list.
+
+TEST_F(TwoVariableRows, ADroppedNumberIsTypedIntoItsCell) {
+  Add(u"1", u"2", u"3");
+  Add(u"4", u"5", u"6");
+  Type(u"77", u"88", u"9");
+  EXPECT_FALSE(model_->PasteAt(DataCell{1, 0}, u" 1.50 \r\n", {}));
+  EXPECT_EQ(Rows(), "4 5 6; 1.5 2 3");
+  EXPECT_EQ(model_->Selected(), 1U);
+  EXPECT_FALSE(model_->PasteAt(DataCell{1, 1}, u"-7", {}));
+  EXPECT_FALSE(model_->PasteAt(DataCell{0, 2}, u"10", {}));
+  EXPECT_EQ(Rows(), "4 5 10; 1.5 -7 3");
+  EXPECT_EQ(model_->TotalText(), u"13");
+  EXPECT_EQ(model_->Fields(), (TypedRow{u"77", u"88", u"9"})) << "what is being typed stays";
+  EXPECT_TRUE(AsksToSave());
+}
+
+TEST_F(TwoVariableRows, ACellRefusesADroppedTextAsItsFieldDoes) {
+  Add(u"1", u"2", u"3");
+  struct Row {
+    std::size_t column;
+    std::u16string text;
+    std::u16string told;
+  };
+  for (const Row& row : {
+           Row{0, u"abc", u"X must be a number such as -12.5 or 1.5e-3."},
+           Row{1, u"2*3", u"Y must be a number such as -12.5 or 1.5e-3."},
+           Row{1, u"1e999", u"Y is too large: it must be a number from -1.79e308 to 1.79e308."},
+           Row{2, u"0", u"Count must be a whole number from 1 to 10000."},
+           Row{2, u"1.5", u"Count must be a whole number from 1 to 10000."},
+       }) {
+    EXPECT_EQ(model_->PasteAt(DataCell{0, row.column}, row.text, {}), row.told);
+    EXPECT_EQ(Rows(), "1 2 3");
+  }
+}
+
+TEST_F(OneVariableRows, ADroppedTextThatIsNotOneCellIsPasted) {
+  Add(u"1", u"2");
+  EXPECT_FALSE(model_->PasteAt(DataCell{0, 0}, u"5\t6\n7\t8\n", {}));
+  EXPECT_EQ(Rows(), "5 6; 7 8; 1 2");
+  EXPECT_FALSE(model_->PasteAt(std::nullopt, u"9", {}));
+  EXPECT_EQ(Rows(), "9 1; 5 6; 7 8; 1 2");
+  EXPECT_FALSE(model_->PasteAt(DataCell{0, 1}, u"4", {}));
+  EXPECT_EQ(Rows(), "9 4; 5 6; 7 8; 1 2");
+}
+
+TEST_F(OneVariableRows, NothingIsDroppedWhereThereIsNoCellOrWhileARowIsEdited) {
+  Add(u"1", u"2");
+  EXPECT_FALSE(model_->PasteAt(DataCell{1, 0}, u"5", {}));
+  EXPECT_FALSE(model_->PasteAt(DataCell{0, 2}, u"5", {}));
+  model_->Select(0);
+  Press(u"Edit");
+  EXPECT_FALSE(model_->PasteAt(DataCell{0, 0}, u"5", {}));
+  EXPECT_EQ(Rows(), "1 2");
+}
+
 }  // namespace
 }  // namespace kav::statistics_model_rows_test

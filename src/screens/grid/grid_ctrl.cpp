@@ -4,8 +4,28 @@
 #include <memory>
 
 #include "screens/grid/grid_keys_view.h"
+#include "screens/widgets/qt_text.h"
+#include "screens/widgets/text_drops.h"
 
 namespace kav {
+
+CGridCtrl::CGridCtrl(QWidget* parent, std::pmr::memory_resource* memory)
+    : GridTable(parent, memory) {
+  TakeTextDrops(*this, {[this](QPoint place, const std::u16string&) { return LandingAt(place); },
+                        [this](QPoint place, const std::u16string& text) {
+                          if (!LandingAt(place).isEmpty()) {
+                            hooks_.drop(CellAt(place + Room().topLeft()), ToQt(text));
+                          }
+                        }});
+}
+
+/// The cell at a place of the viewport, if something can be dropped on it.
+QRect CGridCtrl::LandingAt(QPoint place) const {
+  const QPoint corner = Room().topLeft();
+  const GridCell cell = CellAt(place + corner);
+  if (!hooks_.drop || cell.IsNone() || Model().IsFixed(cell)) return {};
+  return CellArea(cell).translated(-corner);
+}
 
 void CGridCtrl::Interrupt() {
   GiveUpEdit();

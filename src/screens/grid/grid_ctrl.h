@@ -15,8 +15,7 @@ class CGridCtrl final : public GridTable {
  public:
   /// Keeps its cells in `memory`, which must outlive it.
   explicit CGridCtrl(QWidget* parent,
-                     std::pmr::memory_resource* memory = std::pmr::get_default_resource())
-      : GridTable(parent, memory) {}
+                     std::pmr::memory_resource* memory = std::pmr::get_default_resource());
 
   /// The hooks are called until others are set: an owner that goes first takes its hooks back.
   void SetHooks(GridHooks hooks) { hooks_ = std::move(hooks); }
@@ -50,6 +49,7 @@ class CGridCtrl final : public GridTable {
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void EditBy(const QKeyEvent& key);
+  QRect LandingAt(QPoint place) const;
 
   GridHooks hooks_;
   GridSelector selector_{*this};

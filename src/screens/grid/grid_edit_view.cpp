@@ -3,8 +3,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QPainter>
+#include <QTimer>
 #include <algorithm>
 #include <utility>
 
@@ -26,6 +29,10 @@ QString NameOfPlace(const GridModel& grid, GridCell cell) {
   const auto row = grid.GetItemText(cell.row, grid.FixedColumnCount() - 1);
   const auto column = grid.GetItemText(grid.FixedRowCount() - 1, cell.column);
   return ToQt(kRowOfCell) + ToQt(row) + ", " + ToQt(kColumnOfCell) + ToQt(column);
+}
+
+bool HasSeveralCells(const QString& text) {
+  return text.contains(u'\t') || text.trimmed().contains(u'\n');
 }
 
 }  // namespace
@@ -133,13 +140,23 @@ bool GridEdit::LeadsOut(const QKeyEvent& key) const {
 
 void GridEdit::Paste() {
   const QString block = QApplication::clipboard()->text();
-  const bool isBlock = block.contains(u'\t') || block.trimmed().contains(u'\n');
-  if (!isBlock || !hooks_.pasteBlock) {
+  if (!HasSeveralCells(block) || !hooks_.pasteBlock) {
     // A spreadsheet ends a single cell with the end of a line.
     return insert(block.trimmed());
   }
   GiveUp();
   hooks_.pasteBlock();
+}
+
+void GridEdit::dropEvent(QDropEvent* event) {
+  const QString text = event->mimeData()->text();
+  if (!cell_ || !hooks_.drop || !HasSeveralCells(text)) return QLineEdit::dropEvent(event);
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  // The other program waits until this event is done.
+  QTimer::singleShot(0, this, [this, text] {
+    if (const auto cell = GiveUp()) hooks_.drop(*cell, text);
+  });
 }
 
 void GridEdit::contextMenuEvent(QContextMenuEvent* event) {

@@ -11,7 +11,8 @@ namespace kav {
 
 /// Edits one cell after the other. While no edit is going on the box is hidden. Enter, Tab, Esc and
 /// keys that leave the line, or lead on at an end of its text, end an edit, as does the loss of the
-/// focus. Several cells that are pasted are left to the hooks.
+/// focus. Several cells that are pasted or dropped
+/// are left to the hooks.
 class GridEdit final : public QLineEdit {
  public:
   /// Of the hooks it tells those of edits. All must outlive it.
@@ -36,6 +37,7 @@ class GridEdit final : public QLineEdit {
   void focusOutEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void OnEnd(const QKeyEvent& key);
   bool LeadsOut(const QKeyEvent& key) const;
   void Paste();

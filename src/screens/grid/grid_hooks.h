@@ -4,6 +4,8 @@
 #include <QString>
 #include <functional>
 
+#include "grid/grid_model.h"
+
 namespace kav {
 
 /// What the grid tells its owner about what the user does; calls of the owner are not told. Hooks
@@ -19,6 +21,9 @@ struct GridHooks {
   std::function<void(int column, int width)> columnResized;
   /// A text of several cells is pasted into the box of a cell, whose edit has been given up.
   std::function<void()> pasteBlock = {};
+  /// A text is dropped on a cell, or one of several cells into its box, whose edit has been given
+  /// up. Without it nothing can be dropped.
+  std::function<void(GridCell cell, const QString& text)> drop = {};
 };
 
 }  // namespace kav

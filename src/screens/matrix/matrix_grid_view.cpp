@@ -73,7 +73,8 @@ void MatrixGridView::SetHooks() {
   hooks.endEdit = [this](int row, int column, const QString& text) {
     TypeCell({row, column}, text);
   };
-  hooks.pasteBlock = [this] { PasteCells(); };
+  hooks.pasteBlock = [this] { PasteCells(QApplication::clipboard()->text()); };
+  hooks.drop = [this](GridCell cell, const QString& text) { DropOn(cell, text); };
   hooks.columnResized = [this](int column, int width) { TakeWidth(column, width); };
   grid_->SetHooks(std::move(hooks));
 }
@@ -297,7 +298,7 @@ void MatrixGridView::Edit(EditCommand command) {
     case EditCommand::Copy:
       return CopyCells();
     case EditCommand::Paste:
-      return PasteCells();
+      return PasteCells(QApplication::clipboard()->text());
     case EditCommand::SelectAll:
       return SelectAll();
     default:
@@ -334,8 +335,8 @@ void MatrixGridView::CutCells() {
   QApplication::clipboard()->setText(QString::fromStdU16String(model_.CutCells(*cells)));
 }
 
-void MatrixGridView::PasteCells() {
-  const std::u16string text = OwnCells(QApplication::clipboard()->text().toStdU16String());
+void MatrixGridView::PasteCells(const QString& pasted) {
+  const std::u16string text = OwnCells(pasted.toStdU16String());
   const auto question = QuestionOfCells(text);
   if (!question) return PasteText(text);
   AskForCommas(*grid_, CommaQuestionText(*question), *question,
@@ -347,6 +348,14 @@ void MatrixGridView::PasteText(const std::u16string& text) {
   const auto told = model_.PasteInto(SelectedCells().value_or(CellRange{}), text);
   hooks_.changed();
   if (told) ShowNotice(grid_->parentWidget(), *told);
+}
+
+/// A drop is a paste at that cell.
+void MatrixGridView::DropOn(GridCell cell, const QString& text) {
+  if (!FinishEdit()) return;
+  grid_->setFocus(Qt::OtherFocusReason);
+  grid_->SetFocusCell(cell);
+  PasteCells(text);
 }
 
 void MatrixGridView::ClearCells() {

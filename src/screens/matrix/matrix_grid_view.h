@@ -87,8 +87,9 @@ class MatrixGridView final {
   std::optional<CellRange> SelectedCells() const;
   void CopyCells() const;
   void CutCells();
-  void PasteCells();
+  void PasteCells(const QString& text);
   void PasteText(const std::u16string& text);
+  void DropOn(GridCell cell, const QString& text);
   void SelectAll();
 
   MatrixModel& model_;

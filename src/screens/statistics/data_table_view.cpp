@@ -15,6 +15,8 @@
 #include "screens/widgets/access_view.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
+#include "screens/widgets/text_drops.h"
+#include "statistics/pasted_rows.h"
 #include "statistics/statistics_texts.h"
 
 namespace kav {
@@ -94,6 +96,25 @@ DataTableView::DataTableView(QWidget* parent, const DataList& list,
   setItemDelegate(new NumberDelegate(this));
   DataTableView::setModel(cells_);
   LetKeyboardFollow(*this);
+  TakeTextDrops(
+      *this, {[this](QPoint place, const std::u16string& text) { return LandingAt(place, text); },
+              [this](QPoint place, const std::u16string& text) {
+                if (hooks_.drop) hooks_.drop(CellAt(place), text);
+              }});
+}
+
+/// The cell at a place of the viewport; nullopt beside the rows.
+std::optional<DataCell> DataTableView::CellAt(QPoint place) const {
+  const QModelIndex index = indexAt(place);
+  if (!index.isValid()) return std::nullopt;
+  return DataCell{static_cast<std::size_t>(index.row()), static_cast<std::size_t>(index.column())};
+}
+
+QRect DataTableView::LandingAt(QPoint place, std::u16string_view text) const {
+  const QModelIndex index = indexAt(place);
+  if (index.isValid() && OneCellOf(text)) return visualRect(index);
+  // Above all rows.
+  return {0, 0, viewport()->width(), std::max(RowHeight() / 4, 2)};
 }
 
 void DataTableView::MakeHeadings() {

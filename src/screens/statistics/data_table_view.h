@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -26,6 +27,8 @@ struct DataTableHooks {
   std::function<void()> remove = {};  ///< Delete
   std::function<void()> copy = {};
   std::function<void()> paste = {};
+  /// A text is dropped on a cell, or beside the rows.
+  std::function<void(const std::optional<DataCell>& cell, const std::u16string& text)> drop = {};
 };
 
 /// Shows `list`, which must outlive it, with a column for each variable and one for the count. One
@@ -71,6 +74,8 @@ class DataTableView final : public RowTable {
   /// Calls `select`, which selects rows, without scrolling to them.
   void WithoutScrolling(const std::function<void()>& select);
   bool DoCommand(const QKeyEvent& event);
+  QRect LandingAt(QPoint place, std::u16string_view text) const;
+  std::optional<DataCell> CellAt(QPoint place) const;
 
   std::vector<DataColumn> columns_;
   Cells* cells_;

@@ -95,6 +95,10 @@ void StatisticsScreen::SetTableHooks() {
   hooks.remove = [this] { OnKey(StatisticsKey::Delete); };
   hooks.copy = [this] { CopyRows(); };
   hooks.paste = [this] { PasteRows(); };
+  hooks.drop = [this](const std::optional<DataCell>& cell, const std::u16string& text) {
+    table_->setFocus();
+    Paste(text, cell);
+  };
   table_->SetHooks(std::move(hooks));
   table_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(table_, &QWidget::customContextMenuRequested, this, &StatisticsScreen::OpenRowsMenu);
@@ -260,20 +264,25 @@ void StatisticsScreen::CopyRows() const {
 }
 
 void StatisticsScreen::PasteRows() {
+  Paste(QApplication::clipboard()->text().toStdU16String(), std::nullopt);
+}
+
+/// Asks first what commas mean. Without `cell`, rows are pasted.
+void StatisticsScreen::Paste(const std::u16string& pasted, const std::optional<DataCell>& cell) {
   TakeLine();
-  std::u16string text = OwnCells(QApplication::clipboard()->text().toStdU16String());
+  std::u16string text = OwnCells(pasted);
   const auto question = QuestionOfCommas(text);
-  if (!question) return PasteText(text);
-  const auto take = [this, text = std::move(text)](CommaMeaning meaning) {
-    PasteText(WithCommas(text, meaning));
+  if (!question) return PasteText(text, cell);
+  const auto take = [this, cell, text = std::move(text)](CommaMeaning meaning) {
+    PasteText(WithCommas(text, meaning), cell);
   };
   AskForCommas(*table_, CommaQuestionText(*question), *question, take);
   OfferStripOf(*table_).Enter();
 }
 
-void StatisticsScreen::PasteText(const std::u16string& text) {
+void StatisticsScreen::PasteText(const std::u16string& text, const std::optional<DataCell>& cell) {
   Tell(Run(kPastingData,
-           [&](const WorkProgress& progress) { return model_->PasteRows(text, progress); }));
+           [&](const WorkProgress& progress) { return model_->PasteAt(cell, text, progress); }));
 }
 
 bool StatisticsScreen::eventFilter(QObject* watched, QEvent* event) {

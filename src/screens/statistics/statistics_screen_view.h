@@ -73,7 +73,8 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   void OpenRowsMenu(const QPoint& place);
   void CopyRows() const;
   void PasteRows();
-  void PasteText(const std::u16string& text);
+  void Paste(const std::u16string& pasted, const std::optional<DataCell>& cell);
+  void PasteText(const std::u16string& text, const std::optional<DataCell>& cell);
   bool eventFilter(QObject* watched, QEvent* event) override;
   bool OnFieldKey(const QKeyEvent& event);
   void keyPressEvent(QKeyEvent* event) override;
