@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "common/number_text.h"
+#include "display/copied_text.h"
 #include "display/number_input.h"
 #include "line/shown_number.h"
 #include "plotter/plotter_texts.h"
@@ -167,7 +168,8 @@ GraphReading GraphModel::ReadPoint(GraphPlace place) {
   GraphReading reading;
   reading.x = Shown(XAt(place.column), input_.format);
   tappedX_ = reading.x;
-  reading.lines.push_back(std::u16string(kTouchedYPrefix) + Shown(y, input_.format));
+  reading.values.push_back(Shown(y, input_.format));
+  reading.lines.push_back(std::u16string(kTouchedYPrefix) + reading.values.front());
   return reading;
 }
 
@@ -200,15 +202,37 @@ GraphReading GraphModel::ReadCurves(double x, std::u16string_view shown) {
   tracedX_ = x;
   GraphReading reading;
   reading.x = shown;
-  for (std::size_t i = 0; i < input_.curves.size(); ++i) reading.lines.push_back(ValueLine(i, x));
+  for (std::size_t i = 0; i < input_.curves.size(); ++i) {
+    reading.values.push_back(ValueOf(i, x));
+    const std::u16string& value = reading.values.back();
+    reading.lines.push_back(CurveValuePrefix(i) +
+                            (value.empty() ? std::u16string(kValueOutOfRange) : value));
+  }
   reading.selected = selected_;
   return reading;
 }
 
-std::u16string GraphModel::ValueLine(std::size_t index, double x) const {
+/// Empty if the curve has none at `x`.
+std::u16string GraphModel::ValueOf(std::size_t index, double x) const {
   const auto y = input_.curves[index].formula.At({.x = x}, input_.angle);
-  return CurveValuePrefix(index) +
-         (y ? Shown(*y, input_.format) : std::u16string(kValueOutOfRange));
+  return y ? Shown(*y, input_.format) : std::u16string();
+}
+
+std::optional<std::u16string> CopiedReading(const GraphReading& reading, ReadingPart part,
+                                            std::optional<int> line) {
+  const auto at = static_cast<std::size_t>(line.value_or(0));
+  const std::u16string x = PlainDigits(TrimBlanks(reading.x));
+  const std::u16string y = at < reading.values.size() ? PlainDigits(reading.values[at]) : u"";
+  if (x.empty() || (y.empty() && part != ReadingPart::X)) return std::nullopt;
+  switch (part) {
+    case ReadingPart::Point:
+      return x + u'\t' + y;
+    case ReadingPart::X:
+      return x;
+    case ReadingPart::Y:
+      return y;
+  }
+  return std::nullopt;
 }
 
 std::optional<GraphReading> GraphModel::Step(int columns) {

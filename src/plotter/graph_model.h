@@ -61,10 +61,19 @@ enum class RangeChange {
 
 /// What "Cal" and a tap show.
 struct GraphReading {
-  std::u16string x;                   ///< the text of the "X =" field
-  std::vector<std::u16string> lines;  ///< of the results list
-  std::optional<int> selected;        ///< one of the lines, from 0
+  std::u16string x;                    ///< the text of the "X =" field
+  std::vector<std::u16string> lines;   ///< of the results list
+  std::vector<std::u16string> values;  ///< the number in each line; empty where there is none
+  std::optional<int> selected;         ///< one of the lines, from 0
 };
+
+/// What of a reading other programs are given.
+enum class ReadingPart { Point, X, Y };
+
+/// That part in plain digits: x, the number in `line`, or both with a TAB between them. Without
+/// `line` it is the first. nullopt if there is no number.
+std::optional<std::u16string> CopiedReading(const GraphReading& reading, ReadingPart part,
+                                            std::optional<int> line);
 
 /// A drag is a box if it is at least so many pixels wide and high, however large the plot is.
 inline constexpr double kShortestDrag = 10;
@@ -138,7 +147,7 @@ class GraphModel {
                                          std::u16string_view refusal) const;
   GraphReading Trace(double x);
   GraphReading ReadCurves(double x, std::u16string_view shown);
-  std::u16string ValueLine(std::size_t index, double x) const;
+  std::u16string ValueOf(std::size_t index, double x) const;
 
   GraphInput input_;
   PlotRange range_;

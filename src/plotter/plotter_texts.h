@@ -129,6 +129,16 @@ inline constexpr std::u16string_view kResetEntry = u"Re&set";
 inline constexpr std::u16string_view kUndoRangeEntry = u"U&ndo";
 inline constexpr std::u16string_view kGraphOptionsEntry = u"&Graph Options";
 
+// The menu of the values that it shows, and what screen readers say of that.
+inline constexpr std::u16string_view kCopyPointEntry = u"&Copy x and y";
+inline constexpr std::u16string_view kCopyXEntry = u"Copy &x";
+inline constexpr std::u16string_view kCopyYEntry = u"Copy &y";
+inline constexpr std::u16string_view kCopyPointTip =
+    u"Copy x and the selected value in plain digits, with a tab between them";
+inline constexpr std::u16string_view kCopyXTip = u"Copy x in plain digits";
+inline constexpr std::u16string_view kCopyYTip = u"Copy the selected value in plain digits";
+inline constexpr std::u16string_view kGraphResultsHint = u"Ctrl+C copies x and the selected value";
+
 // What screen readers call its parts.
 inline constexpr std::u16string_view kGraphName = u"Graph";
 inline constexpr std::u16string_view kCurveSelectorName = u"Selected equation";

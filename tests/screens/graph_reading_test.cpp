@@ -1,12 +1,33 @@
 // What the graph on the screen tells of its curves: taps, "Cal" and the trace.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
+#include <QClipboard>
+
 #include "screens/graph_driver.h"
 
 namespace kav::test::graph_reading_test {
 namespace {
 
-using GraphReadingTest = GraphScreen;
+class GraphReadingTest : public GraphScreen {
+ protected:
+  GraphReadingTest() { QGuiApplication::clipboard()->setText("old"); }
+
+  /// What Ctrl+C copies while `from` has the focus.
+  std::u16string CopiedFrom(QWidget& from) {
+    QGuiApplication::clipboard()->setText("old");
+    from.setFocus();
+    Key(Qt::Key_C, Qt::ControlModifier);
+    return QGuiApplication::clipboard()->text().toStdU16String();
+  }
+  /// What the entry of the menu that `open` opens copies.
+  std::u16string Chosen(const std::function<void()>& open, std::u16string_view entry) {
+    QGuiApplication::clipboard()->setText("old");
+    open();
+    Choose(entry);
+    return QGuiApplication::clipboard()->text().toStdU16String();
+  }
+};
 
 // Taps and "Cal".
 
@@ -214,6 +235,73 @@ TEST_F(GraphReadingTest, UpAndDownGoFromCurveToCurveWhileTracing) {
     EXPECT_EQ(Selector().currentIndex(), 2);
     for (int i = 0; i < 5; ++i) Key(Qt::Key_Up);
     EXPECT_EQ(SelectedLine(), 0);
+  });
+}
+
+// Copies.
+
+TEST_F(GraphReadingTest, CtrlCCopiesWhatIsShownFromWhereverTheKeyboardIs) {
+  Open(LabelledGraphOf({"1000*x", "x^2"}), [this] {
+    EXPECT_EQ(CopiedFrom(Plot()), u"old") << "nothing is shown yet";
+    Calculate("1234");
+    for (QWidget* from : {static_cast<QWidget*>(&Plot()), static_cast<QWidget*>(&Results()),
+                          static_cast<QWidget*>(&Selector()), static_cast<QWidget*>(&Trace()),
+                          static_cast<QWidget*>(FindKey(Dlg(), u"Close"))}) {
+      EXPECT_EQ(CopiedFrom(*from), u"1234\t1234000");
+    }
+    Results().setFocus();
+    Key(Qt::Key_Down);
+    EXPECT_EQ(CopiedFrom(Results()), u"1234\t1522756") << "of the other curve";
+  });
+}
+
+TEST_F(GraphReadingTest, TheFieldCopiesWhatIsSelectedInIt) {
+  Open(LabelledGraphOf({"2*x"}), [this] {
+    Calculate("15");
+    X().deselect();
+    EXPECT_EQ(CopiedFrom(X()), u"15\t30");
+    X().setSelection(0, 1);
+    EXPECT_EQ(CopiedFrom(X()), u"1");
+  });
+}
+
+TEST_F(GraphReadingTest, ATapIsCopiedAsItIsShown) {
+  GraphInput input = LabelledGraphOf({"x"});
+  input.range = {0, 229000, -10000, 10000};
+  Open(input, [this] {
+    TapPlot(Area().topLeft() + QPoint(100, 0));
+    EXPECT_EQ(X().text(), "100,000");
+    EXPECT_EQ(CopiedFrom(Plot()), u"100000\t10000");
+  });
+}
+
+TEST_F(GraphReadingTest, TheMenusOfPlotAndResultsCopyBothNumbersOrOne) {
+  Open(LabelledGraphOf({"1000*x", "1/x"}), [this] {
+    Calculate("2");
+    for (QWidget* shown : {&Plot(), static_cast<QWidget*>(&Results())}) {
+      const auto open = [shown] {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5},
+                                shown->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(shown, &event);
+      };
+      EXPECT_EQ(Chosen(open, u"&Copy x and y"), u"2\t2000");
+      EXPECT_EQ(Chosen(open, u"Copy &x"), u"2");
+      EXPECT_EQ(Chosen(open, u"Copy &y"), u"2000");
+    }
+  });
+}
+
+TEST_F(GraphReadingTest, ScreenReadersOfferTheCopiesToo) {
+  Open(LabelledGraphOf({"1000*x", "1/x"}), [this] {
+    Calculate("0");
+    auto* actions = QAccessible::queryAccessibleInterface(&Plot())->actionInterface();
+    ASSERT_NE(actions, nullptr);
+    const QString menu = QAccessibleActionInterface::showMenuAction();
+    EXPECT_EQ(actions->actionNames().count(menu), 1);
+    EXPECT_EQ(Chosen([&] { actions->doAction(menu); }, u"Copy &y"), u"0");
+    EXPECT_EQ(Results().accessibleDescription(), "Ctrl+C copies x and the selected value");
+    Selector().setCurrentIndex(1);
+    EXPECT_EQ(CopiedFrom(Plot()), u"old") << "the other curve has no value there";
   });
 }
 

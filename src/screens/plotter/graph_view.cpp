@@ -1,6 +1,7 @@
 #include "screens/plotter/graph_view.h"
 
 #include <QCheckBox>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,6 +24,7 @@
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
+#include "screens/widgets/result_uses.h"
 
 namespace kav {
 namespace {
@@ -45,6 +47,18 @@ constexpr std::array kChangeRows{
     ChangeRow{RangeChange::Reset, kResetEntry, {"Ctrl+0"}},
     ChangeRow{RangeChange::Undo, kUndoRangeEntry, {"Ctrl+Z"}},
 };
+/// An entry of the menu of the values.
+struct CopyRow {
+  ReadingPart part;
+  std::u16string_view text;
+  std::u16string_view tip;
+};
+constexpr std::array kCopyRows{
+    CopyRow{ReadingPart::Point, kCopyPointEntry, kCopyPointTip},
+    CopyRow{ReadingPart::X, kCopyXEntry, kCopyXTip},
+    CopyRow{ReadingPart::Y, kCopyYEntry, kCopyYTip},
+};
+
 constexpr const char* kOptionsKey = "Ctrl+G";
 
 constexpr int kLinesOfResults = 3;
@@ -70,6 +84,7 @@ class CGraphView final : public Dialog {
 
  private:
   void MakeMenu();
+  void MakeCopies();
   void LayOut();
   void Connect();
 
@@ -81,8 +96,14 @@ class CGraphView final : public Dialog {
   void Tell(ChangeRefusal refusal);
   void Take(const std::optional<GraphReading>& reading);
   void ShareHeight();
+  std::optional<std::u16string> Copied(ReadingPart part) const {
+    return CopiedReading(reading_, part, results_->Selected());
+  }
+  void Copy(ReadingPart part);
+  void RefreshCopies();
   void Refresh();
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void SetTextHeight(int text) override;
   void keyPressEvent(QKeyEvent* event) override;
 
@@ -99,6 +120,7 @@ class CGraphView final : public Dialog {
   QVBoxLayout* body_ = new QVBoxLayout;
   BottomMenuBar* menuBar_ = new BottomMenuBar(this);
   QAction* undo_ = nullptr;
+  std::array<QAction*, kCopyRows.size()> copies_{};
 };
 
 CGraphView::CGraphView(QWidget* parent, GraphInput input)
@@ -112,6 +134,7 @@ CGraphView::CGraphView(QWidget* parent, GraphInput input)
   curves_->setToolTip(curves_->currentText());
   x_->setAccessibleName(ToQt(kTracedXName));
   MakeMenu();
+  MakeCopies();
   LayOut();
   Connect();
   Refresh();
@@ -130,6 +153,52 @@ void CGraphView::MakeMenu() {
   menu->addSeparator();
   QAction* options = menu->addAction(ToQt(kGraphOptionsEntry), this, &CGraphView::OnOptions);
   options->setShortcut(QKeySequence(QLatin1String(kOptionsKey)));
+}
+
+/// What is shown can be copied where it is shown.
+void CGraphView::MakeCopies() {
+  for (std::size_t i = 0; i < kCopyRows.size(); ++i) {
+    const CopyRow& row = kCopyRows[i];
+    copies_[i] = new QAction(ToQt(row.text), this);
+    copies_[i]->setStatusTip(ToQt(row.tip));
+    connect(copies_[i], &QAction::triggered, this, [this, part = row.part] { Copy(part); });
+  }
+  copies_.front()->setShortcut(QKeySequence::Copy);
+  for (QWidget* shown : {static_cast<QWidget*>(area_), static_cast<QWidget*>(results_)}) {
+    shown->addActions({copies_.begin(), copies_.end()});
+    shown->installEventFilter(this);
+  }
+  // So that screen readers offer the menu; what opens is the dialog's own.
+  area_->setContextMenuPolicy(Qt::ActionsContextMenu);
+  x_->installEventFilter(this);
+  results_->setAccessibleDescription(ToQt(kGraphResultsHint));
+  connect(results_, &QListWidget::itemSelectionChanged, this, &CGraphView::RefreshCopies);
+}
+
+bool CGraphView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == x_) {
+    const bool isCopy = event->type() == QEvent::KeyPress &&
+                        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy);
+    // The field copies what is selected in it, and knows of nothing else.
+    if (!isCopy || x_->hasSelectedText()) return false;
+    Copy(ReadingPart::Point);
+    return true;
+  }
+  if (event->type() != QEvent::ContextMenu) return Dialog::eventFilter(watched, event);
+  QMenu* menu = MakePopUp();
+  menu->addActions({copies_.begin(), copies_.end()});
+  menu->popup(static_cast<QContextMenuEvent*>(event)->globalPos());
+  return true;
+}
+
+void CGraphView::Copy(ReadingPart part) {
+  if (const auto text = Copied(part)) CopyText(*text);
+}
+
+void CGraphView::RefreshCopies() {
+  for (std::size_t i = 0; i < kCopyRows.size(); ++i) {
+    copies_[i]->setEnabled(Copied(kCopyRows[i].part).has_value());
+  }
 }
 
 void CGraphView::LayOut() {
@@ -199,6 +268,7 @@ void CGraphView::Select(int curve) {
   if (reading_.selected) {
     reading_.selected = curve;
     results_->Write(reading_.lines, reading_.selected);
+    RefreshCopies();
   }
   area_->MoveMarker();
 }
@@ -214,6 +284,7 @@ void CGraphView::Take(const std::optional<GraphReading>& reading) {
   x_->setText(ToQt(reading_.x));
   x_->home(false);  // the first digits matter most
   results_->Write(reading_.lines, reading_.selected);
+  RefreshCopies();
   ShareHeight();
   area_->MoveMarker();
 }
@@ -231,6 +302,7 @@ void CGraphView::ShareHeight() {
 
 void CGraphView::Refresh() {
   undo_->setEnabled(model_.CanUndo());
+  RefreshCopies();
   area_->Redraw();
 }
 

@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QComboBox>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QTabBar>
 
@@ -73,6 +75,23 @@ class WindowAccess final : public QAccessibleWidget {
   QAccessible::Role role() const override {
     if (widget()->isWindow()) return QAccessible::Window;
     return widget()->focusPolicy() != Qt::NoFocus ? QAccessible::Graphic : QAccessible::Client;
+  }
+  // The toolkit's own does not open the menu of a widget.
+  QStringList actionNames() const override {
+    QStringList names = QAccessibleWidget::actionNames();
+    if (HasMenu() && !names.contains(showMenuAction())) names << showMenuAction();
+    return names;
+  }
+  void doAction(const QString& name) override {
+    if (name != showMenuAction() || !HasMenu()) return QAccessibleWidget::doAction(name);
+    const QPoint middle = rect().center();
+    QContextMenuEvent open(QContextMenuEvent::Other, widget()->mapFromGlobal(middle), middle);
+    QCoreApplication::sendEvent(widget(), &open);
+  }
+
+ private:
+  bool HasMenu() const {
+    return widget()->isEnabled() && widget()->contextMenuPolicy() == Qt::ActionsContextMenu;
   }
 };
 
