@@ -1,12 +1,14 @@
 // What the user reads about units and their conversions.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "common/number_text.h"
+#include "settings/editor_button.h"
 
 namespace kav {
 
@@ -37,6 +39,16 @@ inline std::u16string MaximumOfUserConversions(int most) {
   return u"Maximum of user-define unit convert is " + Widen(PrintInteger(most));
 }
 
+// What the buttons of the editor do.
+inline constexpr std::array kConversionButtonHelp{
+    EditorButtonHelp{EditorButton::New, u"begin a new conversion"},
+    EditorButtonHelp{EditorButton::Edit, u"change the selected conversion"},
+    EditorButtonHelp{EditorButton::Delete, u"delete the selected conversion"},
+    EditorButtonHelp{EditorButton::Save, u"store the conversion as it stands in the fields"},
+    EditorButtonHelp{EditorButton::Cancel, u"give up what was changed in the fields"},
+    EditorButtonHelp{EditorButton::Memory, u"take the rate from a memory variable"},
+};
+
 // What a deletion does to the rates of the other conversions.
 inline constexpr std::u16string_view kRatesWillLoseDigits =
     u"All rates will be stored with six decimals. These will lose digits:";
@@ -50,6 +62,10 @@ inline constexpr std::u16string_view kConverterTitle = u"Unit Converter";
 inline constexpr std::u16string_view kInputCaption = u"Input";
 inline constexpr std::u16string_view kOutputCaption = u"Output";
 inline constexpr std::u16string_view kSwapCaption = u"↕";
+
+// What its buttons do.
+inline constexpr std::u16string_view kSwapHelp = u"exchange the input unit and the output unit";
+inline constexpr std::u16string_view kStoreOutputHelp = u"store the output in a memory variable";
 
 // Accessible names of its parts, which have no captions.
 inline constexpr std::u16string_view kCategoryName = u"Category";

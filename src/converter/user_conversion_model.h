@@ -20,6 +20,7 @@ struct UserConversionEditorTraits : UserConversionTraits {
   static constexpr ConversionField kFirstOfNew = ConversionField::Source;
   static constexpr ConversionField kFirstOfEdited = ConversionField::Rate;
   static constexpr std::u16string_view kDeleteQuestion = kDeleteConversionQuestion;
+  static constexpr const auto& kButtonHelp = kConversionButtonHelp;
   static constexpr bool kKeepsListButtons = false;
   /// Texts too long for any field are cut, with an ellipsis at the end.
   static TypedConversion FieldsOf(const UserConversion& conversion);

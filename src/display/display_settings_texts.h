@@ -21,6 +21,11 @@ inline constexpr std::u16string_view kMatrixGroup = u"Matrix Display Formatting"
 inline constexpr std::array<std::u16string_view, 5> kDisplayTypeCaptions{
     u"Floating Point", u"Fixed Point", u"Scientific Notation", u"Currency-Punctuated at thousands",
     u"Engineering Notation"};
+/// What numbers look like then, in the same order.
+inline constexpr std::array<std::u16string_view, 5> kDisplayTypeHelp{
+    u"all digits of a number, and no others", u"as many decimals as the precision says",
+    u"one digit before the point, and a power of ten", u"commas between the thousands",
+    u"a power of ten that is a multiple of three"};
 inline constexpr std::u16string_view kRecommendedMark = u"(R)";
 inline constexpr std::u16string_view kRecommendedMeaning = u", (R) = Recommend";
 

@@ -28,6 +28,7 @@ struct MacroEditorTraits : MacroTraits {
   static constexpr MacroField kFirstOfNew = MacroField::Name;
   static constexpr MacroField kFirstOfEdited = MacroField::Name;
   static constexpr std::u16string_view kDeleteQuestion = kDeleteMacroQuestion;
+  static constexpr const auto& kButtonHelp = kMacroButtonHelp;
   static constexpr bool kKeepsListButtons = true;
   /// Long texts are cut, as ShownText cuts them.
   static MacroFields FieldsOf(const Macro& macro);

@@ -1,12 +1,14 @@
 // What the user reads about macros and their calls.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "common/number_text.h"
+#include "settings/editor_button.h"
 
 namespace kav {
 
@@ -36,6 +38,17 @@ inline constexpr std::u16string_view kMacroNameCaption = u"Macro Name";
 inline constexpr std::u16string_view kMacroTypeCaption = u"Argument Type";
 inline constexpr std::u16string_view kFunctionsButton = u"F(X)";
 inline constexpr std::u16string_view kVariablesButton = u"Variables";
+inline constexpr std::array kMacroButtonHelp{
+    EditorButtonHelp{EditorButton::New, u"begin a new macro"},
+    EditorButtonHelp{EditorButton::Edit, u"change the selected macro"},
+    EditorButtonHelp{EditorButton::Delete, u"delete the selected macro"},
+    EditorButtonHelp{EditorButton::Save, u"store the macro as it stands in the fields"},
+    EditorButtonHelp{EditorButton::Cancel, u"give up what was changed in the fields"},
+    EditorButtonHelp{EditorButton::Memory,
+                     u"write the value of a memory variable into the expression"},
+    EditorButtonHelp{EditorButton::Functions, u"write a function into the expression"},
+    EditorButtonHelp{EditorButton::Variables, u"write a variable of the macro into the expression"},
+};
 inline constexpr std::u16string_view kDeleteMacroQuestion =
     u"Are you sure you want to delete the selected macro?";
 

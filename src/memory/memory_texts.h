@@ -19,6 +19,11 @@ inline constexpr std::u16string_view kStoreCaption = u"Store";
 inline constexpr std::u16string_view kRecallCaption = u"Recall";
 inline constexpr std::u16string_view kClearCaption = u"Clear";
 inline constexpr std::u16string_view kClearAllCaption = u"Clear All";
+// What these buttons do.
+inline constexpr std::u16string_view kStoreHelp = u"store the value in the selected variable";
+inline constexpr std::u16string_view kRecallHelp = u"take the value of the selected variable";
+inline constexpr std::u16string_view kClearHelp = u"set the selected variable to 0";
+inline constexpr std::u16string_view kClearAllHelp = u"set all variables to 0";
 inline constexpr std::u16string_view kVariableListName = u"Variables";
 
 inline constexpr std::u16string_view kNoVariableSelected = u"Please select a memory variable";

@@ -28,6 +28,10 @@ std::u16string_view MemoryVariablesModel::ActionCaption() const {
   return std::holds_alternative<StoreMode>(mode_) ? kStoreCaption : kRecallCaption;
 }
 
+std::u16string_view MemoryVariablesModel::ActionHelp() const {
+  return std::holds_alternative<StoreMode>(mode_) ? kStoreHelp : kRecallHelp;
+}
+
 VariableOutcome MemoryVariablesModel::Act() {
   if (!selected_) return VariableMissing{kNoVariableSelected};
   const auto* store = std::get_if<StoreMode>(&mode_);

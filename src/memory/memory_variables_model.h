@@ -46,6 +46,7 @@ class MemoryVariablesModel {
   void Select(std::optional<int> line);
 
   std::u16string_view ActionCaption() const;
+  std::u16string_view ActionHelp() const;  ///< what it does
   /// Stores into the selected variable, or recalls it.
   VariableOutcome Act();
 

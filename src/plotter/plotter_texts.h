@@ -63,6 +63,11 @@ inline constexpr std::u16string_view kXMaxCaption = u"X max";
 inline constexpr std::u16string_view kYMinCaption = u"Y min";
 inline constexpr std::u16string_view kYMaxCaption = u"Y max";
 
+// What the options of a graph do.
+inline constexpr std::u16string_view kGridHelp = u"draw a grid behind the curves";
+inline constexpr std::u16string_view kLineHelp = u"join the points of a curve by lines";
+inline constexpr std::u16string_view kCoordinatesHelp = u"write the borders of the graph into it";
+
 /// The variable of an equation.
 inline constexpr std::u16string_view kVariable = u"x";
 
@@ -116,6 +121,11 @@ inline constexpr std::u16string_view kSaveGraphCaption = u"Save Graph";
 inline constexpr std::u16string_view kTracedXCaption = u"X =";
 inline constexpr std::u16string_view kCalculateCaption = u"Cal";
 inline constexpr std::u16string_view kGraphFileError = u"File Error";
+
+// What its buttons do.
+inline constexpr std::u16string_view kTraceHelp = u"show the values of the curves where you tap";
+inline constexpr std::u16string_view kSaveGraphHelp = u"save the picture in a file";
+inline constexpr std::u16string_view kCalculateHelp = u"show the values of the curves at this X";
 
 // Its menu; '&' stands before the letter that chooses the entry.
 inline constexpr std::u16string_view kGraphMenu = u"&Graph";

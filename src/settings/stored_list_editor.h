@@ -7,6 +7,7 @@
 //   TypedOf(fields, edited)      what the user typed into them; `edited` as for SaveEntry
 //   kFirstOfNew, kFirstOfEdited  the Field in which the user begins
 //   kDeleteQuestion              what to ask before an entry is deleted
+//   kButtonHelp                  what the buttons do, but for those whose captions say all
 //   kKeepsListButtons            whether New, Edit and Delete stay (disabled) while editing
 #pragma once
 
@@ -18,14 +19,12 @@
 #include <vector>
 
 #include "common/refusal.h"
+#include "settings/editor_button.h"
 #include "settings/settings_store.h"
 #include "settings/stored_list.h"
 #include "settings/stored_list_texts.h"
 
 namespace kav {
-
-/// The buttons of such editors. All have those up to Cancel; the others help to fill in the fields.
-enum class EditorButton { New, Edit, Delete, Close, Save, Cancel, Memory, Functions, Variables };
 
 /// Browses the list until an entry is edited, and again once that is saved or cancelled. Other
 /// programs may change the list at the same time: Reload, New, Edit, Cancel, Save and Delete find
@@ -72,6 +71,13 @@ class StoredListEditor {
       default:
         return true;
     }
+  }
+  /// What `button` does, in a few words; empty if its caption says all.
+  static std::u16string_view HelpOf(EditorButton button) {
+    for (const EditorButtonHelp& help : Traits::kButtonHelp) {
+      if (help.button == button) return help.text;
+    }
+    return {};
   }
   /// The button that Enter presses.
   EditorButton DefaultButton() const {

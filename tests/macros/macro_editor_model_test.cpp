@@ -356,5 +356,15 @@ TEST_F(MacroEditorOfLongTexts, ANameThatNobodyTouchedStaysWhole) {
   EXPECT_EQ(TextsOf(store_, 0), (MacroTexts{name_, "TYPE1 : F(X)", "x+1"}));
 }
 
+TEST(MacroEditorHelp, EveryButtonButCloseSaysWhatItDoes) {
+  for (const auto button : {EditorButton::New, EditorButton::Edit, EditorButton::Delete,
+                            EditorButton::Save, EditorButton::Cancel, EditorButton::Memory,
+                            EditorButton::Functions, EditorButton::Variables}) {
+    EXPECT_NE(MacroEditorModel::HelpOf(button), u"") << static_cast<int>(button);
+  }
+  EXPECT_EQ(MacroEditorModel::HelpOf(EditorButton::New), u"begin a new macro");
+  EXPECT_EQ(MacroEditorModel::HelpOf(EditorButton::Close), u"");
+}
+
 }  // namespace
 }  // namespace kav::macro_editor_model_test

@@ -42,6 +42,10 @@ TEST(MemoryVariablesModel, TheActionIsNamedAfterTheMode) {
   MemorySettingsStore store;
   EXPECT_EQ(MemoryVariablesModel(StoreMode{u"1"}, store).ActionCaption(), u"Store");
   EXPECT_EQ(MemoryVariablesModel(RecallMode{}, store).ActionCaption(), u"Recall");
+  EXPECT_EQ(MemoryVariablesModel(StoreMode{u"1"}, store).ActionHelp(),
+            u"store the value in the selected variable");
+  EXPECT_EQ(MemoryVariablesModel(RecallMode{}, store).ActionHelp(),
+            u"take the value of the selected variable");
 }
 
 TEST(MemoryVariablesModel, OnlyLinesThatThereAreCanBeSelected) {

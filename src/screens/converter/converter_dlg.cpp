@@ -50,8 +50,8 @@ class CConverterDlg final : public Dialog {
   ChoiceView* output_ = new ChoiceView(kOutputUnitName);
   /// A number, or why there is none.
   FittingText<QLineEdit>* result_ = new FittingText<QLineEdit>(1);
-  DialogButton* swap_ = new DialogButton(kSwapCaption);
-  DialogButton* memory_ = new DialogButton(kMemoryCaption);
+  DialogButton* swap_ = new DialogButton(kSwapCaption, kSwapHelp);
+  DialogButton* memory_ = new DialogButton(kMemoryCaption, kStoreOutputHelp);
   DialogButton* ok_ = new DialogButton(kOkCaption);
   DialogButton* cancel_ = new DialogButton(kCancelCaption);
 };

@@ -4,10 +4,12 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QRadioButton>
+#include <cstddef>
 
 #include "display/display_settings_texts.h"
 #include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/qt_text.h"
+#include "screens/widgets/tool_tip.h"
 
 namespace kav {
 namespace {
@@ -33,6 +35,7 @@ DisplayTypeView::DisplayTypeView()
   for (const std::u16string_view caption : kDisplayTypeCaptions) {
     const int type = static_cast<int>(buttons_->buttons().size());
     auto* button = new RowButton(ToQt(caption));
+    Explain(*button, kDisplayTypeHelp[static_cast<std::size_t>(type)]);
     buttons_->addButton(button, type);
     // The mark stands right behind its button; other buttons may take the whole width.
     const bool isMarked = type == static_cast<int>(DisplayType::FloatingPoint);

@@ -9,6 +9,7 @@
 #include "display/display_settings_texts.h"
 #include "screens/widgets/choice_box.h"
 #include "screens/widgets/qt_text.h"
+#include "screens/widgets/tool_tip.h"
 
 namespace kav {
 
@@ -18,7 +19,7 @@ LookView::LookView(DisplaySettingsModel& model)
       liveResult_(new QCheckBox(ToQt(kLiveResultCaption))) {
   for (const std::u16string_view choice : kColourChoiceNames) colours_->addItem(ToQt(choice));
   colours_->view();  // is made now, and so gets the look of the dialog
-  liveResult_->setAccessibleDescription(ToQt(kLiveResultMeaning));
+  Explain(*liveResult_, kLiveResultMeaning);
   auto* parts = new QGridLayout(this);
   parts->setContentsMargins(0, 0, 0, 0);
   parts->addWidget(new QLabel(ToQt(kColoursCaption)), 0, 0);

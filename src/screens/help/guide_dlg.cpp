@@ -39,7 +39,7 @@ class CGuideDlg final : public Dialog {
   void SetTextHeight(int text) override;
 
   ChoiceBox* pages_ = new ChoiceBox(kGuidePagesName);
-  DialogButton* back_ = new DialogButton(kBackCaption);
+  DialogButton* back_ = new DialogButton(kBackCaption, kBackHelp);
   GuideBrowser* text_ = new GuideBrowser;
   QLineEdit* search_ = new QLineEdit;
   QLabel* found_ = new QLabel;

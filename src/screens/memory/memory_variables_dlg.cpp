@@ -85,15 +85,15 @@ class CMemoryVariablesDlg final : public Dialog {
   std::optional<std::u16string> recalled_;
   VariableList* list_ = new VariableList;
   DialogButton* action_;
-  DialogButton* clear_ = new DialogButton(kClearCaption);
-  DialogButton* clearAll_ = new DialogButton(kClearAllCaption);
+  DialogButton* clear_ = new DialogButton(kClearCaption, kClearHelp);
+  DialogButton* clearAll_ = new DialogButton(kClearAllCaption, kClearAllHelp);
   DialogButton* close_ = new DialogButton(kCloseCaption);
 };
 
 CMemoryVariablesDlg::CMemoryVariablesDlg(QWidget* parent, VariablesMode mode, SettingsStore& store)
     : Dialog(parent, kVariablesTitle),
       model_(std::move(mode), store),
-      action_(new DialogButton(model_.ActionCaption())) {
+      action_(new DialogButton(model_.ActionCaption(), model_.ActionHelp())) {
   SetPage(GuidePage::Memory);
   list_->setAccessibleName(ToQt(kVariableListName));
   LetKeyboardFollow(*list_);

@@ -25,6 +25,7 @@
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
 #include "screens/widgets/result_uses.h"
+#include "screens/widgets/tool_tip.h"
 
 namespace kav {
 namespace {
@@ -112,10 +113,10 @@ class CGraphView final : public Dialog {
   GraphAreaView* area_;
   ChoiceBox* curves_ = new ChoiceBox(kCurveSelectorName);
   QLineEdit* x_ = new QLineEdit;
-  DialogButton* calculate_ = new DialogButton(kCalculateCaption);
+  DialogButton* calculate_ = new DialogButton(kCalculateCaption, kCalculateHelp);
   LabelList* results_ = new LabelList(kGraphResultsName);
   QCheckBox* trace_ = new QCheckBox(ToQt(kTraceCaption));
-  DialogButton* save_ = new DialogButton(kSaveGraphCaption);
+  DialogButton* save_ = new DialogButton(kSaveGraphCaption, kSaveGraphHelp);
   DialogButton* close_ = new DialogButton(kCloseCaption);
   QVBoxLayout* body_ = new QVBoxLayout;
   BottomMenuBar* menuBar_ = new BottomMenuBar(this);
@@ -133,6 +134,7 @@ CGraphView::CGraphView(QWidget* parent, GraphInput input)
   curves_->KeepRoomFor({kBeginningOfCurve});
   curves_->setToolTip(curves_->currentText());
   x_->setAccessibleName(ToQt(kTracedXName));
+  Explain(*trace_, kTraceHelp);
   MakeMenu();
   MakeCopies();
   LayOut();

@@ -18,6 +18,7 @@
 #include "screens/widgets/field_door.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
+#include "screens/widgets/tool_tip.h"
 
 namespace kav {
 namespace {}  // namespace
@@ -30,8 +31,8 @@ CPlotterDlg::CPlotterDlg(Frame& frame)
       // Only typing changes a stored text: a field may show less than all of it.
       range_(this, [this](RangeField field,
                           std::u16string text) { model_.SetRangeText(field, std::move(text)); }),
-      grid_(NewOptionBox(kGridCaption, PlotterOption::Grid)),
-      line_(NewOptionBox(kLineCaption, PlotterOption::Line)) {
+      grid_(NewOptionBox(kGridCaption, kGridHelp, PlotterOption::Grid)),
+      line_(NewOptionBox(kLineCaption, kLineHelp, PlotterOption::Line)) {
   MakeList();
   AddKeys(SpotsOf(PlotterKeyRows()));
   OrderTabs();
@@ -43,8 +44,10 @@ CPlotterDlg::~CPlotterDlg() {
   model_.Save();
 }
 
-QCheckBox* CPlotterDlg::NewOptionBox(std::u16string_view caption, PlotterOption option) {
+QCheckBox* CPlotterDlg::NewOptionBox(std::u16string_view caption, std::u16string_view help,
+                                     PlotterOption option) {
   auto* box = new QCheckBox(ToQt(caption), this);
+  Explain(*box, help);
   box->setStyle(ScreenStyle());
   // Like a key, it leaves the caret where it is when it is tapped.
   box->setFocusPolicy(Qt::TabFocus);

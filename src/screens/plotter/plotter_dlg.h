@@ -31,7 +31,8 @@ class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
  private:
   void MakeList();
   void OrderTabs();
-  QCheckBox* NewOptionBox(std::u16string_view caption, PlotterOption option);
+  QCheckBox* NewOptionBox(std::u16string_view caption, std::u16string_view help,
+                          PlotterOption option);
 
   void OnKey(PlotterKey key) override;
   void OnEnter();

@@ -15,12 +15,14 @@
 #include "screens/widgets/field_door.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
+#include "screens/widgets/tool_tip.h"
 
 namespace kav {
 namespace {
 
-QCheckBox* NewBox(std::u16string_view caption, bool isOn) {
+QCheckBox* NewBox(std::u16string_view caption, std::u16string_view help, bool isOn) {
   auto* box = new QCheckBox(ToQt(caption));
+  Explain(*box, help);
   box->setChecked(isOn);
   box->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
   return box;
@@ -51,9 +53,9 @@ CPlotterOptionsDlg::CPlotterOptionsDlg(QWidget* parent, const PlotterOptions& op
     : Dialog(parent, kPlotterOptionsTitle),
       model_(options),
       accepted_(options),
-      grid_(NewBox(kGridCaption, model_.Options().hasGrid)),
-      line_(NewBox(kLineCaption, model_.Options().hasLines)),
-      coordinates_(NewBox(kCoordinatesCaption, model_.Options().hasCoordinates)) {
+      grid_(NewBox(kGridCaption, kGridHelp, model_.Options().hasGrid)),
+      line_(NewBox(kLineCaption, kLineHelp, model_.Options().hasLines)),
+      coordinates_(NewBox(kCoordinatesCaption, kCoordinatesHelp, model_.Options().hasCoordinates)) {
   auto* all = new QVBoxLayout(this);
   // The rows share the height, so that no part of the dialog is empty.
   QGridLayout* rows = NewFields();

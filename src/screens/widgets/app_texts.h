@@ -68,6 +68,7 @@ inline constexpr std::u16string_view kKeysEntry = u"&Keys";
 inline constexpr std::u16string_view kGuideTitle = u"Guide";
 inline constexpr std::u16string_view kGuidePagesName = u"Pages";
 inline constexpr std::u16string_view kBackCaption = u"Back";
+inline constexpr std::u16string_view kBackHelp = u"return to the place before";
 inline constexpr std::u16string_view kSearchCaption = u"Search";
 inline constexpr std::u16string_view kNotFound = u"not found";
 inline constexpr std::u16string_view kKeysTitle = u"Keys";

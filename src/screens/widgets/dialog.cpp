@@ -14,6 +14,7 @@
 #include "screens/widgets/look.h"
 #include "screens/widgets/pop_up.h"
 #include "screens/widgets/qt_text.h"
+#include "screens/widgets/tool_tip.h"
 
 namespace kav {
 namespace {
@@ -172,8 +173,10 @@ double Dialog::Excess() const {
   return std::max(static_cast<double>(needed.width()) / width(), high / (kGive * height()));
 }
 
-DialogButton::DialogButton(std::u16string_view caption) : QPushButton(ToQt(caption)) {
+DialogButton::DialogButton(std::u16string_view caption, std::u16string_view help)
+    : QPushButton(ToQt(caption)) {
   setAttribute(Qt::WA_Hover);
+  if (!help.empty()) Explain(*this, help);
 }
 
 QSize DialogButton::minimumSizeHint() const {

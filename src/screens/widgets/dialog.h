@@ -64,7 +64,8 @@ class Dialog : public QDialog {
 /// A button of a dialog, which looks like a key of the keypad.
 class DialogButton final : public QPushButton {
  public:
-  explicit DialogButton(std::u16string_view caption);
+  /// `help` says in a few words what it does; empty if the caption says all.
+  explicit DialogButton(std::u16string_view caption, std::u16string_view help = {});
 
   /// What the caption needs, with little room around it.
   QSize minimumSizeHint() const override;

@@ -54,7 +54,7 @@ class StoredListDlg : public Dialog {
 
   /// Each button of a row given to Start must have been added.
   void AddButton(EditorButton button, std::u16string_view caption, std::function<void()> onClick) {
-    auto* added = new DialogButton(caption);
+    auto* added = new DialogButton(caption, Model::HelpOf(button));
     connect(added, &QPushButton::clicked, this, std::move(onClick));
     buttons_[button] = added;
   }

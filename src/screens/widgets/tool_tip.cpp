@@ -1,12 +1,17 @@
 #include "screens/widgets/tool_tip.h"
 
+#include <QAbstractButton>
 #include <QFontMetrics>
+#include <QHelpEvent>
+#include <QMouseEvent>
 #include <QStringList>
 #include <QToolTip>
 #include <QWidget>
 
+#include "line/key_help.h"
 #include "screens/widgets/look.h"
 #include "screens/widgets/pop_up.h"
+#include "screens/widgets/qt_text.h"
 
 namespace kav {
 namespace {
@@ -36,7 +41,38 @@ QPalette TipPalette(const QWidget& widget) {
   return palette;
 }
 
+/// The tip of a button.
+class ButtonTip final : public QObject {
+ public:
+  ButtonTip(QAbstractButton& button, std::u16string_view description)
+      : QObject(&button), button_(button), description_(description) {
+    button.installEventFilter(this);
+  }
+
+ private:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Enter) isTouched_ = false;
+    if (event->type() == QEvent::MouseButtonPress) {
+      isTouched_ = static_cast<QMouseEvent*>(event)->source() != Qt::MouseEventNotSynthesized;
+    }
+    if (event->type() != QEvent::ToolTip) return false;
+    const std::u16string caption = button_.text().remove(u'&').toStdU16String();
+    const QString tip = ToQt(kav::TipOf(FaceText{caption, description_}, {}));
+    if (!isTouched_) ShowTip(button_, static_cast<QHelpEvent*>(event)->globalPos(), tip);
+    return true;
+  }
+
+  QAbstractButton& button_;
+  std::u16string description_;
+  bool isTouched_ = false;
+};
+
 }  // namespace
+
+void Explain(QAbstractButton& button, std::u16string_view description) {
+  button.setAccessibleDescription(ToQt(description));
+  new ButtonTip(button, description);
+}
 
 void ShowTip(QWidget& widget, QPoint place, const QString& text) {
   const QWidget& window = *widget.window();

@@ -3,7 +3,9 @@
 
 #include <QPoint>
 #include <QString>
+#include <string_view>
 
+class QAbstractButton;
 class QWidget;
 
 namespace kav {
@@ -11,5 +13,9 @@ namespace kav {
 /// Shows `text` near `place` of the desktop, as long as the mouse rests on `widget`: in lines that
 /// are no wider than the screen it belongs to.
 void ShowTip(QWidget& widget, QPoint place, const QString& text);
+
+/// Tells a mouse that rests on `button`, and screen readers, what it does, in a few words. A finger
+/// is told nothing.
+void Explain(QAbstractButton& button, std::u16string_view description);
 
 }  // namespace kav
