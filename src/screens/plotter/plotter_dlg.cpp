@@ -21,7 +21,6 @@
 #include "screens/widgets/tool_tip.h"
 
 namespace kav {
-namespace {}  // namespace
 
 CPlotterDlg::CPlotterDlg(Frame& frame)
     : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight)),
