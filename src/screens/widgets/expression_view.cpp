@@ -106,8 +106,11 @@ void ExpressionView::Mark() {
   // As an input method marks what it composes; its places count from the caret.
   QList<QInputMethodEvent::Attribute> attributes;
   for (const MarkedPart& part : marked_) {
-    attributes.append({QInputMethodEvent::TextFormat, part.start - cursorPosition(), part.length,
-                       FormatOf(part.mark, palette())});
+    QTextCharFormat format = FormatOf(part.mark, palette());
+    // Within a selection a second one would stand over the feet of the letters.
+    if (HasWave()) format.setUnderlineStyle(QTextCharFormat::NoUnderline);
+    attributes.append(
+        {QInputMethodEvent::TextFormat, part.start - cursorPosition(), part.length, format});
   }
   QInputMethodEvent marks(QString(), attributes);
   LineView::inputMethodEvent(&marks);
@@ -142,9 +145,13 @@ void ExpressionView::paintEvent(QPaintEvent* event) {
   }
 }
 
+bool ExpressionView::HasWave() const {
+  return text().size() <= kMostMeasured;
+}
+
 /// Below the letters, where also a selection does not reach.
 void ExpressionView::PaintWave(const MarkedPart& part) {
-  if (text().size() > kMostMeasured) return;
+  if (!HasWave()) return;
   QTextLayout letters(text(), font());
   letters.beginLayout();
   const QTextLine line = letters.createLine();

@@ -39,6 +39,8 @@ class ExpressionView final : public LineView {
   void PlaceLive();
   void Mark();
   void PaintEllipses();
+  /// Whether the wave of a failure is painted: the places of very long texts take too long to find.
+  bool HasWave() const;
   void PaintWave(const MarkedPart& part);
   int TextWidth(int pixels) const;
 
