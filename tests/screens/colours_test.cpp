@@ -210,5 +210,17 @@ TEST(Colours, ATouchedOrHeldKeyCanStillBeRead) {
   UseColours(ColourChoice::Light);
 }
 
+TEST(Colours, AKeyThatIsOfNoUseIsReadInStrongColours) {
+  QPushButton key;
+  key.setEnabled(false);
+  UseColours(ColourChoice::HighContrast);
+  Wear(key, Attire::Window);
+  const KeyColours now =
+      ColoursNow(key, {ColourNow(Colour::EqualsKey), ColourNow(Colour::EqualsKeyText)});
+  EXPECT_GE(ContrastBetween(now.background, now.text), kStrong);
+  EXPECT_NE(now.text, ColourNow(Colour::FunctionKeyText));
+  UseColours(ColourChoice::Light);
+}
+
 }  // namespace
 }  // namespace kav::colours_test

@@ -28,6 +28,9 @@ QColor EdgeOf(const QColor& background) {
 
 KeyColours ColoursNow(const QAbstractButton& key, const KeyColours& colours) {
   const auto& [background, text] = colours;
+  if (!key.isEnabled() && HasStrongEdges(SchemeNow())) {
+    return {key.palette().color(QPalette::Window), ColourNow(Colour::DisabledText)};
+  }
   if (!key.isEnabled()) {
     const QColor body = key.palette().color(QPalette::Window);
     return {Mixed(background, body, 0.35), Mixed(text, body, 0.35)};
