@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QListView>
+#include <QScrollBar>
 #include <string>
 #include <string_view>
 
@@ -341,6 +342,13 @@ TEST_F(PastPanelTest, ScreenReadersFindRowsAndNames) {
   EXPECT_EQ(line->text(QAccessible::Description), "Insert the line (Enter)");
   line->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   EXPECT_TRUE(QTest::qWaitFor([this] { return Line() == u"FF|"; }));
+}
+
+TEST_F(PastPanelTest, TheScrollBarGrowsWithTheLetters) {
+  Open(QSize(1080, 1440));
+  ControlH();
+  // A finger is as wide on a large screen: the bar takes 0.8 of a line there too.
+  EXPECT_GE(List().verticalScrollBar()->sizeHint().width(), List().fontMetrics().height() * 8 / 10);
 }
 
 TEST_F(PastPanelTest, TipsShowLongTextsInFull) {

@@ -124,6 +124,7 @@ QVariant PastRows::data(const QModelIndex& index, int role) const {
 PastRowsView::PastRowsView(PastRows& rows, Choose choose)
     : rows_(rows), choose_(std::move(choose)) {
   setStyle(ScreenStyle());
+  verticalScrollBar()->setStyle(ScreenStyle());
   setAccessibleName(ToQt(kPastLinesName));
   setModel(&rows);
   setItemDelegate(new PastRowPainter(this));
