@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QHelpEvent>
+#include <QLineEdit>
+#include <QMenuBar>
 #include <QTableWidget>
 #include <QToolTip>
 #include <functional>
@@ -13,6 +15,8 @@
 #include "app/frame_window.h"
 #include "screens/box_watch.h"
 #include "screens/screen_driver.h"
+#include "screens/widgets/app_events.h"
+#include "screens/widgets/colour_scheme.h"
 
 namespace kav::test::keys_dlg_test {
 namespace {
@@ -57,6 +61,31 @@ TEST_F(KeysDlgTest, TipsHaveTheLettersOfTheScreenAndNoLineThatIsWiderThanIt) {
     for (const QString& line : QToolTip::text().split('\n')) {
       EXPECT_LE(QFontMetrics(QToolTip::font()).horizontalAdvance(line), size.width());
     }
+  }
+}
+
+TEST_F(KeysDlgTest, TipsOfFieldsAreLikeThoseOfKeys) {
+  const AppEvents events;
+  const auto tipOf = [](QWidget& widget) {
+    QToolTip::hideText();
+    QHelpEvent event(QEvent::ToolTip, {1, 1}, widget.mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(&widget, &event);
+    return QToolTip::text();
+  };
+  QLineEdit& result = Result(*dlg_);
+  const QString digits(100, u'8');
+  result.setToolTip(digits);
+  for (const QSize size : {QSize(240, 320), QSize(1080, 1440)}) {
+    dlg_->resize(size);
+    const QFont letters = dlg_->findChild<QMenuBar*>()->font();
+    const QString tip = tipOf(result);
+    EXPECT_EQ(QToolTip::font(), letters);
+    for (const QString& line : tip.split(u'\n')) {
+      EXPECT_LE(QFontMetrics(letters).horizontalAdvance(line), size.width());
+    }
+    EXPECT_EQ(QString(tip).remove(u'\n'), digits);
+    tipOf(KeyOf(u"DEC"));
+    EXPECT_EQ(QToolTip::palette().color(QPalette::ToolTipBase), ColourNow(Colour::ToolTipBase));
   }
 }
 

@@ -1,6 +1,7 @@
 #include "screens/widgets/app_events.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -9,6 +10,7 @@
 #include "screens/widgets/look.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/pop_up.h"
+#include "screens/widgets/tool_tip.h"
 #include "screens/widgets/word_selection.h"
 
 namespace kav {
@@ -83,6 +85,8 @@ bool AppEvents::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::ThemeChange:
       if (watched == qApp) FollowDesktop();
       return false;
+    case QEvent::ToolTip:
+      return AnswerTip(*watched, *static_cast<QHelpEvent*>(event));
     case QEvent::Polish:
       Dress(watched);
       return false;

@@ -40,12 +40,11 @@ QMenu* NewPopUp(QWidget* owner, const QFont& font) {
 
 QString TipOf(std::u16string_view text) {
   constexpr qsizetype kLongestTip = 2400;
-  constexpr qsizetype kLongestLine = 60;
   const QString shown = ToQt(text.substr(0, kLongestTip));
   QStringList lines;
   for (const QString& line : shown.split(u'\n')) {
-    for (qsizetype at = 0; at == 0 || at < line.size(); at += kLongestLine) {
-      lines.append(line.mid(at, kLongestLine).toHtmlEscaped());
+    for (qsizetype at = 0; at == 0 || at < line.size(); at += kLongestTipLine) {
+      lines.append(line.mid(at, kLongestTipLine).toHtmlEscaped());
     }
   }
   if (shown.size() < static_cast<qsizetype>(text.size())) lines.last() += u'…';

@@ -18,6 +18,9 @@ struct MenuPlace;
 /// deleted when it is closed.
 QMenu* NewPopUp(QWidget* owner, const QFont& font);
 
+/// The characters of a line of a tip, at most.
+inline constexpr int kLongestTipLine = 60;
+
 /// `text`, with its line breaks, as a tip shows it as a whole: in lines that a screen has room for,
 /// and nothing in it is markup. Of a text that would fill the desktop, the beginning.
 QString TipOf(std::u16string_view text);

@@ -6,6 +6,8 @@
 #include <string_view>
 
 class QAbstractButton;
+class QHelpEvent;
+class QObject;
 class QWidget;
 
 namespace kav {
@@ -17,5 +19,9 @@ void ShowTip(QWidget& widget, QPoint place, const QString& text);
 /// Tells a mouse that rests on `button`, and screen readers, what it does, in a few words. A finger
 /// is told nothing.
 void Explain(QAbstractButton& button, std::u16string_view description);
+
+/// Shows the tip that `watched` has as a property, in this way. Else the widget itself is to answer
+/// `event`, in letters at which the longest line of TipOf has room on the desktop.
+bool AnswerTip(QObject& watched, const QHelpEvent& event);
 
 }  // namespace kav
