@@ -73,7 +73,15 @@ TEST_F(StatisticsFilesTest, TheDialogsLieOverTheScreenAndShowAllTheyHave) {
       }
     }
     EXPECT_NE(FindKey(dialog, u"Cancel"), nullptr);
-    EXPECT_EQ(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), "");
+    const auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+    EXPECT_EQ(name->text(), "");
+    // It ends where the list above it does, and takes what its label leaves.
+    const auto* files = dialog.findChild<QWidget*>("treeView");
+    const auto rightOf = [&dialog](const QWidget& part) {
+      return part.mapTo(&dialog, part.rect().topRight()).x();
+    };
+    EXPECT_NEAR(rightOf(*name), rightOf(*files), 1);
+    EXPECT_GT(name->width(), dialog.width() / 2);
     EXPECT_TRUE(dynamic_cast<QFileDialog&>(dialog).directory().exists());
     dialog.reject();
   };

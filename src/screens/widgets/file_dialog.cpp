@@ -37,9 +37,26 @@ void WidenFolderRow(QGridLayout& parts) {
   parts.addItem(row, 0, kLabelColumn, 1, parts.columnCount());
 }
 
+/// Has `field` end where the list above it does, over a column that is empty.
+void WidenField(QGridLayout& parts, QWidget* field) {
+  const int index = field != nullptr ? parts.indexOf(field) : -1;
+  if (index < 0) return;
+  int row = 0;
+  int column = 0;
+  int rows = 0;
+  int columns = 0;
+  parts.getItemPosition(index, &row, &column, &rows, &columns);
+  parts.removeWidget(field);
+  parts.addWidget(field, row, column, rows, parts.columnCount() - column);
+  parts.setColumnStretch(column, 1);
+}
+
 /// Puts the buttons below the fields instead of beside them.
 void MoveButtonsBelow(QGridLayout& parts, QDialogButtonBox& buttons) {
   parts.removeWidget(&buttons);
+  for (const char* name : {"fileNameEdit", "fileTypeCombo"}) {
+    WidenField(parts, parts.parentWidget()->findChild<QWidget*>(name));
+  }
   buttons.setOrientation(Qt::Horizontal);
   parts.addWidget(&buttons, parts.rowCount(), 0, 1, parts.columnCount());
 }
