@@ -4,14 +4,21 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QGroupBox>
+#include <QImage>
 #include <QMenu>
+#include <QPainter>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionTab>
+#include <QTableWidget>
 #include <algorithm>
 #include <cstdlib>
 #include <vector>
 
 #include "screens/test_fonts.h"
 #include "screens/widgets/colour_scheme.h"
+#include "screens/widgets/line_view.h"
 
 namespace kav::look_test {
 namespace {
@@ -112,6 +119,113 @@ TEST(Look, AMenuWithoutTicksKeepsNoRoomForThem) {
   const int plain = widthOf([](QAction&) {});
   EXPECT_LE(plain + 20, widthOf([](QAction& entry) { entry.setCheckable(true); }));
   EXPECT_GE(plain, QFontMetricsF(ScreenFont(40)).horizontalAdvance("Memory Recall") + 20);
+}
+
+TEST(Look, AMenuHasOneColumnForShortcuts) {
+  const auto widthOf = [](const QKeySequence& shortcut) {
+    QMenu menu;
+    menu.setStyle(ScreenStyle());
+    menu.setFont(ScreenFont(40));
+    menu.addAction("Copy Line and Result")->setShortcut(shortcut);
+    return menu.sizeHint().width();
+  };
+  const QKeySequence shortcut("Ctrl+Shift+C");
+  const int column = QFontMetrics(ScreenFont(40)).horizontalAdvance(shortcut.toString());
+  const int added = widthOf(shortcut) - widthOf({});
+  EXPECT_GE(added, column);
+  EXPECT_LT(added, column * 3 / 2);
+}
+
+/// How many pixels of `picture` in `part` have the colour `what` now.
+int Count(const QImage& picture, const QRect& part, Colour what) {
+  const QRgb wanted = ColourNow(what).rgb();
+  int count = 0;
+  for (int y = part.top(); y <= part.bottom(); ++y) {
+    for (int x = part.left(); x <= part.right(); ++x) count += picture.pixel(x, y) == wanted;
+  }
+  return count;
+}
+
+/// In the colours of each scheme that a user can choose; gives back those that all tests have.
+class LookIn : public testing::TestWithParam<ColourChoice> {
+ protected:
+  LookIn() { UseColours(GetParam()); }
+  ~LookIn() override { UseColours(ColourChoice::Light); }
+};
+INSTANTIATE_TEST_SUITE_P(Choices, LookIn,
+                         testing::Values(ColourChoice::Light, ColourChoice::Dark,
+                                         ColourChoice::HighContrast));
+
+TEST_P(LookIn, AnEntryThatIsOfNoUseIsToldFromTheOthers) {
+  QMenu menu;
+  menu.setStyle(ScreenStyle());
+  menu.setFont(ScreenFont(40));
+  Wear(menu, Attire::Window);
+  QAction* of = menu.addAction("Undo");
+  QAction* no = menu.addAction("Redo");
+  no->setEnabled(false);
+  menu.resize(menu.sizeHint());
+  const auto letters = [&](QAction* entry, Colour colour) {
+    // Without the frame of the menu, which may be as black as letters.
+    const QRect place = menu.actionGeometry(entry).adjusted(2, 2, -2, -2);
+    return Count(menu.grab().toImage(), place, colour);
+  };
+  EXPECT_GT(letters(of, Colour::Text), 20);
+  EXPECT_GT(letters(no, Colour::DisabledText), 20);
+  EXPECT_EQ(letters(no, Colour::Text), 0);
+}
+
+TEST_P(LookIn, LinesBetweenTheRowsOfATableAreSeen) {
+  QTableWidget table(2, 1);
+  table.setStyle(ScreenStyle());
+  Wear(table, Attire::Window);
+  table.resize(200, 200);
+  const QImage picture = table.viewport()->grab().toImage();
+  const int line = table.rowViewportPosition(1) - 1;
+  const QColor seen = picture.pixelColor(10, line);
+  // As well as the lines of the matrix, which are 1.6 on white.
+  EXPECT_GE(ContrastBetween(seen, ColourNow(Colour::Base)), 1.5);
+}
+
+TEST_P(LookIn, TheFrameOfAGroupStandsBelowItsTitle) {
+  QGroupBox group("Title");
+  group.setStyle(ScreenStyle());
+  group.setFont(ScreenFont(20));
+  Wear(group, Attire::Window);
+  group.resize(200, 200);
+  const QImage picture = group.grab().toImage();
+  const int title = QFontMetrics(group.font()).height();
+  EXPECT_EQ(Count(picture, QRect(100, 0, 100, title), Colour::Window), 100 * title);
+}
+
+TEST_P(LookIn, ATabShowsThatItHasTheKeyboard) {
+  QStyleOptionTab tab;
+  tab.rect = QRect(0, 0, 100, 40);
+  tab.palette = ScreenPalette();
+  tab.state = QStyle::State_Enabled | QStyle::State_Selected;
+  const auto draw = [&tab] {
+    QImage picture(100, 40, QImage::Format_RGB32);
+    picture.fill(ColourNow(Colour::Window));
+    QPainter painter(&picture);
+    ScreenStyle()->drawControl(QStyle::CE_TabBarTabShape, &tab, &painter);
+    return Count(picture, picture.rect(), Colour::Highlight);
+  };
+  EXPECT_EQ(draw(), 0);
+  tab.state |= QStyle::State_HasFocus;
+  // In light colours the desktop marks its text.
+  if (GetParam() == ColourChoice::Light) return;
+  EXPECT_GT(draw(), 100);
+}
+
+TEST(Look, ALineAsWideAsAWindowHasTheCornersOfAKey) {
+  LineView line(nullptr);
+  Wear(line, Attire::Window);
+  const auto corner = [&line](int width) {
+    line.resize(width, 40);
+    return line.grab().toImage().pixelColor(6, 4);
+  };
+  EXPECT_EQ(corner(340), ColourNow(Colour::Base));
+  EXPECT_EQ(corner(1280), ColourNow(Colour::Base));
 }
 
 TEST(Look, TheArrowsOfAScrollBarGrowWithTheLetters) {

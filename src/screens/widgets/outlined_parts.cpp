@@ -2,10 +2,12 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
 #include <QStyleOption>
 #include <algorithm>
 
 #include "screens/widgets/colour_scheme.h"
+#include "screens/widgets/look.h"
 
 namespace kav {
 namespace {
@@ -24,6 +26,15 @@ void DrawFrame(const QStyleOption& option, QPainter& painter) {
   painter.setPen(option.palette.color(QPalette::Mid));
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+}
+
+/// Below the title, where also the desktop's own frame begins.
+void DrawGroupFrame(const QStyleOption& option, QPainter& painter) {
+  constexpr int kBelowTitle = 3;
+  const int mark = ScreenStyle()->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight, &option);
+  QStyleOption frame = option;
+  frame.rect.setTop(option.rect.top() + std::max(mark, option.fontMetrics.height()) + kBelowTitle);
+  DrawFrame(frame, painter);
 }
 
 void DrawMenuPanel(const QStyleOption& option, QPainter& painter) {
@@ -72,7 +83,9 @@ void DrawTab(const QStyleOption& option, QPainter& painter) {
   const bool isChosen = option.state.testFlag(QStyle::State_Selected);
   const int line = isChosen ? static_cast<int>(2 * LineBy(option.fontMetrics.height())) : 1;
   painter.fillRect(option.rect, option.palette.color(isChosen ? QPalette::Base : QPalette::Button));
-  const auto edge = isChosen ? QPalette::Text : QPalette::Mid;
+  const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
+  const auto chosen = hasFocus ? QPalette::Highlight : QPalette::Text;
+  const auto edge = isChosen ? chosen : QPalette::Mid;
   painter.setPen(
       QPen(option.palette.color(edge), line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
   painter.setBrush(Qt::NoBrush);
@@ -91,8 +104,9 @@ using Draw = void (*)(const QStyleOption&, QPainter&);
 Draw DrawingOf(QStyle::PrimitiveElement element) {
   switch (element) {
     case QStyle::PE_Frame:
-    case QStyle::PE_FrameGroupBox:
       return DrawFrame;
+    case QStyle::PE_FrameGroupBox:
+      return DrawGroupFrame;
     case QStyle::PE_PanelMenu:
       return DrawMenuPanel;
     case QStyle::PE_IndicatorCheckBox:

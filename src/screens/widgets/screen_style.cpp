@@ -110,11 +110,21 @@ class TextMeasuredStyle final : public QProxyStyle {
     if (type == CT_ComboBox) return size + QSize(2 * text, text / 2);
     if (type == CT_LineEdit) return size + QSize(text / 2, text / 2);
     if (type == CT_PushButton) return size + QSize(text, text / 2);
-    const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
-    if (type != CT_MenuItem) return usual;
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (type == CT_MenuItem && entry != nullptr) return EntrySize(*entry, size, widget);
+    return QProxyStyle::sizeFromContents(type, option, size, widget);
+  }
+
+  QSize EntrySize(const QStyleOptionMenuItem& entry, const QSize& size,
+                  const QWidget* widget) const {
+    // The menu itself adds the column of the shortcuts, and so it would be there twice.
+    QStyleOptionMenuItem alone = entry;
+    alone.reservedShortcutWidth = 0;
+    const QSize usual = QProxyStyle::sizeFromContents(CT_MenuItem, &alone, size, widget);
+    const int text = entry.fontMetrics.height();
     // The column for ticks is drawn as wide as an entry is high, but counted with fewer pixels.
-    const QSize entry = usual + QSize(text, text / 4);
-    return entry - QSize(UnusedColumn(option, entry.height()), 0);
+    const QSize all = usual + QSize(text, text / 4);
+    return all - QSize(UnusedColumn(&entry, all.height()), 0);
   }
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -187,6 +197,12 @@ class TextMeasuredStyle final : public QProxyStyle {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     // With a bar to scroll it by: the arrows of a menu are too small for fingers.
     if (hint == SH_ComboBox_Popup) return 0;
+    // A light shadow makes texts on dark paper stand out rather than back.
+    if (hint == SH_EtchDisabledText) return 0;
+    // The desktop's own are darker than a window, and not to be seen on dark paper.
+    if (hint == SH_Table_GridLineColor && SchemeNow() != ColourScheme::Light) {
+      return static_cast<int>(ColourNow(Colour::GridLine).rgba());
+    }
     return QProxyStyle::styleHint(hint, option, widget, result);
   }
 
@@ -215,15 +231,15 @@ class TextMeasuredStyle final : public QProxyStyle {
 
   void DrawEntry(const QStyleOption* option, QPainter* painter, const QWidget* widget) const {
     const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-    const int unused = UnusedColumn(option, option->rect.height());
-    if (entry == nullptr || unused == 0) {
-      return QProxyStyle::drawControl(CE_MenuItem, option, painter, widget);
+    if (entry == nullptr) return QProxyStyle::drawControl(CE_MenuItem, option, painter, widget);
+    QStyleOptionMenuItem shown = *entry;
+    shown.rect.adjust(-UnusedColumn(option, option->rect.height()), 0, 0, 0);
+    if (!entry->state.testFlag(State_Enabled)) {
+      shown.palette.setColor(QPalette::Text, ColourNow(Colour::DisabledText));
     }
-    QStyleOptionMenuItem shifted = *entry;
-    shifted.rect.adjust(-unused, 0, 0, 0);
     painter->save();
     painter->setClipRect(option->rect);
-    QProxyStyle::drawControl(CE_MenuItem, &shifted, painter, widget);
+    QProxyStyle::drawControl(CE_MenuItem, &shown, painter, widget);
     painter->restore();
   }
 
