@@ -70,7 +70,8 @@ focus() {
 }
 
 # take NAME WIDTHxHEIGHT BASE DEED...: takes one picture, in the base numbered BASE, after the deeds. A
-# deed is a text to type, keys to press as in press:alt+s, or a dialog to choose as in focus:Constants.
+# deed is a text to type, keys to press as in press:alt+s, a key to hold as in down:ctrl, a place to rest
+# the mouse or hold its button at as in hover:9 9 and hold:9 9, or a dialog to choose as in focus:Constants.
 # $config may have further settings of the first section, $colours the number of a colour scheme, $suffix
 # what the name of the picture ends with, and $only a pattern of the names of those to take. After
 # focus:screen the picture is of the display, with all windows that are open.
@@ -94,6 +95,11 @@ take() {
         at=${deed#hover:}
         xdotool mousemove "${at% *}" "${at#* }" sleep 0.2 mousemove_relative 2 2 sleep 1
         ;;
+      hold:*)
+        at=${deed#hold:}
+        xdotool mousemove "${at% *}" "${at#* }" mousedown 1
+        ;;
+      down:*) xdotool keydown "${deed#down:}" sleep 0.6 ;;
       focus:*) focus "${deed#focus:}" ;;
       *) xdotool type "$deed" ;;
     esac
@@ -105,6 +111,7 @@ take() {
   [ "$window" != root ] || area=${size%x*}x$((${size#*x} * 3 / 2))
   import -window "$window" -crop "${area:-$size}+0+0" +repage -define png:exclude-chunks=date,time \
     "$folder$name-$size${suffix-}.png"
+  xdotool keyup ctrl mouseup 1
   kill "$calculator"
   wait "$calculator" || true
 }
@@ -151,7 +158,8 @@ take_views() {
 
 # What opens over the screens, and the dialogs that the guides do not show, at one size.
 take_the_rest() {
-  local size=$1 values
+  local size=$1 values key
+  key="$((${size#*x} * 6 / 100)) $((${size#*x} * 54 / 100))"
   take file-menu "$size" 1 press:alt+f press:Down focus:screen
   take edit-menu "$size" 1 '1+2' press:alt+e press:Down focus:screen
   take mode-menu "$size" 1 press:alt+m press:Down focus:screen
@@ -170,11 +178,30 @@ take_the_rest() {
   config='"Mode" = 3' take file-to-open "$size" 1 press:ctrl+o focus:screen
   config='"Mode" = 2' take plotter-options "$size" 1 press:ctrl+Return focus:Graph press:alt+g press:Up \
     press:Return focus:screen
-  take guide "$size" 1 press:F1 focus:screen
+  take guide "$size" 1 press:F1 focus:Guide
   take keys "$size" 1 press:alt+h press:Down press:Return focus:screen
   take history "$size" 1 '1+2=' press:ctrl+h focus:screen
+  take history-rows "$size" 1 '1+2=' press:ctrl+h press:Tab press:Tab focus:screen
   take live-result "$size" 1 '2*3+(4' focus:screen
   take fault "$size" 1 '2*(3+=' focus:screen
+  take mend "$size" 1 '2*(3+4=' focus:screen
+  take commas "$size" 1 '1,5+2=' focus:screen
+  take shortcuts "$size" 1 down:ctrl focus:screen
+  take focused-key "$size" 1 press:Tab press:Tab press:Down press:Right focus:screen
+  take hovered-key "$size" 1 "hover:$key" focus:screen
+  take held-key "$size" 1 "hold:$key" focus:screen
+  take focused-box "$size" 1 press:alt+f press:c 'focus:Display Settings' press:Tab press:Tab
+  take macro-arguments "$size" 1 press:alt+a 'focus:Macro List' press:Down press:Return focus:screen
+  config='"Mode" = 2' take graph-menu "$size" 1 press:ctrl+Return focus:Graph press:alt+g press:Down focus:screen
+  config='"Mode" = 2' take graph-reading "$size" 1 press:ctrl+Return focus:Graph press:Right press:Right
+  config='"Mode" = 3' take file-to-save "$size" 1 "${values[@]}" press:ctrl+s focus:screen
+  config='"Mode" = 3' take selected-rows "$size" 1 "${values[@]}" press:Tab press:Tab press:Down
+  config='"Mode" = 3' take rows-menu "$size" 1 "${values[@]}" press:Tab press:Tab press:Down press:Menu \
+    focus:screen
+  config='"Mode" = 5' take matrix-selection "$size" 1 press:Tab press:Tab press:Tab press:ctrl+a
+  config='"Mode" = 5' take matrix-size "$size" 1 press:alt+s focus:screen
+  config='"Mode" = 5' take matrix-menu "$size" 1 press:alt+o press:Down focus:screen
+  config='"Mode" = 5' take matrix-history "$size" 1 '1+2=' press:ctrl+h focus:screen
   config='"Mode" = 5' take matrix-error "$size" 1 press:Tab press:Tab press:Tab $'x+\t2' focus:screen
 }
 
