@@ -195,6 +195,20 @@ TEST_F(OfferStripTest, GrowsWithTheScreen) {
   EXPECT_NEAR(strip_.height(), 2 * low, 2);
 }
 
+TEST_F(OfferStripTest, NoEdgeOfAKeyLooksOutFromUnderIt) {
+  const auto bottom = [this](int keys) {
+    QPushButton key(&screen_);
+    key.setGeometry(10, 50, 100, keys - 50);
+    key.show();
+    Ask();
+    return strip_.geometry().bottom();
+  };
+  const int usual = bottom(51);
+  EXPECT_EQ(bottom(usual + 4), usual + 3);
+  // Of a key that is only half below it, the other half is seen.
+  EXPECT_EQ(bottom(usual + 40), usual);
+}
+
 TEST_F(OfferStripTest, ScreenReadersFindAnAlertWithItsQuestion) {
   QAccessibleInterface* part = QAccessible::queryAccessibleInterface(&strip_);
   ASSERT_NE(part, nullptr);

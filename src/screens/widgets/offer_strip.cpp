@@ -23,6 +23,8 @@ namespace {
 // By the height of the letters.
 constexpr double kStripHeight = 2;
 constexpr double kGap = 0.4;
+/// Of a key, what is not left to be seen below it.
+constexpr double kRest = 0.25;
 constexpr double kBesideCaption = 1;  ///< what a button takes besides its caption
 
 /// Letters get lower by this share at most before texts are cut.
@@ -277,7 +279,24 @@ QRect OfferStrip::PlaceFor(QSize size) const {
   int top = field.bottom() + 1;
   if (top + size.height() > screen.height()) top = field.top() - size.height();
   if (top < 0) top = std::max(screen.height() - size.height(), 0);
-  return {QPoint(left, top), size};
+  const QRect place(QPoint(left, top), size);
+  return top > field.top() ? WithRests(place) : place;
+}
+
+/// `place`, and the lower edges of keys that would look out from under it.
+QRect OfferStrip::WithRests(const QRect& place) const {
+  int bottom = place.bottom();
+  for (const auto* key : parentWidget()->findChildren<QAbstractButton*>()) {
+    if (!key->isVisible() || isAncestorOf(key)) continue;
+    const QRect area(key->mapTo(parentWidget(), QPoint()), key->size());
+    const int rest = area.bottom() - place.bottom();
+    if (area.intersects(place) && rest > 0 && rest < kRest * area.height()) {
+      bottom = std::max(bottom, area.bottom());
+    }
+  }
+  QRect all = place;
+  all.setBottom(bottom);
+  return all;
 }
 
 void OfferStrip::LayOut() {
@@ -289,7 +308,7 @@ void OfferStrip::LayOut() {
   const int height = qRound(kStripHeight * most);
   const int width = std::min(std::max(NeededWidth(pixels), field_->width()), screen.width());
   setGeometry(PlaceFor({width, height}));
-  LayOutParts(pixels, width, height);
+  LayOutParts(pixels, width, this->height());
 }
 
 void OfferStrip::LayOutParts(int pixels, int room, int height) {

@@ -63,6 +63,7 @@ class OfferStrip final : public QWidget {
   void LayOutParts(int pixels, int room, int height);
   int NeededWidth(int pixels) const;
   QRect PlaceFor(QSize size) const;
+  QRect WithRests(const QRect& place) const;
 
   QLabel* label_;
   QPushButton* close_;
