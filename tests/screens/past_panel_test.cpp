@@ -369,5 +369,16 @@ TEST_F(PastPanelTest, TipsShowLongTextsInFull) {
   Key(Qt::Key_Escape);
 }
 
+TEST_F(PastPanelTest, AWindowThatBecomesNarrowTakesTheKeyboardBackToTheLine) {
+  Keep("1+1", "2");
+  Open(kWide);
+  Search().setFocus();
+  dlg_->resize(360, 560);
+  QTest::qWait(0);
+  EXPECT_FALSE(IsShown());
+  EXPECT_TRUE(LineHasFocus());
+  EXPECT_EQ(dlg_->findChild<QMenuBar*>()->activeAction(), nullptr);
+}
+
 }  // namespace
 }  // namespace kav::test::past_panel_test

@@ -69,10 +69,17 @@ void PastSide::LayOut(const QRect& keys, int pixels) {
 }
 
 void PastSide::Place() {
-  const bool isShown = IsBeside() || isOver_;
-  if (isShown) panel_->LayOut(isOver_ ? keys_ : PanelPart(), pixels_);
-  panel_->setVisible(isShown);
-  if (isShown) panel_->raise();
+  if (!IsBeside() && !isOver_) return Hide();
+  panel_->LayOut(isOver_ ? keys_ : PanelPart(), pixels_);
+  panel_->show();
+  panel_->raise();
+}
+
+void PastSide::Hide() {
+  // Before the panel goes with the keyboard, which would go anywhere.
+  const QWidget* focus = screen_.focusWidget();
+  if (focus != nullptr && panel_->isAncestorOf(focus)) hooks_.leave();
+  panel_->hide();
 }
 
 void PastSide::Painted() {
@@ -129,10 +136,9 @@ void PastSide::Show() {
 void PastSide::Close() {
   const bool wasOver = std::exchange(isOver_, false);
   if (!wasOver) SetWanted(false);
-  // Before the panel goes with the keyboard, which would go anywhere.
   if (wasOver) hooks_.uncover();
   hooks_.leave();
-  panel_->hide();
+  Hide();
   if (!wasOver) hooks_.layOut();
 }
 

@@ -65,6 +65,7 @@ class PastSide final : public QObject {
   void Close();
   void MakePanel();
   void Place();
+  void Hide();
   void Take(const PastLine& past, PastPart part);
   void SetWanted(bool wanted);
 
