@@ -1,6 +1,8 @@
 // The statistics screens used by keyboard and by their Edit menu, and their memory variables.
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+
 #include "screens/offer_driver.h"
 #include "screens/statistics_driver.h"
 
@@ -291,6 +293,23 @@ TEST_F(StatisticsKeyboardTest, NumbersOfOtherSpellingBecomeRows) {
   EXPECT_EQ(Rows(), "1.5 2;1234 2");
   PasteIntoList("−1\u202F234\t５\n1'000\t3\n");
   EXPECT_EQ(Rows(), "-1234 5;1000 3;1.5 2;1234 2");
+}
+
+TEST_F(StatisticsKeyboardTest, CtrlCWithoutASelectionCopiesTheResult) {
+  AddRows("1000;2000");
+  Tap(u"ΣX");
+  EXPECT_EQ(Answer(), u"3,000");
+  Type("7");
+  QWidget* const key = FindKey(*dlg_, u"ΣX");
+  for (QWidget* from : {static_cast<QWidget*>(&Result(*dlg_)), key}) {
+    QGuiApplication::clipboard()->setText("old");
+    from->setFocus();
+    Key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "3000");
+  }
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "7");
 }
 
 }  // namespace

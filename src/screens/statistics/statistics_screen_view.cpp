@@ -76,7 +76,7 @@ StatisticsScreen::StatisticsScreen(Frame& frame, ScreenMode mode,
   table_->installEventFilter(this);
   SetTableHooks();
   result_->setAccessibleName(ToQt(kResultName));
-  new ResultUses(result_, [this] { return CopiedResult(); });
+  uses_ = new ResultUses(result_, [this] { return CopiedResult(); });
   AddKeys(SpotsOf(StatisticsKeyRows(model_->Shape())));
   AddMenus(mode, DisplayPage::Normal, [this] { model_->TakeDisplaySettings(); });
   StatisticsScreen::Refresh();
@@ -304,6 +304,8 @@ bool StatisticsScreen::OnFieldKey(const QKeyEvent& event) {
     OnKey(model_->IsEditing() ? StatisticsKey::Ok : StatisticsKey::Add);
     return true;
   }
+  const bool copies = event.matches(QKeySequence::Copy);
+  if (copies && !fields_.Line(model_->FocusedField()).hasSelectedText()) return uses_->Copy();
   // A disabled key does not take its Alt shortcut, and the field would insert the letter.
   return event.modifiers() == Qt::AltModifier;
 }

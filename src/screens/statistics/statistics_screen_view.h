@@ -19,6 +19,8 @@
 
 namespace kav {
 
+class ResultUses;
+
 /// Enter in a field presses "Add". While a row is edited, Enter presses "Ok" and Esc "Cancel".
 /// Typing goes to the field that had the focus last, unless the focused widget has a use for the
 /// key. The Edit menu works on that field, or on the selection in the result if there is one; the
@@ -85,6 +87,7 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   DataFieldsView fields_;
   DataTableView* table_;
   ResultView* result_;
+  ResultUses* uses_ = nullptr;
   unsigned shown_;  ///< the revision of the list that the table shows
 };
 
