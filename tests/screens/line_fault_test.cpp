@@ -8,6 +8,7 @@
 
 #include "line/keypad.h"
 #include "screens/screen_driver.h"
+#include "screens/widgets/field_door.h"
 #include "screens/widgets/line_screen.h"
 #include "screens/widgets/offer_strip.h"
 
@@ -149,6 +150,20 @@ TEST_F(LineFaultTest, WithoutAMendOnlyThePlaceIsMarked) {
   screen_.ShowFault(LineFault{TextPlace{0, 1}, std::nullopt});
   EXPECT_FALSE(IsOffered());
   EXPECT_NE(Expression(screen_).grab().toImage(), without);
+}
+
+TEST_F(LineFaultTest, AnotherQuestionStandsBelowTheLineAgain) {
+  PutLine(screen_, u"1,5|");
+  ASSERT_TRUE(AsksFirst(Expression(screen_), [] {}));
+  EXPECT_EQ(Strip()->Question(), "15 or 1.5?");
+  EXPECT_EQ(Strip()->y(), Expression(screen_).geometry().bottom() + 1);
+  // And a question about another field stays.
+  OfferStripOf(screen_).Offers(Result(screen_), u"Which?", {});
+  screen_.ShowFault(std::nullopt);
+  EXPECT_TRUE(IsOffered());
+  screen_.ShowFault(kFault);
+  EXPECT_EQ(Strip()->Question(), "Did you mean");
+  EXPECT_EQ(Strip()->y(), Result(screen_).geometry().bottom() + 1);
 }
 
 }  // namespace

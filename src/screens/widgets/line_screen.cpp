@@ -192,13 +192,12 @@ void LineScreen::ShowFault(const std::optional<LineFault>& fault) {
   const std::optional<std::u16string> mended = fault ? fault->mended : std::nullopt;
   if (mended == offered_) return;
   offered_ = mended;
-  if (offers_ != nullptr) offers_->Drop();
+  // What it asks about another field is not this question.
+  OfferStrip& strip = OfferStripOf(*line_);
+  if (strip.Field() == line_) strip.Drop();
   if (!mended) return;
-  if (offers_ == nullptr) {
-    offers_ = new OfferStrip(this);
-    offers_->StandBelow(*result_);
-  }
-  offers_->Offers(*line_, kDidYouMean, {{*mended, [this] { OnMend(); }}});
+  strip.Offers(*line_, kDidYouMean, {{*mended, [this] { OnMend(); }}});
+  strip.StandBelow(*result_);
 }
 
 void LineScreen::ShowLive() {

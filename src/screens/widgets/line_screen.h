@@ -18,8 +18,6 @@
 
 namespace kav {
 
-class OfferStrip;
-
 /// Enter, Esc and "=" of the keyboard press keys of the screen, whatever has the focus. Everything
 /// else that is typed goes to the expression line, unless the focused widget uses it. The Edit menu
 /// works on the result if some of it is selected, else on the line. Up walks from the ends of the
@@ -104,7 +102,6 @@ class LineScreen : public KeyScreen {
   ExpressionView* line_;
   ResultView* result_;
   HistoryWalk walk_;
-  OfferStrip* offers_ = nullptr;  ///< made for the first offer
   std::optional<std::u16string> offered_;
   PastRoom room_;
   PastSide past_;

@@ -155,6 +155,13 @@ void OfferStrip::Drop() {
   answers_.clear();
   offers_.clear();
   giveUp_ = nullptr;
+  above_ = nullptr;
+}
+
+void OfferStrip::StandBelow(const QWidget& widget) {
+  if (field_ == nullptr) return;
+  above_ = &widget;
+  LayOut();
 }
 
 void OfferStrip::Take(std::size_t index) {

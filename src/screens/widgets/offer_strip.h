@@ -36,8 +36,9 @@ class OfferStrip final : public QWidget {
   /// had it.
   void Offers(const QWidget& field, std::u16string_view question, std::vector<Offer> offers,
               std::function<void()> giveUp = {});
-  /// Has the strip stand below `widget`, a part of the screen, rather than below the field.
-  void StandBelow(const QWidget& widget) { above_ = &widget; }
+  /// Has the strip stand below `widget`, a part of the screen, rather than below the field that it
+  /// asks about now.
+  void StandBelow(const QWidget& widget);
   /// Takes the question back; nothing is called.
   void Drop();
   /// Gives the keyboard to the first answer.
