@@ -12,6 +12,7 @@
 #include "screens/matrix_driver.h"
 #include "screens/screen_driver.h"
 #include "screens/widgets/app_events.h"
+#include "screens/widgets/formula_view.h"
 #include "screens/widgets/look.h"
 #include "settings/keys.h"
 
@@ -312,6 +313,38 @@ TEST_F(MatrixResult, IsCopiedAsThatOfTheScientificScreen) {
   EXPECT_EQ(Clipboard(), u"1000*2 = 2000");
   EXPECT_TRUE(FindKey(*dlg_, u"BS")->autoRepeat());
   EXPECT_TRUE(FindKey(*dlg_, u"DEL")->autoRepeat());
+}
+
+TEST_F(ResultUsesTest, AThirdClickTakesAll) {
+  Type("1234567.5*2=");
+  Key(Qt::Key_End);
+  for (QLineEdit* line : {&Result(*dlg_), &Expression(*dlg_)}) {
+    line->setFocus();
+    const QPoint place(line->alignment().testFlag(Qt::AlignRight) ? line->width() - line->height()
+                                                                  : line->height(),
+                       line->height() / 2);
+    QTest::mouseClick(line, Qt::LeftButton, {}, place);
+    QTest::mouseDClick(line, Qt::LeftButton, {}, place);
+    EXPECT_TRUE(line->hasSelectedText());
+    QTest::mouseClick(line, Qt::LeftButton, {}, place);
+    EXPECT_EQ(line->selectedText(), line->text());
+  }
+}
+
+TEST_F(ResultUsesTest, AThirdClickTakesAllOfAFormula) {
+  const AppEvents events;
+  QWidget screen;
+  auto* formula = new FormulaView(2);
+  formula->setParent(&screen);
+  formula->setGeometry(0, 0, 300, 60);
+  Show(screen);
+  formula->setPlainText("sin(30)+x");
+  const QPoint place(formula->fontMetrics().horizontalAdvance("si") + 6, 12);
+  QTest::mouseClick(formula->viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseDClick(formula->viewport(), Qt::LeftButton, {}, place);
+  EXPECT_EQ(formula->textCursor().selectedText(), "sin");
+  QTest::mouseClick(formula->viewport(), Qt::LeftButton, {}, place);
+  EXPECT_EQ(formula->textCursor().selectedText(), "sin(30)+x");
 }
 
 }  // namespace

@@ -38,6 +38,9 @@ bool ResultUses::eventFilter(QObject*, QEvent* event) {
       const bool copies = static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy);
       return copies && !result_.hasSelectedText() && Copy();
     }
+    case QEvent::MouseButtonDblClick:
+      thirdClick_.setRemainingTime(QApplication::doubleClickInterval());
+      return false;
     case QEvent::MouseButtonPress:
       return Press(*static_cast<QMouseEvent*>(event));
     case QEvent::MouseMove:
@@ -51,7 +54,8 @@ bool ResultUses::eventFilter(QObject*, QEvent* event) {
 
 bool ResultUses::Press(const QMouseEvent& event) {
   held_ = Held::Nothing;
-  if (event.button() != Qt::LeftButton) return false;
+  // A third click takes all, as in every line.
+  if (event.button() != Qt::LeftButton || !thirdClick_.hasExpired()) return false;
   pressedAt_ = event.position().toPoint();
   const int at = result_.cursorPositionAt(pressedAt_);
   const bool isOnSelection =

@@ -1,6 +1,7 @@
 // What can be done with a result besides reading it.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QObject>
@@ -40,9 +41,10 @@ class ResultUses final : public QObject {
   std::function<std::optional<std::u16string>()> copied_;
   Held held_ = Held::Nothing;
   QPoint pressedAt_;
+  QDeadlineTimer thirdClick_;  ///< until when another click is the third one
 };
 
-/// Puts a text on the clipboard, and on what the middle button of the mouse inserts.
+/// Puts a text on the clipboard.
 void CopyText(const std::u16string& text);
 
 /// The small M at the left of a result line, there while the memory register is not 0.

@@ -1,8 +1,10 @@
 #include "screens/widgets/word_selection.h"
 
+#include <QCoreApplication>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTextCursor>
 #include <cstddef>
 #include <string>
@@ -41,16 +43,19 @@ void SelectIn(QPlainTextEdit& formula, QPoint place) {
 }  // namespace
 
 bool SelectWord(QObject& watched, QEvent& event) {
-  if (event.type() != QEvent::MouseButtonDblClick) return false;
+  static bool isHandled = false;  // the click comes here once more on its way to the widget
+  if (isHandled || event.type() != QEvent::MouseButtonDblClick) return false;
   const auto& click = static_cast<const QMouseEvent&>(event);
   if (click.button() != Qt::LeftButton) return false;
-  auto* line = qobject_cast<QLineEdit*>(&watched);
-  auto* formula = qobject_cast<QPlainTextEdit*>(watched.parent());
+  const QPointer<QLineEdit> line = qobject_cast<QLineEdit*>(&watched);
+  QPointer<QPlainTextEdit> formula = qobject_cast<QPlainTextEdit*>(watched.parent());
   if (formula != nullptr && formula->viewport() != &watched) formula = nullptr;
   if (line == nullptr && formula == nullptr) return false;
-  // First the widget, which counts the clicks: a third one takes all.
-  watched.event(&event);
   const QPoint place = click.position().toPoint();
+  // First the widget, which counts the clicks: a third one takes all.
+  isHandled = true;
+  QCoreApplication::sendEvent(&watched, &event);
+  isHandled = false;
   if (line != nullptr) SelectIn(*line, place);
   if (formula != nullptr) SelectIn(*formula, place);
   return true;
