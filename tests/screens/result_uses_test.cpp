@@ -12,7 +12,9 @@
 #include "screens/matrix_driver.h"
 #include "screens/screen_driver.h"
 #include "screens/widgets/app_events.h"
+#include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/formula_view.h"
+#include "screens/widgets/line_marks.h"
 #include "screens/widgets/look.h"
 #include "settings/keys.h"
 
@@ -345,6 +347,18 @@ TEST_F(ResultUsesTest, AThirdClickTakesAllOfAFormula) {
   EXPECT_EQ(formula->textCursor().selectedText(), "sin");
   QTest::mouseClick(formula->viewport(), Qt::LeftButton, {}, place);
   EXPECT_EQ(formula->textCursor().selectedText(), "sin(30)+x");
+}
+
+TEST_F(ResultUsesTest, MarksOfAFormulaTakeOtherColours) {
+  FormulaView formula(2);
+  formula.setPlainText("(x)");
+  Wear(formula, Attire::Window);
+  formula.moveCursor(QTextCursor::End);
+  ASSERT_EQ(formula.extraSelections().size(), 2);
+  UseColours(ColourChoice::Dark);
+  EXPECT_EQ(formula.extraSelections().front().format.background().color(),
+            FormatOf(LineMark::Pair, formula.palette()).background().color());
+  UseColours(ColourChoice::Light);
 }
 
 }  // namespace

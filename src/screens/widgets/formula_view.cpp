@@ -117,6 +117,7 @@ void FormulaView::insertFromMimeData(const QMimeData* source) {
 void FormulaView::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange) updateGeometry();
   QPlainTextEdit::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) MarkPair();
 }
 
 }  // namespace kav
