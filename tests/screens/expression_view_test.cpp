@@ -232,5 +232,16 @@ TEST_F(ExpressionViewTest, FaintIsStillReadable) {
   }
 }
 
+TEST_F(ExpressionViewTest, TheLiveResultStaysFaintInOtherColours) {
+  Type("6*7");
+  const auto* live = View().findChild<QLabel*>();
+  ASSERT_NE(live, nullptr);
+  for (const ColourChoice choice :
+       {ColourChoice::Dark, ColourChoice::HighContrast, ColourChoice::Light}) {
+    UseColours(choice);
+    EXPECT_EQ(live->palette().color(QPalette::WindowText), FaintColour(View().palette()));
+  }
+}
+
 }  // namespace
 }  // namespace kav::test::expression_view_test
