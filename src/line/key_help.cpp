@@ -6,6 +6,7 @@
 
 #include "common/number_text.h"
 #include "line/screen_commands.h"
+#include "line/screen_keyboard.h"
 
 namespace kav {
 namespace {
@@ -45,6 +46,14 @@ std::u16string DescriptionOf(const FaceText& key, std::string_view shortcut) {
 
 std::u16string TipOf(const FaceText& key, std::string_view shortcut) {
   return std::u16string(key.caption).append(u": ").append(DescriptionOf(key, shortcut));
+}
+
+std::vector<ListedKey> ListedKeyboard(GuidePage page) {
+  const std::vector<KeyboardRow> rows = KeyboardOf(page);
+  std::vector<ListedKey> listed;
+  listed.reserve(rows.size());
+  for (const KeyboardRow& row : rows) listed.push_back({{FaceText{{}, row.text}}, row.keys});
+  return listed;
 }
 
 std::vector<KeyListRow> ListOfKeys(const std::vector<ListedKey>& keys) {

@@ -136,6 +136,8 @@ TEST_F(KeysDlgTest, TheListHasAllOfThemAndIsSearched) {
     EXPECT_TRUE(texts().contains("Mac (Alt+A) | write a call of one of your macros"));
     EXPECT_TRUE(texts().contains("ASIN | angle of a sine"));
     EXPECT_TRUE(texts().contains("Ctrl+Y, Ctrl+Shift+Z | redo what was undone"));
+    EXPECT_TRUE(texts().contains("Enter, = | evaluate the line"));
+    EXPECT_TRUE(texts().contains("Esc | clear the line"));
     QTest::keyClicks(QApplication::focusWidget(), "angle sine");
     EXPECT_EQ(texts(), (QStringList{"SIN | sine of an angle", "ASIN | angle of a sine",
                                     "COS | cosine of an angle", "ACOS | angle of a cosine"}));

@@ -8,6 +8,7 @@
 #include <array>
 #include <utility>
 
+#include "line/key_help.h"
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/pop_up.h"
 
@@ -109,7 +110,11 @@ bool KeyScreen::event(QEvent* event) {
 }
 
 void KeyScreen::OpenKeys() {
-  if (Dialogs().keys) Dialogs().keys(this, keys_->Listed());
+  if (!Dialogs().keys) return;
+  std::vector<ListedKey> listed = ListedKeyboard(Page());
+  const std::vector<ListedKey> onScreen = keys_->Listed();
+  listed.insert(listed.end(), onScreen.begin(), onScreen.end());
+  Dialogs().keys(this, listed);
 }
 
 std::optional<std::u16string> KeyScreen::RecallVariable() {
