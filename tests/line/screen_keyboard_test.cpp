@@ -54,8 +54,8 @@ std::map<std::string, Rows> TablesOfThePage() {
   std::smatch cells;
   for (std::string line; std::getline(page, line);) {
     if (line.starts_with("## ")) table = &tables[line.substr(3)];
-    if (table != nullptr && std::regex_match(line, cells, row))
-      table->push_back({cells[1], cells[2]});
+    if (table == nullptr || !std::regex_match(line, cells, row)) continue;
+    if (cells[1] != "Key") table->push_back({cells[1], cells[2]});
   }
   return tables;
 }
