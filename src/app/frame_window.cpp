@@ -26,6 +26,7 @@
 #include "screens/statistics/two_variable_dlg.h"
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/colour_scheme.h"
+#include "screens/widgets/dialog.h"
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/qt_text.h"
 #include "screens/widgets/screen.h"
@@ -253,6 +254,7 @@ void FrameWindow::ScaleText(TextStep step) {
   store_.Set(kTextScale, percent);
   GrowWindow(percent);
   if (auto* screen = dynamic_cast<Screen*>(Shown())) screen->LayOutAll();
+  ScaleOpenDialogs();
   SaveStore();
 }
 

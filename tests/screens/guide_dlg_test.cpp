@@ -16,6 +16,8 @@
 #include "screens/box_watch.h"
 #include "screens/screen_driver.h"
 #include "screens/widgets/colour_scheme.h"
+#include "screens/widgets/dialog.h"
+#include "screens/widgets/look.h"
 
 namespace kav::test::guide_dlg_test {
 namespace {
@@ -197,6 +199,30 @@ TEST_F(GuideDlgTest, StaysOpenBesideAScreenAndIsOneWindow) {
   BoxWatch::Instance().ExpectDialog([](QDialog&) {});
   guide.Open(&window, GuidePage::Memory);
   EXPECT_TRUE(dialog->isVisible());
+  dialog->hide();
+}
+
+TEST_F(GuideDlgTest, FollowsTheSizeOfTextsWhileItIsOpen) {
+  QWidget window;
+  Show(window, {240, 320});
+  Guide guide;
+  BoxWatch::Instance().ExpectDialog([](QDialog&) {});
+  guide.Open(&window, GuidePage::Graph);
+  QDialog* dialog = nullptr;
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    if (top->isVisible() && top->windowTitle() == "Guide") dialog = qobject_cast<QDialog*>(top);
+  }
+  ASSERT_NE(dialog, nullptr);
+  const int usual = TextIn(*dialog).font().pixelSize();
+  SetTextShare(1.5);
+  ScaleOpenDialogs();
+  EXPECT_GT(TextIn(*dialog).font().pixelSize(), usual);
+  EXPECT_EQ(Top(*dialog), "Graph") << "it stays where it was";
+  SetTextShare(1);
+  // Also who only asks for another page gets it in the size of now.
+  guide.Open(&window, GuidePage::Memory);
+  EXPECT_EQ(TextIn(*dialog).font().pixelSize(), usual);
+  EXPECT_EQ(Top(*dialog), "Memory variables");
   dialog->hide();
 }
 

@@ -1,5 +1,6 @@
 #include "screens/widgets/dialog.h"
 
+#include <QApplication>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLayout>
@@ -67,7 +68,7 @@ bool Dialog::RunModal() {
 void Dialog::ShowBeside(const QWidget& neighbour) {
   setModal(false);
   const QWidget& window = *neighbour.window();
-  if (!isVisible()) PlaceOver(Beside(window, AreaOver(window)));
+  isVisible() ? Scale() : PlaceOver(Beside(window, AreaOver(window)));
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
@@ -171,6 +172,13 @@ double Dialog::Excess() const {
   // So much higher than the dialog may the parts be: they have free room above and below texts.
   constexpr double kGive = 1.03;
   return std::max(static_cast<double>(needed.width()) / width(), high / (kGive * height()));
+}
+
+void ScaleOpenDialogs() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* dialog = dynamic_cast<Dialog*>(window);
+    if (dialog != nullptr && dialog->isVisible()) dialog->Scale();
+  }
 }
 
 DialogButton::DialogButton(std::u16string_view caption, std::u16string_view help)

@@ -14,10 +14,10 @@ class QMenu;
 namespace kav {
 
 /// A dialog over the screen or dialog that opens it, as large as the portrait area of that, if it
-/// does not take less. Texts
-/// and the room around them grow with its height, as far as all of them have room in the machine's
-/// font. So its widgets stand in layouts, have no fixed sizes, and return as minimumSizeHint what
-/// their texts need. It is modal: RunModal returns when it is closed.
+/// does not take less. Texts and the room around them grow with its height, as far as all of them
+/// have room in the machine's font. So its widgets stand in layouts, have no fixed sizes, and
+/// return as minimumSizeHint what their texts need. It is modal: RunModal returns when it is
+/// closed.
 class Dialog : public QDialog {
  public:
   Dialog(QWidget* parent, std::u16string_view title);
@@ -28,6 +28,9 @@ class Dialog : public QDialog {
   /// Shows it without waiting for its end: beside the window of `neighbour` where the desktop has
   /// room for it, else over it.
   void ShowBeside(const QWidget& neighbour);
+
+  /// Gives all texts their size anew: after a change of TextShare.
+  void Scale();
 
  protected:
   /// F1 opens the guide at `page`, not at that of the dialog or the screen behind this one.
@@ -52,7 +55,6 @@ class Dialog : public QDialog {
  private:
   void PlaceOver(const QRect& area);
   void OpenGuide();
-  void Scale();
   void ScaleDown();
   double Excess() const;
 
@@ -60,6 +62,9 @@ class Dialog : public QDialog {
   bool takesNeededHeight_ = false;
   int areaHeight_ = 0;  ///< of what is behind it; 0 for its own
 };
+
+/// Scales all dialogs that are open.
+void ScaleOpenDialogs();
 
 /// A button of a dialog, which looks like a key of the keypad.
 class DialogButton final : public QPushButton {
