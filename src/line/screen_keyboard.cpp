@@ -23,11 +23,11 @@ constexpr std::array kHistory{
 };
 constexpr std::array kMatrix{
     KeyboardRow{"Ctrl+Page Up; Ctrl+Page Down", u"show the matrix before or behind"},
-    KeyboardRow{"Arrows; Page Up; Page Down",   u"in the grid: go from cell to cell"},
+    KeyboardRow{"Arrow; Page Up; Page Down",   u"in the grid: go from cell to cell"},
     KeyboardRow{"Home; End",                    u"in the grid: go to the first or last column"},
-    KeyboardRow{"Ctrl+Arrows",                  u"in the grid: go to the border"},
+    KeyboardRow{"Ctrl+Arrow",                  u"in the grid: go to the border"},
     KeyboardRow{"Ctrl+Home; Ctrl+End",          u"in the grid: go to the first or last cell"},
-    KeyboardRow{"Shift+Arrows",                 u"in the grid: select cells"},
+    KeyboardRow{"Shift+Arrow",                 u"in the grid: select cells"},
     KeyboardRow{"Tab; Shift+Tab",               u"in the grid: go to the next cell, and back"},
     KeyboardRow{"Enter; F2",                    u"in the grid: edit the cell"},
     KeyboardRow{"Delete; Backspace",            u"in the grid: empty the selected cells"},
@@ -57,7 +57,7 @@ constexpr std::array kPlotter{
     KeyboardRow{"Esc",              u"in a field of the range: go back to the equation"},
 };
 constexpr std::array kGraph{
-    KeyboardRow{"Arrows; Ctrl+Arrows", u"in the graph: move the range"},
+    KeyboardRow{"Arrow; Ctrl+Arrow", u"in the graph: move the range"},
     KeyboardRow{"+; -",                u"in the graph: zoom in or out"},
     KeyboardRow{"Home; Ctrl+0",        u"in the graph: go back to the first range"},
     KeyboardRow{"Ctrl+Z",              u"in the graph: go back to the range before"},
