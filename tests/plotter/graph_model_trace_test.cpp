@@ -279,35 +279,6 @@ TEST(GraphModelTrace, ResetAndUndoKeepTracing) {
   EXPECT_TRUE(model.MarkerColumn());
 }
 
-TEST(GraphModelTrace, WhatIsCopiedIsPlainDigitsOfTheSelectedLine) {
-  const auto copied = [](const GraphReading& reading, std::optional<int> line) {
-    std::u16string all;
-    for (const auto part : {ReadingPart::Point, ReadingPart::X, ReadingPart::Y}) {
-      all += CopiedReading(reading, part, line).value_or(u"none") + u"|";
-    }
-    return all;
-  };
-  const GraphReading tapped{u"1,234.5", {u"y = -2,500"}, {u"-2,500"}, std::nullopt};
-  EXPECT_EQ(copied(tapped, std::nullopt), u"1234.5\t-2500|1234.5|-2500|");
-  const GraphReading curves{
-      u" 1e3 ", {u"R:F1(X) = 1,000,000", u"G:F2(X) = Out of range"}, {u"1,000,000", u""}, 0};
-  EXPECT_EQ(copied(curves, 0), u"1e3\t1000000|1e3|1000000|");
-  EXPECT_EQ(copied(curves, 1), u"none|1e3|none|") << "a message is no number";
-  EXPECT_EQ(copied(curves, 2), u"none|1e3|none|");
-  EXPECT_EQ(copied({}, std::nullopt), u"none|none|none|");
-}
-
-TEST(GraphModelTrace, AReadingHasTheNumberOfEachLine) {
-  GraphModel model(GraphOf({"1000*x", "1/x"}));
-  const auto reading = model.Calculate(u"0");
-  ASSERT_TRUE(reading);
-  EXPECT_EQ(reading->values, (std::vector<std::u16string>{u"0", u""}));
-  EXPECT_EQ(model.Calculate(u"2")->values, (std::vector<std::u16string>{u"2,000", u"0.5"}));
-  const auto tapped = model.Tap({0, 0});
-  ASSERT_TRUE(tapped);
-  EXPECT_EQ(tapped->values, std::vector<std::u16string>{u"10"});
-}
-
 TEST(GraphModelTrace, StepsGoFromSampleToSample) {
   GraphModel model = PixelModel();
   model.SetTraces(true);
