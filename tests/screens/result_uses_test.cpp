@@ -10,7 +10,10 @@
 #include <QTimer>
 
 #include "screens/matrix_driver.h"
+#include "screens/plotter/plotter_dlg.h"
 #include "screens/screen_driver.h"
+#include "screens/statistics/one_variable_dlg.h"
+#include "screens/statistics/two_variable_dlg.h"
 #include "screens/widgets/app_events.h"
 #include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/formula_view.h"
@@ -255,6 +258,23 @@ TEST_F(ResultUsesTest, KeysAndMenusFollowTheSizeOfTexts) {
   frame_.store.Set(kWindowScale, 100);
   screen.LayOutAll();
   EXPECT_EQ(dlg_->grab().toImage(), usual);
+}
+
+TEST(TextSize, EveryScreenIsAsBeforeOnceTextsHaveTheirUsualSizeAgain) {
+  FakeFrame frame;
+  for (const auto make : {MakeScientificScreen, MakeMatrixScreen, MakeOneVariableScreen,
+                          MakeTwoVariableScreen, MakePlotterScreen}) {
+    const auto dlg = make(frame);
+    Show(*dlg, {360, 560});
+    const QImage usual = dlg->grab().toImage();
+    const auto lookAt = [&](int percent) {
+      frame.store.Set(kTextScale, percent);
+      dynamic_cast<Screen&>(*dlg).LayOutAll();
+      return dlg->grab().toImage();
+    };
+    EXPECT_NE(lookAt(200), usual);
+    EXPECT_EQ(lookAt(100), usual);
+  }
 }
 
 class ScalingFrame final : public Frame {

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QTimer>
-#include <cstdlib>
 #include <functional>
 #include <memory>
 #include <span>
@@ -28,6 +27,7 @@
 #include "screens/statistics/one_variable_dlg.h"
 #include "screens/statistics/two_variable_dlg.h"
 #include "screens/statistics/work_progress_view.h"
+#include "screens/text_room_windows.h"
 #include "screens/widgets/message_box.h"
 #include "settings/keys.h"
 #include "support/stored_conversions.h"
@@ -36,21 +36,8 @@
 namespace kav::test::text_room_test {
 namespace {
 
-/// The screens that there were and are, upright and on their side, and the smallest window.
-constexpr QSize kWindows[] = {{180, 240},  {180, 280},   {240, 320},   {241, 333},   {320, 240},
-                              {360, 560},  {480, 640},   {640, 480},   {600, 1024},  {800, 480},
-                              {1280, 720}, {1080, 1440}, {1920, 1080}, {2160, 3840}, {3840, 2160}};
-
 /// How high a dialog is to be.
 enum class Height { OfTheArea, AsNeeded };
-
-/// Where the toolkit draws twice as large, the large windows take long and tell nothing more.
-std::span<const QSize> Windows() {
-  constexpr std::size_t kSmallOnes = 7;
-  static_assert(kWindows[kSmallOnes - 1] == QSize(480, 640));
-  const std::span<const QSize> all(kWindows);
-  return std::getenv("KAV_TEST_DPI") != nullptr ? all.first(kSmallOnes) : all;
-}
 
 class TextRoomTest : public testing::Test {
  protected:
@@ -61,8 +48,13 @@ class TextRoomTest : public testing::Test {
     frame_.store.Set(kMatrixColumns, 10);
     frame_.dialogs = AllDialogs(frame_.store);
     frame_.others = {{ScreenMode::Matrix, u"Matrix Calculator"}};
+    frame_.store.Set(kTextScale, ScaleOfTexts());
+    SetTextShare(WantedShare());
   }
-  ~TextRoomTest() override { BoxWatch::Instance().TakeSeen(); }
+  ~TextRoomTest() override {
+    BoxWatch::Instance().TakeSeen();
+    SetTextShare(1);
+  }
 
   /// Measures a screen in each window, after `change` was done to it.
   void MeasureScreen(
@@ -86,6 +78,7 @@ class TextRoomTest : public testing::Test {
       QWidget window;
       window.setUpdatesEnabled(false);
       Show(window, size);
+      const int usual = AreTextsLarge() ? UsualLettersOf(open, window, changes) : 0;
       BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) {
         dialog.setUpdatesEnabled(false);
         ExpectPlace(dialog, window, height);
@@ -96,20 +89,52 @@ class TextRoomTest : public testing::Test {
           const TextRoom room(dialog);
         }
         ExpectReadable(dialog.font(), PortraitArea(size));
+        if (AreTextsLarge()) ExpectLarger(dialog, usual, window);
         dialog.hide();
       });
       open(&window);
     }
   }
 
+  /// The height in pixels of the letters that a dialog has in the usual size.
+  static int UsualLettersOf(const std::function<void(QWidget*)>& open, QWidget& window,
+                            const std::vector<std::function<void(QDialog&)>>& changes) {
+    int letters = 0;
+    SetTextShare(1);
+    BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) {
+      dialog.setUpdatesEnabled(false);
+      for (const auto& change : changes) change(dialog);
+      QCoreApplication::processEvents();
+      letters = dialog.font().pixelSize();
+      dialog.hide();
+    });
+    open(&window);
+    SetTextShare(WantedShare());
+    return letters;
+  }
+
+  static void ExpectLarger(const QDialog& dialog, int usual, const QWidget& window) {
+    const std::string name = dialog.windowTitle().toStdString() + " over a window " +
+                             std::to_string(window.width()) + " wide";
+    EXPECT_GE(dialog.font().pixelSize(), usual) << name;
+    // Where neither the smallest display nor the edge of the desktop ends the room.
+    const bool hasRoom = window.height() > 320 && window.width() < dialog.width();
+    EXPECT_TRUE(!hasRoom || dialog.font().pixelSize() > usual) << name << ": " << usual;
+  }
+
   static void ExpectPlace(const QDialog& dialog, const QWidget& window, Height height) {
     const QRect area = PortraitArea(window.size()).translated(window.mapToGlobal(QPoint()));
+    // For larger texts it is wider, as far as the desktop is.
+    const int frame = window.frameGeometry().width() - window.width();
+    const int most = std::max(window.screen()->availableSize().width() - frame, area.width());
+    const int width = std::min(qRound(area.width() * WantedShare()), most);
     if (height == Height::OfTheArea) {
-      EXPECT_EQ(dialog.size(), area.size()) << dialog.windowTitle().toStdString();
+      EXPECT_EQ(dialog.size(), QSize(width, area.height())) << dialog.windowTitle().toStdString();
       return;
     }
-    EXPECT_EQ(dialog.width(), area.width());
-    EXPECT_LT(dialog.height(), area.height() / 2) << area.height();
+    EXPECT_EQ(dialog.width(), width);
+    EXPECT_LT(dialog.height(), qRound(area.height() / 2 * WantedShare())) << area.height();
+    if (AreTextsLarge()) return;
     EXPECT_LE((dialog.geometry().center() - area.center()).manhattanLength(), 2);
   }
 
@@ -279,8 +304,10 @@ class BoxMeasure final : public QObject {
     QTimer::singleShot(0, box, [this, box] {
       ++count_;
       const TextRoom room(*box);
-      // As large as what it says, but not larger than the window that it speaks for.
-      const QSize most = box->parentWidget()->window()->size();
+      // As large as what it says, but not larger than the window that it speaks for; for larger
+      // texts it may be wider.
+      const QWidget* window = box->parentWidget()->window();
+      const QSize most = AreaOver(*window).size().expandedTo(window->size());
       EXPECT_LE(box->width(), most.width()) << box->text().toStdString();
       EXPECT_LE(box->height(), most.height()) << box->text().toStdString();
     });
@@ -326,8 +353,8 @@ TEST_F(TextRoomTest, LettersOfAMessageAreMadeSmallerForALongWord) {
   }
   ASSERT_EQ(sizes.size(), 3U);
   EXPECT_LT(sizes[1], sizes[0]);
-  // But not without end.
-  EXPECT_EQ(sizes[2], sizes[0] / 2);
+  // But not without end: half of what is usual is left.
+  EXPECT_EQ(sizes[2], qRound(sizes[0] / 2 / WantedShare()));
 }
 
 TEST_F(TextRoomTest, TheMenusOfAScreen) {
@@ -342,7 +369,8 @@ TEST_F(TextRoomTest, TheMenusOfAScreen) {
       for (QAction* action : bar->actions()) {
         QMenu& menu = *action->menu();
         menu.popup(screen->mapToGlobal(QPoint(0, 0)));
-        EXPECT_LE(menu.width(), PortraitArea(size).width()) << action->text().toStdString();
+        const int most = AreTextsLarge() ? AreaOver(*screen).width() : PortraitArea(size).width();
+        EXPECT_LE(menu.width(), most) << action->text().toStdString();
         for (const QAction* entry : menu.actions()) {
           if (entry->isSeparator()) continue;
           const QRect area = menu.actionGeometry(const_cast<QAction*>(entry));

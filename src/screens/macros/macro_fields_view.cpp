@@ -20,9 +20,10 @@ constexpr std::array kTypes{VariableType::X, VariableType::XY, VariableType::XYZ
 }  // namespace
 
 MacroFieldsView::MacroFieldsView()
-    : name_(new TextField(kMacroNameCaption)), formula_(new FormulaView(kFormulaLines)) {
+    : name_(new TextField(kMacroNameCaption)),
+      type_(new ChoiceBox(kMacroTypeCaption)),
+      formula_(new FormulaView(kFormulaLines)) {
   for (const VariableType type : kTypes) type_->addItem(ToQt(Widen(MacroTypeText(type))));
-  type_->setAccessibleName(ToQt(kMacroTypeCaption));
   formula_->setAccessibleName(ToQt(kFormulaName));
   OpenDoor(*formula_);
   LayOut();

@@ -1,11 +1,11 @@
 // The three fields of a macro, with their captions.
 #pragma once
 
-#include <QComboBox>
 #include <QWidget>
 #include <array>
 
 #include "macros/macro_editor_model.h"
+#include "screens/widgets/choice_box.h"
 #include "screens/widgets/formula_view.h"
 #include "screens/widgets/text_field.h"
 
@@ -28,7 +28,7 @@ class MacroFieldsView final : public QWidget {
   void LayOut();
 
   TextField* name_;
-  QComboBox* type_ = new QComboBox;
+  ChoiceBox* type_;
   FormulaView* formula_;
 };
 

@@ -86,7 +86,7 @@ void CMacroListDlg::SetTextHeight(int text) {
   Dialog::SetTextHeight(text);
   formula_->setFont(font());
   // The height is that of lines in full-size letters, even if the formula is shown in smaller ones.
-  formula_->setFixedHeight(formula_->sizeHint().height());
+  formula_->KeepHeight();
   FitFormula();
 }
 

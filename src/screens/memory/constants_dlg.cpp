@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "memory/constants_model.h"
@@ -55,14 +56,18 @@ class NameLabel final : public QLabel {
 
  private:
   static constexpr int kFewestLines = 2;
-  static constexpr int kMostLines = 4;  // the user's own table may have names of any length
 
+  /// The user's own table may have names of any length. Larger letters take more lines.
+  static int MostLines() {
+    constexpr int kUsual = 4;
+    return qRound(kUsual * std::max(TextShare(), 1.0));
+  }
   int LinesIn(int width) const {
     int lines = kFewestLines;
     for (const QString& name : names_) {
       // Wrapped, two adjacent lines hold more than the width of one: this name fits.
       if (fontMetrics().horizontalAdvance(name) <= (lines - 1) * width) continue;
-      while (lines < kMostLines && HeightIn(width, name) > HeightOf(lines)) ++lines;
+      while (lines < MostLines() && HeightIn(width, name) > HeightOf(lines)) ++lines;
     }
     return lines;
   }

@@ -164,6 +164,13 @@ bool ConstantsView::TakeKey(int key) {
   return false;
 }
 
+QSize ConstantsView::minimumSizeHint() const {
+  constexpr int kFewestLines = 4;  // of two rows or more: long names take two lines
+  const int lines = LeastHeightOfList(*this, kFewestLines);
+  const int heading = lines > 0 ? header()->sizeHint().height() : 0;
+  return QTreeView::minimumSizeHint().expandedTo({0, lines + heading});
+}
+
 void ConstantsView::keyPressEvent(QKeyEvent* event) {
   if (TakeKey(event->key())) return;
   if (event->key() != Qt::Key_Home && event->key() != Qt::Key_End) {

@@ -21,6 +21,8 @@ class ConstantsView final : public QTreeView {
   /// Moves the selection if `key` (Qt::Key) moves between rows. Returns whether it does.
   bool TakeKey(int key);
 
+  QSize minimumSizeHint() const override;
+
  private:
   class TableModel;
 

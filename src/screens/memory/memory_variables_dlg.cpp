@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "memory/memory_texts.h"
@@ -50,7 +51,8 @@ class VariableList final : public QListWidget {
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
     const int line = fontMetrics().horizontalAdvance(ToQt(kLongestVariableLine)) + 2 * margin;
     const int around = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    return {line + around, QListWidget::minimumSizeHint().height()};
+    const int height = QListWidget::minimumSizeHint().height();
+    return {line + around, std::max(height, LeastHeightOfList(*this))};
   }
 
  private:

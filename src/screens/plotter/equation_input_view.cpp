@@ -89,10 +89,13 @@ void EquationInputView::resizeEvent(QResizeEvent*) {
 }
 
 void EquationInputView::FitText() {
-  const int most = qRound(height() * kInputTextHeight * TextShare());
-  const int outline = std::max(2, most / 6);
+  const double usual = height() * kInputTextHeight;
+  const int most = qRound(usual * TextShare());
+  // Larger letters get no larger room around them: the lines have to share the height with it.
+  const int around = std::min(most, qRound(usual));
+  const int outline = std::max(2, around / 6);
   // Each line has its part of what outline and margins leave of the height.
-  const int text = PixelsForLine(most, (height() - 2 * outline - most / 4.0) / kLines);
+  const int text = PixelsForLine(most, (height() - 2 * outline - around / 4.0) / kLines);
   formula_->setFont(ScreenFont(text));
   formula_->document()->setDocumentMargin(text / 8.0);
   // As many lines as are seen whole: a part of a further one could not be read.

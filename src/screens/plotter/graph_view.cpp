@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -70,6 +71,8 @@ constexpr int kFieldShare = 3;
 
 /// The least height of the plot, as a part of the window's.
 constexpr double kPlotShare = 0.585;
+/// The same beside letters larger than usual.
+constexpr double kLeastPlotShare = 0.4;
 
 QList<QKeySequence> Shortcuts(const ChangeRow& row) {
   QList<QKeySequence> keys;
@@ -295,7 +298,8 @@ void CGraphView::ShareHeight() {
   const bool hasResults = !reading_.lines.empty();
   // The letters are as large as when there are results: only the plot changes.
   const int without = results_->minimumHeight() + body_->spacing();
-  area_->KeepHeight(qRound(height() * kPlotShare) + (hasResults ? 0 : without));
+  const double plot = std::max(kPlotShare / std::max(TextShare(), 1.0), kLeastPlotShare);
+  area_->KeepHeight(qRound(height() * plot) + (hasResults ? 0 : without));
   if (results_->isHidden() != hasResults) return;
   results_->setVisible(hasResults);
   // At once: the next tap may follow before the layout would be done.

@@ -27,8 +27,11 @@ constexpr double kBoxWidth = 0.8;
 class WorkProgressView::Box final : public QDialog {
  public:
   Box(QWidget* parent, std::u16string_view title) : QDialog(parent) {
-    const QRect area = PortraitArea(parent->window()->size());
-    const int text = TextPixels(area.height());
+    const QRect area = AreaOver(*parent);
+    const int width = qRound(area.width() * kBoxWidth);
+    // Its title and the room on either side of it, that of a letter each.
+    const int most = TextPixels(area.height());
+    const int text = FittingPixels({{ToQt(title), width - 2 * most}}, most, 1);
     setWindowTitle(ToQt(title));
     Wear(*this, Attire::Window);
     setFont(ScreenFont(text));
@@ -45,8 +48,8 @@ class WorkProgressView::Box final : public QDialog {
     all->setSpacing(text / 2);
     all->setContentsMargins(text, text, text, text);
     for (QWidget* widget : findChildren<QWidget*>()) widget->setStyle(ScreenStyle());
-    setFixedSize(qRound(area.width() * kBoxWidth), all->sizeHint().height());
-    move(parent->window()->mapToGlobal(area.center()) - rect().center());
+    setFixedSize(width, all->sizeHint().height());
+    move(area.center() - rect().center());
   }
 
   bool IsCancelled() const { return isCancelled_; }

@@ -22,13 +22,6 @@ namespace {
 
 constexpr std::size_t kLongestLine = 400;
 
-/// The part of the desktop that a dialog opened by `opener` covers.
-QRect AreaOver(const QWidget& opener) {
-  const QWidget* window = opener.window();
-  const QRect area = PortraitArea(window->size());
-  return {window->mapToGlobal(area.topLeft()), area.size()};
-}
-
 /// `area` moved to the right or the left of `window`, whose frame it keeps clear of, if the desktop
 /// has room there.
 QRect Beside(const QWidget& window, const QRect& area) {
@@ -152,14 +145,28 @@ void Dialog::Scale() {
 }
 
 void Dialog::ScaleDown() {
+  const int before = font().pixelSize();
+  int tooLarge = before;
   double excess = Excess();
   while (excess > 1 && font().pixelSize() > 1) {
     const int text = font().pixelSize();
+    tooLarge = text;
     // Everything shrinks nearly as the text does, so the guess is right, or too large by a pixel or
     // two.
     SetTextHeight(std::clamp(static_cast<int>(text / excess), 1, text - 1));
     excess = Excess();
   }
+  if (TextShare() > 1 && font().pixelSize() < before) GrowBelow(tooLarge);
+}
+
+void Dialog::GrowBelow(int tooLarge) {
+  int fitting = font().pixelSize();
+  while (fitting + 1 < tooLarge) {
+    const int middle = (fitting + tooLarge) / 2;
+    SetTextHeight(middle);
+    (Excess() > 1 ? tooLarge : fitting) = middle;
+  }
+  SetTextHeight(fitting);
 }
 
 /// What the parts need at least of the dialog's width or height, by what there is.
@@ -190,6 +197,10 @@ DialogButton::DialogButton(std::u16string_view caption, std::u16string_view help
 QSize DialogButton::minimumSizeHint() const {
   const int gap = std::max(fontMetrics().height() / 4, 2);
   return fontMetrics().size(Qt::TextShowMnemonic, text()) + QSize(2 * gap, gap);
+}
+
+int LeastHeightOfList(const QWidget& list, int lines) {
+  return TextShare() > 1 ? lines * list.fontMetrics().lineSpacing() : 0;
 }
 
 QString OneLine(std::u16string_view text) {

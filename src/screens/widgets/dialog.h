@@ -14,10 +14,10 @@ class QMenu;
 namespace kav {
 
 /// A dialog over the screen or dialog that opens it, as large as the portrait area of that, if it
-/// does not take less. Texts and the room around them grow with its height, as far as all of them
-/// have room in the machine's font. So its widgets stand in layouts, have no fixed sizes, and
-/// return as minimumSizeHint what their texts need. It is modal: RunModal returns when it is
-/// closed.
+/// does not take less; wider, where the desktop has room, for texts larger than usual. Texts and
+/// the room around them grow with its height, as far as all of them have room in the machine's
+/// font. So its widgets stand in layouts, have no fixed sizes, and return as minimumSizeHint what
+/// their texts need. It is modal: RunModal returns when it is closed.
 class Dialog : public QDialog {
  public:
   Dialog(QWidget* parent, std::u16string_view title);
@@ -56,6 +56,9 @@ class Dialog : public QDialog {
   void PlaceOver(const QRect& area);
   void OpenGuide();
   void ScaleDown();
+  /// Lines grow by more than their letters where they are wrapped, so that the guess may be too
+  /// small: finds the largest letters that have room, of those smaller than `tooLarge` pixels.
+  void GrowBelow(int tooLarge);
   double Excess() const;
 
   std::optional<GuidePage> page_;
@@ -75,6 +78,10 @@ class DialogButton final : public QPushButton {
   /// What the caption needs, with little room around it.
   QSize minimumSizeHint() const override;
 };
+
+/// What a list of a dialog needs of the height at least, so that `lines` lines of it stay seen
+/// however large the user wants its letters: in pixels, 0 for letters of the usual size.
+int LeastHeightOfList(const QWidget& list, int lines = 3);
 
 /// `text` for a widget of one line: breaks and tabs become blanks. A text too long for any screen
 /// is cut, so that no stored text can slow the drawing down.

@@ -115,7 +115,7 @@ void FitOverScreen(QFileDialog& dialog, const QWidget& opener) {
   auto* parts = qobject_cast<QGridLayout*>(dialog.layout());
   if (parts == nullptr) return;  // the desktop's own
   Arrange(dialog, *parts);
-  const QRect area = PortraitArea(window.size());
+  const QRect area = AreaOver(window);
   const auto hasRoom = [&] {
     const QSize needed = parts->totalMinimumSize();
     return needed.width() <= area.width() && needed.height() <= area.height();
@@ -123,7 +123,7 @@ void FitOverScreen(QFileDialog& dialog, const QWidget& opener) {
   int pixels = std::max(TextPixels(area.height()), 1);
   SetTextHeight(dialog, *parts, pixels);
   while (pixels > 1 && !hasRoom()) SetTextHeight(dialog, *parts, --pixels);
-  dialog.setGeometry(QRect(window.mapToGlobal(area.topLeft()), area.size()));
+  dialog.setGeometry(area);
 }
 
 }  // namespace kav

@@ -10,6 +10,7 @@
 #include "display/own_spelling.h"
 #include "line/expression_line.h"
 #include "screens/widgets/line_marks.h"
+#include "screens/widgets/look.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
@@ -93,11 +94,30 @@ bool FormulaView::IsInFirstRow() const {
   return !row.isValid() || row.lineNumber() == 0;
 }
 
+void FormulaView::KeepHeight() {
+  keptHeight_ = SizeOf(lines_).height();
+  // A layout without enough room may still take a little of it, which a fixed height forbids.
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  updateGeometry();
+}
+
 QSize FormulaView::sizeHint() const {
+  const QSize size = SizeOf(lines_);
+  return keptHeight_ > 0 ? QSize(size.width(), keptHeight_) : size;
+}
+
+QSize FormulaView::minimumSizeHint() const {
+  if (keptHeight_ > 0) return sizeHint();
+  constexpr int kFewest = 2;
+  const int lines = qRound(lines_ / std::max(TextShare(), 1.0));
+  return SizeOf(std::min(std::max(lines, kFewest), lines_));
+}
+
+QSize FormulaView::SizeOf(int lines) const {
   const int line = fontMetrics().lineSpacing();
   const int around = 2 * (qRound(document()->documentMargin()) + frameWidth());
   // Lines are laid out in fractions of pixels, and the last must not miss one.
-  return {10 * line, lines_ * line + around + line / 4};
+  return {10 * line, lines * line + around + line / 4};
 }
 
 void FormulaView::keyPressEvent(QKeyEvent* event) {

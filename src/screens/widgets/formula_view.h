@@ -11,8 +11,12 @@ namespace kav {
 /// and line breaks and tabs in pasted text become blanks. The parentheses at the caret are marked.
 class FormulaView final : public QPlainTextEdit {
  public:
-  /// As high as `lines` lines of text; more of them scroll.
+  /// As high as `lines` lines of text; more of them scroll. In letters larger than usual, it needs
+  /// only the height that these lines have in the usual ones.
   explicit FormulaView(int lines);
+
+  /// Keeps the height that its lines have in the letters of now, also in smaller ones.
+  void KeepHeight();
 
   /// The text, and the ends of its selection from left to right, whichever way it was made.
   ExpressionLine Line() const;
@@ -25,18 +29,20 @@ class FormulaView final : public QPlainTextEdit {
   bool IsInFirstRow() const;
 
   QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return sizeHint(); }
+  QSize minimumSizeHint() const override;
 
  private:
   void keyPressEvent(QKeyEvent* event) override;
   void insertFromMimeData(const QMimeData* source) override;
   void changeEvent(QEvent* event) override;
 
+  QSize SizeOf(int lines) const;
   void Change(const TextChange& change);
   void Select(Selection selection);
   void MarkPair();
 
   int lines_;
+  int keptHeight_ = 0;  ///< 0 if none is kept
 };
 
 }  // namespace kav

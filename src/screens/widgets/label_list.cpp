@@ -53,6 +53,10 @@ void LabelList::Write(const std::vector<std::u16string>& labels, std::optional<i
   }
 }
 
+QSize LabelList::minimumSizeHint() const {
+  return QListWidget::minimumSizeHint().expandedTo({0, LeastHeightOfList(*this)});
+}
+
 void LabelList::paintEvent(QPaintEvent* event) {
   QListWidget::paintEvent(event);
   // Otherwise the focus is seen on a label.

@@ -19,6 +19,8 @@ class LabelList final : public QListWidget {
   /// Shows `labels` and selects one of them, or none; long ones are cut. Emits no signal.
   void Write(const std::vector<std::u16string>& labels, std::optional<int> selected);
 
+  QSize minimumSizeHint() const override;
+
  private:
   void paintEvent(QPaintEvent* event) override;
 };

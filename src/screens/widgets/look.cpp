@@ -2,6 +2,8 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QScreen>
+#include <QWidget>
 #include <algorithm>
 
 namespace kav {
@@ -72,6 +74,20 @@ QRect PortraitArea(QSize window) {
   const int width = std::min(window.width(), qRound(window.height() * kWidest));
   const int height = std::min(window.height(), qRound(width * kTallest));
   return {(window.width() - width) / 2, (window.height() - height) / 2, width, height};
+}
+
+QRect AreaOver(const QWidget& opener) {
+  const QWidget& window = *opener.window();
+  QRect area = PortraitArea(window.size());
+  area.moveTopLeft(window.mapToGlobal(area.topLeft()));
+  if (TextShare() <= 1) return area;
+  const QRect desktop = window.screen()->availableGeometry();
+  const int room = desktop.width() - (window.frameGeometry().width() - window.width());
+  const int wanted = std::min(qRound(area.width() * TextShare()), room);
+  if (wanted <= area.width()) return area;
+  const int left = area.left() - (wanted - area.width()) / 2;
+  return {std::clamp(left, desktop.left(), desktop.left() + room - wanted), area.top(), wanted,
+          area.height()};
 }
 
 double TextShare() {

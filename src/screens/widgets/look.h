@@ -9,6 +9,7 @@
 #include <vector>
 
 class QStyle;
+class QWidget;
 
 namespace kav {
 
@@ -47,6 +48,10 @@ inline constexpr QSize kSmallestWindow(180, 240);
 /// The part of a window of `window` pixels that a screen fills: all of it if it is upright, else a
 /// centred column.
 QRect PortraitArea(QSize window);
+
+/// The part of the desktop that what `opener` opens may cover: the portrait area of its window. For
+/// texts larger than usual it is wider, as far as the desktop is, and they have room to be larger.
+QRect AreaOver(const QWidget& opener);
 
 /// How much larger than usual the texts of all windows are to be where they have room: what the
 /// user wants of a window of a size, and of the desktop. Windows take a new share when they are

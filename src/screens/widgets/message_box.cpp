@@ -46,7 +46,7 @@ class ScaledBox final : public QMessageBox {
     setTextFormat(Qt::PlainText);
     if (!more.isEmpty()) setInformativeText(more);
     Wear(*this, Attire::Window);
-    if (parent != nullptr) area_ = PortraitArea(parent->window()->size()).size();
+    if (parent != nullptr) area_ = AreaOver(*parent).size();
     setFont(ScreenFont(TextPixels(area_.height())));
     // Half of the usual size: who wants larger texts has them where there is room.
     const int half = font().pixelSize() / 2;

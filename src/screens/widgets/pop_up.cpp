@@ -6,6 +6,7 @@
 #include <QHoverEvent>
 #include <QMenu>
 #include <QStringList>
+#include <algorithm>
 
 #include "line/keypad.h"
 #include "screens/widgets/colour_scheme.h"
@@ -65,10 +66,11 @@ void DressMenu(QMenu& menu, const QFont& font) {
 
 void DressMenu(QMenu& menu, const QFont& font, const QWidget& window) {
   DressMenu(menu, font);
-  const int room = PortraitArea(window.size()).width();
+  const int room = AreaOver(window).width();
   int pixels = font.pixelSize();
-  // An entry may be a long name of the user's: letters stay large enough to be read.
-  const int least = pixels / 2;
+  // An entry may be a long name of the user's: letters stay large enough to be read, half as large
+  // as usual.
+  const int least = qRound(pixels / std::max(TextShare(), 1.0)) / 2;
   while (pixels > least && menu.sizeHint().width() > room) menu.setFont(ScreenFont(--pixels));
 }
 
