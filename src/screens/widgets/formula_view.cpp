@@ -95,7 +95,8 @@ bool FormulaView::IsInFirstRow() const {
 }
 
 void FormulaView::KeepHeight() {
-  keptHeight_ = SizeOf(lines_).height();
+  keptHeight_ = 0;
+  keptHeight_ = minimumSizeHint().height();
   // A layout without enough room may still take a little of it, which a fixed height forbids.
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   updateGeometry();

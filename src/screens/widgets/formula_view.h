@@ -15,7 +15,7 @@ class FormulaView final : public QPlainTextEdit {
   /// only the height that these lines have in the usual ones.
   explicit FormulaView(int lines);
 
-  /// Keeps the height that its lines have in the letters of now, also in smaller ones.
+  /// Keeps the height that it needs in the letters of now, also in smaller ones.
   void KeepHeight();
 
   /// The text, and the ends of its selection from left to right, whichever way it was made.

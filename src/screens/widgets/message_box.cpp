@@ -7,6 +7,7 @@
 #include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <algorithm>
 #include <cstddef>
 #include <optional>
@@ -75,7 +76,12 @@ class ScaledBox final : public QMessageBox {
     Fit();
     if (parentWidget() == nullptr) return;
     const QWidget* window = parentWidget()->window();
-    move(window->mapToGlobal(window->rect().center()) - rect().center());
+    QPoint place = window->mapToGlobal(window->rect().center()) - rect().center();
+    if (width() > window->width()) {
+      const QRect desktop = screen()->availableGeometry();
+      place.setX(std::max(std::min(place.x(), desktop.right() + 1 - width()), desktop.left()));
+    }
+    move(place);
   }
 
   /// Makes the letters lower until every word and all lines have room, but at most by half, for a
