@@ -200,7 +200,9 @@ QSize DialogButton::minimumSizeHint() const {
 }
 
 int LeastHeightOfList(const QWidget& list, int lines) {
-  return TextShare() > 1 ? lines * list.fontMetrics().lineSpacing() : 0;
+  // Of letters, not by the face: one with high lines would take the room that its letters need.
+  constexpr double kLine = 1.2;
+  return TextShare() > 1 ? qRound(lines * kLine * list.font().pixelSize()) : 0;
 }
 
 QString OneLine(std::u16string_view text) {
