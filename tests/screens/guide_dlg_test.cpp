@@ -5,10 +5,13 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QFontInfo>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextTable>
+#include <algorithm>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -111,6 +114,48 @@ TEST_F(GuideDlgTest, ItsPicturesHaveRoomAtEverySize) {
       EXPECT_EQ(Top(guide).toStdString(), "Scientific calculator");
     });
   }
+}
+
+TEST_F(GuideDlgTest, ItsPartsStandApartAndTablesHaveNoEmptyRow) {
+  WithGuide(GuidePage::Scientific, QSize(480, 640), [](QDialog& guide) {
+    QTextDocument& text = *TextIn(guide).document();
+    const double letters = QFontInfo(text.defaultFont()).pixelSize();
+    int tables = 0;
+    for (QTextFrame* frame : text.rootFrame()->childFrames()) {
+      auto* table = qobject_cast<QTextTable*>(frame);
+      if (table == nullptr) continue;
+      ++tables;
+      EXPECT_GE(table->format().cellPadding(), letters / 5);
+      bool isEmpty = true;
+      for (int column = 0; column < table->columns(); ++column) {
+        if (!table->cellAt(0, column).begin().currentBlock().text().isEmpty()) isEmpty = false;
+      }
+      EXPECT_FALSE(isEmpty) << "table " << tables;
+    }
+    EXPECT_GT(tables, 0);
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+      if (block.blockFormat().headingLevel() == 0) continue;
+      EXPECT_GE(block.blockFormat().topMargin(), letters / 2) << block.text().toStdString();
+    }
+  });
+}
+
+TEST_F(GuideDlgTest, ItsPicturesGrowWithItsLetters) {
+  const auto width = [](QSize size) {
+    double widest = 0;
+    WithGuide(GuidePage::Scientific, size, [&](QDialog& guide) {
+      QTextDocument& text = *TextIn(guide).document();
+      for (auto block = text.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+          const auto picture = part.fragment().charFormat().toImageFormat();
+          if (picture.isValid()) widest = std::max(widest, picture.width());
+        }
+      }
+    });
+    return widest;
+  };
+  EXPECT_EQ(width(QSize(480, 640)), 240);
+  EXPECT_GE(width(QSize(1080, 1440)), 400);
 }
 
 TEST_F(GuideDlgTest, PagesAreChosenFromTheirList) {

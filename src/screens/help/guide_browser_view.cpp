@@ -1,6 +1,7 @@
 #include "screens/help/guide_browser_view.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFontInfo>
 #include <QImage>
 #include <QKeyEvent>
 #include <QPainter>
@@ -11,6 +12,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "screens/help/guide_spacing_view.h"
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/qt_text.h"
 
@@ -19,6 +21,9 @@ namespace {
 
 constexpr const char* kGuideFile = "qrc:/guide/guide.md";
 constexpr int kUsualPictureWidth = 240;
+/// Pictures grow with the text, up to what is there of them.
+constexpr int kMostPicture = 480;
+constexpr int kLettersInPicture = 10;
 constexpr int kOutline = 2;
 constexpr int kPageLevel = 2;
 constexpr QLatin1String kPictures(":/guide/images/");
@@ -76,6 +81,7 @@ GuideBrowser::GuideBrowser() {
   setAccessibleName(ToQt(kGuideTitle));
   setOpenExternalLinks(true);
   connect(this, &QTextBrowser::sourceChanged, this, [this] {
+    Space();
     FindPages();
     ColourLinks();
     place_.reset();
@@ -139,6 +145,14 @@ void GuideBrowser::SetFont(const QFont& font) {
   KeepPlace();
 }
 
+void GuideBrowser::Space() {
+  SpaceOut(*document(), Letters(), palette().color(QPalette::Mid));
+}
+
+int GuideBrowser::Letters() const {
+  return QFontInfo(document()->defaultFont()).pixelSize();
+}
+
 QVariant GuideBrowser::loadResource(int type, const QUrl& name) {
   switch (type) {
     case QTextDocument::ImageResource:
@@ -166,7 +180,11 @@ void GuideBrowser::ColourLinks() {
 
 void GuideBrowser::changeEvent(QEvent* event) {
   QTextBrowser::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) ColourLinks();
+  const bool hasOtherColours = event->type() == QEvent::PaletteChange;
+  if (!hasOtherColours && event->type() != QEvent::FontChange) return;
+  Space();
+  if (hasOtherColours) ColourLinks();
+  if (isVisible()) FitPictures();
 }
 
 void GuideBrowser::resizeEvent(QResizeEvent* event) {
@@ -251,7 +269,8 @@ void GuideBrowser::FindPages() {
 
 void GuideBrowser::FitPictures() {
   const int room = viewport()->width() - 2 * static_cast<int>(document()->documentMargin());
-  const int width = std::clamp(room, 1, kUsualPictureWidth);
+  const int wanted = std::clamp(Letters() * kLettersInPicture, kUsualPictureWidth, kMostPicture);
+  const int width = std::clamp(room, 1, wanted);
   if (width == pictureWidth_) return;
   pictureWidth_ = width;
   for (const int place : PicturesIn(*document())) FitPicture(place);

@@ -43,6 +43,8 @@ class GuideBrowser final : public QTextBrowser {
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
   void ColourLinks();
+  void Space();
+  int Letters() const;
   bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
