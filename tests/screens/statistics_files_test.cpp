@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QFileDialog>
+#include <QToolButton>
 
 #include "screens/offer_driver.h"
 #include "screens/statistics_driver.h"
@@ -82,6 +83,11 @@ TEST_F(StatisticsFilesTest, TheDialogsLieOverTheScreenAndShowAllTheyHave) {
     };
     EXPECT_NEAR(rightOf(*name), rightOf(*files), 1);
     EXPECT_GT(name->width(), dialog.width() / 2);
+    for (const auto* tool : dialog.findChildren<QToolButton*>()) {
+      if (!tool->isVisible() || tool->icon().isNull()) continue;
+      EXPECT_GE(tool->icon().actualSize(QSize(500, 500)).height(), dialog.font().pixelSize());
+      EXPECT_GE(tool->height(), dialog.font().pixelSize());
+    }
     EXPECT_TRUE(dynamic_cast<QFileDialog&>(dialog).directory().exists());
     dialog.reject();
   };

@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPixmap>
 #include <QScreen>
 #include <QSplitter>
 #include <QToolButton>
@@ -27,6 +28,9 @@ constexpr QSize kRoomyDesktop(800, 600);
 /// the others.
 constexpr std::array kLeftOut{"lookInLabel",    "backButton",       "forwardButton",
                               "listModeButton", "detailModeButton", "sidebar"};
+
+/// By the height of the letters.
+constexpr double kToolButton = 1.25;
 
 /// Gives the choice of the folder and what stands beside it all the width.
 void WidenFolderRow(QGridLayout& parts) {
@@ -104,6 +108,20 @@ void SetTextHeight(QFileDialog& dialog, QLayout& parts, int pixels) {
   parts.activate();
 }
 
+/// The toolkit makes no picture larger than it is, which is too small for a finger.
+void GrowPictures(QFileDialog& dialog, int pixels) {
+  constexpr QSize kLargest(128, 128);
+  for (auto* button : dialog.findChildren<QToolButton*>()) {
+    const QPixmap picture = button->icon().pixmap(kLargest);
+    if (picture.isNull()) continue;
+    const int size = qRound(pixels * dialog.devicePixelRatioF());
+    QPixmap grown = picture.scaled(size, size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    grown.setDevicePixelRatio(dialog.devicePixelRatioF());
+    button->setIcon(grown);
+    button->setFixedSize(QSize(pixels, pixels) * kToolButton);
+  }
+}
+
 }  // namespace
 
 void FitOverScreen(QFileDialog& dialog, const QWidget& opener) {
@@ -123,6 +141,7 @@ void FitOverScreen(QFileDialog& dialog, const QWidget& opener) {
   int pixels = std::max(TextPixels(area.height()), 1);
   SetTextHeight(dialog, *parts, pixels);
   while (pixels > 1 && !hasRoom()) SetTextHeight(dialog, *parts, --pixels);
+  GrowPictures(dialog, pixels);
   dialog.setGeometry(area);
 }
 
