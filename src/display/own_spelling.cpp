@@ -5,12 +5,12 @@
 #include <utility>
 
 #include "common/ascii.h"
+#include "common/number_text.h"
 #include "display/comma_reading.h"
+#include "engine/function_names.h"
 
 namespace kav {
 namespace {
-
-using namespace std::string_view_literals;
 
 constexpr char16_t kRoot = u'√';
 constexpr char16_t kBlank = u' ';
@@ -184,13 +184,18 @@ std::size_t EndOfOperand(std::u16string_view text, std::size_t at) {
     end = std::min(text.find(u'(', end), text.size());
   }
   if (end < text.size() && text[end] == u'(') return orNone(EndOfGroup(text, end));
-  const bool isValue =
-      EqualsIgnoringCase(word, u"pi"sv) || word == u"x" || word == u"y" || word == u"z";
+  const std::string name = Narrow(word);
+  const bool isValue = EqualsIgnoringCase(name, kPiWord) || EqualsIgnoringCase(name, kAnswerWord) ||
+                       word == u"x" || word == u"y" || word == u"z";
   return isValue ? end : at;
 }
 
 /// Writes roots as calls. From the last on, so that a root of a root finds a call behind it.
 void WriteRoots(std::u16string& text) {
+  // More than a line has room for. Each may look at all that stands behind it: a text of nothing
+  // else would take minutes.
+  constexpr std::ptrdiff_t kMostRoots = 200;
+  if (std::count(text.begin(), text.end(), kRoot) > kMostRoots) return;
   for (std::size_t at = text.rfind(kRoot); at != text.npos; at = text.rfind(kRoot)) {
     std::size_t from = at + 1;
     while (from < text.size() && text[from] == kBlank) ++from;

@@ -55,6 +55,7 @@ TEST(OwnSpelling, WritesARootAsACallOfWhatStandsBehindIt) {
       {u"√1.5e3*2", u"sqrt(1.5e3)*2"},
       {u"√2e", u"sqrt(2)e"},
       {u"√π", u"sqrt(Pi)"},
+      {u"√ans^2", u"sqrt(ans)^2"},
       {u"√x+1", u"sqrt(x)+1"},
       {u"√√16", u"sqrt(sqrt(16))"},
       {u"√sin(30)", u"sqrt(sin(30))"},
@@ -70,6 +71,11 @@ TEST(OwnSpelling, WritesARootAsACallOfWhatStandsBehindIt) {
       {u"√-4", u"sqrt-4"},
   };
   for (const auto& [foreign, own] : rows) EXPECT_EQ(OwnSpelling(foreign), own) << Narrow(foreign);
+}
+
+TEST(OwnSpelling, ATextOfRootsAloneTakesNoTime) {
+  const std::u16string roots(100'000, u'√');
+  EXPECT_EQ(OwnSpelling(roots), roots);
 }
 
 TEST(OwnSpelling, TakesTheGroupingOfNumbersAway) {
