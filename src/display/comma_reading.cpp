@@ -1,6 +1,7 @@
 #include "display/comma_reading.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -72,12 +73,24 @@ std::size_t EndOfCall(std::u16string_view line, std::size_t open) {
   return line.size();
 }
 
+/// The place of the next such call. Seen once from the left: to look for each name by itself would
+/// go to the end of the line for every call of the other.
+std::size_t NextCall(std::u16string_view line) {
+  constexpr std::array kFirst{kMacroCall.front(), kEquationCall.front(), u'\0'};
+  std::size_t at = line.find_first_of(kFirst.data());
+  while (at != line.npos && !line.substr(at).starts_with(kMacroCall) &&
+         !line.substr(at).starts_with(kEquationCall)) {
+    at = line.find_first_of(kFirst.data(), at + 1);
+  }
+  return at;
+}
+
 /// Calls `see` with each part of `line`, in order, and whether it is between the arguments of a
 /// call, where commas separate.
 template <class See>
 void ForEachPart(std::u16string_view line, const See& see) {
   while (!line.empty()) {
-    const std::size_t call = std::min(line.find(kMacroCall), line.find(kEquationCall));
+    const std::size_t call = NextCall(line);
     const std::size_t open = call == line.npos ? call : line.find(u'(', call);
     see(line.substr(0, open), false);
     if (open == line.npos) return;

@@ -135,6 +135,15 @@ TEST(QuestionOfLine, AsksForNothingElse) {
   }
 }
 
+TEST(QuestionOfLine, ALineOfManyCallsTakesNoTime) {
+  for (const std::u16string_view call : {u"M:()"sv, u"linearequation()"sv, u"Ml"sv}) {
+    std::u16string line;
+    for (int i = 0; i < 100'000; ++i) line += call;
+    line += u"1,5";
+    EXPECT_TRUE(QuestionOfLine(line));
+  }
+}
+
 TEST(LineWithCommas, ReadsAllNumbersOfTheSameKindAlike) {
   const std::u16string_view line = u"1,234+5,678*1,5-M:F(1,234)";
   const auto first = QuestionOfLine(line);
