@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <iterator>
+#include <limits>
 #include <string_view>
 #include <utility>
 
@@ -42,6 +43,11 @@ constexpr milliseconds kPatience{2000};
 std::int64_t Now() {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
   return std::chrono::duration_cast<std::chrono::microseconds>(now).count();
+}
+
+/// The least id behind `id`. The largest of all has none behind it; no clock comes there.
+std::int64_t NextId(std::int64_t id) {
+  return id == std::numeric_limits<std::int64_t>::max() ? id : id + 1;
 }
 
 bool IsThere(const std::string& path) {
@@ -118,7 +124,7 @@ std::vector<PastLine> PastLinesFile::Of(PastRoom room) {
 }
 
 void PastLinesFile::Add(PastLine line) {
-  newestId_ = std::max(Now(), newestId_ + 1);
+  newestId_ = std::max(Now(), NextId(newestId_));
   line.id = newestId_;
   if (!AddTo(unsaved_, std::move(line))) return;
   Save(user_ == StoreUser::Window ? kNoPatience : kPatience);
@@ -178,7 +184,10 @@ PastLinesFile::Outcome PastLinesFile::Append(const std::string& file) {
   const auto error = AppendText(file, [this](std::string_view end) {
     std::vector<PastLine> lines = ReadRecords(end);
     std::string text;
-    for (const PastLine& past : unsaved_) {
+    for (PastLine& past : unsaved_) {
+      // Ids grow along the file, whatever the clocks of those who wrote it said.
+      if (!lines.empty()) past.id = std::max(past.id, NextId(lines.back().id));
+      newestId_ = std::max(newestId_, past.id);
       if (AddTo(lines, past)) text += RecordOf(past);
     }
     return text;

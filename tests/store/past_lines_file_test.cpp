@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <limits>
 #include <string>
 #include <thread>
 #include <utility>
@@ -73,6 +74,21 @@ TEST_F(PastLinesFileTest, WindowsAndPromptsAddToOneFile) {
   prompt.Add(Line("3", "", PastOrigin::Prompt));
   EXPECT_EQ(TextsOf(window), (Lines{"1", "2", "3"})) << "equal neighbours are one line";
   EXPECT_EQ(TextsOf(prompt), (Lines{"1", "2", "3"}));
+}
+
+TEST_F(PastLinesFileTest, IdsGrowAlongTheFileWhateverTheClockSays) {
+  constexpr std::int64_t kLast = std::numeric_limits<std::int64_t>::max();
+  for (const auto& [before, behind] :
+       {std::pair{std::int64_t{4102444800000000}, std::int64_t{4102444800000002}},
+        std::pair{kLast - 1, kLast}, std::pair{kLast, kLast}}) {
+    MakeFolder();
+    PutFile(path_, std::to_string(before) + "\tP\t1\t9+9\t18\n");
+    PastLinesFile file = Open();
+    file.Add(Line("1+1"));
+    file.Add(Line("2+2"));
+    EXPECT_EQ(TextsOf(file), (Lines{"9+9", "1+1", "2+2"}));
+    EXPECT_EQ(file.Of(PastRoom::Calculator).back().id, behind);
+  }
 }
 
 TEST_F(PastLinesFileTest, DeletingAndClearingReachTheDiskAndOtherProcesses) {
