@@ -48,7 +48,7 @@ std::optional<std::u16string> ScientificModel::LiveResult(std::u16string_view li
 }
 
 std::optional<std::u16string> ScientificModel::CopiedResult() const {
-  if (!errorText_.empty()) return std::nullopt;
+  if (showsMessage_) return std::nullopt;
   return PlainDigits(resultText_);
 }
 
@@ -169,6 +169,7 @@ void ScientificModel::Fail(const LineFailure& failure) {
   lastAnswer_ = 0;
   fault_ = FaultOf(expression_, failure, modes_, macros_);
   resultText_ = Widen(failure.message);
+  showsMessage_ = true;
   errorText_ = failure.cause == LineFailure::Cause::EmptyLine ? kNoExpression : resultText_;
   if (failure.cause == LineFailure::Cause::Evaluation) history_.Add(expression_);
 }
@@ -185,6 +186,7 @@ ScientificRequest ScientificModel::TakeMend() {
 }
 
 void ScientificModel::ShowAnswer() {
+  showsMessage_ = false;
   resultText_ = ShownNumber(lastAnswer_, format_, modes_.baseMode);
 }
 

@@ -123,6 +123,7 @@ class ScientificModel {
   std::u16string expression_;
   std::u16string errorText_;
   std::u16string resultText_;
+  bool showsMessage_ = false;  ///< in place of an answer; another base writes that again
   double lastAnswer_ = 0;
   std::optional<AnsweredLine> answered_;  ///< by the last "="
   std::optional<LineFault> fault_;        ///< of that line, if it failed

@@ -39,6 +39,10 @@ TEST_F(Copy, AMessageIsNoResult) {
   Evaluate(u"1/0");
   EXPECT_EQ(Copied(), u"none");
   EXPECT_EQ(Line(), u"none");
+  model_->Choose(Key::Dec, kHexadecimalItem);
+  EXPECT_EQ(Result(), u"0");
+  EXPECT_EQ(Copied(), u"0") << "the message is gone";
+  EXPECT_EQ(Line(), u"none");
   Evaluate(u"1+1");
   EXPECT_EQ(Copied(), u"2");
 }
