@@ -35,7 +35,9 @@ void PromptLines::TakeOver() {
 }
 
 void PromptLines::Add(const std::string& line, const Answer& answer) {
-  if (store_.Get(kHistoryKept) == 0) return editor_.Remember(line);
+  // What no file keeps lasts until the prompt ends.
+  const bool isKept = store_.Get(kHistoryKept) != 0 && line.size() <= PastLines::kLongestLine;
+  if (!isKept) return editor_.Remember(line);
   PastLine past;
   past.origin = PastOrigin::Prompt;
   past.base = static_cast<std::int32_t>(options_.base);

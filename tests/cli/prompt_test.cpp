@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "cli/terminal.h"
+#include "settings/past_lines.h"
 #include "support/temporary_folder.h"
 
 namespace kav::test::prompt_test {
@@ -234,6 +235,16 @@ TEST_F(Prompt, NothingIsKeptIfTheSettingsSaySo) {
   terminal.Type(kUp);
   EXPECT_TRUE(terminal.Shows("20+3")) << "until the prompt ends";
   EXPECT_FALSE(Exists(State("past_lines")));
+}
+
+TEST_F(Prompt, ALineThatIsTooLongToBeKeptIsStillTheOneBefore) {
+  Terminal terminal({}, Environment());
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type(std::string(PastLines::kLongestLine + 1, '1') + "\r");
+  ASSERT_TRUE(terminal.Shows("error: "));
+  ASSERT_TRUE(terminal.Shows("> "));
+  terminal.Type(std::string(kUp) + "\r");
+  EXPECT_TRUE(terminal.Shows("error: "));
 }
 
 TEST_F(Prompt, TheHistoryFollowsXdgStateHomeAndIsForItsOwnerOnly) {
