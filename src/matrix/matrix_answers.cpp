@@ -46,10 +46,13 @@ bool MatrixAnswers::TakesNumbers() const {
 MatrixOutcome MatrixAnswers::Evaluate(const std::u16string& line) {
   fault_.reset();
   evaluated_.reset();
+  const bool isMatrixLine = IsMatrixExpression(TrimBlanks(std::u16string_view(line)));
+  // Not answered: the text is still that of an earlier line.
+  if (!isMatrixLine && !TakesNumbers()) return Nothing{};
   MatrixOutcome outcome = Nothing{};
-  if (IsMatrixExpression(TrimBlanks(std::u16string_view(line)))) {
+  if (isMatrixLine) {
     outcome = EvaluateMatrix(line);
-  } else if (TakesNumbers()) {
+  } else {
     EvaluateNumber(line);
   }
   answered_ = AnsweredLine{line, modes_};

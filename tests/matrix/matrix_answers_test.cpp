@@ -56,6 +56,14 @@ TEST_F(MatrixAnswersTest, AMatrixGoesToTheBoardAndNoNumberStandsBesideIt) {
   EXPECT_EQ(answers_.Text(), u"");
 }
 
+TEST_F(MatrixAnswersTest, ALineThatIsNotAnsweredHasNoResultOfAnother) {
+  answers_.Evaluate(u"1+1");
+  board_.Show(kAnswerMatrix);
+  answers_.Evaluate(u"5*5");
+  EXPECT_EQ(answers_.Text(), u"2");
+  EXPECT_EQ(answers_.CopiedLine(), u"1+1 = 2");
+}
+
 TEST_F(MatrixAnswersTest, AMatrixThatCannotBeUsedIsNamed) {
   const MatrixOutcome outcome = answers_.Evaluate(u"[M2]*3");
   EXPECT_TRUE(std::holds_alternative<TellStop>(outcome));
