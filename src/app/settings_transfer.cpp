@@ -1,7 +1,6 @@
 #include "app/settings_transfer.h"
 
 #include <array>
-#include <cstddef>
 #include <utility>
 
 #include "common/number_text.h"
@@ -19,9 +18,6 @@ namespace {
 
 constexpr FileKind kSettingsFile{u"Settings(*.toml)", u"toml"};
 
-/// Longer than any file of settings.
-constexpr std::size_t kMostToImport = std::size_t{4} << 20U;
-
 }  // namespace
 
 void SaveExport(QWidget* parent, std::string_view text) {
@@ -36,7 +32,7 @@ void SaveExport(QWidget* parent, std::string_view text) {
 std::optional<std::string> AskForImport(QWidget* parent) {
   const auto path = AskFileToOpen(parent, kSettingsFile);
   if (!path) return std::nullopt;
-  auto text = ReadWholeFile(*path, kMostToImport);
+  auto text = ReadWholeFile(*path, kLargestSettingsFile);
   if (!text) {
     const bool isTooLarge = text.error() == FileError::TooLarge;
     ShowStop(parent, isTooLarge

@@ -23,12 +23,13 @@
 #include "settings/file_descriptor.h"
 #include "settings/file_error_texts.h"
 #include "store/settings_texts.h"
+#include "store/settings_toml.h"
 
 namespace kav {
 namespace {
 
-// Longer than any file of settings, so that the store refuses what is cut here.
-constexpr std::size_t kMostToImport = std::size_t{8} << 20U;
+// The store refuses what is cut here.
+constexpr std::size_t kMostToImport = kLargestSettingsFile + 1;
 
 /// What the line names, or standard input or output.
 std::string_view FileOf(const CommandLine& line) {

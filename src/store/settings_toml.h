@@ -1,6 +1,7 @@
 // Settings as TOML: one table per section, integers and strings by type.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <optional>
@@ -10,6 +11,10 @@
 #include "settings/settings_store.h"
 
 namespace kav {
+
+/// In bytes. A larger file is no settings file: with all lists full, they are some hundred
+/// kilobytes, and each save reads and writes all of them.
+inline constexpr std::size_t kLargestSettingsFile = std::size_t{4} << 20U;
 
 /// Settings by section and name. A section without settings may be missing.
 using SettingsSection = std::map<std::string, StoredSetting, std::less<>>;

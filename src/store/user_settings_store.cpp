@@ -2,7 +2,6 @@
 
 #include <unistd.h>
 
-#include <cstddef>
 #include <new>
 #include <utility>
 #include <variant>
@@ -18,9 +17,6 @@
 namespace kav {
 namespace {
 
-// A larger file is no settings file: with all lists full, they are some hundred kilobytes, and each
-// save reads and writes all of them.
-constexpr std::size_t kLargestFile = std::size_t{4} << 20U;
 constexpr std::chrono::milliseconds kPatience{2000};
 // Long enough for a process that saves just then, short enough not to be felt.
 constexpr std::chrono::milliseconds kPatienceOfWindow{250};
@@ -45,7 +41,7 @@ Answer WithMemoryFor(const Action& action, const Answer& otherwise) {
 
 /// The content of a settings file; empty if there is no file yet.
 FileContent ReadFile(const std::string& path) {
-  auto content = ReadWholeFile(path, kLargestFile);
+  auto content = ReadWholeFile(path, kLargestSettingsFile);
   if (content) return *std::move(content);
   switch (content.error()) {
     case FileError::NotThere:
@@ -83,7 +79,7 @@ ReadOutcome ReadStored(const std::string& path) {
 
 /// The settings in `toml`, which is about to be written; nullopt if it would not read back.
 std::optional<SettingsTable> ReadBack(std::string_view toml) {
-  return toml.size() > kLargestFile ? std::nullopt : ReadSettings(toml);
+  return toml.size() > kLargestSettingsFile ? std::nullopt : ReadSettings(toml);
 }
 
 void Lay(SettingsTable& under, const SettingsTable& over) {
@@ -275,7 +271,7 @@ Expected<std::string, std::u16string> UserSettingsStore::Export() const {
 }
 
 std::optional<std::u16string> UserSettingsStore::Import(std::string_view toml) {
-  if (toml.size() > kLargestFile) return std::u16string(kTooLargeForSettings);
+  if (toml.size() > kLargestSettingsFile) return std::u16string(kTooLargeForSettings);
   if (!IsExport(toml)) return std::u16string(kNoSettingsToImport);
   const auto settings = ReadSettings(toml);
   auto hindrance =
