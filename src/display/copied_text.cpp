@@ -3,14 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "common/ascii.h"
 #include "common/number_text.h"
 
 namespace kav {
 namespace {
-
-bool IsDigit(char16_t c) {
-  return c >= u'0' && c <= u'9';
-}
 
 /// Whether the comma at `at` stands before a group of three digits, and behind a digit.
 bool Groups(std::u16string_view text, std::size_t at) {
@@ -18,7 +15,7 @@ bool Groups(std::u16string_view text, std::size_t at) {
   if (at == 0 || !IsDigit(text[at - 1]) || text.size() <= at + kGroup) return false;
   const std::u16string_view group = text.substr(at + 1, kGroup);
   const bool goesOn = text.size() > at + 1 + kGroup && IsDigit(text[at + 1 + kGroup]);
-  return std::all_of(group.begin(), group.end(), IsDigit) && !goesOn;
+  return std::all_of(group.begin(), group.end(), IsDigit<char16_t>) && !goesOn;
 }
 
 }  // namespace

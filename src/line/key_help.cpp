@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "common/number_text.h"
+#include "line/line_words.h"
 #include "line/screen_commands.h"
 #include "line/screen_keyboard.h"
 
@@ -16,14 +17,6 @@ std::u16string Listed(std::string_view shortcut) {
   std::u16string text = Widen(shortcut);
   std::replace(text.begin(), text.end(), u';', u',');
   return text;
-}
-
-std::u16string InLowerCase(std::u16string_view text) {
-  std::u16string lower(text);
-  for (char16_t& c : lower) {
-    if (c >= u'A' && c <= u'Z') c = static_cast<char16_t>(c - u'A' + u'a');
-  }
-  return lower;
 }
 
 std::vector<std::u16string> WordsOf(std::u16string_view text) {

@@ -2,24 +2,21 @@
 
 #include <algorithm>
 
+#include "common/ascii.h"
+
 namespace kav {
 namespace {
 
-bool IsDigit(char16_t c) {
-  return c >= u'0' && c <= u'9';
-}
-
 bool IsDigitOfHex(char16_t c) {
-  return IsDigit(c) || (c >= u'A' && c <= u'F') || (c >= u'a' && c <= u'f');
+  return DigitValue(LowerCase(c)) < 16;
 }
 
 /// Whether `c` may be part of a name. Half of a character beyond 16 bits is, too: both halves go
 /// together.
-bool IsLetter(char16_t c) {
+bool IsOfName(char16_t c) {
   constexpr char16_t kFirstBeyondSigns = 0xC0;
   const bool isSign = c == u'×' || c == u'÷' || (c >= 0x2000 && c < 0x2C00);
-  return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c == u'_' ||
-         (c >= kFirstBeyondSigns && !isSign);
+  return IsLetter(c) || c == u'_' || (c >= kFirstBeyondSigns && !isSign);
 }
 
 /// What comes behind the characters from `at` on for which `belongs` is true.
@@ -33,7 +30,7 @@ std::size_t EndOf(std::u16string_view text, std::size_t at, const Belongs& belon
 std::size_t EndOfGroup(std::u16string_view text, std::size_t at) {
   constexpr std::size_t kGroup = 3;
   if (at >= text.size() || text[at] != u',') return at;
-  const std::size_t end = EndOf(text, at + 1, IsDigit);
+  const std::size_t end = EndOf(text, at + 1, IsDigit<char16_t>);
   return end == at + 1 + kGroup ? end : at;
 }
 
@@ -42,7 +39,7 @@ std::size_t EndOfExponent(std::u16string_view text, std::size_t at) {
   if (at >= text.size() || (text[at] != u'E' && text[at] != u'e')) return at;
   std::size_t digits = at + 1;
   if (digits < text.size() && (text[digits] == u'+' || text[digits] == u'-')) ++digits;
-  const std::size_t end = EndOf(text, digits, IsDigit);
+  const std::size_t end = EndOf(text, digits, IsDigit<char16_t>);
   return end > digits ? end : at;
 }
 
@@ -51,7 +48,7 @@ enum class Commas { Group, Separate };
 
 /// The end of the decimal number at `at`; `at` if there is none.
 std::size_t EndOfDecimal(std::u16string_view text, std::size_t at, Commas commas) {
-  std::size_t end = EndOf(text, at, IsDigit);
+  std::size_t end = EndOf(text, at, IsDigit<char16_t>);
   std::size_t group = end;
   if (end > at && commas == Commas::Group) group = EndOfGroup(text, end);
   while (group != end) {
@@ -59,7 +56,7 @@ std::size_t EndOfDecimal(std::u16string_view text, std::size_t at, Commas commas
     group = EndOfGroup(text, end);
   }
   const bool hasPoint = end < text.size() && text[end] == u'.';
-  const std::size_t fraction = hasPoint ? EndOf(text, end + 1, IsDigit) : end;
+  const std::size_t fraction = hasPoint ? EndOf(text, end + 1, IsDigit<char16_t>) : end;
   const bool isPointAlone = end == at && fraction <= end + 1;
   return isPointAlone ? at : EndOfExponent(text, fraction);
 }
@@ -70,7 +67,7 @@ std::size_t EndOfWord(std::u16string_view text, std::size_t at, BaseMode base, C
                                  ? EndOf(text, at, IsDigitOfHex)
                                  : EndOfDecimal(text, at, commas);
   if (number > at) return number;
-  const std::size_t name = EndOf(text, at, [](char16_t c) { return IsLetter(c) || IsDigit(c); });
+  const std::size_t name = EndOf(text, at, [](char16_t c) { return IsOfName(c) || IsDigit(c); });
   return std::max(name, at + 1);
 }
 
