@@ -111,17 +111,17 @@ void PastSide::Toggle() {
   IsShown() ? Close() : Show();
 }
 
-void PastSide::SetWanted(bool wanted) {
-  isWanted_ = wanted;
+void PastSide::RememberWanted() {
   if (neighbour_ != PastNeighbour::Column) return;
-  frame_.Store().Set(kHistoryShown, wanted ? kShown : kHidden);
+  frame_.Store().Set(kHistoryShown, isWanted_ ? kShown : kHidden);
   frame_.SaveStore();
 }
 
 void PastSide::Show() {
   const bool hasRoom = !PlacesBeside(screen_.size(), neighbour_).history.isEmpty();
   if (hasRoom) {
-    SetWanted(true);
+    isWanted_ = true;
+    RememberWanted();
     hooks_.layOut();
   } else {
     isOver_ = true;
@@ -135,8 +135,12 @@ void PastSide::Show() {
 
 void PastSide::Close() {
   const bool wasOver = std::exchange(isOver_, false);
-  if (!wasOver) SetWanted(false);
-  if (wasOver) hooks_.uncover();
+  if (wasOver) {
+    hooks_.uncover();
+  } else {
+    isWanted_ = false;
+    RememberWanted();
+  }
   hooks_.leave();
   Hide();
   if (!wasOver) hooks_.layOut();

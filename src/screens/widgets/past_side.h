@@ -67,7 +67,7 @@ class PastSide final : public QObject {
   void Place();
   void Hide();
   void Take(const PastLine& past, PastPart part);
-  void SetWanted(bool wanted);
+  void RememberWanted();
 
   QWidget& screen_;
   Frame& frame_;
