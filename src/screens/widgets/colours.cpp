@@ -155,6 +155,12 @@ QPalette PaletteIn(ColourScheme scheme) {
   return palette;
 }
 
+QColor Mixed(const QColor& colour, const QColor& other, double share) {
+  const auto mix = [share](int a, int b) { return qRound(a * share + b * (1 - share)); };
+  return {mix(colour.red(), other.red()), mix(colour.green(), other.green()),
+          mix(colour.blue(), other.blue())};
+}
+
 double ContrastBetween(const QColor& one, const QColor& other) {
   constexpr double kGlare = 0.05;  // what even black gives back
   const auto [dark, light] = std::minmax({LuminanceOf(one), LuminanceOf(other)});

@@ -91,6 +91,9 @@ inline bool HasStrongEdges(ColourScheme scheme) {
 /// windows have the same one: those behind the one in front need no new painting.
 QPalette PaletteIn(ColourScheme scheme);
 
+/// `share` (0 to 1) of `colour`, the rest of `other`; both opaque.
+QColor Mixed(const QColor& colour, const QColor& other, double share);
+
 /// How well two opaque colours can be told apart: from 1, not at all, to 21, black and white. Texts
 /// are read with ease from 4.5 on.
 double ContrastBetween(const QColor& one, const QColor& other);

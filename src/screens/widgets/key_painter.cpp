@@ -9,13 +9,6 @@
 namespace kav {
 namespace {
 
-/// `share` (0 to 1) of `colour`, the rest of `other`.
-QColor Mixed(QColor colour, QColor other, double share) {
-  const auto mix = [share](int a, int b) { return qRound(a * share + b * (1 - share)); };
-  return {mix(colour.red(), other.red()), mix(colour.green(), other.green()),
-          mix(colour.blue(), other.blue())};
-}
-
 /// The edge of a key: between its own colour and that of all edges, which in the strongest contrast
 /// is the edge itself.
 QColor EdgeOf(const QColor& background) {

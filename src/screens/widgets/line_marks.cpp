@@ -4,17 +4,10 @@
 #include <cstddef>
 
 #include "line/parentheses.h"
+#include "screens/widgets/colours.h"
 
 namespace kav {
 namespace {
-
-/// `share` (0 to 1) of `colour`, the rest of `ground`.
-QColor Mixed(const QColor& colour, const QColor& ground, float share) {
-  const auto part = [share](float a, float b) { return share * a + (1 - share) * b; };
-  return QColor::fromRgbF(part(colour.redF(), ground.redF()),
-                          part(colour.greenF(), ground.greenF()),
-                          part(colour.blueF(), ground.blueF()));
-}
 
 int Length(Selection place) {
   return static_cast<int>(place.end - place.start);
@@ -23,7 +16,7 @@ int Length(Selection place) {
 }  // namespace
 
 QColor FaintColour(const QPalette& palette) {
-  constexpr float kShare = 0.62F;
+  constexpr double kShare = 0.62;
   return Mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), kShare);
 }
 
@@ -47,7 +40,7 @@ std::vector<MarkedPart> MarkedParts(std::u16string_view text, Selection selected
 }
 
 QTextCharFormat FormatOf(LineMark mark, const QPalette& palette) {
-  constexpr float kTint = 0.25F;
+  constexpr double kTint = 0.25;
   QTextCharFormat format;
   format.setBackground(
       Mixed(palette.color(QPalette::Highlight), palette.color(QPalette::Base), kTint));
