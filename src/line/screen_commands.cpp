@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "line/past_lines_texts.h"
+
 namespace kav {
 namespace {
 
@@ -26,7 +28,7 @@ constexpr std::array kShortcuts{
     ShortcutRow{"Ctrl+Shift+C", ScreenCommand::CopyLine, u"copy the line and its result"},
     ShortcutRow{"Ctrl+V", {},                         u"paste"},
     ShortcutRow{"Ctrl+A", {},                         u"select all"},
-    ShortcutRow{"Ctrl+H", {},                         u"show or hide the history of the scientific and the matrix screen"},
+    ShortcutRow{kHistoryKeys, {},                         u"show or hide the history of the scientific and the matrix screen"},
     ShortcutRow{"Tab; Shift+Tab", {},                 u"go on to the next field or key, and back"},
     ShortcutRow{"Arrow", {},                         u"go from key to key, once one has the focus"},
     ShortcutRow{"Space",  {},                         u"press the key that has the focus"},
