@@ -166,5 +166,13 @@ TEST_F(LineFaultTest, AnotherQuestionStandsBelowTheLineAgain) {
   EXPECT_EQ(Strip()->y(), Result(screen_).geometry().bottom() + 1);
 }
 
+TEST_F(LineFaultTest, NothingIsOfferedBelowTheHistory) {
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_H, Qt::ControlModifier);
+  EXPECT_FALSE(IsOffered());
+  Key(Qt::Key_Escape);
+  EXPECT_TRUE(LineHasFocus());
+  EXPECT_EQ(LineOf(screen_), u"[2*(3]");
+}
+
 }  // namespace
 }  // namespace kav::test::line_fault_test

@@ -78,6 +78,8 @@ std::vector<MenuEntry> LineScreen::MoreToEdit() {
 }
 
 void LineScreen::Cover() {
+  // Below the history nobody sees what Down leads to.
+  OfferStripOf(*line_).Drop();
   result_->hide();
   Keys().hide();
 }
