@@ -18,9 +18,10 @@ namespace {
 /// A few matrices, in memory.
 class FewMatrices final : public IntermediateMatrices {
  public:
+  explicit FewMatrices(int most) : most_(most) {}
+
   bool Write(const std::string& name, const MatrixValue& matrix) override {
-    constexpr int kMostWritten = 6;
-    if (++written_ > kMostWritten) return false;
+    if (++written_ > most_) return false;
     matrices_[name] = matrix;
     return true;
   }
@@ -32,18 +33,19 @@ class FewMatrices final : public IntermediateMatrices {
 
  private:
   std::map<std::string, MatrixValue> matrices_;
+  int most_;
   int written_ = 0;
 };
 
-/// Whether each exponent is a number of one digit.
-bool HasSmallExponents(std::u16string_view line) {
+/// Whether each exponent is a number of at most `most` digits.
+bool HasSmallExponents(std::u16string_view line, std::size_t most) {
   for (std::size_t at = line.find(u'^'); at != line.npos; at = line.find(u'^', at + 1)) {
     std::u16string_view rest = line.substr(at + 1);
     rest.remove_prefix(std::min(rest.find_first_not_of(u' '), rest.size()));
     std::size_t digits = 0;
     while (digits < rest.size() && IsDigit(rest[digits])) ++digits;
     const bool goesOn = digits < rest.size() && (rest[digits] == u'.' || IsLetter(rest[digits]));
-    if (digits != 1 || goesOn) return false;
+    if (digits == 0 || digits > most || goesOn) return false;
   }
   return true;
 }
@@ -55,10 +57,12 @@ std::u16string OrderText(const MatrixValue& matrix) {
 }  // namespace
 
 std::optional<std::u16string> LiveOrder(std::u16string_view line, const Matrices& matrices,
-                                        std::optional<double> answer) {
-  if (line.size() > kLongestLiveLine || !HasSmallExponents(line)) return std::nullopt;
+                                        std::optional<double> answer, const MatrixEffort& effort) {
+  if (line.size() > kLongestLiveLine || !HasSmallExponents(line, effort.exponentDigits)) {
+    return std::nullopt;
+  }
   if (FirstInvalidMatrix(line, matrices)) return std::nullopt;
-  FewMatrices intermediate;
+  FewMatrices intermediate(effort.intermediates);
   const auto result = MatrixEvaluator(matrices, intermediate).Evaluate(Narrow(line), answer);
   return result ? std::optional(OrderText(*result)) : std::nullopt;
 }

@@ -17,7 +17,7 @@ namespace {
 bool HasValue(std::u16string_view line, const MatrixLineContext& context) {
   const std::u16string_view text = TrimBlanks(line);
   if (IsMatrixExpression(text)) {
-    return LiveOrder(text, context.matrices, context.modes.answer).has_value();
+    return LiveOrder(text, context.matrices, context.modes.answer, kEffortAfterEquals).has_value();
   }
   return context.takesNumbers && EvaluateLine(Narrow(text), context.modes, context.macros);
 }

@@ -29,6 +29,9 @@ TEST_F(MatrixFaultTest, AMatrixLineIsMendedAsALineOfNumbersIs) {
   EXPECT_EQ(Of(u"determinant([M1]").mended, u"determinant([M1])");
   EXPECT_EQ(Of(u"2[M1]").mended, u"2*[M1]");
   EXPECT_EQ(Of(u"2*sine(30)").mended, u"2*sin(30)");
+  // More than is calculated after each key.
+  EXPECT_EQ(Of(u"2[M1]^12").mended, u"2*[M1]^12");
+  EXPECT_EQ(Of(u"2[M1]*1*1*1*1*1*1*1*1*1").mended, u"2*[M1]*1*1*1*1*1*1*1*1*1");
 }
 
 TEST_F(MatrixFaultTest, WhatHasNoValueThenIsNoMend) {
