@@ -118,6 +118,8 @@ std::vector<PastLine> PastLinesFile::Of(PastRoom room) {
   const milliseconds patience = user_ == StoreUser::Window ? kNoPatience : kPatience;
   if (!unsaved_.empty() || (!IsThere(path_) && IsThere(old_))) Save(patience);
   std::vector<PastLine> lines = ReadLines(path_).value_or(std::vector<PastLine>());
+  // Who has seen a line that waits to be kept knows it by its id: that should not have to change.
+  if (!lines.empty()) newestId_ = std::max(newestId_, lines.back().id);
   for (const PastLine& past : unsaved_) AddTo(lines, past);
   std::erase_if(lines, [room](const PastLine& past) { return RoomOf(past.origin) != room; });
   return lines;

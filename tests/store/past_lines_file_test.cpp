@@ -78,17 +78,37 @@ TEST_F(PastLinesFileTest, WindowsAndPromptsAddToOneFile) {
 
 TEST_F(PastLinesFileTest, IdsGrowAlongTheFileWhateverTheClockSays) {
   constexpr std::int64_t kLast = std::numeric_limits<std::int64_t>::max();
-  for (const auto& [before, behind] :
-       {std::pair{std::int64_t{4102444800000000}, std::int64_t{4102444800000002}},
-        std::pair{kLast - 1, kLast}, std::pair{kLast, kLast}}) {
+  struct Row {
+    std::int64_t before, first, second;
+  };
+  for (const Row& row : {Row{4102444800000000, 4102444800000001, 4102444800000002},
+                         Row{kLast - 1, kLast, kLast}, Row{kLast, kLast, kLast}}) {
     MakeFolder();
-    PutFile(path_, std::to_string(before) + "\tP\t1\t9+9\t18\n");
+    PutFile(path_, std::to_string(row.before) + "\tP\t1\t9+9\t18\n");
     PastLinesFile file = Open();
     file.Add(Line("1+1"));
+    EXPECT_EQ(file.Of(PastRoom::Calculator).back().id, row.first);
     file.Add(Line("2+2"));
     EXPECT_EQ(TextsOf(file), (Lines{"9+9", "1+1", "2+2"}));
-    EXPECT_EQ(file.Of(PastRoom::Calculator).back().id, behind);
+    EXPECT_EQ(file.Of(PastRoom::Calculator).back().id, row.second);
   }
+}
+
+TEST_F(PastLinesFileTest, ALineThatWaitsHasTheIdThatItKeeps) {
+  MakeFolder();
+  PutFile(path_, "4102444800000000\tP\t1\t9+9\t18\n");
+  PastLinesFile window = Open(StoreUser::Window);
+  EXPECT_EQ(TextsOf(window), (Lines{"9+9"}));
+  std::int64_t seen = 0;
+  {
+    const auto lock = FileLock::AcquireFor(path_, std::chrono::milliseconds(0));
+    window.Add(Line("1+1"));
+    seen = window.Of(PastRoom::Calculator).back().id;
+    EXPECT_EQ(Text().find("1+1"), std::string::npos);
+  }
+  EXPECT_TRUE(window.TrySave());
+  EXPECT_TRUE(window.Remove(seen));
+  EXPECT_EQ(TextsOf(window), (Lines{"9+9"}));
 }
 
 TEST_F(PastLinesFileTest, DeletingAndClearingReachTheDiskAndOtherProcesses) {
