@@ -93,6 +93,8 @@ class TextRoomTest : public testing::Test {
         dialog.hide();
       });
       open(&window);
+      if (!AreTextsLarge() || size != windows_.front()) continue;
+      EXPECT_EQ(UsualLettersOf(open, window, changes), usual) << "before and after larger ones";
     }
   }
 
