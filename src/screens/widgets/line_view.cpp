@@ -74,7 +74,7 @@ void LineView::paintEvent(QPaintEvent* event) {
   painter.setRenderHint(QPainter::Antialiasing);
   const double line = FocusLine() / (hasFocus() ? 1 : 2);
   // That of the keys: of those in the portrait area, or in a wide window of one as high.
-  const double radius = std::min(width() * 0.014, height() * 0.18);
+  const double radius = std::min(width() * 0.014, height() * 0.2);
   const QRectF outline = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
   QPainterPath corners;
   corners.addRect(rect());

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QIcon>
+#include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -197,8 +198,9 @@ class TextMeasuredStyle final : public QProxyStyle {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     // With a bar to scroll it by: the arrows of a menu are too small for fingers.
     if (hint == SH_ComboBox_Popup) return 0;
-    // A light shadow makes texts on dark paper stand out rather than back.
-    if (hint == SH_EtchDisabledText) return 0;
+    // A light shadow makes texts on dark paper stand out rather than back. (Elsewhere this decides
+    // how large a box with a text is.)
+    if (hint == SH_EtchDisabledText && qobject_cast<const QMenu*>(widget) != nullptr) return 0;
     // The desktop's own are darker than a window, and not to be seen on dark paper.
     if (hint == SH_Table_GridLineColor && SchemeNow() != ColourScheme::Light) {
       return static_cast<int>(ColourNow(Colour::GridLine).rgba());
