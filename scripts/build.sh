@@ -19,8 +19,10 @@ flock "$lock"
 
 # All presets compile the same sources, so they share what was compiled: by paths from here on, which
 # are the same in each folder of theirs. What is not there yet is compiled at once, instead of being
-# preprocessed first to be looked for.
+# preprocessed first to be looked for. Of headers that are read once for all, their content tells whether
+# they are the same, and none uses the time.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=yes CCACHE_ABSSTDERR=yes CCACHE_DEPEND=yes
+export CCACHE_SLOPPINESS=pch_defines,time_macros
 
 configure() {
   cmake --preset "$preset" "$@" </dev/null >/dev/null

@@ -186,11 +186,11 @@ std::string Repeated(std::string_view piece, std::size_t count) {
   return text;
 }
 
-/// The processor time of the shortest of five tries, in milliseconds: what other programs take on a
-/// busy machine does not count.
-double Milliseconds(const std::string& text, CalcModes modes) {
+/// The processor time of the first of five tries that took less than `most`, or of the shortest, in
+/// milliseconds: what other programs take on a busy machine does not count.
+double Milliseconds(const std::string& text, CalcModes modes, double most) {
   double least = 1e9;
-  for (int i = 0; i < 5; ++i) {
+  for (int i = 0; i < 5 && least >= most; ++i) {
     const test::ProcessorTime time;
     const auto answer = Evaluate(text, modes);
     least = std::min(least, time.Milliseconds());
@@ -227,7 +227,7 @@ TEST(LongText, IsAnsweredWithin10Milliseconds) {
       {"powers", Repeated("1^", 75) + "1"},
   };
   for (const auto& [name, text] : texts) {
-    for (const CalcModes modes : kModes) EXPECT_LT(Milliseconds(text, modes), most) << name;
+    for (const CalcModes modes : kModes) EXPECT_LT(Milliseconds(text, modes, most), most) << name;
   }
 }
 

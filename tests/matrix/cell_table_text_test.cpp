@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "common/number_text.h"
+#include "support/effort.h"
 #include "support/matrix_table.h"
 
 namespace kav::cell_table_text_test {
@@ -110,7 +111,7 @@ TEST(ReadCells, NumberOfElevenHundredCharactersIsTheLongest) {
 }
 
 TEST(ReadCells, TenMegabytesAreReadAtOnce) {
-  constexpr std::size_t kLength = 10'000'000;
+  constexpr std::size_t kLength = test::Sized(10'000'000);
   std::u16string manyCells;
   while (manyCells.size() < kLength) manyCells += u"1\t2\t\n";
   const std::u16string texts[] = {std::u16string(kLength, u'1'),  std::u16string(kLength, u' '),

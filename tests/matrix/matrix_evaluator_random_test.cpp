@@ -223,7 +223,7 @@ TEST(MatrixEvaluator, RandomExpressionsHaveTheValueOfTheSecondEvaluation) {
   MatrixEvaluator evaluator(matrices, files);
   Writer writer(20);
   int values = 0;
-  for (int i = 0; i < 4000; ++i) {
+  for (int i = 0; i < test::Tries(4000); ++i) {
     const std::string text = writer.Write(3);
     const auto result = evaluator.Evaluate(text);
     if (!result && result.error().message == "number exceeded length limit.") continue;
@@ -234,7 +234,7 @@ TEST(MatrixEvaluator, RandomExpressionsHaveTheValueOfTheSecondEvaluation) {
     ASSERT_EQ(Spelled(result), Spelled(*MatrixIn(expected))) << text;
     ++values;
   }
-  EXPECT_GT(values, 1000);
+  EXPECT_GT(values, test::Tries(1000));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <limits>
 
+#include "support/effort.h"
 #include "support/plotter_screen.h"
 #include "support/random.h"
 
@@ -102,7 +103,7 @@ TEST_F(PlotterScreen, AHistoryCountOutOfRangeIsBroughtIntoIt) {
 }
 
 TEST_F(PlotterScreen, StoredTextsOfAnyLengthDoNoHarm) {
-  const std::string text = "\n\t\xff" + std::string(2'000'000, 'x');
+  const std::string text = "\n\t\xff" + std::string(test::Sized(2'000'000), 'x');
   Set("Grapher", "Grapher FunTotalNumber", 1);
   Set("History", "GrapHistoryCount", 1);
   for (const char* name : {"Fun0", "X Min", "X Max", "Y Min", "Y Max"}) {
@@ -233,7 +234,7 @@ TEST_F(PlotterScreen, WithoutEquationsNothingCanBeDeleted) {
 TEST_F(PlotterScreen, AnyKeysLeaveAScreenThatHoldsItsRules) {
   test::Random random(5);
   const auto rows = PlotterKeyRows();
-  for (int i = 0; i < 20'000; ++i) {
+  for (int i = 0; i < test::Tries(20'000); ++i) {
     const PlotterKeyRow& row = rows[random.Below(rows.size())];
     const PlotterRequest request = model_->Press(row.key);
     if (Is<AskFirst<PlotterKey>>(request)) model_->DeleteEquation();

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "screens/constants_driver.h"
+#include "support/effort.h"
 
 namespace kav::test::constants_dlg_test {
 namespace {
@@ -274,7 +275,7 @@ TEST_F(ConstantsDlgTest, HostileTextsStayInTheirPlaces) {
 
 TEST_F(ConstantsDlgTest, AHostOfRowsIsFilteredAsOneTypes) {
   std::string rows;
-  while (rows.size() + 100 < (std::size_t{4} << 20U)) rows += "]a=1;";
+  while (rows.size() + 100 < Sized(std::size_t{4} << 20U)) rows += "]a=1;";
   Put(rows + "]last=2;");
   EXPECT_EQ(Run([](Constants c) {
               c.Type("last");

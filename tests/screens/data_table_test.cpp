@@ -10,6 +10,7 @@
 #include "screens/screen_driver.h"
 #include "screens/statistics/data_table_view.h"
 #include "screens/statistics/number_delegate_view.h"
+#include "support/effort.h"
 
 namespace kav::test::data_table_test {
 namespace {
@@ -33,7 +34,7 @@ class CountingModel final : public QIdentityProxyModel {
 
 class DataTableTest : public testing::Test {
  protected:
-  static constexpr int kMany = 1'000'000;
+  static constexpr int kMany = Tries(1'000'000);
 
   void Append(const std::string& value, std::optional<std::int32_t> count = 1) {
     ASSERT_EQ(list_.Append({{value, {}}, count}), std::nullopt);

@@ -12,6 +12,7 @@
 #include "screens/dialog_layout.h"
 #include "screens/screen_driver.h"
 #include "store/user_settings_store.h"
+#include "support/effort.h"
 #include "support/processor_time.h"
 #include "support/temporary_folder.h"
 
@@ -286,7 +287,8 @@ TEST_F(MemoryVariablesDlgTest, AValueWithLineBreaksIsShownInOneLineAndRecalledWh
 }
 
 TEST_F(MemoryVariablesDlgTest, TextsOfAMegabyteStayFluentAndAreRecalledWhole) {
-  const std::string value(1 << 20, '7');
+  const std::size_t length = Sized(1U << 20U);
+  const std::string value(length, '7');
   for (int i = 0; i < 20; ++i) Put(i, value);
   const ProcessorTime time;
   const Recalled recalled = Recall([&] {
@@ -295,7 +297,7 @@ TEST_F(MemoryVariablesDlgTest, TextsOfAMegabyteStayFluentAndAreRecalledWhole) {
     Tap(u"Recall");
   });
   EXPECT_LT(time.Milliseconds(), 5000);
-  EXPECT_EQ(recalled, std::u16string(1 << 20, u'7'));
+  EXPECT_EQ(recalled, std::u16string(length, u'7'));
 }
 
 TEST_F(MemoryVariablesDlgTest, OpeningShowsWhatAnotherProgramStoredAndStoringIsOnTheDisk) {

@@ -7,6 +7,7 @@
 #include <span>
 
 #include "display/text_scale.h"
+#include "support/effort.h"
 
 namespace kav::test {
 
@@ -33,13 +34,15 @@ inline bool AreTextsLarge() {
   return ScaleOfTexts() > kUsualTextScale;
 }
 
-/// Where the toolkit draws twice as large, the large windows take long and tell nothing more.
+/// Where the toolkit draws twice as large or a sanitizer watches it, the large windows take long
+/// and tell nothing more.
 inline std::span<const QSize> Windows() {
   if (AreTextsLarge()) return kWindowsOfLargeTexts;
   constexpr std::size_t kSmallOnes = 7;
   static_assert(kWindows[kSmallOnes - 1] == QSize(480, 640));
   const std::span<const QSize> all(kWindows);
-  return std::getenv("KAV_TEST_DPI") != nullptr ? all.first(kSmallOnes) : all;
+  const bool isSlow = !kIsFast || std::getenv("KAV_TEST_DPI") != nullptr;
+  return isSlow ? all.first(kSmallOnes) : all;
 }
 
 }  // namespace kav::test

@@ -15,6 +15,7 @@
 
 #include "store/file_lock.h"
 #include "store/user_settings_fixture.h"
+#include "support/effort.h"
 
 namespace kav::user_settings_store_test {
 namespace {
@@ -91,6 +92,7 @@ TEST_F(UserSettingsStoreTest, IntegersBeyond32BitsReadAsTheNearestOnes) {
 }
 
 TEST_F(UserSettingsStoreTest, AnyTextComesBackExactly) {
+  constexpr std::size_t kSigns = test::Sized(100'000);
   const std::vector<std::string> texts{
       "",
       " ",
@@ -109,9 +111,9 @@ TEST_F(UserSettingsStoreTest, AnyTextComesBackExactly) {
       "\tTab\t",
       "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80 \xEF\xBB\xBF\xEF\xBF\xBF\xF4\x8F\xBF\xBF",
       "\xC2\x85\xE2\x80\xA8\xE2\x80\xA9",
-      std::string(1 << 20, 'x'),
-      std::string(1 << 20, '\n'),
-      std::string(100'000, '.') + std::string(100'000, '[') + std::string(100'000, '='),
+      std::string(test::Sized(1U << 20U), 'x'),
+      std::string(test::Sized(1U << 20U), '\n'),
+      std::string(kSigns, '.') + std::string(kSigns, '[') + std::string(kSigns, '='),
   };
   for (const auto& text : texts) {
     UserSettingsStore store(path);

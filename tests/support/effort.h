@@ -1,7 +1,8 @@
-// How long tests that try values at random go on.
+// How long tests that try values at random go on, and how much those that are about speed take.
 #pragma once
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 
 namespace kav::test {
@@ -22,6 +23,12 @@ inline constexpr bool kIsFast = true;
 /// `count` tries, fewer if each of them is slow.
 constexpr int Tries(int count) {
   return kIsFast ? count : count / 10;
+}
+
+/// Of texts and lists of that size a tenth where each byte is slow. What a test proves of so many
+/// holds of fewer, only how fast they are does not show, which is for a build that is fast.
+constexpr std::size_t Sized(std::size_t size) {
+  return kIsFast ? size : size / 10;
 }
 
 /// The bits of a double, which tell -0 from 0 and one NaN from another.
