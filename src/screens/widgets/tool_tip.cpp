@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QStringList>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWidget>
 
