@@ -11,6 +11,8 @@
 
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_operations.h"
+#include "matrix/temporary_matrices.h"
+#include "support/effort.h"
 #include "support/matrix_table.h"
 #include "support/plain_matrix.h"
 #include "support/random.h"
