@@ -89,6 +89,8 @@ GuideBrowser::GuideBrowser() {
     if (isVisible()) FitPictures();
   });
   connect(verticalScrollBar(), &QAbstractSlider::actionTriggered, this, [this] { place_.reset(); });
+  // A text becomes as long as it is while it is laid out, which goes on behind a change.
+  connect(verticalScrollBar(), &QAbstractSlider::rangeChanged, this, [this] { KeepPlace(); });
 }
 
 void GuideBrowser::Open(std::u16string_view heading) {
