@@ -151,6 +151,13 @@ std::span<const StatisticsKeyRow> StatisticsKeyRows(DataShape shape) {
   return kTwoVariableRows;
 }
 
+const StatisticsKeyRow* RowOf(StatisticsKey key, DataShape shape) {
+  for (const StatisticsKeyRow& row : StatisticsKeyRows(shape)) {
+    if (row.key == key) return &row;
+  }
+  return nullptr;
+}
+
 const StatisticsPlaces& StatisticsPlacesOf(DataShape shape) {
   return shape == DataShape::OneVariable ? kOneVariablePlaces : kTwoVariablePlaces;
 }

@@ -33,6 +33,8 @@ struct StatisticsKeyRow {
 
 /// The buttons of a screen, each once, from the top.
 std::span<const StatisticsKeyRow> StatisticsKeyRows(DataShape shape);
+/// The row of `key` among them; nullptr if the screen has no such button.
+const StatisticsKeyRow* RowOf(StatisticsKey key, DataShape shape);
 
 /// Where the rest of a screen stands. While a row is edited, "Cancel" stands in place of the total.
 struct StatisticsPlaces {

@@ -1,7 +1,5 @@
 #include "statistics/statistics_model.h"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 
@@ -16,14 +14,6 @@
 
 namespace kav {
 namespace {
-
-/// A single row has no spread to show.
-constexpr std::size_t kRowsForResults = 2;
-
-/// A number as lists, fields and memory variables hold it.
-std::u16string PlainText(double value, DisplayFormat format) {
-  return InsertedNumber(value, format, BaseMode::Decimal);
-}
 
 /// Calls `use` with the row that holds `numbers` as texts.
 template <class Use>
@@ -63,14 +53,12 @@ void StatisticsModel::Select(std::optional<std::size_t> row) {
   // table reports that nothing is selected.
   if (row == selected_ && !row) return;
   selected_ = row;
-  enabled_.ofSelection = row.has_value();
+  buttons_.AfterSelecting(row.has_value());
 }
 
 std::u16string_view StatisticsModel::Caption(StatisticsKey key) const {
-  for (const StatisticsKeyRow& row : StatisticsKeyRows(Shape())) {
-    if (row.key == key) return row.caption;
-  }
-  return {};
+  const StatisticsKeyRow* row = RowOf(key, Shape());
+  return row != nullptr ? row->caption : std::u16string_view();
 }
 
 bool StatisticsModel::IsVisible(StatisticsKey key) const {
@@ -83,28 +71,19 @@ bool StatisticsModel::IsVisible(StatisticsKey key) const {
     default:
       break;
   }
-  const auto rows = StatisticsKeyRows(Shape());
-  return std::any_of(rows.begin(), rows.end(),
-                     [key](const StatisticsKeyRow& row) { return row.key == key; });
+  return RowOf(key, Shape()) != nullptr;
 }
 
 bool StatisticsModel::IsEnabled(StatisticsKey key) const {
   switch (key) {
-    case StatisticsKey::Add:
-    case StatisticsKey::Ok:
-    case StatisticsKey::Cancel:
-    case StatisticsKey::MemoryMenu:
-      return true;
     case StatisticsKey::Edit:
     case StatisticsKey::Delete:
-      return !IsEditing() && enabled_.ofSelection;
     case StatisticsKey::Clear:
     case StatisticsKey::Save:
-      return !IsEditing() && enabled_.ofRows;
     case StatisticsKey::Load:
-      return !IsEditing();
+      return !IsEditing() && buttons_.Allow(key);
     default:
-      return enabled_.ofResults;
+      return buttons_.Allow(key);
   }
 }
 
@@ -154,17 +133,15 @@ StatisticsRequest StatisticsModel::AddRow() {
   const auto refusal =
       WithRow(*typed, format_, [this](const DataRow& row) { return list_.InsertTop(row); });
   if (refusal) return AnswerTo(*refusal);
-  EnableGrown(before);
+  TakeGrown(before);
   MarkChanged();
   return FocusField{DataField::X};
 }
 
 /// Keeps selection and buttons right after rows were inserted above the `before` rows of the list.
-void StatisticsModel::EnableGrown(std::size_t before) {
-  const std::size_t now = list_.RowCount();
-  if (selected_) *selected_ += now - before;
-  if (before < 1 && now >= 1) enabled_.ofRows = true;
-  if (before < kRowsForResults && now >= kRowsForResults) enabled_.ofResults = true;
+void StatisticsModel::TakeGrown(std::size_t before) {
+  if (selected_) *selected_ += list_.RowCount() - before;
+  buttons_.AfterInserting(before, list_.RowCount());
 }
 
 void StatisticsModel::MarkChanged() {
@@ -196,8 +173,7 @@ StatisticsRequest StatisticsModel::ApplyEdit() {
 
 void StatisticsModel::EndEdit() {
   edited_.reset();
-  enabled_.ofSelection = true;
-  enabled_.ofRows = true;
+  buttons_.AfterEditing();
 }
 
 StatisticsRequest StatisticsModel::AskDelete() const {
@@ -209,8 +185,7 @@ StatisticsRequest StatisticsModel::AskDelete() const {
 void StatisticsModel::DeleteRow() {
   if (IsEditing() || !selected_ || list_.Erase(*selected_)) return;
   selected_.reset();
-  if (list_.RowCount() == kRowsForResults - 1) enabled_.ofResults = false;
-  if (list_.RowCount() == 0) enabled_.ofRows = false;
+  buttons_.AfterErasing(list_.RowCount());
   MarkChanged();
 }
 
@@ -223,8 +198,7 @@ void StatisticsModel::TakeRows(DataList rows) {
   DropRows(list_);
   list_ = std::move(rows);
   selected_.reset();
-  const std::size_t complete = list_.CompleteRowCount();
-  enabled_ = {false, complete >= 1, complete >= kRowsForResults};
+  buttons_.AfterLoading(list_.CompleteRowCount());
   MarkChanged();
   isModified_ = false;
 }
@@ -315,7 +289,7 @@ std::optional<std::u16string> StatisticsModel::PasteRows(std::u16string_view tex
   if (pasted == nullptr) return FailureOf(read);
   const std::size_t before = list_.RowCount();
   if (const auto refusal = list_.InsertTop(pasted->rows)) return WhyRowsDoNotFit(*refusal);
-  EnableGrown(before);
+  TakeGrown(before);
   if (list_.RowCount() != before) MarkChanged();
   DropRows(pasted->rows);
   if (pasted->complaint.empty()) return std::nullopt;
@@ -328,30 +302,9 @@ std::optional<std::u16string> StatisticsModel::PasteAt(const std::optional<DataC
   const auto number = cell ? OneCellOf(text) : std::nullopt;
   if (!number) return PasteRows(text, progress);
   const bool isThere = cell->row < list_.RowCount() && cell->column <= VariablesOf(Shape());
-  return isThere && !IsEditing() ? Overwrite(*cell, *number) : std::nullopt;
-}
-
-/// Gives a cell the number `text`; the other cells of its row stay as they are.
-std::optional<std::u16string> StatisticsModel::Overwrite(const DataCell& cell,
-                                                         std::u16string_view text) {
-  const DataField field = FieldOfColumn(cell.column, Shape());
-  TypedRow typed{u"0", u"0"};
-  typed.*TextOf(field) = text;
-  const auto read = ReadTypedRow(typed, Shape());
-  if (!read) return read.error().text;
-  std::array<std::string, kMostVariables> texts;
-  for (std::size_t i = 0; i < VariablesOf(Shape()); ++i) texts[i] = list_.ValueText(cell.row, i);
-  std::optional<std::int32_t> count;
-  if (!list_.CountText(cell.row).empty()) count = list_.Count(cell.row);
-  if (field == DataField::Count) {
-    count = read->count;
-  } else {
-    const double value = field == DataField::X ? read->x : read->y;
-    texts[cell.column] = Narrow(PlainText(value, format_));
-  }
-  const auto refusal = list_.Rewrite(cell.row, {{texts[0], texts[1]}, count});
-  if (refusal) return WhyRowsDoNotFit(*refusal);
-  selected_ = cell.row;
+  if (!isThere || IsEditing()) return std::nullopt;
+  if (auto refusal = OverwriteCell(list_, *cell, *number, format_)) return refusal;
+  selected_ = cell->row;
   EndEdit();
   MarkChanged();
   return std::nullopt;

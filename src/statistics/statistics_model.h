@@ -13,6 +13,7 @@
 #include "settings/settings_store.h"
 #include "statistics/data_fields.h"
 #include "statistics/data_list.h"
+#include "statistics/row_buttons.h"
 #include "statistics/statistics_keypad.h"
 #include "statistics/statistics_request.h"
 #include "statistics/statistics_texts.h"
@@ -101,23 +102,14 @@ class StatisticsModel {
   AngleUnit Angle() const;
 
  private:
-  /// The buttons that are enabled and disabled together. This depends on what was done to the list,
-  /// not only on what it holds.
-  struct EnabledButtons {
-    bool ofSelection = false;  ///< "Edit" and "Delete"
-    bool ofRows = false;       ///< "Clear" and "Save"
-    bool ofResults = false;
-  };
-
   StatisticsRequest Perform(StatisticsKey key);
   StatisticsRequest AddRow();
   StatisticsRequest BeginEdit();
   StatisticsRequest ApplyEdit();
   void EndEdit();
-  std::optional<std::u16string> Overwrite(const DataCell& cell, std::u16string_view text);
   StatisticsRequest AskDelete() const;
   void TakeRows(DataList rows);
-  void EnableGrown(std::size_t before);
+  void TakeGrown(std::size_t before);
   void MarkChanged();
 
   SettingsStore& store_;
@@ -127,7 +119,7 @@ class StatisticsModel {
   DataField focused_ = DataField::X;
   std::optional<std::size_t> selected_;
   std::optional<std::size_t> edited_;
-  EnabledButtons enabled_;
+  RowButtons buttons_;
   std::u16string resultText_ = u"0";
   double lastResult_ = 0;
   bool hasResult_ = false;  ///< else `resultText_` is what a new screen shows

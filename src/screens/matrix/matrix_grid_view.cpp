@@ -22,6 +22,7 @@
 #include "screens/widgets/message_box.h"
 #include "screens/widgets/offer_strip.h"
 #include "screens/widgets/qt_text.h"
+#include "screens/widgets/result_uses.h"
 
 namespace kav {
 namespace {
@@ -307,13 +308,8 @@ void MatrixGridView::Edit(EditCommand command) {
 }
 
 bool MatrixGridView::CanEdit(EditCommand command) const {
-  switch (command) {
-    case EditCommand::Cut:
-    case EditCommand::Copy:
-      return SelectedCells().has_value();
-    default:
-      return true;
-  }
+  const bool isOfCells = command == EditCommand::Cut || command == EditCommand::Copy;
+  return !isOfCells || SelectedCells().has_value();
 }
 
 std::optional<CellRange> MatrixGridView::SelectedCells() const {
@@ -324,15 +320,11 @@ std::optional<CellRange> MatrixGridView::SelectedCells() const {
 }
 
 void MatrixGridView::CopyCells() const {
-  const auto cells = SelectedCells();
-  if (!cells) return;
-  QApplication::clipboard()->setText(QString::fromStdU16String(model_.CopyCells(*cells)));
+  if (const auto cells = SelectedCells()) CopyText(model_.CopyCells(*cells));
 }
 
 void MatrixGridView::CutCells() {
-  const auto cells = SelectedCells();
-  if (!cells) return;
-  QApplication::clipboard()->setText(QString::fromStdU16String(model_.CutCells(*cells)));
+  if (const auto cells = SelectedCells()) CopyText(model_.CutCells(*cells));
 }
 
 void MatrixGridView::PasteCells(const QString& pasted) {

@@ -87,7 +87,7 @@ class MatrixGridView final {
   std::optional<CellRange> SelectedCells() const;
   void CopyCells() const;
   void CutCells();
-  void PasteCells(const QString& text);
+  void PasteCells(const QString& pasted);
   void PasteText(const std::u16string& text);
   void DropOn(GridCell cell, const QString& text);
   void SelectAll();
