@@ -6,10 +6,19 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <functional>
+#include <memory>
+#include <vector>
 
 #include "screens/box_watch.h"
+#include "screens/help/guide_dlg.h"
+#include "screens/help/keys_dlg.h"
 #include "screens/screen_driver.h"
+#include "screens/widgets/file_choice.h"
+#include "screens/widgets/message_box.h"
+#include "settings/keys.h"
 
 namespace kav::test::dialog_test {
 namespace {
@@ -155,6 +164,106 @@ TEST_F(DialogTest, EscapeIsTheAnswerNo) {
   SampleDialog dialog(&screen_);
   BoxWatch::Instance().ExpectDialog([](QDialog& open) { QTest::keyClick(&open, Qt::Key_Escape); });
   EXPECT_FALSE(dialog.RunModal());
+}
+
+/// What stands over a screen that is a column beside the history.
+class DialogOverColumnTest : public testing::Test {
+ protected:
+  DialogOverColumnTest() : screen_(MakeScientificScreen(frame_)) {}
+
+  void ShowAt(QPoint place, QSize size) {
+    screen_->move(place);
+    Show(*screen_, size);
+  }
+  /// In its frame, what `open` shows, which is closed then.
+  QRect PlaceOf(const std::function<void(QWidget* over)>& open) {
+    QRect place;
+    QTimer::singleShot(0, [&] {
+      QWidget* shown = QApplication::activeModalWidget();
+      ASSERT_NE(shown, nullptr);
+      place = shown->geometry();
+      EXPECT_TRUE(shown->screen()->availableGeometry().contains(shown->frameGeometry()));
+      static_cast<QDialog*>(shown)->reject();
+    });
+    open(screen_.get());
+    return place;
+  }
+
+  /// A box is placed by its frame: so far its middle may be from that of the screen.
+  static constexpr int kFrame = 4;
+
+  struct Row {
+    const char* name;
+    std::function<void(QWidget*)> open;
+  };
+  // Each kind of them finds its place by itself.
+  const std::vector<Row> rows_{
+      {"dialog", [](QWidget* over) { SampleDialog(over).RunModal(); }},
+      {"keys", [](QWidget* over) { RunKeys(over, {}); }},
+      {"file",
+       [](QWidget* over) {
+         AskFileToOpen(over, {u"Text (*.txt)", u"txt"});
+       }},
+  };
+  const Row box_{"box", [](QWidget* over) { ShowStop(over, u"Division by zero."); }};
+
+  FakeFrame frame_;
+  std::unique_ptr<QWidget> screen_;
+};
+
+TEST_F(DialogOverColumnTest, TheyStandOverTheColumnAndNotOverTheMiddle) {
+  ShowAt({20, 30}, {1280, 720});
+  const QRect column(screen_->geometry().topLeft(), QSize(540, 720));
+  for (const Row& row : rows_) {
+    BoxWatch::Instance().ExpectDialog([](QDialog&) {});
+    EXPECT_EQ(PlaceOf(row.open), column) << row.name;
+  }
+  BoxWatch::Instance().Expect(QMessageBox::NoButton);
+  const QRect box = PlaceOf(box_.open);
+  EXPECT_LE((box.center() - column.center()).manhattanLength(), kFrame);
+  BoxWatch::Instance().TakeSeen();
+}
+
+TEST_F(DialogOverColumnTest, AColumnBeyondTheDesktopHasThemAtItsEdge) {
+  ShowAt({-700, 30}, {1280, 720});
+  for (const Row& row : rows_) {
+    BoxWatch::Instance().ExpectDialog([](QDialog&) {});
+    EXPECT_LT(PlaceOf(row.open).x(), 10) << row.name;
+  }
+  BoxWatch::Instance().Expect(QMessageBox::NoButton);
+  EXPECT_LT(PlaceOf(box_.open).center().x(), 540 / 2 + 10);
+  BoxWatch::Instance().TakeSeen();
+}
+
+TEST_F(DialogOverColumnTest, WithoutAHistoryTheyStandInTheMiddle) {
+  frame_.store.Set(kHistoryShown, 0);
+  screen_ = MakeScientificScreen(frame_);
+  ShowAt({20, 30}, {800, 600});
+  const QRect window = screen_->geometry();
+  const QRect middle(window.x() + 175, window.y(), 450, 600);
+  for (const Row& row : rows_) {
+    BoxWatch::Instance().ExpectDialog([](QDialog&) {});
+    EXPECT_EQ(PlaceOf(row.open), middle) << row.name;
+  }
+  BoxWatch::Instance().Expect(QMessageBox::NoButton);
+  EXPECT_LE((PlaceOf(box_.open).center() - window.center()).manhattanLength(), kFrame);
+  BoxWatch::Instance().TakeSeen();
+}
+
+TEST_F(DialogOverColumnTest, TheGuideStandsBesideTheColumnWhereTheDesktopHasNoOtherRoom) {
+  ShowAt({20, 30}, {760, 500});
+  Guide guide;
+  BoxWatch::Instance().ExpectDialog([](QDialog&) {});
+  guide.Open(screen_.get(), GuidePage::Graph);
+  QWidget* dialog = nullptr;
+  for (QWidget* top : QApplication::topLevelWidgets()) {
+    if (top->isVisible() && top->windowTitle() == "Guide") dialog = top;
+  }
+  ASSERT_NE(dialog, nullptr);
+  const QRect column(screen_->geometry().topLeft(), QSize(375, 500));
+  EXPECT_EQ(dialog->geometry(), column.translated(375, 0));
+  dialog->close();
+  BoxWatch::Instance().TakeSeen();
 }
 
 TEST(OneLine, KeepsAShortText) {

@@ -23,13 +23,18 @@ namespace {
 constexpr std::size_t kLongestLine = 400;
 
 /// `area` moved to the right or the left of `window`, whose frame it keeps clear of, if the desktop
-/// has room there.
+/// has room there; else beside the screen, over what stands there, if that is on the desktop.
 QRect Beside(const QWidget& window, const QRect& area) {
   const QRect desktop = window.screen()->availableGeometry();
   const QRect frame = window.frameGeometry();
   const int gap = frame.width() - window.width();
   for (const int x : {frame.right() + 1 + gap, frame.left() - gap - area.width()}) {
     const QRect place(QPoint(x, window.geometry().y()), area.size());
+    if (desktop.contains(place)) return place;
+  }
+  const QRect screen = ScreenPartOver(window);
+  if (screen.width() < window.width()) {
+    const QRect place = area.translated(screen.right() + 1 - area.left(), 0);
     if (desktop.contains(place)) return place;
   }
   return area;

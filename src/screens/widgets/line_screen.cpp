@@ -64,11 +64,6 @@ LineScreen::~LineScreen() {
   KeepEvaluated();
 }
 
-QRect LineScreen::Area() const {
-  const QRect part = ScreenPart();
-  return PortraitArea(part.size()).translated(part.topLeft());
-}
-
 std::vector<MenuEntry> LineScreen::MoreToEdit() {
   return {{kHistoryEntry,
            [this] { past_.Toggle(); },

@@ -29,6 +29,9 @@ class LineScreen : public KeyScreen {
              PastNeighbour neighbour);
   ~LineScreen() override;
 
+  /// What the history leaves of the window.
+  QRect ScreenPart() const override { return past_.ScreenPart(); }
+
  protected:
   ExpressionView& Line() const { return *line_; }
   ResultView& Result() const { return *result_; }
@@ -42,10 +45,7 @@ class LineScreen : public KeyScreen {
                          const std::optional<PastLine>& evaluated);
 
   // The history of all sessions.
-  QRect Area() const override;
   std::vector<MenuEntry> MoreToEdit() override;
-  /// The part of the window that it leaves for the screen.
-  QRect ScreenPart() const { return past_.ScreenPart(); }
   /// To be called when everything else on the `body` above the menus is laid out.
   void LayOutHistory(const QRect& body);
   /// Writes into the line what the user chose there.

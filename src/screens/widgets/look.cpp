@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "screens/widgets/screen_part.h"
+
 namespace kav {
 
 namespace {
@@ -22,6 +24,22 @@ QString FaceName() {
     if (installed.contains(QLatin1String(face))) return face;
   }
   return "Tahoma";  // with the hint below, the system finds a stand-in
+}
+
+/// What a window with a frame like that of `window` may fill of the desktop.
+QRect RoomFor(const QWidget& window) {
+  const QRect inner = window.geometry();
+  const QRect outer = window.frameGeometry();
+  return window.screen()->availableGeometry().adjusted(
+      inner.left() - outer.left(), inner.top() - outer.top(), inner.right() - outer.right(),
+      inner.bottom() - outer.bottom());
+}
+
+/// `area` where `room` holds all of it, or its beginning if it is larger.
+QRect MovedInto(const QRect& room, const QRect& area) {
+  const int x = std::min(area.x(), room.right() + 1 - area.width());
+  const int y = std::min(area.y(), room.bottom() + 1 - area.height());
+  return {QPoint(std::max(x, room.x()), std::max(y, room.y())), area.size()};
 }
 
 }  // namespace
@@ -76,10 +94,23 @@ QRect PortraitArea(QSize window) {
   return {(window.width() - width) / 2, (window.height() - height) / 2, width, height};
 }
 
+QRect PortraitArea(const QRect& part) {
+  return PortraitArea(part.size()).translated(part.topLeft());
+}
+
+QRect ScreenPartOver(const QWidget& opener) {
+  const QWidget& window = *opener.window();
+  const auto* parted = dynamic_cast<const HasScreenPart*>(&window);
+  const QRect own = parted != nullptr ? parted->ScreenPart() : window.rect();
+  const QRect part(window.mapToGlobal(own.topLeft()), own.size());
+  if (own == window.rect()) return part;
+  // The middle of a window may be seen where one of its sides is not.
+  return MovedInto(RoomFor(window), part);
+}
+
 QRect AreaOver(const QWidget& opener) {
   const QWidget& window = *opener.window();
-  QRect area = PortraitArea(window.size());
-  area.moveTopLeft(window.mapToGlobal(area.topLeft()));
+  const QRect area = PortraitArea(ScreenPartOver(window));
   if (TextShare() <= 1) return area;
   const QRect desktop = window.screen()->availableGeometry();
   const int room = desktop.width() - (window.frameGeometry().width() - window.width());

@@ -48,8 +48,14 @@ inline constexpr QSize kSmallestWindow(180, 240);
 /// The part of a window of `window` pixels that a screen fills: all of it if it is upright, else a
 /// centred column.
 QRect PortraitArea(QSize window);
+/// The same within `part` of a window.
+QRect PortraitArea(const QRect& part);
 
-/// The part of the desktop that what `opener` opens may cover: the portrait area of its window. For
+/// The part of the desktop where the screen of the window of `opener` stands: all of the window,
+/// unless something stands beside the screen. Only then it is moved to where the desktop shows it.
+QRect ScreenPartOver(const QWidget& opener);
+
+/// The part of the desktop that what `opener` opens may cover: the portrait area of the screen. For
 /// texts larger than usual it is wider, as far as the desktop is, and they have room to be larger.
 QRect AreaOver(const QWidget& opener);
 

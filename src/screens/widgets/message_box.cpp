@@ -75,9 +75,9 @@ class ScaledBox final : public QMessageBox {
     QMessageBox::showEvent(event);
     Fit();
     if (parentWidget() == nullptr) return;
-    const QWidget* window = parentWidget()->window();
-    QPoint place = window->mapToGlobal(window->rect().center()) - rect().center();
-    if (width() > window->width()) {
+    const QRect screenPart = ScreenPartOver(*parentWidget());
+    QPoint place = screenPart.center() - rect().center();
+    if (width() > screenPart.width()) {
       const QRect desktop = screen()->availableGeometry();
       place.setX(std::max(std::min(place.x(), desktop.right() + 1 - width()), desktop.left()));
     }

@@ -13,6 +13,7 @@
 #include "screens/widgets/guide_caller.h"
 #include "screens/widgets/leaving.h"
 #include "screens/widgets/look.h"
+#include "screens/widgets/screen_part.h"
 
 class QLineEdit;
 class QMenu;
@@ -56,7 +57,7 @@ void EditLine(QLineEdit& line, EditCommand command);
 bool CanEditLine(const QLineEdit& line, EditCommand command);
 
 /// A calculating screen, a window of its own. It carries out the commands of ScreenShortcuts.
-class Screen : public QWidget, public GuideCaller {
+class Screen : public QWidget, public GuideCaller, public HasScreenPart {
  public:
   /// `size` is that of the body in dialog units; the frame must outlive the screen.
   Screen(Frame& frame, QSize size);
@@ -75,10 +76,11 @@ class Screen : public QWidget, public GuideCaller {
   void LayOutAll();
 
   void OpenGuide(QWidget* window, std::optional<GuidePage> page) override;
+  QRect ScreenPart() const override { return rect(); }
 
  protected:
   /// The part of the window that the screen fills, its menu bar included.
-  virtual QRect Area() const { return PortraitArea(size()); }
+  virtual QRect Area() const { return PortraitArea(ScreenPart()); }
   /// Copies the line and its result, on a screen that has them.
   virtual void CopyLine() {}
   /// Called whenever the body has a new size: places everything on it.
