@@ -88,7 +88,9 @@ inline constexpr std::u16string_view kOfferName = u"Question";
 inline constexpr std::u16string_view kGiveUpOffer = u"Leave it as it is (Esc)";
 /// The key that chooses the answer `number`, 1 to 9.
 inline std::u16string KeyOfOffer(std::size_t number) {
-  return std::u16string(u"Key ") + static_cast<char16_t>(u'0' + number);
+  std::u16string text = u"Key 0";
+  text.back() = static_cast<char16_t>(text.back() + number);
+  return text;
 }
 
 // Asked by a copy of the program that is started while another one hangs.
