@@ -85,7 +85,9 @@ std::optional<std::vector<PastLine>> ReadLines(const std::string& path) {
   const auto size = SizeOf(file);
   const auto text = size ? EndOf(file, *size, kMostRead) : std::nullopt;
   if (!text) return std::nullopt;
-  return ReadRecords(*text);
+  // An id that is cut off at its start is another id.
+  const std::size_t whole = *size > kMostRead ? std::min(text->find('\n'), text->size()) : 0;
+  return ReadRecords(std::string_view(*text).substr(whole));
 }
 
 /// The newest lines of a plain text as what prompts evaluated, long ago.
@@ -209,9 +211,7 @@ PastLinesFile::Outcome PastLinesFile::AppendText(
   if (*size == 0) GiveToOwnerOf(FolderOf(file), opened);
   const auto end = EndOf(opened, *size, kNewestPart);
   if (!end) return FileErrorFromErrno(errno);
-  std::string text = make(*end);
-  // A process that was killed, or a full disk, may have left a part of a record.
-  if (!end->empty() && end->back() != '\n') text.insert(text.begin(), '\n');
+  const std::string text = std::string(MissingEnd(*end)).append(make(*end));
   if (const int error = WriteAll(opened.Number(), text); error != 0) {
     static_cast<void>(ftruncate(opened.Number(), static_cast<off_t>(*size)));
     return FileErrorFromErrno(error);

@@ -113,19 +113,24 @@ std::optional<PastLine> ReadRecord(std::string_view record) {
     return std::nullopt;
   }
   past.line = FieldText(*line);
-  past.answer = FieldText(record);
-  if (past.line.empty()) return std::nullopt;
+  // Another tab is that of an end that was put behind a part of an answer.
+  if (record.find(kBetween) == record.npos) past.answer = FieldText(record);
+  if (past.line.empty() || past.line.size() > PastLines::kLongestLine) return std::nullopt;
+  if (past.answer.size() > PastLines::kLongestAnswer) return std::nullopt;
   return past;
 }
 
 std::vector<PastLine> ReadRecords(std::string_view text) {
   std::vector<PastLine> lines;
   std::array<std::size_t, 2> counts{};  // of the rooms
+  bool isEnded = text.ends_with('\n');
   while (!text.empty() && std::min(counts[0], counts[1]) < PastLines::kCapacity) {
     if (text.ends_with('\n')) text.remove_suffix(1);
     const std::size_t end = text.rfind('\n');
     const std::size_t begin = end == text.npos ? 0 : end + 1;
     if (auto past = ReadRecord(text.substr(begin))) {
+      // A part of an answer is another number.
+      if (!isEnded) past->answer.clear();
       std::size_t& count = counts[static_cast<std::size_t>(RoomOf(past->origin))];
       if (count < PastLines::kCapacity) {
         ++count;
@@ -133,9 +138,16 @@ std::vector<PastLine> ReadRecords(std::string_view text) {
       }
     }
     text = text.substr(0, begin);
+    isEnded = true;
   }
   std::reverse(lines.begin(), lines.end());
   return lines;
+}
+
+std::string_view MissingEnd(std::string_view text) {
+  if (text.empty() || text.ends_with('\n')) return {};
+  // Without its line, a part of a record is passed over as it is: a tab could complete it.
+  return ReadRecord(text.substr(text.rfind('\n') + 1)) ? "\t\n" : "\n";
 }
 
 std::string RecordsOf(const std::vector<PastLine>& lines) {

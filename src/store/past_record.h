@@ -16,12 +16,17 @@ namespace kav {
 std::string RecordOf(const PastLine& past);
 
 /// What `record`, without its end, holds; nullopt if it is no record, or one of a line that is not
-/// kept. Bytes that are not UTF-8 become U+FFFD.
+/// kept. Bytes that are not UTF-8 become U+FFFD. An answer with a tab in it was not written as a
+/// whole, and is left out.
 std::optional<PastLine> ReadRecord(std::string_view record);
 
 /// The newest lines in `text`, at most PastLines::kCapacity of a room, the newest last. What is no
-/// record is passed over.
+/// record is passed over. A last record without its end has no answer.
 std::vector<PastLine> ReadRecords(std::string_view text);
+
+/// What must stand behind `text` before another record may: who wrote its last one may have been
+/// killed meanwhile. Empty if nothing is missing.
+std::string_view MissingEnd(std::string_view text);
 
 /// `lines` as the text that ReadRecords reads.
 std::string RecordsOf(const std::vector<PastLine>& lines);

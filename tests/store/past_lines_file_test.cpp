@@ -177,6 +177,14 @@ TEST_F(PastLinesFileTest, AHalfWrittenRecordSpoilsNoOther) {
   PastLinesFile file = Open();
   file.Add(Line("3+3"));
   EXPECT_EQ(TextsOf(file), (Lines{"1+1", "3+3"}));
+  // A part of an answer would be taken for the answer.
+  PutFile(path_, Text() + "7\tS\t1\t1/7\t0.14");
+  EXPECT_EQ(file.Of(PastRoom::Calculator).back().answer, "");
+  file.Add(Line("4+4", "8"));
+  const auto lines = file.Of(PastRoom::Calculator);
+  EXPECT_EQ(TextsOf(file), (Lines{"1+1", "3+3", "1/7", "4+4"}));
+  EXPECT_EQ(lines[2].answer, "");
+  EXPECT_EQ(lines[3].answer, "8");
 }
 
 TEST_F(PastLinesFileTest, OfALargeFileOnlyTheEndIsReadAndLeft) {
@@ -188,6 +196,11 @@ TEST_F(PastLinesFileTest, OfALargeFileOnlyTheEndIsReadAndLeft) {
   file.Add(Line("1+1"));
   EXPECT_EQ(TextsOf(file), (Lines{"1+1"}));
   EXPECT_LT(std::filesystem::file_size(path_), 100U);
+  // The end begins within an id.
+  const std::string last = "7\tS\t1\t2+2\t4\n";
+  PutFile(path_,
+          "12345\tS\t1\t3+3\t6\n" + std::string((8U << 20U) - 14 - last.size(), '\n') + last);
+  EXPECT_EQ(TextsOf(file), (Lines{"2+2"}));
 }
 
 TEST_F(PastLinesFileTest, OldLinesAreRemovedFromTheFileNowAndThen) {

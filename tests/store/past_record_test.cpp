@@ -61,10 +61,36 @@ TEST(PastRecord, OfEachRoomTheNewestThousandAreRead) {
   EXPECT_EQ(lines.back().id, 3001);
 }
 
+TEST(PastRecord, APartOfAnAnswerIsNone) {
+  const auto lines = ReadRecords("5\tS\t1\t1+1\t2\n6\tS\t1\t1/7\t0.14");
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_EQ(lines[0].answer, "2");
+  EXPECT_EQ(lines[1], Line(6, PastOrigin::Scientific, 1, "1/7", ""));
+  const auto ended = ReadRecord("6\tS\t1\t1/7\t0.14\t");
+  ASSERT_TRUE(ended);
+  EXPECT_EQ(*ended, lines[1]);
+}
+
+TEST(PastRecord, APartOfARecordIsEndedAsWhatItIs) {
+  EXPECT_EQ(MissingEnd(""), "");
+  EXPECT_EQ(MissingEnd("5\tS\t1\t1+1\t2\n"), "");
+  EXPECT_EQ(MissingEnd("5\tS\t1\t1+1\t2\n6\tS\t1\t1/7\t0.14"), "\t\n");
+  EXPECT_EQ(MissingEnd("6\tS\t1\t1/7\t"), "\t\n");
+  EXPECT_EQ(MissingEnd("6\tS\t1\t1/7"), "\n");
+  EXPECT_EQ(MissingEnd("6"), "\n");
+}
+
 TEST(PastRecord, OverlongFieldsAreNotRead) {
   const std::string longLine(2 * PastLines::kLongestLine + 1, '1');
   EXPECT_FALSE(ReadRecord("5\tS\t1\t" + longLine + "\t2"));
   EXPECT_FALSE(ReadRecord("5\tS\t1\t1\t" + longLine));
+  const std::string longest(PastLines::kLongestLine, '1');
+  const std::string longestAnswer(PastLines::kLongestAnswer, '2');
+  EXPECT_TRUE(ReadRecord("5\tS\t1\t" + longest + "\t" + longestAnswer));
+  EXPECT_FALSE(ReadRecord("5\tS\t1\t" + longest + "1\t2"));
+  EXPECT_FALSE(ReadRecord("5\tS\t1\t1\t" + longestAnswer + "2"));
+  const std::string wrongBytes(PastLines::kLongestAnswer / 2, '\xff');
+  EXPECT_FALSE(ReadRecord("5\tS\t1\t1\t" + wrongBytes)) << "each takes three bytes";
 }
 
 }  // namespace
