@@ -135,6 +135,18 @@ bool IsThousands(std::u16string_view run) {
          run.find_first_of(u".,", point + 1) == run.npos;
 }
 
+/// Where to begin to show `number`, so that its first comma is seen: without it, all that the
+/// number could be would look the same.
+std::size_t ShownFrom(std::u16string_view number) {
+  const std::size_t comma = number.find(u',');
+  return comma == number.npos || comma < kShownOfNumber ? 0 : comma - kShownOfNumber / 2;
+}
+
+/// What is shown of `text`, which stands for a number from its digit `from` on.
+std::u16string Shown(std::size_t from, std::u16string_view text) {
+  return (from > 0 ? u"…" : u"") + Shortened(text, kShownOfNumber);
+}
+
 std::u16string Read(std::u16string_view run, CommaMeaning meaning) {
   return meaning == CommaMeaning::DecimalPoint ? WithPoint(run) : Without(run, u',');
 }
@@ -219,15 +231,17 @@ std::optional<CommaQuestion> QuestionOfCommas(std::u16string_view text) {
 }
 
 std::u16string CommaQuestionText(const CommaQuestion& question) {
-  return u"What is " + Shortened(question.number, kShownOfNumber) + u'?';
+  const std::size_t from = ShownFrom(question.number);
+  return u"What is " + Shown(from, std::u16string_view(question.number).substr(from)) + u'?';
 }
 
 std::u16string CommaMeaningText(std::u16string_view number, CommaMeaning meaning) {
-  std::u16string text = WithCommas(number, meaning);
+  const std::size_t from = ShownFrom(number);
+  std::u16string text = WithCommas(number.substr(from), meaning);
   for (std::size_t at = text.find(u','); at != text.npos; at = text.find(u',', at)) {
     text.replace(at, 1, u" | ");
   }
-  return Shortened(text, kShownOfNumber);
+  return Shown(from, text);
 }
 
 std::u16string WithCommas(std::u16string_view text, CommaMeaning meaning) {
@@ -251,7 +265,8 @@ std::u16string WithCommas(std::u16string_view text, CommaMeaning meaning) {
 std::optional<std::u16string> CommaRefusal(std::u16string_view field) {
   for (auto run = NextRun(field, 0); !run.empty(); run = NextRun(field, EndOf(run, field))) {
     if (!CanBeDecimal(run)) continue;
-    const std::u16string shown = Shortened(run, kShownOfNumber);
+    const std::size_t from = ShownFrom(run);
+    const std::u16string shown = Shown(from, run.substr(from));
     return u"The comma in \"" + shown + u"\" can be read in two ways. Write " + WithPoint(shown) +
            u" or " + Without(shown, u',') + u".";
   }

@@ -212,6 +212,11 @@ void WriteRoots(std::u16string& text) {
   }
 }
 
+/// Whether something other than blanks stands between the cells of `text`.
+bool SeparatesCells(std::u16string_view text) {
+  return text.find_first_of(u"\t;") != text.npos;
+}
+
 void DropLastBreak(std::u16string& text) {
   if (text.ends_with(u'\n')) text.pop_back();
   if (text.ends_with(u'\r')) text.pop_back();
@@ -250,8 +255,7 @@ std::u16string OwnCells(std::u16string text) {
     isPlain &= c <= u'~' && c != kApostrophe;
     hasBlank |= c == kBlank;
   }
-  const bool separates = text.find_first_of(u"\t;") != text.npos;
-  if (isPlain && !(hasBlank && separates && PartsDigits(text, kBlank))) return text;
+  if (isPlain && !(hasBlank && SeparatesCells(text) && PartsDigits(text, kBlank))) return text;
   if (!isPlain) {
     // Spaces that hold a number together, as against those between cells.
     std::replace(text.begin(), text.end(), u'\u202F', kNoBreakSpace);
@@ -261,7 +265,7 @@ std::u16string OwnCells(std::u16string text) {
     text = InPlainCharacters(text);
     RemoveGrouping(text, kApostrophe);
   }
-  if (separates) RemoveGrouping(text, kBlank);
+  if (SeparatesCells(text)) RemoveGrouping(text, kBlank);
   return text;
 }
 

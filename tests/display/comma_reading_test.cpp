@@ -83,6 +83,17 @@ TEST(CommaMeaningText, SaysWhatTheNumberBecomes) {
   EXPECT_EQ(CommaQuestionText({u"1,5", {kPoint}}), u"What is 1,5?");
 }
 
+TEST(CommaMeaningText, ShowsTheCommaOfALongNumber) {
+  const auto number = u"12345678901234567890,1234567890"sv;
+  EXPECT_EQ(CommaMeaningText(number, kPoint), u"…34567890.1234567…");
+  EXPECT_EQ(CommaMeaningText(number, kGroups), u"…3456789012345678…");
+  EXPECT_EQ(CommaQuestionText({std::u16string(number), {kPoint}}), u"What is …34567890,1234567…?");
+  EXPECT_EQ(CommaRefusal(number),
+            u"The comma in \"…34567890,1234567…\" can be read in two ways. Write "
+            u"…34567890.1234567… or …345678901234567….");
+  EXPECT_EQ(CommaMeaningText(u"123456789012345,5", kPoint), u"123456789012345.…");
+}
+
 TEST(CommaRefusal, NamesANumberWhoseCommaCouldBeADecimalOne) {
   EXPECT_EQ(CommaRefusal(u"1,5"),
             u"The comma in \"1,5\" can be read in two ways. Write 1.5 or 15.");
