@@ -58,8 +58,15 @@ kav::Matrices MatricesWith(std::string_view first) {
   return matrices;
 }
 
-void CheckResult(const CalcResult<MatrixValue>& result) {
-  if (!result) return Check(!result.error().message.empty());
+/// What came of `text`.
+void CheckResult(std::string_view text, const CalcResult<MatrixValue>& result) {
+  if (!result) {
+    Check(!result.error().message.empty());
+    const auto place = result.error().place;
+    if (place) Check(place->position <= text.size());
+    if (place) Check(place->length <= text.size() - place->position);
+    return;
+  }
   Check(result->rows >= 0 && result->rows <= kav::kLargestMatrix);
   Check(result->columns >= 0 && result->columns <= kav::kLargestMatrix);
 }
@@ -83,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static_cast<void>(kav::FirstInvalidMatrix(line, matrices));
   kav::MatrixEvaluator evaluator(matrices, files);
   const auto result = evaluator.Evaluate(text);
-  CheckResult(result);
+  CheckResult(text, result);
   Check(AreSame(result, evaluator.Evaluate(text)));
   Check(!folder.HasFiles());
   return 0;
