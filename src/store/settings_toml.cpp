@@ -6,42 +6,16 @@
 #include <utility>
 
 #include "settings/keys.h"
+#include "store/toml_document.h"
 #include "store/toml_library.h"
-#include "store/toml_text.h"
-#include "store/toml_writer.h"
 
 namespace kav {
 namespace {
-
-// The most levels of tables and arrays. Well below the most that the parser takes: a level may be
-// written in more than one way.
-constexpr int kDeepest = 32;
 
 constexpr std::string_view kFirstLine =
     "# Settings of Kav Calculator. They can be edited here; comments and the order of lines are "
     "not "
     "kept.\n";
-
-bool IsDeeperThan(const toml::node& node, int levels) {
-  const auto isChildDeeper = [&](const toml::node& child) {
-    return IsDeeperThan(child, levels - 1);
-  };
-  if (levels < 0) return true;
-  if (const auto* array = node.as_array()) {
-    return std::any_of(array->begin(), array->end(), isChildDeeper);
-  }
-  const auto* table = node.as_table();
-  if (table == nullptr) return false;
-  return std::any_of(table->begin(), table->end(),
-                     [&](const auto& entry) { return isChildDeeper(entry.second); });
-}
-
-std::optional<toml::table> Parse(std::string_view text) {
-  if (!IsModestToml(text)) return std::nullopt;
-  toml::parse_result parsed = toml::parse(text);
-  if (!parsed || IsDeeperThan(parsed.table(), kDeepest)) return std::nullopt;
-  return std::move(parsed).table();
-}
 
 std::int32_t Saturated(std::int64_t value) {
   using Limits = std::numeric_limits<std::int32_t>;
@@ -87,7 +61,7 @@ const StoredSetting* FindSetting(const SettingsTable& settings, std::string_view
 }
 
 std::optional<SettingsTable> ReadSettings(std::string_view toml) {
-  const auto root = Parse(toml);
+  const auto root = ReadToml(toml);
   if (!root) return std::nullopt;
   SettingsTable settings;
   for (const auto& [section, content] : *root) {
@@ -107,7 +81,7 @@ bool IsExport(std::string_view toml) {
 }
 
 std::optional<std::string> WithChanges(std::string_view toml, const SettingsTable& changes) {
-  auto root = Parse(toml);
+  auto root = ReadToml(toml);
   if (!root) return std::nullopt;
   bool isChanged = false;
   for (const auto& [section, settings] : changes) {

@@ -9,7 +9,7 @@
 #undef NDEBUG
 #define TOML_ASSERT(condition) static_assert(true)
 // Failures as values; numbers by from_chars and not by streams; the writer is our own
-// (toml_writer.h).
+// (toml_document.h).
 #define TOML_EXCEPTIONS 0
 #define TOML_FLOAT_CHARCONV 1
 #define TOML_ENABLE_FORMATTERS 0

@@ -1,4 +1,4 @@
-#include "store/toml_writer.h"
+#include "store/toml_document.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +13,24 @@
 
 namespace kav {
 namespace {
+
+// The most levels of tables and arrays. Well below the most that the parser takes: a level may be
+// written in more than one way.
+constexpr int kDeepest = 32;
+
+bool IsDeeperThan(const toml::node& node, int levels) {
+  const auto isChildDeeper = [&](const toml::node& child) {
+    return IsDeeperThan(child, levels - 1);
+  };
+  if (levels < 0) return true;
+  if (const auto* array = node.as_array()) {
+    return std::any_of(array->begin(), array->end(), isChildDeeper);
+  }
+  const auto* table = node.as_table();
+  if (table == nullptr) return false;
+  return std::any_of(table->begin(), table->end(),
+                     [&](const auto& entry) { return isChildDeeper(entry.second); });
+}
 
 class Writer {
  public:
@@ -148,6 +166,13 @@ class Writer {
 };
 
 }  // namespace
+
+std::optional<toml::table> ReadToml(std::string_view text) {
+  if (!IsModestToml(text)) return std::nullopt;
+  toml::parse_result parsed = toml::parse(text);
+  if (!parsed || IsDeeperThan(parsed.table(), kDeepest)) return std::nullopt;
+  return std::move(parsed).table();
+}
 
 std::string PrintToml(const toml::table& root) {
   return Writer().Document(root);
