@@ -54,6 +54,12 @@ bool IsThere(const std::string& path) {
   return !path.empty() && access(path.c_str(), F_OK) == 0;
 }
 
+/// Whether nothing is kept in `path` yet: it is not there, or who made it could not write into it.
+bool IsUnwritten(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) != 0 || status.st_size == 0;
+}
+
 /// The size of an open file; nullopt if it is no file, with errno as if it could not be opened.
 std::optional<std::size_t> SizeOf(const FileDescriptor& file) {
   struct stat status {};
@@ -118,7 +124,7 @@ PastLinesFile::PastLinesFile(std::string path, std::string old, StoreUser user)
 
 std::vector<PastLine> PastLinesFile::Of(PastRoom room) {
   const milliseconds patience = user_ == StoreUser::Window ? kNoPatience : kPatience;
-  if (!unsaved_.empty() || (!IsThere(path_) && IsThere(old_))) Save(patience);
+  if (!unsaved_.empty() || (IsThere(old_) && IsUnwritten(path_))) Save(patience);
   std::vector<PastLine> lines = ReadLines(path_).value_or(std::vector<PastLine>());
   // Who has seen a line that waits to be kept knows it by its id: that should not have to change.
   if (!lines.empty()) newestId_ = std::max(newestId_, lines.back().id);
@@ -164,7 +170,7 @@ PastLinesFile::Outcome PastLinesFile::WithLock(
   MakeFoldersFor(file);
   const auto lock = FileLock::AcquireFor(file, patience);
   if (!lock) return lock.error();
-  if (!IsThere(file) && IsThere(old_)) {
+  if (IsThere(old_) && IsUnwritten(file)) {
     if (const Outcome error = TakeOver(file)) return error;
   }
   return action(file);

@@ -24,8 +24,8 @@ class PastLinesFile final : public PastLines {
   /// The files of this user.
   explicit PastLinesFile(StoreUser user);
   /// The file `path`, which is made when the first line is added; empty: there is no place for it.
-  /// The lines in `old`, a plain text that prompts once kept, are taken over when there is no file
-  /// `path` yet, and `old` is removed.
+  /// The lines in `old`, a plain text that prompts once kept, are taken over while the file `path`
+  /// holds nothing yet, and `old` is removed.
   PastLinesFile(std::string path, std::string old, StoreUser user);
 
   std::vector<PastLine> Of(PastRoom room) override;

@@ -245,6 +245,16 @@ TEST_F(PastLinesFileTest, TheOldHistoryOfThePromptIsTakenOverOnce) {
   EXPECT_EQ(TextsOf(file).size(), 4U) << "a later one is not taken over";
 }
 
+TEST_F(PastLinesFileTest, AnOldHistoryIsNotForgottenOnAFullDisk) {
+  MakeFolder();
+  PutFile(old_, "1+1\n2+2\n");
+  // What is left when a file can be made and nothing can be written into it.
+  PutFile(path_, "");
+  PastLinesFile file = Open();
+  EXPECT_EQ(TextsOf(file), (Lines{"1+1", "2+2"}));
+  EXPECT_FALSE(Exists(old_));
+}
+
 TEST_F(PastLinesFileTest, AnOldHistoryOfAnySizeGivesItsNewestThousand) {
   MakeFolder();
   std::string text;
