@@ -10,6 +10,7 @@
 #include <QTextBlock>
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "screens/help/guide_spacing_view.h"
@@ -81,12 +82,8 @@ GuideBrowser::GuideBrowser() {
   setAccessibleName(ToQt(kGuideTitle));
   setOpenExternalLinks(true);
   connect(this, &QTextBrowser::sourceChanged, this, [this] {
-    Space();
-    FindPages();
-    ColourLinks();
     place_.reset();
-    pictureWidth_ = 0;
-    if (isVisible()) FitPictures();
+    if (!markdown_.isEmpty()) Read(std::exchange(markdown_, {}));
   });
   connect(verticalScrollBar(), &QAbstractSlider::actionTriggered, this, [this] { place_.reset(); });
   // A text becomes as long as it is while it is laid out, which goes on behind a change.
@@ -147,8 +144,25 @@ void GuideBrowser::SetFont(const QFont& font) {
   KeepPlace();
 }
 
-void GuideBrowser::Space() {
-  SpaceOut(*document(), Letters(), palette().color(QPalette::Mid));
+void GuideBrowser::Read(const QString& markdown) {
+  QTextDocument* before = document();
+  auto* text = new QTextDocument(this);
+  text->setUndoRedoEnabled(false);
+  text->setDefaultFont(before->defaultFont());
+  text->setBaseUrl(before->baseUrl());
+  text->setMarkdown(markdown);
+  Space(*text);
+  ColourLinks(*text);
+  pictureWidth_ = 0;
+  if (isVisible()) FitPictures(*text);
+  const bool isOurs = before->parent() == this;
+  setDocument(text);
+  if (isOurs) delete before;
+  FindPages();
+}
+
+void GuideBrowser::Space(QTextDocument& text) {
+  SpaceOut(text, Letters(), palette().color(QPalette::Mid));
 }
 
 int GuideBrowser::Letters() const {
@@ -160,45 +174,51 @@ QVariant GuideBrowser::loadResource(int type, const QUrl& name) {
     case QTextDocument::ImageResource:
       return QImage(1, 1, QImage::Format_RGB32);  // FitPictures has it
     case QTextDocument::MarkdownResource:
-      return WithPlainPictures(
+      markdown_ = WithPlainPictures(
           QString::fromUtf8(QTextBrowser::loadResource(type, name).toByteArray()));
+      // Set here, it would be laid out again after each block and each cell: Read has it.
+      return QString(" ");
     default:
       return QTextBrowser::loadResource(type, name);
   }
 }
 
 /// A document has its links in the colour of the desktop's, whatever is below them.
-void GuideBrowser::ColourLinks() {
+void GuideBrowser::ColourLinks(QTextDocument& text) {
   const auto isLink = [](const QTextCharFormat& format) { return format.isAnchor(); };
   QTextCharFormat colour;
   colour.setForeground(palette().link());
-  QTextCursor cursor(document());
-  for (const QTextFragment& link : PartsOf(*document(), isLink)) {
+  const std::vector<QTextFragment> links = PartsOf(text, isLink);
+  QTextCursor cursor(&text);
+  cursor.beginEditBlock();
+  for (const QTextFragment& link : links) {
     cursor.setPosition(link.position());
     cursor.setPosition(link.position() + link.length(), QTextCursor::KeepAnchor);
     cursor.mergeCharFormat(colour);
   }
+  cursor.endEditBlock();
 }
 
 void GuideBrowser::changeEvent(QEvent* event) {
   QTextBrowser::changeEvent(event);
   const bool hasOtherColours = event->type() == QEvent::PaletteChange;
   if (!hasOtherColours && event->type() != QEvent::FontChange) return;
-  Space();
-  if (hasOtherColours) ColourLinks();
-  if (isVisible()) FitPictures();
+  QTextDocument& text = *document();
+  Space(text);
+  if (hasOtherColours) ColourLinks(text);
+  if (isVisible()) FitPictures(text);
 }
 
 void GuideBrowser::resizeEvent(QResizeEvent* event) {
   NotePlace();
   QTextBrowser::resizeEvent(event);
-  if (isVisible()) FitPictures();
+  if (isVisible()) FitPictures(*document());
   KeepPlace();
 }
 
 void GuideBrowser::showEvent(QShowEvent* event) {
   QTextBrowser::showEvent(event);
-  FitPictures();
+  FitPictures(*document());
   KeepPlace();
 }
 
@@ -269,17 +289,20 @@ void GuideBrowser::FindPages() {
   }
 }
 
-void GuideBrowser::FitPictures() {
-  const int room = viewport()->width() - 2 * static_cast<int>(document()->documentMargin());
+void GuideBrowser::FitPictures(QTextDocument& text) {
+  const int room = viewport()->width() - 2 * static_cast<int>(text.documentMargin());
   const int wanted = std::clamp(Letters() * kLettersInPicture, kUsualPictureWidth, kMostPicture);
   const int width = std::clamp(room, 1, wanted);
   if (width == pictureWidth_) return;
   pictureWidth_ = width;
-  for (const int place : PicturesIn(*document())) FitPicture(place);
+  QTextCursor cursor(&text);
+  // All at once: each would have the text laid out anew.
+  cursor.beginEditBlock();
+  for (const int place : PicturesIn(text)) FitPicture(cursor, place);
+  cursor.endEditBlock();
 }
 
-void GuideBrowser::FitPicture(int place) {
-  QTextCursor cursor(document());
+void GuideBrowser::FitPicture(QTextCursor& cursor, int place) {
   cursor.setPosition(place);
   cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
   QTextImageFormat format = cursor.charFormat().toImageFormat();
@@ -290,8 +313,8 @@ void GuideBrowser::FitPicture(int place) {
   const double scale = devicePixelRatioF();
   picture = picture.scaledToWidth(qRound(pictureWidth_ * scale), Qt::SmoothTransformation);
   picture.setDevicePixelRatio(scale);
-  document()->addResource(QTextDocument::ImageResource, document()->baseUrl().resolved(name),
-                          picture);
+  QTextDocument& text = *cursor.document();
+  text.addResource(QTextDocument::ImageResource, text.baseUrl().resolved(name), picture);
   format.setWidth(picture.deviceIndependentSize().width());
   format.setHeight(picture.deviceIndependentSize().height());
   cursor.setCharFormat(format);

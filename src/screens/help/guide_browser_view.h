@@ -42,8 +42,10 @@ class GuideBrowser final : public QTextBrowser {
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void ColourLinks();
-  void Space();
+  /// Shows what is written, changed for the screen before it is first laid out.
+  void Read(const QString& markdown);
+  void ColourLinks(QTextDocument& text);
+  void Space(QTextDocument& text);
   int Letters() const;
   bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -55,11 +57,12 @@ class GuideBrowser final : public QTextBrowser {
   void FindPages();
   void NotePlace();
   void KeepPlace();
-  void FitPictures();
-  void FitPicture(int place);
+  void FitPictures(QTextDocument& text);
+  void FitPicture(QTextCursor& cursor, int place);
   int TopOf(int block) const;
 
   std::vector<GuideHeading> pages_;
+  QString markdown_;  ///< has been read, and is not shown yet
   int pictureWidth_ = 0;
   std::optional<int> place_;  ///< the block to stay at the top, if the user has not scrolled since
 };
