@@ -13,6 +13,7 @@
 #include <QTextTable>
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -20,6 +21,7 @@
 #include "screens/screen_driver.h"
 #include "screens/widgets/colour_scheme.h"
 #include "screens/widgets/dialog.h"
+#include "screens/widgets/guide_caller.h"
 #include "screens/widgets/look.h"
 
 namespace kav::test::guide_dlg_test {
@@ -38,6 +40,15 @@ class GuideDlgTest : public testing::Test {
       dialog.hide();
     });
     RunGuide(&window, page);
+  }
+  /// Opens the guide beside `window`, where it stays.
+  static QDialog* OpenBeside(QWidget& window, Guide& guide) {
+    BoxWatch::Instance().ExpectDialog([](QDialog&) {});
+    guide.Open(&window, GuidePage::Graph);
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+      if (top->isVisible() && top->windowTitle() == "Guide") return qobject_cast<QDialog*>(top);
+    }
+    return nullptr;
   }
   static QTextBrowser& TextIn(QWidget& guide) { return *guide.findChild<QTextBrowser*>(); }
   static QComboBox& PagesIn(QWidget& guide) { return *guide.findChild<QComboBox*>(); }
@@ -177,6 +188,7 @@ TEST_F(GuideDlgTest, LinksLeadToTheOtherDocumentsAndBack) {
       EXPECT_GT(TextIn(guide).document()->characterCount(), 1500) << name;
       EXPECT_TRUE(back.isEnabled());
       Click(back);
+      EXPECT_EQ(Top(guide), "Matrix calculator") << "it is where it was left";
     }
     EXPECT_FALSE(back.isEnabled());
     EXPECT_EQ(PagesIn(guide).count(), 12);
@@ -228,12 +240,7 @@ TEST_F(GuideDlgTest, StaysOpenBesideAScreenAndIsOneWindow) {
   QWidget window;
   Show(window, {240, 320});
   Guide guide;
-  BoxWatch::Instance().ExpectDialog([](QDialog&) {});
-  guide.Open(&window, GuidePage::Graph);
-  QDialog* dialog = nullptr;
-  for (QWidget* top : QApplication::topLevelWidgets()) {
-    if (top->isVisible() && top->windowTitle() == "Guide") dialog = qobject_cast<QDialog*>(top);
-  }
+  QDialog* const dialog = OpenBeside(window, guide);
   ASSERT_NE(dialog, nullptr);
   EXPECT_FALSE(dialog->isModal());
   EXPECT_FALSE(dialog->geometry().intersects(window.geometry())) << "the desktop has room for both";
@@ -251,12 +258,7 @@ TEST_F(GuideDlgTest, FollowsTheSizeOfTextsWhileItIsOpen) {
   QWidget window;
   Show(window, {240, 320});
   Guide guide;
-  BoxWatch::Instance().ExpectDialog([](QDialog&) {});
-  guide.Open(&window, GuidePage::Graph);
-  QDialog* dialog = nullptr;
-  for (QWidget* top : QApplication::topLevelWidgets()) {
-    if (top->isVisible() && top->windowTitle() == "Guide") dialog = qobject_cast<QDialog*>(top);
-  }
+  QDialog* const dialog = OpenBeside(window, guide);
   ASSERT_NE(dialog, nullptr);
   const int usual = TextIn(*dialog).font().pixelSize();
   SetTextShare(1.5);
@@ -269,6 +271,30 @@ TEST_F(GuideDlgTest, FollowsTheSizeOfTextsWhileItIsOpen) {
   EXPECT_EQ(TextIn(*dialog).font().pixelSize(), usual);
   EXPECT_EQ(Top(*dialog), "Memory variables");
   dialog->hide();
+}
+
+/// A screen that notes what it is told.
+struct NotingScreen final : QWidget, GuideCaller {
+  void OpenGuide(QWidget*, std::optional<GuidePage>) override {}
+  void Obey(ScreenCommand command) override { told.push_back(command); }
+
+  std::vector<ScreenCommand> told;
+};
+
+TEST_F(GuideDlgTest, ItsShortcutsForTheSizeOfTextsAreThoseOfTheScreen) {
+  NotingScreen screen;
+  Show(screen, {240, 320});
+  Guide guide;
+  BoxWatch::Instance().ExpectDialog([&](QDialog& dialog) {
+    for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal, Qt::Key_Minus, Qt::Key_0}) {
+      QTest::keyClick(&TextIn(dialog), key, Qt::ControlModifier);
+    }
+    dialog.hide();
+  });
+  guide.Open(&screen, GuidePage::Graph);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return screen.told.size() == 4; }));
+  EXPECT_EQ(screen.told, (std::vector{ScreenCommand::LargerText, ScreenCommand::LargerText,
+                                      ScreenCommand::SmallerText, ScreenCommand::UsualText}));
 }
 
 }  // namespace

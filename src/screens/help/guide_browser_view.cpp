@@ -3,6 +3,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QFontInfo>
 #include <QImage>
+#include <QImageReader>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QRegularExpression>
@@ -28,6 +29,8 @@ constexpr int kLettersInPicture = 10;
 constexpr int kOutline = 2;
 constexpr int kPageLevel = 2;
 constexpr QLatin1String kPictures(":/guide/images/");
+/// Behind the name of a picture: the size in pixels of the screen that it is to have.
+constexpr const char* kPixels = "%1x%2";
 
 /// The parts of a text whose format `isWanted`.
 template <class IsWanted>
@@ -74,6 +77,18 @@ QString WithPlainPictures(QString text) {
   return text.replace(kPicture, "![\\2](\\1)").remove(kFrame);
 }
 
+/// The picture that FitPicture has given this name, to be read when it is first painted. Drawn
+/// smaller, the toolkit would leave pixels out.
+QImage PictureOf(const QUrl& name) {
+  static const QRegularExpression kSize("(\\d+)x(\\d+)");
+  const QRegularExpressionMatch size = kSize.match(name.query());
+  // Before it has that, it is measured only.
+  if (!size.hasMatch()) return {1, 1, QImage::Format_RGB32};
+  return QImage(kPictures + name.fileName())
+      .scaled(size.captured(1).toInt(), size.captured(2).toInt(), Qt::IgnoreAspectRatio,
+              Qt::SmoothTransformation);
+}
+
 }  // namespace
 
 GuideBrowser::GuideBrowser() {
@@ -108,8 +123,38 @@ void GuideBrowser::KeepPlace() {
   if (place_) verticalScrollBar()->setValue(TopOf(*place_));
 }
 
+int GuideBrowser::BlockAtTop() const {
+  return place_.value_or(cursorForPosition(QPoint(0, 0)).blockNumber());
+}
+
 void GuideBrowser::NotePlace() {
-  if (!place_) place_ = cursorForPosition(QPoint(0, 0)).blockNumber();
+  place_ = BlockAtTop();
+}
+
+void GuideBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+  NoteLeft();
+  QTextBrowser::doSetSource(name, type);
+}
+
+void GuideBrowser::backward() {
+  NoteLeft();
+  QTextBrowser::backward();
+  ReturnToLeft();
+}
+
+void GuideBrowser::forward() {
+  NoteLeft();
+  QTextBrowser::forward();
+  ReturnToLeft();
+}
+
+void GuideBrowser::NoteLeft() {
+  left_[source()] = BlockAtTop();
+}
+
+void GuideBrowser::ReturnToLeft() {
+  place_ = left_.value(source());
+  KeepPlace();
 }
 
 int GuideBrowser::TopOf(int block) const {
@@ -172,7 +217,7 @@ int GuideBrowser::Letters() const {
 QVariant GuideBrowser::loadResource(int type, const QUrl& name) {
   switch (type) {
     case QTextDocument::ImageResource:
-      return QImage(1, 1, QImage::Format_RGB32);  // FitPictures has it
+      return PictureOf(name);
     case QTextDocument::MarkdownResource:
       markdown_ = WithPlainPictures(
           QString::fromUtf8(QTextBrowser::loadResource(type, name).toByteArray()));
@@ -306,17 +351,16 @@ void GuideBrowser::FitPicture(QTextCursor& cursor, int place) {
   cursor.setPosition(place);
   cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
   QTextImageFormat format = cursor.charFormat().toImageFormat();
-  const QUrl name(format.name());
-  QImage picture(kPictures + name.fileName());
-  if (picture.isNull()) return;
-  // Drawn smaller, the toolkit would leave pixels out.
+  QUrl name(format.name());
+  const QSize whole = QImageReader(kPictures + name.fileName()).size();
+  if (whole.isEmpty()) return;
   const double scale = devicePixelRatioF();
-  picture = picture.scaledToWidth(qRound(pictureWidth_ * scale), Qt::SmoothTransformation);
-  picture.setDevicePixelRatio(scale);
-  QTextDocument& text = *cursor.document();
-  text.addResource(QTextDocument::ImageResource, text.baseUrl().resolved(name), picture);
-  format.setWidth(picture.deviceIndependentSize().width());
-  format.setHeight(picture.deviceIndependentSize().height());
+  const QSize pixels =
+      whole.scaled(qRound(pictureWidth_ * scale), whole.height(), Qt::KeepAspectRatio);
+  name.setQuery(QString(kPixels).arg(pixels.width()).arg(pixels.height()));
+  format.setName(name.toString());
+  format.setWidth(pixels.width() / scale);
+  format.setHeight(pixels.height() / scale);
   cursor.setCharFormat(format);
 }
 

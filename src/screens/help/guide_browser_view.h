@@ -1,7 +1,9 @@
 // The text of the guide, with its pictures and links.
 #pragma once
 
+#include <QHash>
 #include <QTextBrowser>
+#include <QUrl>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -37,8 +39,13 @@ class GuideBrowser final : public QTextBrowser {
 
   void SetFont(const QFont& font);
 
+  // To the place where the document was left.
+  void backward() override;
+  void forward() override;
+
  private:
   QVariant loadResource(int type, const QUrl& name) override;
+  void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -55,6 +62,9 @@ class GuideBrowser final : public QTextBrowser {
   bool focusNextPrevChild(bool next) override;
   void GoToLink(int links);
   void FindPages();
+  int BlockAtTop() const;
+  void NoteLeft();
+  void ReturnToLeft();
   void NotePlace();
   void KeepPlace();
   void FitPictures(QTextDocument& text);
@@ -64,6 +74,7 @@ class GuideBrowser final : public QTextBrowser {
   std::vector<GuideHeading> pages_;
   QString markdown_;  ///< has been read, and is not shown yet
   int pictureWidth_ = 0;
+  QHash<QUrl, int> left_;     ///< the block that was at the top of a document when it was left
   std::optional<int> place_;  ///< the block to stay at the top, if the user has not scrolled since
 };
 

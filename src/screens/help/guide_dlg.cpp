@@ -12,17 +12,28 @@
 #include <memory>
 #include <vector>
 
+#include "common/number_text.h"
+#include "line/screen_commands.h"
 #include "screens/help/guide_browser_view.h"
 #include "screens/widgets/app_texts.h"
 #include "screens/widgets/choice_box.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/dialog_texts.h"
+#include "screens/widgets/guide_caller.h"
 #include "screens/widgets/qt_text.h"
 
 namespace kav {
 namespace {
 
 constexpr int kLongestSearch = 100;
+
+/// Has the screen beside the guide do what it does by its own shortcut.
+void AskScreen(ScreenCommand command) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* screen = dynamic_cast<GuideCaller*>(window);
+    if (screen != nullptr && window->isVisible()) return screen->Obey(command);
+  }
+}
 
 class CGuideDlg final : public Dialog {
  public:
@@ -88,6 +99,12 @@ void CGuideDlg::Connect() {
     search_->selectAll();
   });
   connect(new QShortcut(Qt::Key_F3, this), &QShortcut::activated, this, &CGuideDlg::OnSearch);
+  for (const ScreenCommand command :
+       {ScreenCommand::LargerText, ScreenCommand::SmallerText, ScreenCommand::UsualText}) {
+    auto* shortcut = new QShortcut(this);
+    shortcut->setKeys(QKeySequence::listFromString(ToQt(Widen(ShortcutOf(command)))));
+    connect(shortcut, &QShortcut::activated, this, [command] { AskScreen(command); });
+  }
 }
 
 void CGuideDlg::Open(GuidePage page) {

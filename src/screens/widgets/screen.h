@@ -76,6 +76,7 @@ class Screen : public QWidget, public GuideCaller, public HasScreenPart {
   void LayOutAll();
 
   void OpenGuide(QWidget* window, std::optional<GuidePage> page) override;
+  void Obey(ScreenCommand command) override;
   QRect ScreenPart() const override { return rect(); }
 
  protected:
@@ -98,7 +99,6 @@ class Screen : public QWidget, public GuideCaller, public HasScreenPart {
 
   Frame& ParentFrame() const { return frame_; }
 
-  void Obey(ScreenCommand command);
   /// Lists what can be pressed here.
   virtual void OpenKeys() {}
   /// The page of the guide that tells about this screen.
