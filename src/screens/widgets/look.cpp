@@ -100,8 +100,8 @@ QRect PortraitArea(const QRect& part) {
 
 QRect ScreenPartOver(const QWidget& opener) {
   const QWidget& window = *opener.window();
-  const auto* parted = dynamic_cast<const HasScreenPart*>(&window);
-  const QRect own = parted != nullptr ? parted->ScreenPart() : window.rect();
+  QRect own = window.rect();
+  if (const auto* parted = dynamic_cast<const HasScreenPart*>(&window)) own = parted->ScreenPart();
   const QRect part(window.mapToGlobal(own.topLeft()), own.size());
   if (own == window.rect()) return part;
   // The middle of a window may be seen where one of its sides is not.
