@@ -201,7 +201,7 @@ double Milliseconds(const std::string& text, CalcModes modes, double most) {
 
 TEST(LongText, IsAnsweredWithin10Milliseconds) {
   constexpr std::size_t kMegabyte = 1U << 20U;
-  const double most = test::kIsFast ? 10 : 500;
+  const double most = test::IsFast() ? 10 : 500;
   const std::vector<std::pair<std::string_view, std::string>> texts{
       {"digits", std::string(kMegabyte, '7')},
       {"points", std::string(kMegabyte, '.')},

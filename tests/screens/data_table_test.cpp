@@ -34,7 +34,7 @@ class CountingModel final : public QIdentityProxyModel {
 
 class DataTableTest : public testing::Test {
  protected:
-  static constexpr int kMany = Tries(1'000'000);
+  const int kMany = Tries(1'000'000);
 
   void Append(const std::string& value, std::optional<std::int32_t> count = 1) {
     ASSERT_EQ(list_.Append({{value, {}}, count}), std::nullopt);

@@ -41,7 +41,7 @@ inline std::span<const QSize> Windows() {
   constexpr std::size_t kSmallOnes = 7;
   static_assert(kWindows[kSmallOnes - 1] == QSize(480, 640));
   const std::span<const QSize> all(kWindows);
-  const bool isSlow = !kIsFast || std::getenv("KAV_TEST_DPI") != nullptr;
+  const bool isSlow = !IsFast() || std::getenv("KAV_TEST_DPI") != nullptr;
   return isSlow ? all.first(kSmallOnes) : all;
 }
 

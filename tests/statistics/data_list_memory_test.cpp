@@ -57,7 +57,7 @@ std::int64_t Resident() {
 }
 
 TEST(DataListMemory, ALongListIsGivenBackToTheMachine) {
-  if (!test::kIsFast) GTEST_SKIP() << "a sanitizer keeps what is freed";
+  if (!test::IsFast()) GTEST_SKIP() << "a sanitizer keeps what is freed";
   std::string text;
   // Hardly a file has shorter lines.
   for (int i = 0; i < 300'000; ++i) text += std::to_string(i % 90 + 10) + "\t5\r\n";
@@ -79,7 +79,7 @@ TEST(DataListMemory, ALongListIsGivenBackToTheMachine) {
 }
 
 TEST(DataListMemory, LoadingTakesAtMostTwiceTheFile) {
-  constexpr int kRows = test::Tries(1'000'000);
+  const int kRows = test::Tries(1'000'000);
   std::string text;
   for (int i = 0; i < kRows; ++i) text += std::to_string(i % 9000 + 1000) + ".123\t5\r\n";
   ASSERT_EQ(text.size(), kRows * 12U);

@@ -222,7 +222,7 @@ TEST(DataReader, DigitsWithoutAnEndAreAFaultAtOnce) {
 }
 
 TEST(DataReader, AGigabyteOfDigitsMakesOneCount) {
-  constexpr int kBlocks = test::Tries(16'384);
+  const int kBlocks = test::Tries(16'384);
   Reading reading(DataShape::OneVariable);
   const std::string block(65'536, '0');
   reading.Read("5\t");
@@ -231,7 +231,7 @@ TEST(DataReader, AGigabyteOfDigitsMakesOneCount) {
 }
 
 TEST(DataReader, TabsWithoutEndAreNoRows) {
-  constexpr int kBlocks = test::Tries(1'000);
+  const int kBlocks = test::Tries(1'000);
   Reading reading(DataShape::TwoVariables);
   const std::string block(65'536, '\t');
   for (int i = 0; i < kBlocks; ++i) reading.Read(block);

@@ -92,7 +92,7 @@ TEST_F(UserSettingsStoreTest, IntegersBeyond32BitsReadAsTheNearestOnes) {
 }
 
 TEST_F(UserSettingsStoreTest, AnyTextComesBackExactly) {
-  constexpr std::size_t kSigns = test::Sized(100'000);
+  const std::size_t kSigns = test::Sized(100'000);
   const std::vector<std::string> texts{
       "",
       " ",

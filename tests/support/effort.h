@@ -7,28 +7,18 @@
 
 namespace kav::test {
 
-// Whether what is tested is built as users run it: optimised, and without sanitizers.
-#if !defined(NDEBUG) || defined(__SANITIZE_ADDRESS__)
-inline constexpr bool kIsFast = false;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-inline constexpr bool kIsFast = false;
-#else
-inline constexpr bool kIsFast = true;
-#endif
-#else
-inline constexpr bool kIsFast = true;
-#endif
+/// Whether what is tested is built as users run it: optimised, and without sanitizers.
+bool IsFast();
 
 /// `count` tries, fewer if each of them is slow.
-constexpr int Tries(int count) {
-  return kIsFast ? count : count / 10;
+inline int Tries(int count) {
+  return IsFast() ? count : count / 10;
 }
 
 /// Of texts and lists of that size a tenth where each byte is slow. What a test proves of so many
 /// holds of fewer, only how fast they are does not show, which is for a build that is fast.
-constexpr std::size_t Sized(std::size_t size) {
-  return kIsFast ? size : size / 10;
+inline std::size_t Sized(std::size_t size) {
+  return IsFast() ? size : size / 10;
 }
 
 /// The bits of a double, which tell -0 from 0 and one NaN from another.
