@@ -1,48 +1,31 @@
-// Answers to items, and how they are written to standard output.
+// How answers are written to standard output, as lines of text or as JSON.
 #pragma once
 
-#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 
+#include "cli/answer.h"
 #include "cli/options.h"
-#include "engine/calc_error.h"
 
 namespace kav {
-
-/// Why an item has no answer. The message may hold line breaks.
-struct Failure {
-  std::string message;
-};
-
-/// What an item is answered with: a number, lines of text, each with its end, or a failure.
-using Answer = std::variant<double, std::string, Failure>;
-
-/// `text` as one line, with its end. Line breaks within it become blanks: a message may name a
-/// character, and an argument may hold line breaks.
-std::string Line(std::string_view text);
-
-/// `columns` as one line, with a tab between two of them and its end. Tabs, line breaks and other
-/// control characters within them become blanks.
-std::string Row(std::initializer_list<std::string_view> columns);
-
-/// Appends `value` to `out` in the display, precision and base of the options, or with 17
-/// significant digits if they ask for raw numbers. Returns why it cannot be shown so; `out` is
-/// unchanged then.
-std::optional<CalcError> AppendShown(std::string& out, double value, const Options& options);
 
 /// Writes answers to standard output in blocks, or each at once if it is a terminal. Remembers
 /// whether every item was answered. Once a write has failed, nothing more is written or kept.
 /// Control characters are made visible in failures, and on a terminal everywhere.
 class AnswerWriter {
  public:
-  /// `options` decide how numbers are shown. They must outlive the writer.
+  /// `options` decide how answers are shown, and whether each is an object of JSON instead. They
+  /// must outlive the writer.
   explicit AnswerWriter(const Options& options);
 
-  /// Numbers and failures become one line each, a failure with its mark.
+  /// The answers that follow are to `item`, which must outlive them; nullopt: to none.
+  void Begin(std::optional<std::string_view> item) { item_ = item; }
+  /// Numbers and failures become one line each, a failure with its mark. In JSON each answer is
+  /// one line: its item, result or error, and the text that stands there without JSON.
   void Write(const Answer& answer);
+  /// A blank line between two answers of several lines; JSON needs none.
+  void Separate();
   /// Remembers that an item stays without an answer.
   void MarkIncomplete() { isComplete_ = false; }
 
@@ -55,20 +38,23 @@ class AnswerWriter {
   int Finish();
 
  private:
-  void WriteFailure(std::string_view message);
-
   const Options& options_;
+  std::optional<std::string_view> item_;
   std::string text_;
   bool isTerminal_;
   bool isComplete_ = true;
   int error_ = 0;  ///< errno of the write that failed, or 0
 };
 
-/// Writes `answer` as an AnswerWriter with `options` does. Returns the exit status as its Finish
-/// does.
-int AnswerOnce(const Answer& answer, const Options& options);
+/// Writes `answer`, to `item` if there is one, as an AnswerWriter with `options` does. Returns the
+/// exit status as its Finish does.
+int AnswerOnce(const Answer& answer, const Options& options,
+               std::optional<std::string_view> item = {});
 
-/// Writes the program's name and `text` to standard error, as one line without control characters.
+/// The program's name and `text`, as one line without control characters.
+std::string ToldLine(std::string_view text);
+
+/// Writes the ToldLine of `text` to standard error.
 void Tell(std::string_view text);
 
 /// The system's text for the errno `number`.

@@ -12,12 +12,17 @@ namespace {
 
 Answer AnswerFormula(std::string_view formula, const Options& options) {
   auto checked = CheckFormula(formula, options.variables);
-  if (!checked) return Failure{std::move(checked).error().message};
-  std::string lines = Line(kDone);
-  if (!options.showsSteps) return lines;
+  if (!checked) return FailureOf(std::move(checked).error());
+  if (!options.showsSteps) return Line(kDone);
+  Rows rows(options);
+  rows.AddLines(Line(kDone));
   const StepList& steps = checked->Steps();
-  for (int i = 0; i < steps.Count(); ++i) lines += Line("  " + DescribeStep(steps[i]));
-  return lines;
+  for (int i = 0; i < steps.Count(); ++i) {
+    const std::string step = DescribeStep(steps[i]);
+    rows.AddLines(Line("  " + step));
+    rows.AddValues({step});
+  }
+  return rows;
 }
 
 }  // namespace

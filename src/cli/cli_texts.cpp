@@ -1,5 +1,6 @@
 #include "cli/cli_texts.h"
 
+#include "cli/build_note.h"
 #include "common/number_text.h"
 #include "common/version.h"
 
@@ -37,7 +38,7 @@ std::string NumbersOf(std::size_t count) {
 }  // namespace
 
 std::string VersionLine() {
-  return Joined(kProgramName, " ", KAV_VERSION "\n");
+  return Joined(kProgramName, " ", KAV_VERSION " (").append(BuildNote()).append(")\n");
 }
 
 std::string Quoted(std::string_view text) {
@@ -81,6 +82,18 @@ std::string NotAMemoryVariable(std::string_view text, int count) {
 
 std::string DidYouMean(std::string_view line) {
   return std::string("did you mean ").append(line) + '?';
+}
+
+std::string LinesAwaited(std::string_view item) {
+  return Joined(item, " a line; Ctrl+D ends.", "");
+}
+
+std::string TextAwaited(std::string_view text) {
+  return Joined(text, "; Ctrl+D ends.", "");
+}
+
+std::string IsNoCommand(std::string_view word, std::string_view call) {
+  return Quoted(word) + " is no command; did you mean " + Quoted(call) + "?";
 }
 
 std::string NotAUserConversion(std::string_view text) {

@@ -15,6 +15,7 @@ inline constexpr std::string_view kPrompt = "> ";
 // What is no expression at the prompt, in any case.
 inline constexpr std::string_view kHelpWord = "help";
 inline constexpr std::string_view kQuitWord = "quit";
+inline constexpr std::string_view kExitWord = "exit";
 /// The argument that stands for standard input where a file may be named, and what messages call
 /// it.
 inline constexpr std::string_view kStandardInput = "-";
@@ -38,6 +39,18 @@ std::string NotVariables(std::string_view text);
 std::string NotAMemoryVariable(std::string_view text, int count);
 std::string NotAUserConversion(std::string_view text);
 std::string DidYouMean(std::string_view line);
+
+// What a command that reads a terminal waits for: lines of items, or a text of many lines.
+std::string LinesAwaited(std::string_view item);
+std::string TextAwaited(std::string_view text);
+inline constexpr std::string_view kDataAwaited = "Rows of data";
+inline constexpr std::string_view kMatrixAwaited = "A matrix as its file holds it";
+inline constexpr std::string_view kExportAwaited = "What settings export printed";
+
+// Words in the place of a command's name that ask for what an option gives.
+inline constexpr std::string_view kVersionWord = "version";
+/// `call` is how the command is called that `word` may stand for.
+std::string IsNoCommand(std::string_view word, std::string_view call);
 
 // Messages on standard error, which follow the program's name. `reason` is a text of the system.
 std::string CannotRead(std::string_view reason);

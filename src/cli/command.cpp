@@ -3,8 +3,6 @@
 #include <unistd.h>
 
 #include "cli/answer_writer.h"
-#include "cli/cli_texts.h"
-#include "cli/visible_text.h"
 #include "settings/file_descriptor.h"
 
 namespace kav {
@@ -14,7 +12,7 @@ std::string UsageLine(const Command& command) {
 }
 
 std::string Complaint(std::string_view reason, const Command& command) {
-  return std::string(kProgramName).append(": ").append(Visible(Line(reason))) + UsageLine(command);
+  return ToldLine(reason) + UsageLine(command);
 }
 
 int Complain(std::string_view reason, const Command& command) {

@@ -14,6 +14,19 @@ inline constexpr int kUnusable = 2;
 
 struct CommandLine;
 
+/// What the Tab key does while an item is typed at a terminal.
+enum class TabKey {
+  Types,                    ///< a tab, as between the parts of an item
+  CompletesFunction,        ///< the name of a function of numbers
+  CompletesMatrixFunction,  ///< that, or the name of a function of matrices
+};
+
+/// What a command waits for where its items are typed at a terminal.
+struct AwaitedItem {
+  std::string_view what;  ///< "A number", say
+  TabKey tab = TabKey::Types;
+};
+
 /// One command: its name, its help, and the function that carries it out.
 struct Command {
   std::string_view name;
@@ -23,6 +36,7 @@ struct Command {
   std::string_view items;    ///< the paragraph of that help about items and their answers
   /// Returns the exit status: 0 if all items were answered, 1 if at least one failed, kUnusable.
   int (*run)(const CommandLine& line);
+  AwaitedItem awaited = {};  ///< empty for commands that read no items
 };
 
 /// A command line that can be carried out. `items` are what the command works on, in order; without
@@ -31,6 +45,14 @@ struct CommandLine {
   const Command* command;  ///< never nullptr
   Options options;
   std::vector<std::string_view> items;
+  /// Of the verb, if the command has verbs; it counts instead of the command's.
+  AwaitedItem awaitedOfVerb = {};
+  /// Whether the first item stands where the name of a command may stand.
+  bool mayLackCommand = false;
+
+  const AwaitedItem& Awaited() const {
+    return awaitedOfVerb.what.empty() ? command->awaited : awaitedOfVerb;
+  }
 };
 
 /// The usage line of `command`, with its line end.

@@ -4,7 +4,9 @@
 #include <optional>
 #include <utility>
 
+#include "cli/answer_writer.h"
 #include "cli/cli_texts.h"
+#include "cli/command_hint.h"
 #include "cli/help_texts.h"
 #include "cli/option_rows.h"
 
@@ -36,6 +38,7 @@ class ArgumentSorter {
   }
 
   const Command* Named() const { return command_; }
+  bool MayLackCommand() const { return mayLackCommand_; }
   std::vector<GivenOption> TakeOptions() { return std::move(options_); }
   std::vector<std::string_view> TakeItems() { return std::move(items_); }
 
@@ -51,7 +54,10 @@ class ArgumentSorter {
       while (!left_.empty()) items_.push_back(Next());
     } else if (IsOption(argument)) {
       options_.push_back(TakeOption(argument));
-    } else if (std::exchange(hasCommand_, true) || !TakeCommand(argument)) {
+    } else if (std::exchange(hasCommand_, true)) {
+      items_.push_back(argument);
+    } else if (!TakeCommand(argument)) {
+      mayLackCommand_ = true;
       items_.push_back(argument);
     }
   }
@@ -83,6 +89,7 @@ class ArgumentSorter {
   std::span<const Command> commands_;
   const Command* command_;
   bool hasCommand_ = false;  ///< named, or meant by an item
+  bool mayLackCommand_ = false;
   std::vector<GivenOption> options_;
   std::vector<std::string_view> items_;
 };
@@ -168,8 +175,9 @@ std::optional<EarlyEnd> ReadOptions(std::vector<GivenOption> given,
   if (line.options.asksVersion) return EarlyEnd{0, VersionLine()};
   if (line.options.asksHelp) return EarlyEnd{0, Help(command, commands)};
   if (unexpected == given.end()) return std::nullopt;
-  return EarlyEnd{kUnusable,
-                  Complaint(NotExpected(ArgumentsOf({unexpected, given.end()})), command)};
+  std::string complaint = Complaint(NotExpected(ArgumentsOf({unexpected, given.end()})), command);
+  if (const auto hint = CommandHint(line, commands)) complaint += ToldLine(*hint);
+  return EarlyEnd{kUnusable, complaint};
 }
 
 }  // namespace
@@ -177,7 +185,10 @@ std::optional<EarlyEnd> ReadOptions(std::vector<GivenOption> given,
 Expected<CommandLine, EarlyEnd> ReadCommandLine(std::span<const char* const> arguments,
                                                 std::span<const Command> commands) {
   ArgumentSorter sorter(arguments, commands);
-  CommandLine line{sorter.Named(), {}, sorter.TakeItems()};
+  CommandLine line{.command = sorter.Named(),
+                   .options = {},
+                   .items = sorter.TakeItems(),
+                   .mayLackCommand = sorter.MayLackCommand()};
   if (auto end = ReadOptions(sorter.TakeOptions(), commands, line)) return *std::move(end);
   return line;
 }

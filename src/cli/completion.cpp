@@ -5,6 +5,7 @@
 
 #include "common/ascii.h"
 #include "engine/fold_case.h"
+#include "engine/function_names.h"
 
 namespace kav {
 namespace {
@@ -36,6 +37,15 @@ std::string_view CommonStart(const std::vector<std::string>& names) {
 }
 
 }  // namespace
+
+std::vector<std::string> NamesOfFunctions() {
+  std::vector<std::string> names{std::string(kPiWord)};
+  names.reserve(1 + kFunctionNames.size());
+  for (const FunctionName& function : kFunctionNames) {
+    names.push_back(std::string(function.name) + "(");
+  }
+  return names;
+}
 
 Completion Complete(std::string_view before, std::span<const std::string> names) {
   const std::string_view begun = BegunName(before);

@@ -8,6 +8,9 @@
 
 namespace kav {
 
+/// The functions of numbers and the number pi, each with the text that follows it in a line.
+std::vector<std::string> NamesOfFunctions();
+
 /// What the Tab key does to a line: it inserts a text at the caret or, if there is nothing to
 /// insert, lists the names that are possible.
 struct Completion {

@@ -1,6 +1,8 @@
 #include "cli/commands.h"
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "cli/answer_writer.h"
 #include "common/number_text.h"
@@ -21,9 +23,10 @@ int RunConstants(const CommandLine& line) {
   const auto constants = LoadConstants(ConstantsFolders());
   if (!constants) return AnswerOnce(Failure{Narrow(constants.error())}, line.options);
   const std::u16string filter = FilterOf(line.items);
-  std::string rows;
+  Rows rows(line.options);
   for (const Constant& constant : *constants) {
-    if (Matches(constant, filter)) rows += Row({Narrow(constant.name), Narrow(constant.value)});
+    if (!Matches(constant, filter)) continue;
+    rows.Add({Narrow(constant.name), CellOf(Narrow(constant.value))});
   }
   return AnswerOnce(rows, line.options);
 }

@@ -100,11 +100,11 @@ int ListUnits(const CommandLine& line) {
     return Complain(NoCategoryIs(line.items.front()), *line.command);
   }
   StoredSettings settings(line.options);
-  std::string rows;
+  Rows rows(line.options);
   for (const UnitCategory& category : UnitCategories()) {
     if (only != nullptr && only != &category) continue;
     for (const auto& [name, rate] : UnitRows(category, settings.Store())) {
-      rows += Row({Narrow(category.caption), name, rate});
+      rows.Add({Narrow(category.caption), name, CellOf(rate)});
     }
   }
   return AnswerOnce(rows, line.options);

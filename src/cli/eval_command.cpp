@@ -1,11 +1,15 @@
 #include <unistd.h>
 
+#include <optional>
+#include <string_view>
 #include <utility>
 
+#include "cli/command_hint.h"
 #include "cli/commands.h"
 #include "cli/evaluation.h"
 #include "cli/items.h"
 #include "cli/prompt.h"
+#include "cli/typed_lines.h"
 #include "settings/file_descriptor.h"
 
 namespace kav {
@@ -16,23 +20,39 @@ bool IsReadAtTerminal() {
   return isatty(STDOUT_FILENO) != 0 && isatty(STDERR_FILENO) != 0;
 }
 
-Answer AnswerTo(std::string_view item, Evaluation& evaluation) {
-  auto value = evaluation.Value(item);
-  if (value) return *value;
-  // Where nobody reads along, nothing follows the message.
-  if (IsReadAtTerminal()) {
-    static_cast<void>(WriteAll(STDERR_FILENO, evaluation.NoteOn(item, value.error())));
+/// Answers the items of a line.
+class EvalSession {
+ public:
+  explicit EvalSession(const CommandLine& line)
+      : line_(line), evaluation_(line.options), mayBeCommand_(line.mayLackCommand) {}
+
+  Answer AnswerTo(std::string_view item) {
+    const bool mayBeCommand = std::exchange(mayBeCommand_, false);
+    auto value = evaluation_.Value(item);
+    if (value) return *value;
+    const auto hint = mayBeCommand ? CommandHint(line_, Commands()) : std::nullopt;
+    if (hint) {
+      Tell(*hint);
+    } else if (IsReadAtTerminal()) {
+      // Where nobody reads along, nothing follows the message.
+      static_cast<void>(WriteAll(STDERR_FILENO, evaluation_.NoteOn(item, value.error())));
+    }
+    return FailureOf(std::move(value).error());
   }
-  return Failure{std::move(value).error().message};
-}
+
+ private:
+  const CommandLine& line_;
+  Evaluation evaluation_;
+  bool mayBeCommand_;  ///< whether the next item may be the misspelt name of a command
+};
 
 }  // namespace
 
 int RunEval(const CommandLine& line) {
   if (line.items.empty() && CanPrompt()) return RunPrompt(line.options);
-  Evaluation evaluation(line.options);
+  EvalSession session(line);
   return AnswerItems(line, kLongestExpression,
-                     [&](std::string_view item) { return AnswerTo(item, evaluation); });
+                     [&](std::string_view item) { return session.AnswerTo(item); });
 }
 
 }  // namespace kav

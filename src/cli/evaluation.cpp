@@ -26,7 +26,7 @@ CalcModes Evaluation::ModesFor(std::string_view line) {
 
 Answer Evaluation::AnswerTo(std::string_view line) {
   auto value = Value(line);
-  if (!value) return Failure{std::move(value).error().message};
+  if (!value) return FailureOf(std::move(value).error());
   return *value;
 }
 

@@ -2,7 +2,11 @@
 
 #include <unistd.h>
 
+#include <optional>
+#include <string>
+
 #include "cli/cli_texts.h"
+#include "cli/typed_lines.h"
 
 namespace kav {
 namespace {
@@ -19,22 +23,59 @@ Parts PartsOf(std::string_view line, std::size_t most) {
   return parts;
 }
 
-}  // namespace
+/// The line of standard input that holds the same `parts`.
+std::string LineOf(const Parts& parts) {
+  std::string line;
+  for (const std::string_view part : parts) line.append(part).append("\t");
+  line.pop_back();
+  return line;
+}
 
-void ForEachItem(const CommandLine& line, std::size_t longest, AnswerWriter& answers,
-                 const std::function<void(std::string_view item, Extent extent)>& take) {
-  for (const std::string_view item : line.items) take(item, Extent::Whole);
-  if (!line.items.empty()) return;
+using Take = std::function<void(std::string_view item, Extent extent)>;
+
+void ForEachLineRead(std::size_t longest, AnswerWriter& answers, const Take& take) {
   LineReader lines(STDIN_FILENO, longest, [&answers] { answers.Flush(); });
   while (!answers.IsBroken()) {
     const auto item = lines.Next();
     if (!item) break;
+    answers.Begin(*item);
     take(*item, lines.IsShortened() ? Extent::Shortened : Extent::Whole);
   }
   if (lines.Error() == 0 && !lines.IsEndless()) return;
   answers.MarkIncomplete();
   Tell(lines.IsEndless() ? HasEndlessLine(LineReader::kEndless)
                          : CannotRead(SystemReason(lines.Error())));
+}
+
+void ForEachLineTyped(const CommandLine& line, AnswerWriter& answers, const Take& take) {
+  TypedLines lines(line.Awaited().tab);
+  while (!answers.IsBroken()) {
+    const auto item = lines.Next();
+    if (!item) break;
+    answers.Begin(*item);
+    take(*item, Extent::Whole);
+  }
+}
+
+void ForEachLine(const CommandLine& line, std::size_t longest, AnswerWriter& answers,
+                 const Take& take) {
+  TellAwaitedLines(line.Awaited().what);
+  CanPrompt() ? ForEachLineTyped(line, answers, take) : ForEachLineRead(longest, answers, take);
+}
+
+}  // namespace
+
+void ForEachItem(const CommandLine& line, std::size_t longest, AnswerWriter& answers,
+                 const std::function<void(std::string_view item, Extent extent)>& take) {
+  if (line.items.empty()) {
+    ForEachLine(line, longest, answers, take);
+  } else {
+    for (const std::string_view item : line.items) {
+      answers.Begin(item);
+      take(item, Extent::Whole);
+    }
+  }
+  answers.Begin(std::nullopt);
 }
 
 int AnswerItems(const CommandLine& line, std::size_t longest,
@@ -49,7 +90,8 @@ int AnswerItems(const CommandLine& line, std::size_t longest,
 
 int AnswerParts(const CommandLine& line, std::size_t most, std::size_t longest,
                 const std::function<Answer(const Parts& parts)>& answerTo) {
-  if (!line.items.empty()) return AnswerOnce(answerTo(line.items), line.options);
+  if (!line.items.empty())
+    return AnswerOnce(answerTo(line.items), line.options, LineOf(line.items));
   return AnswerItems(line, longest,
                      [&](std::string_view item) { return answerTo(PartsOf(item, most)); });
 }

@@ -1,5 +1,9 @@
 #include "cli/commands.h"
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 #include "cli/cli_texts.h"
 #include "cli/items.h"
 #include "cli/key_sequence.h"
@@ -32,10 +36,16 @@ void SetUp(SettingsStore& screen, const Options& options) {
   screen.Set(kPrecision, options.display.precision);
 }
 
-std::string ResultShown(const ScientificModel& screen, const Options& options) {
+/// The two lines of the screen as one row.
+Rows ScreenShown(const ScientificModel& screen, const Options& options) {
   const bool isNumber = screen.ResultText() != screen.ErrorText();
-  if (options.isRaw && isNumber) return PrintRoundTrip(screen.LastAnswer());
-  return Narrow(screen.ResultText());
+  const std::string line = MarkedLine(screen.Line());
+  const std::string result =
+      options.isRaw && isNumber ? PrintRoundTrip(screen.LastAnswer()) : Narrow(screen.ResultText());
+  Rows rows(options);
+  rows.AddLines(Line(line + "\t" + result));
+  rows.AddValues({line, isNumber ? Cell(result, screen.LastAnswer()) : Cell(result)});
+  return rows;
 }
 
 }  // namespace
@@ -47,15 +57,15 @@ int RunKeys(const CommandLine& line) {
   KeySequence sequence(screen);
   AnswerWriter answers(line.options);
   std::optional<std::string> complaint;
+  std::optional<std::string> key;
   ForEachItem(line, kLongestText, answers, [&](std::string_view item, Extent extent) {
     if (complaint) return;
+    key = item;
     complaint = extent == Extent::Shortened ? IsTooLong(kLongestText) : sequence.Take(item);
   });
-  if (complaint) {
-    answers.Write(Failure{*complaint});
-  } else {
-    answers.Write(Line(MarkedLine(screen.Line()) + "\t" + ResultShown(screen, line.options)));
-  }
+  // One answer to all keys: it follows the last one, or the one that cannot be pressed.
+  answers.Begin(key);
+  answers.Write(complaint ? Answer(Failure{*complaint}) : ScreenShown(screen, line.options));
   return answers.Finish();
 }
 

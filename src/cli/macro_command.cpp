@@ -20,9 +20,9 @@ namespace {
 int ListMacros(const CommandLine& line) {
   StoredSettings settings(line.options);
   const MacroStore macros(settings.Store());
-  std::string rows;
+  Rows rows(line.options);
   for (int i = 0; i < macros.Count(); ++i) {
-    rows += Row({Narrow(MacroLabel(macros.At(i))), macros.At(i).formula});
+    rows.Add({Narrow(MacroLabel(macros.At(i))), macros.At(i).formula});
   }
   return AnswerOnce(rows, line.options);
 }
@@ -84,8 +84,12 @@ int RemoveMacros(const CommandLine& line) {
 int RunMacro(const CommandLine& line) {
   static constexpr std::array kVerbs{
       Verb{"list", Arguments::None, "no arguments", ListMacros},
-      Verb{"add", Arguments::TwoOrNone, "a name and a formula", AddMacros},
-      Verb{"remove", Arguments::Any, "names", RemoveMacros},
+      Verb{"add",
+           Arguments::TwoOrNone,
+           "a name and a formula",
+           AddMacros,
+           {"A name, a tab and a formula"}},
+      Verb{"remove", Arguments::Any, "names", RemoveMacros, {"The name of a macro"}},
   };
   return RunVerb(line, kVerbs);
 }

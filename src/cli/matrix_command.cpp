@@ -1,8 +1,11 @@
 #include "cli/commands.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "cli/evaluation.h"
 #include "cli/items.h"
@@ -17,11 +20,30 @@
 namespace kav {
 namespace {
 
+/// The rows of `matrix`, shown as a matrix file holds them.
+Rows RowsOf(const MatrixValue& matrix, const Options& options) {
+  Rows rows(options);
+  rows.AddLines(PrintMatrix(matrix, options.hasCrLf ? kMatrixLineEnd : "\n"));
+  if (!rows.KeepsValues()) return rows;
+  for (int row = 0; row < matrix.rows; ++row) {
+    std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(matrix.columns));
+    for (int column = 0; column < matrix.columns; ++column) {
+      texts.push_back(Narrow(matrix.At(row, column)));
+    }
+    std::vector<Cell> cells;
+    cells.reserve(texts.size());
+    std::transform(texts.begin(), texts.end(), std::back_inserter(cells), CellOf);
+    rows.AddValues(cells);
+  }
+  return rows;
+}
+
 /// Answers items. The matrix that answers one is [M Ans] for the next.
 class MatrixSession {
  public:
   MatrixSession(const Options& options, Matrices matrices)
-      : matrices_(std::move(matrices)), evaluation_(options) {}
+      : options_(options), matrices_(std::move(matrices)), evaluation_(options) {}
 
   Answer AnswerTo(std::string_view item) {
     const std::u16string line = Widen(item);
@@ -30,12 +52,13 @@ class MatrixSession {
       return Failure{Narrow(MatrixIsInvalid(*invalid))};
     }
     auto result = MatrixEvaluator(matrices_, files_).Evaluate(item);
-    if (!result) return Failure{std::move(result).error().message};
+    if (!result) return FailureOf(std::move(result).error());
     matrices_[kAnswerMatrix] = *std::move(result);
-    return PrintMatrix(matrices_[kAnswerMatrix]);
+    return RowsOf(matrices_[kAnswerMatrix], options_);
   }
 
  private:
+  const Options& options_;
   Matrices matrices_;
   Evaluation evaluation_;
   TemporaryMatrices files_;

@@ -11,6 +11,7 @@
 
 #include "cli/cli_texts.h"
 #include "cli/descriptor.h"
+#include "cli/typed_lines.h"
 #include "cli/unreadable.h"
 #include "common/number_text.h"
 #include "matrix/matrix_file.h"
@@ -50,7 +51,10 @@ Expected<MatrixValue, std::string> ReadMatrixFrom(int descriptor, std::string_vi
 }
 
 Expected<MatrixValue, std::string> LoadMatrix(const std::string& path) {
-  if (path == kStandardInput) return ReadMatrixFrom(STDIN_FILENO, kStandardInputName);
+  if (path == kStandardInput) {
+    TellAwaitedText(kMatrixAwaited);
+    return ReadMatrixFrom(STDIN_FILENO, kStandardInputName);
+  }
   const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
   if (file.IsOpen()) return ReadMatrixFrom(file.Number(), path);
   return MatrixCannotBeLoaded(path, Narrow(WhyUnreadable(errno)));

@@ -25,11 +25,13 @@ struct Options {
   BaseMode base = BaseMode::Decimal;
   DisplayFormat display{.type = DisplayType::FloatingPoint};
   bool isRaw = false;        ///< 17 significant digits instead of `display` and `base`
+  bool isJson = false;       ///< answers are objects, not lines of text
   std::string settingsFile;  ///< empty: the user's
   VariableType variables = VariableType::X;
   bool showsSteps = false;
   bool listsUnits = false;
   std::array<std::string, kMatrixCount> matrixFiles;  ///< paths; empty: no file
+  bool hasCrLf = false;                               ///< matrices as the screen writes their files
   DataShape shape = DataShape::OneVariable;
   RegressionModel model = RegressionModel::Linear;
   std::vector<double> estimatesAtX;  ///< finite; each asks for an estimate of Y

@@ -31,21 +31,35 @@ class PlotSession {
 
   Answer AnswerTo(std::string_view equation) {
     auto formula = CheckFormula(equation, VariableType::X);
-    if (!formula) return Failure{std::move(formula).error().message};
+    if (!formula) return FailureOf(std::move(formula).error());
     const AngleUnit unit = settings_.AngleFor(equation, "xX");
-    const CurveRows rows = SampleCurve(*formula, options_.range, unit, options_.area);
+    const CurveRows curve = SampleCurve(*formula, options_.range, unit, options_.area);
     std::string lines;
     constexpr std::size_t kRoomInALine = 32;
-    lines.reserve(rows.size() * kRoomInALine);
-    for (std::size_t i = 0; i < rows.size(); ++i) {
+    lines.reserve(curve.size() * kRoomInALine);
+    for (std::size_t i = 0; i < curve.size(); ++i) {
       lines += starts_[i];
-      if (rows[i]) lines += PrintInteger(*rows[i]);
+      if (curve[i]) lines += PrintInteger(*curve[i]);
       lines += '\n';
     }
-    return lines;
+    return RowsOf(curve, lines);
   }
 
  private:
+  /// The samples of `curve`, which `lines` show.
+  Rows RowsOf(const CurveRows& curve, std::string_view lines) const {
+    Rows rows(options_);
+    rows.AddLines(lines);
+    if (!rows.KeepsValues()) return rows;
+    for (std::size_t i = 0; i < curve.size(); ++i) {
+      const int sample = static_cast<int>(i);
+      const std::string row = curve[i] ? PrintInteger(*curve[i]) : "";
+      rows.AddValues(
+          {CellOf(PrintInteger(sample)), {"", SampleX(options_.range, sample)}, CellOf(row)});
+    }
+    return rows;
+  }
+
   const Options& options_;
   StoredSettings settings_;
   std::array<std::string, kSampleCount> starts_;  ///< of the lines, up to the row
@@ -61,9 +75,9 @@ int RunPlot(const CommandLine& line) {
   if (options.area.top >= options.area.bottom) return Complain(kAreaIsEmpty, *line.command);
   AnswerWriter answers(options);
   PlotSession session(options);
-  std::string_view separator;
+  bool isFirst = true;
   ForEachItem(line, kLongestExpression, answers, [&](std::string_view item, Extent) {
-    answers.Write(std::string(std::exchange(separator, "\n")));
+    if (!std::exchange(isFirst, false)) answers.Separate();
     answers.Write(session.AnswerTo(item));
   });
   return answers.Finish();

@@ -10,6 +10,7 @@
 #include "cli/help_texts.h"
 #include "cli/line_editor.h"
 #include "cli/prompt_lines.h"
+#include "cli/typed_lines.h"
 #include "cli/typed_spelling.h"
 #include "common/ascii.h"
 #include "common/number_text.h"
@@ -23,10 +24,7 @@ namespace {
 std::vector<std::string> KnownNames(BaseMode base, const MacroStore& macros) {
   std::vector<std::string> names{std::string(kAnswerWord)};
   if (base == BaseMode::Decimal) {
-    names.emplace_back("pi");
-    for (const FunctionName& function : kFunctionNames) {
-      names.push_back(std::string(function.name) + "(");
-    }
+    for (std::string& name : NamesOfFunctions()) names.push_back(std::move(name));
   }
   for (int i = 0; i < macros.Count(); ++i) names.push_back("M:" + macros.At(i).name + "(");
   return names;
@@ -37,7 +35,9 @@ bool IsWord(std::string_view line, std::string_view word) {
 }
 
 /// Answers `line` on the terminal, and shows where it failed.
-Answer AnswerLine(std::string_view line, Evaluation& evaluation, AnswerWriter& answers) {
+Answer AnswerLine(std::string_view line, const Options& options, Evaluation& evaluation,
+                  AnswerWriter& answers) {
+  answers.Begin(line);
   auto value = evaluation.Value(line);
   if (value) {
     evaluation.SetAnswer(*value);
@@ -45,17 +45,16 @@ Answer AnswerLine(std::string_view line, Evaluation& evaluation, AnswerWriter& a
     return *value;
   }
   // Answers go to the terminal, too, so the message comes last, right before the next prompt.
-  static_cast<void>(WriteAll(STDOUT_FILENO, evaluation.NoteOn(line, value.error())));
-  Failure failure{std::move(value).error().message};
+  // Among objects of JSON it would be none.
+  if (!options.isJson) {
+    static_cast<void>(WriteAll(STDOUT_FILENO, evaluation.NoteOn(line, value.error())));
+  }
+  Failure failure = FailureOf(std::move(value).error());
   answers.Write(failure);
   return failure;
 }
 
 }  // namespace
-
-bool CanPrompt() {
-  return isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
-}
 
 int RunPrompt(const Options& options) {
   AnswerWriter answers(options);
@@ -76,13 +75,13 @@ int RunPrompt(const Options& options) {
     const auto outcome = editor.Read(line, kPrompt);
     if (outcome == LineEditor::Outcome::End || answers.IsBroken()) return answers.Finish();
     if (outcome == LineEditor::Outcome::GivenUp || TrimBlanks(line).empty()) continue;
-    if (IsWord(line, kQuitWord)) return answers.Finish();
+    if (IsWord(line, kQuitWord) || IsWord(line, kExitWord)) return answers.Finish();
     if (IsWord(line, kHelpWord)) {
-      answers.Write(std::string(kPromptHelp));
+      static_cast<void>(WriteAll(STDOUT_FILENO, kPromptHelp));
       continue;
     }
     line = TypedSpelling(line, ask);
-    pastLines.Add(line, AnswerLine(line, evaluation, answers));
+    pastLines.Add(line, AnswerLine(line, options, evaluation, answers));
   }
 }
 

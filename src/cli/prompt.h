@@ -5,9 +5,6 @@
 
 namespace kav {
 
-/// Whether standard input and output are both a terminal.
-bool CanPrompt();
-
 /// Prompts for expressions and answers each, until the end of the input. Lines can be edited,
 /// completed and recalled. Returns the exit status.
 int RunPrompt(const Options& options);

@@ -15,8 +15,6 @@ std::string ShownAnswer(const Answer& answer, const Options& options) {
   std::string shown;
   if (const auto* number = std::get_if<double>(&answer)) {
     static_cast<void>(AppendShown(shown, *number, options));
-  } else if (const auto* text = std::get_if<std::string>(&answer)) {
-    shown = *text;
   }
   return shown;
 }

@@ -15,6 +15,7 @@
 #include "cli/descriptor.h"
 #include "cli/options.h"
 #include "cli/stored_settings.h"
+#include "cli/typed_lines.h"
 #include "cli/unreadable.h"
 #include "cli/verbs.h"
 #include "common/expected.h"
@@ -51,7 +52,10 @@ int ExportSettings(const CommandLine& line) {
 }
 
 Expected<std::string, int> ReadFile(std::string_view path) {
-  if (path == kStandardInput) return ReadAll(STDIN_FILENO, kMostToImport);
+  if (path == kStandardInput) {
+    TellAwaitedText(kExportAwaited);
+    return ReadAll(STDIN_FILENO, kMostToImport);
+  }
   const FileDescriptor file(open(std::string(path).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
   if (!file.IsOpen()) return errno;
   return ReadAll(file.Number(), kMostToImport);

@@ -14,6 +14,7 @@
 #include "cli/cli_texts.h"
 #include "cli/data_sums.h"
 #include "cli/items.h"
+#include "cli/typed_lines.h"
 #include "cli/unreadable.h"
 #include "common/number_text.h"
 #include "settings/file_descriptor.h"
@@ -45,54 +46,54 @@ std::string Printed(double value) {
   return PrintRoundTrip(std::isnan(value) ? std::numeric_limits<double>::quiet_NaN() : value);
 }
 
-std::string ValueRow(std::string_view name, double value) {
-  return Row({name, Printed(value)});
+void AddValue(Rows& rows, std::string_view name, double value) {
+  rows.Add({name, {Printed(value), value}});
 }
 
-std::string EstimateRow(std::string_view name, double at, double value) {
-  return Row({name, Printed(at), Printed(value)});
+void AddEstimate(Rows& rows, std::string_view name, double at, double value) {
+  rows.Add({name, {Printed(at), at}, {Printed(value), value}});
 }
 
-std::string MomentRows(std::string_view variable, const WeightedSums& sums, std::int32_t total) {
-  std::string rows;
+void AddMoments(Rows& rows, std::string_view variable, const WeightedSums& sums,
+                std::int32_t total) {
   for (const MomentRow& row : kMoments) {
     std::string name = std::string(row.name).append(variable);
     if (row.moment == Moment::SumOfSquares) name += kSquaresMark;
-    rows += ValueRow(name, MomentOf(sums, total, row.moment));
+    AddValue(rows, name, MomentOf(sums, total, row.moment));
   }
-  return rows;
 }
 
-std::string EstimateRowsOfX(RegressionModel model, const Coefficients& fitted, double y) {
+void AddEstimatesOfX(Rows& rows, RegressionModel model, const Coefficients& fitted, double y) {
   if (model != RegressionModel::Quadratic) {
-    return EstimateRow("x'", y, EstimateX(model, fitted, y));
+    return AddEstimate(rows, "x'", y, EstimateX(model, fitted, y));
   }
   const TwoEstimates estimates = EstimateQuadraticX(fitted, y);
-  return EstimateRow("x1'", y, estimates.first) + EstimateRow("x2'", y, estimates.second);
+  AddEstimate(rows, "x1'", y, estimates.first);
+  AddEstimate(rows, "x2'", y, estimates.second);
 }
 
-std::string RegressionRows(const Summary& summary, const Options& options) {
+void AddRegression(Rows& rows, const Summary& summary, const Options& options) {
   const RegressionModel model = options.model;
   const RegressionSums& sums = summary.Sums();
   const Coefficients fitted = sums.Fit(summary.Total());
-  std::string rows = MomentRows("y", sums.Y(), summary.Total());
-  rows += ValueRow("sum_xy", sums.Products());
-  rows += ValueRow("A", fitted.a);
-  rows += ValueRow("B", fitted.b);
-  if (model == RegressionModel::Quadratic) rows += ValueRow("C", fitted.c);
-  if (model == RegressionModel::Linear) rows += ValueRow("r", sums.Correlation(summary.Total()));
+  AddMoments(rows, "y", sums.Y(), summary.Total());
+  AddValue(rows, "sum_xy", sums.Products());
+  AddValue(rows, "A", fitted.a);
+  AddValue(rows, "B", fitted.b);
+  if (model == RegressionModel::Quadratic) AddValue(rows, "C", fitted.c);
+  if (model == RegressionModel::Linear) AddValue(rows, "r", sums.Correlation(summary.Total()));
   for (const double x : options.estimatesAtX) {
-    rows += EstimateRow("y'", x, EstimateY(model, fitted, x));
+    AddEstimate(rows, "y'", x, EstimateY(model, fitted, x));
   }
-  for (const double y : options.estimatesAtY) rows += EstimateRowsOfX(model, fitted, y);
-  return rows;
+  for (const double y : options.estimatesAtY) AddEstimatesOfX(rows, model, fitted, y);
 }
 
-std::string SummaryRows(const Summary& summary, const Options& options) {
-  std::string rows = Row({"rows", PrintInteger(summary.Rows())});
-  rows += Row({"total", PrintInteger(summary.Total())});
-  rows += MomentRows("x", summary.X(), summary.Total());
-  if (options.shape == DataShape::TwoVariables) rows += RegressionRows(summary, options);
+Rows SummaryRows(const Summary& summary, const Options& options) {
+  Rows rows(options);
+  rows.Add({"rows", CellOf(PrintInteger(summary.Rows()))});
+  rows.Add({"total", CellOf(PrintInteger(summary.Total()))});
+  AddMoments(rows, "x", summary.X(), summary.Total());
+  if (options.shape == DataShape::TwoVariables) AddRegression(rows, summary, options);
   return rows;
 }
 
@@ -123,6 +124,7 @@ int RunStats(const CommandLine& line) {
   return AnswerItems(line, kLongestPath, [&](std::string_view item) {
     // Among the lines of standard input, "-" is a file of this name.
     if (item == kStandardInput && !line.items.empty()) {
+      TellAwaitedText(kDataAwaited);
       return AnswerData(STDIN_FILENO, kStandardInputName, line.options);
     }
     return AnswerFile(std::string(item), line.options);

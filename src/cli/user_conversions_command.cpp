@@ -20,9 +20,9 @@ namespace {
 
 int ListConversions(const CommandLine& line) {
   StoredSettings settings(line.options);
-  std::string rows;
+  Rows rows(line.options);
   for (const auto& [text, rateText] : LoadUserConversions(settings.Store())) {
-    rows += Row({text, rateText});
+    rows.Add({text, CellOf(rateText)});
   }
   return AnswerOnce(rows, line.options);
 }
@@ -93,9 +93,12 @@ int RunUserConversions(CommandLine line) {
                                  RunConvert};
   static constexpr std::array kVerbs{
       Verb{"list", Arguments::None, "no arguments", ListConversions},
-      Verb{"add", Arguments::ThreeOrNone, "a unit, the unit to convert it to and the rate",
-           AddConversions},
-      Verb{"remove", Arguments::Any, "conversions", RemoveConversions},
+      Verb{"add",
+           Arguments::ThreeOrNone,
+           "a unit, the unit to convert it to and the rate",
+           AddConversions,
+           {"A unit, a tab, the unit to convert it to, a tab and the rate"}},
+      Verb{"remove", Arguments::Any, "conversions", RemoveConversions, {"A conversion"}},
   };
   line.command = &kUser;
   return RunVerb(line, kVerbs);

@@ -23,6 +23,7 @@ int RunVerb(const CommandLine& line, std::span<const Verb> verbs) {
   if (verb == verbs.end()) return Complain(HasNoVerb(command.name, name), command);
   CommandLine rest = line;
   rest.items.erase(rest.items.begin());
+  rest.awaitedOfVerb = verb->awaited;
   if (Takes(*verb, rest.items.size())) return verb->run(rest);
   return Complain(VerbTakes(command.name, verb->name, verb->arguments), command);
 }

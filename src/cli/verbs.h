@@ -18,6 +18,7 @@ struct Verb {
   Arguments count;
   std::string_view arguments;  ///< the same in words, for the complaint
   int (*run)(const CommandLine& line);
+  AwaitedItem awaited = {};  ///< empty for verbs that read no items
 };
 
 /// Carries out the verb that is the first item of `line`; the other items are its own. Complains if

@@ -10,7 +10,6 @@
 namespace kav {
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr char kBetweenCells = '\t';
 
@@ -73,15 +72,15 @@ bool ReadRow(std::string_view line, int row, MatrixValue& matrix) {
 
 }  // namespace
 
-std::string PrintMatrix(const MatrixValue& matrix) {
+std::string PrintMatrix(const MatrixValue& matrix, std::string_view lineEnd) {
   std::string text = "[" + PrintInteger(matrix.rows) + "*" + PrintInteger(matrix.columns) + "]";
-  text += kLineEnd;
+  text += lineEnd;
   for (int row = 0; row < matrix.rows; ++row) {
     for (int column = 0; column < matrix.columns; ++column) {
       if (column != 0) text += kBetweenCells;
       for (const char16_t c : matrix.At(row, column)) text += ByteOf(c);
     }
-    text += kLineEnd;
+    text += lineEnd;
   }
   return text;
 }

@@ -11,9 +11,13 @@
 
 namespace kav {
 
-/// "[ROWS*COLUMNS]", then a line for each row with a TAB between its cells; each line ends with CR
-/// LF. Each character of a cell is written as its low byte, or as a blank if that is TAB or LF.
-std::string PrintMatrix(const MatrixValue& matrix);
+/// How the lines of matrix files end.
+inline constexpr std::string_view kMatrixLineEnd = "\r\n";
+
+/// "[ROWS*COLUMNS]", then a line for each row with a TAB between its cells; each line ends with
+/// `lineEnd`. Each character of a cell is written as its low byte, or as a blank if that is TAB or
+/// LF.
+std::string PrintMatrix(const MatrixValue& matrix, std::string_view lineEnd = kMatrixLineEnd);
 
 /// Why a text is no matrix, and in which line.
 struct MatrixFault {

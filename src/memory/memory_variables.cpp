@@ -35,9 +35,12 @@ void MemoryVariables::ClearAll() {
   });
 }
 
+std::u16string MemoryVariables::Name(int index) {
+  return std::u16string(kVariablePrefix) + NumberShown(index);
+}
+
 std::u16string MemoryVariables::Line(int index) const {
-  std::u16string line(kVariablePrefix);
-  line += NumberShown(index);
+  std::u16string line = Name(index);
   line += kVariableSeparator;
   line += Widen(Get(index));
   return line;

@@ -22,6 +22,8 @@ class MemoryVariables {
   void Clear(int index);
   void ClearAll();
 
+  /// The name that lists show: "Mem01".
+  static std::u16string Name(int index);
   /// The line that shows the variable in a list: "Mem01 = 0".
   std::u16string Line(int index) const;
 
