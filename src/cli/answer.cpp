@@ -26,9 +26,8 @@ void AppendCell(std::string& out, const Cell& cell) {
   }
 }
 
-std::optional<Failure> AppendFailure(std::string& out, const Failure& failure) {
-  out.append(kFailureMark).append(Visible(Line(failure.message)));
-  return failure;
+void AppendFailure(std::string& out, std::string_view message) {
+  out.append(kFailureMark).append(Visible(Line(message)));
 }
 
 }  // namespace
@@ -75,19 +74,19 @@ std::optional<CalcError> AppendShown(std::string& out, double value, const Optio
   return std::nullopt;
 }
 
-std::optional<Failure> AppendLines(std::string& out, const Answer& answer, const Options& options) {
+bool AppendLines(std::string& out, const Answer& answer, const Options& options) {
   if (const auto* number = std::get_if<double>(&answer)) {
-    auto error = AppendShown(out, *number, options);
-    if (error) return AppendFailure(out, {std::move(error)->message});
-    out += '\n';
-  } else if (const auto* lines = std::get_if<std::string>(&answer)) {
-    out += *lines;
-  } else if (const auto* rows = std::get_if<Rows>(&answer)) {
-    out += rows->Lines();
-  } else {
-    return AppendFailure(out, *std::get_if<Failure>(&answer));
+    const auto error = AppendShown(out, *number, options);
+    error ? AppendFailure(out, error->message) : out.push_back('\n');
+    return !error;
   }
-  return std::nullopt;
+  if (const auto* failure = std::get_if<Failure>(&answer)) {
+    AppendFailure(out, failure->message);
+    return false;
+  }
+  const auto* rows = std::get_if<Rows>(&answer);
+  out += rows != nullptr ? rows->Lines() : *std::get_if<std::string>(&answer);
+  return true;
 }
 
 }  // namespace kav

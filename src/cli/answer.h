@@ -49,7 +49,8 @@ Cell CellOf(std::string_view text);
 /// ask for JSON.
 class Rows {
  public:
-  explicit Rows(const Options& options) : keepsValues_(options.isJson) {}
+  explicit Rows(const Options& options, std::string lines = {})
+      : keepsValues_(options.isJson), lines_(std::move(lines)) {}
 
   /// Adds a row, and its line: the cells with a tab between two of them. Tabs, line breaks and
   /// other control characters within them become blanks there.
@@ -87,7 +88,7 @@ std::string Line(std::string_view text);
 std::optional<CalcError> AppendShown(std::string& out, double value, const Options& options);
 
 /// Appends `answer` to `out` as lines: a number as it is shown, a failure with its mark. Returns
-/// the failure if there is no answer, or none that can be shown.
-std::optional<Failure> AppendLines(std::string& out, const Answer& answer, const Options& options);
+/// whether there is an answer, and one that can be shown.
+bool AppendLines(std::string& out, const Answer& answer, const Options& options);
 
 }  // namespace kav

@@ -31,6 +31,13 @@ void AppendResult(std::string& out, const Answer& answer, std::string_view text)
   }
 }
 
+/// The failure that `answer` is, or which keeps its number from being shown.
+Failure FailureIn(const Answer& answer, const Options& options) {
+  if (const auto* failure = std::get_if<Failure>(&answer)) return *failure;
+  std::string shown;
+  return FailureOf(*AppendShown(shown, *std::get_if<double>(&answer), options));
+}
+
 void AppendError(std::string& out, const Failure& failure, std::string_view item) {
   out += ",\"error\":";
   AppendJsonText(out, failure.message);
@@ -49,15 +56,16 @@ std::string_view WithoutLastEnd(std::string_view lines) {
 bool AppendJsonAnswer(std::string& out, std::optional<std::string_view> item, const Answer& answer,
                       const Options& options) {
   std::string lines;
-  const auto failure = AppendLines(lines, answer, options);
+  const bool isAnswered = AppendLines(lines, answer, options);
   const std::string_view text = WithoutLastEnd(lines);
   out += "{\"item\":";
   item ? AppendJsonText(out, *item) : void(out.append("null"));
-  failure ? AppendError(out, *failure, item.value_or("")) : AppendResult(out, answer, text);
+  isAnswered ? AppendResult(out, answer, text)
+             : AppendError(out, FailureIn(answer, options), item.value_or(""));
   out += ",\"text\":";
   AppendJsonText(out, text);
   out += "}\n";
-  return !failure;
+  return isAnswered;
 }
 
 }  // namespace kav

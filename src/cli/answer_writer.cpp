@@ -22,7 +22,7 @@ AnswerWriter::AnswerWriter(const Options& options)
 
 void AnswerWriter::Write(const Answer& answer) {
   const bool isAnswered = options_.isJson ? AppendJsonAnswer(text_, item_, answer, options_)
-                                          : !AppendLines(text_, answer, options_);
+                                          : AppendLines(text_, answer, options_);
   if (!isAnswered) isComplete_ = false;
   if (isTerminal_ || text_.size() >= kBlock) Flush();
 }
@@ -32,7 +32,8 @@ void AnswerWriter::Separate() {
 }
 
 void AnswerWriter::Flush() {
-  if (!IsBroken()) error_ = WriteAll(STDOUT_FILENO, isTerminal_ ? Visible(text_) : text_);
+  if (isTerminal_) text_ = Visible(text_);
+  if (!IsBroken()) error_ = WriteAll(STDOUT_FILENO, text_);
   text_.clear();
 }
 

@@ -78,7 +78,8 @@ inline constexpr std::string_view kPromptHelp =
 
 Tab completes names, the arrows go through earlier lines, Ctrl-R searches them,
 Ctrl-C gives up a line. "help" shows this, "quit" or Ctrl-D ends. Angles, bases
-and displays are options: "kavcalc eval --help" names them.
+and displays are options: "kavcalc eval --help" names them. Matrices, data, plots,
+units and more are commands: "kavcalc --help" names those.
 )text";
 
 inline constexpr std::string_view kEvalDetails =

@@ -18,6 +18,7 @@ namespace {
 constexpr const char* kTabFunction = "complete-name";
 constexpr const char* kGiveUpFunction = "give-up-line";
 constexpr const char* kStopFunction = "stop-program";
+constexpr const char* kEndFunction = "end-of-typing";
 
 /// Lists `names`, which must not be empty, below the line being typed.
 void List(const std::vector<std::string>& names) {
@@ -59,6 +60,9 @@ LineEditor::LineEditor(Completer completer) : completer_(std::move(completer)) {
   el_set(editor, EL_BIND, "^C", kGiveUpFunction, nullptr);
   el_set(editor, EL_ADDFN, kStopFunction, "stop the program until it is continued", OnStop);
   el_set(editor, EL_BIND, "^Z", kStopFunction, nullptr);
+  // What a Ctrl-D becomes that is typed before the terminal is set up for the line.
+  el_set(editor, EL_ADDFN, kEndFunction, "end if the line is empty", OnEnd);
+  el_set(editor, EL_BIND, "^@", kEndFunction, nullptr);
   el_source(editor, nullptr);
 }
 
@@ -104,6 +108,11 @@ unsigned char LineEditor::OnTab(editline* editor, int) {
 unsigned char LineEditor::OnGiveUp(editline* editor, int) {
   Of(editor).isGivenUp_ = true;
   return CC_EOF;
+}
+
+unsigned char LineEditor::OnEnd(editline* editor, int) {
+  const LineInfo* typed = el_line(editor);
+  return typed->buffer == typed->lastchar ? CC_EOF : CC_NORM;
 }
 
 unsigned char LineEditor::OnStop(editline*, int) {

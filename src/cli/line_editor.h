@@ -42,6 +42,7 @@ class LineEditor {
   static char* PromptText(editline* editor);
   static unsigned char OnTab(editline* editor, int key);
   static unsigned char OnGiveUp(editline* editor, int key);
+  static unsigned char OnEnd(editline* editor, int key);
   static unsigned char OnStop(editline* editor, int key);
   unsigned char CompleteAtCaret();
 

@@ -22,8 +22,7 @@ namespace {
 
 /// The rows of `matrix`, shown as a matrix file holds them.
 Rows RowsOf(const MatrixValue& matrix, const Options& options) {
-  Rows rows(options);
-  rows.AddLines(PrintMatrix(matrix, options.hasCrLf ? kMatrixLineEnd : "\n"));
+  Rows rows(options, PrintMatrix(matrix, options.hasCrLf ? kMatrixLineEnd : "\n"));
   if (!rows.KeepsValues()) return rows;
   for (int row = 0; row < matrix.rows; ++row) {
     std::vector<std::string> texts;

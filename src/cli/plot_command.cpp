@@ -42,14 +42,13 @@ class PlotSession {
       if (curve[i]) lines += PrintInteger(*curve[i]);
       lines += '\n';
     }
-    return RowsOf(curve, lines);
+    return RowsOf(curve, std::move(lines));
   }
 
  private:
   /// The samples of `curve`, which `lines` show.
-  Rows RowsOf(const CurveRows& curve, std::string_view lines) const {
-    Rows rows(options_);
-    rows.AddLines(lines);
+  Rows RowsOf(const CurveRows& curve, std::string lines) const {
+    Rows rows(options_, std::move(lines));
     if (!rows.KeepsValues()) return rows;
     for (std::size_t i = 0; i < curve.size(); ++i) {
       const int sample = static_cast<int>(i);
