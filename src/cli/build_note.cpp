@@ -1,6 +1,6 @@
 #include "cli/build_note.h"
 
-#include "cli/commit.h"
+#include "cli/this_build.h"
 
 namespace kav {
 
