@@ -121,7 +121,7 @@ matrices and their functions is a number expression and gets one line.
 A matrix file holds "[ROWS*COLUMNS]" and then a line for each row, with a tab
 between two cells. It may be a pipe; "-" is standard input:
 
-  printf '[2*2]\r\n2\t1\r\n1\t1\r\n' >a.txt
+  printf '[2*2]\n2\t1\n1\t1\n' >a.txt
   kavcalc matrix --m1 a.txt 'inverse([M1])' '[M1]*[M Ans]' 1+1)text";
 
 inline constexpr std::string_view kPlotDetails =
