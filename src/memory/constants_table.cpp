@@ -1,24 +1,23 @@
 #include "memory/constants_table.h"
 
+#include <unistd.h>
+
 #include <algorithm>
-#include <cstdint>
-#include <filesystem>
-#include <fstream>
+#include <array>
+#include <climits>
 #include <optional>
-#include <system_error>
 
 #include "common/ascii.h"
 #include "common/number_text.h"
 #include "memory/memory_texts.h"
+#include "settings/atomic_file.h"
 
 namespace kav {
 namespace {
 
-namespace fs = std::filesystem;
-
 /// The folder of the installed data, relative to that of the executable, so that an installation
 /// may stand anywhere.
-constexpr std::string_view kInstalledData = "../share/kav-calculator";
+constexpr std::string_view kInstalledData = "/../share/kav-calculator";
 
 std::u16string Characters(std::string_view bytes) {
   std::u16string text(bytes.size(), u'\0');
@@ -57,19 +56,10 @@ bool Contains(std::u16string_view text, std::u16string_view word) {
          std::search(text.begin(), text.end(), word.begin(), word.end(), isEqual) != text.end();
 }
 
-/// The bytes of the file `path`, at most one more than the limit; nullopt if it cannot be opened,
-/// or if it is a pipe or a device, which could keep the program waiting.
-std::optional<std::string> ReadBytes(const fs::path& path) {
-  std::error_code error;
-  if (!fs::is_regular_file(path, error)) return std::nullopt;
-  const std::uintmax_t size = fs::file_size(path, error);
-  std::ifstream file(path, std::ios::binary);
-  if (error || !file) return std::nullopt;
-  const std::uintmax_t most = kLargestConstantsFile + 1;
-  std::string bytes(static_cast<std::size_t>(std::min(size, most)), '\0');
-  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  bytes.resize(static_cast<std::size_t>(file.gcount()));
-  return bytes;
+std::string PathIn(std::string_view folder) {
+  std::string path(folder);
+  if (!path.empty() && !path.ends_with('/')) path += '/';
+  return path.append(kConstantsFile);
 }
 
 }  // namespace
@@ -111,22 +101,21 @@ SymbolMatch MatchSymbol(const Constant& constant, std::u16string_view filter) {
 Expected<std::vector<Constant>, std::u16string> LoadConstants(
     const std::vector<std::string>& folders) {
   for (const std::string& folder : folders) {
-    const fs::path path = fs::path(folder) / kConstantsFile;
-    const auto bytes = ReadBytes(path);
-    if (!bytes) continue;
-    if (bytes->size() > kLargestConstantsFile) return ConstantsAreTooLarge(path.native());
-    return ParseConstants(*bytes);
+    const std::string path = PathIn(folder);
+    const auto bytes = ReadWholeFile(path, kLargestConstantsFile);
+    if (bytes) return ParseConstants(*bytes);
+    if (bytes.error() == FileError::TooLarge) return ConstantsAreTooLarge(path);
   }
-  const fs::path beside = folders.empty() ? fs::path() : fs::path(folders.front());
-  return ConstantsNotFound((beside / kConstantsFile).native());
+  return ConstantsNotFound(PathIn(folders.empty() ? "" : folders.front()));
 }
 
 std::vector<std::string> ConstantsFolders() {
-  std::error_code error;
-  const fs::path executable = fs::read_symlink("/proc/self/exe", error);
-  if (error) return {};
-  const fs::path folder = executable.parent_path();
-  return {folder.native(), (folder / kInstalledData).lexically_normal().native()};
+  std::array<char, PATH_MAX> executable{};
+  const ssize_t length = readlink("/proc/self/exe", executable.data(), executable.size());
+  if (length <= 0) return {};
+  const std::string_view path(executable.data(), static_cast<std::size_t>(length));
+  const std::string folder(path.substr(0, std::max(path.rfind('/'), std::size_t{1})));
+  return {folder, folder + std::string(kInstalledData)};
 }
 
 }  // namespace kav
