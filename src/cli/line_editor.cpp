@@ -1,6 +1,5 @@
 #include "cli/line_editor.h"
 
-#include <histedit.h>
 #include <unistd.h>
 
 #include <clocale>
@@ -30,53 +29,55 @@ void List(const std::vector<std::string>& names) {
 
 }  // namespace
 
-void LineEditor::Closer::operator()(editline* editor) const {
-  el_end(editor);
-}
-void LineEditor::Closer::operator()(struct history* lines) const {
-  history_end(lines);
-}
+LineEditor* LineEditor::active_ = nullptr;
 
-LineEditor::LineEditor(Completer completer) : completer_(std::move(completer)) {
+LineEditor::LineEditor(Completer completer, const char* library)
+    : completer_(std::move(completer)), library_(LoadEditLibrary(library)) {
   // The library decodes typed characters by the locale.
   std::setlocale(LC_CTYPE, "C.UTF-8");
-  history_.reset(history_init());
-  editor_.reset(el_init(kProgramName.data(), stdin, stdout, stderr));
-  if (!history_ || !editor_) return;
+  if (!library_) return;
+  history_ = {library_->historyInit(), library_->historyEnd};
+  editor_ = {library_->init(kProgramName.data(), stdin, stdout, stderr), library_->end};
+  if (history_ && editor_) SetUp();
+}
+
+void LineEditor::SetUp() {
   HistEvent event;
-  ::history(history_.get(), &event, H_SETSIZE, static_cast<int>(PastLines::kCapacity));
-  ::history(history_.get(), &event, H_SETUNIQUE, 1);
+  library_->history(history_.get(), &event, H_SETSIZE, static_cast<int>(PastLines::kCapacity));
+  library_->history(history_.get(), &event, H_SETUNIQUE, 1);
   EditLine* editor = editor_.get();
-  el_set(editor, EL_CLIENTDATA, this);
-  el_set(editor, EL_PROMPT, PromptText);
-  el_set(editor, EL_EDITOR, "emacs");
-  el_set(editor, EL_SIGNAL, 1);
-  el_set(editor, EL_HIST, ::history, history_.get());
-  el_set(editor, EL_ADDFN, kTabFunction, "complete the name at the caret", OnTab);
-  el_set(editor, EL_BIND, "^I", kTabFunction, nullptr);
+  const auto set = library_->set;
+  set(editor, EL_PROMPT, PromptText);
+  set(editor, EL_EDITOR, "emacs");
+  set(editor, EL_SIGNAL, 1);
+  set(editor, EL_HIST, library_->history, history_.get());
+  set(editor, EL_ADDFN, kTabFunction, "complete the name at the caret", OnTab);
+  set(editor, EL_BIND, "^I", kTabFunction, nullptr);
   // As keys, not as signals: a signal just before the wait for the next key would be lost.
-  el_set(editor, EL_SETTY, "-d", "-isig", nullptr);
-  el_set(editor, EL_ADDFN, kGiveUpFunction, "give up the line", OnGiveUp);
-  el_set(editor, EL_BIND, "^C", kGiveUpFunction, nullptr);
-  el_set(editor, EL_ADDFN, kStopFunction, "stop the program until it is continued", OnStop);
-  el_set(editor, EL_BIND, "^Z", kStopFunction, nullptr);
+  set(editor, EL_SETTY, "-d", "-isig", nullptr);
+  set(editor, EL_ADDFN, kGiveUpFunction, "give up the line", OnGiveUp);
+  set(editor, EL_BIND, "^C", kGiveUpFunction, nullptr);
+  set(editor, EL_ADDFN, kStopFunction, "stop the program until it is continued", OnStop);
+  set(editor, EL_BIND, "^Z", kStopFunction, nullptr);
   // What a Ctrl-D becomes that is typed before the terminal is set up for the line.
-  el_set(editor, EL_ADDFN, kEndFunction, "end if the line is empty", OnEnd);
-  el_set(editor, EL_BIND, "^@", kEndFunction, nullptr);
-  el_source(editor, nullptr);
+  set(editor, EL_ADDFN, kEndFunction, "end if the line is empty", OnEnd);
+  set(editor, EL_BIND, "^@", kEndFunction, nullptr);
+  library_->source(editor, nullptr);
 }
 
 LineEditor::~LineEditor() = default;
 
 LineEditor::Outcome LineEditor::Read(std::string& line, std::string_view prompt) {
+  if (!library_) return ReadPlain(line, prompt);
   if (!history_ || !editor_) return Outcome::End;
+  active_ = this;
   prompt_ = prompt;
   isGivenUp_ = false;
   // Before the prompt appears: until then the terminal collects whole lines, and would lose a
   // Ctrl-D among them.
-  el_set(editor_.get(), EL_PREP_TERM, 1);
+  library_->set(editor_.get(), EL_PREP_TERM, 1);
   int count = 0;
-  const char* text = el_gets(editor_.get(), &count);
+  const char* text = library_->gets(editor_.get(), &count);
   if (text == nullptr || count <= 0) {
     static_cast<void>(WriteAll(STDOUT_FILENO, "\n"));
     return isGivenUp_ ? Outcome::GivenUp : Outcome::End;
@@ -86,47 +87,53 @@ LineEditor::Outcome LineEditor::Read(std::string& line, std::string_view prompt)
   return Outcome::Line;
 }
 
+LineEditor::Outcome LineEditor::ReadPlain(std::string& line, std::string_view prompt) {
+  static_cast<void>(WriteAll(STDOUT_FILENO, prompt));
+  line.clear();
+  int c = std::getchar();
+  for (; c != EOF && c != '\n'; c = std::getchar()) line.push_back(static_cast<char>(c));
+  if (c != EOF || !line.empty()) return Outcome::Line;
+  static_cast<void>(WriteAll(STDOUT_FILENO, "\n"));
+  return Outcome::End;
+}
+
 void LineEditor::Remember(const std::string& line) {
   HistEvent event;
-  if (history_) ::history(history_.get(), &event, H_ENTER, line.c_str());
+  if (history_) library_->history(history_.get(), &event, H_ENTER, line.c_str());
 }
 
-LineEditor& LineEditor::Of(editline* editor) {
-  LineEditor* self = nullptr;
-  el_get(editor, EL_CLIENTDATA, &self);
-  return *self;
+char* LineEditor::PromptText(EditLine*) {
+  return active_->prompt_.data();
 }
 
-char* LineEditor::PromptText(editline* editor) {
-  return Of(editor).prompt_.data();
+unsigned char LineEditor::OnTab(EditLine*, int) {
+  return active_->CompleteAtCaret();
 }
 
-unsigned char LineEditor::OnTab(editline* editor, int) {
-  return Of(editor).CompleteAtCaret();
-}
-
-unsigned char LineEditor::OnGiveUp(editline* editor, int) {
-  Of(editor).isGivenUp_ = true;
+unsigned char LineEditor::OnGiveUp(EditLine*, int) {
+  active_->isGivenUp_ = true;
   return CC_EOF;
 }
 
-unsigned char LineEditor::OnEnd(editline* editor, int) {
-  const LineInfo* typed = el_line(editor);
+unsigned char LineEditor::OnEnd(EditLine* editor, int) {
+  const LineInfo* typed = active_->library_->line(editor);
   return typed->buffer == typed->lastchar ? CC_EOF : CC_NORM;
 }
 
-unsigned char LineEditor::OnStop(editline*, int) {
+unsigned char LineEditor::OnStop(EditLine*, int) {
   // The library resets the terminal for the stop, and sets it up again afterwards.
   kill(0, SIGTSTP);
   return CC_REDISPLAY;
 }
 
 unsigned char LineEditor::CompleteAtCaret() {
-  const LineInfo* typed = el_line(editor_.get());
+  const LineInfo* typed = library_->line(editor_.get());
   const Completion completion =
       completer_({typed->buffer, static_cast<std::size_t>(typed->cursor - typed->buffer)});
-  if (!completion.insertion.empty()) {
-    return el_insertstr(editor_.get(), completion.insertion.c_str()) == 0 ? CC_REFRESH : CC_ERROR;
+  const std::string& inserted = completion.insertion;
+  if (!inserted.empty()) {
+    const int failure = library_->insertText(editor_.get(), inserted.c_str());
+    return failure == 0 ? CC_REFRESH : CC_ERROR;
   }
   if (completion.choices.size() < 2) return CC_ERROR;
   List(completion.choices);

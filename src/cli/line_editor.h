@@ -3,24 +3,23 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "cli/completion.h"
-
-// Types of the library for line editing, whose header only the source includes.
-struct editline;
-struct history;
+#include "cli/edit_library.h"
 
 namespace kav {
 
 /// Reads lines from the terminal at standard input and output. Texts are UTF-8 in every locale.
+/// Without the library for line editing the terminal itself is all that edits them.
 class LineEditor {
  public:
   /// Called when the Tab key is pressed. `before` is the line up to the caret.
   using Completer = std::function<Completion(std::string_view before)>;
 
-  explicit LineEditor(Completer completer);
+  explicit LineEditor(Completer completer, const char* library = kEditLibrary);
   LineEditor(const LineEditor&) = delete;
   LineEditor& operator=(const LineEditor&) = delete;
   ~LineEditor();
@@ -34,21 +33,21 @@ class LineEditor {
   void Remember(const std::string& line);
 
  private:
-  struct Closer {
-    void operator()(editline* editor) const;
-    void operator()(struct history* lines) const;
-  };
-  static LineEditor& Of(editline* editor);
-  static char* PromptText(editline* editor);
-  static unsigned char OnTab(editline* editor, int key);
-  static unsigned char OnGiveUp(editline* editor, int key);
-  static unsigned char OnEnd(editline* editor, int key);
-  static unsigned char OnStop(editline* editor, int key);
+  void SetUp();
+  static Outcome ReadPlain(std::string& line, std::string_view prompt);
+  // What the library calls. It hands over its editor only, and there is one standard input.
+  static char* PromptText(EditLine* editor);
+  static unsigned char OnTab(EditLine* editor, int key);
+  static unsigned char OnGiveUp(EditLine* editor, int key);
+  static unsigned char OnEnd(EditLine* editor, int key);
+  static unsigned char OnStop(EditLine* editor, int key);
   unsigned char CompleteAtCaret();
 
+  static LineEditor* active_;  ///< who reads a line now
   Completer completer_;
-  std::unique_ptr<struct history, Closer> history_;
-  std::unique_ptr<editline, Closer> editor_;
+  std::optional<EditLibrary> library_;
+  std::unique_ptr<::History, void (*)(::History*)> history_{nullptr, nullptr};
+  std::unique_ptr<EditLine, void (*)(EditLine*)> editor_{nullptr, nullptr};
   std::string prompt_;
   bool isGivenUp_ = false;
 };
