@@ -6,10 +6,10 @@ set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
 declare -A sets=(
-  # To build and run the two programs. The library for line editing is linked from archives, as are those
-  # that it needs. The screens have room for their texts in any font; these fonts look best.
+  # To build and run the two programs. The screens have room for their texts in any font; these fonts look
+  # best.
   [run]="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libtomlplusplus-dev libedit-dev
-    libncurses-dev libbsd-dev libmd-dev fonts-dejavu-extra"
+    fonts-dejavu-extra"
   # The window on a desktop that has Wayland and no X server.
   [wayland]="qt6-wayland"
   # The tests, and the benchmarks, so that they keep compiling. The build makes the foreign locales of

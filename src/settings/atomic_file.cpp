@@ -51,7 +51,7 @@ std::string UniquePart() {
       "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_";
   std::array<unsigned char, kUniqueLength> random{};
   // Without random numbers all bytes are 0: then the first free name is the only one to be had.
-  static_cast<void>(getrandom(random.data(), random.size(), 0));
+  [[maybe_unused]] const ssize_t filled = getrandom(random.data(), random.size(), 0);
   std::string part;
   for (const unsigned char byte : random) part += kCharacters[byte % kCharacters.size()];
   return part;

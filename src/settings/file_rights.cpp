@@ -20,14 +20,14 @@ void TakeOverRights(const std::string& replaced, const FileDescriptor& file) {
   // Before the owner, who alone may do it. Some disks keep no permissions: the file stays the
   // owner's then, and what it holds matters more.
   static_cast<void>(fchmod(file.Number(), status.st_mode & kPermissions & ~lost));
-  static_cast<void>(fchown(file.Number(), status.st_uid, kSameGroup));
+  [[maybe_unused]] const int refused = fchown(file.Number(), status.st_uid, kSameGroup);
 }
 
 void GiveToOwnerOf(const std::string& folder, const FileDescriptor& made) {
   struct stat parent {};
   if (!made.IsOpen() || stat(folder.c_str(), &parent) != 0) return;
   if (parent.st_uid == geteuid()) return;
-  static_cast<void>(fchown(made.Number(), parent.st_uid, parent.st_gid));
+  [[maybe_unused]] const int refused = fchown(made.Number(), parent.st_uid, parent.st_gid);
 }
 
 }  // namespace kav

@@ -219,7 +219,7 @@ PastLinesFile::Outcome PastLinesFile::AppendText(
   if (!end) return FileErrorFromErrno(errno);
   const std::string text = std::string(MissingEnd(*end)).append(make(*end));
   if (const int error = WriteAll(opened.Number(), text); error != 0) {
-    static_cast<void>(ftruncate(opened.Number(), static_cast<off_t>(*size)));
+    [[maybe_unused]] const int refused = ftruncate(opened.Number(), static_cast<off_t>(*size));
     return FileErrorFromErrno(error);
   }
   if (*size + text.size() <= cutAt_) return std::nullopt;
