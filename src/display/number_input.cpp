@@ -6,6 +6,7 @@
 #include "common/ascii.h"
 #include "common/number_text.h"
 #include "display/comma_reading.h"
+#include "engine/expression_engine.h"
 
 namespace kav {
 namespace {
@@ -23,6 +24,22 @@ bool IsGrouped(std::string_view whole) {
     if (endsGroup ? whole[i] != kSeparator : !IsDigit(whole[i])) return false;
   }
   return (whole.size() - first) % (kGroup + 1) == 0;
+}
+
+/// Whether `text` has an operator, a parenthesis or a word. One without is a number with a mistake
+/// in it, of which the engine would make something: "." would be 0.
+bool HasWork(std::string_view text) {
+  const std::size_t start = text.find_first_not_of(" +-");
+  if (start == text.npos) return false;
+  for (std::size_t i = start; i < text.size(); ++i) {
+    const char c = text[i];
+    const bool isSign = c == '+' || c == '-';
+    const bool isOfExponent = isSign && (text[i - 1] == 'e' || text[i - 1] == 'E');
+    if (isSign ? i > start && !isOfExponent
+               : std::string_view("0123456789.,eE ").find(c) == std::string_view::npos)
+      return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -48,6 +65,17 @@ Expected<double, std::u16string> ReadNumberField(std::u16string_view field,
   const auto number = ReadShownNumber(Narrow(field));
   if (!number) return std::u16string(notANumber);
   return *number;
+}
+
+Expected<double, std::u16string> ReadNumberOrExpression(std::u16string_view field,
+                                                        std::u16string_view notANumber,
+                                                        AngleUnit angle) {
+  auto number = ReadNumberField(field, notANumber);
+  if (number || QuestionOfLine(field)) return number;
+  const std::string line = Narrow(WithoutThousands(field));
+  if (!HasWork(line)) return number;
+  const auto value = Evaluate(line, {angle, BaseMode::Decimal});
+  return value ? *value : std::move(number);
 }
 
 }  // namespace kav

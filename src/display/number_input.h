@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "common/expected.h"
+#include "engine/calc_modes.h"
 
 namespace kav {
 
@@ -18,8 +19,15 @@ std::optional<double> ReadShownNumber(std::string_view text);
 
 /// The number that `field`, which takes one, holds: read as ReadShownNumber does. Fails with what
 /// the user is told: for a comma that could be a decimal one the text of CommaRefusal, else
-/// `notANumber`. Every field of the program is read by it.
+/// `notANumber`. Every field of the program is read by it or by ReadNumberOrExpression.
 Expected<double, std::u16string> ReadNumberField(std::u16string_view field,
                                                  std::u16string_view notANumber);
+
+/// The same for a field that also takes an expression without variables, such as 2*Pi or sqrt(2),
+/// always decimal and with angles in `angle`. What ReadNumberField takes is read by it alone, and a
+/// text that is neither fails with what ReadNumberField says.
+Expected<double, std::u16string> ReadNumberOrExpression(std::u16string_view field,
+                                                        std::u16string_view notANumber,
+                                                        AngleUnit angle);
 
 }  // namespace kav

@@ -187,7 +187,7 @@ Expected<double, std::u16string> GraphModel::ReadX(std::u16string_view typed,
   // Nobody is asked about the separators that a tap on the plot wrote.
   const bool isShown = !tappedX_.empty() && typed == tappedX_;
   if (isShown) return ReadShownNumber(Narrow(typed)).value_or(0);
-  return ReadNumberField(typed, refusal);
+  return ReadNumberOrExpression(typed, refusal, input_.angle);
 }
 
 /// Shows x with all of its digits, so that "Cal" on the field shows the same values again.

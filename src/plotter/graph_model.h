@@ -88,6 +88,7 @@ class GraphModel {
   const GraphInput& Input() const { return input_; }
   const PlotRange& Range() const { return range_; }
   const GraphOptions& Options() const { return options_; }
+  AngleUnit Angle() const { return input_.angle; }
 
   /// Sets where the plot is drawn.
   void SetArea(const PlotArea& area) { area_ = area; }

@@ -191,7 +191,7 @@ void PlotterModel::TakeMacro(int index) {
 }
 
 PlotterRequest PlotterModel::Plot() {
-  const auto range = ReadRange(range_);
+  const auto range = ReadRange(range_, angle_);
   if (!range) return RefuseField(range.error());
   if (equations_.IsEmpty()) {
     if (input_.Text().empty()) return RefuseInput(kNoEquationToPlot);

@@ -3,6 +3,7 @@
 
 #include "common/expected.h"
 #include "common/refusal.h"
+#include "engine/calc_modes.h"
 #include "plotter/graph_input.h"
 #include "plotter/range_fields.h"
 
@@ -11,6 +12,7 @@ namespace kav {
 struct PlotterOptions {
   PlotRange range;
   GraphOptions options;
+  AngleUnit angle = AngleUnit::Degrees;  ///< of the expressions in the fields
 
   bool operator==(const PlotterOptions&) const = default;
 };

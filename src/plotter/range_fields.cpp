@@ -17,12 +17,12 @@ std::u16string_view CaptionOf(RangeField field) {
   return kCaptions[IndexOf(field)];
 }
 
-Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts) {
+Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts, AngleUnit angle) {
   PlotRange range;
   for (const RangeField field : kRangeFields) {
     const std::u16string& text = texts[IndexOf(field)];
     const std::u16string refusal = FieldTakesNumbers(CaptionOf(field), text);
-    const auto value = ReadNumberField(text, refusal);
+    const auto value = ReadNumberOrExpression(text, refusal, angle);
     if (!value) return Refusal<RangeField>{value.error(), field};
     if (!std::isfinite(*value)) return Refusal<RangeField>{refusal, field};
     range.*BoundOf(field) = *value;

@@ -9,6 +9,7 @@
 
 #include "common/expected.h"
 #include "common/refusal.h"
+#include "engine/calc_modes.h"
 #include "plotter/plot_range.h"
 
 namespace kav {
@@ -36,8 +37,9 @@ constexpr double PlotRange::*BoundOf(RangeField field) {
 }
 
 /// The fields as finite numbers, which may be in the wrong order; or the first field that holds no
-/// such number.
-Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts);
+/// such number, and no expression with angles in `angle` that comes to one.
+Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts,
+                                                   AngleUnit angle = AngleUnit::Degrees);
 
 /// The RangeRefusal of `range`, with the upper bound of x if x is wrong, else that of y; nullopt if
 /// there is none.

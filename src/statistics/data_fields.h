@@ -10,6 +10,7 @@
 #include "common/expected.h"
 #include "common/refusal.h"
 #include "display/number_format.h"
+#include "engine/calc_modes.h"
 #include "statistics/data_list.h"
 
 namespace kav {
@@ -48,8 +49,10 @@ struct FieldNumbers {
 /// `text` as a count from kLeastCount to kLargestCount; nullopt if it is anything else.
 std::optional<std::int32_t> ReadCount(std::u16string_view text);
 
-/// The values of `typed`, or the first of its fields that has none and what that field takes.
-Expected<FieldNumbers, Refusal<DataField>> ReadTypedRow(const TypedRow& typed, DataShape shape);
+/// The values of `typed`, or the first of its fields that has none and what that field takes: a
+/// number, or an expression with angles in `angle` that comes to one.
+Expected<FieldNumbers, Refusal<DataField>> ReadTypedRow(const TypedRow& typed, DataShape shape,
+                                                        AngleUnit angle = AngleUnit::Degrees);
 
 /// A number as lists, fields and memory variables hold it.
 std::u16string PlainText(double value, DisplayFormat format);
@@ -57,6 +60,7 @@ std::u16string PlainText(double value, DisplayFormat format);
 /// Gives a cell that `list` has the number `text`; the other cells of its row stay as they are.
 /// Answers what its field takes, or why the row does not fit, if nothing was changed.
 std::optional<std::u16string> OverwriteCell(DataList& list, const DataCell& cell,
-                                            std::u16string_view text, DisplayFormat format);
+                                            std::u16string_view text, DisplayFormat format,
+                                            AngleUnit angle = AngleUnit::Degrees);
 
 }  // namespace kav

@@ -104,6 +104,13 @@ std::optional<DataRefusal> DataList::InsertTop(const DataRow& row) {
   return Store(row, [this]() -> StoredRow& { return rows_.emplace_front(); });
 }
 
+std::optional<DataRefusal> DataList::Insert(std::size_t row, const DataRow& what) {
+  if (auto refusal = CheckNew(what)) return refusal;
+  return Store(what, [this, row]() -> StoredRow& {
+    return *rows_.emplace(rows_.begin() + static_cast<std::ptrdiff_t>(row));
+  });
+}
+
 inline std::optional<DataRefusal> DataList::AppendOne(const DataRow& row) {
   if (auto refusal = CheckNew(row)) return refusal;
   return Store(row, [this]() -> StoredRow& { return rows_.emplace_back(); });
@@ -166,6 +173,20 @@ std::optional<DataRefusal> DataList::Erase(std::size_t row) {
   rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(row));
   CompactTexts();
   return std::nullopt;
+}
+
+Expected<DataList, DataRefusal> DataList::TakeTop(std::size_t rows) {
+  DataList top(shape_);
+  for (std::size_t i = 0; i < rows; ++i) {
+    DataRow row{{ValueText(i, 0), ValueText(i, 1)}, std::nullopt};
+    if (IsComplete(rows_[i])) row.count = Count(i);
+    if (const auto refusal = top.Append(row)) return *refusal;
+  }
+  if (!IsInt32(std::int64_t{total_} - top.total_)) return DataRefusal::TotalOutOfRange;
+  for (std::size_t i = 0; i < rows; ++i) Untally(rows_[i]);
+  rows_.erase(rows_.begin(), rows_.begin() + static_cast<std::ptrdiff_t>(rows));
+  CompactTexts();
+  return top;
 }
 
 /// Copies the texts of all rows into a new arena once more than half of the old one is waste.

@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 
+#include "common/expected.h"
 #include "common/number_text.h"
 #include "statistics/text_arena.h"
 
@@ -91,12 +92,17 @@ class DataList {
   std::optional<DataRefusal> InsertTop(const DataRow& row);
   /// Inserts all rows of `rows`, a list of the same shape, above the first row, in their order.
   std::optional<DataRefusal> InsertTop(const DataList& rows);
+  /// Inserts `what` so that it becomes row `row`, at most RowCount().
+  std::optional<DataRefusal> Insert(std::size_t row, const DataRow& what);
   std::optional<DataRefusal> Append(const DataRow& row) { return AppendRows({&row, 1}).refusal; }
   std::optional<DataRefusal> Rewrite(std::size_t row, const DataRow& with);
   std::optional<DataRefusal> Erase(std::size_t row);
   /// Why Erase would be refused: a file can hold negative counts, without which the total of the
   /// others is out of range.
   std::optional<DataRefusal> CheckErase(std::size_t row) const;
+
+  /// Takes the first `rows` rows, at most RowCount(), out of the list.
+  Expected<DataList, DataRefusal> TakeTop(std::size_t rows);
 
   /// Appends row by row, up to the first that is refused.
   TakenRows AppendRows(std::span<const DataRow> rows);

@@ -127,12 +127,14 @@ StatisticsRequest StatisticsModel::PressResult(StatisticsKey key) {
 }
 
 StatisticsRequest StatisticsModel::AddRow() {
-  auto typed = ReadTypedRow(fields_, Shape());
+  auto typed = ReadTypedRow(fields_, Shape(), Angle());
   if (!typed) return std::move(typed).error();
   const std::size_t before = list_.RowCount();
+  const RowsBeside beside = Beside();
   const auto refusal =
       WithRow(*typed, format_, [this](const DataRow& row) { return list_.InsertTop(row); });
   if (refusal) return AnswerTo(*refusal);
+  KeepUndo(TakeRowOut{0}, beside);
   TakeGrown(before);
   MarkChanged();
   return FocusField{DataField::X};
@@ -161,11 +163,13 @@ StatisticsRequest StatisticsModel::BeginEdit() {
 }
 
 StatisticsRequest StatisticsModel::ApplyEdit() {
-  auto typed = ReadTypedRow(fields_, Shape());
+  auto typed = ReadTypedRow(fields_, Shape(), Angle());
   if (!typed) return std::move(typed).error();
+  RewriteRow back{*edited_, HoldRow(list_, *edited_)};
   const auto refusal =
       WithRow(*typed, format_, [this](const DataRow& row) { return list_.Rewrite(*edited_, row); });
   if (refusal) return AnswerTo(*refusal);
+  KeepUndo(std::move(back), Beside());
   EndEdit();
   MarkChanged();
   return Nothing{};
@@ -183,7 +187,10 @@ StatisticsRequest StatisticsModel::AskDelete() const {
 }
 
 void StatisticsModel::DeleteRow() {
-  if (IsEditing() || !selected_ || list_.Erase(*selected_)) return;
+  if (IsEditing() || !selected_) return;
+  PutRowBack back{*selected_, HoldRow(list_, *selected_)};
+  if (list_.Erase(*selected_)) return;
+  KeepUndo(std::move(back), Beside());
   selected_.reset();
   buttons_.AfterErasing(list_.RowCount());
   MarkChanged();
@@ -195,8 +202,8 @@ void StatisticsModel::ClearRows() {
 
 /// Makes `rows` the list, which then needs no saving.
 void StatisticsModel::TakeRows(DataList rows) {
-  DropRows(list_);
-  list_ = std::move(rows);
+  std::swap(list_, rows);
+  KeepUndo(ReplaceRows{std::move(rows)}, Beside());
   selected_.reset();
   buttons_.AfterLoading(list_.CompleteRowCount());
   MarkChanged();
@@ -225,13 +232,17 @@ StatisticsRequest StatisticsModel::TakeVariable(std::u16string_view value) {
 std::optional<std::u16string> StatisticsModel::SaveTo(const std::string& path,
                                                       const WorkProgress& progress) {
   const auto outcome = SaveDataFile(path, list_, progress);
-  if (std::holds_alternative<DataSaved>(outcome)) isModified_ = false;
+  if (std::holds_alternative<DataSaved>(outcome)) {
+    isModified_ = false;
+    undo_.AfterSaving();
+  }
   return FailureOf(outcome);
 }
 
 std::optional<std::u16string> StatisticsModel::LoadFrom(const std::string& path,
                                                         const WorkProgress& progress) {
   if (IsEditing()) return std::nullopt;
+  undo_.BeforeLoading();
   auto loaded = LoadDataFile(path, Shape(), progress);
   if (auto* rows = std::get_if<DataList>(&loaded)) {
     TakeRows(std::move(*rows));
@@ -274,7 +285,40 @@ void StatisticsModel::SortBy(std::size_t column) {
   nextDirection_ = nextDirection_ == DataList::Direction::Ascending
                        ? DataList::Direction::Descending
                        : DataList::Direction::Ascending;
+  undo_.AfterSorting();
   ++revision_;
+}
+
+void StatisticsModel::KeepUndo(WayBack back, const RowsBeside& before) {
+  undo_.Keep(std::move(back), before);
+  fieldsAtChange_ = fields_;
+}
+
+std::optional<std::u16string> StatisticsModel::UndoRows() {
+  if (!CanUndoRows()) return std::nullopt;
+  RowsBeside beside = Beside();
+  const auto refusal = undo_.Undo(list_, beside);
+  return TakeUndone(refusal, beside);
+}
+
+std::optional<std::u16string> StatisticsModel::RedoRows() {
+  if (!CanRedoRows()) return std::nullopt;
+  RowsBeside beside = Beside();
+  const auto refusal = undo_.Redo(list_, beside);
+  return TakeUndone(refusal, beside);
+}
+
+std::optional<std::u16string> StatisticsModel::TakeUndone(const std::optional<DataRefusal>& refusal,
+                                                          const RowsBeside& beside) {
+  if (refusal) return WhyRowsDoNotFit(*refusal);
+  MarkChanged();
+  isModified_ = beside.isModified;
+  selected_ = beside.selected;
+  if (selected_ && *selected_ >= list_.RowCount()) selected_.reset();
+  sorted_ = beside.sorted;
+  buttons_ = beside.buttons;
+  fieldsAtChange_ = fields_;
+  return std::nullopt;
 }
 
 std::u16string StatisticsModel::CopyRows(std::span<const std::size_t> rows) const {
@@ -288,9 +332,13 @@ std::optional<std::u16string> StatisticsModel::PasteRows(std::u16string_view tex
   auto* pasted = std::get_if<PastedRows>(&read);
   if (pasted == nullptr) return FailureOf(read);
   const std::size_t before = list_.RowCount();
+  const RowsBeside beside = Beside();
   if (const auto refusal = list_.InsertTop(pasted->rows)) return WhyRowsDoNotFit(*refusal);
   TakeGrown(before);
-  if (list_.RowCount() != before) MarkChanged();
+  if (list_.RowCount() != before) {
+    KeepUndo(TakeTopOut{list_.RowCount() - before}, beside);
+    MarkChanged();
+  }
   DropRows(pasted->rows);
   if (pasted->complaint.empty()) return std::nullopt;
   return std::move(pasted->complaint);
@@ -303,7 +351,9 @@ std::optional<std::u16string> StatisticsModel::PasteAt(const std::optional<DataC
   if (!number) return PasteRows(text, progress);
   const bool isThere = cell->row < list_.RowCount() && cell->column <= VariablesOf(Shape());
   if (!isThere || IsEditing()) return std::nullopt;
-  if (auto refusal = OverwriteCell(list_, *cell, *number, format_)) return refusal;
+  RewriteRow back{cell->row, HoldRow(list_, cell->row)};
+  if (auto refusal = OverwriteCell(list_, *cell, *number, format_, Angle())) return refusal;
+  KeepUndo(std::move(back), Beside());
   selected_ = cell->row;
   EndEdit();
   MarkChanged();

@@ -14,6 +14,7 @@
 #include "statistics/data_fields.h"
 #include "statistics/data_list.h"
 #include "statistics/row_buttons.h"
+#include "statistics/row_undo.h"
 #include "statistics/statistics_keypad.h"
 #include "statistics/statistics_request.h"
 #include "statistics/statistics_texts.h"
@@ -76,6 +77,16 @@ class StatisticsModel {
   std::optional<std::u16string_view> QuestionBeforeEnd() const;
   void TakeDisplaySettings();
 
+  // What was done to the rows, other than sorting. While a row is edited, nothing is undone.
+  bool CanUndoRows() const { return !IsEditing() && undo_.CanUndo(); }
+  bool CanRedoRows() const { return !IsEditing() && undo_.CanRedo(); }
+  /// Both answer what the user is told, if it cannot be done.
+  std::optional<std::u16string> UndoRows();
+  std::optional<std::u16string> RedoRows();
+  /// Whether `typed` is not what was in the fields at the last change of the rows: then it is the
+  /// typing that is undone first.
+  bool IsTypedSince(const TypedRow& typed) const { return typed != fieldsAtChange_; }
+
   /// A click on the heading of a column: sorts by it, upwards and downwards in turn. Columns are
   /// numbered as in DataList::Sort.
   void SortBy(std::size_t column);
@@ -111,6 +122,10 @@ class StatisticsModel {
   void TakeRows(DataList rows);
   void TakeGrown(std::size_t before);
   void MarkChanged();
+  RowsBeside Beside() const { return {isModified_, selected_, sorted_, buttons_}; }
+  void KeepUndo(WayBack back, const RowsBeside& before);
+  std::optional<std::u16string> TakeUndone(const std::optional<DataRefusal>& refusal,
+                                           const RowsBeside& beside);
 
   SettingsStore& store_;
   DisplayFormat format_;
@@ -127,6 +142,8 @@ class StatisticsModel {
   std::optional<DataSorting> sorted_;
   DataList::Direction nextDirection_ = DataList::Direction::Ascending;
   unsigned revision_ = 0;
+  RowUndo undo_;
+  TypedRow fieldsAtChange_;
 };
 
 }  // namespace kav

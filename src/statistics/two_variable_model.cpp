@@ -79,7 +79,7 @@ const TwoVariableModel::Fit& TwoVariableModel::Fitted() {
 }
 
 StatisticsRequest TwoVariableModel::Estimate(StatisticsKey key) {
-  auto typed = ReadTypedRow(Fields(), Shape());
+  auto typed = ReadTypedRow(Fields(), Shape(), Angle());
   if (!typed) return std::move(typed).error();
   const Coefficients& fitted = Fitted().coefficients;
   switch (key) {

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/number_text.h"
 #include "display/number_format.h"
 
 namespace kav::number_input_test {
@@ -158,6 +159,41 @@ TEST(ReadShownNumber, ReadsBackWhatEveryDisplayTypeShows) {
       EXPECT_EQ(ReadShownNumber(*shown), value) << *shown;
     }
   }
+}
+
+TEST(ReadNumberOrExpression, ReadsWhatNeedsWork) {
+  struct Field {
+    std::u16string_view text;
+    double value;
+  };
+  for (const auto& [text, value] :
+       {Field{u"2*3", 6}, Field{u"2-3", -1}, Field{u"-(2)", -2}, Field{u"5!", 120},
+        Field{u" 1e2 / 8 ", 12.5}, Field{u"1,234,567+1", 1234568}, Field{u"SQRT(9)", 3},
+        Field{u"sin(90)", 1}, Field{u"1e3-1", 999}}) {
+    const auto read = ReadNumberOrExpression(text, u"no", AngleUnit::Degrees);
+    ASSERT_TRUE(read) << Narrow(text);
+    EXPECT_DOUBLE_EQ(*read, value) << Narrow(text);
+  }
+}
+
+TEST(ReadNumberOrExpression, NumbersAreReadAsBefore) {
+  for (const std::u16string_view text : {u"1e999", u"-1e-400", u" 0.1 ", u"1,234,567"}) {
+    EXPECT_EQ(*ReadNumberOrExpression(text, u"no", AngleUnit::Degrees),
+              *ReadNumberField(text, u"no"))
+        << Narrow(text);
+  }
+}
+
+TEST(ReadNumberOrExpression, WhatIsNeitherFailsAsANumberDoes) {
+  for (const std::u16string_view text :
+       {u"", u" ", u".", u"2e", u"--1", u"1.2.3", u"1 2", u"1e3.5", u"x", u"ans", u"2*", u"(2",
+        u"1/0", u"inf", u"10^999", u"\uFF11", u"-", u"2e+"}) {
+    const auto read = ReadNumberOrExpression(text, u"no", AngleUnit::Radians);
+    ASSERT_FALSE(read) << Narrow(text);
+    EXPECT_EQ(read.error(), u"no");
+  }
+  EXPECT_EQ(ReadNumberOrExpression(u"2*1,5", u"no", AngleUnit::Radians).error(),
+            ReadNumberField(u"2*1,5", u"no").error());
 }
 
 }  // namespace

@@ -167,12 +167,19 @@ TEST(GraphModelTrace, ACommaThatCouldBeADecimalOneIsRefusedUnlessATapWroteIt) {
   EXPECT_FALSE(model.Calculate(u"3,000"));
 }
 
+TEST(GraphModelTrace, TheFieldTakesAnExpression) {
+  GraphInput input = GraphOf({"x"});
+  input.angle = AngleUnit::Degrees;
+  GraphModel model(std::move(input));
+  EXPECT_EQ(model.Calculate(u"4*sin(30)")->lines, Lines{u"R:F1(X) = 2"});
+}
+
 TEST(GraphModelTrace, AFieldThatHoldsNoNumberIsToldWhatIsAllowed) {
   GraphModel model = PixelModel();
   constexpr std::u16string_view kAllowed =
       u"\"X =\" takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size, not ";
   for (const std::u16string_view text :
-       {u"abc", u"1,5.2", u"1e", u"2x", u"--1", u"inf", u"nan", u"1e999", u"-1e999", u"sin(1)"}) {
+       {u"abc", u"1,5.2", u"1e", u"2x", u"--1", u"inf", u"nan", u"1e999", u"-1e999", u"sin(x)"}) {
     const auto reading = model.Calculate(text);
     ASSERT_FALSE(reading);
     EXPECT_EQ(reading.error(), std::u16string(kAllowed).append(u"\"").append(text).append(u"\"."));

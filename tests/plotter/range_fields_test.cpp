@@ -46,9 +46,9 @@ TEST(RangeFields, WhatIsNoNumberIsRefusedWithWhatIsAllowed) {
       {{u"0", u"  ", u"0", u"1"},
        RangeField::XMax,
        u"X max takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size; it is empty."},
-      {{u"0", u"1", u"2*3", u"1"},
+      {{u"0", u"1", u"2*x", u"1"},
        RangeField::YMin,
-       u"Y min takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size, not \"2*3\"."},
+       u"Y min takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size, not \"2*x\"."},
       {{u"0", u"1,5", u"0", u"1"},
        RangeField::XMax,
        u"The comma in \"1,5\" can be read in two ways. Write 1.5 or 15."},
@@ -67,9 +67,22 @@ TEST(RangeFields, WhatIsNoNumberIsRefusedWithWhatIsAllowed) {
 
 TEST(RangeFields, OtherTextsThatAreNoNumbersAreRefused) {
   for (const std::u16string_view text : {u"inf", u"-inf", u"nan", u"0x10", u"1,5", u"1 2", u"--1",
-                                         u"pi", u"1e", u"-", u".", u"１"}) {
+                                         u"2*", u"1e", u"-", u".", u"１"}) {
     EXPECT_FALSE(ReadRange({std::u16string(text), u"1", u"0", u"1"})) << Narrow(text);
   }
+}
+
+TEST(RangeFields, ExpressionsAreReadWithTheAnglesOfTheScreen) {
+  const RangeTexts texts{u"-2*Pi", u"sqrt(4)", u"sin(30)", u"2^3"};
+  const auto degrees = ReadRange(texts, AngleUnit::Degrees);
+  ASSERT_TRUE(degrees);
+  EXPECT_DOUBLE_EQ(degrees->xMin, -6.283185307179586);
+  EXPECT_EQ(degrees->xMax, 2);
+  EXPECT_DOUBLE_EQ(degrees->yMin, 0.5);
+  EXPECT_EQ(degrees->yMax, 8);
+  const auto radians = ReadRange(texts, AngleUnit::Radians);
+  ASSERT_TRUE(radians);
+  EXPECT_DOUBLE_EQ(radians->yMin, -0.9880316240928618);
 }
 
 TEST(RangeFields, TheFirstFieldThatIsNoNumberIsNamed) {

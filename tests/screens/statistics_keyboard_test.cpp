@@ -143,6 +143,37 @@ TEST_F(StatisticsKeyboardTest, TheEditMenuWorksOnTheFieldOfLate) {
   EXPECT_EQ(TextIn("X"), "2");
 }
 
+TEST_F(StatisticsKeyboardTest, RowsAreUndoneAndRedoneByTheKeysAndTheMenu) {
+  AddRows("1;2;3");
+  ClickRow(1);
+  BoxWatch::Instance().Expect(QMessageBox::Yes);
+  Tap(u"Delete");
+  BoxWatch::Instance().TakeSeen();
+  ASSERT_EQ(Rows(), "3 1;1 1");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Rows(), "3 1;2 1;1 1");
+  EXPECT_EQ(Total(), "3");
+  Key(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(Rows(), "3 1;1 1");
+  ChooseFrom(*dlg_, u"&Edit", u"&Undo");
+  EXPECT_EQ(Rows(), "3 1;2 1;1 1");
+  Key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Rows(), "3 1;1 1");
+}
+
+TEST_F(StatisticsKeyboardTest, WhatWasTypedLaterIsUndoneBeforeTheRows) {
+  AddRows("1;2");
+  Field("X").setFocus();
+  Field("X").selectAll();
+  QTest::keyClicks(&Field("X"), "77");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(TextIn("X"), "2");
+  EXPECT_EQ(Rows(), "2 1;1 1");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Rows(), "1 1");
+  EXPECT_EQ(TextIn("X"), "2");
+}
+
 TEST_F(StatisticsKeyboardTest, TheEditMenuWorksOnTheFieldOfLateWhileTheListHasTheFocus) {
   AddRows("1;2;3");
   Put("X", "77");

@@ -95,6 +95,25 @@ TEST(DataFields, CountsAreWholeNumbersFromOneToTenThousand) {
   }
 }
 
+TEST(DataFields, ExpressionsAreReadToo) {
+  const auto read = Read(u"2*Pi", u"-sqrt(2)", u"2^3");
+  ASSERT_TRUE(read);
+  EXPECT_DOUBLE_EQ(read->x, 6.283185307179586);
+  EXPECT_DOUBLE_EQ(read->y, -1.4142135623730951);
+  EXPECT_EQ(read->count, 8);
+  EXPECT_EQ(Read(u"1", u"1", u"5/2").error().text,
+            u"Count must be a whole number from 1 to 10000.");
+  EXPECT_EQ(Read(u"1", u"1", u"100^3").error().focus, DataField::Count);
+  EXPECT_EQ(Read(u"1/0", u"1", u"1").error().text, u"X must be a number such as -12.5 or 1.5e-3.");
+}
+
+TEST(DataFields, AnglesOfExpressionsAreThoseOfTheScreen) {
+  const TypedRow typed{u"cos(60)", u"", u"1"};
+  EXPECT_DOUBLE_EQ(ReadTypedRow(typed, DataShape::OneVariable, AngleUnit::Degrees)->x, 0.5);
+  EXPECT_DOUBLE_EQ(ReadTypedRow(typed, DataShape::OneVariable, AngleUnit::Radians)->x,
+                   -0.9524129804151563);
+}
+
 TEST(DataFields, FirstBadFieldIsTheOneThatIsRefused) {
   EXPECT_EQ(Read(u"", u"", u"").error().focus, DataField::X);
   EXPECT_EQ(Read(u"1", u"", u"").error().focus, DataField::Y);

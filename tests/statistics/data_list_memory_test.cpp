@@ -15,6 +15,8 @@
 #include "statistics/data_file.h"
 #include "statistics/data_list.h"
 #include "statistics/pasted_rows.h"
+#include "statistics/row_undo.h"
+#include "statistics/statistics_keypad.h"
 #include "statistics/statistics_model.h"
 #include "support/counted_memory.h"
 #include "support/effort.h"
@@ -73,7 +75,14 @@ TEST(DataListMemory, ALongListIsGivenBackToTheMachine) {
     const auto size = static_cast<std::int64_t>(text.size());
     EXPECT_GE(Resident() - before, size) << "or nothing is measured";
     EXPECT_LE(Resident() - before, 2 * size);
-    isLeft ? model.reset() : model->ClearRows();
+    if (isLeft) {
+      model.reset();
+    } else {
+      model->ClearRows();
+      EXPECT_LE(Resident() - before, 2 * size) << "what can be undone is not copied";
+      model->SetFields({u"1", u"", u"1"});
+      for (std::size_t i = 0; i < RowUndo::kMostSteps; ++i) model->Press(StatisticsKey::Add);
+    }
     EXPECT_LE(Resident() - before, size / 8);
   }
 }

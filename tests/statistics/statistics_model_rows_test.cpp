@@ -308,7 +308,7 @@ TEST_F(TwoVariableRows, ACellRefusesADroppedTextAsItsFieldDoes) {
   };
   for (const Row& row : {
            Row{0, u"abc", u"X must be a number such as -12.5 or 1.5e-3."},
-           Row{1, u"2*3", u"Y must be a number such as -12.5 or 1.5e-3."},
+           Row{1, u"2*x", u"Y must be a number such as -12.5 or 1.5e-3."},
            Row{1, u"1e999", u"Y is too large: it must be a number from -1.79e308 to 1.79e308."},
            Row{2, u"0", u"Count must be a whole number from 1 to 10000."},
            Row{2, u"1.5", u"Count must be a whole number from 1 to 10000."},

@@ -6,17 +6,6 @@
 #include "screens/matrix/matrix_dlg.h"
 
 namespace kav {
-namespace {
-
-/// Undo or redo, by any of the keys that people know for them.
-std::optional<EditCommand> UndoCommandOf(const QKeyEvent& event) {
-  if (event.matches(QKeySequence::Undo)) return EditCommand::Undo;
-  const bool isRedo = event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
-  if (isRedo || event.matches(QKeySequence::Redo)) return EditCommand::Redo;
-  return std::nullopt;
-}
-
-}  // namespace
 
 /// Shows the matrix beside the shown one, if there is one, and leaves the focus where it is.
 void CMatrixDlg::ShowNeighbour(int step) {

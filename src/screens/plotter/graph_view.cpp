@@ -258,7 +258,7 @@ void CGraphView::OnCalculate() {
 }
 
 void CGraphView::OnOptions() {
-  const auto chosen = RunPlotterOptions(this, {model_.Range(), model_.Options()});
+  const auto chosen = RunPlotterOptions(this, {model_.Range(), model_.Options(), model_.Angle()});
   if (chosen) Tell(model_.Apply(chosen->range, chosen->options));
 }
 

@@ -238,11 +238,24 @@ QLineEdit& StatisticsScreen::Edited() const {
 }
 
 void StatisticsScreen::Edit(EditCommand command) {
-  EditLine(Edited(), command);
+  if (!EditsRows(command)) return EditLine(Edited(), command);
+  TakeLine();
+  Tell(command == EditCommand::Undo ? model_->UndoRows() : model_->RedoRows());
 }
 
 bool StatisticsScreen::CanEdit(EditCommand command) const {
-  return CanEditLine(Edited(), command);
+  return CanEditRows(command) || CanEditLine(Edited(), command);
+}
+
+bool StatisticsScreen::CanEditRows(EditCommand command) const {
+  if (command == EditCommand::Undo) return model_->CanUndoRows();
+  return command == EditCommand::Redo && model_->CanRedoRows();
+}
+
+/// Whether the next undo or redo is one of the rows. What was done last is undone first.
+bool StatisticsScreen::EditsRows(EditCommand command) const {
+  if (!CanEditRows(command)) return false;
+  return !CanEditLine(Edited(), command) || !model_->IsTypedSince(fields_.Typed());
 }
 
 void StatisticsScreen::OpenRowsMenu(const QPoint& place) {
@@ -304,6 +317,11 @@ bool StatisticsScreen::OnFieldKey(const QKeyEvent& event) {
     OnKey(model_->IsEditing() ? StatisticsKey::Ok : StatisticsKey::Add);
     return true;
   }
+  // Before the field, which knows only its own edits.
+  if (const auto command = UndoCommandOf(event)) {
+    Edit(*command);
+    return true;
+  }
   const bool copies = event.matches(QKeySequence::Copy);
   if (copies && !fields_.Line(model_->FocusedField()).hasSelectedText()) return uses_->Copy();
   // A disabled key does not take its Alt shortcut, and the field would insert the letter.
@@ -312,6 +330,7 @@ bool StatisticsScreen::OnFieldKey(const QKeyEvent& event) {
 
 void StatisticsScreen::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && model_->IsEditing()) return OnKey(StatisticsKey::Cancel);
+  if (const auto command = UndoCommandOf(*event)) return Edit(*command);
   if (MoveFocus(event->key())) return;
   if (fields_.FieldOf(focusWidget()) || !IsForField(*event)) {
     return KeyScreen::keyPressEvent(event);

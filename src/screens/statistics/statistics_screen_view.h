@@ -72,6 +72,8 @@ class StatisticsScreen : public KeyScreenOf<StatisticsKey, StatisticsModel> {
   QLineEdit& Edited() const;
   void Edit(EditCommand command) override;
   bool CanEdit(EditCommand command) const override;
+  bool CanEditRows(EditCommand command) const;
+  bool EditsRows(EditCommand command) const;
   void OpenRowsMenu(const QPoint& place);
   void CopyRows() const;
   void PasteRows();

@@ -105,6 +105,13 @@ bool CanEditLine(const QLineEdit& line, EditCommand command) {
   return true;
 }
 
+std::optional<EditCommand> UndoCommandOf(const QKeyEvent& event) {
+  if (event.matches(QKeySequence::Undo)) return EditCommand::Undo;
+  const bool isRedo = event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
+  if (isRedo || event.matches(QKeySequence::Redo)) return EditCommand::Redo;
+  return std::nullopt;
+}
+
 Screen::Screen(Frame& frame, QSize size)
     : frame_(frame), size_(size), menuBar_(new BottomMenuBar(this)) {
   OfferWidgetsToScreenReaders();

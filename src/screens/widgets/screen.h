@@ -56,6 +56,9 @@ struct EditHooks {
 void EditLine(QLineEdit& line, EditCommand command);
 bool CanEditLine(const QLineEdit& line, EditCommand command);
 
+/// Undo or redo, by any of the keys that people know for them.
+std::optional<EditCommand> UndoCommandOf(const QKeyEvent& event);
+
 /// A calculating screen, a window of its own. It carries out the commands of ScreenShortcuts.
 class Screen : public QWidget, public GuideCaller, public HasScreenPart {
  public:
