@@ -55,6 +55,8 @@ constexpr std::array kPlotter{
     KeyboardRow{"Up; Down",         u"go through the equations added before"},
     KeyboardRow{"Enter",            u"in a field of the range: draw the graph"},
     KeyboardRow{"Esc",              u"in a field of the range: go back to the equation"},
+    KeyboardRow{"F2",               u"put the equation in the place of the selected one"},
+    KeyboardRow{"F8",               u"switch the curve of the selected equation off or on"},
 };
 constexpr std::array kGraph{
     KeyboardRow{"Arrow; Ctrl+Arrow", u"in the graph: move the range"},

@@ -9,6 +9,7 @@
 #include "display/copied_text.h"
 #include "display/number_input.h"
 #include "line/shown_number.h"
+#include "plotter/equation_list.h"
 #include "plotter/plotter_texts.h"
 #include "plotter/range_fields.h"
 
@@ -205,7 +206,7 @@ GraphReading GraphModel::ReadCurves(double x, std::u16string_view shown) {
   for (std::size_t i = 0; i < input_.curves.size(); ++i) {
     reading.values.push_back(ValueOf(i, x));
     const std::u16string& value = reading.values.back();
-    reading.lines.push_back(CurveValuePrefix(i) +
+    reading.lines.push_back(CurveValuePrefix(PlaceOfLabel(input_.curves[i].label, i)) +
                             (value.empty() ? std::u16string(kValueOutOfRange) : value));
   }
   reading.selected = selected_;

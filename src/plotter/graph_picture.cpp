@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "plotter/disc_cover.h"
+#include "plotter/equation_list.h"
 #include "plotter/plotter_texts.h"
 
 namespace kav {
@@ -128,7 +129,8 @@ void AddDots(const PlotArea& area, const CurveRows& rows, GraphColour colour,
 void AddCurves(const GraphModel& model, GraphPicture& picture) {
   const PlotArea& area = model.Area();
   for (std::size_t i = 0; i < model.Input().curves.size(); ++i) {
-    const GraphColour colour = graph_colour::kCurves[i];
+    const GraphColour colour =
+        graph_colour::kCurves[PlaceOfLabel(model.Input().curves[i].label, i)];
     if (!model.Options().hasLines) {
       AddDots(area, model.Rows(i), colour, picture);
     } else if (area.IsLarge()) {

@@ -150,16 +150,44 @@ void PlotterModel::Insert(std::u16string_view text) {
   input_.InsertText(ShownInInput(text));
 }
 
+std::u16string PlotterModel::ItemText(std::size_t place) const {
+  const std::u16string& equation = equations_.All()[place];
+  return equations_.IsOn(place) ? equation : std::u16string(kSwitchedOff) + equation;
+}
+
+std::u16string PlotterModel::TypedEquationText() const {
+  return std::u16string(TrimBlanks(std::u16string_view(input_.Text())));
+}
+
 std::optional<PlotterRefusal> PlotterModel::Add() {
-  const std::u16string equation(TrimBlanks(std::u16string_view(input_.Text())));
+  const std::u16string equation = TypedEquationText();
   if (equation.empty()) return RefuseInput(kEquationIsNull);
   // Before anything is refused, so that the user can take back what has a mistake and mend it.
   history_.Add(equation);
   if (equations_.IsFull()) return RefuseInput(MaximumOfEquations(EquationList::kCapacity));
+  if (auto refusal = Refuse(equation)) return refusal;
+  equations_.Add(equation);
+  input_.Clear();
+  return std::nullopt;
+}
+
+std::optional<PlotterRefusal> PlotterModel::Refuse(const std::u16string& equation) const {
   const auto formula = CheckFormula(Narrow(equation), VariableType::X);
   if (!formula) return RefuseInput(Widen(formula.error().message));
   if (equations_.Holds(equation)) return RefuseInput(EquationIsAddedAlready(equation));
-  equations_.Add(equation);
+  return std::nullopt;
+}
+
+std::optional<PlotterRefusal> PlotterModel::Replace() {
+  if (!CanReplace()) return Add();
+  const std::u16string equation = TypedEquationText();
+  if (equation.empty()) return RefuseInput(kEquationIsNull);
+  history_.Add(equation);
+  const bool isSame = equation == equations_.All()[*equations_.Selected()];
+  if (!isSame) {
+    if (auto refusal = Refuse(equation)) return refusal;
+    equations_.ReplaceSelected(equation);
+  }
   input_.Clear();
   return std::nullopt;
 }
@@ -198,12 +226,38 @@ PlotterRequest PlotterModel::Plot() {
     if (auto refusal = Add()) return *std::move(refusal);
   }
   if (const auto refusal = RefuseRange(*range)) return RefuseField(*refusal);
+  if (auto question = QuestionOfTyped()) return *std::move(question);
   return PlotIn(*range);
 }
 
+/// Asks about each typed equation once: who answered wants it so.
+std::optional<AskAboutTyped> PlotterModel::QuestionOfTyped() {
+  const std::u16string typed = TypedEquationText();
+  if (typed.empty() || equations_.Holds(typed) || typed == askedAbout_) return std::nullopt;
+  askedAbout_ = typed;
+  if (equations_.IsFull()) {
+    return AskAboutTyped{PlotWithoutTyped(typed), TypedEquation::LeaveOut, std::nullopt};
+  }
+  return AskAboutTyped{AddTypedFirst(typed), TypedEquation::Add, TypedEquation::LeaveOut};
+}
+
+PlotterRequest PlotterModel::PlotWith(TypedEquation typed) {
+  const auto range = ReadRange(range_, angle_);
+  if (!range) return RefuseField(range.error());
+  if (typed == TypedEquation::Add) {
+    if (auto refusal = Add()) return *std::move(refusal);
+  }
+  return PlotIn(*range);
+}
+
+GraphInput PlotterModel::EmptyGraph(const PlotRange& range) const {
+  return {{}, range, angle_, options_, LoadDisplayFormat(store_), {}};
+}
+
 PlotterRequest PlotterModel::PlotIn(const PlotRange& range) {
-  GraphInput graph{{}, range, angle_, options_, LoadDisplayFormat(store_), {}};
+  GraphInput graph = EmptyGraph(range);
   for (std::size_t place = 0; place < equations_.All().size(); ++place) {
+    if (!equations_.IsOn(place)) continue;
     const std::u16string& equation = equations_.All()[place];
     auto formula = CheckFormula(Narrow(equation), VariableType::X);
     if (!formula) {
@@ -212,7 +266,30 @@ PlotterRequest PlotterModel::PlotIn(const PlotRange& range) {
     }
     graph.curves.push_back({CurveLabel(place, equation), *std::move(formula)});
   }
+  if (graph.curves.empty()) return RefuseInput(kAllCurvesAreOff);
   return OpenGraph{std::move(graph)};
+}
+
+Expected<GraphInput, std::u16string> PlotterModel::LiveGraph() const {
+  const auto range = ReadRange(range_, angle_);
+  if (!range) return range.error().text;
+  if (const auto refusal = RefuseRange(*range)) return refusal->text;
+  GraphInput graph = EmptyGraph(*range);
+  const auto draw = [&graph](std::size_t place, const std::u16string& equation) {
+    auto formula = CheckFormula(Narrow(equation), VariableType::X);
+    if (formula) graph.curves.push_back({CurveLabel(place, equation), *std::move(formula)});
+  };
+  const std::size_t count = equations_.All().size();
+  for (std::size_t place = 0; place < count; ++place) {
+    if (equations_.IsOn(place)) draw(place, equations_.All()[place]);
+  }
+  const std::u16string typed = TypedEquationText();
+  if (!equations_.IsFull() && !typed.empty() && !equations_.Holds(typed)) draw(count, typed);
+  return graph;
+}
+
+void PlotterModel::TakeRange(const PlotRange& range) {
+  range_ = TextsOf(range);
 }
 
 }  // namespace kav

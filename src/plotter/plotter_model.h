@@ -7,6 +7,7 @@
 #include <string_view>
 #include <variant>
 
+#include "common/expected.h"
 #include "common/refusal.h"
 #include "engine/calc_modes.h"
 #include "line/expression_line.h"
@@ -29,9 +30,20 @@ enum class PlotterOption { Grid, Line };
 /// Told with the stop icon; then the field of the range gets the focus, or else the input.
 using PlotterRefusal = Refusal<std::optional<RangeField>>;
 
-/// On Yes to the question of DeleteEquation: DeleteEquation.
-using PlotterRequest = std::variant<Nothing, PlotterRefusal, ShowMenu<PlotterKey>,
-                                    AskFirst<PlotterKey>, TellStop, OpenMacroList, OpenGraph>;
+/// What is to be done about an equation that was typed and not added.
+enum class TypedEquation { Add, LeaveOut };
+
+/// Asked before the graph is opened; what is plotted after a Yes or a No. nullopt: nothing.
+struct AskAboutTyped {
+  std::u16string question;
+  std::optional<TypedEquation> onYes;
+  std::optional<TypedEquation> onNo;
+};
+
+/// On Yes to the question of DeleteEquation: DeleteEquation. After AskAboutTyped: PlotWith.
+using PlotterRequest =
+    std::variant<Nothing, PlotterRefusal, ShowMenu<PlotterKey>, AskFirst<PlotterKey>, TellStop,
+                 OpenMacroList, OpenGraph, AskAboutTyped>;
 
 /// Holds the whole state of the screen. The store must outlive it.
 class PlotterModel {
@@ -51,6 +63,8 @@ class PlotterModel {
   const GraphOptions& Options() const { return options_; }
   void Toggle(PlotterOption option);
   const EquationList& Equations() const { return equations_; }
+  /// What the list shows of the equation at that place.
+  std::u16string ItemText(std::size_t place) const;
   /// Selects an equation and copies it into the input; does nothing if there is no such place.
   void ChooseEquation(std::size_t place);
 
@@ -63,8 +77,20 @@ class PlotterModel {
   /// Adds the input to the equations and clears it, even if the key for it is disabled. Returns why
   /// it cannot be added; nullopt if it was. The history takes any input that is not blank.
   std::optional<PlotterRefusal> Add();
+  /// Puts the input in the place of the selected equation and clears it. Returns why not.
+  std::optional<PlotterRefusal> Replace();
+  bool CanReplace() const { return equations_.Selected().has_value(); }
+  /// Draws the curve at `place`, or leaves it out if it is drawn.
+  void SwitchCurve(std::size_t place) { equations_.Switch(place); }
   /// Deletes the selected equation.
   void DeleteEquation();
+  PlotterRequest PlotWith(TypedEquation typed);
+
+  /// The graph of all that is in the list and switched on, and of the input as the next equation of
+  /// it, as far as they are equations; it may have no curve. Fails if the fields hold no range.
+  Expected<GraphInput, std::u16string> LiveGraph() const;
+  /// Writes the bounds of `range` into the fields.
+  void TakeRange(const PlotRange& range);
 
   /// The menu that `key` opens now; empty for a key without one.
   Menu MenuOf(PlotterKey key) const;
@@ -78,7 +104,11 @@ class PlotterModel {
   void Insert(std::u16string_view text);
   PlotterRequest MacroRequest();
   PlotterRequest Plot();
+  std::optional<AskAboutTyped> QuestionOfTyped();
   PlotterRequest PlotIn(const PlotRange& range);
+  std::u16string TypedEquationText() const;
+  std::optional<PlotterRefusal> Refuse(const std::u16string& equation) const;
+  GraphInput EmptyGraph(const PlotRange& range) const;
 
   SettingsStore& store_;
   MacroStore macros_;
@@ -88,6 +118,7 @@ class PlotterModel {
   History history_;
   GraphOptions options_;
   ExpressionLine input_;
+  std::u16string askedAbout_;  ///< the typed equation of the last question
   ShiftState shift_ = ShiftState::Off;
 };
 

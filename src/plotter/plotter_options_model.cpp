@@ -2,16 +2,10 @@
 
 #include <utility>
 
-#include "line/shown_number.h"
-
 namespace kav {
 
-PlotterOptionsModel::PlotterOptionsModel(const PlotterOptions& options) : begin_(options) {
-  for (const RangeField field : kRangeFields) {
-    fields_[IndexOf(field)] =
-        InsertedNumber(begin_.range.*BoundOf(field), DisplayFormat{}, BaseMode::Decimal);
-  }
-}
+PlotterOptionsModel::PlotterOptionsModel(const PlotterOptions& options)
+    : begin_(options), fields_(TextsOf(options.range)) {}
 
 Expected<PlotterOptions, Refusal<RangeField>> PlotterOptionsModel::Accept(
     const RangeTexts& typed, const GraphOptions& options) const {

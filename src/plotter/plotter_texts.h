@@ -111,6 +111,46 @@ inline std::u16string EquationFails(std::u16string_view equation, std::u16string
   return CutTo(equation, 7, 5) + u" : " + std::u16string(message);
 }
 
+inline constexpr std::u16string_view kAllCurvesAreOff =
+    u"All curves are switched off. Switch one on in the menu Edit, or press F8.";
+
+// What is asked about an equation that was typed and not added when the graph is to be opened.
+inline std::u16string AddTypedFirst(std::u16string_view equation) {
+  return u"Add the typed equation " + CutTo(equation, 40, 37) + u" to the list first?";
+}
+inline std::u16string PlotWithoutTyped(std::u16string_view equation) {
+  return u"The list is full, and the typed equation " + CutTo(equation, 40, 37) +
+         u" is not in it. Plot without it?";
+}
+
+// Why a curve is not seen. `message` is the engine's.
+inline std::u16string CurveIsEmpty(std::size_t place, std::u16string_view message) {
+  return std::u16string(kShortCurveNames[place]) + u"(X): " + std::u16string(message) +
+         u" (at every point)";
+}
+
+// An equation in the list.
+inline constexpr std::u16string_view kSwitchedOff = u"(off) ";
+
+// Behind the entries that every Edit menu has.
+inline constexpr std::u16string_view kReplaceEquationEntry = u"Replace &Equation";
+inline constexpr std::u16string_view kReplaceEquationTip =
+    u"Put what is typed in the place of the selected equation";
+inline constexpr std::u16string_view kSwitchCurveEntry = u"Curve &On/Off";
+inline constexpr std::u16string_view kSwitchCurveTip =
+    u"Draw the curve of the selected equation, or leave it out";
+
+// The graph beside the keys of a wide window.
+inline constexpr std::u16string_view kNothingToDraw = u"Type an equation in x, such as sin(x).";
+inline constexpr std::u16string_view kSideGraphName = u"Live graph";
+inline std::u16string CurveBoxName(std::size_t place) {
+  return u"Curve " + Widen(PrintInteger(static_cast<std::int64_t>(place) + 1));
+}
+inline constexpr std::u16string_view kTracedXPrefix = u"x = ";
+inline constexpr std::u16string_view kTakeRangeCaption = u"Use Range";
+inline constexpr std::u16string_view kTakeRangeHelp =
+    u"write the borders of this graph into the fields of the range";
+
 inline constexpr std::u16string_view kDeleteEquationQuestion =
     u"Are you sure you want to delete the selected graph equation?";
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "display/number_input.h"
+#include "line/shown_number.h"
 #include "plotter/plotter_texts.h"
 
 namespace kav {
@@ -28,6 +29,15 @@ Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts, Angl
     range.*BoundOf(field) = *value;
   }
   return range;
+}
+
+RangeTexts TextsOf(const PlotRange& range) {
+  RangeTexts texts;
+  for (const RangeField field : kRangeFields) {
+    texts[IndexOf(field)] =
+        InsertedNumber(range.*BoundOf(field), DisplayFormat{}, BaseMode::Decimal);
+  }
+  return texts;
 }
 
 std::optional<Refusal<RangeField>> RefuseRange(const PlotRange& range) {

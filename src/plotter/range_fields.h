@@ -41,6 +41,9 @@ constexpr double PlotRange::*BoundOf(RangeField field) {
 Expected<PlotRange, Refusal<RangeField>> ReadRange(const RangeTexts& texts,
                                                    AngleUnit angle = AngleUnit::Degrees);
 
+/// The bounds of `range` as fields show them.
+RangeTexts TextsOf(const PlotRange& range);
+
 /// The RangeRefusal of `range`, with the upper bound of x if x is wrong, else that of y; nullopt if
 /// there is none.
 std::optional<Refusal<RangeField>> RefuseRange(const PlotRange& range);

@@ -66,6 +66,8 @@ inline constexpr IntegerKey kEquationCount{"Grapher", "Grapher FunTotalNumber", 
 inline NumberedKey StoredEquation(int index) {
   return {"Grapher", "Fun" + std::to_string(index), ""};
 }
+/// A bit for each equation whose curve is not drawn, the lowest for the first.
+inline constexpr IntegerKey kCurvesOff{"Grapher", "Curves Off", 0};
 inline constexpr TextKey kPlotXMin{"Grapher", "X Min", "-10"};
 inline constexpr TextKey kPlotXMax{"Grapher", "X Max", "10"};
 inline constexpr TextKey kPlotYMin{"Grapher", "Y Min", "-10"};

@@ -1,6 +1,12 @@
 // What "Plot" hands to the graph view, and what it refuses.
 #include <gtest/gtest.h>
 
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "plotter/graph_model.h"
+#include "plotter/graph_picture.h"
 #include "support/plotter_screen.h"
 
 namespace kav::plotter_model_plot_test {
@@ -64,9 +70,10 @@ TEST_F(PlotterModelPlot, WithAnEmptyListTheInputIsAddedAndPlotted) {
   EXPECT_EQ(MarkedNow(), u"|");
 }
 
-TEST_F(PlotterModelPlot, WithEquationsTheInputIsNeitherAddedNorPlotted) {
+TEST_F(PlotterModelPlot, WithEquationsTheInputIsPlottedOnlyIfTheUserWantsIt) {
   Add(u"x");
   Put(u"(|");
+  ASSERT_TRUE(Is<AskAboutTyped>(Press(u"Plot")));
   EXPECT_EQ(Plotted().curves.size(), 1U);
   EXPECT_EQ(MarkedNow(), u"(|");
 }
@@ -151,6 +158,190 @@ TEST_F(PlotterModelPlot, NoCharacterIsHalved) {
           "678");
   Open();
   EXPECT_EQ(Told(Press(u"Plot")).substr(0, 10), u"1234... : ");
+}
+
+// Equations that were typed and not added.
+
+TEST_F(PlotterModelPlot, ATypedEquationIsAskedAboutOnceAndAdded) {
+  Add(u"x");
+  Put(u" x^2 |");
+  const PlotterRequest request = Press(u"Plot");
+  ASSERT_TRUE(Is<AskAboutTyped>(request));
+  const auto& question = std::get<AskAboutTyped>(request);
+  EXPECT_EQ(question.question, u"Add the typed equation x^2 to the list first?");
+  ASSERT_EQ(question.onYes, TypedEquation::Add);
+  EXPECT_EQ(question.onNo, TypedEquation::LeaveOut);
+  const PlotterRequest plot = model_->PlotWith(TypedEquation::Add);
+  ASSERT_TRUE(Is<OpenGraph>(plot));
+  EXPECT_EQ(std::get<OpenGraph>(plot).input.curves.size(), 2U);
+  EXPECT_EQ(List(), (Equations{u"x", u"x^2"}));
+  EXPECT_EQ(MarkedNow(), u"|");
+}
+
+TEST_F(PlotterModelPlot, WhoLeavesATypedEquationOutIsNotAskedAgain) {
+  Add(u"x");
+  Put(u"x^2|");
+  ASSERT_TRUE(Is<AskAboutTyped>(Press(u"Plot")));
+  const PlotterRequest plot = model_->PlotWith(TypedEquation::LeaveOut);
+  ASSERT_TRUE(Is<OpenGraph>(plot));
+  EXPECT_EQ(std::get<OpenGraph>(plot).input.curves.size(), 1U);
+  EXPECT_EQ(List(), Equations{u"x"});
+  EXPECT_EQ(MarkedNow(), u"x^2|");
+  EXPECT_TRUE(Is<OpenGraph>(Press(u"Plot")));
+  Put(u"x^3|");
+  EXPECT_TRUE(Is<AskAboutTyped>(Press(u"Plot")));
+}
+
+TEST_F(PlotterModelPlot, AFullListIsPlottedWithoutTheTypedEquationOnlyIfTheUserWantsIt) {
+  for (const char16_t* equation : {u"x", u"x^2", u"x^3"}) Add(equation);
+  Put(u"x^4|");
+  const PlotterRequest request = Press(u"Plot");
+  ASSERT_TRUE(Is<AskAboutTyped>(request));
+  EXPECT_EQ(std::get<AskAboutTyped>(request).question,
+            u"The list is full, and the typed equation x^4 is not in it. Plot without it?");
+  EXPECT_EQ(std::get<AskAboutTyped>(request).onYes, TypedEquation::LeaveOut);
+  EXPECT_EQ(std::get<AskAboutTyped>(request).onNo, std::nullopt);
+}
+
+TEST_F(PlotterModelPlot, ATypedTextThatIsNoEquationStopsWhoWantsItAdded) {
+  Add(u"x");
+  Put(u"(x|");
+  ASSERT_TRUE(Is<AskAboutTyped>(Press(u"Plot")));
+  EXPECT_EQ(Told(model_->PlotWith(TypedEquation::Add)), u"Not matched '(' and ')'.");
+  EXPECT_EQ(List(), Equations{u"x"});
+}
+
+TEST_F(PlotterModelPlot, AnEquationOfTheListInTheInputIsNotAskedAbout) {
+  Add(u"x");
+  Add(u"x^2");
+  model_->ChooseEquation(0);
+  EXPECT_EQ(Plotted().curves.size(), 2U);
+}
+
+TEST_F(PlotterModelPlot, TheRangeIsJudgedBeforeTheQuestion) {
+  Add(u"x");
+  Put(u"x^2|");
+  SetRange({u"1", u"1", u"0", u"1"});
+  EXPECT_EQ(Told(Press(u"Plot")),
+            u"The maximum value of X should be bigger than the minimum value of X.");
+}
+
+TEST_F(PlotterModelPlot, TheFieldsOfTheRangeTakeExpressionsAndKeepThemAsTyped) {
+  Add(u"x");
+  SetRange({u"-2*Pi", u"2*Pi", u"-sqrt(4)", u"sin(90)"});
+  const GraphInput graph = Plotted();
+  EXPECT_DOUBLE_EQ(graph.range.xMin, -6.283185307179586);
+  EXPECT_EQ(graph.range.yMin, -2);
+  EXPECT_EQ(graph.range.yMax, 1);
+  model_->Save();
+  EXPECT_EQ(StoredText("Grapher", "X Max"), "2*Pi");
+  Open();
+  EXPECT_EQ(model_->Range()[1], u"2*Pi");
+}
+
+// Curves that are switched off.
+
+TEST_F(PlotterModelPlot, ACurveThatIsOffIsLeftOutAndTheOthersKeepTheirColours) {
+  for (const char16_t* equation : {u"x", u"x^2", u"x^3"}) Add(equation);
+  model_->SwitchCurve(1);
+  EXPECT_EQ(model_->ItemText(0), u"x");
+  EXPECT_EQ(model_->ItemText(1), u"(off) x^2");
+  const GraphInput graph = Plotted();
+  ASSERT_EQ(graph.curves.size(), 2U);
+  EXPECT_EQ(graph.curves[0].label, u"R:F1(X)=x");
+  EXPECT_EQ(graph.curves[1].label, u"B:F3(X)=x^3");
+  GraphModel model(graph);
+  EXPECT_EQ(model.Calculate(u"2")->lines,
+            (std::vector<std::u16string>{u"R:F1(X) = 2", u"B:F3(X) = 8"}));
+  const GraphPicture picture = BuildPicture(model);
+  std::vector<GraphColour> colours;
+  for (const GraphShape& shape : picture) {
+    if (const auto* stroke = std::get_if<GraphStroke>(&shape)) colours.push_back(stroke->colour);
+  }
+  EXPECT_EQ(colours.front(), GraphColour{0xFF0000});
+  EXPECT_EQ(colours.back(), GraphColour{0x0000FF});
+}
+
+TEST_F(PlotterModelPlot, WhatIsSwitchedOffIsRememberedInAKeyOfItsOwn) {
+  for (const char16_t* equation : {u"x", u"x^2", u"x^3"}) Add(equation);
+  model_->SwitchCurve(0);
+  model_->SwitchCurve(2);
+  model_->Save();
+  EXPECT_EQ(Stored("Grapher", "Curves Off"), 5);
+  EXPECT_EQ(StoredText("Grapher", "Fun0"), "x");
+  Open();
+  EXPECT_FALSE(model_->Equations().IsOn(0));
+  EXPECT_TRUE(model_->Equations().IsOn(1));
+  model_->ChooseEquation(0);
+  model_->DeleteEquation();
+  EXPECT_TRUE(model_->Equations().IsOn(0)) << "what is off goes with its equation";
+  EXPECT_FALSE(model_->Equations().IsOn(1));
+  model_->SwitchCurve(1);
+  EXPECT_TRUE(model_->Equations().IsOn(1));
+  Add(u"x^4");
+  EXPECT_TRUE(model_->Equations().IsOn(2));
+}
+
+TEST_F(PlotterModelPlot, WithoutAnyCurveThereIsNoGraph) {
+  Add(u"x");
+  model_->SwitchCurve(0);
+  EXPECT_EQ(Told(Press(u"Plot")),
+            u"All curves are switched off. Switch one on in the menu Edit, or press F8.");
+}
+
+// Equations that are edited in place.
+
+TEST_F(PlotterModelPlot, TheInputTakesThePlaceOfTheSelectedEquation) {
+  for (const char16_t* equation : {u"x", u"x^2", u"x^3"}) Add(equation);
+  model_->ChooseEquation(1);
+  Put(u" x^2+1|");
+  EXPECT_EQ(model_->Replace(), std::nullopt);
+  EXPECT_EQ(List(), (Equations{u"x", u"x^2+1", u"x^3"}));
+  EXPECT_EQ(model_->Equations().Selected(), 1U);
+  EXPECT_EQ(MarkedNow(), u"|");
+  EXPECT_EQ(model_->PastLines().Entries().back(), u"x^2+1");
+}
+
+TEST_F(PlotterModelPlot, WhatCannotBeAddedCannotReplaceEither) {
+  Add(u"x");
+  Add(u"x^2");
+  const auto refusal = [this](std::u16string_view typed) {
+    Put(typed);
+    const auto refused = model_->Replace();
+    return refused ? refused->text : std::u16string();
+  };
+  EXPECT_EQ(refusal(u"|"), u"Equation is null.");
+  EXPECT_EQ(refusal(u"(x|"), u"Not matched '(' and ')'.");
+  EXPECT_EQ(refusal(u"x|"), u"x is added already.");
+  EXPECT_EQ(refusal(u"x^2|"), u"") << "it is the same";
+  EXPECT_EQ(List(), (Equations{u"x", u"x^2"}));
+}
+
+// The graph beside the keys.
+
+TEST_F(PlotterModelPlot, TheLiveGraphShowsTheListAndWhatIsTyped) {
+  EXPECT_TRUE(model_->LiveGraph()->curves.empty());
+  Put(u"sin(x|");
+  EXPECT_TRUE(model_->LiveGraph()->curves.empty());
+  Put(u"sin(x)|");
+  EXPECT_EQ(model_->LiveGraph()->curves[0].label, u"R:F1(X)=sin(x)");
+  model_->Add();
+  Put(u"x^2|");
+  const auto graph = model_->LiveGraph();
+  ASSERT_EQ(graph->curves.size(), 2U);
+  EXPECT_EQ(graph->curves[1].label, u"G:F2(x)=x^2");
+  model_->SwitchCurve(0);
+  EXPECT_EQ(model_->LiveGraph()->curves.size(), 1U);
+  SetRange({u"-Pi", u"0", u"5", u"6"});
+  EXPECT_EQ(model_->LiveGraph()->range.yMax, 6);
+  SetRange({u"0", u"0", u"5", u"6"});
+  EXPECT_EQ(model_->LiveGraph().error(),
+            u"The maximum value of X should be bigger than the minimum value of X.");
+}
+
+TEST_F(PlotterModelPlot, ARangeIsTakenIntoTheFields) {
+  model_->TakeRange({-2.5, 3, -1e-7, 1000});
+  EXPECT_EQ(model_->Range(), (RangeTexts{u"-2.5", u"3", u"-0.0000001", u"1000"}));
 }
 
 }  // namespace

@@ -136,15 +136,15 @@ TEST_F(PlotterOptionsDlgTest, EqualAndReversedBoundsAreRefused) {
 
 TEST_F(PlotterOptionsDlgTest, WhatIsNoNumberIsRefusedAndCanBeMended) {
   const auto made = Run(kOptions, [this] {
-    Type("Y min", "2*3");
+    Type("Y min", "2*x");
     ExpectRefusal(
-        u"Y min takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size, not \"2*3\".");
+        u"Y min takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size, not \"2*x\".");
     EXPECT_TRUE(HasFocus("Y min"));
-    EXPECT_EQ(Field("Y min").selectedText(), "2*3");
+    EXPECT_EQ(Field("Y min").selectedText(), "2*x");
     Type("Y min", "");
     ExpectRefusal(
         u"Y min takes a decimal number such as -2.5 or 1e3, up to 1.79e308 in size; it is empty.");
-    Type("Y min", "6");
+    Type("Y min", "2*3");
     Tap(u"OK");
   });
   ASSERT_TRUE(made);

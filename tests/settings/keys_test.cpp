@@ -45,6 +45,7 @@ const std::vector<IntegerRow> kIntegers{
     {kMatrixColumnWidth, "Config", "Matrix Colum Width", 60},
     {kHistoryKept, "Config", "Keep History", 1},
     {kHistoryShown, "Config", "Show History", 1},
+    {kCurvesOff, "Grapher", "Curves Off", 0},
 };
 
 struct TextRow {

@@ -11,6 +11,7 @@
 #include <array>
 #include <utility>
 
+#include "plotter/empty_curves.h"
 #include "plotter/graph_model.h"
 #include "plotter/plotter_texts.h"
 #include "screens/plotter/graph_area_view.h"
@@ -99,6 +100,7 @@ class CGraphView final : public Dialog {
   void Select(int curve);
   void Tell(ChangeRefusal refusal);
   void Take(const std::optional<GraphReading>& reading);
+  void ShowEmptyCurves();
   void ShareHeight();
   std::optional<std::u16string> Copied(ReadingPart part) const {
     return CopiedReading(reading_, part, results_->Selected());
@@ -142,6 +144,7 @@ CGraphView::CGraphView(QWidget* parent, GraphInput input)
   MakeCopies();
   LayOut();
   Connect();
+  ShowEmptyCurves();
   Refresh();
   area_->setFocus();
 }
@@ -292,6 +295,11 @@ void CGraphView::Take(const std::optional<GraphReading>& reading) {
   RefreshCopies();
   ShareHeight();
   area_->MoveMarker();
+}
+
+void CGraphView::ShowEmptyCurves() {
+  reading_ = EmptyCurves(model_.Input());
+  results_->Write(reading_.lines, reading_.selected);
 }
 
 void CGraphView::ShareHeight() {

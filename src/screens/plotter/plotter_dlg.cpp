@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <array>
 #include <utility>
@@ -22,20 +23,35 @@
 
 namespace kav {
 
+namespace {
+
+constexpr const char* kReplaceKey = "F2";
+constexpr const char* kSwitchKey = "F8";
+
+}  // namespace
+
 CPlotterDlg::CPlotterDlg(Frame& frame)
     : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight)),
       model_(frame.Store()),
       input_(new EquationInputView(this)),
       list_(new QComboBox(this)),
       // Only typing changes a stored text: a field may show less than all of it.
-      range_(this, [this](RangeField field,
-                          std::u16string text) { model_.SetRangeText(field, std::move(text)); }),
+      range_(this,
+             [this](RangeField field, std::u16string text) {
+               model_.SetRangeText(field, std::move(text));
+               FollowTyping();
+             }),
       grid_(NewOptionBox(kGridCaption, kGridHelp, PlotterOption::Grid)),
       line_(NewOptionBox(kLineCaption, kLineHelp, PlotterOption::Line)) {
   MakeList();
   AddKeys(SpotsOf(PlotterKeyRows()));
   OrderTabs();
   AddMenus(ScreenMode::Plotter, DisplayPage::Normal, [] {});
+  connect(new QShortcut(QKeySequence(QLatin1String(kReplaceKey)), this), &QShortcut::activated,
+          this, &CPlotterDlg::OnReplace);
+  connect(new QShortcut(QKeySequence(QLatin1String(kSwitchKey)), this), &QShortcut::activated, this,
+          &CPlotterDlg::OnSwitchCurve);
+  connect(&input_->Formula(), &QPlainTextEdit::textChanged, this, &CPlotterDlg::FollowTyping);
   CPlotterDlg::Refresh();
 }
 
@@ -124,6 +140,7 @@ void CPlotterDlg::Refresh() {
   grid_->setChecked(model_.Options().hasGrid);
   line_->setChecked(model_.Options().hasLines);
   RefreshKeys();
+  FollowTyping();
   input_->setFocus();
 }
 
@@ -131,7 +148,9 @@ void CPlotterDlg::ShowEquations() {
   const EquationList& equations = model_.Equations();
   const QSignalBlocker noChoice(list_);
   list_->clear();
-  for (const std::u16string& equation : equations.All()) list_->addItem(OneLine(equation));
+  for (std::size_t place = 0; place < equations.All().size(); ++place) {
+    list_->addItem(OneLine(model_.ItemText(place)));
+  }
   list_->setCurrentIndex(equations.Selected() ? static_cast<int>(*equations.Selected()) : -1);
   list_->setEnabled(!equations.IsEmpty());
 }
@@ -149,6 +168,7 @@ void CPlotterDlg::LayOut(const DialogUnits& units) {
   range_.SetFont(font);
   list_->setFont(font);
   for (QCheckBox* box : {grid_, line_}) box->setFont(font);
+  LayOutSide();
 }
 
 void CPlotterDlg::CarryOut(const PlotterRequest& request) {
@@ -169,6 +189,35 @@ void CPlotterDlg::OnYes(PlotterKey) {
 void CPlotterDlg::Do(const OpenGraph& request) {
   RunGraphView(this, request.input);
   Refresh();
+}
+
+void CPlotterDlg::Do(const AskAboutTyped& request) {
+  const auto typed = AskYesNo(this, request.question) ? request.onYes : request.onNo;
+  if (!typed) return input_->setFocus();
+  const PlotterRequest next = model_.PlotWith(*typed);
+  Refresh();
+  Save();
+  CarryOut(next);
+}
+
+std::vector<MenuEntry> CPlotterDlg::MoreToEdit() {
+  return {{kReplaceEquationEntry, [this] { OnReplace(); }, QKeySequence(QLatin1String(kReplaceKey)),
+           [this] { return model_.CanReplace(); }, kReplaceEquationTip},
+          {kSwitchCurveEntry, [this] { OnSwitchCurve(); }, QKeySequence(QLatin1String(kSwitchKey)),
+           [this] { return model_.CanReplace(); }, kSwitchCurveTip}};
+}
+
+void CPlotterDlg::OnReplace() {
+  if (!model_.CanReplace() || AsksFirst(*input_, [this] { OnReplace(); })) return;
+  TakeLine();
+  const std::optional<PlotterRefusal> refusal = model_.Replace();
+  Refresh();
+  Save();
+  if (refusal) Do(*refusal);
+}
+
+void CPlotterDlg::OnSwitchCurve() {
+  if (const auto place = model_.Equations().Selected()) SwitchCurve(*place);
 }
 
 void CPlotterDlg::Edit(EditCommand command) {

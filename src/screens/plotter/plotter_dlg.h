@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string_view>
+#include <vector>
 
 #include "line/history_walk.h"
 #include "plotter/plotter_model.h"
@@ -16,6 +17,7 @@ class QLineEdit;
 namespace kav {
 
 class EquationInputView;
+class GraphSideView;
 
 /// Loads the settings when it is made and writes them into the frame's store when it is destroyed;
 /// each change of the equations is also saved to disk. Enter adds the input; Ctrl+Enter, and Enter
@@ -49,6 +51,22 @@ class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
   void OnYes(PlotterKey key) override;
   void Do(const PlotterRefusal& request);
   void Do(const OpenGraph& request);
+  void Do(const AskAboutTyped& request);
+
+  std::vector<MenuEntry> MoreToEdit() override;
+  void OnReplace();
+  void OnSwitchCurve();
+
+  // The graph beside the keys of a wide window.
+  QRect ScreenPart() const override;
+  QRect GraphPart() const;
+  void MakeSide();
+  void LayOutSide();
+  void FollowTyping();
+  void ShowSide();
+  void SwitchCurve(std::size_t place);
+  void TakeRange(const PlotRange& range);
+  void paintEvent(QPaintEvent* event) override;
 
   // The Edit menu works on the field that had the focus last, or else on the input.
   void Edit(EditCommand command) override;
@@ -66,6 +84,8 @@ class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
   QCheckBox* line_;
   QLineEdit* edited_ = nullptr;  ///< null: the input
   HistoryWalk walk_;
+  GraphSideView* side_ = nullptr;  ///< made when it is first seen
+  bool follows_ = false;           ///< the side is about to be shown anew
 };
 
 /// The function plotter's screen as the frame's table of screens has it.
