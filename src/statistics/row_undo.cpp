@@ -1,7 +1,6 @@
 #include "statistics/row_undo.h"
 
 #include <algorithm>
-#include <iterator>
 #include <new>
 #include <utility>
 
@@ -91,7 +90,7 @@ void RowUndo::AfterSorting() {
   const auto replaced = std::find_if(done_.rbegin(), done_.rend(), [](const Step& step) {
     return std::holds_alternative<ReplaceRows>(step.back);
   });
-  const auto sinceThen = std::distance(done_.begin(), replaced.base());
+  const auto sinceThen = replaced.base() - done_.begin();
   const auto needsPlace = [](const Step& step) {
     return !std::holds_alternative<PutRowBack>(step.back);
   };

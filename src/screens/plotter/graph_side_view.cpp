@@ -120,7 +120,7 @@ void GraphSideView::MakeBoxes() {
 void GraphSideView::AddParts() {
   auto* all = new QVBoxLayout(this);
   all->addWidget(area_, 1);
-  for (QCheckBox* box : curves_) all->addWidget(box);
+  for (QCheckBox* box : curves_) all->addWidget(box, 0, Qt::AlignLeft);
   all->addWidget(results_);
   auto* last = new QHBoxLayout;
   last->addWidget(trace_);
