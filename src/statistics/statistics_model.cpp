@@ -202,8 +202,9 @@ void StatisticsModel::ClearRows() {
 
 /// Makes `rows` the list, which then needs no saving.
 void StatisticsModel::TakeRows(DataList rows) {
+  const bool isChange = list_.RowCount() > 0 || rows.RowCount() > 0;
   std::swap(list_, rows);
-  KeepUndo(ReplaceRows{std::move(rows)}, Beside());
+  if (isChange) KeepUndo(ReplaceRows{std::move(rows)}, Beside());
   selected_.reset();
   buttons_.AfterLoading(list_.CompleteRowCount());
   MarkChanged();

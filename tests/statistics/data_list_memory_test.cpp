@@ -68,6 +68,11 @@ TEST(DataListMemory, ALongListIsGivenBackToTheMachine) {
   MemorySettingsStore store;
   for (const bool isLeft : {false, true}) {
     auto model = std::make_unique<StatisticsModel>(DataShape::OneVariable, store);
+    const auto change = [&model] {
+      model->SetFields({u"1", u"", u"1"});
+      for (std::size_t i = 0; i < RowUndo::kMostSteps; ++i) model->Press(StatisticsKey::Add);
+    };
+    change();
     const std::int64_t before = Resident();
     ASSERT_EQ(model->LoadFrom(folder.File("data.txt"), {}), std::nullopt);
     // What else is taken meanwhile stands in the way of what is freed below it.
@@ -80,8 +85,7 @@ TEST(DataListMemory, ALongListIsGivenBackToTheMachine) {
     } else {
       model->ClearRows();
       EXPECT_LE(Resident() - before, 2 * size) << "what can be undone is not copied";
-      model->SetFields({u"1", u"", u"1"});
-      for (std::size_t i = 0; i < RowUndo::kMostSteps; ++i) model->Press(StatisticsKey::Add);
+      change();
     }
     EXPECT_LE(Resident() - before, size / 8);
   }
