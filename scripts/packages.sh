@@ -7,9 +7,9 @@ cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
 declare -A sets=(
   # To build and run the two programs. The screens have room for their texts in any font; these fonts look
-  # best.
+  # best. The library for linear algebra is headers only: eigenvalues and factors of matrices.
   [run]="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libtomlplusplus-dev libedit-dev
-    fonts-dejavu-extra"
+    libeigen3-dev fonts-dejavu-extra"
   # The window on a desktop that has Wayland and no X server.
   [wayland]="qt6-wayland"
   # The tests, and the benchmarks, so that they keep compiling. The build makes the foreign locales of

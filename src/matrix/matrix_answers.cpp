@@ -13,6 +13,7 @@
 #include "matrix/matrix_fault.h"
 #include "matrix/matrix_line.h"
 #include "matrix/matrix_texts.h"
+#include "matrix/unknown_order.h"
 #include "settings/keys.h"
 
 namespace kav {
@@ -49,6 +50,7 @@ MatrixOutcome MatrixAnswers::Evaluate(const std::u16string& line) {
   const bool isMatrixLine = IsMatrixExpression(TrimBlanks(std::u16string_view(line)));
   // Not answered: the text is still that of an earlier line.
   if (!isMatrixLine && !TakesNumbers()) return Nothing{};
+  about_.clear();
   MatrixOutcome outcome = Nothing{};
   if (isMatrixLine) {
     outcome = EvaluateMatrix(line);
@@ -93,9 +95,57 @@ MatrixOutcome MatrixAnswers::EvaluateMatrix(const std::u16string& line) {
     return TellStop{Widen(result.error().message), std::move(news)};
   }
   Note(text, PastAnswer(*result));
+  if (const auto order = OrderOfUnknowns(Narrow(text), matrices, files_, modes_.answer)) {
+    about_ = std::u16string(kOrderOfUnknowns) + *order;
+  }
   board_.TakeAnswer(*std::move(result));
   if (news.empty()) return Nothing{};
   return TellNotice{std::move(news)};
+}
+
+MatrixOutcome MatrixAnswers::Find(const MatrixProperty& property, const std::u16string& line) {
+  fault_.reset();
+  evaluated_.reset();
+  about_.clear();
+  text_.clear();
+  last_.reset();
+  const Matrices& matrices = board_.All();
+  const int index = board_.ShownIndex();
+  MatrixOutcome outcome = Nothing{};
+  if (HasEmptyCell(board_.Shown())) {
+    outcome = TellInvalid(matrices, index);
+  } else if (auto value = PropertyOf(property, board_.Shown())) {
+    outcome = TakeProperty(property, *std::move(value));
+  } else {
+    outcome = TellStop{Widen(value.error().message)};
+  }
+  // What stands in the line is not what the result is of.
+  answered_ = AnsweredLine{line, modes_};
+  answeredChanges_ = board_.ChangeCount();
+  return outcome;
+}
+
+MatrixOutcome MatrixAnswers::TakeProperty(const MatrixProperty& property, PropertyValue value) {
+  const int index = board_.ShownIndex();
+  std::u16string news =
+      notes_.NewsOf(kMatrixNames[static_cast<std::size_t>(index)], board_.All(), settings_.matrix);
+  about_ = PropertyTitle(property, value, index);
+  if (value.number) {
+    last_ = modes_.answer = *value.number;
+    about_ += u": ";
+    text_ = ShownNumber(*value.number, settings_.normal, BaseMode::Decimal);
+  } else {
+    board_.TakeAnswer(std::move(value.matrix));
+  }
+  if (news.empty()) return Nothing{};
+  return TellNotice{std::move(news)};
+}
+
+std::u16string MatrixAnswers::Text() const {
+  if (about_.empty()) return text_;
+  if (answeredChanges_ != board_.ChangeCount()) return {};
+  const bool isOfAnswer = text_.empty();
+  return isOfAnswer && board_.ShownIndex() != kAnswerMatrix ? std::u16string() : about_ + text_;
 }
 
 void MatrixAnswers::Note(std::u16string_view text, std::u16string_view answer) {
@@ -122,12 +172,12 @@ void MatrixAnswers::ShowAgain() {
 }
 
 std::optional<std::u16string> MatrixAnswers::CopiedResult() const {
-  if (!last_ || text_.empty()) return std::nullopt;
+  if (!last_ || text_.empty() || Text().empty()) return std::nullopt;
   return PlainDigits(text_);
 }
 
 std::optional<std::u16string> MatrixAnswers::CopiedLine() const {
-  if (!answered_ || !CopiedResult()) return std::nullopt;
+  if (!answered_ || !about_.empty() || !CopiedResult()) return std::nullopt;
   return LineAndResult(answered_->text, text_);
 }
 

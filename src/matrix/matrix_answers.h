@@ -15,6 +15,7 @@
 #include "macros/macro_store.h"
 #include "matrix/cell_notes.h"
 #include "matrix/matrix_board.h"
+#include "matrix/matrix_properties.h"
 #include "matrix/matrix_value.h"
 #include "matrix/temporary_matrices.h"
 #include "settings/past_lines.h"
@@ -43,11 +44,16 @@ class MatrixAnswers {
 
   /// `line` as it was typed. The board takes the answer of a matrix expression.
   MatrixOutcome Evaluate(const std::u16string& line);
+  /// Finds `property` of the shown matrix, while `line` is in the line. A number stands where those
+  /// of lines do, with what it is; the board takes a matrix as the answer.
+  MatrixOutcome Find(const MatrixProperty& property, const std::u16string& line);
   /// See MatrixModel::LiveResult.
   std::optional<std::u16string> Live(std::u16string_view line) const;
 
   // Of the last line.
-  const std::u16string& Text() const { return text_; }
+  /// The number or message, with what it is about, as long as the matrices are as they were then;
+  /// or what is to be known of the matrix that was answered, while that is shown.
+  std::u16string Text() const;
   const std::optional<double>& Last() const { return last_; }
   const std::optional<PastLine>& Evaluated() const { return evaluated_; }
   /// Writes a number that is shown again, in the display settings of now.
@@ -61,6 +67,7 @@ class MatrixAnswers {
  private:
   MatrixOutcome EvaluateMatrix(const std::u16string& line);
   void EvaluateNumber(const std::u16string& line);
+  MatrixOutcome TakeProperty(const MatrixProperty& property, PropertyValue value);
   void Note(std::u16string_view text, std::u16string_view answer);
   LineFault FaultOfLine(std::u16string_view line, std::optional<TextPlace> place) const;
 
@@ -71,7 +78,8 @@ class MatrixAnswers {
   CalcModes modes_;  ///< with the last number answered, whatever failed since
   CellNotes notes_;
   TemporaryMatrices files_;
-  std::u16string text_;
+  std::u16string text_;   ///< a number or a message
+  std::u16string about_;  ///< stands before that, or alone; empty for most lines
   std::optional<PastLine> evaluated_;
   std::optional<AnsweredLine> answered_;
   std::optional<LineFault> fault_;

@@ -1,5 +1,8 @@
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <numeric>
+#include <vector>
 
 #include "matrix/matrix_error.h"
 #include "matrix/matrix_operations.h"
@@ -126,6 +129,20 @@ CalcResult<MatrixValue> SolveLinearEquation(const MatrixValue& a, const MatrixVa
     solution.At(table[static_cast<std::size_t>(i)], 0) = right.TextAt(i, 0);
   }
   return solution;
+}
+
+std::vector<int> UnknownsInRows(const MatrixValue& a) {
+  if (!IsSquare(a)) return {};
+  WorkingMatrix rest(a);
+  WorkingMatrix right(a.rows, 1);
+  const RowTable table = RankRows(rest, right);
+  if (!Eliminate(rest, right)) return {};
+  std::vector<int> unknowns(static_cast<std::size_t>(a.rows));
+  for (int i = 0; i < a.rows; ++i) {
+    unknowns[static_cast<std::size_t>(table[static_cast<std::size_t>(i)])] = i;
+  }
+  const bool areInOrder = std::is_sorted(unknowns.begin(), unknowns.end());
+  return areInOrder ? std::vector<int>() : unknowns;
 }
 
 CalcResult<MatrixValue> MatrixDeterminant(const MatrixValue& a) {

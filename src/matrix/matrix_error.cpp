@@ -22,6 +22,10 @@ CalcError MatrixArgumentError(std::string_view operation) {
   return AboutOperation(operation, kArgumentError);
 }
 
+CalcError MatrixHasNoConvergence(std::string_view operation) {
+  return AboutOperation(operation, kNoConvergence);
+}
+
 CalcError MatrixIsNotInvertible() {
   return AboutOperation(kMatrixInverse, kNotInvertible);
 }

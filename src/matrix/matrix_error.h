@@ -12,6 +12,9 @@ CalcError MatrixSizeMismatch(std::string_view operation);
 /// A function has a number, or nothing, in the place of a matrix.
 CalcError MatrixArgumentError(std::string_view operation);
 
+/// An iteration did not come to its end.
+CalcError MatrixHasNoConvergence(std::string_view operation);
+
 CalcError MatrixIsNotInvertible();
 CalcError MatrixHasZeroInDiagonal();
 /// The exponent is not a whole number from 0 on: CalcErrorCode::NotInteger with a message of its

@@ -29,6 +29,10 @@ namespace {
 constexpr std::array kReadOnly{kMatrixDisplayType, kMatrixPrecision,   kMatrixRows,  kMatrixColumns,
                                kMatrixAlignment,   kMatrixColumnWidth, kDisplayType, kPrecision};
 
+MatrixRequest RequestOf(MatrixOutcome outcome) {
+  return std::visit([](auto& request) -> MatrixRequest { return std::move(request); }, outcome);
+}
+
 }  // namespace
 
 MatrixModel::MatrixModel(SettingsStore& store)
@@ -121,8 +125,11 @@ MatrixRequest MatrixModel::Evaluate() {
   const bool isMatrixLine = IsMatrixExpression(text);
   if (isMatrixLine) history_.Add(text);
   if (isMatrixLine || answers_.TakesNumbers()) line_.SelectAll();
-  MatrixOutcome outcome = answers_.Evaluate(line_.Text());
-  return std::visit([](auto& request) -> MatrixRequest { return std::move(request); }, outcome);
+  return RequestOf(answers_.Evaluate(line_.Text()));
+}
+
+MatrixRequest MatrixModel::Find(const MatrixProperty& property) {
+  return RequestOf(answers_.Find(property, line_.Text()));
 }
 
 MatrixRequest MatrixModel::TakeMend() {

@@ -21,6 +21,7 @@
 #include "matrix/matrix_board.h"
 #include "matrix/matrix_edits.h"
 #include "matrix/matrix_keypad.h"
+#include "matrix/matrix_properties.h"
 #include "matrix/matrix_value.h"
 #include "settings/past_lines.h"
 #include "settings/settings_store.h"
@@ -55,9 +56,10 @@ class MatrixModel {
   /// An operator typed while all of the line is selected goes on with that line, as its key does.
   /// False: nothing was done, and `typed` is a character like others.
   bool TypeOperator(char16_t typed);
-  /// The answer or message of the last number expression; empty before the first and after a
-  /// matrix expression, whose answer it would stand above.
-  const std::u16string& ResultText() const { return answers_.Text(); }
+  /// The answer or message of the last number expression, or what was found of a matrix; empty
+  /// before the first and after a matrix expression, whose answer it would stand above, unless
+  /// there is something to know of that.
+  std::u16string ResultText() const { return answers_.Text(); }
   /// What `line` comes to, before "=" says it: a number, or the order of a matrix. nullopt if there
   /// is nothing to say, or the user does not want it.
   std::optional<std::u16string> LiveResult(std::u16string_view line) const {
@@ -85,6 +87,9 @@ class MatrixModel {
   Menu MenuOf(MatrixKey key) const;
   /// An id that the menu of `key` does not offer does nothing.
   MatrixRequest Choose(MatrixKey key, int id);
+
+  /// Finds `property`, one of MatrixProperties, of the shown matrix.
+  MatrixRequest Find(const MatrixProperty& property);
 
   // What dialogs bring back. A number beyond the range of double is told, and not inserted.
   void TakeConverter(const ConverterOutcome& outcome) { converter_.Take(outcome, line_); }

@@ -4,6 +4,8 @@
 // message "Out of range(overflow or underflow)" as its cell's text, which reads as 0.
 #pragma once
 
+#include <vector>
+
 #include "engine/calc_error.h"
 #include "matrix/matrix_value.h"
 
@@ -33,6 +35,10 @@ MatrixValue TransposeMatrix(const MatrixValue& a);
 /// exchanges. A pivot of exactly 0 ends the elimination silently: the right side as it is by then
 /// is the answer.
 CalcResult<MatrixValue> SolveLinearEquation(const MatrixValue& a, const MatrixValue& b);
+
+/// Which unknown, counted from 0, stands in each row of that answer. Empty if each stands in its
+/// own row, if `a` is no square, or if a pivot of 0 ends the elimination.
+std::vector<int> UnknownsInRows(const MatrixValue& a);
 
 /// The determinant of the square matrix `a`, as a matrix of one cell. Rows are exchanged only if a
 /// pivot is exactly 0.

@@ -22,12 +22,20 @@ inline constexpr std::string_view kMatrixTranspose = "Matrix Transpose";
 inline constexpr std::string_view kMatrixLinearEquation = "Matrix Linear Equation";
 inline constexpr std::string_view kMatrixDeterminant = "Matrix Determinant";
 inline constexpr std::string_view kMatrixTriangular = "Matrix Triangular";
+inline constexpr std::string_view kMatrixRank = "Matrix Rank";
+inline constexpr std::string_view kMatrixTrace = "Matrix Trace";
+inline constexpr std::string_view kMatrixNorm = "Matrix Norm";
+inline constexpr std::string_view kMatrixEigenvalues = "Matrix Eigenvalues";
+inline constexpr std::string_view kMatrixLu = "Matrix LU";
+inline constexpr std::string_view kMatrixQr = "Matrix QR";
 
 // What went wrong, behind the operation's name in "[" and "] ".
 inline constexpr std::string_view kSizeMismatch = "Matrix Size Mismatch";
 inline constexpr std::string_view kArgumentError = "Matrix Argument Error";
 inline constexpr std::string_view kNotInvertible = "Not Invertible(Determinant Equals 0)";
 inline constexpr std::string_view kZeroInDiagonal = "Error(0 in Diagonal).";
+inline constexpr std::string_view kNoConvergence =
+    "No result: the iteration does not end for this matrix";
 
 /// Follows the name of an operation that takes whole numbers from 0 on.
 inline constexpr std::string_view kNeitherFractionNorNegative =
@@ -113,6 +121,12 @@ inline std::u16string MoreCellsAreNoNumbers(std::size_t count) {
 inline std::u16string SaveMatricesQuestion(std::u16string_view names) {
   return std::u16string(u"Do you want to save changes to ").append(names).append(u"?");
 }
+
+// The menu of what is asked of the shown matrix, in the menu bar.
+inline constexpr std::u16string_view kPropertiesMenu = u"M&atrix";
+
+/// What the result line says of an answer whose rows are not in the order of the unknowns.
+inline constexpr std::u16string_view kOrderOfUnknowns = u"Order of unknowns: ";
 
 // The dialog that gives a matrix another size.
 inline constexpr std::u16string_view kMatrixSizeTitle = u"Select Matrix Size";

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "matrix/matrix_operations.h"
 #include "support/expect_matrix.h"
@@ -40,6 +41,21 @@ TEST(MatrixInverse, EliminatesAgainstTheIdentity) {
   ExpectRows(InvertMatrix(MatrixOfRows({{"4"}})), {{"0.25"}});
   ExpectRows(InvertMatrix(MatrixOfRows({{"2", "0", "0"}, {"0", "4", "0"}, {"0", "0", "-5"}})),
              {{"0.5", "0", "0"}, {"0", "0.25", "0"}, {"0", "0", "-0.2"}});
+}
+
+TEST(LinearEquation, UnknownsStandInTheRowsThatTheExchangesGiveThem) {
+  using Unknowns = std::vector<int>;
+  const auto unknownsOf = [](const PlainRows& rows) { return UnknownsInRows(MatrixOfRows(rows)); };
+  EXPECT_EQ(unknownsOf({{"0", "1"}, {"1", "0"}}), (Unknowns{1, 0}));
+  EXPECT_EQ(unknownsOf({{"1", "0"}, {"0", "1"}}), Unknowns()) << "in their own order";
+  EXPECT_EQ(unknownsOf({{"0", "0"}, {"1", "0"}}), Unknowns()) << "no solution";
+  EXPECT_EQ(UnknownsInRows(kWide), Unknowns());
+  // The solution, 1 2 3, is written through the exchanges: row 3 of the equations, which the first
+  // unknown is solved from, is where it stands.
+  const PlainRows turned{{"0", "1", "0"}, {"0", "0", "1"}, {"1", "0", "0"}};
+  EXPECT_EQ(unknownsOf(turned), (Unknowns{1, 2, 0}));
+  ExpectRows(SolveLinearEquation(MatrixOfRows(turned), MatrixOfRows({{"2"}, {"3"}, {"1"}})),
+             {{"2"}, {"3"}, {"1"}});
 }
 
 constexpr const char* kNotInvertible = "[Matrix Inverse] Not Invertible(Determinant Equals 0)";

@@ -4,7 +4,9 @@
 #include <string>
 #include <utility>
 #include <variant>
+#include <vector>
 
+#include "matrix/matrix_properties.h"
 #include "matrix/matrix_texts.h"
 #include "screens/matrix/matrix_leaving.h"
 #include "screens/matrix/matrix_places.h"
@@ -40,6 +42,7 @@ CMatrixDlg::CMatrixDlg(Frame& frame)
   setTabOrder(&Result(), tabs_);
   setTabOrder(tabs_, &grid_.Grid());
   AddMenus(ScreenMode::Matrix, DisplayPage::Matrix, [this] { model_.TakeDisplaySettings(); });
+  AddPropertiesMenu();
   CMatrixDlg::Refresh();
 }
 
@@ -72,6 +75,22 @@ void CMatrixDlg::OnKey(MatrixKey key) {
   if (isEquals) FinishLine();
   KeyScreenOf::OnKey(key);
   if (isEquals) SaveAfterPainting([this] { model_.Save(); }, model_.Evaluated());
+}
+
+void CMatrixDlg::AddPropertiesMenu() {
+  std::vector<MenuEntry> entries;
+  entries.reserve(MatrixProperties().size());
+  for (const MatrixProperty& property : MatrixProperties()) {
+    entries.push_back(
+        {property.item, [this, &property] { OnProperty(property); }, {}, {}, property.help});
+  }
+  AddMenu(kPropertiesMenu, entries);
+}
+
+void CMatrixDlg::OnProperty(const MatrixProperty& property) {
+  if (!grid_.FinishEdit()) return;
+  TakeLine();
+  Follow(model_.Find(property));
 }
 
 void CMatrixDlg::OnTab(int index) {

@@ -33,6 +33,8 @@ class CMatrixDlg final : public KeyScreenOf<MatrixKey, MatrixModel, LineScreen> 
   void OnMend() override;
   void OnClear() override { OnKey(MatrixKey::Clear); }
   bool OnOperator(char16_t typed) override;
+  void AddPropertiesMenu();
+  void OnProperty(const MatrixProperty& property);
   void OnTab(int index);
   void TakeLine() override;
   void Refresh() override;
