@@ -191,5 +191,44 @@ TEST_F(MatrixDlgTest, WhatIsLeftIsSavedAfterEachExpression) {
   EXPECT_EQ(frame_.saves, before + 1);
 }
 
+TEST_F(MatrixDlgTest, TheMatrixMenuTellsOfTheShownMatrix) {
+  Resize(2, 2);
+  TypeMatrix("0 -2;2 0");
+  ChooseFrom(*dlg_, u"M&atrix", u"Rank");
+  EXPECT_EQ(Answer(), u"Rank of [M1]: 2");
+  EXPECT_EQ(Tab(), u"[M1]");
+  ChooseFrom(*dlg_, u"M&atrix", u"Eigenvalues");
+  EXPECT_EQ(Tab(), u"[M Ans]");
+  EXPECT_EQ(Cells(), "0 2;0 -2");
+  EXPECT_EQ(Answer(), u"Eigenvalues of [M1]: real, imaginary");
+  ChooseTab(0);
+  EXPECT_EQ(Answer(), u"");
+  Put(u"[M1]*[M1]");
+  ChooseFrom(*dlg_, u"M&atrix", u"QR: R");
+  EXPECT_EQ(Cells(), "2 0;0 2");
+  EXPECT_EQ(Line(), u"[M1]*[M1]");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Cells(), "0 2;0 -2") << "the answer before";
+  EXPECT_EQ(Answer(), u"");
+  Key(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(Cells(), "2 0;0 2");
+  ChooseTab(1);
+  ExpectBox();
+  ChooseFrom(*dlg_, u"M&atrix", u"Trace");
+  ExpectSeen(u"Matrix [M2] is invalid", QMessageBox::Critical);
+}
+
+TEST_F(MatrixDlgTest, TheMatrixMenuIsOpenToTheKeyboardAndSaysWhatItsEntriesAre) {
+  Resize(1, 1);
+  TypeMatrix("7");
+  Key(Qt::Key_A, Qt::AltModifier);
+  QTest::keyClick(&Focused(), Qt::Key_Down);
+  QTest::keyClick(&Focused(), Qt::Key_Return);
+  EXPECT_EQ(Answer(), u"Trace of [M1]: 7");
+  for (const QAction* action : MenuOf(*dlg_, u"M&atrix")->actions()) {
+    EXPECT_FALSE(action->statusTip().isEmpty()) << action->text().toStdString();
+  }
+}
+
 }  // namespace
 }  // namespace kav::test::matrix_dlg_test
