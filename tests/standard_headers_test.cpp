@@ -30,8 +30,8 @@ const std::vector<Header> kHeaders{
     {"algorithm",
      "all_of any_of clamp copy copy_if copy_n count count_if equal find find_if find_if_not "
      "for_each "
-     "for_each_n lower_bound max max_element min minmax mismatch none_of ranges remove "
-     "remove_if replace replace_copy_if replace_if reverse search sort stable_partition swap_ranges "
+      "for_each_n is_sorted lower_bound max max_element min minmax mismatch none_of ranges remove "
+      "remove_if replace replace_copy_if replace_if reverse search sort stable_partition swap_ranges "
      "transform unique"},
     {"array", "array"},
     {"bit", "bit_cast bit_width countl_one countr_one"},
@@ -40,8 +40,9 @@ const std::vector<Header> kHeaders{
     {"chrono", "chrono"},
     {"clocale", "setlocale"},
     {"cmath",
-     "abs acos asin atan ceil copysign cos cosh exp fabs floor fma fmod hypot isfinite isnan "
-     "log log10 lround modf nextafter pow round signbit sin sinh sqrt tan tanh trunc"},
+     "abs acos asin atan ceil copysign cos cosh exp fabs floor fma fmod frexp hypot isfinite "
+     "isnan ldexp log log10 lround modf nextafter pow round signbit sin sinh sqrt tan tanh trunc"},
+    {"complex", "complex"},
     {"concepts", "invocable"},
     {"cstddef", "ptrdiff_t size_t"},
     {"cstdint", "int16_t int32_t int64_t uint16_t uint32_t uint64_t uint8_t uintmax_t"},

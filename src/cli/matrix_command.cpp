@@ -11,9 +11,11 @@
 #include "cli/items.h"
 #include "cli/matrix_files.h"
 #include "common/number_text.h"
+#include "matrix/matrix_error.h"
 #include "matrix/matrix_evaluator.h"
 #include "matrix/matrix_file.h"
 #include "matrix/matrix_line.h"
+#include "matrix/matrix_properties.h"
 #include "matrix/matrix_value.h"
 #include "matrix/temporary_matrices.h"
 
@@ -42,23 +44,39 @@ Rows RowsOf(const MatrixValue& matrix, const Options& options) {
 class MatrixSession {
  public:
   MatrixSession(const Options& options, Matrices matrices)
-      : options_(options), matrices_(std::move(matrices)), evaluation_(options) {}
+      : options_(options),
+        matrices_(std::move(matrices)),
+        property_(options.property),
+        evaluation_(options) {}
 
   Answer AnswerTo(std::string_view item) {
     const std::u16string line = Widen(item);
-    if (!IsMatrixExpression(line)) return evaluation_.AnswerTo(item);
+    if (!IsMatrixExpression(line)) {
+      if (property_ == nullptr) return evaluation_.AnswerTo(item);
+      return Failure{MatrixArgumentError(property_->operation).message};
+    }
     if (const auto invalid = FirstInvalidMatrix(line, matrices_)) {
       return Failure{Narrow(MatrixIsInvalid(*invalid))};
     }
     auto result = MatrixEvaluator(matrices_, files_).Evaluate(item);
     if (!result) return FailureOf(std::move(result).error());
     matrices_[kAnswerMatrix] = *std::move(result);
+    if (property_ != nullptr) return Found();
     return RowsOf(matrices_[kAnswerMatrix], options_);
   }
 
  private:
+  /// What was asked of [M Ans], which stays as it is.
+  Answer Found() const {
+    auto value = PropertyOf(*property_, matrices_[kAnswerMatrix]);
+    if (!value) return Failure{std::move(value).error().message};
+    if (value->number) return *value->number;
+    return RowsOf(value->matrix, options_);
+  }
+
   const Options& options_;
   Matrices matrices_;
+  const MatrixProperty* property_;
   Evaluation evaluation_;
   TemporaryMatrices files_;
 };

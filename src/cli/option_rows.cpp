@@ -70,6 +70,11 @@ bool TakeMatrixFile(std::string_view, std::string_view given, Options& options) 
   return !given.empty();
 }
 
+bool TakeProperty(std::string_view, std::string_view given, Options& options) {
+  options.property = FindProperty(given);
+  return options.property != nullptr;
+}
+
 bool TakeHelp(std::string_view, std::string_view, Options& options) {
   return options.asksHelp = true;
 }
@@ -130,6 +135,8 @@ constexpr std::string_view kThatReadSettings = "eval|matrix|plot|convert|keys|ma
 constexpr std::string_view kThatShowNumbers = "eval|format|matrix|plot|convert|keys";
 constexpr std::string_view kThatTakeABase = "eval|format|matrix|plot|convert|keys|memory";
 constexpr std::string_view kVariables = "x|xy|xyz";
+constexpr std::string_view kFindable =
+    "rank|trace|norm|norm1|norm2|norminf|eigenvalues|lu-l|lu-u|lu-p|qr-q|qr-r";
 static_assert(DisplayFormat::kMaxPrecision == 99, "the help names the limit");
 constexpr std::array kOptions{
     OptionRow{"-h,--help", "", "print this help and end", "", Others::Ignore, TakeHelp},
@@ -161,6 +168,8 @@ constexpr std::array kOptions{
     OptionRow{"--m3", "FILE", "the same for [M3]", "matrix", Others::Refuse, TakeMatrixFile<2>},
     OptionRow{"--ans", "FILE", "the same for [M Ans]", "matrix", Others::Refuse,
               TakeMatrixFile<kAnswerMatrix>},
+    OptionRow{"--find", kFindable, "of each matrix that answers an item, instead of it", "matrix",
+              Others::Refuse, TakeProperty},
     OptionRow{"--crlf", "", "end the rows as the matrix screen does, with CR LF", "matrix",
               Others::Refuse, TakeSwitch<&Options::hasCrLf>},
     OptionRow{"--two", "", "files of two variables, and a curve through them", "stats",

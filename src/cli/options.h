@@ -9,6 +9,7 @@
 #include "display/number_format.h"
 #include "engine/calc_modes.h"
 #include "engine/tokenizer.h"
+#include "matrix/matrix_properties.h"
 #include "matrix/matrix_value.h"
 #include "plotter/curve_sampling.h"
 #include "plotter/plot_range.h"
@@ -32,6 +33,7 @@ struct Options {
   bool listsUnits = false;
   std::array<std::string, kMatrixCount> matrixFiles;  ///< paths; empty: no file
   bool hasCrLf = false;                               ///< matrices as the screen writes their files
+  const MatrixProperty* property = nullptr;  ///< what to find of matrices; nullptr: nothing
   DataShape shape = DataShape::OneVariable;
   RegressionModel model = RegressionModel::Linear;
   std::vector<double> estimatesAtX;  ///< finite; each asks for an estimate of Y

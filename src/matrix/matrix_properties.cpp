@@ -102,29 +102,29 @@ Result FactorOfQr(const Row&, const MatrixValue& matrix) {
 // clang-format off
 constexpr std::array kProperties{
     Row{"rank", u"Rank", u"how many rows are independent: singular values above n * 2^-52 of the largest",
-        kMatrixRank, u"Rank", {}, Rank},
+        kMatrixRank, u"Rank of ", {}, Rank},
     Row{"trace", u"Trace", u"the sum of the diagonal, to about 15 digits",
-        kMatrixTrace, u"Trace", {}, Trace},
+        kMatrixTrace, u"Trace of ", {}, Trace},
     Row{"norm", u"Norm (Frobenius)", u"the root of the sum of all squares, to about 15 digits",
-        kMatrixNorm, u"Norm", {}, Norm<MatrixNorm::Frobenius>},
+        kMatrixNorm, u"Norm of ", {}, Norm<MatrixNorm::Frobenius>},
     Row{"norm1", u"Norm (1)", u"the largest sum of magnitudes of a column, to about 15 digits",
-        kMatrixNorm, u"1-Norm", {}, Norm<MatrixNorm::One>},
+        kMatrixNorm, u"1-Norm of ", {}, Norm<MatrixNorm::One>},
     Row{"norm2", u"Norm (2)", u"the largest singular value, to about 15 digits",
-        kMatrixNorm, u"2-Norm", {}, Norm<MatrixNorm::Two>},
+        kMatrixNorm, u"2-Norm of ", {}, Norm<MatrixNorm::Two>},
     Row{"norminf", u"Norm (Infinity)", u"the largest sum of magnitudes of a row, to about 15 digits",
-        kMatrixNorm, u"Infinity norm", {}, Norm<MatrixNorm::Infinity>},
+        kMatrixNorm, u"Infinity norm of ", {}, Norm<MatrixNorm::Infinity>},
     Row{"eigenvalues", u"Eigenvalues", u"the largest first, exact for a matrix that differs by a few n * 2^-52 of its norm; imaginary parts in a second column",
-        kMatrixEigenvalues, u"Eigenvalues", u": real, imaginary", Eigenvalues},
+        kMatrixEigenvalues, u"Eigenvalues of ", u": real, imaginary", Eigenvalues},
     Row{"lu-l", u"LU: L", u"the lower factor of P*M = L*U, to a few n * 2^-52 of its norm",
-        kMatrixLu, u"L in P*M=L*U", {}, FactorOfLu<&LuFactors::lower>},
+        kMatrixLu, u"L of P*", u" = L*U", FactorOfLu<&LuFactors::lower>},
     Row{"lu-u", u"LU: U", u"the upper factor of P*M = L*U, to a few n * 2^-52 of its norm",
-        kMatrixLu, u"U in P*M=L*U", {}, FactorOfLu<&LuFactors::upper>},
+        kMatrixLu, u"U of P*", u" = L*U", FactorOfLu<&LuFactors::upper>},
     Row{"lu-p", u"LU: P", u"the exchanges of rows in P*M = L*U",
-        kMatrixLu, u"P in P*M=L*U", {}, FactorOfLu<&LuFactors::permutation>},
+        kMatrixLu, u"P of P*", u" = L*U", FactorOfLu<&LuFactors::permutation>},
     Row{"qr-q", u"QR: Q", u"the orthogonal factor of M = Q*R, to a few n * 2^-52",
-        kMatrixQr, u"Q in M=Q*R", {}, FactorOfQr<&QrFactors::orthogonal>},
+        kMatrixQr, u"Q of ", u" = Q*R", FactorOfQr<&QrFactors::orthogonal>},
     Row{"qr-r", u"QR: R", u"the upper factor of M = Q*R, to a few n * 2^-52 of its norm",
-        kMatrixQr, u"R in M=Q*R", {}, FactorOfQr<&QrFactors::upper>},
+        kMatrixQr, u"R of ", u" = Q*R", FactorOfQr<&QrFactors::upper>},
 };
 // clang-format on
 
@@ -148,9 +148,9 @@ CalcResult<PropertyValue> PropertyOf(const MatrixProperty& property, const Matri
 std::u16string PropertyTitle(const MatrixProperty& property, const PropertyValue& value,
                              int index) {
   std::u16string title(property.told);
-  title.append(u" of ").append(kMatrixNames[static_cast<std::size_t>(index)]);
-  if (value.matrix.columns > 1) title.append(property.toldMore);
-  return title;
+  title.append(kMatrixNames[static_cast<std::size_t>(index)]);
+  const bool isAllReal = property.find == Eigenvalues && value.matrix.columns == 1;
+  return isAllReal ? title : title.append(property.toldMore);
 }
 
 }  // namespace kav

@@ -23,8 +23,8 @@ struct MatrixProperty {
   std::u16string_view item;      ///< of the menu
   std::u16string_view help;      ///< what it is, and how exact
   std::string_view operation;    ///< as messages name it
-  std::u16string_view told;      ///< before " of [M1]"
-  std::u16string_view toldMore;  ///< behind that, if the matrix has a second column
+  std::u16string_view told;      ///< stands before the name of the matrix
+  std::u16string_view toldMore;  ///< behind it: of eigenvalues, if some are complex
   /// Fails with MatrixSizeMismatch if it takes a square only, and with MatrixHasNoConvergence.
   CalcResult<PropertyValue> (*find)(const MatrixProperty& property, const MatrixValue& matrix);
 };

@@ -64,12 +64,18 @@ TEST(MatrixProperties, AreNumbersOrMatrices) {
 TEST(Eigenvalues, HaveASecondColumnForImaginaryPartsIfThereAreAny) {
   EXPECT_EQ(Found("eigenvalues", u"2 0; 0 3"), u"3; 2");
   EXPECT_EQ(Found("eigenvalues", u"0 -2 0; 2 0 0; 0 0 5"), u"5 0; 0 2; 0 -2");
-  const auto titleOf = [](std::u16string_view table) {
-    const MatrixProperty& property = *FindProperty("eigenvalues");
+}
+
+TEST(PropertyTitle, SaysWhatIsShownAndOfWhichMatrix) {
+  const auto titleOf = [](std::string_view name, std::u16string_view table) {
+    const MatrixProperty& property = *FindProperty(name);
     return PropertyTitle(property, *PropertyOf(property, test::MatrixOf(table)), 1);
   };
-  EXPECT_EQ(titleOf(u"2 0; 0 3"), u"Eigenvalues of [M2]");
-  EXPECT_EQ(titleOf(u"0 -2; 2 0"), u"Eigenvalues of [M2]: real, imaginary");
+  EXPECT_EQ(titleOf("eigenvalues", u"2 0; 0 3"), u"Eigenvalues of [M2]");
+  EXPECT_EQ(titleOf("eigenvalues", u"0 -2; 2 0"), u"Eigenvalues of [M2]: real, imaginary");
+  EXPECT_EQ(titleOf("norminf", u"1"), u"Infinity norm of [M2]");
+  EXPECT_EQ(titleOf("lu-u", u"1"), u"U of P*[M2] = L*U");
+  EXPECT_EQ(titleOf("qr-q", u"1; 2"), u"Q of [M2] = Q*R");
 }
 
 TEST(MatrixProperties, ReadCellsAsOperationsDo) {
