@@ -173,6 +173,16 @@ std::string NoCategoryIs(std::string_view name) {
   return Joined("there is no category ", Quoted(name), "; kavcalc convert --list shows all");
 }
 
+std::string DidYouMean(const std::vector<std::string>& names) {
+  std::string text;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const bool isLast = i + 1 == names.size();
+    text += i == 0 ? "; did you mean " : isLast ? " or " : ", ";
+    text += Quoted(names[i]);
+  }
+  return text.empty() ? text : text + '?';
+}
+
 std::string CategoryTakes(std::string_view category, int number, std::string_view arguments) {
   return Quoted(category).append(" takes ").append(arguments) + SeeList(number);
 }

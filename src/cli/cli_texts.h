@@ -99,6 +99,8 @@ inline constexpr std::string_view kLastRowIsLeftOut =
 inline constexpr std::string_view kOnlyRowLacksCount =
     "the only row has no count, which was read as 0";
 std::string NoCategoryIs(std::string_view name);
+/// Follows a complaint about a name; empty without `names`.
+std::string DidYouMean(const std::vector<std::string>& names);
 std::string CategoryTakes(std::string_view category, int number, std::string_view arguments);
 std::string HasNoUnit(std::string_view category, int number, std::string_view given);
 std::string IsSeveralUnits(std::string_view category, std::string_view given);

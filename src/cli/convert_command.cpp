@@ -21,10 +21,17 @@
 namespace kav {
 namespace {
 
-std::string WhyNot(NameFailure failure, std::string_view name, const UnitCategory& category) {
+std::string WhyNot(NameFailure failure, std::string_view name, const UnitCategory& category,
+                   const std::vector<UnitRow>& rows) {
   const std::string caption = Narrow(category.caption);
-  return failure == NameFailure::Ambiguous ? IsSeveralUnits(caption, name)
-                                           : HasNoUnit(caption, NumberOf(category), name);
+  if (failure == NameFailure::Ambiguous) return IsSeveralUnits(caption, name);
+  return HasNoUnit(caption, NumberOf(category), name) + DidYouMean(RowsNear(rows, name));
+}
+
+std::string WhyNoCategory(std::string_view name) {
+  const std::string near = CategoryNear(name);
+  if (near.empty()) return NoCategoryIs(name);
+  return NoCategoryIs(name) + DidYouMean(std::vector<std::string>{near});
 }
 
 /// A conversion, and how many items name it.
@@ -56,7 +63,7 @@ std::function<double(double)> ConversionOf(const UnitCategory& category,
 Expected<NamedConversion, std::string> FindConversion(const std::vector<std::string_view>& items,
                                                       const SettingsStore& settings) {
   const UnitCategory* category = FindCategory(items.front());
-  if (category == nullptr) return NoCategoryIs(items.front());
+  if (category == nullptr) return WhyNoCategory(items.front());
   const auto rows = UnitRows(*category, settings);
   if (rows.empty()) return Narrow(kNoUserConversionStored);
   const std::size_t names = category->kind == CategoryKind::Rates ? 2 : 1;
@@ -67,7 +74,7 @@ Expected<NamedConversion, std::string> FindConversion(const std::vector<std::str
   std::vector<std::size_t> places;
   for (std::size_t i = 1; i <= names; ++i) {
     const auto place = FindRow(rows, items[i]);
-    if (!place) return WhyNot(place.error(), items[i], *category);
+    if (!place) return WhyNot(place.error(), items[i], *category, rows);
     places.push_back(*place);
   }
   return NamedConversion{ConversionOf(*category, rows, places), names + 1};
@@ -97,7 +104,7 @@ int ListUnits(const CommandLine& line) {
   if (line.items.size() > 1) return Complain(kListTakesOneCategory, *line.command);
   const UnitCategory* only = line.items.empty() ? nullptr : FindCategory(line.items.front());
   if (only == nullptr && !line.items.empty()) {
-    return Complain(NoCategoryIs(line.items.front()), *line.command);
+    return Complain(WhyNoCategory(line.items.front()), *line.command);
   }
   StoredSettings settings(line.options);
   Rows rows(line.options);

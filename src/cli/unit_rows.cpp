@@ -8,6 +8,7 @@
 #include "common/number_text.h"
 #include "converter/conversion.h"
 #include "converter/user_conversions.h"
+#include "line/near_words.h"
 
 namespace kav {
 namespace {
@@ -16,6 +17,34 @@ namespace {
 std::string_view WithoutNumber(std::string_view caption) {
   constexpr std::string_view kBehindNumber = ". ";
   return caption.substr(caption.find(kBehindNumber) + kBehindNumber.size());
+}
+
+/// Whether `name` is the beginning of `whole`, in any case, and not nothing.
+bool Begins(std::string_view whole, std::string_view name) {
+  return !name.empty() && EqualsIgnoringCase(whole.substr(0, name.size()), name);
+}
+
+/// The indices of the rows that begin with `name`.
+std::vector<std::size_t> PlacesThatBegin(const std::vector<UnitRow>& rows, std::string_view name) {
+  std::vector<std::size_t> places;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (Begins(rows[i].name, name)) places.push_back(i);
+  }
+  return places;
+}
+
+/// The only category whose caption, with or without its number, begins with `name`.
+const UnitCategory* CategoryThatBegins(std::string_view name) {
+  const UnitCategory* only = nullptr;
+  for (const UnitCategory& category : UnitCategories()) {
+    const std::string caption = Narrow(category.caption);
+    const std::string_view words = WithoutNumber(caption);
+    const bool hasMoreThanNumber = name.size() > caption.size() - words.size();
+    if (!(hasMoreThanNumber && Begins(caption, name)) && !Begins(words, name)) continue;
+    if (only != nullptr) return nullptr;
+    only = &category;
+  }
+  return only;
 }
 
 const UnitCategory* CategoryNumbered(std::size_t number) {
@@ -71,7 +100,16 @@ const UnitCategory* FindCategory(std::string_view name) {
       return &category;
     }
   }
-  return nullptr;
+  return CategoryThatBegins(name);
+}
+
+std::string CategoryNear(std::string_view name) {
+  std::vector<std::u16string> names;
+  for (const UnitCategory& category : UnitCategories()) {
+    names.push_back(Widen(WithoutNumber(Narrow(category.caption))));
+  }
+  const auto place = NearestName(Widen(name), names);
+  return place ? Narrow(names[*place]) : std::string();
 }
 
 int NumberOf(const UnitCategory& category) {
@@ -98,9 +136,28 @@ Expected<std::size_t, NameFailure> FindRow(const std::vector<UnitRow>& rows,
   if (exact != rows.end()) return place(exact);
   const auto isSame = [&](const UnitRow& row) { return EqualsIgnoringCase(row.name, name); };
   const auto first = std::find_if(rows.begin(), rows.end(), isSame);
-  if (first == rows.end()) return NameFailure::Unknown;
+  if (first == rows.end()) {
+    const auto begun = PlacesThatBegin(rows, name);
+    if (begun.size() == 1) return begun.front();
+    return NameFailure::Unknown;
+  }
   if (std::find_if(first + 1, rows.end(), isSame) != rows.end()) return NameFailure::Ambiguous;
   return place(first);
+}
+
+std::vector<std::string> RowsNear(const std::vector<UnitRow>& rows, std::string_view name) {
+  constexpr std::size_t kMost = 4;
+  std::vector<std::string> near;
+  const auto begun = PlacesThatBegin(rows, name);
+  if (begun.size() <= kMost) {
+    for (const std::size_t place : begun) near.push_back(rows[place].name);
+  }
+  if (!begun.empty()) return near;
+  std::vector<std::u16string> names;
+  names.reserve(rows.size());
+  for (const UnitRow& row : rows) names.push_back(Widen(row.name));
+  if (const auto place = NearestName(Widen(name), names)) near.push_back(rows[*place].name);
+  return near;
 }
 
 }  // namespace kav

@@ -13,8 +13,13 @@
 namespace kav {
 
 /// The category whose number (from 1) or caption is `name`, in any case. The number at the start of
-/// the caption may be left out. nullptr if there is none.
+/// the caption may be left out, and the end of the caption, if only one category begins so. nullptr
+/// if there is none.
 const UnitCategory* FindCategory(std::string_view name);
+
+/// The caption of the category that `name`, which names none, may have meant; empty if none is
+/// near.
+std::string CategoryNear(std::string_view name);
 
 /// The number (from 1) of `category`, which is one of UnitCategories.
 int NumberOf(const UnitCategory& category);
@@ -35,7 +40,11 @@ enum class NameFailure {
 };
 
 /// The index of the row called `name` or, if there is none, of the only one called so in another
-/// case of letters.
+/// case of letters or else of the only one that begins so in any case.
 Expected<std::size_t, NameFailure> FindRow(const std::vector<UnitRow>& rows, std::string_view name);
+
+/// The names of the rows that `name`, which is Unknown, may have meant: a few that begin so, else
+/// the nearest one, if one is near.
+std::vector<std::string> RowsNear(const std::vector<UnitRow>& rows, std::string_view name);
 
 }  // namespace kav

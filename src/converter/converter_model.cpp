@@ -9,6 +9,9 @@
 #include "converter/converter_texts.h"
 #include "display/comma_reading.h"
 #include "display/number_input.h"
+#include "engine/calc_modes.h"
+#include "engine/expression_engine.h"
+#include "settings/keys.h"
 
 namespace kav {
 namespace {
@@ -28,6 +31,21 @@ int PositionIn(const List& list, int wanted) {
 template <class List>
 const auto& At(const List& list, int position) {
   return list[static_cast<std::size_t>(position)];
+}
+
+/// Whether `text` is signs and then what looks like one number: such a text is a number or is
+/// mistyped, also where the evaluator would make something of it, as of "1e" and ".".
+bool LooksLikeNumber(std::u16string_view text) {
+  text = TrimBlanks(text);
+  text.remove_prefix(std::min(text.find_first_not_of(u"+- "), text.size()));
+  const std::size_t mark = std::min(text.find_first_of(u"eE"), text.size());
+  std::u16string_view exponent = text.substr(std::min(mark + 1, text.size()));
+  if (!exponent.empty() && (exponent.front() == u'+' || exponent.front() == u'-')) {
+    exponent.remove_prefix(1);
+  }
+  constexpr std::u16string_view kDigits = u"0123456789.,";
+  return text.substr(0, mark).find_first_not_of(kDigits) == text.npos &&
+         exponent.find_first_not_of(kDigits) == exponent.npos;
 }
 
 SettingsStore& Refreshed(SettingsStore& settings) {
@@ -83,6 +101,20 @@ void ConverterModel::RereadUserConversions() {
   (void)ChooseCategory(category);
 }
 
+void ConverterModel::TakeUserConversions() {
+  const UnitCategory* category = Category();
+  if (category == nullptr || category->kind != CategoryKind::UserDefined) {
+    userConversions_ = LoadUserConversions(settings_);
+    return;
+  }
+  const std::u16string chosen =
+      positions_.input == kNone ? std::u16string() : At(inputs_, positions_.input);
+  RereadUserConversions();
+  if (userConversions_.empty()) return;
+  const auto same = std::find(inputs_.begin(), inputs_.end(), chosen);
+  if (same != inputs_.end()) ChooseInput(static_cast<int>(same - inputs_.begin()));
+}
+
 void ConverterModel::LoadLists() {
   inputs_.clear();
   outputs_.clear();
@@ -134,13 +166,22 @@ void ConverterModel::Swap() {
   std::swap(positions_.input, positions_.output);
 }
 
+Expected<double, std::u16string> ConverterModel::Value() const {
+  auto number = ReadNumberField(text_, kValueIsNoNumber);
+  if (number || CommaRefusal(text_) || LooksLikeNumber(text_)) return number;
+  const AngleUnit unit = AngleUnitFromSetting(settings_.Get(kAngleType));
+  const auto value = Evaluate(Narrow(WithoutThousands(text_)), {unit, BaseMode::Decimal});
+  if (!value) return number;
+  return *value;
+}
+
 std::optional<std::u16string> ConverterModel::TextRefusal() const {
-  auto value = ReadNumberField(text_, kValueIsNoNumber);
+  auto value = Value();
   return value ? std::nullopt : std::optional(std::move(value).error());
 }
 
 std::optional<double> ConverterModel::Converted() const {
-  const auto value = ReadNumberField(text_, kValueIsNoNumber);
+  const auto value = Value();
   return value ? Convert(*value) : std::nullopt;
 }
 

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "common/expected.h"
 #include "common/unit_positions.h"
 #include "converter/unit_tables.h"
 #include "converter/user_conversions.h"
@@ -38,6 +39,9 @@ class ConverterModel {
   [[nodiscard]] std::optional<std::u16string_view> ChooseCategory(int category);
   /// Loads the category again; the first one instead if the user still has no conversions.
   void RereadUserConversions();
+  /// Takes what the user changed of them meanwhile. Everything that is chosen stays so, as far as
+  /// it still exists.
+  void TakeUserConversions();
 
   // A position that does not exist selects nothing.
   void ChooseInput(int position);
@@ -50,7 +54,8 @@ class ConverterModel {
 
   const std::u16string& Text() const { return text_; }
   void SetText(std::u16string text) { text_ = std::move(text); }
-  /// Why the text is no number; nullopt if it is one.
+  /// Why the text is neither a number nor an expression that has a value, such as 1/2 and 2*Pi;
+  /// nullopt if it is one. Angles are in the stored unit.
   std::optional<std::u16string> TextRefusal() const;
 
   /// The result line: the converted value in the user's display format, or the reason why it cannot
@@ -65,6 +70,7 @@ class ConverterModel {
  private:
   const UnitCategory* Category() const;
   void LoadLists();
+  Expected<double, std::u16string> Value() const;
   /// nullopt if the text is no number or too little is selected.
   std::optional<double> Converted() const;
   std::optional<double> Convert(double value) const;

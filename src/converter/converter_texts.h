@@ -65,6 +65,8 @@ inline constexpr std::u16string_view kSwapCaption = u"↕";
 
 // What its buttons do.
 inline constexpr std::u16string_view kSwapHelp = u"exchange the input unit and the output unit";
+inline constexpr std::u16string_view kEditConversionsHelp =
+    u"write, change and delete conversions of your own";
 inline constexpr std::u16string_view kStoreOutputHelp = u"store the output in a memory variable";
 
 // Accessible names of its parts, which have no captions.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "common/ascii.h"
 
@@ -50,6 +51,26 @@ bool HasOneOther(std::u16string_view a, std::u16string_view b) {
 bool IsNear(std::u16string_view a, std::u16string_view b) {
   if (a.size() == b.size()) return HasOneOther(a, b);
   return HasOneMore(a, b) || HasOneMore(b, a);
+}
+
+/// The letters to add, take away, write otherwise or exchange with their neighbour to make `b` of
+/// `a`.
+std::size_t LettersBetween(std::u16string_view a, std::u16string_view b) {
+  // What it takes for the beginnings of `b`: row i is about the first i letters of `a`.
+  std::vector<std::size_t> beforeLast;
+  std::vector<std::size_t> last(b.size() + 1);
+  for (std::size_t j = 0; j <= b.size(); ++j) last[j] = j;
+  for (std::size_t i = 1; i <= a.size(); ++i) {
+    std::vector<std::size_t> row(b.size() + 1, i);
+    for (std::size_t j = 1; j <= b.size(); ++j) {
+      const std::size_t other = last[j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+      row[j] = std::min({last[j] + 1, row[j - 1] + 1, other});
+      const bool areExchanged = i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1];
+      if (areExchanged) row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+    }
+    beforeLast = std::exchange(last, std::move(row));
+  }
+  return last.back();
 }
 
 bool IsMacro(const KnownWord& word) {
@@ -105,6 +126,25 @@ std::vector<std::u16string> WordsNear(std::u16string_view text, const KnownWords
     }
   }
   return near;
+}
+
+std::optional<std::size_t> NearestName(std::u16string_view given,
+                                       const std::vector<std::u16string>& names) {
+  constexpr std::size_t kLettersForEach = 3;
+  // Nobody types more by mistake, and the work grows with the square.
+  constexpr std::size_t kLongest = 100;
+  if (given.size() > kLongest) return std::nullopt;
+  const std::u16string folded = InLowerCase(given);
+  std::optional<std::size_t> nearest;
+  std::size_t most = given.size() / kLettersForEach + 1;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (names[i].size() > kLongest) continue;
+    const std::size_t letters = LettersBetween(folded, InLowerCase(names[i]));
+    if (letters >= most) continue;
+    most = letters;
+    nearest = i;
+  }
+  return nearest;
 }
 
 }  // namespace kav

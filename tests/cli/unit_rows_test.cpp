@@ -40,9 +40,40 @@ TEST(FindCategory, GoesByTheNumberOrTheCaptionInAnyCase) {
 
 TEST(FindCategory, AnythingElseIsNone) {
   for (const auto name : {"", " ", "0", "16", "-1", "+1", "1.0", "7 ", "99999999999999999999", "7.",
-                          "7. Length", "07.Length", ". Length", "Len", "Lengths", "L\xC4\xB0NE"}) {
+                          "7. Length", "07.Length", ". Length", "Lengths", "L\xC4\xB0NE", "T"}) {
     EXPECT_EQ(FindCategory(name), nullptr) << name;
   }
+}
+
+TEST(FindCategory, KnowsTheBeginningOfOneCaptionOnly) {
+  EXPECT_TRUE(CaptionOf("len") == u"07. Length");
+  EXPECT_TRUE(CaptionOf("07. L") == u"07. Length");
+  EXPECT_TRUE(CaptionOf("Temp") == u"12. Temperature");
+  EXPECT_TRUE(CaptionOf("p") == u"") << "Power and Pressure and Stress";
+}
+
+TEST(CategoryNear, IsTheOneThatWasMeant) {
+  EXPECT_EQ(CategoryNear("Lengths"), "Length");
+  EXPECT_EQ(CategoryNear("temprature"), "Temperature");
+  EXPECT_EQ(CategoryNear("T"), "");
+}
+
+TEST(FindRow, KnowsTheBeginningOfOneNameOnlyIfNoneIsTheWholeName) {
+  const std::vector<UnitRow> rows{{"Ounces", "1"},
+                                  {"Ounces(troy)", "2"},
+                                  {"Pounds", "3"},
+                                  {"pOUNDS(troy)", "4"},
+                                  {"Tons", "5"}};
+  EXPECT_EQ(*FindRow(rows, "ounces"), 0U);
+  EXPECT_EQ(*FindRow(rows, "OUNCES("), 1U);
+  EXPECT_EQ(*FindRow(rows, "to"), 4U);
+  EXPECT_EQ(FindRow(rows, "Ounce").error(), NameFailure::Unknown);
+  EXPECT_EQ(FindRow(rows, "").error(), NameFailure::Unknown);
+  using Names = std::vector<std::string>;
+  EXPECT_EQ(RowsNear(rows, "poun"), (Names{"Pounds", "pOUNDS(troy)"}));
+  EXPECT_EQ(RowsNear(rows, "Tonnes"), Names{"Tons"});
+  EXPECT_EQ(RowsNear(rows, "Acres"), Names());
+  EXPECT_EQ(RowsNear(rows, ""), Names()) << "too many begin so";
 }
 
 TEST(NumberOf, CountsFromOne) {
@@ -144,7 +175,7 @@ TEST(FindRow, TheVeryNameComesFirst) {
 TEST(FindRow, WhatIsSeveralOrNoneIsNotGuessed) {
   const std::vector<UnitRow> rows{{"A -> b", "1"}, {"a -> b", "2"}, {"c -> d", "3"}};
   EXPECT_EQ(FindRow(rows, "A -> B").error(), NameFailure::Ambiguous);
-  for (const auto name : {"", "c", "c->d", "c -> d ", "c -> dd"}) {
+  for (const auto name : {"", "A -", "c->d", "c -> d ", "c -> dd"}) {
     const auto place = FindRow(rows, name);
     ASSERT_FALSE(place) << name;
     EXPECT_EQ(place.error(), NameFailure::Unknown) << name;

@@ -56,5 +56,28 @@ TEST(NearWords, TheNameOfAMacroWithoutItsMarkCallsNothing) {
   EXPECT_TRUE(IsUnknown({PieceKind::Call, 0, 3}, u"M:g", words));
 }
 
+std::u16string Nearest(std::u16string_view given) {
+  const std::vector<std::u16string> names{u"Meters", u"Micrometers", u"Feet", u"Light years",
+                                          u"AU"};
+  const auto place = NearestName(given, names);
+  return place ? names[*place] : std::u16string();
+}
+
+TEST(NearestName, TakesTheFewestLetters) {
+  EXPECT_EQ(Nearest(u"metres"), u"Meters");
+  EXPECT_EQ(Nearest(u"METER"), u"Meters");
+  EXPECT_EQ(Nearest(u"mikrometres"), u"Micrometers");
+  EXPECT_EQ(Nearest(u"foot"), u"") << "two of four letters";
+  EXPECT_EQ(Nearest(u"feets"), u"Feet");
+  EXPECT_EQ(Nearest(u"lightyears"), u"Light years");
+}
+
+TEST(NearestName, WhatIsFarMeansSomethingElse) {
+  for (const char16_t* given : {u"", u"A", u"UA", u"Acres", u"xyzzy", u"1"}) {
+    EXPECT_EQ(Nearest(given), u"") << Narrow(given);
+  }
+  EXPECT_EQ(Nearest(std::u16string(100000, u'e')), u"");
+}
+
 }  // namespace
 }  // namespace kav::test::near_words_test

@@ -328,6 +328,34 @@ TEST_F(ConverterDlgTest, TypingJumpsToTheUnitAlsoInTheOpenList) {
   });
 }
 
+TEST_F(ConverterDlgTest, TypingFindsACategoryByItsNameAlsoInTheOpenList) {
+  UseMiles([this] {
+    Category().setFocus();
+    Type("temp");
+    EXPECT_EQ(Category().currentText(), "12. Temperature");
+  });
+  UseMiles([this] {
+    Click(Category());
+    QAbstractItemView& list = *Category().view();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list.isVisible(); }));
+    QTest::keyClicks(&list, "vol");
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(Category().currentText(), "14. Volume");
+    InputUnit().setFocus();
+    Type("yar");
+    EXPECT_EQ(InputUnit().currentText(), "Cubic Yards");
+  });
+}
+
+TEST_F(ConverterDlgTest, AnExpressionIsConverted) {
+  const auto outcome = RunMiles([this] {
+    Replace("1/2");
+    EXPECT_EQ(Value().accessibleDescription(), "");
+    Tap(u"OK");
+  });
+  EXPECT_EQ(outcome.result, u"0.804672");
+}
+
 TEST_F(ConverterDlgTest, OpensWithin50MillisecondsAndAnswersAKeyWithin5) {
   StoreConversions(store_, NumberedConversions(60));
   double opening = 0;

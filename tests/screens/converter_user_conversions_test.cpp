@@ -46,6 +46,36 @@ TEST_F(WithUserConversions, NamesOfAnyLengthAreShownCut) {
   });
 }
 
+TEST_F(WithUserConversions, TheEditorOpensAtAnyTimeAndWhatIsChosenStays) {
+  StoreConversions(store_, {{"inch -> cm", "2.54"}});
+  const auto storeAnother = [this](QDialog& editor) {
+    EXPECT_EQ(editor.windowTitle(), "Edit Unit Convert");
+    StoreConversions(store_, {{"dozen -> piece", "12"}, {"inch -> cm", "2.5"}});
+    editor.reject();
+  };
+  RunMiles([&, this] {
+    Replace("2");
+    BoxWatch::Instance().ExpectDialog(storeAnother);
+    Click(*FindKey(*dlg_, u"Edit Unit Convert"));
+    EXPECT_EQ(InputUnit().currentText(), "Miles");
+    EXPECT_EQ(Value().text(), "2");
+    Choose(Category(), "15. User Define");
+    EXPECT_EQ(Choice("Conversion").count(), 2);
+    Choose(Choice("Conversion"), "inch -> cm");
+    EXPECT_EQ(ResultText(), u"5");
+    BoxWatch::Instance().ExpectDialog([this](QDialog& editor) {
+      StoreConversions(store_, {{"inch -> cm", "2.54"}});
+      editor.reject();
+    });
+    FindKey(*dlg_, u"Cancel")->setFocus();
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(dlg_->focusWidget(), FindKey(*dlg_, u"Edit Unit Convert"));
+    Press(Qt::Key_Space);
+    EXPECT_EQ(ResultText(), u"5.08") << "the same conversion with its new rate";
+    Tap(u"Cancel");
+  });
+}
+
 class WithoutUserConversions : public ConverterDriver {
  protected:
   /// Chooses the empty category; `inEditor` is run on the editor that opens then.

@@ -2,9 +2,13 @@
 
 #include <QAbstractItemView>
 #include <QSignalBlocker>
+#include <QStandardItemModel>
 #include <QStyledItemDelegate>
+#include <algorithm>
 #include <cstddef>
+#include <string>
 
+#include "converter/typed_name.h"
 #include "converter/unit_tables.h"
 #include "screens/widgets/dialog.h"
 #include "screens/widgets/qt_text.h"
@@ -23,9 +27,32 @@ class EntryDelegate final : public QStyledItemDelegate {
   }
 };
 
+/// Entries that are found by their names as EntryNamed says, where none begins with what was typed.
+class EntryModel final : public QStandardItemModel {
+ public:
+  using QStandardItemModel::QStandardItemModel;
+
+ private:
+  QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                        Qt::MatchFlags flags) const override {
+    const auto found = QStandardItemModel::match(start, role, value, hits, flags);
+    if (!found.isEmpty() || (flags & Qt::MatchTypeMask) != Qt::MatchStartsWith) return found;
+    std::vector<std::u16string> entries;
+    entries.reserve(static_cast<std::size_t>(rowCount()));
+    for (int row = 0; row < rowCount(); ++row) {
+      entries.push_back(index(row, 0).data(role).toString().toStdU16String());
+    }
+    const auto place = EntryNamed(entries, value.toString().toStdU16String(),
+                                  static_cast<std::size_t>(std::max(start.row(), 0)));
+    if (!place) return {};
+    return {index(static_cast<int>(*place), 0)};
+  }
+};
+
 }  // namespace
 
 ChoiceView::ChoiceView(std::u16string_view name) : ChoiceBox(name) {
+  setModel(new EntryModel(this));
   setPlaceholderText(ToQt(name));
   std::vector<std::u16string_view> builtIn;
   for (const UnitCategory& category : UnitCategories()) {

@@ -9,8 +9,10 @@
 
 namespace kav {
 
-/// The user taps an entry, or types how it begins. The list has room for every category and unit
-/// that is built in, so that nothing moves when the category changes. Longer texts are cut.
+/// The user taps an entry, or types how it begins: with its number, or its name without that, or
+/// one of the later words of the name if no other entry begins so. The list has room for every
+/// category and unit that is built in, so that nothing moves when the category changes. Longer
+/// texts are cut.
 class ChoiceView final : public ChoiceBox {
  public:
   /// A list with the accessible name `name`.

@@ -2,8 +2,10 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QSpacerItem>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <string_view>
 
 #include "converter/converter_model.h"
@@ -22,6 +24,25 @@
 namespace kav {
 namespace {
 
+/// Free room of a layout with a button in its middle. Nothing else stands elsewhere for it as long
+/// as there is that much room.
+class RoomWithButton final : public QSpacerItem {
+ public:
+  explicit RoomWithButton(QWidget* button)
+      : QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding), button_(button) {}
+
+ private:
+  QSize sizeHint() const override { return {0, button_->sizeHint().height()}; }
+  QSize minimumSize() const override { return {0, button_->minimumSizeHint().height()}; }
+  void setGeometry(const QRect& room) override {
+    const int high = std::min(button_->sizeHint().height(), room.height());
+    button_->setGeometry(room.x(), room.y() + (room.height() - high) / 2, room.width(), high);
+    QSpacerItem::setGeometry(room);
+  }
+
+  QWidget* button_;
+};
+
 class CConverterDlg final : public Dialog {
  public:
   CConverterDlg(QWidget* parent, SettingsStore& store, const ConverterInput& input);
@@ -37,6 +58,7 @@ class CConverterDlg final : public Dialog {
   void RefreshValue();
   void OnCategory(int category);
   void AskForConversions(std::u16string_view missing);
+  void OnEdit();
   void OnMemory();
   void OnAccept();
   void SetTextHeight(int text) override;
@@ -51,6 +73,7 @@ class CConverterDlg final : public Dialog {
   /// A number, or why there is none.
   FittingText<QLineEdit>* result_ = new FittingText<QLineEdit>(1);
   DialogButton* swap_ = new DialogButton(kSwapCaption, kSwapHelp);
+  DialogButton* edit_ = new DialogButton(kUserConversionsTitle, kEditConversionsHelp);
   DialogButton* memory_ = new DialogButton(kMemoryCaption, kStoreOutputHelp);
   DialogButton* ok_ = new DialogButton(kOkCaption);
   DialogButton* cancel_ = new DialogButton(kCancelCaption);
@@ -88,8 +111,11 @@ void CConverterDlg::LayOut() {
   all->addWidget(new QLabel(ToQt(kOutputCaption)));
   all->addWidget(result_);
   all->addWidget(output_);
-  all->addStretch(2);
+  edit_->setParent(this);
+  all->addItem(new RoomWithButton(edit_));
+  all->setStretch(all->count() - 1, 2);
   all->addLayout(buttons);
+  setTabOrder(cancel_, edit_);
   ok_->setDefault(true);
 }
 
@@ -114,6 +140,7 @@ void CConverterDlg::Connect() {
     model_.Swap();
     Refresh();
   });
+  connect(edit_, &QPushButton::clicked, this, &CConverterDlg::OnEdit);
   connect(memory_, &QPushButton::clicked, this, &CConverterDlg::OnMemory);
   connect(ok_, &QPushButton::clicked, this, &CConverterDlg::OnAccept);
   connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
@@ -170,6 +197,12 @@ void CConverterDlg::AskForConversions(std::u16string_view missing) {
   RunUserConversions(this, store_);
   model_.RereadUserConversions();
   asks_ = false;
+  Refresh();
+}
+
+void CConverterDlg::OnEdit() {
+  RunUserConversions(this, store_);
+  model_.TakeUserConversions();
   Refresh();
 }
 

@@ -4,4 +4,4 @@ done
 kavcalc convert; echo $?
 kavcalc convert --list Lengths; echo $?
 kavcalc convert --list 7 8; echo $?
-kavcalc convert --list user; echo $?
+kavcalc convert --list users; echo $?
