@@ -97,7 +97,7 @@ TEST(Json, TheSchemaRefusesWhatNoCommandAnswers) {
   for (const char* good :
        {R"({"item":"1","result":1.5,"text":"1.5"})", R"({"item":null,"result":[],"text":""})",
         R"({"item":"x","error":"no","position":0,"text":"error: no"})"}) {
-    EXPECT_EQ(SchemaFault(*ReadJson(good), schema), "") << good;
+    EXPECT_EQ(SchemaCheck::Fault(*ReadJson(good), schema), "") << good;
   }
   for (const char* bad :
        {R"([])", R"({"item":"1","result":1})", R"({"result":1,"text":"1"})",
@@ -112,7 +112,7 @@ TEST(Json, TheSchemaRefusesWhatNoCommandAnswers) {
         R"({"item":"x","result":1,"text":"1","more":1})"}) {
     const auto value = ReadJson(bad);
     ASSERT_TRUE(value) << bad;
-    EXPECT_NE(SchemaFault(*value, schema), "") << bad;
+    EXPECT_NE(SchemaCheck::Fault(*value, schema), "") << bad;
   }
   for (const char* none : {"", "{", "{}{}", "{\"a\":1,\"a\":2}", "01", "1.", "nan", "\"\n\"",
                            "\"\\x\"", "\"a", "[1,]"}) {
@@ -201,7 +201,7 @@ TEST(Json, EveryCommandSaysTheSameInObjectsAsInLines) {
     }
     const auto object = ReadJson(line);
     ASSERT_TRUE(object) << line;
-    ASSERT_EQ(SchemaFault(*object, schema), "") << line;
+    ASSERT_EQ(SchemaCheck::Fault(*object, schema), "") << line;
     const std::string& text = (*object)["text"].text;
     EXPECT_EQ(object->Has("error"), text.starts_with("error: ")) << line;
     for (const std::string& one : LinesIn(text)) said.push_back(one);

@@ -157,59 +157,95 @@ inline std::optional<JsonValue> ReadJson(std::string_view text) {
   return JsonReader(text).Whole();
 }
 
-/// What is wrong with `value` by `schema`, with `where` before it; empty if nothing is. Any keyword
-/// that it does not know is wrong as well, so that all of a schema counts.
-inline std::string SchemaFault(const JsonValue& value, const JsonValue& schema,
-                               const std::string& where = "$") {
-  const auto isType = [&](const std::string& type) {
-    return value.kind == type || (type == "number" && value.kind == "integer");
-  };
-  const auto hasAll = [&](const JsonValue& names) {
+/// Checks values against a schema of a few keywords. Any other keyword is wrong as well, so that
+/// all of a schema counts.
+class SchemaCheck {
+ public:
+  /// The first keyword of `schema` that `value` breaks, behind where that is; empty if it fits.
+  static std::string Fault(const JsonValue& value, const JsonValue& schema,
+                           const std::string& where = "$") {
+    for (const auto& member : schema.members) {
+      const std::string& keyword = member.first;
+      if (Describes(keyword)) continue;
+      const auto check = Checks().find(keyword);
+      if (check == Checks().end()) return where + ": " + keyword + " is unknown";
+      if (!check->second(value, member.second)) return where + ": " + keyword;
+    }
+    return FaultBelow(value, schema, where);
+  }
+
+ private:
+  using Check = bool (*)(const JsonValue& value, const JsonValue& rule);
+
+  /// Keywords that say nothing of the value, or are checked by FaultBelow.
+  static bool Describes(const std::string& keyword) {
+    constexpr std::string_view kWords =
+        "|$schema|title|description|properties|additionalProperties|items|";
+    return kWords.find("|" + keyword + "|") != kWords.npos;
+  }
+
+  static const std::map<std::string, Check>& Checks() {
+    static const std::map<std::string, Check> checks{
+        {"type", HasType},
+        {"required", HasAll},
+        {"oneOf", FitsOne},
+        {"dependentRequired", HasAllNeeded},
+        {"minItems",
+         [](const JsonValue& value, const JsonValue& rule) {
+           return static_cast<double>(value.items.size()) >= rule.Number();
+         }},
+        {"minLength",
+         [](const JsonValue& value, const JsonValue& rule) {
+           return static_cast<double>(value.text.size()) >= rule.Number();
+         }},
+        {"minimum", [](const JsonValue& value,
+                       const JsonValue& rule) { return value.Number() >= rule.Number(); }},
+    };
+    return checks;
+  }
+
+  static bool HasType(const JsonValue& value, const JsonValue& rule) {
+    const auto types = rule.Texts();
+    return std::any_of(types.begin(), types.end(), [&](const std::string& type) {
+      return value.kind == type || (type == "number" && value.kind == "integer");
+    });
+  }
+
+  static bool HasAll(const JsonValue& value, const JsonValue& names) {
     const auto texts = names.Texts();
     return std::all_of(texts.begin(), texts.end(),
-                       [&](const auto& name) { return value.Has(name); });
-  };
-  const bool isObject = value.kind == "object";
-  for (const auto& [keyword, rule] : schema.members) {
-    const std::string fault = where + ": " + keyword;
-    if (keyword == "type") {
-      const auto types = rule.Texts();
-      if (std::none_of(types.begin(), types.end(), isType)) return fault + " " + value.kind;
-    } else if (keyword == "properties" && isObject) {
-      for (const auto& [name, member] : value.members) {
-        if (!rule.Has(name)) continue;
-        const auto deeper = SchemaFault(member, rule[name], where + "." + name);
-        if (!deeper.empty()) return deeper;
-      }
-    } else if (keyword == "additionalProperties" && rule.text == "false" && isObject) {
-      for (const auto& member : value.members) {
-        if (!schema["properties"].Has(member.first)) return fault + " " + member.first;
-      }
-    } else if (keyword == "required") {
-      if (isObject && !hasAll(rule)) return fault;
-    } else if (keyword == "dependentRequired") {
-      for (const auto& [name, needed] : rule.members) {
-        if (value.Has(name) && !hasAll(needed)) return fault + " " + name;
-      }
-    } else if (keyword == "oneOf") {
-      const auto fits = [&](const JsonValue& one) { return SchemaFault(value, one).empty(); };
-      if (std::count_if(rule.items.begin(), rule.items.end(), fits) != 1) return fault;
-    } else if (keyword == "items") {
-      for (const JsonValue& item : value.items) {
-        const auto deeper = SchemaFault(item, rule, where + "[]");
-        if (!deeper.empty()) return deeper;
-      }
-    } else if (keyword == "minItems") {
-      if (static_cast<double>(value.items.size()) < rule.Number()) return fault;
-    } else if (keyword == "minLength") {
-      if (static_cast<double>(value.text.size()) < rule.Number()) return fault;
-    } else if (keyword == "minimum") {
-      if (value.Number() < rule.Number()) return fault;
-    } else if (keyword != "title" && keyword != "description" && keyword != "$schema") {
-      return fault + " is unknown";
-    }
+                       [&](const std::string& name) { return value.Has(name); });
   }
-  return {};
-}
+
+  static bool HasAllNeeded(const JsonValue& value, const JsonValue& rule) {
+    return std::all_of(rule.members.begin(), rule.members.end(), [&](const auto& needed) {
+      return !value.Has(needed.first) || HasAll(value, needed.second);
+    });
+  }
+
+  static bool FitsOne(const JsonValue& value, const JsonValue& rule) {
+    return std::count_if(rule.items.begin(), rule.items.end(),
+                         [&](const JsonValue& one) { return Fault(value, one).empty(); }) == 1;
+  }
+
+  /// The same for the members of an object and the items of an array.
+  static std::string FaultBelow(const JsonValue& value, const JsonValue& schema,
+                                const std::string& where) {
+    for (const auto& member : value.members) {
+      const std::string place = where + "." + member.first;
+      if (!schema.Has("properties") || !schema["properties"].Has(member.first)) {
+        if (schema.Has("additionalProperties")) return place;
+        continue;
+      }
+      auto fault = Fault(member.second, schema["properties"][member.first], place);
+      if (!fault.empty()) return fault;
+    }
+    for (const JsonValue& item : value.items) {
+      auto fault = schema.Has("items") ? Fault(item, schema["items"], where + "[]") : "";
+      if (!fault.empty()) return fault;
+    }
+    return {};
+  }
+};
 
 }  // namespace kav::test
