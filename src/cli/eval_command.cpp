@@ -31,16 +31,17 @@ class EvalSession {
     auto value = evaluation_.Value(item);
     if (value) return *value;
     const auto hint = mayBeCommand ? CommandHint(line_, Commands()) : std::nullopt;
-    if (hint) {
-      Tell(*hint);
-    } else if (IsReadAtTerminal()) {
-      // Where nobody reads along, nothing follows the message.
-      static_cast<void>(WriteAll(STDERR_FILENO, evaluation_.NoteOn(item, value.error())));
-    }
+    hint ? Tell(*hint) : TellPlace(item, value.error());
     return FailureOf(std::move(value).error());
   }
 
  private:
+  void TellPlace(std::string_view item, const LineFailure& failure) {
+    // Where nobody reads along, nothing follows the message.
+    if (!IsReadAtTerminal()) return;
+    static_cast<void>(WriteAll(STDERR_FILENO, evaluation_.NoteOn(item, failure)));
+  }
+
   const CommandLine& line_;
   Evaluation evaluation_;
   bool mayBeCommand_;  ///< whether the next item may be the misspelt name of a command

@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "cli/command_hint.h"
 #include "cli/commands.h"
 #include "cli/option_rows.h"
 
@@ -150,6 +155,30 @@ TEST(CommandLine, TheFirstArgumentThatIsNoOptionMayNameACommand) {
     const CommandLine line = Read(row.arguments);
     EXPECT_EQ(line.command->name, row.command) << row.arguments.front();
     EXPECT_EQ(line.items, row.items) << row.arguments.front();
+  }
+}
+
+TEST(CommandLine, TheFirstArgumentMayBeTheMisspeltNameOfACommand) {
+  const auto hint = [](const Arguments& arguments) {
+    return CommandHint(Read(arguments), Commands()).value_or("");
+  };
+  EXPECT_EQ(hint({"--raw", "statz", "data.txt"}),
+            "\"statz\" is no command; did you mean \"kavcalc stats\"?");
+  for (const auto& [word, call] :
+       {std::pair{"evla", "eval"}, std::pair{"matrx", "matrix"}, std::pair{"CONVERT", "convert"},
+        std::pair{"key", "keys"}, std::pair{"Help", "--help"}, std::pair{"version", "--version"}}) {
+    EXPECT_NE(hint({word}).find("\"kavcalc " + std::string(call) + "\""), std::string::npos)
+        << word;
+  }
+  for (const Arguments& none : {Arguments{},
+                                {"e"},
+                                {"sin"},
+                                {"stats1"},
+                                {"1+1", "statz"},
+                                {"eval", "statz"},
+                                {"--", "statz"},
+                                {"stats", "statz"}}) {
+    EXPECT_EQ(hint(none), "") << none.size();
   }
 }
 

@@ -20,6 +20,7 @@ TEST(PrintMatrix, EachRowIsALineBehindTheHeader) {
   EXPECT_EQ(PrintMatrix(MatrixOf("1 2 3; 4 5 6")), "[2*3]\r\n1\t2\t3\r\n4\t5\t6\r\n");
   EXPECT_EQ(PrintMatrix(MatrixOf("-1.5e-07")), "[1*1]\r\n-1.5e-07\r\n");
   EXPECT_EQ(PrintMatrix(MatrixOf("1; 2")), "[2*1]\r\n1\r\n2\r\n");
+  EXPECT_EQ(PrintMatrix(MatrixOf("1 2; 3 4"), "\n"), "[2*2]\n1\t2\n3\t4\n");
   EXPECT_EQ(PrintMatrix(MatrixValue{}), "[0*0]\r\n");
 }
 

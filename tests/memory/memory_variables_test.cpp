@@ -36,6 +36,8 @@ TEST(MemoryVariables, LinesCountFromOneInTwoDigits) {
   EXPECT_EQ(variables.Line(8), u"Mem09 = 0");
   EXPECT_EQ(variables.Line(9), u"Mem10 = -1.5e-20");
   EXPECT_EQ(variables.Line(19), u"Mem20 = 0");
+  EXPECT_EQ(MemoryVariables::Name(8), u"Mem09");
+  EXPECT_EQ(MemoryVariables::Name(9), u"Mem10");
 }
 
 TEST(MemoryVariables, EachIsStoredUnderItsNumberFromZero) {
