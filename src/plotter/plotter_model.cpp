@@ -230,11 +230,10 @@ PlotterRequest PlotterModel::Plot() {
   return PlotIn(*range);
 }
 
-/// Asks about each typed equation once: who answered wants it so.
-std::optional<AskAboutTyped> PlotterModel::QuestionOfTyped() {
+/// Who left a typed equation out is not asked about it again.
+std::optional<AskAboutTyped> PlotterModel::QuestionOfTyped() const {
   const std::u16string typed = TypedEquationText();
-  if (typed.empty() || equations_.Holds(typed) || typed == askedAbout_) return std::nullopt;
-  askedAbout_ = typed;
+  if (typed.empty() || equations_.Holds(typed) || typed == leftOut_) return std::nullopt;
   if (equations_.IsFull()) {
     return AskAboutTyped{PlotWithoutTyped(typed), TypedEquation::LeaveOut, std::nullopt};
   }
@@ -244,8 +243,10 @@ std::optional<AskAboutTyped> PlotterModel::QuestionOfTyped() {
 PlotterRequest PlotterModel::PlotWith(TypedEquation typed) {
   const auto range = ReadRange(range_, angle_);
   if (!range) return RefuseField(range.error());
-  if (typed == TypedEquation::Add) {
-    if (auto refusal = Add()) return *std::move(refusal);
+  if (typed == TypedEquation::LeaveOut) {
+    leftOut_ = TypedEquationText();
+  } else if (auto refusal = Add()) {
+    return *std::move(refusal);
   }
   return PlotIn(*range);
 }

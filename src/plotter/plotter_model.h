@@ -33,10 +33,11 @@ using PlotterRefusal = Refusal<std::optional<RangeField>>;
 /// What is to be done about an equation that was typed and not added.
 enum class TypedEquation { Add, LeaveOut };
 
-/// Asked before the graph is opened; what is plotted after a Yes or a No. nullopt: nothing.
+/// Asked before the graph is opened; what is plotted after a Yes or a No. Without a value for No,
+/// No is to give up.
 struct AskAboutTyped {
   std::u16string question;
-  std::optional<TypedEquation> onYes;
+  TypedEquation onYes;
   std::optional<TypedEquation> onNo;
 };
 
@@ -104,7 +105,7 @@ class PlotterModel {
   void Insert(std::u16string_view text);
   PlotterRequest MacroRequest();
   PlotterRequest Plot();
-  std::optional<AskAboutTyped> QuestionOfTyped();
+  std::optional<AskAboutTyped> QuestionOfTyped() const;
   PlotterRequest PlotIn(const PlotRange& range);
   std::u16string TypedEquationText() const;
   std::optional<PlotterRefusal> Refuse(const std::u16string& equation) const;
@@ -118,7 +119,7 @@ class PlotterModel {
   History history_;
   GraphOptions options_;
   ExpressionLine input_;
-  std::u16string askedAbout_;  ///< the typed equation of the last question
+  std::u16string leftOut_;  ///< the typed equation that the user plotted without
   ShiftState shift_ = ShiftState::Off;
 };
 

@@ -74,6 +74,7 @@ TEST_F(PlotterModelPlot, WithEquationsTheInputIsPlottedOnlyIfTheUserWantsIt) {
   Add(u"x");
   Put(u"(|");
   ASSERT_TRUE(Is<AskAboutTyped>(Press(u"Plot")));
+  model_->PlotWith(TypedEquation::LeaveOut);
   EXPECT_EQ(Plotted().curves.size(), 1U);
   EXPECT_EQ(MarkedNow(), u"(|");
 }
@@ -169,7 +170,7 @@ TEST_F(PlotterModelPlot, ATypedEquationIsAskedAboutOnceAndAdded) {
   ASSERT_TRUE(Is<AskAboutTyped>(request));
   const auto& question = std::get<AskAboutTyped>(request);
   EXPECT_EQ(question.question, u"Add the typed equation x^2 to the list first?");
-  ASSERT_EQ(question.onYes, TypedEquation::Add);
+  EXPECT_EQ(question.onYes, TypedEquation::Add);
   EXPECT_EQ(question.onNo, TypedEquation::LeaveOut);
   const PlotterRequest plot = model_->PlotWith(TypedEquation::Add);
   ASSERT_TRUE(Is<OpenGraph>(plot));
@@ -182,6 +183,7 @@ TEST_F(PlotterModelPlot, WhoLeavesATypedEquationOutIsNotAskedAgain) {
   Add(u"x");
   Put(u"x^2|");
   ASSERT_TRUE(Is<AskAboutTyped>(Press(u"Plot")));
+  ASSERT_TRUE(Is<AskAboutTyped>(Press(u"Plot"))) << "who gave up is asked again";
   const PlotterRequest plot = model_->PlotWith(TypedEquation::LeaveOut);
   ASSERT_TRUE(Is<OpenGraph>(plot));
   EXPECT_EQ(std::get<OpenGraph>(plot).input.curves.size(), 1U);

@@ -170,6 +170,10 @@ TEST_F(GraphSideTest, ATapShowsThePointAndTracingTheValues) {
 TEST_F(GraphSideTest, ATypedEquationIsNeverPlottedWithoutInSilence) {
   Add("x");
   Type("x^2");
+  ExpectBox(QMessageBox::Cancel);
+  Tap(u"Plot");
+  ExpectSeen(u"Add the typed equation x^2 to the list first?", QMessageBox::Question);
+  EXPECT_TRUE(InputHasFocus());
   const Texts without = PlottedAfter(QMessageBox::No);
   EXPECT_EQ(without, Texts{u"R:F1(X)=x"});
   Key(Qt::Key_Home);

@@ -191,8 +191,24 @@ void CPlotterDlg::Do(const OpenGraph& request) {
   Refresh();
 }
 
+/// nullopt: the user gives up.
+std::optional<TypedEquation> CPlotterDlg::AnswerTo(const AskAboutTyped& request) {
+  if (!request.onNo) {
+    return AskYesNo(this, request.question) ? std::optional(request.onYes) : std::nullopt;
+  }
+  switch (AskYesNoCancel(this, request.question)) {
+    case Decision::Yes:
+      return request.onYes;
+    case Decision::No:
+      return request.onNo;
+    case Decision::Cancel:
+      break;
+  }
+  return std::nullopt;
+}
+
 void CPlotterDlg::Do(const AskAboutTyped& request) {
-  const auto typed = AskYesNo(this, request.question) ? request.onYes : request.onNo;
+  const auto typed = AnswerTo(request);
   if (!typed) return input_->setFocus();
   const PlotterRequest next = model_.PlotWith(*typed);
   Refresh();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -52,6 +53,7 @@ class CPlotterDlg final : public KeyScreenOf<PlotterKey, PlotterModel> {
   void Do(const PlotterRefusal& request);
   void Do(const OpenGraph& request);
   void Do(const AskAboutTyped& request);
+  std::optional<TypedEquation> AnswerTo(const AskAboutTyped& request);
 
   std::vector<MenuEntry> MoreToEdit() override;
   void OnReplace();
