@@ -52,7 +52,7 @@ std::int64_t Resident() {
   std::ifstream file("/proc/self/smaps_rollup");
   std::string line;
   while (std::getline(file, line)) {
-    if (line.starts_with("Pss:")) return std::stoll(line.substr(line.find(' '))) * 1024;
+    if (line.starts_with("Anonymous:")) return std::stoll(line.substr(line.find(' '))) * 1024;
   }
   ADD_FAILURE() << "nobody tells";
   return 0;
