@@ -8,7 +8,6 @@
 #include <string_view>
 #include <vector>
 
-#include "common/number_text.h"
 #include "settings/keys.h"
 #include "settings/settings_store.h"
 #include "support/stored_conversions.h"
@@ -393,61 +392,6 @@ TEST_F(ConverterModelTest, ConversionsThatTheUserWroteMeanwhileAreListed) {
   EXPECT_EQ(PlacesOf(model.Positions()), (Places{kUserDefined, 0, -1}));
   EXPECT_EQ(model.Inputs(), Texts{u"dozen -> piece"});
   EXPECT_EQ(model.Result(), u"24");
-}
-
-TEST_F(ConverterModelTest, AnExpressionIsTakenAsItsValue) {
-  const struct {
-    std::u16string text, result;
-  } rows[] = {
-      {u"1/2", u"0.5"},     {u" 2*3 ", u"6"},
-      {u"2^10", u"1024"},   {u"(1+2)*3", u"9"},
-      {u"sqrt(16)", u"4"},  {u"1,234,567*2", u"2469134"},
-      {u"sin(30)", u"0.5"}, {u"2*Pi", u"6.28318530718"},
-      {u"3!", u"6"},
-  };
-  SetFormat(0, 12);
-  for (const auto& row : rows) {
-    ConverterModel model = Model(row.text);
-    Choose(model, u"07. Length", u"Meters", u"Meters");
-    EXPECT_EQ(model.TextRefusal(), std::nullopt) << Narrow(row.text);
-    EXPECT_EQ(model.Result(), row.result) << Narrow(row.text);
-    EXPECT_EQ(model.Text(), row.text);
-  }
-  store_.Set(kAngleType, 2);
-  ConverterModel radians = Miles(u"sin(Pi/2)");
-  EXPECT_EQ(radians.Result(), u"1.609344");
-}
-
-TEST_F(ConverterModelTest, AnExpressionWithoutAValueIsRefused) {
-  for (const std::u16string_view text :
-       {u"1/0", u"1/", u"(1", u"sqrt(-1)", u"ans", u"x", u"1,5*2", u"[M1]", u"M:f(1)", u"10^999"}) {
-    const ConverterModel model = Miles(std::u16string(text));
-    EXPECT_TRUE(model.TextRefusal()) << Narrow(text);
-    EXPECT_EQ(model.ShownResult(), u"") << Narrow(text);
-    EXPECT_TRUE(model.OkRefusal()) << Narrow(text);
-  }
-}
-
-TEST_F(UserDefinedCategory, WhatTheUserChangedIsTakenAndWhatIsChosenStays) {
-  ConverterModel miles = Miles(u"2");
-  ConverterModel own = Model(u"2", {kUserDefined, 1, -1});
-  const std::u16string chosen = own.Inputs()[1];
-  StoreConversions(store_, {{"new -> one", "3"}, {"x -> y", "7"}, {Narrow(chosen), "5"}});
-  miles.TakeUserConversions();
-  EXPECT_EQ(PlacesOf(miles.Positions()), (Places{kLength, 18, 14}));
-  own.TakeUserConversions();
-  EXPECT_EQ(own.Inputs(), (Texts{u"new -> one", u"x -> y", chosen}));
-  EXPECT_EQ(PlacesOf(own.Positions()), (Places{kUserDefined, 2, -1}));
-  EXPECT_EQ(own.Result(), u"10");
-  EXPECT_EQ(own.Text(), u"2");
-  StoreConversions(store_, {{"new -> one", "3"}});
-  own.TakeUserConversions();
-  EXPECT_EQ(own.Result(), u"6") << "the first, where the chosen one is gone";
-  StoreConversions(store_, {});
-  own.TakeUserConversions();
-  EXPECT_EQ(PlacesOf(own.Positions()), (Places{0, 0, 0}));
-  miles.TakeUserConversions();
-  EXPECT_EQ(miles.ChooseCategory(kUserDefined), u"Not exist saved user-define unit convert");
 }
 
 }  // namespace
