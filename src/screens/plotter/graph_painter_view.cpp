@@ -16,18 +16,7 @@ namespace {
 constexpr double kSideMargin = 2;
 constexpr double kTopMargin = 3;
 constexpr double kPictureWidth = kSampleCount + 2 * kSideMargin;
-constexpr double kGraphTextHeight = 11;
-constexpr double kDescent = 2.75;
 
-/// Curves are still seen behind the labels of the range, but do not make them hard to read.
-constexpr float kBackingOpacity = 0.8F;
-
-// Lines grow more slowly than the plot: in proportion to it they would look coarse.
-constexpr double kStrokeGrowth = 0.65;
-constexpr double kRuleGrowth = 0.5;
-// A little more than the square root of 2: a stroke of any slope then covers the pixels in its
-// middle wholly, and they have its exact colour.
-constexpr double kNarrowestStroke = 1.5;
 // The time to paint a path grows faster than its length.
 constexpr qsizetype kSegmentsAtOnce = 8;
 
@@ -72,7 +61,7 @@ class ShapePainter {
  public:
   ShapePainter(QPainter& painter, const PlotArea& area, ColourScheme scheme)
       : painter_(painter), area_(area), scale_(area.Scale()), scheme_(scheme) {
-    QFont font = ScreenFont(Pixels(kGraphTextHeight * area.TextScale()));
+    QFont font = ScreenFont(Pixels(graph_measures::kTextHeight * area.TextScale()));
     // The coloured fringes of subpixels suit one screen only, and a saved picture is shown on any.
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
     painter_.setFont(font);
@@ -106,8 +95,10 @@ class ShapePainter {
     for (const GraphPlace place : stroke.places) places.append(MiddleOf(place));
     Clip();
     painter_.setRenderHint(QPainter::Antialiasing);
-    painter_.setPen(QPen(Shown(stroke.colour), std::max(kNarrowestStroke, kStrokeGrowth * scale_),
-                         Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
+    painter_.setPen(
+        QPen(Shown(stroke.colour),
+             std::max(graph_measures::kNarrowestStroke, graph_measures::kStrokeGrowth * scale_),
+             Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
     for (qsizetype i = 0; i + 1 < places.size(); i += kSegmentsAtOnce) {
       // With one segment of the next piece, so that no seam is seen.
       const qsizetype count = std::min(kSegmentsAtOnce + 2, places.size() - i);
@@ -134,29 +125,40 @@ class ShapePainter {
     Restore();
   }
 
+  void operator()(const GraphBar& bar) {
+    painter_.fillRect(QRect(PixelAt(bar.from), PixelAt(bar.to)).normalized(), Shown(bar.colour));
+  }
+
   void operator()(const GraphText& text) {
     if (text.backing > 0) PaintBacking(text);
-    painter_.setPen(Shown(graph_colour::kInk));
+    painter_.setPen(Shown(text.colour));
     // Some faces have more room below the letters. With all of it the text would leave the plot at
     // the top.
-    const int descent =
-        std::min(painter_.fontMetrics().descent(), Pixels(kDescent * area_.TextScale()));
-    painter_.drawText(PixelAt(text.place) - QPoint(0, descent), ToQt(text.text));
+    const int descent = std::min(painter_.fontMetrics().descent(),
+                                 Pixels(graph_measures::kDescent * area_.TextScale()));
+    painter_.drawText(PixelAt(text.place) - QPoint(Before(text), descent), ToQt(text.text));
   }
 
  private:
   void PaintBacking(const GraphText& text) {
     QColor paper = Shown(graph_colour::kPaper);
-    paper.setAlphaF(kBackingOpacity);
+    paper.setAlphaF(static_cast<float>(graph_measures::kBackingOpacity));
     const QPoint end = PixelAt(text.place);
     const int top = PixelAt({text.place.column, text.place.row - text.backing}).y();
     const int free = Pixels(area_.TextScale());
     const int width = painter_.fontMetrics().horizontalAdvance(ToQt(text.text)) + 2 * free;
-    painter_.fillRect(QRect(end.x() - free, top, width, end.y() - top), paper);
+    painter_.fillRect(QRect(end.x() - free - Before(text), top, width, end.y() - top), paper);
+  }
+
+  /// How much of the text is left of its place.
+  int Before(const GraphText& text) const {
+    if (text.anchor == TextAnchor::Start) return 0;
+    const int width = painter_.fontMetrics().horizontalAdvance(ToQt(text.text));
+    return text.anchor == TextAnchor::Middle ? width / 2 : width;
   }
 
   QColor Shown(GraphColour colour) const { return ColourOfGraph(scheme_, colour); }
-  int Line() const { return std::max(static_cast<int>(kRuleGrowth * scale_), 1); }
+  int Line() const { return std::max(static_cast<int>(graph_measures::kRuleGrowth * scale_), 1); }
   static QPoint PixelAt(GraphPlace place) {
     return {static_cast<int>(std::lround(place.column)), static_cast<int>(std::lround(place.row))};
   }
