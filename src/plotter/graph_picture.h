@@ -80,7 +80,7 @@ struct GraphText {
   GraphColour colour = graph_colour::kInk;
 };
 using GraphShape =
-    std::variant<GraphFrame, GraphRule, GraphStroke, GraphDot, GraphDisc, GraphBar, GraphText>;
+    std::variant<GraphFrame, GraphRule, GraphStroke, GraphDot, GraphDisc, GraphText, GraphBar>;
 using GraphPicture = std::vector<GraphShape>;
 
 /// The picture of `model` in its area: the frame, the grid, the axes and their labels, the curves,
