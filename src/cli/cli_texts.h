@@ -66,6 +66,10 @@ inline constexpr std::string_view kLacksCategory =
 inline constexpr std::string_view kListTakesOneCategory = "convert --list takes one category";
 inline constexpr std::string_view kTwoUnits = "a unit and the unit to convert it to";
 inline constexpr std::string_view kOneConversion = "one of its conversions";
+inline constexpr std::string_view kTableLeadsNowhere =
+    "the STEP of --table has to lead from X0 to X1, in at most 1000000 lines";
+inline constexpr std::string_view kTableOrPicture = "--table and --svg exclude each other";
+inline constexpr std::string_view kTooManyCurves = "a picture has at most three equations";
 inline constexpr std::string_view kAreaIsEmpty =
     "the TOP of --area has to be a smaller number than its BOTTOM";
 // Why a matrix file is none; each follows MatrixCannotBeLoaded. Lines are counted from 1.

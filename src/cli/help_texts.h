@@ -129,9 +129,13 @@ inline constexpr std::string_view kPlotDetails =
 sample from 0, a tab, its x, a tab, the row of pixels where the curve stands, and
 nothing where it has no point. A blank line is between two equations. --range
 tells what is plotted and --area where: its rows count downwards from TOP, where
-YMAX is, to BOTTOM.
+YMAX is, to BOTTOM. --table gives lines of x, a tab, and the value, which is
+empty where there is none; --svg one picture of all equations, as the graph is
+saved.
 
   kavcalc plot 'x^2/10'
+  kavcalc plot --table 0 1 0.25 'sqrt(x)'
+  kavcalc plot --svg 'x^2' 'x+1' >graph.svg
   kavcalc plot --range -5 5 -2 2 --area 0 479 'sin(x)' 1/x)text";
 
 inline constexpr std::string_view kStatsDetails =

@@ -119,6 +119,16 @@ bool TakeRange(std::string_view values, std::string_view given, Options& options
   return true;
 }
 
+bool TakeTable(std::string_view values, std::string_view given, Options& options) {
+  const auto words = Words(given);
+  if (words.size() != Words(values).size()) return false;
+  const auto first = ReadShownNumber(words[0]);
+  const auto last = ReadShownNumber(words[1]);
+  const auto step = ReadShownNumber(words[2]);
+  options.table = TablePlaces{first.value_or(0), last.value_or(0), step.value_or(0)};
+  return first && last && step;
+}
+
 bool TakeArea(std::string_view values, std::string_view given, Options& options) {
   const auto words = Words(given);
   if (words.size() != Words(values).size()) return false;
@@ -184,6 +194,10 @@ constexpr std::array kOptions{
               Others::Refuse, TakeRange},
     OptionRow{"--area", "TOP BOTTOM", "the pixel rows of the plot [0 229]", "plot", Others::Refuse,
               TakeArea},
+    OptionRow{"--table", "X0 X1 STEP", "the values from X0 to X1 instead", "plot", Others::Refuse,
+              TakeTable},
+    OptionRow{"--svg", "", "the picture of up to three equations instead", "plot", Others::Refuse,
+              TakeSwitch<&Options::asksSvg>},
 };
 
 }  // namespace

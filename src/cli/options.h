@@ -13,6 +13,7 @@
 #include "matrix/matrix_value.h"
 #include "plotter/curve_sampling.h"
 #include "plotter/plot_range.h"
+#include "plotter/value_table.h"
 #include "statistics/data_list.h"
 #include "statistics/regression.h"
 
@@ -39,7 +40,9 @@ struct Options {
   std::vector<double> estimatesAtX;  ///< finite; each asks for an estimate of Y
   std::vector<double> estimatesAtY;  ///< finite; each asks for an estimate of X
   PlotRange range;                   ///< not checked: may be one that the plotter refuses
-  PlotRows area;                     ///< not checked: `bottom` may be above `top`
+  std::optional<TablePlaces> table;  ///< not checked: may lead nowhere
+  bool asksSvg = false;
+  PlotRows area;  ///< not checked: `bottom` may be above `top`
 };
 
 }  // namespace kav

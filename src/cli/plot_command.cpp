@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "cli/cli_texts.h"
 #include "cli/items.h"
@@ -12,7 +13,13 @@
 #include "common/ascii.h"
 #include "common/number_text.h"
 #include "engine/formula_checker.h"
+#include "engine/formula_runner.h"
 #include "plotter/curve_sampling.h"
+#include "plotter/graph_input.h"
+#include "plotter/graph_model.h"
+#include "plotter/graph_svg.h"
+#include "plotter/plotter_texts.h"
+#include "plotter/value_table.h"
 
 namespace kav {
 namespace {
@@ -64,20 +71,80 @@ class PlotSession {
   std::array<std::string, kSampleCount> starts_;  ///< of the lines, up to the row
 };
 
+/// Answers an equation with the table of its values.
+Answer TableOf(std::string_view equation, const Options& options, StoredSettings& settings) {
+  auto formula = CheckFormula(equation, VariableType::X);
+  if (!formula) return FailureOf(std::move(formula).error());
+  FormulaRunner runner(*formula, settings.AngleFor(equation, "xX"));
+  Rows rows(options);
+  const std::size_t count = TableRows(*options.table).value_or(0);
+  for (std::size_t i = 0; i < count; ++i) {
+    const double x = TablePlace(*options.table, i);
+    const auto y = runner.At({.x = x});
+    std::string shownX;
+    std::string shownY;
+    if (AppendShown(shownX, x, options)) shownX.clear();
+    const bool hasValue = y && !AppendShown(shownY, *y, options);
+    rows.Add({{shownX, x}, hasValue ? Cell(shownY, *y) : Cell("")});
+  }
+  return rows;
+}
+
+/// The picture of all equations, as the graph saves it.
+Answer PictureOf(const std::vector<std::string>& equations, const Options& options) {
+  // Those of a plot that stands beside nothing, with the margins of a saved picture.
+  constexpr int kLeft = 2;
+  constexpr int kTop = 3;
+  GraphInput input;
+  std::string all;
+  for (const std::string& equation : equations) {
+    auto formula = CheckFormula(equation, VariableType::X);
+    if (!formula) return FailureOf(std::move(formula).error());
+    const std::size_t index = input.curves.size();
+    input.curves.push_back(
+        {std::u16string(kCurvePrefixes[index]) + Widen(equation), *std::move(formula)});
+    all += equation + ' ';
+  }
+  input.range = options.range;
+  input.angle = StoredSettings(options).AngleFor(all, "xX");
+  input.format = options.display;
+  GraphModel model(std::move(input));
+  model.SetArea(
+      {kLeft, kTop, kLeft + kSampleCount - 1, kTop + options.area.bottom - options.area.top});
+  return PrintGraphSvg(model);
+}
+
+int RunPicture(const CommandLine& line) {
+  AnswerWriter answers(line.options);
+  std::vector<std::string> equations;
+  ForEachItem(line, kLongestExpression, answers, [&](std::string_view item, Extent) {
+    if (equations.size() <= kMostCurves) equations.emplace_back(item);
+  });
+  if (equations.size() > kMostCurves) return Complain(kTooManyCurves, *line.command);
+  if (!equations.empty()) answers.Write(PictureOf(equations, line.options));
+  return answers.Finish();
+}
+
 }  // namespace
 
 int RunPlot(const CommandLine& line) {
   const Options& options = line.options;
+  if (options.table && options.asksSvg) return Complain(kTableOrPicture, *line.command);
+  if (options.table && !TableRows(*options.table)) {
+    return Complain(kTableLeadsNowhere, *line.command);
+  }
   if (const auto refusal = RangeRefusal(options.range)) {
     return Complain(Narrow(*refusal), *line.command);
   }
   if (options.area.top >= options.area.bottom) return Complain(kAreaIsEmpty, *line.command);
+  if (options.asksSvg) return RunPicture(line);
   AnswerWriter answers(options);
+  StoredSettings settings(options);
   PlotSession session(options);
   bool isFirst = true;
   ForEachItem(line, kLongestExpression, answers, [&](std::string_view item, Extent) {
     if (!std::exchange(isFirst, false)) answers.Separate();
-    answers.Write(session.AnswerTo(item));
+    answers.Write(options.table ? TableOf(item, options, settings) : session.AnswerTo(item));
   });
   return answers.Finish();
 }
