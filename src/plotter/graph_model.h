@@ -117,6 +117,8 @@ class GraphModel {
   /// Takes the choice of the equation selector, from 0. Ignores an index without a curve.
   void SelectCurve(int index);
 
+  int Selected() const { return selected_; }
+
   /// A tap; nullopt if it is outside the plot.
   std::optional<GraphReading> Tap(GraphPlace place);
   /// "Cal" on the text of the "X =" field, in which blanks mean 0; or why that text is refused.

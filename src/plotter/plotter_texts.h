@@ -179,6 +179,28 @@ inline constexpr std::u16string_view kResetEntry = u"Re&set";
 inline constexpr std::u16string_view kUndoRangeEntry = u"U&ndo";
 inline constexpr std::u16string_view kGraphOptionsEntry = u"&Graph Options";
 
+// What it finds on the curves.
+inline constexpr std::u16string_view kRootsEntry = u"Roo&ts";
+inline constexpr std::u16string_view kExtremaEntry = u"&Extrema";
+inline constexpr std::u16string_view kIntersectionsEntry = u"Intersec&tions";
+inline constexpr std::u16string_view kSlopeEntry = u"Slo&pe";
+inline constexpr std::u16string_view kAreaEntry = u"&Area";
+inline constexpr std::u16string_view kCopyPictureEntry = u"&Copy Picture";
+inline constexpr std::u16string_view kRootName = u"Root";
+inline constexpr std::u16string_view kMinimumName = u"Minimum";
+inline constexpr std::u16string_view kMaximumName = u"Maximum";
+inline constexpr std::u16string_view kSlopeName = u"Slope";
+inline constexpr std::u16string_view kAreaName = u"Area";
+inline constexpr std::u16string_view kFoundX = u": x = ";
+inline constexpr std::u16string_view kFoundUntil = u" to ";
+inline constexpr std::u16string_view kFoundY = u", y = ";
+inline constexpr std::u16string_view kFoundIs = u": ";
+inline constexpr std::u16string_view kNoSlope = u"none";
+inline constexpr std::u16string_view kWithoutGaps = u" (gaps left out)";
+inline constexpr std::u16string_view kNothingIsFound = u"None in this range";
+inline constexpr std::u16string_view kMoreAreThere = u"There are more; zoom in to see them";
+inline constexpr std::u16string_view kSlopeNeedsX = u"Put the x of the slope into \"X =\".";
+
 // The menu of the values that it shows, and what screen readers say of that.
 inline constexpr std::u16string_view kCopyPointEntry = u"&Copy x and y";
 inline constexpr std::u16string_view kCopyXEntry = u"Copy &x";

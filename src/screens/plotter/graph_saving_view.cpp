@@ -1,6 +1,11 @@
 #include "screens/plotter/graph_saving_view.h"
 
+#include <QApplication>
 #include <QBuffer>
+#include <QClipboard>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
 #include <array>
 
 #include "plotter/graph_svg.h"
@@ -15,7 +20,7 @@ namespace {
 
 // In the order of GraphFile; the first is preset.
 constexpr std::array kGraphFiles{FileKind{u"BMP(*.bmp)", u"bmp"}, FileKind{u"PNG(*.png)", u"png"},
-                                 FileKind{u"SVG(*.svg)", u"svg"}};
+                                 FileKind{u"SVG(*.svg)", u"svg"}, FileKind{u"PDF(*.pdf)", u"pdf"}};
 
 /// The resolution that BMP files tell: 72 pixels an inch, in pixels a metre.
 constexpr int kBmpResolution = 2835;
@@ -27,16 +32,40 @@ std::string PrintImage(const QImage& image, const char* format) {
   return buffer.data().toStdString();
 }
 
+/// A page of the size of the picture, at the pixels an inch that documents count.
+std::string PrintPdf(const GraphModel& model) {
+  constexpr int kResolution = 96;
+  constexpr double kPoints = 72;
+  const QSize size = SizeAround(model.Area());
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter document(&buffer);
+  document.setResolution(kResolution);
+  document.setPageSize(QPageSize(QSizeF(size) * kPoints / kResolution, QPageSize::Point));
+  document.setPageMargins({});
+  QPainter painter(&document);
+  PaintGraph(painter, model);
+  painter.end();
+  return buffer.data().toStdString();
+}
+
 }  // namespace
 
 std::string PrintGraph(const GraphModel& model, GraphFile file) {
   if (file == GraphFile::Svg) return PrintGraphSvg(model);
+  if (file == GraphFile::Pdf) return PrintPdf(model);
   QImage image;
   DrawGraph(model, image);
   if (file == GraphFile::Png) return PrintImage(image, "PNG");
   image.setDotsPerMeterX(kBmpResolution);
   image.setDotsPerMeterY(kBmpResolution);
   return PrintImage(image, "BMP");
+}
+
+void CopyGraph(const GraphModel& model) {
+  QImage image;
+  DrawGraph(model, image);
+  QApplication::clipboard()->setImage(image);
 }
 
 void SaveGraph(QWidget* parent, const GraphModel& model) {

@@ -10,9 +10,11 @@
 #include <algorithm>
 #include <array>
 #include <utility>
+#include <vector>
 
 #include "plotter/empty_curves.h"
 #include "plotter/graph_model.h"
+#include "plotter/graph_requests.h"
 #include "plotter/plotter_texts.h"
 #include "screens/plotter/graph_area_view.h"
 #include "screens/plotter/graph_saving_view.h"
@@ -62,6 +64,19 @@ constexpr std::array kCopyRows{
     CopyRow{ReadingPart::Y, kCopyYEntry, kCopyYTip},
 };
 
+/// An entry that finds something on the curves.
+struct RequestRow {
+  GraphRequest request;
+  std::u16string_view text;
+};
+constexpr std::array kRequestRows{
+    RequestRow{GraphRequest::Roots, kRootsEntry},
+    RequestRow{GraphRequest::Extrema, kExtremaEntry},
+    RequestRow{GraphRequest::Intersections, kIntersectionsEntry},
+    RequestRow{GraphRequest::Slope, kSlopeEntry},
+    RequestRow{GraphRequest::Area, kAreaEntry},
+};
+
 constexpr const char* kOptionsKey = "Ctrl+G";
 
 constexpr int kLinesOfResults = 3;
@@ -96,6 +111,8 @@ class CGraphView final : public Dialog {
   GraphAreaHooks Hooks();
   void OnCalculate();
   void OnOptions();
+  void Find(GraphRequest request);
+  void GoToFinding();
   void GoToCurve(int curves);
   void Select(int curve);
   void Tell(ChangeRefusal refusal);
@@ -115,6 +132,7 @@ class CGraphView final : public Dialog {
 
   GraphModel model_;
   GraphReading reading_;
+  std::vector<std::u16string> places_;  ///< of the lines, if they are findings
   GraphAreaView* area_;
   ChoiceBox* curves_ = new ChoiceBox(kCurveSelectorName);
   QLineEdit* x_ = new QLineEdit;
@@ -161,6 +179,32 @@ void CGraphView::MakeMenu() {
   menu->addSeparator();
   QAction* options = menu->addAction(ToQt(kGraphOptionsEntry), this, &CGraphView::OnOptions);
   options->setShortcut(QKeySequence(QLatin1String(kOptionsKey)));
+  menu->addSeparator();
+  for (const RequestRow& row : kRequestRows) {
+    menu->addAction(ToQt(row.text), this, [this, request = row.request] { Find(request); });
+  }
+  menu->addSeparator();
+  menu->addAction(ToQt(kCopyPictureEntry), this, [this] { CopyGraph(model_); });
+}
+
+/// Shows what is found. A line that is chosen puts its x into the field.
+void CGraphView::Find(GraphRequest request) {
+  GraphFindings findings = FindOnGraph(model_, request, x_->text().toStdU16String());
+  places_ = std::move(findings.places);
+  reading_ = {x_->text().toStdU16String(), std::move(findings.lines), {}, std::nullopt};
+  results_->Write(reading_.lines, reading_.selected);
+  RefreshCopies();
+  ShareHeight();
+}
+
+void CGraphView::GoToFinding() {
+  const auto line = results_->Selected();
+  if (!line || static_cast<std::size_t>(*line) >= places_.size()) return;
+  const std::u16string place = places_[static_cast<std::size_t>(*line)];
+  if (place.empty()) return;
+  x_->setText(ToQt(place));
+  x_->home(false);
+  if (model_.Traces()) OnCalculate();
 }
 
 /// What is shown can be copied where it is shown.
@@ -181,6 +225,7 @@ void CGraphView::MakeCopies() {
   x_->installEventFilter(this);
   results_->setAccessibleDescription(ToQt(kGraphResultsHint));
   connect(results_, &QListWidget::itemSelectionChanged, this, &CGraphView::RefreshCopies);
+  connect(results_, &QListWidget::itemSelectionChanged, this, &CGraphView::GoToFinding);
 }
 
 bool CGraphView::eventFilter(QObject* watched, QEvent* event) {
@@ -289,6 +334,7 @@ void CGraphView::Tell(ChangeRefusal refusal) {
 void CGraphView::Take(const std::optional<GraphReading>& reading) {
   if (!reading) return;
   reading_ = *reading;
+  places_.clear();
   x_->setText(ToQt(reading_.x));
   x_->home(false);  // the first digits matter most
   results_->Write(reading_.lines, reading_.selected);
