@@ -20,7 +20,7 @@ class FailingScreen final : public LineScreen {
  public:
   explicit FailingScreen(Frame& frame)
       : LineScreen(frame, QSize(kScreenWidth, kScreenHeight), SpotsOf(KeyPlaces()),
-                   PastRoom::Calculator, PastNeighbour::Column) {}
+                   PastRoom::Calculator, SideNeighbour::Column) {}
 
   using LineScreen::FinishLine;
   using LineScreen::ShowFault;

@@ -26,7 +26,7 @@ constexpr double kLineTextHeight = 0.62;
 
 CMatrixDlg::CMatrixDlg(Frame& frame)
     : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), SpotsOf(MatrixKeyRows()),
-                  PastRoom::Matrix, PastNeighbour::Sheet),
+                  PastRoom::Matrix, SideNeighbour::Sheet),
       model_(frame.Store()),
       tabs_(new MatrixTabs(this)),
       grid_(this, model_,

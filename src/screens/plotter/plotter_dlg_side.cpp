@@ -5,16 +5,16 @@
 #include "screens/plotter/graph_side_view.h"
 #include "screens/plotter/plotter_dlg.h"
 #include "screens/widgets/look.h"
-#include "screens/widgets/past_side.h"
+#include "screens/widgets/side_places.h"
 
 namespace kav {
 
 QRect CPlotterDlg::ScreenPart() const {
-  return PlacesBeside(size(), PastNeighbour::Column).screen;
+  return PlacesBeside(size(), SideNeighbour::Column).screen;
 }
 
 QRect CPlotterDlg::GraphPart() const {
-  return PlacesBeside(size(), PastNeighbour::Column).history;
+  return PlacesBeside(size(), SideNeighbour::Column).side;
 }
 
 void CPlotterDlg::paintEvent(QPaintEvent* event) {

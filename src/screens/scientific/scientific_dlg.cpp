@@ -14,7 +14,7 @@ constexpr double kLineTextHeight = 0.42;
 
 CScientificDlg::CScientificDlg(Frame& frame)
     : KeyScreenOf(model_, frame, QSize(kScreenWidth, kScreenHeight), SpotsOf(KeyPlaces()),
-                  PastRoom::Calculator, PastNeighbour::Column),
+                  PastRoom::Calculator, SideNeighbour::Column),
       model_(frame.Store()) {
   AddMenus(ScreenMode::Scientific, DisplayPage::Normal, [this] { model_.TakeDisplaySettings(); });
   CScientificDlg::Refresh();

@@ -33,7 +33,7 @@ Selection SelectionAt(TextPlace place) {
 }  // namespace
 
 LineScreen::LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, PastRoom room,
-                       PastNeighbour neighbour)
+                       SideNeighbour neighbour)
     : KeyScreen(frame, size),
       line_(new ExpressionView(this)),
       result_(new ResultView(this)),

@@ -26,7 +26,7 @@ namespace kav {
 class LineScreen : public KeyScreen {
  public:
   LineScreen(Frame& frame, QSize size, std::vector<KeySpot> keys, PastRoom room,
-             PastNeighbour neighbour);
+             SideNeighbour neighbour);
   ~LineScreen() override;
 
   /// What the history leaves of the window.

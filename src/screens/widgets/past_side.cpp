@@ -1,6 +1,5 @@
 #include "screens/widgets/past_side.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -10,43 +9,19 @@
 namespace kav {
 namespace {
 
-// By the height of the window: the width of a column, and those of a history that stands beside
-// one. Rows that are wider hold a line and its answer too far apart to be seen together.
-constexpr double kColumnShare = 0.75;
-constexpr double kLeastShare = 0.38;
-constexpr double kMostShare = 1.05;
-/// The same of a sheet that has room for all it shows, and of the widest history beside one.
-constexpr double kSheet = 1.34;
-constexpr double kSheetShare = 0.6;
-
 constexpr std::int32_t kShown = 1;
 constexpr std::int32_t kHidden = 0;
 
 }  // namespace
 
-PastPlaces PlacesBeside(QSize window, PastNeighbour neighbour) {
-  const int height = window.height();
-  const int column = qRound(height * kColumnShare);
-  const bool isColumn = neighbour == PastNeighbour::Column;
-  const int least = qRound(height * kLeastShare);
-  if (window.width() < column + least) return {QRect(QPoint(), window), {}};
-  const int spare = window.width() - (isColumn ? column : qRound(height * kSheet));
-  const int width =
-      std::clamp(spare, least, qRound(height * (isColumn ? kMostShare : kSheetShare)));
-  const int rest = window.width() - width;
-  if (!isColumn) return {QRect(0, 0, rest, height), QRect(rest, 0, width, height)};
-  const int left = (rest - column) / 2;
-  return {QRect(left, 0, column, height), QRect(left + column, 0, width, height)};
-}
-
-PastSide::PastSide(QWidget& screen, Frame& frame, PastRoom room, PastNeighbour neighbour,
+PastSide::PastSide(QWidget& screen, Frame& frame, PastRoom room, SideNeighbour neighbour,
                    PastSideHooks hooks)
     : screen_(screen),
       frame_(frame),
       room_(room),
       neighbour_(neighbour),
       hooks_(std::move(hooks)),
-      isWanted_(neighbour == PastNeighbour::Column && frame.Store().Get(kHistoryShown) != kHidden) {
+      isWanted_(neighbour == SideNeighbour::Column && frame.Store().Get(kHistoryShown) != kHidden) {
 }
 
 QRect PastSide::ScreenPart() const {
@@ -54,7 +29,7 @@ QRect PastSide::ScreenPart() const {
 }
 
 QRect PastSide::PanelPart() const {
-  return isWanted_ ? PlacesBeside(screen_.size(), neighbour_).history : QRect();
+  return isWanted_ ? PlacesBeside(screen_.size(), neighbour_).side : QRect();
 }
 
 void PastSide::LayOut(const QRect& keys, int pixels) {
@@ -112,13 +87,13 @@ void PastSide::Toggle() {
 }
 
 void PastSide::RememberWanted() {
-  if (neighbour_ != PastNeighbour::Column) return;
+  if (neighbour_ != SideNeighbour::Column) return;
   frame_.Store().Set(kHistoryShown, isWanted_ ? kShown : kHidden);
   frame_.SaveStore();
 }
 
 void PastSide::Show() {
-  const bool hasRoom = !PlacesBeside(screen_.size(), neighbour_).history.isEmpty();
+  const bool hasRoom = !PlacesBeside(screen_.size(), neighbour_).side.isEmpty();
   if (hasRoom) {
     isWanted_ = true;
     RememberWanted();

@@ -9,21 +9,9 @@
 #include "line/past_lines_model.h"
 #include "screens/widgets/frame.h"
 #include "screens/widgets/past_panel.h"
+#include "screens/widgets/side_places.h"
 
 namespace kav {
-
-/// What a screen does with the room that the history leaves.
-enum class PastNeighbour {
-  Column,  ///< it is a column, beside which the history stands unless the user hid it
-  Sheet    ///< it uses all of it, and the history stands there only if the user asks for it
-};
-
-/// The parts of a window that the screen and the history beside it take.
-struct PastPlaces {
-  QRect screen;
-  QRect history;  ///< empty: there is no room for it
-};
-PastPlaces PlacesBeside(QSize window, PastNeighbour neighbour);
 
 /// What is asked of the screen. What a panel lies over is hidden, so that no key leads there.
 struct PastSideHooks {
@@ -35,11 +23,12 @@ struct PastSideHooks {
 };
 
 /// The history beside the screen in a wide window, else over its keys. The panel is made when it is
-/// first shown, and what it shows is read then. Whether it stands beside a column is remembered.
+/// first shown, and what it shows is read then. It stands beside a column unless the user hid it,
+/// which is remembered, and beside a sheet only if the user asks for it.
 class PastSide final : public QObject {
  public:
   /// `screen` and `frame` must outlive it.
-  PastSide(QWidget& screen, Frame& frame, PastRoom room, PastNeighbour neighbour,
+  PastSide(QWidget& screen, Frame& frame, PastRoom room, SideNeighbour neighbour,
            PastSideHooks hooks);
 
   /// The part of the window that is the screen's.
@@ -72,7 +61,7 @@ class PastSide final : public QObject {
   QWidget& screen_;
   Frame& frame_;
   PastRoom room_;
-  PastNeighbour neighbour_;
+  SideNeighbour neighbour_;
   PastSideHooks hooks_;
   QPointer<PastPanel> panel_;
   QRect keys_;
