@@ -30,8 +30,9 @@ const std::vector<Header> kHeaders{
     {"algorithm",
      "all_of any_of clamp copy copy_if copy_n count count_if equal find find_if find_if_not "
      "for_each "
-      "for_each_n is_sorted lower_bound max max_element min minmax mismatch none_of ranges remove "
-      "remove_if replace replace_copy_if replace_if reverse search sort stable_partition swap_ranges "
+     "for_each_n is_sorted lower_bound max max_element min minmax mismatch none_of ranges remove "
+     "remove_if replace replace_copy_if replace_if reverse search sort stable_partition "
+     "swap_ranges "
      "transform unique"},
     {"array", "array"},
     {"bit", "bit_cast bit_width countl_one countr_one"},

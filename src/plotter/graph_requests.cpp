@@ -9,6 +9,7 @@
 #include "engine/calc_modes.h"
 #include "line/shown_number.h"
 #include "plotter/curve_features.h"
+#include "plotter/equation_list.h"
 #include "plotter/plotter_texts.h"
 
 namespace kav {
@@ -71,13 +72,14 @@ void AddIntersections(const GraphModel& model, GraphFindings& findings) {
         },
         range.xMin, range.xMax);
     for (CurveFeature& feature : features.found) feature.y = curve(feature.x).value_or(0);
-    AddFeatures(model, features, kShortCurveNames[i], findings);
+    const std::size_t place = PlaceOfLabel(model.Input().curves[i].label, i);
+    AddFeatures(model, features, kShortCurveNames[place], findings);
   }
 }
 
 void AddSlope(const GraphModel& model, const CurveFunction& curve, std::u16string_view text,
               GraphFindings& findings) {
-  const auto x = ReadShownNumber(Narrow(TrimBlanks(text)));
+  const auto x = ReadNumberOrExpression(text, kSlopeNeedsX, model.Input().angle);
   if (!x || !std::isfinite(*x)) {
     findings.lines.emplace_back(kSlopeNeedsX);
     findings.places.emplace_back();
