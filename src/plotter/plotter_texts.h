@@ -182,10 +182,10 @@ inline constexpr std::u16string_view kGraphOptionsEntry = u"&Graph Options";
 // What it finds on the curves.
 inline constexpr std::u16string_view kRootsEntry = u"Roo&ts";
 inline constexpr std::u16string_view kExtremaEntry = u"&Extrema";
-inline constexpr std::u16string_view kIntersectionsEntry = u"Intersec&tions";
+inline constexpr std::u16string_view kIntersectionsEntry = u"Interse&ctions";
 inline constexpr std::u16string_view kSlopeEntry = u"Slo&pe";
 inline constexpr std::u16string_view kAreaEntry = u"&Area";
-inline constexpr std::u16string_view kCopyPictureEntry = u"&Copy Picture";
+inline constexpr std::u16string_view kCopyPictureEntry = u"Cop&y Picture";
 inline constexpr std::u16string_view kRootName = u"Root";
 inline constexpr std::u16string_view kMinimumName = u"Minimum";
 inline constexpr std::u16string_view kMaximumName = u"Maximum";

@@ -55,10 +55,11 @@ TEST_F(GraphSavingTest, TheDialogOffersBmpFirst) {
   Open(LabelledGraphOf({"x"}), [this] {
     BoxWatch::Instance().ExpectDialog([](QDialog& dialog) {
       auto* filters = dialog.findChild<QComboBox*>("fileTypeCombo");
-      ASSERT_EQ(filters->count(), 3);
+      ASSERT_EQ(filters->count(), 4);
       EXPECT_EQ(filters->itemText(0), "BMP(*.bmp)");
       EXPECT_EQ(filters->itemText(1), "PNG(*.png)");
       EXPECT_EQ(filters->itemText(2), "SVG(*.svg)");
+      EXPECT_EQ(filters->itemText(3), "PDF(*.pdf)");
       EXPECT_EQ(filters->currentIndex(), 0);
       dialog.reject();
     });

@@ -36,10 +36,25 @@ TEST_F(GraphViewTest, TheMenuOffersEveryChangeWithItsKey) {
     const QMenu* menu = MenuOf(Dlg(), u"&Graph");
     EXPECT_EQ(Offered(menu),
               (Texts{u"Move &Left", u"Move &Right", u"Move &Up", u"Move &Down", u"Zoom &In",
-                     u"Zoom &Out", u"Re&set", u"U&ndo", u"-", u"&Graph Options"}));
+                     u"Zoom &Out", u"Re&set", u"U&ndo", u"-", u"&Graph Options", u"-", u"Roo&ts",
+                     u"&Extrema", u"Interse&ctions", u"Slo&pe", u"&Area", u"-", u"Cop&y Picture"}));
     for (const QAction* action : menu->actions()) {
       EXPECT_NE(action->isSeparator(), !action->shortcut().isEmpty());
     }
+  });
+}
+
+TEST_F(GraphViewTest, AFindingThatIsChosenPutsItsXIntoTheField) {
+  Open(LabelledGraphOf({"x^2-4"}), [this] {
+    ChooseFromMenu(u"Roo&ts");
+    EXPECT_EQ(Lines(), Texts({u"Root: x = -2", u"Root: x = 2"}));
+    Results().setCurrentRow(1);
+    EXPECT_EQ(X().text(), "2");
+    EXPECT_EQ(Lines().size(), 2U) << "the findings stay while not tracing";
+    Trace().setChecked(true);
+    Results().setCurrentRow(0);
+    EXPECT_EQ(X().text(), "-2");
+    EXPECT_EQ(Lines(), Texts({u"R:F1(X) = 0"}));
   });
 }
 

@@ -68,16 +68,18 @@ constexpr std::array kCopyRows{
 struct RequestRow {
   GraphRequest request;
   std::u16string_view text;
+  const char* key;
 };
 constexpr std::array kRequestRows{
-    RequestRow{GraphRequest::Roots, kRootsEntry},
-    RequestRow{GraphRequest::Extrema, kExtremaEntry},
-    RequestRow{GraphRequest::Intersections, kIntersectionsEntry},
-    RequestRow{GraphRequest::Slope, kSlopeEntry},
-    RequestRow{GraphRequest::Area, kAreaEntry},
+    RequestRow{GraphRequest::Roots, kRootsEntry, "Ctrl+Shift+R"},
+    RequestRow{GraphRequest::Extrema, kExtremaEntry, "Ctrl+Shift+E"},
+    RequestRow{GraphRequest::Intersections, kIntersectionsEntry, "Ctrl+Shift+I"},
+    RequestRow{GraphRequest::Slope, kSlopeEntry, "Ctrl+Shift+S"},
+    RequestRow{GraphRequest::Area, kAreaEntry, "Ctrl+Shift+A"},
 };
 
 constexpr const char* kOptionsKey = "Ctrl+G";
+constexpr const char* kCopyPictureKey = "Ctrl+Shift+C";
 
 constexpr int kLinesOfResults = 3;
 
@@ -181,10 +183,13 @@ void CGraphView::MakeMenu() {
   options->setShortcut(QKeySequence(QLatin1String(kOptionsKey)));
   menu->addSeparator();
   for (const RequestRow& row : kRequestRows) {
-    menu->addAction(ToQt(row.text), this, [this, request = row.request] { Find(request); });
+    QAction* find =
+        menu->addAction(ToQt(row.text), this, [this, request = row.request] { Find(request); });
+    find->setShortcut(QKeySequence(QLatin1String(row.key)));
   }
   menu->addSeparator();
-  menu->addAction(ToQt(kCopyPictureEntry), this, [this] { CopyGraph(model_); });
+  QAction* copy = menu->addAction(ToQt(kCopyPictureEntry), this, [this] { CopyGraph(model_); });
+  copy->setShortcut(QKeySequence(QLatin1String(kCopyPictureKey)));
 }
 
 /// Shows what is found. A line that is chosen puts its x into the field.
