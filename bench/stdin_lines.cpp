@@ -196,7 +196,7 @@ int Compare(const std::string& kavcalc, const std::string& self, long lines, int
     if (contender.name == "kavcalc") ours = rate;
     if (contender.name == "bc -l") theirs = rate;
   }
-  std::system(("rm -r " + folder).c_str());
+  if (std::system(("rm -r " + folder).c_str()) != 0) return 2;
   if (!ours || !theirs) return 1;
   std::printf("kavcalc answers %.0f times as many lines a second as bc -l\n", *ours / *theirs);
   return *ours >= 20 * *theirs ? 0 : 1;
