@@ -17,7 +17,7 @@ namespace {
 
 /// The folder of the installed data, relative to that of the executable, so that an installation
 /// may stand anywhere.
-constexpr std::string_view kInstalledData = "/../share/kav-calculator";
+constexpr std::string_view kInstalledData = "share/kav-calculator";
 
 std::u16string Characters(std::string_view bytes) {
   std::u16string text(bytes.size(), u'\0');
@@ -115,7 +115,7 @@ std::vector<std::string> ConstantsFolders() {
   if (length <= 0) return {};
   const std::string_view path(executable.data(), static_cast<std::size_t>(length));
   const std::string folder(path.substr(0, std::max(path.rfind('/'), std::size_t{1})));
-  return {folder, folder + std::string(kInstalledData)};
+  return {folder, folder.substr(0, folder.rfind('/') + 1).append(kInstalledData)};
 }
 
 }  // namespace kav

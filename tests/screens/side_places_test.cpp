@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-namespace kav::side_places_test {
+namespace kav::test::side_places_test {
 namespace {
 
 struct Row {
@@ -46,4 +46,4 @@ TEST(SidePlaces, ASheetTakesAllThatIsNotBesideIt) {
 }
 
 }  // namespace
-}  // namespace kav::side_places_test
+}  // namespace kav::test::side_places_test
