@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionTab>
+#include <QStyleOptionViewItem>
 #include <QTableWidget>
 #include <algorithm>
 #include <cstdlib>
@@ -231,6 +232,62 @@ TEST(Look, ALineAsWideAsAWindowHasTheCornersOfAKey) {
   };
   EXPECT_EQ(corner(340), ColourNow(Colour::Base));
   EXPECT_EQ(corner(1280), ColourNow(Colour::Base));
+}
+
+TEST_P(LookIn, ALineHasOneOutline) {
+  LineView line(nullptr);
+  Wear(line, Attire::Window);
+  line.resize(1000, 240);
+  line.SetTextHeight(120);
+  const QImage picture = line.grab().toImage();
+  // Its thickness at the side, and along the corner, where another one would look out.
+  const int side = Count(picture, QRect(0, 120, 40, 1), Colour::Mid);
+  EXPECT_EQ(side, 4) << "a sixtieth of the height";
+  int corner = 0;
+  for (int at = 0; at < 40; ++at) {
+    corner += picture.pixelColor(at, at) == ColourNow(Colour::Mid);
+  }
+  EXPECT_LE(corner, side);
+  EXPECT_EQ(Count(picture, QRect(20, 20, 40, 40), Colour::Base), 1600);
+}
+
+TEST(Look, ALineBesideKeysHasCornersAsRound) {
+  LineView line(nullptr);
+  Wear(line, Attire::Window);
+  line.resize(200, 86);
+  const QImage picture = line.grab().toImage();
+  EXPECT_EQ(picture.pixelColor(2, 2), ColourNow(Colour::Window));
+}
+
+TEST_P(LookIn, TheFocusOfARowLeavesItsLettersAsTheyAre) {
+  QStyleOptionViewItem row;
+  row.rect = QRect(0, 0, 300, 1);
+  row.font = ScreenFont(40);
+  row.fontMetrics = QFontMetrics(row.font);
+  row.palette = ScreenPalette();
+  row.state = QStyle::State_Enabled | QStyle::State_Active | QStyle::State_Selected;
+  row.features = QStyleOptionViewItem::HasDisplay;
+  row.showDecorationSelected = true;
+  row.text = "MMM";
+  const auto inkIn = [&row](int beside) {
+    QImage picture(row.rect.size(), QImage::Format_RGB32);
+    QPainter painter(&picture);
+    ScreenStyle()->drawControl(QStyle::CE_ItemViewItem, &row, &painter);
+    return Count(picture, row.rect.adjusted(beside, 0, -beside, 0), Colour::HighlightedText);
+  };
+  const int room = row.fontMetrics.height();
+  for (const int height : {room, 2 * room}) {
+    row.rect.setHeight(height);
+    row.state.setFlag(QStyle::State_HasFocus, false);
+    const int letters = inkIn(0);
+    EXPECT_GT(letters, 20);
+    EXPECT_EQ(inkIn(8), letters) << "they stand within";
+    row.state.setFlag(QStyle::State_HasFocus);
+    EXPECT_GT(inkIn(0), letters + height) << "a mark tells where the keys work";
+    // Above and below the letters only where there is room.
+    if (height == room) EXPECT_EQ(inkIn(8), letters);
+    if (height != room) EXPECT_GE(inkIn(8), letters + 2 * (row.rect.width() - 16));
+  }
 }
 
 TEST(Look, TheArrowsOfAScrollBarGrowWithTheLetters) {

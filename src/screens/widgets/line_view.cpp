@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyleOption>
 #include <algorithm>
 #include <utility>
 
@@ -50,6 +51,14 @@ class SelectionKeeper {
   int length_;
 };
 
+/// How round the corners of a line are: as those of the keys in the portrait area, or in a wide
+/// window of one as high. A line that shares its row with keys is as high as they are.
+double CornerIn(const QSize& size) {
+  constexpr int kNarrow = 3;
+  if (size.width() < kNarrow * size.height()) return size.height() * 0.14;
+  return std::min(size.width() * 0.014, size.height() * 0.2);
+}
+
 }  // namespace
 
 LineView::LineView(QWidget* parent) : QLineEdit(parent) {
@@ -68,13 +77,18 @@ double LineView::FocusLine() const {
   return 2 * std::max(1.0, height() / 60.0);
 }
 
+void LineView::initStyleOption(QStyleOptionFrame* option) const {
+  QLineEdit::initStyleOption(option);
+  // The outline of other fields has other corners, and would look out from under this one.
+  option->features |= QStyleOptionFrame::Flat;
+}
+
 void LineView::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const double line = FocusLine() / (hasFocus() ? 1 : 2);
-  // That of the keys: of those in the portrait area, or in a wide window of one as high.
-  const double radius = std::min(width() * 0.014, height() * 0.2);
+  const double radius = CornerIn(size());
   const QRectF outline = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
   QPainterPath corners;
   corners.addRect(rect());

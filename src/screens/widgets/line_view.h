@@ -27,6 +27,7 @@ class LineView : public QLineEdit {
   /// How thick the outline is that shows the focus.
   double FocusLine() const;
 
+  void initStyleOption(QStyleOptionFrame* option) const override;
   void paintEvent(QPaintEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;

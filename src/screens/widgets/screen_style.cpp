@@ -174,10 +174,11 @@ class TextMeasuredStyle final : public QProxyStyle {
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
     if (DrawOutlined(element, *option, *painter)) return;
-    if (element != PE_PanelLineEdit) {
-      return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_PanelLineEdit) return DrawPanel(*option, *painter);
+    if (element == PE_FrameFocusRect && option->state.testFlag(State_Item)) {
+      return DrawRowFocus(*option, *painter);
     }
-    DrawField(*option, *painter);
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
 
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -265,16 +266,47 @@ class TextMeasuredStyle final : public QProxyStyle {
     QProxyStyle::drawControl(CE_ComboBoxLabel, &shown, painter, widget);
   }
 
+  /// Marks the row of a list that the keys work on: around its letters, or where it is no higher
+  /// than they are, beside them. The desktop's own mark is a veil over them.
+  static void DrawRowFocus(const QStyleOption& option, QPainter& painter) {
+    const int text = option.fontMetrics.height();
+    const int line = std::max(1, text / 20);
+    const bool isSelected = option.state.testFlag(State_Selected);
+    const QColor colour =
+        option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Highlight);
+    // Clear of the edge of a selected row, beyond which the paper may have the same colour.
+    const QRect outer = option.rect.adjusted(line, line, -line, -line);
+    const bool isHigh = option.rect.height() >= text + 6 * line;
+    const int side = isHigh ? line : 2 * line;
+    painter.fillRect(QRect(outer.left(), outer.top(), side, outer.height()), colour);
+    painter.fillRect(QRect(outer.right() + 1 - side, outer.top(), side, outer.height()), colour);
+    if (!isHigh) return;
+    painter.fillRect(QRect(outer.left(), outer.top(), outer.width(), line), colour);
+    painter.fillRect(QRect(outer.left(), outer.bottom() + 1 - line, outer.width(), line), colour);
+  }
+
+  /// The box of a line, or the paper alone of one that outlines itself.
+  static void DrawPanel(const QStyleOption& option, QPainter& painter) {
+    const auto* panel = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+    const bool isFlat = panel != nullptr && panel->features.testFlag(QStyleOptionFrame::Flat);
+    if (!isFlat) return DrawField(option, painter);
+    painter.fillRect(option.rect, PaperOf(option));
+  }
+
+  static QColor PaperOf(const QStyleOption& option) {
+    const bool isEnabled = option.state.testFlag(State_Enabled);
+    return option.palette.color(isEnabled ? QPalette::Base : QPalette::Window);
+  }
+
   /// The box of what is typed or chosen.
   static void DrawField(const QStyleOption& option, QPainter& painter) {
     const int text = option.fontMetrics.height();
     const bool hasFocus = option.state.testFlag(State_HasFocus);
     const double line = std::max(1.0, text / 20.0) * (hasFocus ? 2 : 1);
     const QRectF outline = QRectF(option.rect).adjusted(line / 2, line / 2, -line / 2, -line / 2);
-    const auto role = option.state.testFlag(State_Enabled) ? QPalette::Base : QPalette::Window;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(option.palette.color(role));
+    painter.setBrush(PaperOf(option));
     painter.setPen(
         QPen(option.palette.color(hasFocus ? QPalette::Highlight : QPalette::Mid), line));
     painter.drawRoundedRect(outline, text * 0.2, text * 0.2);
