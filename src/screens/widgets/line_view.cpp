@@ -51,12 +51,11 @@ class SelectionKeeper {
   int length_;
 };
 
-/// How round the corners of a line are: as those of the keys in the portrait area, or in a wide
-/// window of one as high. A line that shares its row with keys is as high as they are.
-double CornerIn(const QSize& size) {
-  constexpr int kNarrow = 3;
-  if (size.width() < kNarrow * size.height()) return size.height() * 0.14;
-  return std::min(size.width() * 0.014, size.height() * 0.2);
+/// How round the corners of a line are: as those of the keys in the portrait area, also where the
+/// line is a part of it, or in a wide window as those of a key as high as the line.
+double CornerOf(const QWidget& line) {
+  const int area = PortraitArea(line.window()->size()).width();
+  return std::min(std::max(line.width(), area) * 0.014, line.height() * 0.2);
 }
 
 }  // namespace
@@ -88,7 +87,7 @@ void LineView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const double line = FocusLine() / (hasFocus() ? 1 : 2);
-  const double radius = CornerIn(size());
+  const double radius = CornerOf(*this);
   const QRectF outline = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
   QPainterPath corners;
   corners.addRect(rect());
