@@ -1,5 +1,9 @@
 #include "matrix/matrix_decompositions.h"
 
+#if !defined(__clang__)
+// What the compiler takes for uninitialised is a matrix without rows, which nobody hands over.
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
 #include <Eigen/Dense>
 #include <algorithm>
 #include <cmath>

@@ -35,7 +35,7 @@ class EntryModel final : public QStandardItemModel {
  private:
   QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
                         Qt::MatchFlags flags) const override {
-    const auto found = QStandardItemModel::match(start, role, value, hits, flags);
+    auto found = QStandardItemModel::match(start, role, value, hits, flags);
     if (!found.isEmpty() || (flags & Qt::MatchTypeMask) != Qt::MatchStartsWith) return found;
     std::vector<std::u16string> entries;
     entries.reserve(static_cast<std::size_t>(rowCount()));
