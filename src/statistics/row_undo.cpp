@@ -91,10 +91,10 @@ void RowUndo::AfterSorting() {
     return std::holds_alternative<ReplaceRows>(step.back);
   });
   const auto sinceThen = replaced.base() - done_.begin();
-  const auto needsNoPlace = [](const Step& step) {
-    return std::holds_alternative<PutRowBack>(step.back);
+  const auto needsPlace = [](const Step& step) {
+    return !std::holds_alternative<PutRowBack>(step.back);
   };
-  done_.erase(std::stable_partition(replaced.base(), done_.end(), needsNoPlace), done_.end());
+  done_.erase(std::remove_if(replaced.base(), done_.end(), needsPlace), done_.end());
   std::for_each(done_.begin() + sinceThen, done_.end(),
                 [](Step& step) { step.beside.sorted.reset(); });
 }
